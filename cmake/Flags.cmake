@@ -1,0 +1,15 @@
+# Flags that every target of the project shares: warnings, sanitizers, language level.
+add_library(mortane_flags INTERFACE)
+target_compile_features(mortane_flags INTERFACE cxx_std_20)
+target_include_directories(mortane_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
+target_compile_options(mortane_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wold-style-cast)
+if(MORTANE_WERROR)
+  target_compile_options(mortane_flags INTERFACE -Werror)
+endif()
+if(MORTANE_SANITIZE)
+  target_compile_options(mortane_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(mortane_flags INTERFACE -fsanitize=address,undefined)
+endif()

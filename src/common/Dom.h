@@ -1,0 +1,79 @@
+// A small XML document for settings files and benches.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct _xmlDoc;
+struct _xmlNode;
+
+namespace mortane {
+
+struct DomAttribute {
+  std::string name;
+  std::string value;
+};
+
+// A node of a DomDocument, which owns it. Cheap to copy; valid as long as the document lives.
+// Text and comments are nodes too; they have no attributes.
+class DomNode {
+ public:
+  DomNode() = default;
+  explicit DomNode(_xmlNode* node) : node_(node) {}
+
+  bool IsElement() const;
+  std::string Name() const;
+  // In the order of the file, values whole: no blank is trimmed.
+  std::vector<DomAttribute> Attributes() const;
+  std::vector<DomNode> Children() const;
+
+  // Attributes are written in the order in which they were set first.
+  void SetAttribute(std::string_view name, std::string_view value);
+  // Appends a node that DomDocument::CreateElement made.
+  void Append(DomNode child);
+
+ private:
+  friend class DomDocument;
+  _xmlNode* node_ = nullptr;
+};
+
+// Reads UTF-8, UTF-16 and declared encodings, with or without a byte-order mark. Refuses what
+// is not well formed; follows nothing outside the file and expands no entity bombs.
+// Writes UTF-8 without a declaration and without white space of its own: the same content
+// always gives the same bytes.
+class DomDocument {
+ public:
+  DomDocument();
+  ~DomDocument();
+  DomDocument(DomDocument&&) noexcept;
+  DomDocument& operator=(DomDocument&&) noexcept;
+
+  // Replaces the content. False, with an empty document, when the file cannot be read or is
+  // not well formed.
+  bool Load(const std::string& path);
+  bool LoadText(std::string_view bytes);
+
+  // Why the last Load answered false: one line for a person.
+  const std::string& Problem() const { return problem_; }
+
+  DomNode CreateElement(std::string_view name);
+  void Append(DomNode root);
+  std::vector<DomNode> Children() const;
+
+  // Raises a Failure when the content holds characters that XML cannot, or when writing fails;
+  // the file that was there is then still whole.
+  void Save(const std::string& path) const;
+  std::string ToText() const;
+
+ private:
+  struct Free {
+    void operator()(_xmlDoc* document) const;
+  };
+  std::unique_ptr<_xmlDoc, Free> document_;
+  std::vector<_xmlNode*> loose_;  // created and not appended yet
+  std::string problem_;
+};
+
+}  // namespace mortane

@@ -1,0 +1,90 @@
+// The one way from the core to the person at the microscope.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace mortane {
+
+// Styles of a message box, added up: a button set and an icon.
+namespace box {
+inline constexpr int kOk = 0;
+inline constexpr int kOkCancel = 1;
+inline constexpr int kYesNo = 4;
+inline constexpr int kCancelTryContinue = 6;
+inline constexpr int kCritical = 16;
+inline constexpr int kQuestion = 32;
+inline constexpr int kExclamation = 48;
+inline constexpr int kInformation = 64;
+}  // namespace box
+
+// The button that ended a box; the values are those of the platform's message box.
+enum class Answer {
+  TimedOut = 0,
+  Ok = 1,
+  Cancel = 2,
+  Yes = 6,
+  No = 7,
+  TryAgain = 10,
+  Continue = 11,
+};
+
+enum class Pointer { Default = 0, Hourglass = 11 };
+
+// What a file dialog is to ask. `flags` are the common dialog's: 4 hide read-only, 2 overwrite
+// prompt, 2048 path must exist, 4096 file must exist. `filter` is "label|pattern".
+struct FileQuestion {
+  int flags = 0;
+  std::string filter;
+  std::string defaultExtension;
+};
+inline constexpr int kFileOpenFlags = 6148;
+inline constexpr int kFileSaveFlags = 2050;
+
+// The program shows real boxes; tests use a double that fails on a question nobody scripted.
+// All calls come from the user-interface thread. An empty caption means the application's title.
+class Prompts {
+ public:
+  virtual ~Prompts() = default;
+
+  virtual Answer MsgBox(const std::string& text, int style, const std::string& caption = {}) = 0;
+
+  // A box that closes itself after `milliseconds` and then answers TimedOut, also when the
+  // person was quicker than the closing. `helpFile` and `context` are taken and not used.
+  virtual Answer TimedMsgBox(int milliseconds, const std::string& prompt, int style,
+                             const std::string& title, const std::string& helpFile = {},
+                             int context = 0) = 0;
+
+  // The chosen path, or an empty text when the person gave none. Dialogs start with no name.
+  virtual std::string AskFileToOpen(const FileQuestion& question) = 0;
+  virtual std::string AskFileToSave(const FileQuestion& question) = 0;
+
+  // Every Hourglass is followed by one Default.
+  virtual void SetPointer(Pointer pointer) = 0;
+
+  // Drops the mouse and keyboard input that is queued, so that clicks made during a long
+  // operation do not fire after it.
+  virtual void FlushInput() = 0;
+
+  // A plain sleep; the program does not answer meanwhile.
+  virtual void Wait(int milliseconds) = 0;
+
+  // A transfer has finished `done` of `total` units; done == total ends the showing.
+  virtual void ShowProgress(int done, int total) = 0;
+};
+
+// Shows the hourglass for its lifetime.
+class HourglassScope {
+ public:
+  explicit HourglassScope(Prompts& prompts) : prompts_(prompts) {
+    prompts_.SetPointer(Pointer::Hourglass);
+  }
+  ~HourglassScope() { prompts_.SetPointer(Pointer::Default); }
+  HourglassScope(const HourglassScope&) = delete;
+  HourglassScope& operator=(const HourglassScope&) = delete;
+
+ private:
+  Prompts& prompts_;
+};
+
+}  // namespace mortane

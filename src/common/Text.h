@@ -1,0 +1,33 @@
+// UTF-8 text as the whole core holds it: lengths and cuts count characters, never bytes.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace mortane {
+
+// Reports and boxes break lines so on every platform; widgets convert when they show them.
+inline constexpr std::string_view kLineBreak = "\r\n";
+
+// Number of characters. A byte that is no valid UTF-8 counts as one character.
+std::size_t CharacterCount(std::string_view text);
+
+// The first (last) `count` characters, or all of a shorter text. Never splits a character.
+std::string FirstCharacters(std::string_view text, std::size_t count);
+std::string LastCharacters(std::string_view text, std::size_t count);
+
+// Blanks are the character 32 alone: tabs and line ends belong to a name.
+std::string Trim(std::string_view text);
+std::string RightTrim(std::string_view text);
+
+// ASCII folding, so that no locale (Turkish, for one) changes what a file means.
+bool EqualsIgnoringCase(std::string_view left, std::string_view right);
+
+// The text up to its first NUL character; the whole text when it has none.
+std::string TruncateAtNul(std::string_view text);
+
+// Joins the lines of a report: an empty side gives the other, two texts get one line break.
+std::string AppendLine(std::string_view list, std::string_view line);
+
+}  // namespace mortane

@@ -1,0 +1,11 @@
+#include "controller/Devices.h"
+
+namespace mortane::controller {
+
+std::optional<TurretPosition> TurretWalk::Next() const {
+  const Value item = Call("Next");
+  if (std::holds_alternative<std::monostate>(item)) return std::nullopt;
+  return TurretPosition(ToObject(item));
+}
+
+}  // namespace mortane::controller

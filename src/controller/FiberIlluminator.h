@@ -1,0 +1,30 @@
+// The fiber illuminator's own server, members in its order.
+#pragma once
+
+#include "controller/Proxy.h"
+
+namespace mortane::controller {
+
+class FiberServer : public Proxy {
+ public:
+  using Proxy::Proxy;
+  // Whether the server has its device.
+  bool IsOpen() const { return GetBoolean("IsOpen"); }
+  // Connects, waiting so many milliseconds; Status() tells how it ended.
+  void Open(std::int32_t timeoutMs) const { Call("Open", {timeoutMs}); }
+  void Close() const { Call("Close"); }
+  std::int32_t Status() const { return GetLong("Status"); }
+};
+
+class FiberRemote : public Proxy {
+ public:
+  using Proxy::Proxy;
+  // The remote's switch: 0 off, 1 on.
+  std::int32_t SwitchEnable() const { return GetLong("SwitchEnable"); }
+  void PutSwitchEnable(std::int32_t on) const { Put("SwitchEnable", on); }
+  // 0 off, 1 dark, 2 bright.
+  std::int32_t LED() const { return GetLong("LED"); }
+  void PutLED(std::int32_t state) const { Put("LED", state); }
+};
+
+}  // namespace mortane::controller
