@@ -1,0 +1,68 @@
+// The frame of the settings file: the sections, the elements in them, and who handles each.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/Dom.h"
+
+namespace mortane {
+
+// A section's place in this table is its file item.
+struct FileSection {
+  std::string_view element;
+  std::string_view label;  // in the dialog that lets the user choose
+};
+
+inline constexpr std::string_view kSettingsRoot = "Setup";
+
+inline constexpr std::array<FileSection, 8> kFileSections{{
+    {"SYSTEM", "System"},
+    {"NOSEPIECE", "Objective"},
+    {"FILTER", "Filter Cube"},
+    {"CONDENSER", "Condenser"},
+    {"INTERLOCK", "InterLock"},
+    {"CONTROL", "Control"},
+    {"SWITCH", "K70 SW Function"},
+    {"TACTOR", "Tactor SW Function"},
+}};
+
+namespace fileitem {
+inline constexpr std::size_t kSystem = 0;
+inline constexpr std::size_t kNosepiece = 1;
+inline constexpr std::size_t kFilter = 2;
+inline constexpr std::size_t kCondenser = 3;
+inline constexpr std::size_t kInterlock = 4;
+inline constexpr std::size_t kControl = 5;
+inline constexpr std::size_t kSwitch = 6;
+inline constexpr std::size_t kTactor = 7;
+}  // namespace fileitem
+
+// How an element's name in a file is compared with the table's.
+enum class NameMatch { IgnoringCase, Exact };
+
+// An element of a section. Several rows may share one writer: only the first has it.
+struct FileElement {
+  std::size_t fileItem;
+  std::string_view name;
+  NameMatch match;
+  std::function<std::string(DomNode)> read;          // gives the lines of what was refused
+  std::function<void(DomDocument&, DomNode)> write;  // may be empty
+};
+
+// Rows in the order of writing.
+using FileTable = std::vector<FileElement>;
+
+// The row of a unit that follows the pattern ReadDom, WriteDom.
+template <typename Unit>
+FileElement MakeFileElement(std::size_t fileItem, std::string_view name, Unit& unit) {
+  return {fileItem, name, NameMatch::IgnoringCase,
+          [&unit](DomNode node) { return unit.ReadDom(node); },
+          [&unit](DomDocument& document, DomNode parent) { unit.WriteDom(document, parent); }};
+}
+
+}  // namespace mortane

@@ -1,0 +1,117 @@
+// The one model of the microscope: its connection, what is fitted, and its configuration units.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/ConnectedMicroscope.h"
+#include "model/SettingsFile.h"
+#include "model/Transfers.h"
+#include "model/clsMutex.h"
+
+namespace mortane {
+
+// A running program has one, reached through GetK70. Failures of the controller become boxes
+// and lines of reports; only ReadMicVer, the first step of Modify, and file readers whose data
+// make a conversion fail raise a Failure to the caller.
+class clsK70 : public ConnectedMicroscope {
+ public:
+  // Creates the controller's root and lets it list its devices. A failure is shown, and every
+  // later use of the controller fails in its own way.
+  clsK70(controller::ControllerLibrary& library, Prompts& prompts);
+
+  // Disconnects a connected device in silence and lets go of its name.
+  ~clsK70();
+
+  // The system name as last read or edited; a controller holds 15 characters of it.
+  std::string SystemName;
+
+  // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;
+  // others read 0 and store nothing.
+  std::int16_t FileItem(std::int16_t pos) const;
+  void FileItem(std::int16_t pos, std::int16_t value);
+
+  // Takes the exclusive use of device `Name`, letting go of the one held before. False when
+  // another process holds it. Raises error 52 when the system refuses the name.
+  bool CreateConnectionName(const std::string& Name);
+  void DeleteConnectionName();
+
+  // Entries of the device list, simulator included; 0 after a failure, which is shown.
+  std::int32_t DeviceCount();
+  // Name of an entry; empty after a failure, which is shown.
+  std::string DeviceName(std::int32_t index);
+
+  // Connects and detects what is fitted. A failure after the device answered leaves the answer
+  // true and lConnectDevice at -1.
+  bool Connect(std::int32_t DeviceNo);
+  void Disconnect();
+
+  // All units from the controller, all to the controller, and the list of what would change.
+  // Failures of units are shown once, at the end, and stop nothing.
+  void Receive();
+  void Send();
+  std::string Modify();
+
+  // Sections of a settings file: which are there, reading the wanted ones, writing all.
+  void ReadXMLItems(const std::string& fname);
+  void ReadXML(const std::string& fname);
+  void WriteXML(const std::string& fname);
+  // A file of the hand controller's settings alone.
+  void Tactor_ReadXML(const std::string& fname);
+  void Tactor_WriteXML(const std::string& fname);
+
+  // The report of what is fitted and what is not, for the user.
+  std::string GetAccessories();
+
+ private:
+  // The count of a turret's addresses: 0 when the accessory is not mounted.
+  struct Turret {
+    std::int32_t accessory;
+    controller::TurretPositions (*positions)(const controller::Microscope&);
+    std::string_view failureLabel;
+    std::vector<std::int32_t*> counts;  // members of units that keep it
+  };
+
+  void CreateRoot();
+  void FillTables();
+  controller::DeviceEntry Entry() const;
+  std::string DeviceNameOf(std::int32_t index) const;
+  std::int32_t TurretCount(const Turret& turret) const;
+  void FixTurretSizes();
+  void CheckAccessories();
+  void DetectControllers();
+  void DetectAccessories();
+  void SetMounted(std::int32_t accessory, std::int32_t value);
+
+  std::string ReadSystemName();
+  std::string WriteSystemName();
+  std::string ReadTurretCounts();
+  void Progress(std::size_t unitsDone) const;
+
+  std::optional<DomNode> LoadSettings(const std::string& fname, DomDocument& document);
+  std::string ReadSection(std::size_t fileItem, const DomNode& section);
+  std::string ReadSystemElement(const DomNode& element);
+  void WriteSection(std::size_t fileItem, DomDocument& document, DomNode& root) const;
+  void SaveSections(const std::string& fname, std::size_t first, std::string_view failureText);
+
+  controller::ControllerLibrary& library_;
+  std::array<std::int16_t, 10> fileItems_{};
+  std::unique_ptr<clsMutex> mutex_;
+  TransferTable transfers_;
+  FileTable fileTable_;
+  std::array<Turret, 3> turrets_;
+};
+
+// The one instance, made on the first call from what ProvideK70 was given; it lives until
+// ReleaseK70, which the program calls before its toolkit ends.
+clsK70& GetK70();
+void ProvideK70(controller::ControllerLibrary& library, Prompts& prompts);
+void ReleaseK70();
+
+}  // namespace mortane

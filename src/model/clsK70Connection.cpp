@@ -1,0 +1,153 @@
+// Connecting, and what is found out while connecting.
+#include "common/Text.h"
+#include "model/AccessoryTable.h"
+#include "model/clsK70.h"
+
+namespace mortane {
+namespace {
+
+// Conditions on the flags of the controller units: 1 must answer, 0 must not, -1 either.
+struct TypeRow {
+  std::int32_t type;
+  std::array<int, 7> units;
+};
+
+constexpr std::array<TypeRow, 7> kTypeTable{{
+    {0, {1, 0, 0, -1, -1, -1, -1}},
+    {1, {0, 1, 0, -1, -1, -1, -1}},
+    {2, {0, 0, 1, -1, -1, -1, -1}},
+    {3, {1, 1, 0, -1, -1, -1, -1}},
+    {4, {1, 0, 1, -1, -1, -1, -1}},
+    {5, {0, 0, 0, -1, -1, 1, 0}},
+    {6, {0, 0, 0, -1, -1, 1, 1}},
+}};
+
+bool Matches(const TypeRow& row, const std::array<bool, 7>& answering) {
+  for (std::size_t i = 0; i < answering.size(); ++i) {
+    if (row.units[i] >= 0 && (row.units[i] == 1) != answering[i]) return false;
+  }
+  return true;
+}
+
+// Which entry of a list of `count` a device index names. The index `count` itself is one too
+// many and stays so: asking for it fails.
+std::int32_t EntryIndex(std::int32_t index, std::int32_t count) {
+  if (count == 1 || index == 0 || index > count) return 0;
+  return index < 0 ? 1 : index;
+}
+
+}  // namespace
+
+controller::DeviceEntry clsK70::Entry() const {
+  return Mic.DeviceList().Item(lConnectDevice);
+}
+
+std::int32_t clsK70::DeviceCount() {
+  try {
+    return Mic.DeviceList().Count();
+  } catch (const Failure& failure) {
+    prompts().MsgBox(OperationError("DeviceCount", failure), box::kOk);
+    return 0;
+  }
+}
+
+std::string clsK70::DeviceName(std::int32_t index) {
+  try {
+    return DeviceNameOf(index);
+  } catch (const Failure& failure) {
+    prompts().MsgBox(OperationError("DeviceName", failure), box::kOk);
+    return {};
+  }
+}
+
+std::string clsK70::DeviceNameOf(std::int32_t index) const {
+  const controller::DeviceList list = Mic.DeviceList();
+  return list.Item(EntryIndex(index, list.Count())).Name();
+}
+
+bool clsK70::Connect(std::int32_t DeviceNo) {
+  bool connected = false;
+  try {
+    const std::int32_t count = Mic.DeviceList().Count();
+    lConnectDevice = count == 1 ? 0 : DeviceNo >= 0 ? DeviceNo : 1;
+    if (count >= 3) CreateRoot();  // with several microscopes each connection gets a fresh root
+    Mic.PutCurrentDevice(Entry());
+    Entry().Connect();
+    connected = true;
+    SystemName = DeviceName(lConnectDevice);
+    CheckAccessories();
+    FixTurretSizes();
+  } catch (const Failure&) {
+    lConnectDevice = -1;
+  }
+  return connected;
+}
+
+void clsK70::Disconnect() {
+  try {
+    DeleteConnectionName();
+    if (lConnectDevice > -1) Entry().Disconnect();
+    lConnectDevice = -1;
+  } catch (const Failure& failure) {
+    prompts().MsgBox(OperationError("Disconnect", failure), box::kOk);
+  }
+}
+
+std::int32_t clsK70::TurretCount(const Turret& turret) const {
+  return IsMounted(turret.accessory) == kNotMounted ? 0 : turret.positions(Mic).Count();
+}
+
+// A turret without addresses counts as not mounted from here on.
+void clsK70::FixTurretSizes() {
+  for (const Turret& turret : turrets_) {
+    const std::int32_t count = TurretCount(turret);
+    for (std::int32_t* stored : turret.counts) *stored = count;
+    if (count == 0) SetMounted(turret.accessory, kNotMounted);
+  }
+}
+
+void clsK70::CheckAccessories() {
+  mounted_.fill(kNotMounted);
+  controllers_.fill(false);
+  try {
+    DetectControllers();
+    DetectAccessories();
+  } catch (const Failure& failure) {
+    prompts().MsgBox(OperationError("CheckAccessories", failure), box::kOk);
+  }
+}
+
+void clsK70::DetectControllers() {
+  for (std::size_t i = 0; i < controllers_.size(); ++i) {
+    controllers_[i] = Mic.ControllerPresent(static_cast<std::int32_t>(i) + 1) == 1;
+  }
+  // Flags that no row knows leave the type of the device before.
+  for (const TypeRow& row : kTypeTable) {
+    if (Matches(row, controllers_)) curType = row.type;
+  }
+}
+
+void clsK70::DetectAccessories() {
+  for (const AccessoryRow& row : kAccessoryTable) {
+    if (Mic.Accessory(row.device).AccessoryState().State() != 1) continue;
+    const controller::StateValue state = Mic.Accessory(row.device).StateMember(row.stateMember);
+    SetMounted(row.number, state.IsReadOnly() ? kSensorOnly : kControllable);
+  }
+}
+
+void clsK70::SetMounted(std::int32_t accessory, std::int32_t value) {
+  mounted_[static_cast<std::size_t>(accessory - 1)] = value;
+}
+
+std::string clsK70::GetAccessories() {
+  std::string mounted = "Mounted Accessories" + std::string(kLineBreak);
+  std::string notMounted = "Not Mounted Accessories" + std::string(kLineBreak);
+  for (const AccessoryRow* row : AccessoriesInReportOrder()) {
+    const std::int32_t value = IsMounted(row->number);
+    std::string& list = value == kNotMounted ? notMounted : mounted;
+    list.append("\t").append(ReportLabel(*row, value)).append(kLineBreak);
+  }
+  return mounted + std::string(kLineBreak) + notMounted;
+}
+
+}  // namespace mortane

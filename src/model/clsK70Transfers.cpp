@@ -1,0 +1,83 @@
+// Receive, Send and Modify: three walks over the one table of units.
+#include "common/Text.h"
+#include "model/clsK70.h"
+
+namespace mortane {
+namespace {
+
+// What a controller stores of the system name.
+constexpr std::size_t kSystemNameLength = 15;
+
+}  // namespace
+
+void clsK70::Receive() {
+  std::string failures = ReadSystemName();
+  ErrorTrap trap;
+  for (std::size_t i = 0; i < transfers_.size(); ++i) {
+    Progress(i);
+    trap.Run([&] { failures = AppendLine(failures, transfers_[i].read()); });
+  }
+  failures = AppendLine(failures, ReadTurretCounts());
+  Progress(transfers_.size() + 1);
+  if (!failures.empty()) prompts().MsgBox(failures, box::kCritical);
+}
+
+void clsK70::Send() {
+  std::string failures = WriteSystemName();
+  ErrorTrap trap;
+  for (std::size_t i = 0; i < transfers_.size(); ++i) {
+    Progress(i);
+    trap.Run([&] {
+      if (transfers_[i].gate()) failures = AppendLine(failures, transfers_[i].write());
+    });
+  }
+  Progress(transfers_.size() + 1);
+  if (!failures.empty()) prompts().MsgBox(failures, box::kCritical, "Send");
+}
+
+std::string clsK70::Modify() {
+  std::string differences;
+  std::string failures;
+  if (Entry().Name() != SystemName) differences = "SystemName:" + SystemName;
+  for (const TransferStep& step : transfers_) {
+    if (step.gate()) failures = AppendLine(failures, step.modify(differences));
+  }
+  if (!failures.empty()) prompts().MsgBox(failures, box::kCritical, "Modify");
+  return differences;
+}
+
+std::string clsK70::ReadSystemName() {
+  ErrorTrap trap;
+  trap.Run([this] { SystemName = Entry().Name(); });
+  return trap.TakeFailed() ? "System Name" : "";
+}
+
+std::string clsK70::WriteSystemName() {
+  ErrorTrap trap;
+  trap.Run([this] {
+    if (Entry().Name() != SystemName) {
+      Mic.PutSystemName(FirstCharacters(SystemName, kSystemNameLength));
+    }
+  });
+  return trap.TakeFailed() ? "System Name" : "";
+}
+
+// Unlike Connect, a turret that lost its addresses stays mounted.
+std::string clsK70::ReadTurretCounts() {
+  std::string failures;
+  ErrorTrap trap;
+  for (const Turret& turret : turrets_) {
+    std::int32_t count = 0;
+    trap.Run([&] { count = TurretCount(turret); });
+    if (trap.TakeFailed()) failures = AppendLine(failures, turret.failureLabel);
+    for (std::int32_t* stored : turret.counts) *stored = count;
+  }
+  return failures;
+}
+
+// The system name counts as a step before the units.
+void clsK70::Progress(std::size_t unitsDone) const {
+  prompts().ShowProgress(static_cast<int>(unitsDone), static_cast<int>(transfers_.size()) + 1);
+}
+
+}  // namespace mortane

@@ -1,0 +1,26 @@
+// Exclusive use of a device among the processes of a machine.
+#pragma once
+
+#include <string>
+
+#include "platform/NamedMutex.h"
+
+namespace mortane {
+
+// Holds at most one name. The use is exclusive by the name's existence: nobody owns the mutex,
+// and LockMutex and UnlockMutex serve those who want to wait for one another.
+class clsMutex {
+ public:
+  // True for the first holder of the name, false when another holds it already. Raises error 55
+  // while a name is held, error 52 when the system refuses the name.
+  bool Create(const std::string& name);
+  void Delete();
+  void LockMutex(int dwMilliseconds);
+  void UnlockMutex();
+
+ private:
+  NamedMutex handle_;
+  bool held_ = false;
+};
+
+}  // namespace mortane
