@@ -29,7 +29,8 @@ class DomNode {
   std::vector<DomAttribute> Attributes() const;
   std::vector<DomNode> Children() const;
 
-  // Attributes are written in the order in which they were set first.
+  // Attributes are written in the order in which they were set first. Raises a Failure for a
+  // name that is none in XML and for a value with characters that XML cannot hold.
   void SetAttribute(std::string_view name, std::string_view value);
   // Appends a node that DomDocument::CreateElement made.
   void Append(DomNode child);
@@ -40,7 +41,8 @@ class DomNode {
 };
 
 // Reads UTF-8, UTF-16 and declared encodings, with or without a byte-order mark. Refuses what
-// is not well formed; follows nothing outside the file and expands no entity bombs.
+// is not well formed, declared entities and attribute defaults (both can make a small file fill
+// the memory); follows nothing outside the file.
 // Writes UTF-8 without a declaration and without white space of its own: the same content
 // always gives the same bytes.
 class DomDocument {
@@ -58,12 +60,12 @@ class DomDocument {
   // Why the last Load answered false: one line for a person.
   const std::string& Problem() const { return problem_; }
 
+  // Raises a Failure for a name that is none in XML.
   DomNode CreateElement(std::string_view name);
   void Append(DomNode root);
   std::vector<DomNode> Children() const;
 
-  // Raises a Failure when the content holds characters that XML cannot, or when writing fails;
-  // the file that was there is then still whole.
+  // Raises a Failure when writing fails; the file that was there is then still whole.
   void Save(const std::string& path) const;
   std::string ToText() const;
 
@@ -71,8 +73,10 @@ class DomDocument {
   struct Free {
     void operator()(_xmlDoc* document) const;
   };
+  void FreeLoose() noexcept;
+
   std::unique_ptr<_xmlDoc, Free> document_;
-  std::vector<_xmlNode*> loose_;  // created and not appended yet
+  std::vector<_xmlNode*> loose_;  // all that CreateElement made; those with a parent belong to it
   std::string problem_;
 };
 

@@ -1,0 +1,141 @@
+#include "common/DomParser.h"
+
+#include <libxml/parser.h>
+#include <libxml/xmlerror.h>
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+#include "platform/AtomicFile.h"
+
+namespace mortane {
+namespace {
+
+// No network, and nothing substituted; without XML_PARSE_HUGE the library's limits on depth and
+// on the length of a text hold.
+constexpr int kParseOptions =
+    XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
+
+struct FreeContext {
+  void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+};
+
+// Gathers the first thing that makes a document unusable, from the parser and from the
+// conversion of its encoding alike, and keeps all messages from libxml2's standard error.
+class ErrorCollector {
+ public:
+  ErrorCollector() : oldContext_(xmlStructuredErrorContext), oldHandler_(xmlStructuredError) {
+    xmlSetStructuredErrorFunc(this, &Collect);
+  }
+  ~ErrorCollector() { xmlSetStructuredErrorFunc(oldContext_, oldHandler_); }
+  ErrorCollector(const ErrorCollector&) = delete;
+  ErrorCollector& operator=(const ErrorCollector&) = delete;
+
+  const std::string& Problem() const { return problem_; }
+
+  void Refuse(int line, const std::string& reason) {
+    if (problem_.empty()) problem_ = "line " + std::to_string(line) + ": " + reason;
+  }
+
+ private:
+  // A prefix that nobody declared is a fault of name spaces only: the document is well formed.
+  static void Collect(void* self, xmlErrorPtr error) {
+    const bool fatal = error->level == XML_ERR_FATAL ||
+                       (error->level == XML_ERR_ERROR &&
+                        (error->domain == XML_FROM_I18N || error->domain == XML_FROM_IO));
+    if (!fatal) return;
+    std::string reason = error->message == nullptr ? "" : error->message;
+    reason.resize(std::min(reason.find_first_of("\r\n"), reason.size()));
+    static_cast<ErrorCollector*>(self)->Refuse(error->line, reason);
+  }
+
+  void* oldContext_;
+  xmlStructuredErrorFunc oldHandler_;
+  std::string problem_;
+};
+
+void Refuse(void* parser, const char* reason) {
+  auto* context = static_cast<xmlParserCtxt*>(parser);
+  const int line = context->input == nullptr ? 0 : context->input->line;
+  static_cast<ErrorCollector*>(context->_private)->Refuse(line, reason);
+  xmlStopParser(context);
+}
+
+void RefuseEntity(void* parser, const xmlChar*, int, const xmlChar*, const xmlChar*, xmlChar*) {
+  Refuse(parser, "entities are not taken");
+}
+
+void RefuseUnparsedEntity(void* parser, const xmlChar*, const xmlChar*, const xmlChar*,
+                          const xmlChar*) {
+  Refuse(parser, "entities are not taken");
+}
+
+// Asked for all but the five predefined ones. Without a declaration there is no text to put in
+// its place, and a value with a gap would be worse than none.
+xmlEntityPtr RefuseReference(void* parser, const xmlChar*) {
+  Refuse(parser, "entities are not taken");
+  return nullptr;
+}
+
+// Default values multiply with the elements, so that a small file can fill the memory with them.
+void RefuseAttributeDefault(void* parser, const xmlChar*, const xmlChar*, int, int, const xmlChar*,
+                            xmlEnumerationPtr values) {
+  xmlFreeEnumeration(values);
+  Refuse(parser, "attribute declarations are not taken");
+}
+
+// Bytes of a character in the encoding that the first bytes of a document show.
+std::size_t UnitWidth(std::string_view bytes) {
+  using namespace std::string_view_literals;
+  for (const std::string_view mark : {"\xFF\xFE\0\0"sv, "\0\0\xFE\xFF"sv, "<\0\0\0"sv, "\0\0\0<"sv})
+    if (bytes.starts_with(mark)) return 4;
+  for (const std::string_view mark : {"\xFF\xFE"sv, "\xFE\xFF"sv, "<\0"sv, "\0<"sv})
+    if (bytes.starts_with(mark)) return 2;
+  return 1;
+}
+
+// libxml2 takes a NUL after the root for the end of the document.
+bool HoldsNul(std::string_view bytes) {
+  const std::size_t width = UnitWidth(bytes);
+  if (width == 1) return bytes.find('\0') != std::string_view::npos;
+  const std::string nul(width, '\0');
+  for (std::size_t offset = 0; offset + width <= bytes.size(); offset += width)
+    if (bytes.substr(offset, width) == nul) return true;
+  return false;
+}
+
+bool HoldsUnreadBytes(const xmlParserCtxt& context) {
+  const xmlParserInputBuffer* buffer = context.input == nullptr ? nullptr : context.input->buf;
+  return buffer != nullptr && buffer->raw != nullptr && xmlBufUse(buffer->raw) > 0;
+}
+
+}  // namespace
+
+_xmlDoc* ParseXml(std::string_view bytes, std::string& problem) {
+  if (bytes.empty()) problem = "the document is empty";
+  if (bytes.size() > kLargestFile) problem = "the document is too large";
+  if (problem.empty() && HoldsNul(bytes)) problem = "the document holds a NUL character";
+  if (!problem.empty()) return nullptr;
+
+  ErrorCollector errors;
+  const std::unique_ptr<xmlParserCtxt, FreeContext> context(xmlNewParserCtxt());
+  if (context == nullptr) throw std::bad_alloc();
+  context->_private = &errors;
+  context->sax->getEntity = &RefuseReference;
+  context->sax->entityDecl = &RefuseEntity;
+  context->sax->unparsedEntityDecl = &RefuseUnparsedEntity;
+  context->sax->attributeDecl = &RefuseAttributeDefault;
+  xmlDoc* document = xmlCtxtReadMemory(context.get(), bytes.data(), static_cast<int>(bytes.size()),
+                                       nullptr, nullptr, kParseOptions);
+  problem = errors.Problem();
+  // Half a character at the end of the file never reaches the parser.
+  const bool cut = document != nullptr && HoldsUnreadBytes(*context);
+  if (cut && problem.empty()) problem = "the document ends within a character";
+  if (document == nullptr && problem.empty()) problem = "the document is not well formed";
+  if (problem.empty()) return document;
+  xmlFreeDoc(document);
+  return nullptr;
+}
+
+}  // namespace mortane

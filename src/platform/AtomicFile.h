@@ -1,0 +1,25 @@
+// Whole files in one step: read into memory, and replaced so that a reader never meets a half.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace mortane {
+
+// The number of the Failures raised here; their description names the path and the system's reason.
+inline constexpr std::int32_t kFileError = 57;
+
+// No file of ours comes near this size; what does is refused before it fills the memory.
+inline constexpr std::size_t kLargestFile = std::size_t{64} * 1024 * 1024;
+
+// Raises a Failure for what is missing, unreadable, larger than `limit`, or no regular file.
+std::string ReadWholeFile(const std::string& utf8Path, std::size_t limit = kLargestFile);
+
+// Writes a file beside the target, flushes it to the disk and renames it over the target, whose
+// permissions stay; a symbolic link is followed. Raises a Failure when a step fails: the target
+// is then as it was. A process killed at any moment leaves the old content or the new.
+void WriteFileAtomically(const std::string& utf8Path, std::string_view bytes);
+
+}  // namespace mortane

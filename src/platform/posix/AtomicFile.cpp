@@ -1,0 +1,158 @@
+#include "platform/AtomicFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#include "common/Failure.h"
+#include "platform/posix/Descriptor.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kLongestLinkChain = 40;
+constexpr int kTemporaryNames = 1000;
+
+[[noreturn]] void RaiseFileFailure(std::string_view attempt, const std::string& path,
+                                   const std::string& reason) {
+  RaiseOwnFailure(kFileError, "Cannot " + std::string(attempt) + " " + path + ": " + reason);
+}
+
+[[noreturn]] void RaiseFileFailure(std::string_view attempt, const std::string& path, int error) {
+  RaiseFileFailure(attempt, path, std::generic_category().message(error));
+}
+
+// The file that a write to `path` ends in; also when the last link dangles.
+std::string FollowLinks(const std::string& path) {
+  std::filesystem::path target = path;
+  std::error_code error;
+  for (int link = 0; std::filesystem::is_symlink(target, error); ++link) {
+    if (link == kLongestLinkChain) RaiseFileFailure("write", path, ELOOP);
+    const std::filesystem::path next = std::filesystem::read_symlink(target, error);
+    if (error) RaiseFileFailure("write", path, error.message());
+    target = target.parent_path() / next;
+  }
+  return target.string();
+}
+
+// What stands at the target now; nothing when the save makes a new file. A device or a folder
+// must not be renamed over, and a file that may not be written must not be replaced either.
+std::optional<struct stat> CheckTarget(const std::string& target) {
+  struct stat status {};
+  if (::stat(target.c_str(), &status) != 0) {
+    if (errno == ENOENT) return std::nullopt;
+    RaiseFileFailure("write", target, errno);
+  }
+  if (S_ISDIR(status.st_mode)) RaiseFileFailure("write", target, EISDIR);
+  if (!S_ISREG(status.st_mode)) RaiseFileFailure("write", target, "not a regular file");
+  if (::access(target.c_str(), W_OK) != 0) RaiseFileFailure("write", target, errno);
+  return status;
+}
+
+// A file of its own beside the target, removed again unless it was renamed.
+class Temporary {
+ public:
+  explicit Temporary(const std::string& target) : target_(target) {
+    const std::filesystem::path folder = std::filesystem::path(target).parent_path();
+    for (int number = 0; number < kTemporaryNames; ++number) {
+      const std::string name =
+          ".mortane-" + std::to_string(::getpid()) + "-" + std::to_string(number) + ".tmp";
+      path_ = (folder / name).string();
+      file_ = Descriptor(::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+      if (file_.IsOpen()) return;
+      if (errno != EEXIST) break;
+    }
+    RaiseFileFailure("write", target_, errno);
+  }
+  ~Temporary() {
+    if (!path_.empty()) ::unlink(path_.c_str());
+  }
+  Temporary(const Temporary&) = delete;
+  Temporary& operator=(const Temporary&) = delete;
+
+  void TakePermissions(const struct stat& status) {
+    // Only a privileged user can give a file away; for others it stays their own, as any editor's.
+    if (::fchown(file_.Get(), status.st_uid, status.st_gid) != 0 && errno != EPERM) Raise();
+    if (::fchmod(file_.Get(), status.st_mode & 07777U) != 0) Raise();
+  }
+
+  void Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const ssize_t written = ::write(file_.Get(), bytes.data(), bytes.size());
+      if (written < 0) {
+        if (errno == EINTR) continue;
+        Raise();
+      }
+      bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    if (::fsync(file_.Get()) != 0) Raise();
+    if (!file_.Close()) Raise();
+  }
+
+  void RenameToTarget() {
+    if (::rename(path_.c_str(), target_.c_str()) != 0) Raise();
+    path_.clear();
+    FlushFolder();
+  }
+
+ private:
+  [[noreturn]] void Raise() const { RaiseFileFailure("write", target_, errno); }
+
+  // Some file systems refuse to flush a folder; the new file is whole all the same.
+  void FlushFolder() const {
+    std::filesystem::path folder = std::filesystem::path(target_).parent_path();
+    if (folder.empty()) folder = ".";
+    const Descriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (open.IsOpen()) static_cast<void>(::fsync(open.Get()));
+  }
+
+  std::string target_;
+  std::string path_;
+  Descriptor file_;
+};
+
+}  // namespace
+
+std::string ReadWholeFile(const std::string& utf8Path, std::size_t limit) {
+  // Without O_NONBLOCK, opening a pipe would wait for its writer.
+  const Descriptor file(::open(utf8Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (!file.IsOpen()) RaiseFileFailure("read", utf8Path, errno);
+  struct stat status {};
+  if (::fstat(file.Get(), &status) != 0) RaiseFileFailure("read", utf8Path, errno);
+  if (S_ISDIR(status.st_mode)) RaiseFileFailure("read", utf8Path, EISDIR);
+  if (!S_ISREG(status.st_mode)) RaiseFileFailure("read", utf8Path, "not a regular file");
+
+  std::string bytes;
+  const auto expected = static_cast<std::size_t>(status.st_size);
+  if (expected > limit) RaiseFileFailure("read", utf8Path, EFBIG);
+  // One byte more than expected, so that the end shows without a second growth.
+  bytes.resize(expected + 1);
+  std::size_t size = 0;
+  for (;;) {
+    const ssize_t count = ::read(file.Get(), bytes.data() + size, bytes.size() - size);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) RaiseFileFailure("read", utf8Path, errno);
+    if (count == 0) break;
+    size += static_cast<std::size_t>(count);
+    if (size > limit) RaiseFileFailure("read", utf8Path, EFBIG);
+    if (size == bytes.size()) bytes.resize(2 * size);
+  }
+  bytes.resize(size);
+  return bytes;
+}
+
+void WriteFileAtomically(const std::string& utf8Path, std::string_view bytes) {
+  const std::string target = FollowLinks(utf8Path);
+  const std::optional<struct stat> existing = CheckTarget(target);
+  Temporary temporary(target);
+  if (existing) temporary.TakePermissions(*existing);
+  temporary.Write(bytes);
+  temporary.RenameToTarget();
+}
+
+}  // namespace mortane
