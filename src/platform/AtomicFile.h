@@ -8,7 +8,8 @@
 
 namespace mortane {
 
-// The number of the Failures raised here; their description names the path and the system's reason.
+// The numbers of the Failures raised here; their description names the path and the reason.
+inline constexpr std::int32_t kMissingFileError = 53;
 inline constexpr std::int32_t kFileError = 57;
 
 // No file of ours comes near this size; what does is refused before it fills the memory.

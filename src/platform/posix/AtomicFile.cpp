@@ -19,12 +19,13 @@ constexpr int kLongestLinkChain = 40;
 constexpr int kTemporaryNames = 1000;
 
 [[noreturn]] void RaiseFileFailure(std::string_view attempt, const std::string& path,
-                                   const std::string& reason) {
-  RaiseOwnFailure(kFileError, "Cannot " + std::string(attempt) + " " + path + ": " + reason);
+                                   const std::string& reason, std::int32_t number = kFileError) {
+  RaiseOwnFailure(number, "Cannot " + std::string(attempt) + " " + path + ": " + reason);
 }
 
 [[noreturn]] void RaiseFileFailure(std::string_view attempt, const std::string& path, int error) {
-  RaiseFileFailure(attempt, path, std::generic_category().message(error));
+  RaiseFileFailure(attempt, path, std::generic_category().message(error),
+                   error == ENOENT ? kMissingFileError : kFileError);
 }
 
 // The file that a write to `path` ends in; also when the last link dangles.

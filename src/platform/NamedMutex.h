@@ -1,0 +1,36 @@
+// A name that one holder on this machine can have at a time.
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+namespace mortane {
+
+// Exclusive use rests on the name: whoever opens it first has it until it closes it or its
+// process ends, however it ends. Two objects in one process exclude each other too. Owning the
+// mutex (Lock, Unlock) is a thing apart and decides nothing about the name.
+class NamedMutex {
+ public:
+  enum class Opened { First, AlreadyExisted, Failed };
+
+  NamedMutex();
+  ~NamedMutex();  // closes
+  NamedMutex(const NamedMutex&) = delete;
+  NamedMutex& operator=(const NamedMutex&) = delete;
+
+  // Closes first what is still open. After First and AlreadyExisted the object is open.
+  Opened Open(std::string_view name);
+  void Close();
+  bool IsOpen() const;
+
+  // Waits to own the open mutex, for ever when `milliseconds` is negative; the outcome of the
+  // wait is not told. Both do nothing on a closed one.
+  void Lock(int milliseconds);
+  void Unlock();
+
+ private:
+  struct Handle;
+  std::unique_ptr<Handle> handle_;
+};
+
+}  // namespace mortane

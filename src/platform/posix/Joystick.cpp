@@ -1,0 +1,47 @@
+#include "platform/Joystick.h"
+
+#include <fcntl.h>
+#include <linux/joystick.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "platform/posix/Descriptor.h"
+
+namespace mortane {
+namespace {
+
+constexpr const char* kDevice = "/dev/input/js0";
+
+Descriptor OpenJoystick() {
+  return Descriptor(::open(kDevice, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+}
+
+// The device file comes and goes with the joystick; a file that cannot be used is the system's
+// fault and not the plug's.
+std::int32_t OpenError() {
+  return errno == ENOENT || errno == ENODEV || errno == ENXIO ? kJoystickUnplugged
+                                                              : kJoystickNoDriver;
+}
+
+}  // namespace
+
+JoystickCapabilities ReadJoystickCapabilities() {
+  const Descriptor joystick = OpenJoystick();
+  if (!joystick.IsOpen()) return {OpenError(), 0};
+  unsigned char buttons = 0;
+  if (::ioctl(joystick.Get(), JSIOCGBUTTONS, &buttons) < 0) return {kJoystickNoDriver, 0};
+  return {kJoystickOk, buttons};
+}
+
+std::int32_t ReadJoystickStatus() {
+  const Descriptor joystick = OpenJoystick();
+  if (!joystick.IsOpen()) return OpenError();
+  // The driver begins every stream with the present state of all axes and buttons.
+  struct js_event event {};
+  if (::read(joystick.Get(), &event, sizeof event) < 0 && errno != EAGAIN) return OpenError();
+  return kJoystickOk;
+}
+
+}  // namespace mortane
