@@ -1,0 +1,28 @@
+// One axis of a simulated drive on its way.
+#pragma once
+
+#include <cstdint>
+
+namespace mortane::controller {
+
+// 1 micrometre per millisecond, in steps of 0.05 micrometres.
+inline constexpr std::int64_t kStepsPerMillisecond = 20;
+
+class AxisMotion {
+ public:
+  bool IsMoving() const { return moving_; }
+  void Start(std::int32_t from, std::int32_t target, std::int64_t nowMs);
+  void Stop() { moving_ = false; }
+
+  std::int32_t Target() const { return target_; }
+  std::int64_t EndMs() const;
+  std::int32_t PositionAt(std::int64_t nowMs) const;
+
+ private:
+  bool moving_ = false;
+  std::int32_t from_ = 0;
+  std::int32_t target_ = 0;
+  std::int64_t startMs_ = 0;
+};
+
+}  // namespace mortane::controller

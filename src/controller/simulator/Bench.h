@@ -1,0 +1,171 @@
+// A bench: instruments as plain data, for the simulated controller library.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "controller/simulator/DatabaseData.h"
+
+namespace mortane::controller {
+
+// A controller unit, number 1 to 7. It answers when `present` is 1; other numbers than 0 and 1
+// are handed out as they stand.
+struct ControllerUnit {
+  std::int32_t present = 0;
+  std::string version;
+
+  bool operator==(const ControllerUnit&) const = default;
+};
+
+// 1 on, 0 off; the controller's codes are 1, 2, 5 and 6.
+struct BuzzerData {
+  std::int32_t body = 0;
+  std::int32_t hub = 0;
+  std::int32_t handController = 0;
+  std::int32_t fifthUnit = 0;
+
+  bool operator==(const BuzzerData&) const = default;
+};
+
+// 1 enabled, 0 disabled; the controller's units are 0, 4 and 7. LED: 0 off, 1 dark, 2 bright.
+struct SwitchData {
+  std::int32_t body = 0;
+  std::int32_t handController = 0;
+  std::int32_t remote = 0;
+  std::int32_t remoteLed = 0;
+
+  bool operator==(const SwitchData&) const = default;
+};
+
+// Numbers of the accessories.
+namespace accessory {
+inline constexpr int kNDFilter = 1;
+inline constexpr int kFieldStop = 2;
+inline constexpr int kApertureStop = 3;
+inline constexpr int kLamp = 4;
+inline constexpr int kCondenser = 5;
+inline constexpr int kFilterCube = 6;
+inline constexpr int kShutter = 7;
+inline constexpr int kAnalyzer = 8;
+inline constexpr int kNosepiece = 9;
+inline constexpr int kZoom = 10;
+inline constexpr int kLightPath = 11;
+inline constexpr int kZDrive = 12;
+inline constexpr int kEpiFieldStop = 13;
+inline constexpr int kXYDrive = 14;
+inline constexpr int kCount = 14;
+}  // namespace accessory
+
+// `state` is 1 when the accessory is fitted; one of state 0 answers nothing but that.
+// `value` is its position, voltage, path or magnification; the drives have their own.
+struct AccessoryData {
+  std::int32_t state = 0;
+  bool readOnly = false;
+  double value = 0;
+  std::int32_t offsetCode = 0;
+
+  bool operator==(const AccessoryData&) const = default;
+};
+
+struct TurretPlace {
+  std::int32_t position = 0;
+  std::int32_t code = 0;
+
+  bool operator==(const TurretPlace&) const = default;
+};
+
+using TurretPlaces = std::vector<TurretPlace>;
+
+// Positions in steps of 0.05 micrometres. Knob: 1 automatic, 0 manual; 1 coarse to 3 fine.
+// Compensation: 1 none, 2 absolute, 3 relative. Limits: 0 is 15 mm, 1 is 25 mm.
+struct ZDriveData {
+  std::int32_t position = 0;
+  std::int32_t knobAuto = 0;
+  std::int32_t knobSensitivity = 1;
+  std::int32_t moveProfile = 0;
+  std::int32_t moveOption = 0;
+  std::int32_t focusCompensation = 1;
+  std::int32_t lowerLimit = 0;
+  std::int32_t upperLimit = 0;
+
+  bool operator==(const ZDriveData&) const = default;
+};
+
+// As the Z drive. Handle: 0 right, 1 left.
+struct XYDriveData {
+  std::int32_t positionX = 0;
+  std::int32_t positionY = 0;
+  std::int32_t knobAuto = 0;
+  std::int32_t knobSensitivity = 1;
+  std::int32_t moveProfile = 0;
+  std::int32_t focusCompensation = 1;
+  std::int32_t handleMode = 0;
+
+  bool operator==(const XYDriveData&) const = default;
+};
+
+// What follows one accessory: by the triggers 1 observation, 2 optical zoom, 3 nosepiece,
+// 4 light path.
+using InterlockRow = std::array<std::int32_t, 4>;
+
+// Keys "1" to "G" of the body. Of the hand controller key "0", its mode, and "1" to "E".
+inline constexpr std::size_t kBodySwitches = 16;
+inline constexpr std::size_t kHandSwitches = 15;
+
+struct Instrument {
+  // The system name, up to 15 characters.
+  std::string name;
+  std::int32_t available = 1;
+  bool busyWhenConnected = false;  // not available while it is connected
+
+  std::array<ControllerUnit, 7> units;
+  BuzzerData buzzers;
+  SwitchData switches;
+  std::array<AccessoryData, accessory::kCount> accessories;
+  TurretPlaces nosepiece;
+  TurretPlaces filterCubes;
+  TurretPlaces condensers;
+  std::int32_t limitation = 0;
+  ZDriveData zDrive;
+  XYDriveData xyDrive;
+  std::array<InterlockRow, accessory::kCount> interlocks{};
+  std::int32_t escapeMode = 0;
+  std::array<std::string, kBodySwitches> bodySwitches;
+  std::array<std::string, kHandSwitches> handSwitches;
+  DatabaseData database;
+
+  // unit 1 to 7, accessory 1 to 14, trigger 1 to 4.
+  ControllerUnit& Unit(int unit) { return units.at(Slot(unit)); }
+  AccessoryData& Accessory(int number) { return accessories.at(Slot(number)); }
+  std::int32_t& Interlock(int item, int trigger) {
+    return interlocks.at(Slot(item)).at(Slot(trigger));
+  }
+
+  bool operator==(const Instrument&) const = default;
+
+ private:
+  static std::size_t Slot(int number) { return static_cast<std::size_t>(number) - 1; }
+};
+
+// The fiber illuminator's server. When it is not installed, its objects cannot be created.
+struct FiberData {
+  bool installed = false;
+  bool open = false;
+  bool opens = true;  // whether Open finds its device
+  std::int32_t status = 0;
+  std::int32_t switchEnable = 0;
+  std::int32_t led = 0;
+
+  bool operator==(const FiberData&) const = default;
+};
+
+// The instrument at index 0 is the simulator.
+struct Bench {
+  std::vector<Instrument> instruments;
+  FiberData fiber;
+
+  bool operator==(const Bench&) const = default;
+};
+
+}  // namespace mortane::controller

@@ -1,0 +1,125 @@
+#include "controller/simulator/DriveObjects.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "controller/simulator/AccessoryObjects.h"
+
+namespace mortane::controller {
+namespace {
+
+enum class Access { Read, Write, Both };
+
+template <typename Drive>
+struct FieldRow {
+  std::string_view member;
+  std::int32_t Drive::*field;
+  Access access;
+};
+
+constexpr std::array kZFields{
+    FieldRow<ZDriveData>{"KnobSensitivity", &ZDriveData::knobSensitivity, Access::Read},
+    FieldRow<ZDriveData>{"KnobAuto", &ZDriveData::knobAuto, Access::Both},
+    FieldRow<ZDriveData>{"MoveProfile", &ZDriveData::moveProfile, Access::Write},
+    FieldRow<ZDriveData>{"MoveOption", &ZDriveData::moveOption, Access::Write},
+    FieldRow<ZDriveData>{"FocusCompensation", &ZDriveData::focusCompensation, Access::Both},
+    FieldRow<ZDriveData>{"LowerLimit", &ZDriveData::lowerLimit, Access::Both},
+    FieldRow<ZDriveData>{"UpperLimit", &ZDriveData::upperLimit, Access::Read},
+};
+
+constexpr std::array kXYFields{
+    FieldRow<XYDriveData>{"KnobSensitivity", &XYDriveData::knobSensitivity, Access::Read},
+    FieldRow<XYDriveData>{"KnobAuto", &XYDriveData::knobAuto, Access::Both},
+    FieldRow<XYDriveData>{"MoveProfile", &XYDriveData::moveProfile, Access::Write},
+    FieldRow<XYDriveData>{"FocusCompensation", &XYDriveData::focusCompensation, Access::Both},
+    FieldRow<XYDriveData>{"HandleMode", &XYDriveData::handleMode, Access::Both},
+};
+
+template <typename Drive, std::size_t Count>
+void AddFields(MemberObject& object, const DeviceLink& link, int number, Drive Instrument::*drive,
+               const std::array<FieldRow<Drive>, Count>& rows) {
+  for (const FieldRow<Drive>& row : rows) {
+    if (row.access != Access::Write) {
+      object.OnGet(row.member, 0, [link, number, drive, field = row.field](Args) -> Value {
+        return link.Fitted(number).*drive.*field;
+      });
+    }
+    if (row.access != Access::Read) {
+      object.OnPut(row.member, 0,
+                   [link, number, drive, field = row.field](const Value& value, Args) {
+                     link.Assign(link.Fitted(number).*drive.*field, LongArgument(value));
+                   });
+    }
+  }
+}
+
+std::int32_t& PositionField(Instrument& device, Axis axis) {
+  if (axis == Axis::Z) return device.zDrive.position;
+  return axis == Axis::X ? device.xyDrive.positionX : device.xyDrive.positionY;
+}
+
+// The bench holds where an axis stands; it is brought up to date once a move has ended.
+void Arrive(const DeviceLink& link, Axis axis) {
+  AxisMotion& motion = link.Session().Motion(axis);
+  motion.Stop();
+  link.Assign(PositionField(link.Device(), axis), motion.Target());
+}
+
+std::int32_t CurrentPosition(const DeviceLink& link, Axis axis) {
+  AxisMotion& motion = link.Session().Motion(axis);
+  const std::int64_t now = link.State().clock.Now();
+  if (motion.IsMoving() && now < motion.EndMs()) return motion.PositionAt(now);
+  if (motion.IsMoving()) Arrive(link, axis);
+  return PositionField(link.Device(), axis);
+}
+
+void MoveTo(const DeviceLink& link, Axis axis, std::int32_t target) {
+  AxisMotion& motion = link.Session().Motion(axis);
+  motion.Start(CurrentPosition(link, axis), target, link.State().clock.Now());
+  if (!link.Session().asynchronous) Arrive(link, axis);
+}
+
+void AddAxis(MemberObject& object, const DeviceLink& link, int number, std::string_view member,
+             Axis axis) {
+  object
+      .OnGet(member, 0,
+             [link, number, axis](Args) -> Value {
+               link.Fitted(number);
+               return MakeStateValue(link, number, CurrentPosition(link, axis));
+             })
+      .OnPut(member, 0, [link, number, axis](const Value& value, Args) {
+        Commanded(link, number);
+        MoveTo(link, axis, LongArgument(value));
+      });
+}
+
+}  // namespace
+
+ObjectRef MakeZDrive(const DeviceLink& link) {
+  auto drive = std::make_shared<MemberObject>();
+  AddAccessoryState(*drive, link, accessory::kZDrive);
+  AddFields(*drive, link, accessory::kZDrive, &Instrument::zDrive, kZFields);
+  AddAxis(*drive, link, accessory::kZDrive, "Position", Axis::Z);
+  return drive;
+}
+
+ObjectRef MakeXYDrive(const DeviceLink& link) {
+  auto drive = std::make_shared<MemberObject>();
+  AddAccessoryState(*drive, link, accessory::kXYDrive);
+  AddFields(*drive, link, accessory::kXYDrive, &Instrument::xyDrive, kXYFields);
+  AddAxis(*drive, link, accessory::kXYDrive, "PositionX", Axis::X);
+  AddAxis(*drive, link, accessory::kXYDrive, "PositionY", Axis::Y);
+  return drive;
+}
+
+void FinishMoves(const DeviceLink& link) {
+  SimulatedClock& clock = link.State().clock;
+  for (const Axis axis : {Axis::Z, Axis::X, Axis::Y}) {
+    const AxisMotion& motion = link.Session().Motion(axis);
+    if (!motion.IsMoving()) continue;
+    clock.Advance(std::max<std::int64_t>(motion.EndMs() - clock.Now(), 0));
+    Arrive(link, axis);
+  }
+}
+
+}  // namespace mortane::controller

@@ -1,0 +1,44 @@
+// The instruments of the named benches, and what builds them.
+#pragma once
+
+#include <initializer_list>
+#include <string_view>
+
+#include "controller/simulator/Bench.h"
+
+namespace mortane::controller::rigs {
+
+Instrument Quay();        // the simulator: body, hub and hand controller, all fitted
+Instrument Harbour();     // body and hand controller, everything fitted and controllable
+Instrument Lantern();     // old body, no condenser, some accessories only sensed
+Instrument Hub();         // hub and hand controller without a body
+Instrument Pair();        // body and hub that disagree on the buzzer
+Instrument Outpost();     // the third unit alone
+Instrument Relay();       // body and third unit, a stage without a nosepiece
+Instrument Deck();        // the sixth unit alone
+Instrument DeckRemote();  // the same with the remote
+Instrument Watch();       // everything only sensed
+Instrument Shell();       // nothing answers
+Instrument Hollow();      // turrets without addresses
+Instrument Attic();       // odd values wherever a controller can hold one
+
+enum class Fit { Sensed, Controllable };
+
+// Makes these accessories, or all, fitted.
+void FitAccessories(Instrument& instrument, std::initializer_list<int> numbers, Fit fit);
+void FitAllAccessories(Instrument& instrument, Fit fit);
+
+void AddUnit(Instrument& instrument, int unit, std::string_view version);
+
+// Places from address 1, with these codes.
+TurretPlaces Places(std::initializer_list<std::int32_t> codes);
+
+// One character for each key, from the first.
+template <std::size_t Count>
+void SetSwitches(std::array<std::string, Count>& switches, std::string_view characters) {
+  for (std::size_t i = 0; i < Count && i < characters.size(); ++i) {
+    switches[i] = characters.substr(i, 1);
+  }
+}
+
+}  // namespace mortane::controller::rigs

@@ -1,0 +1,156 @@
+#include "controller/simulator/DatabaseContent.h"
+#include "controller/simulator/Rigs.h"
+
+namespace mortane::controller::rigs {
+namespace {
+
+constexpr int kBody = 1;
+constexpr int kHub = 2;
+constexpr int kThirdUnit = 3;
+constexpr int kHandController = 5;
+
+constexpr int kByObservation = 1;
+constexpr int kByZoom = 2;
+constexpr int kByNosepiece = 3;
+constexpr int kByLightPath = 4;
+
+// What leaves the works: the body's dials and switches, the hand controller in standard mode.
+constexpr std::string_view kBodyDefaults = "33406D5012BC9A78";
+constexpr std::string_view kHandDefaults = "0123P4Q5EF00000";
+
+Instrument WithBody(std::string name, std::string_view version) {
+  Instrument instrument;
+  instrument.name = std::move(name);
+  AddUnit(instrument, kBody, version);
+  SetSwitches(instrument.bodySwitches, kBodyDefaults);
+  instrument.database = OrdinaryDatabase();
+  return instrument;
+}
+
+void SetOrdinaryOffsets(Instrument& instrument) {
+  instrument.Accessory(accessory::kNDFilter).offsetCode = 5;
+}
+
+// Drives whose compensation and interlock agree, and a few interlocks of each kind.
+void SetRelativeCompensation(Instrument& instrument) {
+  instrument.zDrive.focusCompensation = 3;
+  instrument.xyDrive.focusCompensation = 3;
+  instrument.Interlock(accessory::kZDrive, kByNosepiece) = 1;
+  instrument.Interlock(accessory::kXYDrive, kByNosepiece) = 1;
+  instrument.Interlock(accessory::kLamp, kByObservation) = 1;
+  instrument.Interlock(accessory::kFilterCube, kByObservation) = 1;
+  instrument.Interlock(accessory::kCondenser, kByObservation) = 1;
+  instrument.Interlock(accessory::kNDFilter, kByNosepiece) = 1;
+  instrument.Interlock(accessory::kApertureStop, kByNosepiece) = 1;
+  instrument.Interlock(accessory::kEpiFieldStop, kByLightPath) = 1;
+  instrument.Interlock(accessory::kFieldStop, kByZoom) = 1;
+}
+
+}  // namespace
+
+Instrument Quay() {
+  constexpr std::string_view version = "vDEMO";
+  Instrument quay = WithBody("Lab 2 East", version);
+  AddUnit(quay, kHub, version);
+  AddUnit(quay, kHandController, version);
+  FitAllAccessories(quay, Fit::Controllable);
+  quay.Accessory(accessory::kLamp).value = 9;
+  quay.Accessory(accessory::kZoom).value = 1.5;
+  quay.nosepiece = Places({2, 5, 8, 12, 15, 241});
+  quay.filterCubes = Places({2, 3, 4, 6, 9, 1});
+  quay.condensers = Places({1, 2, 3, 9, 5, 6, 7});
+  quay.limitation = 12;
+  quay.escapeMode = 3;
+  SetRelativeCompensation(quay);
+  SetOrdinaryOffsets(quay);
+  quay.buzzers = {1, 1, 1, 0};
+  quay.switches.body = 1;
+  quay.switches.handController = 1;
+  quay.zDrive.position = 12000;
+  quay.zDrive.knobAuto = 1;
+  quay.xyDrive.positionX = 41500;
+  quay.xyDrive.positionY = -26800;
+  quay.xyDrive.knobSensitivity = 3;
+  // The knobs and the speed-change functions agree: only the stage knob has one.
+  SetSwitches(quay.bodySwitches, "OP406D5012BC9A78");
+  SetSwitches(quay.handSwitches, "1124PQ5DBCfghij");
+  return quay;
+}
+
+Instrument Harbour() {
+  Instrument harbour = WithBody("Harbour", "V1.31");
+  AddUnit(harbour, kHandController, "V1.30");
+  FitAllAccessories(harbour, Fit::Controllable);
+  harbour.nosepiece = Places({1, 4, 7, 10, 14, 18});
+  harbour.filterCubes = Places({2, 3, 5, 7, 8, 1});
+  harbour.condensers = Places({1, 2, 3, 4, 5, 6, 7});
+  harbour.limitation = 1;
+  harbour.escapeMode = 3;
+  SetRelativeCompensation(harbour);
+  SetOrdinaryOffsets(harbour);
+  harbour.buzzers.body = 1;
+  harbour.buzzers.handController = 1;
+  harbour.switches.body = 1;
+  harbour.switches.handController = 1;
+  SetSwitches(harbour.handSwitches, kHandDefaults);
+  return harbour;
+}
+
+Instrument Lantern() {
+  Instrument lantern = WithBody("Lantern", "V1.20");
+  FitAllAccessories(lantern, Fit::Controllable);
+  lantern.Accessory(accessory::kCondenser) = {};
+  lantern.Accessory(accessory::kEpiFieldStop) = {};
+  FitAccessories(lantern, {accessory::kLightPath, accessory::kZoom, accessory::kXYDrive},
+                 Fit::Sensed);
+  lantern.nosepiece = Places({1, 4, 7, 10, 14});
+  lantern.filterCubes = Places({2, 3, 5, 7, 1});
+  lantern.escapeMode = 1;
+  lantern.zDrive.knobSensitivity = 2;
+  lantern.zDrive.lowerLimit = 1;
+  lantern.zDrive.upperLimit = 0;
+  return lantern;
+}
+
+Instrument Pair() {
+  Instrument pair = WithBody("Pair", "V1.30");
+  AddUnit(pair, kHub, "V1.30");
+  FitAccessories(pair, {accessory::kNosepiece, accessory::kFilterCube, accessory::kXYDrive},
+                 Fit::Controllable);
+  FitAccessories(pair, {accessory::kZDrive, accessory::kCondenser}, Fit::Sensed);
+  pair.nosepiece = Places({1, 4, 7, 10, 14, 18, 20});
+  pair.filterCubes = Places({2, 3, 5, 7, 8, 4, 1});
+  pair.condensers = Places({1, 2, 3, 4, 5});
+  pair.buzzers.body = 1;
+  pair.xyDrive.knobAuto = 1;
+  return pair;
+}
+
+Instrument Relay() {
+  Instrument relay = WithBody("Relay", "V1.3");
+  AddUnit(relay, kThirdUnit, "V1.3");
+  AddUnit(relay, kHandController, "V1.3");
+  FitAccessories(relay, {accessory::kXYDrive, accessory::kZDrive}, Fit::Controllable);
+  FitAccessories(relay, {accessory::kCondenser}, Fit::Sensed);
+  relay.condensers = Places({1, 2, 3, 4, 5, 6, 7});
+  SetSwitches(relay.handSwitches, kHandDefaults);
+  return relay;
+}
+
+Instrument Watch() {
+  Instrument watch = WithBody("Watch", "V1.30");
+  FitAllAccessories(watch, Fit::Sensed);
+  watch.nosepiece = Places({1, 4, 7, 10, 14});
+  watch.filterCubes = Places({2, 3, 5, 7, 1});
+  watch.condensers = Places({1, 2, 3, 4, 5});
+  return watch;
+}
+
+Instrument Hollow() {
+  Instrument hollow = WithBody("Hollow", "V1.30");
+  FitAllAccessories(hollow, Fit::Controllable);
+  hollow.Accessory(accessory::kXYDrive) = {};
+  return hollow;
+}
+
+}  // namespace mortane::controller::rigs

@@ -1,0 +1,73 @@
+#include "controller/simulator/DatabaseContent.h"
+#include "controller/simulator/Rigs.h"
+
+namespace mortane::controller::rigs {
+namespace {
+
+constexpr int kHub = 2;
+constexpr int kThirdUnit = 3;
+constexpr int kHandController = 5;
+constexpr int kSixthUnit = 6;
+constexpr int kRemote = 7;
+
+Instrument WithUnit(std::string name, int unit) {
+  Instrument instrument;
+  instrument.name = std::move(name);
+  AddUnit(instrument, unit, "V1.30");
+  instrument.database = OrdinaryDatabase();
+  return instrument;
+}
+
+}  // namespace
+
+Instrument Hub() {
+  Instrument hub = WithUnit("Hub", kHub);
+  AddUnit(hub, kHandController, "V1.30");
+  FitAccessories(
+      hub,
+      {accessory::kFilterCube, accessory::kCondenser, accessory::kLightPath, accessory::kZoom,
+       accessory::kEpiFieldStop, accessory::kNDFilter, accessory::kFieldStop},
+      Fit::Controllable);
+  hub.filterCubes = Places({2, 3, 4, 5, 6, 7, 8, 9, 10, 1});
+  hub.condensers = Places({1, 2, 3, 4, 5, 6, 7});
+  // Objectives do not turn here: the dials drive cubes, zoom and field stop.
+  SetSwitches(hub.handSwitches, "0BCKL6ODMN00000");
+  return hub;
+}
+
+Instrument Outpost() {
+  Instrument outpost = WithUnit("Outpost", kThirdUnit);
+  FitAccessories(outpost, {accessory::kNosepiece}, Fit::Sensed);
+  FitAccessories(outpost, {accessory::kFilterCube, accessory::kZDrive}, Fit::Controllable);
+  outpost.nosepiece = Places({1, 4, 7, 10, 14, 18});
+  outpost.filterCubes = Places({2, 3, 5, 7, 8, 1});
+  return outpost;
+}
+
+Instrument Deck() {
+  Instrument deck = WithUnit("Deck", kSixthUnit);
+  FitAccessories(
+      deck, {accessory::kNosepiece, accessory::kFilterCube, accessory::kShutter, accessory::kLamp},
+      Fit::Controllable);
+  deck.nosepiece = Places({1, 4, 7, 10, 14, 18});
+  deck.filterCubes = Places({2, 3, 5, 7, 8, 1});
+  deck.buzzers.fifthUnit = 1;
+  return deck;
+}
+
+Instrument DeckRemote() {
+  Instrument deck = Deck();
+  deck.name = "DeckRemote";
+  AddUnit(deck, kRemote, "V1.30");
+  deck.switches.remote = 1;
+  deck.switches.remoteLed = 2;
+  return deck;
+}
+
+Instrument Shell() {
+  Instrument shell;
+  shell.name = "Shell";
+  return shell;
+}
+
+}  // namespace mortane::controller::rigs

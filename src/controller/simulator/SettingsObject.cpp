@@ -1,0 +1,64 @@
+#include "controller/simulator/SettingsObject.h"
+
+#include "common/DigitCode.h"
+
+namespace mortane::controller {
+namespace {
+
+constexpr std::int32_t kTriggers = 4;
+constexpr std::int32_t kBodyUnit = 0;
+constexpr std::int32_t kHandUnit = 4;
+
+std::int32_t& InterlockOf(const DeviceLink& link, Args args) {
+  const std::int32_t item = LongArgument(args[0]);
+  const std::int32_t trigger = LongArgument(args[1]);
+  if (item < 1 || item > accessory::kCount || trigger < 1 || trigger > kTriggers) {
+    RaiseSimulated("No interlock of " + std::to_string(item) + " by " + std::to_string(trigger) +
+                   ".");
+  }
+  return link.Connected().Interlock(item, trigger);
+}
+
+// Keys count from "1" on the body; the hand controller's key "0" is its mode.
+std::string& SwitchOf(const DeviceLink& link, Args args) {
+  const std::int32_t unit = LongArgument(args[0]);
+  const std::string key = TextArgument(args[1]);
+  const std::int32_t digit = key.size() == 1 ? CharToDigit(key) : -1;
+  Instrument& device = link.Connected();
+  if (unit == kBodyUnit && digit >= 1 && digit <= std::int32_t{kBodySwitches}) {
+    return device.bodySwitches[static_cast<std::size_t>(digit) - 1];
+  }
+  if (unit == kHandUnit && digit >= 0 && digit < std::int32_t{kHandSwitches}) {
+    return device.handSwitches[static_cast<std::size_t>(digit)];
+  }
+  RaiseSimulated("Unit " + std::to_string(unit) + " has no switch \"" + key + "\".");
+}
+
+}  // namespace
+
+ObjectRef MakeControllerSettings(const DeviceLink& link) {
+  auto settings = std::make_shared<MemberObject>();
+  const auto setInterlock = [link](std::int32_t state) {
+    return [link, state](Args args) -> Value {
+      link.Assign(InterlockOf(link, args), state);
+      return {};
+    };
+  };
+  settings->OnCall("SetInterlock", 2, setInterlock(1))
+      .OnCall("ClearInterlock", 2, setInterlock(0))
+      .OnGet("Interlock", 2, [link](Args args) -> Value { return InterlockOf(link, args); })
+      .OnGet("EscapeMode", 0, [link](Args) -> Value { return link.Connected().escapeMode; })
+      .OnPut("EscapeMode", 0,
+             [link](const Value& value, Args) {
+               link.Assign(link.Connected().escapeMode, LongArgument(value));
+             })
+      .OnCall("SetSwitchFunction", 3,
+              [link](Args args) -> Value {
+                link.Assign(SwitchOf(link, args), TextArgument(args[2]));
+                return {};
+              })
+      .OnGet("SwitchFunction", 2, [link](Args args) -> Value { return SwitchOf(link, args); });
+  return settings;
+}
+
+}  // namespace mortane::controller

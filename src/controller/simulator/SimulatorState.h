@@ -1,0 +1,76 @@
+// What all objects of one simulated library share: the bench and what goes on on it.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "controller/simulator/AxisMotion.h"
+#include "controller/simulator/Bench.h"
+#include "controller/simulator/MemberObject.h"
+#include "controller/simulator/SimulatedClock.h"
+
+namespace mortane::controller {
+
+enum class Axis { Z, X, Y };
+
+// One device as it is used now; nothing of this is bench data.
+struct DeviceSession {
+  bool connected = false;
+  bool asynchronous = false;
+  std::array<AxisMotion, 3> axes;
+
+  AxisMotion& Motion(Axis axis) { return axes.at(static_cast<std::size_t>(axis)); }
+};
+
+struct SimulatorState {
+  Bench bench;
+  SimulatedClock clock;
+  std::map<int, DeviceSession> sessions;
+  std::function<void(const Bench&)> onChange;
+  int createdRoots = 0;
+  int releasedRoots = 0;
+
+  void Changed() const {
+    if (onChange) onChange(bench);
+  }
+
+  // Sets a field of the bench and tells the listener when that changed it.
+  template <typename Field>
+  void Assign(Field& field, const Field& value) const {
+    if (field == value) return;
+    field = value;
+    Changed();
+  }
+};
+
+using SimulatorRef = std::shared_ptr<SimulatorState>;
+
+// The way of an object to its device. The bench may be changed under it at any time.
+class DeviceLink {
+ public:
+  DeviceLink(SimulatorRef state, int index) : state_(std::move(state)), index_(index) {}
+
+  SimulatorState& State() const { return *state_; }
+  int Index() const { return index_; }
+  DeviceSession& Session() const { return state_->sessions[index_]; }
+
+  // Fails when the bench has no such device (any more).
+  Instrument& Device() const;
+  // Fails unless the device is connected.
+  Instrument& Connected() const;
+  // Fails unless that accessory is fitted as well.
+  Instrument& Fitted(int accessoryNumber) const;
+
+  template <typename Field>
+  void Assign(Field& field, const Field& value) const {
+    state_->Assign(field, value);
+  }
+
+ private:
+  SimulatorRef state_;
+  int index_;
+};
+
+}  // namespace mortane::controller
