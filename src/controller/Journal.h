@@ -1,0 +1,52 @@
+// A journal of what passes between the program and a controller library.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "controller/Decorator.h"
+
+namespace mortane::controller {
+
+// Lines, in order:
+//   a value read          NosepieceDevice.Positions(3).Code -> 12
+//   a value written       NosepieceDevice.Positions(3).Code = 14
+//   a call                ControllerSettings.SetInterlock(4, 1)
+//   a call with a result  QueryCommand("rONR1") -> "ONR1210FA0C63B63"
+//   a failure             the left side of these, then " ! LIB:80004005"
+// Steps from object to object leave a line only when they fail. A state value leaves its line
+// when its number is taken, as often as that is done.
+class Journal {
+ public:
+  const std::vector<std::string>& Lines() const { return lines_; }
+  // Only the lines of writes and of calls that command, whether they failed or not.
+  const std::vector<std::string>& Writes() const { return writes_; }
+  // Calls of every kind, steps from object to object and creation included; taking the number
+  // of a state value is none.
+  std::size_t CallCount() const { return callCount_; }
+  void Clear();
+
+ private:
+  friend class JournalLibrary;
+  void Add(const CallSite& site, const std::string& rest);
+
+  std::vector<std::string> lines_;
+  std::vector<std::string> writes_;
+  std::size_t callCount_ = 0;
+};
+
+class JournalLibrary : public DecoratedLibrary {
+ public:
+  JournalLibrary(ControllerLibrary& inner, Journal& journal)
+      : DecoratedLibrary(inner), journal_(journal) {}
+
+ protected:
+  Value Around(const CallSite& site, const std::function<Value()>& proceed) override;
+  void TookNumber(const std::string& path, const Value& number) override;
+
+ private:
+  Journal& journal_;
+};
+
+}  // namespace mortane::controller

@@ -1,0 +1,10 @@
+#include "controller/Latency.h"
+
+namespace mortane::controller {
+
+Value LatencyLibrary::Around(const CallSite& /*site*/, const std::function<Value()>& proceed) {
+  beforeEachCall_();
+  return proceed();
+}
+
+}  // namespace mortane::controller

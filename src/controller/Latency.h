@@ -1,0 +1,24 @@
+// A controller library whose calls take time.
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "controller/Decorator.h"
+
+namespace mortane::controller {
+
+// Runs the given function before each call, creation included: a sleep, or a clock that goes on.
+class LatencyLibrary : public DecoratedLibrary {
+ public:
+  LatencyLibrary(ControllerLibrary& inner, std::function<void()> beforeEachCall)
+      : DecoratedLibrary(inner), beforeEachCall_(std::move(beforeEachCall)) {}
+
+ protected:
+  Value Around(const CallSite& site, const std::function<Value()>& proceed) override;
+
+ private:
+  std::function<void()> beforeEachCall_;
+};
+
+}  // namespace mortane::controller
