@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-struct _xmlDoc;
-struct _xmlNode;
+struct _xmlDoc;   // NOLINT(bugprone-reserved-identifier): the name that libxml2 gives it
+struct _xmlNode;  // NOLINT(bugprone-reserved-identifier)
 
 namespace mortane {
 

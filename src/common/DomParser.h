@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-struct _xmlDoc;
+struct _xmlDoc;  // NOLINT(bugprone-reserved-identifier): the name that libxml2 gives it
 
 namespace mortane {
 

@@ -1,0 +1,32 @@
+// The attributes of one element of a settings file, found without regard to case.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/Dom.h"
+
+namespace mortane {
+
+// Of attributes that differ in case alone the last one counts.
+class ElementFields {
+ public:
+  // What Number answers for an attribute that is not there.
+  static constexpr std::int32_t kAbsent = -1;
+
+  explicit ElementFields(const DomNode& node) : attributes_(node.Attributes()) {}
+
+  // Empty when there is no such attribute.
+  std::string Text(std::string_view name) const;
+  // kAbsent when there is no such attribute, 0 when its text is no number.
+  std::int32_t Number(std::string_view name) const;
+
+ private:
+  const DomAttribute* Find(std::string_view name) const;
+
+  std::vector<DomAttribute> attributes_;
+};
+
+}  // namespace mortane

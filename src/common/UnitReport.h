@@ -1,0 +1,62 @@
+// How the operations of a configuration unit turn failures into the lines of their result.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "common/Failure.h"
+#include "common/Text.h"
+
+namespace mortane {
+
+// Runs the statement; answers the unit's line when it fails, an empty text otherwise.
+template <typename Statement>
+std::string FailureOf(std::string_view opening, Statement&& statement) {
+  try {
+    std::forward<Statement>(statement)();
+    return {};
+  } catch (const Failure& failure) {
+    return FailureLine(opening, failure);
+  }
+}
+
+// Runs `collect` with a text for its lines. What it has collected joins `list` also when it
+// fails; the failure's line is the answer.
+template <typename Collect>
+std::string CollectDifferences(std::string& list, std::string_view opening, Collect&& collect) {
+  std::string lines;
+  std::string failure = FailureOf(opening, [&] { std::forward<Collect>(collect)(lines); });
+  list = AppendLine(list, lines);
+  return failure;
+}
+
+// The lines of a write that goes on after a failure.
+class WriteReport {
+ public:
+  // `opening` begins the line of a failure that no item can be named for.
+  explicit WriteReport(std::string_view opening) : opening_(opening) {}
+
+  void Add(std::string_view line) { lines_ = AppendLine(lines_, line); }
+
+  // Runs a step that adds the lines of its items itself. What else fails in it becomes one line,
+  // however many steps fail so: a controller that went away would fill the screen.
+  template <typename Step>
+  void Run(Step&& step) {
+    const std::string failure = FailureOf(opening_, std::forward<Step>(step));
+    if (!failure.empty() && !std::exchange(failed_, true)) Add(failure);
+  }
+
+  const std::string& Lines() const { return lines_; }
+
+ private:
+  std::string_view opening_;
+  std::string lines_;
+  bool failed_ = false;
+};
+
+// "Nosepiece[" and 3 give "Nosepiece[3]".
+inline std::string ItemLine(std::string_view label, std::int32_t number) {
+  return std::string(label) + std::to_string(number) + "]";
+}
+
+}  // namespace mortane
