@@ -34,6 +34,9 @@ class ScriptedPrompts : public Prompts {
                  Action during = {});
   void ExpectTimedBox(int milliseconds, std::string prompt, int style, std::string title,
                       Answer answer);
+  // From here on every box that nobody scripted is answered with Ok and only recorded, for
+  // walks over many faults that look at the boxes afterwards.
+  void AcceptAnyBox() { acceptAnyBox_ = true; }
   // Scripts the next file dialog; an empty path is a person who cancels.
   void ExpectFileToOpen(std::string path);
   void ExpectFileToSave(std::string path);
@@ -83,6 +86,7 @@ class ScriptedPrompts : public Prompts {
   std::vector<Box> boxes_;
   std::vector<FileQuestion> fileQuestions_;
   int pointerBalance_ = 0;
+  bool acceptAnyBox_ = false;
 };
 
 }  // namespace mortane

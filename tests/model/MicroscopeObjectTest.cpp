@@ -1,0 +1,171 @@
+// The microscope object's own small members, its device name lock and its life.
+#include <gtest/gtest.h>
+
+#include "support/Rig.h"
+
+namespace mortane::test {
+namespace {
+
+TEST(MicroscopeObject, StartsUnconnectedWithNothingMounted) {
+  Rig rig("Quay");
+  EXPECT_EQ(rig.k70.lConnectDevice, -1);
+  EXPECT_EQ(rig.k70.curType, 0);
+  for (std::int32_t i = 0; i <= 6; ++i) EXPECT_FALSE(rig.k70.Controller(i));
+  for (std::int32_t i = 1; i <= 14; ++i) EXPECT_EQ(rig.k70.IsMounted(i), 0);
+}
+
+TEST(MicroscopeObject, CreationListsTheDevicesOnce) {
+  RigLibrary library(benches::Named("Quay"));
+  const clsK70 k70(library.library, library.prompts);
+  ASSERT_EQ(library.journal.Lines().size(), 1U);
+  EXPECT_EQ(library.journal.Lines()[0], "DeviceList.Count -> 1");
+}
+
+TEST(MicroscopeObject, AFailedCreationShowsTheNumberAndGoesOn) {
+  RigLibrary library(benches::Named("Quay"));
+  library.faults.Add({"DeviceList.Count", 1});
+  library.prompts.ExpectBox("*** clsK70_Initialize Error!!(80004005)", box::kOk, Answer::Ok);
+  clsK70 k70(library.library, library.prompts);
+  EXPECT_EQ(k70.lConnectDevice, -1);
+  EXPECT_TRUE(k70.Connect(0));
+}
+
+TEST(MicroscopeObject, WithoutARootEveryUseFailsInItsOwnWay) {
+  RigLibrary library(benches::Named("Quay"));
+  library.faults.Add({"Create(Microscope)"});
+  library.prompts.ExpectBox("*** clsK70_Initialize Error!!(80004005)", box::kOk, Answer::Ok);
+  clsK70 k70(library.library, library.prompts);
+  library.prompts.ExpectBox("*** DeviceCount Error!!(5B)", box::kOk, Answer::Ok);
+  EXPECT_EQ(k70.DeviceCount(), 0);
+  EXPECT_FALSE(k70.Connect(0));
+  library.prompts.ExpectBox("System Name", box::kCritical, Answer::Ok);
+  k70.Receive();
+}
+
+TEST(MicroscopeObject, IndicesBelowAndAboveTheAccessoriesAnswerNotMounted) {
+  Rig rig("Quay");
+  rig.Connect();
+  EXPECT_EQ(rig.k70.IsMounted(1), 2);
+  EXPECT_EQ(rig.k70.IsMounted(14), 2);
+  EXPECT_EQ(rig.k70.IsMounted(0), 0);
+  EXPECT_EQ(rig.k70.IsMounted(15), 0);
+}
+
+TEST(MicroscopeObject, IndicesBelowAndAboveTheControllersAnswerFalse) {
+  Rig rig("DeckRemote");
+  rig.Connect();
+  EXPECT_TRUE(rig.k70.Controller(6));
+  EXPECT_FALSE(rig.k70.Controller(-1));
+  EXPECT_FALSE(rig.k70.Controller(7));
+}
+
+TEST(MicroscopeObject, FileItemsKeepWhatIsStored) {
+  Rig rig("Quay");
+  for (std::int16_t i = 0; i <= 9; ++i) {
+    EXPECT_EQ(rig.k70.FileItem(i), 0);
+    rig.k70.FileItem(i, -1);
+    EXPECT_EQ(rig.k70.FileItem(i), -1);
+  }
+}
+
+TEST(MicroscopeObject, FileItemsOutsideZeroToNineReadZeroAndStoreNothing) {
+  Rig rig("Quay");
+  for (const std::int16_t pos : {std::int16_t{-1}, std::int16_t{10}, std::int16_t{32767}}) {
+    rig.k70.FileItem(pos, -1);
+    EXPECT_EQ(rig.k70.FileItem(pos), 0) << pos;
+  }
+}
+
+TEST(DeviceLock, TheSameNameTwiceInARowSucceedsTwice) {
+  Rig rig("Quay");
+  EXPECT_TRUE(rig.k70.CreateConnectionName("901"));
+  EXPECT_TRUE(rig.k70.CreateConnectionName("901"));
+}
+
+TEST(DeviceLock, AnotherNameLetsGoOfTheFirst) {
+  Rig rig("Quay");
+  clsMutex other;
+  ASSERT_TRUE(rig.k70.CreateConnectionName("902"));
+  ASSERT_TRUE(rig.k70.CreateConnectionName("903"));
+  EXPECT_TRUE(other.Create("MortaneConnection-393032"));
+}
+
+TEST(DeviceLock, TheNameIsMadeOfTheHexadecimalCodesOfTheIndex) {
+  Rig rig("Quay");
+  clsMutex other;
+  ASSERT_TRUE(other.Create("MortaneConnection-393132"));  // 9, 1, 2
+  EXPECT_FALSE(rig.k70.CreateConnectionName("912"));
+  EXPECT_TRUE(rig.k70.CreateConnectionName("913"));
+}
+
+TEST(DeviceLock, IsFreeAgainAfterDeleteConnectionName) {
+  Rig rig("Quay");
+  clsMutex other;
+  ASSERT_TRUE(rig.k70.CreateConnectionName("904"));
+  rig.k70.DeleteConnectionName();
+  EXPECT_TRUE(other.Create("MortaneConnection-393034"));
+}
+
+TEST(DeviceLock, IsFreeAgainAfterTheModelHasGone) {
+  clsMutex other;
+  {
+    Rig rig("Quay");
+    ASSERT_TRUE(rig.k70.CreateConnectionName("905"));
+    EXPECT_FALSE(other.Create("MortaneConnection-393035"));
+    other.Delete();
+  }
+  EXPECT_TRUE(other.Create("MortaneConnection-393035"));
+}
+
+TEST(DeviceLock, ASecondCreateWithoutDeleteRaisesError55) {
+  clsMutex mutex;
+  ASSERT_TRUE(mutex.Create("MortaneConnection-393036"));
+  try {
+    mutex.Create("MortaneConnection-393036");
+    FAIL() << "nothing was raised";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Number(), 55);
+  }
+}
+
+TEST(DeviceLock, TheLoserHoldsItsHandleToo) {
+  clsMutex winner;
+  clsMutex loser;
+  ASSERT_TRUE(winner.Create("MortaneConnection-393037"));
+  EXPECT_FALSE(loser.Create("MortaneConnection-393037"));
+  EXPECT_THROW(loser.Create("MortaneConnection-393037"), Failure);
+}
+
+TEST(MicroscopeObject, DisconnectsInSilenceWhenItGoes) {
+  RigLibrary library(benches::Named("Quay"));
+  {
+    clsK70 k70(library.library, library.prompts);
+    ASSERT_TRUE(k70.Connect(0));
+    library.journal.Clear();
+    library.faults.Add({"DeviceList.Item.Disconnect"});
+  }
+  ASSERT_EQ(library.journal.Lines().size(), 1U);
+  EXPECT_EQ(library.journal.Lines()[0], "DeviceList.Item(0).Disconnect() ! LIB:80004005");
+}
+
+TEST(MicroscopeObject, AsksNothingWhenItGoesUnconnected) {
+  RigLibrary library(benches::Named("Quay"));
+  {
+    const clsK70 k70(library.library, library.prompts);
+    library.journal.Clear();
+  }
+  EXPECT_TRUE(library.journal.Lines().empty());
+}
+
+TEST(MicroscopeObject, TheOneInstanceIsMadeOnFirstUseAndStays) {
+  RigLibrary library(benches::Named("Quay"));
+  ProvideK70(library.library, library.prompts);
+  EXPECT_EQ(library.journal.CallCount(), 0U);
+  clsK70& first = GetK70();
+  EXPECT_GT(library.journal.CallCount(), 0U);
+  EXPECT_EQ(&GetK70(), &first);
+  ReleaseK70();
+}
+
+}  // namespace
+}  // namespace mortane::test

@@ -1,0 +1,251 @@
+// Receive, Send and Modify as far as the microscope object itself goes.
+#include <gtest/gtest.h>
+
+#include "support/Rig.h"
+
+namespace mortane::test {
+namespace {
+
+constexpr const char* kFifteen = "ABCDEFGHIJKLMNO";
+constexpr const char* kTwenty = "ABCDEFGHIJKLMNOPQRST";
+
+TEST(Receive, TakesTheSystemName) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.instrument().name = "Bench 12";
+  rig.k70.Receive();
+  EXPECT_EQ(rig.k70.SystemName, "Bench 12");
+}
+
+TEST(Receive, ANameThatFailsIsALineAndTheOldNameStays) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.k70.SystemName = "Kept";
+  rig.faults.Add({"DeviceList.Item(1).Name"});
+  rig.prompts.ExpectBox("System Name", box::kCritical, Answer::Ok);
+  rig.k70.Receive();
+  EXPECT_EQ(rig.k70.SystemName, "Kept");
+}
+
+struct CountCase {
+  const char* call;
+  const char* line;
+};
+
+class TurretCountFailures : public testing::TestWithParam<CountCase> {};
+
+TEST_P(TurretCountFailures, AreLinesOfTheirOwn) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.faults.Add({GetParam().call});
+  rig.prompts.ExpectBox(GetParam().line, box::kCritical, Answer::Ok);
+  rig.k70.Receive();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Turrets, TurretCountFailures,
+    testing::Values(CountCase{"NosepieceDevice.Positions.Count", "Nosepiece Count"},
+                    CountCase{"FilterCubeDevice.Positions.Count", "Filter Cube Count"},
+                    CountCase{"CondenserDevice.Positions.Count", "Condenser Count"}));
+
+TEST(Receive, FailuresAreJoinedInTheOrderOfTheTransfer) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.faults.Add({"DeviceList.Item(1).Name"});
+  rig.faults.Add({"NosepieceDevice.Positions.Count"});
+  rig.faults.Add({"FilterCubeDevice.Positions.Count"});
+  rig.faults.Add({"CondenserDevice.Positions.Count"});
+  rig.prompts.ExpectBox("System Name\r\nNosepiece Count\r\nFilter Cube Count\r\nCondenser Count",
+                        box::kCritical, Answer::Ok);
+  rig.k70.Receive();
+}
+
+TEST(Receive, ATurretThatIsNotMountedIsNotAskedAndGivesNoLine) {
+  Rig rig("Shell");
+  rig.Connect();
+  rig.k70.Receive();
+  for (const std::string& line : rig.journal.Lines()) {
+    EXPECT_EQ(line.find("Positions"), std::string::npos) << line;
+  }
+}
+
+TEST(Receive, ChangesNoMountedValue) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.instrument().nosepiece.clear();
+  rig.k70.Receive();
+  EXPECT_EQ(rig.k70.IsMounted(accessory::kNosepiece), 2);
+}
+
+TEST(Receive, WithoutAConnectionSaysSystemName) {
+  Rig rig("Harbour");
+  rig.prompts.ExpectBox("System Name", box::kCritical, Answer::Ok);
+  rig.k70.Receive();
+}
+
+TEST(Receive, ShowsItsProgressFromZeroToTheEnd) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.k70.Receive();
+  const std::vector<std::string>& log = rig.prompts.Log();
+  ASSERT_GE(log.size(), 1U);
+  const std::string last = log.back();
+  const std::size_t slash = last.find('/');
+  EXPECT_EQ(last, "progress " + last.substr(slash + 1) + "/" + last.substr(slash + 1));
+}
+
+TEST(Send, AnUnchangedNameIsNotWritten) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.Send();
+  for (const std::string& line : rig.journal.Writes()) {
+    EXPECT_FALSE(line.starts_with("SystemName")) << line;
+  }
+}
+
+TEST(Send, WritesAChangedName) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = "harbour 2";
+  rig.k70.Send();
+  EXPECT_EQ(rig.journal.Writes().at(0), "SystemName = \"harbour 2\"");
+  EXPECT_EQ(rig.instrument().name, "harbour 2");
+}
+
+TEST(Send, CaseAndBlanksCountAsAChange) {
+  for (const char* name : {"LAB", "Lab ", " Lab", ""}) {
+    Rig rig("Harbour");
+    rig.instrument().name = "Lab";
+    rig.ConnectAndReceive();
+    rig.k70.SystemName = name;
+    rig.k70.Send();
+    EXPECT_EQ(rig.instrument().name, name);
+  }
+}
+
+TEST(Send, WritesANameOfFifteenCharactersInFull) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = kFifteen;
+  rig.k70.Send();
+  EXPECT_EQ(rig.instrument().name, kFifteen);
+}
+
+TEST(Send, WritesTheFirstFifteenOfTwentyCharactersAndReceiveBringsThemBack) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = kTwenty;
+  rig.k70.Send();
+  EXPECT_EQ(rig.instrument().name, kFifteen);
+  EXPECT_EQ(rig.k70.Modify(), std::string("SystemName:") + kTwenty);
+  rig.k70.Receive();
+  EXPECT_EQ(rig.k70.SystemName, kFifteen);
+  EXPECT_EQ(rig.k70.Modify(), "");
+}
+
+TEST(Send, CutsTheNameByCharactersAndNotByBytes) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = "äöüäöüäöüäöüäöüX";
+  rig.k70.Send();
+  EXPECT_EQ(rig.instrument().name, "äöüäöüäöüäöüäöü");
+}
+
+TEST(Send, ANameThatCannotBeReadIsNotWritten) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = "New";
+  rig.faults.Add({"DeviceList.Item(1).Name"});
+  rig.prompts.ExpectBox("System Name", box::kCritical, Answer::Ok, "Send");
+  rig.k70.Send();
+  for (const std::string& line : rig.journal.Writes()) {
+    EXPECT_FALSE(line.starts_with("SystemName")) << line;
+  }
+}
+
+TEST(Send, ANameThatCannotBeWrittenIsALineUnderTheCaptionSend) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = "New";
+  rig.faults.Add({"put SystemName"});
+  rig.prompts.ExpectBox("System Name", box::kCritical, Answer::Ok, "Send");
+  rig.k70.Send();
+}
+
+TEST(Send, WithNothingEnabledAndNothingChangedSendsNothingAndShowsNoBox) {
+  Rig rig("Shell");
+  rig.ConnectAndReceive();
+  rig.k70.Send();
+  EXPECT_TRUE(rig.journal.Writes().empty());
+}
+
+TEST(Modify, OfAnUnchangedConfigurationIsEmpty) {
+  for (const char* bench : {"Quay", "Harbour"}) {
+    Rig rig(bench);
+    rig.ConnectAndReceive();
+    EXPECT_EQ(rig.k70.Modify(), "") << bench;
+  }
+}
+
+TEST(Modify, ListsTheNameInFullWithoutABlank) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = kTwenty;
+  EXPECT_EQ(rig.k70.Modify(), std::string("SystemName:") + kTwenty);
+}
+
+TEST(Modify, ChangesNeitherTheControllerNorTheModel) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = "Other";
+  rig.k70.Modify();
+  EXPECT_TRUE(rig.journal.Writes().empty());
+  EXPECT_EQ(rig.k70.SystemName, "Other");
+}
+
+TEST(Modify, ANameThatFailsGoesToTheCaller) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.faults.Add({"DeviceList.Item(1).Name"});
+  EXPECT_THROW(rig.k70.Modify(), controller::ControllerError);
+}
+
+// Every controller call that a transfer makes fails in turn: nothing leaves the transfer, and
+// all that it says stands in one critical box.
+
+void FailEachCall(const char* bench, const std::string& caption,
+                  const std::function<void(clsK70&)>& transfer) {
+  std::size_t calls = 0;
+  {
+    Rig rig(bench);
+    rig.ConnectAndReceive();
+    rig.k70.SystemName = "Changed";
+    transfer(rig.k70);
+    calls = rig.journal.CallCount();
+  }
+  ASSERT_GT(calls, 0U);
+  for (std::size_t k = 1; k <= calls; ++k) {
+    Rig rig(bench);
+    rig.ConnectAndReceive();
+    rig.k70.SystemName = "Changed";
+    rig.prompts.AcceptAnyBox();
+    rig.faults.FailCall(k);
+    transfer(rig.k70);
+    EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
+    ASSERT_EQ(rig.prompts.Boxes().size(), 1U) << "call " << k;
+    EXPECT_EQ(rig.prompts.Boxes()[0].style, box::kCritical);
+    EXPECT_EQ(rig.prompts.Boxes()[0].caption, caption);
+    EXPECT_EQ(rig.k70.lConnectDevice, 1);
+  }
+}
+
+TEST(Receive, EachControllerCallThatFailsIsReportedOnce) {
+  FailEachCall("Harbour", "", [](clsK70& k70) { k70.Receive(); });
+}
+
+TEST(Send, EachControllerCallThatFailsIsReportedOnce) {
+  FailEachCall("Harbour", "Send", [](clsK70& k70) { k70.Send(); });
+}
+
+}  // namespace
+}  // namespace mortane::test
