@@ -1,0 +1,33 @@
+// The path from the process's start to a connected microscope.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "controller/ControllerObject.h"
+#include "model/clsK70.h"
+
+namespace mortane {
+
+// What the start path works on.
+struct StartPath {
+  clsK70& k70;
+  controller::ControllerLibrary& library;
+  Prompts& prompts;
+  // The program's path, then the command line's arguments.
+  std::vector<std::string> arguments;
+  // Shows the device selection and answers its Selected.
+  std::function<std::int32_t()> selectDevice;
+};
+
+// Chooses a device, takes its exclusive use, connects and receives. True when the model is
+// connected and filled; false when the program has to end. Everything that went wrong was shown.
+bool ConnectMicroscope(const StartPath& start);
+
+// Whether device n can be used now. Asks a root of its own, so that the connected one is left
+// alone; any failure, an index outside the list among them, is a no.
+bool IsDeviceAvailable(controller::ControllerLibrary& library, std::int32_t n);
+
+}  // namespace mortane

@@ -1,0 +1,191 @@
+// The controls of the main window and where they stand.
+#include <QAction>
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QRadioButton>
+#include <QScreen>
+#include <QStatusBar>
+#include <QToolBar>
+#include <algorithm>
+
+#include "app/GetAppIcon.h"
+#include "app/MortaneMainForm.h"
+#include "widgets/CommandKey.h"
+#include "widgets/PageButton.h"
+#include "widgets/ProgressLine.h"
+#include "widgets/Rail.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr QSize kDesignSize{1152, 740};
+constexpr double kLargestShareOfScreen = 0.9;
+constexpr int kToolbarIcon = 20;
+
+struct CommandRow {
+  const char* text;
+  IconName icon;
+  void (MortaneMainForm::*run)();
+};
+
+QString ElementName(const char* array, std::size_t index) {
+  return QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(index);
+}
+
+}  // namespace
+
+MortaneMainForm::MortaneMainForm(MainFormServices services, const PageTable& pages)
+    : CommonDialog1{0, "XML File (*.xml)|*.xml", ".xml"},
+      library_(services.library),
+      prompts_(services.prompts),
+      arguments_(std::move(services.arguments)) {
+  setObjectName("MortaneMainForm");
+  setWindowTitle(QLatin1String(kMainTitle));
+  setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
+  BuildMenus();
+  BuildToolbar();
+  BuildRail(pages);
+  BuildCommandBar();
+  BuildPages(pages);
+  BuildStatusBar();
+  Arrange();
+}
+
+QAction* MortaneMainForm::AddMenuItem(QMenu& menu, const char* name, const QString& text,
+                                      Command command) {
+  QAction* item = menu.addAction(text);
+  item->setObjectName(QLatin1String(name));
+  connect(item, &QAction::triggered, this, [this, command] { RunCommand(command); });
+  return item;
+}
+
+void MortaneMainForm::BuildMenus() {
+  MenuFile = menuBar()->addMenu("File(&F)");
+  MenuFile->setObjectName("MenuFile");
+  MenuFileOpen = AddMenuItem(*MenuFile, "MenuFileOpen", "Open(&O)", &MortaneMainForm::DoOpen);
+  MenuFileSave = AddMenuItem(*MenuFile, "MenuFileSave", "Save(&S)", &MortaneMainForm::DoSave);
+  MenuSeparator = MenuFile->addSeparator();
+  MenuSeparator->setObjectName("MenuSeparator");
+  FileMenuExit = AddMenuItem(*MenuFile, "FileMenuExit", "Exit(&X)", &MortaneMainForm::DoExit);
+
+  MenuConnect = menuBar()->addMenu("Connect(&C)");
+  MenuConnect->setObjectName("MenuConnect");
+  MenuConnectSelect =
+      AddMenuItem(*MenuConnect, "MenuConnectSelect", "Select(&L)", &MortaneMainForm::DoSelect);
+  MenuConnectReceive =
+      AddMenuItem(*MenuConnect, "MenuConnectReceive", "Receive(&R)", &MortaneMainForm::DoReceive);
+  MenuConnectSend =
+      AddMenuItem(*MenuConnect, "MenuConnectSend", "Send(&N)", &MortaneMainForm::DoSend);
+}
+
+void MortaneMainForm::BuildToolbar() {
+  Toolbar1 = addToolBar("Toolbar1");
+  Toolbar1->setObjectName("Toolbar1");
+  Toolbar1->setMovable(false);
+  Toolbar1->setIconSize({kToolbarIcon, kToolbarIcon});
+  Toolbar1->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  Toolbar1->addAction(Icon(IconName::Open), "Open");
+  Toolbar1->addAction(Icon(IconName::Save), "Save");
+  Toolbar1->addSeparator();
+  Toolbar1->addAction(Icon(IconName::Select), "Select");
+  Toolbar1->addAction(Icon(IconName::Receive), "Receive");
+  Toolbar1->addAction(Icon(IconName::Send), "Send");
+  connect(Toolbar1, &QToolBar::actionTriggered, this, [this](QAction* button) {
+    OnToolbarButton(static_cast<int>(Toolbar1->actions().indexOf(button)) + 1);
+  });
+}
+
+void MortaneMainForm::BuildRail(const PageTable& pages) {
+  PictureMenu = new Rail(this);
+  PictureMenu->setObjectName("PictureMenu");
+  FrameOptionButton = new QFrame(this);
+  FrameOptionButton->setObjectName("FrameOptionButton");
+  FrameOptionButton->hide();
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    optMenu[i] = new QRadioButton(FrameOptionButton);
+    optMenu[i]->setObjectName(ElementName("optMenu", i));
+    ImageButton[i] = PictureMenu->button(PictureMenu->AddPage(pages[i].icon, pages[i].title));
+    PictureMenu->SetPageEnabled(static_cast<int>(i), false);
+    connect(optMenu[i], &QRadioButton::toggled, this, [this, i](bool checked) {
+      if (checked) OnMenuChanged(i);
+    });
+  }
+  connect(PictureMenu, &Rail::selectionChanged, this,
+          [this](int index) { optMenu[static_cast<std::size_t>(index)]->setChecked(true); });
+}
+
+void MortaneMainForm::BuildCommandBar() {
+  static const std::array<CommandRow, 4> kCommands{{
+      {"Select", IconName::Select, &MortaneMainForm::DoSelect},
+      {"Receive", IconName::Receive, &MortaneMainForm::DoReceive},
+      {"Send", IconName::Send, &MortaneMainForm::DoSend},
+      {"Exit", IconName::Exit, &MortaneMainForm::DoExit},
+  }};
+  Picture2 = new QWidget(this);
+  Picture2->setObjectName("Picture2");
+  auto* keys = new QHBoxLayout(Picture2);
+  keys->setContentsMargins(grid::kPageMargin, grid::kBetweenControls, grid::kPageMargin,
+                           grid::kBetweenControls);
+  keys->setSpacing(grid::kBetweenControls);
+  for (std::size_t i = 0; i < kCommands.size(); ++i) {
+    const CommandRow& row = kCommands[i];
+    if (i == 2) keys->addStretch();
+    ImageCommand[i] = new CommandKey(row.icon, row.text, Picture2);
+    ImageCommand[i]->setObjectName(ElementName("ImageCommand", i));
+    connect(ImageCommand[i], &CommandKey::commanded, this, [this, &row] { RunCommand(row.run); });
+    keys->addWidget(ImageCommand[i]);
+  }
+  ImageCommand[2]->setMain(true);
+}
+
+void MortaneMainForm::BuildPages(const PageTable& pages) {
+  FrameControl = new QFrame(this);
+  FrameControl->setObjectName("FrameControl");
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    if (!pages[i].make) continue;
+    pages_[i] = pages[i].make(*this);
+    pages_[i].isEnabled = pages[i].isEnabled;
+  }
+}
+
+void MortaneMainForm::BuildStatusBar() {
+  StatusBar1 = statusBar();
+  StatusBar1->setObjectName("StatusBar1");
+  StatusBar1->setSizeGripEnabled(false);
+  // Panels 1 to 4 stay empty and take no room.
+  versionPanel_ = new QLabel(StatusBar1);
+  versionPanel_->setObjectName("StatusBar1_5");
+  versionPanel_->setFont(CaptionFont());
+  versionPanel_->setForegroundRole(QPalette::PlaceholderText);
+  StatusBar1->addPermanentWidget(versionPanel_);
+  progress_ = new ProgressLine(this);
+}
+
+// The pages lie on top of each other, and one of them is visible.
+void MortaneMainForm::StackPages() {
+  auto* stack = new QGridLayout(FrameControl);
+  stack->setContentsMargins({});
+  for (const Page& page : pages_) {
+    if (page.widget != nullptr) stack->addWidget(page.widget, 0, 0);
+  }
+}
+
+void MortaneMainForm::Arrange() {
+  auto* center = new QWidget(this);
+  auto* cells = new QGridLayout(center);
+  cells->setContentsMargins({});
+  cells->setSpacing(0);
+  cells->addWidget(PictureMenu, 0, 0, 2, 1);
+  cells->addWidget(FrameControl, 0, 1);
+  cells->addWidget(Picture2, 1, 1);
+  cells->addWidget(progress_, 2, 0, 1, 2);
+  cells->setRowStretch(0, 1);
+  cells->setColumnStretch(1, 1);
+  setCentralWidget(center);
+  resize(kDesignSize.boundedTo(screen()->availableSize() * kLargestShareOfScreen));
+}
+
+}  // namespace mortane

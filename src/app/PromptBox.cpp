@@ -1,0 +1,93 @@
+#include "app/PromptBox.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <array>
+#include <span>
+
+#include "app/ShownText.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kButtonSetBits = 0x0F;
+constexpr int kIconBits = 0xF0;
+
+struct IconRow {
+  int style;
+  QMessageBox::Icon icon;
+};
+
+constexpr std::array<IconRow, 4> kIcons{{
+    {box::kCritical, QMessageBox::Critical},
+    {box::kQuestion, QMessageBox::Question},
+    {box::kExclamation, QMessageBox::Warning},
+    {box::kInformation, QMessageBox::Information},
+}};
+
+// The toolkit knows a standard button for each but the last two, which bear their own text.
+struct ButtonRow {
+  int buttonSet;
+  Answer answer;
+  QMessageBox::StandardButton standard;
+  QMessageBox::ButtonRole role;
+  const char* text;
+};
+
+constexpr std::array<ButtonRow, 8> kButtons{{
+    {box::kOk, Answer::Ok, QMessageBox::Ok, QMessageBox::AcceptRole, nullptr},
+    {box::kOkCancel, Answer::Ok, QMessageBox::Ok, QMessageBox::AcceptRole, nullptr},
+    {box::kOkCancel, Answer::Cancel, QMessageBox::Cancel, QMessageBox::RejectRole, nullptr},
+    {box::kYesNo, Answer::Yes, QMessageBox::Yes, QMessageBox::YesRole, nullptr},
+    {box::kYesNo, Answer::No, QMessageBox::No, QMessageBox::NoRole, nullptr},
+    {box::kCancelTryContinue, Answer::Cancel, QMessageBox::Cancel, QMessageBox::RejectRole,
+     nullptr},
+    {box::kCancelTryContinue, Answer::TryAgain, QMessageBox::NoButton, QMessageBox::AcceptRole,
+     "&Try Again"},
+    {box::kCancelTryContinue, Answer::Continue, QMessageBox::NoButton, QMessageBox::AcceptRole,
+     "&Continue"},
+}};
+
+constexpr char kAnswerProperty[] = "answer";
+
+QMessageBox::Icon IconOf(int style) {
+  for (const IconRow& row : kIcons) {
+    if ((style & kIconBits) == row.style) return row.icon;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// The first button of a set is the one that Enter presses.
+void AddButtons(QMessageBox& box, int style) {
+  for (const ButtonRow& row : kButtons) {
+    if (row.buttonSet != (style & kButtonSetBits)) continue;
+    QPushButton* button = row.text == nullptr
+                              ? box.addButton(row.standard)
+                              : box.addButton(QString::fromLatin1(row.text), row.role);
+    button->setProperty(kAnswerProperty, static_cast<int>(row.answer));
+    if (box.defaultButton() == nullptr) box.setDefaultButton(button);
+  }
+}
+
+}  // namespace
+
+PromptBox::PromptBox(const std::string& text, int style, const std::string& caption)
+    : box_(IconOf(style),
+           caption.empty() ? QApplication::applicationName() : QString::fromStdString(caption),
+           ShownText(text), QMessageBox::NoButton, QApplication::activeWindow()) {
+  box_.setTextFormat(Qt::PlainText);
+  AddButtons(box_, style);
+}
+
+Answer PromptBox::Ask() {
+  box_.exec();
+  const QAbstractButton* clicked = box_.clickedButton();
+  return clicked == nullptr ? Answer::Cancel
+                            : static_cast<Answer>(clicked->property(kAnswerProperty).toInt());
+}
+
+void PromptBox::Close() {
+  if (box_.isVisible()) box_.reject();
+}
+
+}  // namespace mortane

@@ -1,0 +1,45 @@
+// The real boxes, file dialogs and pointer behind Prompts.
+#pragma once
+
+#include <QPointer>
+#include <functional>
+
+#include "app/InputFlush.h"
+#include "common/Prompts.h"
+
+class QWidget;
+
+namespace mortane {
+
+class ProgressLine;
+
+// Made by the program after its QApplication and before the model. Boxes stand over the active
+// window, also while that window is disabled.
+class QtPrompts : public Prompts {
+ public:
+  using Sleeper = std::function<void(int milliseconds)>;
+
+  // `sleep` is the wait of Wait; the program sleeps for real.
+  explicit QtPrompts(Sleeper sleep);
+
+  // Where ShowProgress draws; nowhere before a window gives its line.
+  void ShowProgressOn(ProgressLine* line);
+
+  Answer MsgBox(const std::string& text, int style, const std::string& caption = {}) override;
+  Answer TimedMsgBox(int milliseconds, const std::string& prompt, int style,
+                     const std::string& title, const std::string& helpFile = {},
+                     int context = 0) override;
+  std::string AskFileToOpen(const FileQuestion& question) override;
+  std::string AskFileToSave(const FileQuestion& question) override;
+  void SetPointer(Pointer pointer) override;
+  void FlushInput() override;
+  void Wait(int milliseconds) override;
+  void ShowProgress(int done, int total) override;
+
+ private:
+  Sleeper sleep_;
+  QPointer<ProgressLine> progress_;
+  InputFlush flush_;
+};
+
+}  // namespace mortane

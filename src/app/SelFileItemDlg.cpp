@@ -1,0 +1,65 @@
+#include "app/SelFileItemDlg.h"
+
+#include <QListWidget>
+#include <QPushButton>
+
+#include "app/DialogLayout.h"
+#include "model/clsK70.h"
+
+namespace mortane {
+namespace {
+
+constexpr std::int16_t kWanted = -1;
+constexpr std::int16_t kNotWanted = 0;
+
+}  // namespace
+
+SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent)
+    : QDialog(parent),
+      List1(new QListWidget(this)),
+      Datalist(new QListWidget(this)),
+      OkButton(new QPushButton(QStringLiteral("&OK"), this)),
+      CancelButton(new QPushButton(QStringLiteral("&Cancel"), this)),
+      k70_(k70) {
+  setWindowTitle(QStringLiteral("Select File Items"));
+  List1->setObjectName("List1");
+  List1->setAccessibleName(windowTitle());
+  Datalist->setObjectName("Datalist");
+  Datalist->hide();
+  OkButton->setObjectName("OkButton");
+  CancelButton->setObjectName("CancelButton");
+  for (const FileSection& section : kFileSections) {
+    Datalist->addItem(
+        QString::fromUtf8(section.label.data(), static_cast<qsizetype>(section.label.size())));
+  }
+
+  ArrangeDialog(*this, nullptr, *List1, *OkButton, *CancelButton);
+  connect(OkButton, &QPushButton::clicked, this, &QDialog::accept);
+  connect(List1, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
+    const auto position = static_cast<std::int16_t>(List1->row(item));
+    k70_.FileItem(position, item->checkState() == Qt::Checked ? kWanted : kNotWanted);
+  });
+  LoadList();
+}
+
+// The items are asked one by one as the list grows: checking a new line writes the item of its
+// position, which is never ahead of the one that is asked.
+void SelFileItemDlg::LoadList() {
+  for (int i = 0; i < Datalist->count(); ++i) {
+    if (k70_.FileItem(static_cast<std::int16_t>(i)) == kNotWanted) continue;
+    auto* line = new QListWidgetItem(Datalist->item(i)->text());
+    line->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    line->setCheckState(Qt::Unchecked);
+    List1->addItem(line);
+    line->setCheckState(Qt::Checked);
+  }
+}
+
+void SelFileItemDlg::reject() {
+  for (int i = 0; i < Datalist->count(); ++i) {
+    k70_.FileItem(static_cast<std::int16_t>(i), kNotWanted);
+  }
+  QDialog::reject();
+}
+
+}  // namespace mortane

@@ -1,0 +1,65 @@
+#include "app/SelScopeDlg.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <string>
+#include <utility>
+
+#include "app/DialogLayout.h"
+#include "common/Prompts.h"
+#include "common/Text.h"
+#include "model/clsK70.h"
+#include "widgets/Icons.h"
+#include "widgets/ListBox.h"
+
+namespace mortane {
+namespace {
+
+constexpr char kNotAvailable[] = "Not Available";
+
+}  // namespace
+
+SelScopeDlg::SelScopeDlg(clsK70& k70, Prompts& prompts, Availability isDeviceAvailable,
+                         QWidget* parent)
+    : QDialog(parent),
+      Label1(new QLabel(QStringLiteral("Please Click Microscope Name on the List."), this)),
+      List1(new ListBox(this)),
+      OkButton(new QPushButton(QStringLiteral("&OK"), this)),
+      CancelButton(new QPushButton(QStringLiteral("&Cancel"), this)),
+      prompts_(prompts),
+      isDeviceAvailable_(std::move(isDeviceAvailable)) {
+  setWindowTitle(QStringLiteral("Select Microscope Dialog"));
+  Label1->setObjectName("Label1");
+  Label1->setBuddy(List1);
+  List1->setObjectName("List1");
+  OkButton->setObjectName("OkButton");
+  CancelButton->setObjectName("CancelButton");
+  ArrangeDialog(*this, Label1, *List1, *OkButton, *CancelButton);
+  connect(OkButton, &QPushButton::clicked, this, [this] { OnOk(); });
+  LoadList(k70);
+}
+
+// A list with the simulator alone still gets the line of device 1, which is not available.
+void SelScopeDlg::LoadList(clsK70& k70) {
+  const std::int32_t count = k70.DeviceCount();
+  const std::int32_t last = count == 1 ? 1 : count - 1;
+  for (std::int32_t device = 1; device <= last; ++device) {
+    const bool available = isDeviceAvailable_(device);
+    std::string line = available ? Trim(k70.DeviceName(device)) : kNotAvailable;
+    if (line.empty()) line = "NoName";
+    List1->addRow(QString::fromStdString(line), device);
+  }
+  if (List1->count() > 0) List1->setIndex(0);
+}
+
+void SelScopeDlg::OnOk() {
+  const std::int32_t device = List1->index() + 1;
+  if (List1->index() < 0 || !isDeviceAvailable_(device)) {
+    prompts_.MsgBox(kNotAvailable, box::kOk);
+    return;
+  }
+  Selected = static_cast<std::int16_t>(device);
+  accept();
+}
+
+}  // namespace mortane

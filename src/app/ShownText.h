@@ -1,0 +1,14 @@
+// Texts of the core as the toolkit's controls show them.
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace mortane {
+
+// Reports break their lines with a carriage return and a line feed; controls want the latter.
+inline QString ShownText(const std::string& text) {
+  return QString::fromStdString(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+}  // namespace mortane

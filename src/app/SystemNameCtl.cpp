@@ -1,0 +1,108 @@
+#include "app/SystemNameCtl.h"
+
+#include <QFontDatabase>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+#include <vector>
+
+#include "app/ShownText.h"
+#include "common/Text.h"
+#include "model/AccessoryTable.h"
+#include "model/clsK70.h"
+#include "widgets/Card.h"
+#include "widgets/MicroscopeDrawing.h"
+#include "widgets/TextField.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kNameLength = 15;
+constexpr int kCardGap = 12;
+constexpr int kColumnGap = 16;
+constexpr int kLabelGap = 12;
+// The report's lines are indented by one tab.
+constexpr int kTabWidthCharacters = 3;
+// The report keeps its lines whole beside the drawing.
+constexpr int kReportWidthCharacters = 40;
+// The drawing needs its room for the labels; a narrower window shows the report alone.
+constexpr int kNarrowestWindowWithDrawing = 1100;
+
+QFont ReportFont() {
+  QFont font(QStringLiteral("Courier New"));
+  font.setStyleHint(QFont::Monospace);
+  return font;
+}
+
+}  // namespace
+
+SystemNameCtl::SystemNameCtl(QWidget* parent)
+    : QWidget(parent),
+      FrameBase(new QFrame(this)),
+      Frame1(nullptr),
+      Label1(nullptr),
+      TextSystemName(nullptr),
+      TextAccessories(nullptr),
+      drawing_(nullptr) {
+  FrameBase->setObjectName("FrameBase");
+  auto* panel = new QVBoxLayout(this);
+  panel->setContentsMargins({});
+  panel->addWidget(FrameBase);
+  auto* rows = new QVBoxLayout(FrameBase);
+  rows->setContentsMargins({});
+  rows->setSpacing(kCardGap);
+  rows->addWidget(BuildNameCard());
+  rows->addWidget(BuildReportCard(), 1);
+
+  connect(TextSystemName, &TextField::entered, this, [this] { SaveData(); });
+  connect(TextSystemName, &TextField::left, this, [this] { SaveData(); });
+}
+
+QWidget* SystemNameCtl::BuildNameCard() {
+  auto* card = new Card({}, FrameBase);
+  Frame1 = card;
+  Frame1->setObjectName("Frame1");
+  Label1 = new QLabel(QStringLiteral("System Name:"), Frame1);
+  Label1->setObjectName("Label1");
+  TextSystemName = new TextField(Frame1);
+  TextSystemName->setObjectName("TextSystemName");
+  TextSystemName->setLimit(kNameLength);
+  Label1->setBuddy(TextSystemName);
+
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kLabelGap);
+  row->addWidget(Label1);
+  row->addWidget(TextSystemName);
+  row->addStretch();
+  card->body()->addLayout(row);
+  return card;
+}
+
+QWidget* SystemNameCtl::BuildReportCard() {
+  auto* card = new Card({}, FrameBase);
+  TextAccessories = new QPlainTextEdit(card);
+  TextAccessories->setObjectName("TextAccessories");
+  TextAccessories->setAccessibleName(QStringLiteral("Accessories"));
+  TextAccessories->setReadOnly(true);
+  TextAccessories->setTabChangesFocus(true);
+  TextAccessories->setLineWrapMode(QPlainTextEdit::NoWrap);
+  TextAccessories->setFont(ReportFont());
+  return card;
+}
+
+void SystemNameCtl::LoadData() {
+  clsK70& k70 = GetK70();
+  const bool nameless = Trim(k70.SystemName).empty();
+  TextSystemName->setText(nameless ? QStringLiteral("NoName")
+                                   : QString::fromStdString(k70.SystemName));
+  TextAccessories->setPlainText(ShownText(k70.GetAccessories()));
+  ShowDrawing();
+}
+
+void SystemNameCtl::SaveData() {
+  GetK70().SystemName = TextSystemName->text().toStdString();
+}
+
+}  // namespace mortane

@@ -1,0 +1,27 @@
+#include "app/SystemSettingsCtl.h"
+
+#include <QVBoxLayout>
+
+#include "app/SystemNameCtl.h"
+#include "widgets/PageHeader.h"
+
+namespace mortane {
+
+SystemSettingsCtl::SystemSettingsCtl(QWidget* parent)
+    : QWidget(parent),
+      Header(new PageHeader(IconName::System, QStringLiteral("System"), this)),
+      SystemNameCtl1(new SystemNameCtl(this)) {
+  Header->setObjectName("Header");
+  SystemNameCtl1->setObjectName("SystemNameCtl1");
+  MakePageLayout(this, Header)->addWidget(SystemNameCtl1, 1);
+}
+
+void SystemSettingsCtl::LoadData() {
+  SystemNameCtl1->LoadData();
+}
+
+void SystemSettingsCtl::SaveData() {
+  SystemNameCtl1->SaveData();
+}
+
+}  // namespace mortane
