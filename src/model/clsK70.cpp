@@ -27,7 +27,7 @@ clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts)
           {{accessory::kNosepiece,
             [](const controller::Microscope& mic) { return mic.NosepieceDevice().Positions(); },
             "Nosepiece Count",
-            {}},
+            {&curNosepiece.Count}},
            {accessory::kFilterCube,
             [](const controller::Microscope& mic) { return mic.FilterCubeDevice().Positions(); },
             "Filter Cube Count",
@@ -35,7 +35,7 @@ clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts)
            {accessory::kCondenser,
             [](const controller::Microscope& mic) { return mic.CondenserDevice().Positions(); },
             "Condenser Count",
-            {}}}} {
+            {&curCondenser.Count}}}} {
   FillTables();
   try {
     CreateRoot();
@@ -63,7 +63,17 @@ void clsK70::CreateRoot() {
 // The one table of units in each direction; a unit joins a transfer and the settings file by
 // its row here.
 void clsK70::FillTables() {
-  transfers_ = {};
+  const auto mounted = [this](std::int32_t number) {
+    return [this, number] { return IsMounted(number) != kNotMounted; };
+  };
+  transfers_ = {
+      MakeTransferStep(curNosepiece, mounted(accessory::kNosepiece)),
+      MakeTransferStep(DbNosepiece, mounted(accessory::kNosepiece)),
+      MakeTransferStep(curLimit,
+                       [this] { return IsMounted(accessory::kNosepiece) == kControllable; }),
+      MakeTransferStep(curCondenser, mounted(accessory::kCondenser)),
+      MakeTransferStep(dbcon, mounted(accessory::kCondenser)),
+  };
   fileTable_ = {
       {fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
        [this](const DomNode& element) { return ReadSystemElement(element); },
@@ -72,6 +82,11 @@ void clsK70::FillTables() {
          element.SetAttribute("NAME", SystemName);
          section.Append(element);
        }},
+      MakeFileElement(fileitem::kNosepiece, "ITEM", curNosepiece),
+      MakeFileElement(fileitem::kNosepiece, "OPTION", DbNosepiece),
+      MakeFileElement(fileitem::kNosepiece, "LIMIT", curLimit),
+      MakeFileElement(fileitem::kCondenser, "ITEM", curCondenser),
+      MakeFileElement(fileitem::kCondenser, "OPTION", dbcon),
   };
 }
 

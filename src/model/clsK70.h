@@ -10,10 +10,15 @@
 #include <string_view>
 #include <vector>
 
+#include "condensers/clsCondenser.h"
+#include "condensers/clsDbCondenser.h"
 #include "model/ConnectedMicroscope.h"
 #include "model/SettingsFile.h"
 #include "model/Transfers.h"
 #include "model/clsMutex.h"
+#include "objectives/clsDbNosepiece.h"
+#include "objectives/clsLimitation.h"
+#include "objectives/clsNosepiece.h"
 
 namespace mortane {
 
@@ -31,6 +36,13 @@ class clsK70 : public ConnectedMicroscope {
 
   // The system name as last read or edited; a controller holds 15 characters of it.
   std::string SystemName;
+
+  // The configuration units.
+  clsNosepiece curNosepiece{*this, DbNosepiece};
+  clsDbNosepiece DbNosepiece{*this};
+  clsLimitation curLimit{*this};
+  clsCondenser curCondenser{*this, dbcon};
+  clsDbCondenser dbcon{*this};
 
   // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;
   // others read 0 and store nothing.

@@ -1,0 +1,42 @@
+// What stands in the condenser cassette: the condenser code at each address.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "common/Dom.h"
+#include "condensers/clsDbCondenser.h"
+#include "model/ConnectedMicroscope.h"
+#include "model/TurretCodes.h"
+
+namespace mortane {
+
+// Owned by clsK70. What a code means is the database's affair.
+class clsCondenser {
+ public:
+  clsCondenser(ConnectedMicroscope& microscope, const clsDbCondenser& database);
+
+  ConnectedMicroscope& parent;
+
+  // Addresses of the cassette; told by the controller on connecting and on each read. A read
+  // that fails makes it 0; one that finds no condenser leaves it.
+  std::int32_t Count = 0;
+
+  // Condenser code 0 to 149 at address 1 to 10; for other addresses -1, and nothing is stored.
+  std::int32_t code(std::int32_t address) const { return codes_.Code(address); }
+  void code(std::int32_t address, std::int32_t value) { codes_.Code(address, value); }
+
+  std::string ReadSdk();
+  std::string ModifySdk(std::string& list) const;
+  std::string WriteSdk() const { return codes_.Write(parent); }
+
+  // An "ITEM" element may name an address beyond Count; WriteDom writes those up to Count.
+  std::string ReadDom(const DomNode& node);
+  void WriteDom(DomDocument& document, DomNode section) const;
+
+ private:
+  const clsDbCondenser& database_;
+  TurretCodes codes_;
+};
+
+}  // namespace mortane

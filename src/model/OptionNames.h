@@ -1,0 +1,58 @@
+// The names of one list of the controller's accessory database, of which the user edits nine.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/Dom.h"
+#include "controller/AccessoryDatabase.h"
+#include "model/ConnectedMicroscope.h"
+
+namespace mortane {
+
+// In what lists differ. Labels end with the bracket that opens the number.
+struct NameListKind {
+  std::int32_t accessory;  // nothing is read while it is not mounted
+  controller::RecordList<controller::DatabaseRecord> (*records)(
+      const controller::AccessoryDatabase&);
+  std::int32_t optionBase;  // position n, 1 to 9, is code optionBase + n, the last one the highest
+  std::string_view element;
+  std::string_view failureLabel;
+  std::string_view differenceLabel;
+  std::string_view writeLabel;  // also of an element that is refused
+};
+
+// Part of the unit of one list, which gives it the microscope for each operation. Comparing
+// and writing walk over the controller's list whether the accessory is mounted or not.
+class OptionNames {
+ public:
+  // What the user may give to a record.
+  static constexpr std::size_t kNameLength = 10;
+
+  // The kind must live as long.
+  explicit OptionNames(const NameListKind& kind);
+
+  // Empty for a code outside the list.
+  std::string Name(std::int32_t code) const;
+  // Keeps the first ten characters; ignores a code outside the list.
+  void Name(std::int32_t code, std::string_view name);
+
+  std::string Read(const ConnectedMicroscope& microscope);
+  std::string Modify(const ConnectedMicroscope& microscope, std::string& list) const;
+  std::string Write(const ConnectedMicroscope& microscope) const;
+  std::string ReadDom(const DomNode& node);
+  // Always nine elements.
+  void WriteDom(DomDocument& document, DomNode section) const;
+
+ private:
+  bool Has(std::int32_t code) const;
+  std::size_t IndexOf(std::int32_t code) const;
+  bool Differs(const controller::DatabaseRecord& record, std::int32_t code) const;
+
+  const NameListKind& kind_;
+  std::vector<std::string> names_;
+};
+
+}  // namespace mortane

@@ -1,0 +1,44 @@
+// Walks over the lists of the controller's accessory database.
+#pragma once
+
+#include "common/UnitReport.h"
+#include "controller/AccessoryDatabase.h"
+
+namespace mortane {
+
+// Positions of the records that the user may define, in every list: 1 to 9.
+inline constexpr std::int32_t kOptionPositions = 9;
+
+inline bool IsOptionPosition(std::int32_t position) {
+  return position >= 1 && position <= kOptionPositions;
+}
+
+// In the controller's order. A failure ends the walk.
+template <typename Record, typename Visit>
+void ForEachRecord(const controller::RecordList<Record>& list, Visit&& visit) {
+  const std::int32_t count = list.Count();
+  for (std::int32_t i = 1; i <= count; ++i) visit(list.Item(i));
+}
+
+// Only the records that the user may define.
+template <typename Record, typename Visit>
+void ForEachOption(const controller::RecordList<Record>& list, Visit&& visit) {
+  ForEachRecord(list, [&](const Record& record) {
+    if (record.IsOption()) visit(record);
+  });
+}
+
+// The same for a write: a record that fails does not stop the walk.
+template <typename Record, typename Write>
+void WriteEachOption(WriteReport& report, const controller::RecordList<Record>& list,
+                     Write&& write) {
+  const std::int32_t count = list.Count();
+  for (std::int32_t i = 1; i <= count; ++i) {
+    report.Run([&] {
+      const Record record = list.Item(i);
+      if (record.IsOption()) write(record);
+    });
+  }
+}
+
+}  // namespace mortane

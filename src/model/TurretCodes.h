@@ -1,0 +1,72 @@
+// What stands on a turret: the database code at each of its addresses.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "common/Dom.h"
+#include "common/UnitReport.h"
+#include "model/ConnectedMicroscope.h"
+
+namespace mortane {
+
+// In what turrets differ. Labels end with the bracket that opens the number.
+struct TurretKind {
+  std::int32_t accessory;
+  controller::TurretPositions (*positions)(const controller::Microscope&);
+  std::int32_t highestCode;
+  std::string_view failureLabel;
+  std::string_view differenceLabel;
+  std::string_view writeLabel;
+};
+
+// Part of the unit of one turret, which gives it the microscope for each operation. All codes
+// are 0 at first and after a read of a turret that is not mounted.
+class TurretCodes {
+ public:
+  static constexpr std::int32_t kAddresses = 10;
+
+  // The kind must live as long.
+  explicit TurretCodes(const TurretKind& kind) : kind_(kind) {}
+
+  // Addresses count from 1; outside 1 to 10 the answer is -1 and nothing is stored.
+  std::int32_t Code(std::int32_t address) const;
+  void Code(std::int32_t address, std::int32_t code);
+
+  // `count` is the number of the turret's items, if it is mounted and all could be read. After
+  // a failure the codes read so far stay.
+  struct Reading {
+    std::string failure;
+    std::optional<std::int32_t> count;
+  };
+  Reading Read(const ConnectedMicroscope& microscope);
+
+  // `nameOf` gives what follows the address in the line of a code that would be written.
+  using NameOf = std::function<std::string(std::int32_t code)>;
+  std::string Modify(const ConnectedMicroscope& microscope, std::string& list,
+                     const NameOf& nameOf) const;
+  std::string Write(const ConnectedMicroscope& microscope) const;
+
+  // An "ITEM" element of the settings file; `taken` tells whether it could be used.
+  struct FileItem {
+    std::int32_t position;
+    std::int32_t code;
+    bool taken;
+  };
+  FileItem ReadDom(const DomNode& node);
+  // The addresses 1 to `count`.
+  void WriteDom(DomDocument& document, DomNode section, std::int32_t count) const;
+
+ private:
+  const std::int32_t& Stored(std::int32_t address) const;
+  void WriteItem(const controller::TurretPosition& item, WriteReport& report) const;
+
+  const TurretKind& kind_;
+  std::array<std::int32_t, kAddresses> codes_{};
+};
+
+}  // namespace mortane

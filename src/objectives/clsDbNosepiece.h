@@ -1,0 +1,107 @@
+// The objectives that a controller knows: fixed ones and nine that the user defines.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/Dom.h"
+#include "common/UnitReport.h"
+#include "controller/AccessoryDatabase.h"
+#include "model/ConnectedMicroscope.h"
+#include "objectives/ObjectiveCode.h"
+#include "objectives/ObjectiveLists.h"
+
+namespace mortane {
+
+// Owned by clsK70. Codes are 0 to 249; position n, 1 to 9, of the user's objectives is code
+// 240 + n. Queries never fail for an index out of range: they give 0 or an empty text. Numbers
+// as text are in the user's format.
+class clsDbNosepiece {
+ public:
+  explicit clsDbNosepiece(ConnectedMicroscope& microscope)
+      : parent(microscope), objectives_(kCodes) {}
+
+  ConnectedMicroscope& parent;
+
+  // Code of the condenser that suits an objective; told for the user's objectives only.
+  std::int32_t AdoptiveCondenser(std::int32_t code) const;
+  std::string Name(std::int32_t code) const;
+  std::int32_t SeriesCode(std::int32_t code) const;
+
+  // The lists count from 0, whose entry is a row of dashes; the counts are the highest indices.
+  // The controller gives them on the first read, and they stay for good.
+  std::int32_t SeriesCount() const;
+  std::string Series(std::int32_t index) const;
+  std::int32_t TypesCount() const;
+  std::string Types(std::int32_t index) const;
+
+  // Magnifications to choose from, as text: "----", "1x", "1.5x", ... up to index 14.
+  std::int32_t MagCount() const;
+  std::string Mag(std::int32_t index) const;
+
+  // The next objective of series `nSeri` after code `npos`, -1 to begin. Answers its code, which
+  // npos becomes too, or -1 and leaves npos alone. The texts are empty when there is none.
+  // A start below -1 raises a subscript failure.
+  std::int32_t Get_DbNosepiecePocket(std::int32_t nSeri, std::int32_t& npos, std::string& sType,
+                                     std::string& sMag, std::string& sWD, std::string& sNA,
+                                     std::string& sName) const;
+
+  // The user's objective at position 1 to 9, its name cut to 15 characters. Another position
+  // gives empty texts and -1 twice, and leaves nCondenser alone.
+  void Get_DbNosepieceOption(std::int32_t npos, std::string& sName, std::int32_t& nSeries,
+                             std::int32_t& nType, std::string& sMag, std::string& sWD,
+                             std::string& sNA, std::int32_t& nCondenser) const;
+
+  // Stores at position 0 to 9, the name cut to 20 characters. A text that is no number is 0.
+  // Position 0 overwrites the fixed objective of code 240, as it always did.
+  void Set_DbNosepiece(std::int32_t npos, std::string_view sName, std::int32_t nSeries,
+                       std::int32_t nType, std::string_view sMag, std::string_view sWD,
+                       std::string_view sNA, std::int32_t nCondenser);
+
+  std::string ReadSdk();
+  std::string ModifySdk(std::string& list) const;
+  // Goes on after a failure. The condenser is written as a code text of its own, which repeats
+  // the rest as the controller holds it, so it comes after the other values.
+  std::string WriteSdk() const;
+
+  // Takes an "OPTION" element. A code that ends with no digit raises a conversion failure, and
+  // the record stays as it was.
+  std::string ReadDom(const DomNode& node);
+  // Always nine elements.
+  void WriteDom(DomDocument& document, DomNode section) const;
+
+ private:
+  struct Objective {
+    std::string name;
+    ObjectiveValues values;
+  };
+
+  static constexpr std::size_t kCodes = 250;
+
+  // What the controller holds as a position's code text: eleven characters and the digit.
+  struct CodeAnswer {
+    std::string head;
+    std::int32_t condenser;
+  };
+
+  static bool Differs(const controller::ObjectiveRecord& record, const Objective& stored);
+
+  void ReadDB();
+  void ReadRecord(const controller::ObjectiveRecord& record);
+  CodeAnswer AskCode(std::int32_t position) const;
+  void CompareRecord(const controller::ObjectiveRecord& record, std::string& lines) const;
+  void WriteRecord(const controller::ObjectiveRecord& record, WriteReport& report) const;
+  void WriteValues(const controller::ObjectiveRecord& record, std::int32_t code,
+                   ErrorTrap& trap) const;
+  void WriteCondenser(std::int32_t position) const;
+  bool IsLegal(const ObjectiveValues& values) const;
+
+  std::vector<Objective> objectives_;
+  std::array<std::int32_t, kCodes> condensers_{};
+  ObjectiveLists lists_;
+};
+
+}  // namespace mortane

@@ -1,0 +1,53 @@
+// Three rules by which the controller refuses or delays the turning of the nosepiece.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "common/Dom.h"
+#include "model/ConnectedMicroscope.h"
+
+namespace mortane {
+
+// Owned by clsK70. -1 is unknown: the controller did not tell. The controller holds all three
+// as one number, so nothing is written while any of them is unknown.
+class clsLimitation {
+ public:
+  explicit clsLimitation(ConnectedMicroscope& microscope) : parent(microscope) {}
+
+  ConnectedMicroscope& parent;
+
+  // Changing from 2.0x or lower to 1 mm of working distance or less: 0 free, 1 no rotation,
+  // 2 rotation after the stage went down.
+  std::int16_t curIncrease = kUnknown;
+  // Positions without an objective: 0 use, 1 skip. A settings file may make it 2, which no code
+  // of the controller stands for.
+  std::int16_t curSkip = kUnknown;
+  // Turning an immersion objective in or out: as curIncrease.
+  std::int16_t curImmersion = kUnknown;
+
+  bool IsEnable() const;
+
+  std::string ReadSdk();
+  // Compares with what the last read found; asks the controller nothing.
+  std::string ModifySdk(std::string& list) const;
+  // Writes whether the rules changed or not.
+  std::string WriteSdk() const;
+
+  // A "LIMIT" element holds one rule.
+  std::string ReadDom(const DomNode& node);
+  void WriteDom(DomDocument& document, DomNode section) const;
+
+ private:
+  static constexpr std::int16_t kUnknown = -1;
+
+  struct Rule;
+  static const std::array<Rule, 3> kRules;
+
+  bool IsControllable() const;
+
+  std::array<std::int16_t, 3> untouched_{kUnknown, kUnknown, kUnknown};  // in the rules' order
+};
+
+}  // namespace mortane
