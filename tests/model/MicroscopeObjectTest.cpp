@@ -38,6 +38,7 @@ TEST(MicroscopeObject, WithoutARootEveryUseFailsInItsOwnWay) {
   library.prompts.ExpectBox("*** DeviceCount Error!!(5B)", box::kOk, Answer::Ok);
   EXPECT_EQ(k70.DeviceCount(), 0);
   EXPECT_FALSE(k70.Connect(0));
+  library.prompts.ExpectBox("*** DbNosepiece.ReadDB Error!!(5B)", box::kOk, Answer::Ok);
   library.prompts.ExpectBox("System Name", box::kCritical, Answer::Ok);
   k70.Receive();
 }

@@ -79,6 +79,7 @@ TEST(Receive, ChangesNoMountedValue) {
 
 TEST(Receive, WithoutAConnectionSaysSystemName) {
   Rig rig("Harbour");
+  rig.prompts.ExpectBox("*** DbNosepiece.ReadDB Error!!(80004005)", box::kOk);
   rig.prompts.ExpectBox("System Name", box::kCritical, Answer::Ok);
   rig.k70.Receive();
 }
