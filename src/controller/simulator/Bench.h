@@ -105,9 +105,19 @@ struct XYDriveData {
   bool operator==(const XYDriveData&) const = default;
 };
 
-// What follows one accessory: by the triggers 1 observation, 2 optical zoom, 3 nosepiece,
-// 4 light path.
-using InterlockRow = std::array<std::int32_t, 4>;
+// Whether one accessory follows the four triggers: 1 yes, 0 no.
+struct InterlockData {
+  std::int32_t byObservation = 0;
+  std::int32_t byZoom = 0;
+  std::int32_t byNosepiece = 0;
+  std::int32_t byLightPath = 0;
+
+  bool operator==(const InterlockData&) const = default;
+};
+
+// In the order of the triggers, from 1.
+inline constexpr std::array kTriggers{&InterlockData::byObservation, &InterlockData::byZoom,
+                                      &InterlockData::byNosepiece, &InterlockData::byLightPath};
 
 // Keys "1" to "G" of the body. Of the hand controller key "0", its mode, and "1" to "E".
 inline constexpr std::size_t kBodySwitches = 16;
@@ -129,7 +139,7 @@ struct Instrument {
   std::int32_t limitation = 0;
   ZDriveData zDrive;
   XYDriveData xyDrive;
-  std::array<InterlockRow, accessory::kCount> interlocks{};
+  std::array<InterlockData, accessory::kCount> interlocks;
   std::int32_t escapeMode = 0;
   std::array<std::string, kBodySwitches> bodySwitches;
   std::array<std::string, kHandSwitches> handSwitches;
@@ -139,7 +149,7 @@ struct Instrument {
   ControllerUnit& Unit(int unit) { return units.at(Slot(unit)); }
   AccessoryData& Accessory(int number) { return accessories.at(Slot(number)); }
   std::int32_t& Interlock(int item, int trigger) {
-    return interlocks.at(Slot(item)).at(Slot(trigger));
+    return interlocks.at(Slot(item)).*kTriggers.at(Slot(trigger));
   }
 
   bool operator==(const Instrument&) const = default;

@@ -5,14 +5,14 @@
 namespace mortane::controller {
 namespace {
 
-constexpr std::int32_t kTriggers = 4;
 constexpr std::int32_t kBodyUnit = 0;
 constexpr std::int32_t kHandUnit = 4;
 
 std::int32_t& InterlockOf(const DeviceLink& link, Args args) {
   const std::int32_t item = LongArgument(args[0]);
   const std::int32_t trigger = LongArgument(args[1]);
-  if (item < 1 || item > accessory::kCount || trigger < 1 || trigger > kTriggers) {
+  if (item < 1 || item > accessory::kCount || trigger < 1 ||
+      trigger > std::int32_t{kTriggers.size()}) {
     RaiseSimulated("No interlock of " + std::to_string(item) + " by " + std::to_string(trigger) +
                    ".");
   }

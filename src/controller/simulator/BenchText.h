@@ -1,0 +1,53 @@
+// Texts of a bench file and the checks of what it holds.
+#pragma once
+
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "common/Dom.h"
+#include "controller/simulator/Bench.h"
+
+namespace mortane::controller::bench_file {
+
+// Names the place of an element within a table.
+inline constexpr std::string_view kKey = "At";
+// What a switch does.
+inline constexpr std::string_view kFunction = "Function";
+
+// Raises a Failure that names the element and what is wrong with it.
+[[noreturn]] void RaiseAt(const DomNode& node, const std::string& problem);
+
+// Take the value of an attribute of that element; a text of another kind raises a failure.
+void ReadText(const DomNode& node, const DomAttribute& attribute, std::int32_t& value);
+void ReadText(const DomNode& node, const DomAttribute& attribute, bool& value);
+void ReadText(const DomNode& node, const DomAttribute& attribute, double& value);
+void ReadText(const DomNode& node, const DomAttribute& attribute, std::string& value);
+void ReadText(const DomNode& node, const DomAttribute& attribute,
+              std::optional<std::string>& value);
+
+std::string TextOf(std::int32_t value);
+std::string TextOf(bool value);
+std::string TextOf(double value);
+std::string TextOf(const std::string& value);
+std::string TextOf(const std::optional<std::string>& value);
+
+// The elements that were read already within one owner.
+using Seen = std::set<std::string, std::less<>>;
+
+// Raises a failure when `what` was seen before.
+void CheckFirst(const DomNode& node, Seen& seen, const std::string& what);
+void CheckNoChildren(const DomNode& node);
+
+// Raises a failure when the fields do not fit together or not their device.
+void CheckRecord(const DomNode& node, const Instrument& instrument);
+void CheckRecord(const DomNode& node, const CondenserData& condenser);
+template <typename Record>
+void CheckRecord(const DomNode& /*node*/, const Record& /*record*/) {}
+
+// The place that the element's key names; raises a failure when it names none.
+std::size_t PlaceOf(const DomNode& node, std::span<const std::string_view> keys);
+
+}  // namespace mortane::controller::bench_file
