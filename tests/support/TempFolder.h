@@ -29,7 +29,7 @@ class TempFolder {
 
   // Writes a file and gives its path.
   std::string Write(std::string_view name, std::string_view bytes) const {
-    const std::string path = Path(name);
+    std::string path = Path(name);
     std::ofstream(path, std::ios::binary) << bytes;
     return path;
   }

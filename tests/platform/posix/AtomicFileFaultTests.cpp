@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <string>
+
+#include "common/Failure.h"
+#include "platform/AtomicFile.h"
+#include "platform/posix/ChildProcess.h"
+#include "support/TempFolder.h"
+
+namespace mortane {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kTaken = 0;
+constexpr int kRefused = 1;
+
+mode_t ModeOf(const std::string& path) {
+  struct stat status {};
+  EXPECT_EQ(::stat(path.c_str(), &status), 0);
+  return status.st_mode & 07777U;
+}
+
+std::size_t FilesIn(const std::string& folder) {
+  std::size_t count = 0;
+  for (fs::directory_iterator entry(folder), end; entry != end; ++entry) ++count;
+  return count;
+}
+
+int Try(const std::string& path, const std::string& bytes, const std::string& reason) {
+  try {
+    WriteFileAtomically(path, bytes);
+    return kTaken;
+  } catch (const Failure& failure) {
+    return failure.Description().find(reason) == std::string::npos ? 2 : kRefused;
+  }
+}
+
+int TryAsNobody(const std::string& path, const std::string& reason) {
+  test::ChildProcess child([&](const test::ChildProcess::Side&) {
+    test::DropPrivileges();
+    return Try(path, "new", reason);
+  });
+  return child.Wait();
+}
+
+void OpenToEveryone(const std::string& path) {
+  fs::permissions(path, fs::perms::all);
+}
+
+TEST(AtomicFileFaults, LeaveTheOldFileInAReadOnlyFolder) {
+  const test::TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  OpenToEveryone(path);
+  fs::permissions(folder.Path(""), fs::perms::owner_read | fs::perms::owner_exec |
+                                       fs::perms::others_read | fs::perms::others_exec);
+  EXPECT_EQ(TryAsNobody(path, "Permission denied"), kRefused);
+  fs::permissions(folder.Path(""), fs::perms::owner_all);
+  EXPECT_EQ(ReadWholeFile(path), "old");
+  EXPECT_EQ(FilesIn(folder.Path("")), 1U);
+}
+
+TEST(AtomicFileFaults, LeaveAReadOnlyFile) {
+  const test::TempFolder folder;
+  OpenToEveryone(folder.Path(""));
+  const std::string path = folder.Write("a.xml", "old");
+  fs::permissions(path, fs::perms::owner_read | fs::perms::others_read);
+  EXPECT_EQ(TryAsNobody(path, "Permission denied"), kRefused);
+  EXPECT_EQ(ReadWholeFile(path), "old");
+  EXPECT_EQ(FilesIn(folder.Path("")), 1U);
+}
+
+TEST(AtomicFileFaults, ReadRefusesAFileWithoutPermission) {
+  const test::TempFolder folder;
+  OpenToEveryone(folder.Path(""));
+  const std::string path = folder.Write("a.xml", "secret");
+  fs::permissions(path, fs::perms::none);
+  test::ChildProcess child([&](const test::ChildProcess::Side&) {
+    test::DropPrivileges();
+    try {
+      ReadWholeFile(path);
+      return kTaken;
+    } catch (const Failure&) {
+      return kRefused;
+    }
+  });
+  EXPECT_EQ(child.Wait(), kRefused);
+}
+
+// A limit on the size of files ends a write half-way, as a full disk does.
+TEST(AtomicFileFaults, LeaveTheOldFileWhenTheDiskIsFull) {
+  const test::TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  test::ChildProcess child([&](const test::ChildProcess::Side&) {
+    ::signal(SIGXFSZ, SIG_IGN);
+    const struct rlimit limit { 4096, 4096 };
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 3;
+    return Try(path, std::string(100000, 'x'), "File too large");
+  });
+  EXPECT_EQ(child.Wait(), kRefused);
+  EXPECT_EQ(ReadWholeFile(path), "old");
+  EXPECT_EQ(FilesIn(folder.Path("")), 1U);
+}
+
+TEST(AtomicFileFaults, NeverReplaceADevice) {
+  EXPECT_EQ(Try("/dev/full", "x", "not a regular file"), kRefused);
+  EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+TEST(AtomicFileFaults, DoNotWaitForThePartnerOfAPipe) {
+  const test::TempFolder folder;
+  ASSERT_EQ(::mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  EXPECT_THROW(ReadWholeFile(folder.Path("pipe")), Failure);
+  EXPECT_EQ(Try(folder.Path("pipe"), "x", "not a regular file"), kRefused);
+}
+
+// Has the calling process ended by a signal, wherever it is then.
+void DieIn(int microseconds) {
+  const struct itimerval once {
+    {0, 0}, { microseconds / 1000000, microseconds % 1000000 }
+  };
+  ::setitimer(ITIMER_REAL, &once, nullptr);
+}
+
+TEST(AtomicFileFaults, AKilledProcessLeavesTheOldContentOrTheNew) {
+  const test::TempFolder folder;
+  const std::string path = folder.Path("a.xml");
+  const std::string first(300000, 'a');
+  const std::string second(400000, 'b');
+  int kept = 0;
+  for (int point = 0; point < 60; ++point) {
+    WriteFileAtomically(path, first);
+    test::ChildProcess child([&](const test::ChildProcess::Side& parent) {
+      DieIn(1 + 60 * point);
+      WriteFileAtomically(path, second);
+      parent.AwaitParent();
+      return 0;
+    });
+    ASSERT_EQ(child.Wait(), -SIGALRM);
+    const std::string found = ReadWholeFile(path);
+    ASSERT_TRUE(found == first || found == second) << "after " << found.size() << " bytes";
+    kept += found == first ? 1 : 0;
+  }
+  EXPECT_GT(kept, 0) << "no process was killed before its save had ended";
+}
+
+TEST(AtomicFileFaults, AProcessKilledAfterTheSaveLeavesTheNewContent) {
+  const test::TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  test::ChildProcess child([&](const test::ChildProcess::Side& parent) {
+    WriteFileAtomically(path, "new");
+    parent.Tell();
+    parent.AwaitParent();
+    return 0;
+  });
+  child.AwaitChild();
+  child.Kill();
+  EXPECT_EQ(ReadWholeFile(path), "new");
+}
+
+TEST(AtomicFile, KeepsThePermissionsOfTheFile) {
+  const test::TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
+  WriteFileAtomically(path, "new");
+  EXPECT_EQ(ModeOf(path), 0640U);
+}
+
+TEST(AtomicFile, MakesANewFileUnderTheUsersMask) {
+  const test::TempFolder folder;
+  const mode_t old = ::umask(027);
+  WriteFileAtomically(folder.Path("a.xml"), "new");
+  ::umask(old);
+  EXPECT_EQ(ModeOf(folder.Path("a.xml")), 0640U);
+}
+
+TEST(AtomicFile, WritesToWhereALinkLeads) {
+  const test::TempFolder folder;
+  fs::create_directory(folder.Path("inner"));
+  const std::string target = folder.Write("inner/a.xml", "old");
+  fs::create_symlink("inner/a.xml", folder.Path("link"));
+  fs::create_symlink("link", folder.Path("chain"));
+  fs::create_symlink("inner/new.xml", folder.Path("dangling"));
+  WriteFileAtomically(folder.Path("chain"), "new");
+  WriteFileAtomically(folder.Path("dangling"), "made");
+  EXPECT_EQ(ReadWholeFile(target), "new");
+  EXPECT_EQ(ReadWholeFile(folder.Path("inner/new.xml")), "made");
+  EXPECT_TRUE(fs::is_symlink(folder.Path("chain")) && fs::is_symlink(folder.Path("dangling")));
+}
+
+TEST(AtomicFile, RefusesLinksThatGoInACircle) {
+  const test::TempFolder folder;
+  fs::create_symlink("b", folder.Path("a"));
+  fs::create_symlink("a", folder.Path("b"));
+  EXPECT_EQ(Try(folder.Path("a"), "x", "Too many levels of symbolic links"), kRefused);
+}
+
+TEST(AtomicFile, GoesAroundWhatAKilledProcessLeftBeside) {
+  const test::TempFolder folder;
+  const std::string left = ".mortane-" + std::to_string(::getpid()) + "-0.tmp";
+  folder.Write(left, "left");
+  WriteFileAtomically(folder.Path("a.xml"), "new");
+  EXPECT_EQ(ReadWholeFile(folder.Path("a.xml")), "new");
+  EXPECT_EQ(ReadWholeFile(folder.Path(left)), "left");
+}
+
+}  // namespace
+}  // namespace mortane

@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+
+#include "platform/NamedMutex.h"
+#include "platform/posix/ChildProcess.h"
+#include "support/UniqueName.h"
+
+namespace mortane {
+namespace {
+
+using Opened = NamedMutex::Opened;
+
+int OpenInChild(const std::string& name, bool asNobody = false) {
+  test::ChildProcess child([&](const test::ChildProcess::Side&) {
+    if (asNobody) test::DropPrivileges();
+    return static_cast<int>(NamedMutex().Open(name));
+  });
+  return child.Wait();
+}
+
+// The file behind a name; empty when there is none.
+std::filesystem::path LockFile(const std::string& name) {
+  for (const char* folder : {"/run/lock", "/tmp"}) {
+    auto path = std::filesystem::path(folder) / ("mortane-" + name + ".lock");
+    if (std::filesystem::exists(std::filesystem::symlink_status(path))) return path;
+  }
+  return {};
+}
+
+TEST(NamedMutexAcrossProcesses, ExcludesTheSecondProcess) {
+  const test::UniqueName unique;
+  const std::string& name = unique.Text();
+  NamedMutex holder;
+  ASSERT_EQ(holder.Open(name), Opened::First);
+  EXPECT_EQ(OpenInChild(name), static_cast<int>(Opened::AlreadyExisted));
+  holder.Close();
+  EXPECT_EQ(OpenInChild(name), static_cast<int>(Opened::First));
+}
+
+TEST(NamedMutexAcrossProcesses, IsFreeOnceItsHolderWasKilled) {
+  const test::UniqueName unique;
+  const std::string& name = unique.Text();
+  test::ChildProcess holder([&](const test::ChildProcess::Side& parent) {
+    NamedMutex mutex;
+    if (mutex.Open(name) != Opened::First) return 1;
+    parent.Tell();
+    parent.AwaitParent();
+    return 0;
+  });
+  holder.AwaitChild();
+  EXPECT_EQ(NamedMutex().Open(name), Opened::AlreadyExisted);
+  holder.Kill();
+  EXPECT_EQ(NamedMutex().Open(name), Opened::First);
+}
+
+TEST(NamedMutexAcrossProcesses, IsNotKeptAliveByALoser) {
+  const test::UniqueName unique;
+  const std::string& name = unique.Text();
+  // Made before the holder opens, whose descriptor it would inherit otherwise.
+  test::ChildProcess loser([&](const test::ChildProcess::Side& parent) {
+    parent.AwaitParent();
+    NamedMutex mutex;
+    if (mutex.Open(name) != Opened::AlreadyExisted) return 1;
+    parent.Tell();
+    parent.AwaitParent();
+    return 0;
+  });
+  NamedMutex holder;
+  ASSERT_EQ(holder.Open(name), Opened::First);
+  loser.Tell();
+  loser.AwaitChild();
+  holder.Close();
+  EXPECT_EQ(NamedMutex().Open(name), Opened::First);
+  loser.Tell();
+  EXPECT_EQ(loser.Wait(), 0);
+}
+
+TEST(NamedMutexAcrossProcesses, HoldsForAnotherUserToo) {
+  const test::UniqueName unique;
+  const std::string& name = unique.Text();
+  NamedMutex holder;
+  const mode_t old = ::umask(077);
+  ASSERT_EQ(holder.Open(name), Opened::First);
+  ::umask(old);
+  EXPECT_EQ(OpenInChild(name, true), static_cast<int>(Opened::AlreadyExisted));
+  holder.Close();
+  EXPECT_EQ(OpenInChild(name, true), static_cast<int>(Opened::First));
+}
+
+TEST(NamedMutexAcrossProcesses, FollowsNoLinkInTheFilesPlace) {
+  const test::UniqueName unique;
+  const std::string& name = unique.Text();
+  ASSERT_EQ(NamedMutex().Open(name), Opened::First);
+  const std::filesystem::path file = LockFile(name);
+  ASSERT_FALSE(file.empty());
+  std::filesystem::remove(file);
+  const std::filesystem::path victim = file.string() + ".victim";
+  std::filesystem::create_symlink(victim, file);
+  EXPECT_EQ(NamedMutex().Open(name), Opened::Failed);
+  EXPECT_FALSE(std::filesystem::exists(victim));
+  std::filesystem::remove(file);
+}
+
+TEST(NamedMutexAcrossProcesses, OwnsApartFromTheName) {
+  const test::UniqueName unique;
+  const std::string& name = unique.Text();
+  NamedMutex holder;
+  ASSERT_EQ(holder.Open(name), Opened::First);
+  test::ChildProcess other([&](const test::ChildProcess::Side& parent) {
+    NamedMutex mutex;
+    mutex.Open(name);
+    mutex.Lock(-1);
+    parent.Tell();
+    parent.AwaitParent();
+    mutex.Unlock();
+    parent.Tell();
+    parent.AwaitParent();
+    return 0;
+  });
+  other.AwaitChild();
+  holder.Lock(0);  // in vain, and back at once
+  other.Tell();
+  other.AwaitChild();
+  holder.Lock(-1);
+  other.Tell();
+  EXPECT_EQ(other.Wait(), 0);
+}
+
+}  // namespace
+}  // namespace mortane

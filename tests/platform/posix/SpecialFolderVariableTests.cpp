@@ -1,0 +1,70 @@
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+#include "platform/SpecialFolder.h"
+
+namespace mortane {
+namespace {
+
+// Sets a variable of the environment and brings its old value back.
+class Variable {
+ public:
+  Variable(const char* name, const char* value) : name_(name) {
+    if (const char* old = std::getenv(name)) old_ = old;
+    Set(value);
+  }
+  ~Variable() { Set(old_ ? old_->c_str() : nullptr); }
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+
+ private:
+  void Set(const char* value) const {
+    if (value == nullptr) {
+      ::unsetenv(name_);
+    } else {
+      ::setenv(name_, value, 1);
+    }
+  }
+
+  const char* name_;
+  std::optional<std::string> old_;
+};
+
+struct Row {
+  const char* configured;
+  const char* home;
+  const char* folder;
+};
+
+TEST(GetSpecialFolder, FollowsTheConfigurationFolderAndThenHome) {
+  const Row rows[] = {
+      {"/c", "/home/u", "/c"},
+      {"/c d\xC3\xA9/", "/home/u", "/c d\xC3\xA9"},
+      {"", "/home/u", "/home/u/.config"},
+      {nullptr, "/home/u/", "/home/u/.config"},
+      {"relative", "/home/u", "/home/u/.config"},
+      {"/", "/home/u", "/"},
+  };
+  for (const Row& row : rows) {
+    const Variable configured("XDG_CONFIG_HOME", row.configured);
+    const Variable home("HOME", row.home);
+    EXPECT_EQ(GetSpecialFolder(kApplicationDataFolder), row.folder);
+  }
+}
+
+TEST(GetSpecialFolder, AsksTheUserTableWithoutHome) {
+  const Variable configured("XDG_CONFIG_HOME", nullptr);
+  const Variable home("HOME", nullptr);
+  const struct passwd* user = ::getpwuid(::getuid());
+  const std::string expected =
+      user == nullptr ? std::string() : std::string(user->pw_dir) + "/.config";
+  EXPECT_EQ(GetSpecialFolder(kApplicationDataFolder), expected);
+}
+
+}  // namespace
+}  // namespace mortane
