@@ -1,0 +1,52 @@
+// Card and inner frame: the two depths that a page is made of.
+#pragma once
+
+#include <QFrame>
+#include <QString>
+
+class QLabel;
+class QVBoxLayout;
+
+namespace mortane {
+
+// A light sheet on the window's ground, its caption as the first line. Children go into body().
+class Card : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit Card(const QString& caption = {}, QWidget* parent = nullptr);
+
+  [[nodiscard]] QVBoxLayout* body() const { return body_; }
+  [[nodiscard]] QString caption() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QLabel* caption_ = nullptr;
+  QVBoxLayout* body_ = nullptr;
+};
+
+// A frame inside a card. Not fitted, it loses its fill and its line is dashed.
+class InnerFrame : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit InnerFrame(const QString& caption = {}, QWidget* parent = nullptr);
+
+  [[nodiscard]] QVBoxLayout* body() const { return body_; }
+  [[nodiscard]] QString caption() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  QLabel* caption_ = nullptr;
+  QVBoxLayout* body_ = nullptr;
+};
+
+// A label in caption type: over a value, under an option.
+QLabel* CaptionLabel(const QString& text, QWidget* parent = nullptr);
+
+}  // namespace mortane

@@ -1,0 +1,27 @@
+// A switch with the caption ON or OFF.
+#pragma once
+
+#include <QAbstractButton>
+
+namespace mortane {
+
+// toggled() is raised for every change of the value, by the user or the program, after the caption
+// has followed. Disabled it keeps its last side, dashed.
+class CheckToggle : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  explicit CheckToggle(QWidget* parent = nullptr);
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  void checkStateSet() override;
+  void nextCheckState() override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void UpdateCaption();
+};
+
+}  // namespace mortane

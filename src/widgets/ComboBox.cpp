@@ -1,0 +1,58 @@
+#include "widgets/ComboBox.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include "widgets/RowDelegate.h"
+
+namespace mortane {
+
+ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setItemDelegate(new RowDelegate(this));
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  setMaxVisibleItems(16);
+  connect(this, &QComboBox::activated, this, [this](int row) {
+    emit chosen(row);
+    emit clicked(row);
+  });
+}
+
+int ComboBox::addRow(const QString& text, const QVariant& data) {
+  const QSignalBlocker quiet(this);
+  const int before = currentIndex();
+  addItem(text, data);
+  setCurrentIndex(before);
+  return count() - 1;
+}
+
+void ComboBox::clearRows() {
+  const QSignalBlocker quiet(this);
+  clear();
+}
+
+void ComboBox::setIndex(int row) {
+  const int before = currentIndex();
+  setCurrentIndex(row >= 0 && row < count() ? row : -1);
+  if (currentIndex() >= 0 && currentIndex() != before) emit clicked(currentIndex());
+}
+
+void ComboBox::wheelEvent(QWheelEvent* event) {
+  if (hasFocus())
+    QComboBox::wheelEvent(event);
+  else
+    event->ignore();
+}
+
+void ComboBox::keyPressEvent(QKeyEvent* event) {
+  // Enter opens the list, so that the keyboard can choose the entry on show again.
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    showPopup();
+    return;
+  }
+  QComboBox::keyPressEvent(event);
+}
+
+}  // namespace mortane

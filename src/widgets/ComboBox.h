@@ -1,0 +1,34 @@
+// A drop-down list with item data.
+#pragma once
+
+#include <QComboBox>
+#include <QVariant>
+
+namespace mortane {
+
+// Filling leaves nothing selected. chosen() is raised for every choice of the user, also of the
+// entry on show; clicked() for that and for a new entry set by the program. The wheel works only
+// with the focus.
+class ComboBox : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit ComboBox(QWidget* parent = nullptr);
+
+  int addRow(const QString& text, const QVariant& data = {});
+  void clearRows();
+  [[nodiscard]] int index() const { return currentIndex(); }
+  void setIndex(int row);  // an index that is no row shows nothing
+  [[nodiscard]] QVariant data(int row) const { return itemData(row); }
+  [[nodiscard]] int rowOf(const QVariant& data) const { return findData(data); }
+
+ signals:
+  void chosen(int row);
+  void clicked(int row);
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace mortane

@@ -1,0 +1,49 @@
+#include "widgets/ContainerPage.h"
+
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "widgets/PageHeader.h"
+#include "widgets/SectionBar.h"
+
+namespace mortane {
+
+ContainerPage::ContainerPage(IconName icon, const QString& title, int sectionStart, QWidget* parent)
+    : Page(parent), header_(new PageHeader(icon, title, this)) {
+  header_->AddSectionBar(sectionStart);
+  connect(sections(), &SectionBar::clicked, this, &ContainerPage::ShowSubPage);
+  QVBoxLayout* column = MakePageLayout(this, header_);
+  auto* scroll = new QScrollArea(this);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  auto* ground = new QWidget;
+  stack_ = new QVBoxLayout(ground);
+  stack_->setContentsMargins(0, 0, 0, 0);
+  scroll->setWidget(ground);
+  column->addWidget(scroll, 1);
+}
+
+int ContainerPage::AddSubPage(const QString& caption, Page* page) {
+  page->hide();
+  stack_->addWidget(page);
+  subPages_.append(page);
+  return sections()->AddOption(caption);
+}
+
+SectionBar* ContainerPage::sections() const {
+  return header_->sectionBar();
+}
+
+int ContainerPage::CurrentItem() const {
+  return sections()->selected();
+}
+
+void ContainerPage::ShowSubPage(int index) {
+  if (shown_ != nullptr) shown_->hide();
+  shown_ = subPages_[index];
+  shown_->LoadData();
+  shown_->show();
+}
+
+}  // namespace mortane

@@ -1,0 +1,121 @@
+#include "widgets/Icons.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+#include <array>
+#include <string_view>
+
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr std::array<std::string_view, kIconCount> kFiles{
+    "system",    "objective", "cube",      "condenser", "interlock",   "control", "open",
+    "save",      "select",    "receive",   "send",      "exit",        "new",     "lamp",
+    "nosepiece", "nd",        "lightpath", "fieldstop", "aperture",    "zoom",    "shutter",
+    "analyzer",  "zfocus",    "xystage",   "checklist", "loudspeaker", "hand",    "flag",
+    "check",     "info",      "emblem",    "stepsmall", "steplarge",
+};
+
+// The colours that stand in the files for the two of a tint.
+constexpr char kLineInFile[] = "#000000";
+constexpr char kAccentInFile[] = "#0000ff";
+
+QByteArray ReadDrawing(IconName name) {
+  const std::string_view file = kFiles[static_cast<std::size_t>(name)];
+  QFile source(QStringLiteral(":/mortane/icons/") +
+               QString::fromLatin1(file.data(), static_cast<qsizetype>(file.size())) +
+               QStringLiteral(".svg"));
+  const bool opened = source.open(QIODevice::ReadOnly);
+  Q_ASSERT(opened);
+  return opened ? source.readAll() : QByteArray();
+}
+
+QByteArray Tinted(IconName name, const IconTint& tint) {
+  const QColor accent = tint.accent.isValid() ? tint.accent : tint.line;
+  QByteArray drawing = ReadDrawing(name);
+  drawing.replace(kLineInFile, tint.line.name().toLatin1());
+  drawing.replace(kAccentInFile, accent.name().toLatin1());
+  return drawing;
+}
+
+QString CacheKey(IconName name, int size, const IconTint& tint, double ratio) {
+  return QStringLiteral("mortane-%1-%2-%3-%4-%5")
+      .arg(static_cast<int>(name))
+      .arg(size)
+      .arg(tint.line.rgba())
+      .arg(tint.accent.isValid() ? tint.accent.rgba() : 0U)
+      .arg(ratio);
+}
+
+class TintedIconEngine : public QIconEngine {
+ public:
+  explicit TintedIconEngine(IconName name) : name_(name) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    DrawIcon(*painter, name_, rect, TintFor(mode));
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const int side = qMin(size.width(), size.height());
+    DrawIcon(painter, name_,
+             QRectF((size.width() - side) / 2.0, (size.height() - side) / 2.0, side, side),
+             TintFor(mode));
+    return pixmap;
+  }
+
+  [[nodiscard]] QIconEngine* clone() const override { return new TintedIconEngine(name_); }
+
+ private:
+  static IconTint TintFor(QIcon::Mode mode) {
+    const QPalette palette = QApplication::palette();
+    if (mode == QIcon::Disabled)
+      return {palette.color(QPalette::Disabled, QPalette::ButtonText), {}};
+    if (mode == QIcon::Selected)
+      return {palette.color(QPalette::HighlightedText), ToneColor(Tone::Amber)};
+    return {palette.color(QPalette::ButtonText), ToneColor(Tone::IconAccent)};
+  }
+
+  IconName name_;
+};
+
+}  // namespace
+
+void DrawIcon(QPainter& painter, IconName name, const QRectF& area, const IconTint& tint) {
+  const double ratio = painter.device() ? painter.device()->devicePixelRatio() : 1;
+  const int side = qRound(qMin(area.width(), area.height()));
+  painter.drawPixmap(QRectF(area.topLeft(), QSizeF(side, side)).toRect(),
+                     Icon(name, side, tint, ratio));
+}
+
+QPixmap Icon(IconName name, int size, const IconTint& tint, double devicePixelRatio) {
+  const QString key = CacheKey(name, size, tint, devicePixelRatio);
+  QPixmap pixmap;
+  if (QPixmapCache::find(key, &pixmap)) return pixmap;
+  const int pixels = qRound(size * devicePixelRatio);
+  pixmap = QPixmap(pixels, pixels);
+  pixmap.fill(Qt::transparent);
+  QSvgRenderer renderer(Tinted(name, tint));
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  renderer.render(&painter, QRectF(0, 0, pixels, pixels));
+  painter.end();
+  pixmap.setDevicePixelRatio(devicePixelRatio);
+  QPixmapCache::insert(key, pixmap);
+  return pixmap;
+}
+
+QIcon Icon(IconName name) {
+  return QIcon(new TintedIconEngine(name));
+}
+
+}  // namespace mortane

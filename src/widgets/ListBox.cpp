@@ -1,0 +1,187 @@
+#include "widgets/ListBox.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "widgets/RowDelegate.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kIconSide = 22;
+constexpr int kRowsAskedFor = 6;
+
+}  // namespace
+
+ListBox::ListBox(QWidget* parent) : QTreeWidget(parent) {
+  setItemDelegate(new RowDelegate(this));
+  setRootIsDecorated(false);
+  setUniformRowHeights(true);
+  setSelectionMode(SingleSelection);
+  setSelectionBehavior(SelectRows);
+  setEditTriggers(NoEditTriggers);
+  setVerticalScrollMode(ScrollPerPixel);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setTextElideMode(Qt::ElideRight);
+  setIndentation(0);
+  header()->setSectionsClickable(false);
+  header()->setSectionsMovable(false);
+  header()->setMinimumSectionSize(16);
+  SetColumns({{}});
+}
+
+void ListBox::SetColumns(const QVector<ListColumn>& columns) {
+  columns_ = columns;
+  const int count = static_cast<int>(columns.size());
+  setColumnCount(count);
+  QStringList heads;
+  bool named = false;
+  for (int i = 0; i < count; ++i) {
+    heads.append(columns[i].header);
+    named = named || !columns[i].header.isEmpty();
+    headerItem()->setTextAlignment(i, columns[i].alignment | Qt::AlignVCenter);
+  }
+  setHeaderLabels(heads);
+  setHeaderHidden(!named);
+  header()->setFont(CaptionFont());
+  header()->setStretchLastSection(true);
+  for (int i = 0; i + 1 < count; ++i)
+    header()->setSectionResizeMode(i, QHeaderView::ResizeToContents);
+}
+
+void ListBox::SetIconRows(bool iconRows) {
+  setIconSize({kIconSide, kIconSide});
+  static_cast<RowDelegate*>(itemDelegate())
+      ->SetLeastHeight(iconRows ? grid::kIconRowHeight : grid::kRowHeight);
+}
+
+int ListBox::addRow(const QString& text, const QVariant& data) {
+  auto* item = new QTreeWidgetItem(this);
+  const QStringList parts = text.split(QLatin1Char('\t'));
+  const int count = qMin(static_cast<int>(parts.size()), columnCount());
+  for (int i = 0; i < count; ++i) {
+    item->setText(i, parts[i]);
+    item->setTextAlignment(i, columns_[i].alignment | Qt::AlignVCenter);
+  }
+  item->setData(0, Qt::UserRole, data);
+  return rowCount() - 1;
+}
+
+void ListBox::SetRowIcon(int row, IconName icon) {
+  topLevelItem(row)->setIcon(0, Icon(icon));
+}
+
+void ListBox::SetRowDimmed(int row, bool dimmed) {
+  for (int i = 0; i < columnCount(); ++i) topLevelItem(row)->setData(i, kDimmedRole, dimmed);
+}
+
+void ListBox::SetRowChecked(int row, bool checked) {
+  topLevelItem(row)->setCheckState(0, checked ? Qt::Checked : Qt::Unchecked);
+}
+
+bool ListBox::isRowChecked(int row) const {
+  return topLevelItem(row)->checkState(0) == Qt::Checked;
+}
+
+void ListBox::clearRows() {
+  clear();
+}
+
+QString ListBox::text(int row) const {
+  const QTreeWidgetItem* item = topLevelItem(row);
+  if (item == nullptr) return {};
+  QStringList parts;
+  for (int i = 0; i < columnCount(); ++i) parts.append(item->text(i));
+  return parts.join(QLatin1Char('\t'));
+}
+
+QVariant ListBox::data(int row) const {
+  const QTreeWidgetItem* item = topLevelItem(row);
+  return item != nullptr ? item->data(0, Qt::UserRole) : QVariant();
+}
+
+void ListBox::setData(int row, const QVariant& data) {
+  if (QTreeWidgetItem* item = topLevelItem(row)) item->setData(0, Qt::UserRole, data);
+}
+
+int ListBox::index() const {
+  const QList<QTreeWidgetItem*> selected = selectedItems();
+  return selected.isEmpty() ? -1 : indexOfTopLevelItem(selected.first());
+}
+
+void ListBox::setIndex(int row) {
+  const int before = index();
+  SelectQuietly(row);
+  if (index() >= 0 && index() != before) emit clicked(index());
+}
+
+void ListBox::SelectQuietly(int row) {
+  QTreeWidgetItem* item = topLevelItem(row);
+  if (item == nullptr) {
+    setCurrentItem(nullptr);
+    clearSelection();
+    return;
+  }
+  setCurrentItem(item);
+  scrollToItem(item);
+}
+
+int ListBox::RowAt(const QMouseEvent& event) const {
+  QTreeWidgetItem* item = itemAt(event.position().toPoint());
+  return item == nullptr ? -1 : indexOfTopLevelItem(item);
+}
+
+// The click is raised after the view has done with the event, so that a handler may rebuild the
+// list or ask a question.
+void ListBox::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const int row = RowAt(*event);
+  if (row < 0) return;
+  QTreeWidget::mousePressEvent(event);
+  SelectQuietly(row);
+  emit clicked(row);
+}
+
+void ListBox::mouseMoveEvent(QMouseEvent* event) {
+  const int before = index();
+  QTreeWidget::mouseMoveEvent(event);
+  if (index() >= 0 && index() != before) emit clicked(index());
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
+  const int row = RowAt(*event);
+  if (row != index())
+    mousePressEvent(event);
+  else
+    QTreeWidget::mouseDoubleClickEvent(event);
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+  const int before = index();
+  QTreeWidget::keyPressEvent(event);
+  if (index() >= 0 && index() != before) emit clicked(index());
+}
+
+// A view that gets the focus with no current row would make the first one current.
+void ListBox::focusInEvent(QFocusEvent* event) {
+  if (index() < 0)
+    QWidget::focusInEvent(event);
+  else
+    QTreeWidget::focusInEvent(event);
+  update();
+  viewport()->update();
+}
+
+void ListBox::focusOutEvent(QFocusEvent* event) {
+  QTreeWidget::focusOutEvent(event);
+  update();
+}
+
+QSize ListBox::sizeHint() const {
+  const int row = GridHeight(grid::kRowHeight, *this);
+  return {QTreeWidget::sizeHint().width(), row * kRowsAskedFor};
+}
+
+}  // namespace mortane

@@ -1,0 +1,66 @@
+// A list with item data and, where asked, columns: its rows are tab-separated texts.
+#pragma once
+
+#include <QTreeWidget>
+#include <QVariant>
+#include <QVector>
+
+#include "widgets/Icons.h"
+
+namespace mortane {
+
+struct ListColumn {
+  QString header;
+  Qt::Alignment alignment = Qt::AlignLeft;
+};
+
+// clicked() is raised once for each new row, by the program or the user, and for every click of
+// the user, also on the row already selected. Filling, clearing and focus raise nothing.
+class ListBox : public QTreeWidget {
+  Q_OBJECT
+
+ public:
+  explicit ListBox(QWidget* parent = nullptr);
+
+  // Columns before rows. Heads are shown if one of them has a text; the last column stretches.
+  void SetColumns(const QVector<ListColumn>& columns);
+  void SetIconRows(bool iconRows);
+
+  int addRow(const QString& text, const QVariant& data = {});
+  void SetRowIcon(int row, IconName icon);
+  // Grey, but as selectable as the others.
+  void SetRowDimmed(int row, bool dimmed);
+  void SetRowChecked(int row, bool checked);
+  [[nodiscard]] bool isRowChecked(int row) const;
+  void clearRows();
+
+  [[nodiscard]] int rowCount() const { return topLevelItemCount(); }
+  [[nodiscard]] QString text(int row) const;  // columns joined by tabs
+  [[nodiscard]] QVariant data(int row) const;
+  void setData(int row, const QVariant& data);
+
+  [[nodiscard]] int index() const;  // -1: none
+  void setIndex(int row);           // an index that is no row clears the selection
+
+ signals:
+  void clicked(int row);
+  void rowChecked(int row, bool checked);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  [[nodiscard]] QSize sizeHint() const override;
+
+  void SelectQuietly(int row);
+
+ private:
+  [[nodiscard]] int RowAt(const QMouseEvent& event) const;
+
+  QVector<ListColumn> columns_;
+};
+
+}  // namespace mortane

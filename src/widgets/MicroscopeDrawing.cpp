@@ -1,0 +1,186 @@
+#include "widgets/MicroscopeDrawing.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <algorithm>
+#include <array>
+
+#include "widgets/Paint.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr QSizeF kDesign{638, 394};
+constexpr double kLeastScale = 0.8;
+constexpr double kMostScale = 1.5;
+constexpr double kLabelMargin = 16;
+constexpr double kTextGap = 7;
+constexpr double kElbow = 26;
+constexpr double kDotRadius = 5;
+
+enum class Side { Left, Right };
+
+// Where an accessory sits on the drawing, and the height of its label, in design pixels.
+struct Anchor {
+  int number;
+  Side side;
+  double x;
+  double y;
+  double labelY;
+};
+
+constexpr std::array kAnchors{
+    Anchor{1, Side::Right, 408, 72, 77},       Anchor{2, Side::Left, 343.5, 104.5, 104.5},
+    Anchor{3, Side::Right, 371, 165.5, 165.5}, Anchor{4, Side::Right, 458, 55, 50},
+    Anchor{5, Side::Left, 330, 144, 144},      Anchor{6, Side::Right, 384, 270, 261},
+    Anchor{7, Side::Right, 444, 312, 315},     Anchor{8, Side::Left, 298, 274, 271},
+    Anchor{9, Side::Left, 334, 245, 244},      Anchor{10, Side::Right, 391, 300, 288},
+    Anchor{11, Side::Left, 283, 295, 298},     Anchor{12, Side::Left, 312, 326, 326},
+    Anchor{13, Side::Right, 463, 326, 342},    Anchor{14, Side::Left, 305, 200.5, 200.5},
+};
+
+const Anchor* AnchorOf(int number) {
+  const auto* found = std::find_if(kAnchors.begin(), kAnchors.end(),
+                                   [number](const Anchor& a) { return a.number == number; });
+  return found == kAnchors.end() ? nullptr : found;
+}
+
+struct Ink {
+  const char* inFile;
+  Tone tone;
+};
+
+constexpr std::array kInks{
+    Ink{"#33415c", Tone::DrawingLine},  Ink{"#e9edf3", Tone::DrawingFill},
+    Ink{"#d5dce6", Tone::DrawingShade}, Ink{"#bfc9d6", Tone::DrawingDeep},
+    Ink{"#2e9a57", Tone::RingGreen},    Ink{"#f0c419", Tone::RingYellow},
+    Ink{"#5db1e6", Tone::RingBlue},     Ink{"#ffdf66", Tone::LightCone},
+};
+
+// The drawing in the colours of the scheme. White and the dark plate come from the palette.
+QByteArray InkedDrawing(const QPalette& palette) {
+  QFile source(QStringLiteral(":/mortane/microscope.svg"));
+  if (!source.open(QIODevice::ReadOnly)) return {};
+  QByteArray drawing = source.readAll();
+  for (const Ink& ink : kInks) drawing.replace(ink.inFile, ToneColor(ink.tone).name().toLatin1());
+  drawing.replace("#ffffff", palette.color(QPalette::Active, QPalette::Base).name().toLatin1());
+  drawing.replace("#3c475c", palette.color(QPalette::Active, QPalette::Shadow).name().toLatin1());
+  return drawing;
+}
+
+// Room that the labels need beyond the design, since text does not shrink with the drawing.
+double ExtraOnSide(const QVector<DrawnAccessory>& accessories, Side side, double scale,
+                   const QFontMetrics& metrics) {
+  double extra = 0;
+  for (const DrawnAccessory& accessory : accessories) {
+    const Anchor* anchor = AnchorOf(accessory.number);
+    if (anchor == nullptr || anchor->side != side) continue;
+    const double room = (side == Side::Left ? anchor->x : kDesign.width() - anchor->x) - kElbow;
+    const double needed =
+        kLabelMargin + (metrics.horizontalAdvance(accessory.label) + 2 * kTextGap) / scale;
+    extra = std::max(extra, needed - room);
+  }
+  return extra;
+}
+
+void DrawDot(QPainter& painter, QPointF at, int mounted, const QPalette& palette) {
+  const QColor ground = palette.color(QPalette::Base);
+  const QColor mark = palette.color(QPalette::Active, QPalette::Highlight);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ground);
+  painter.drawEllipse(at, kDotRadius + 1.6, kDotRadius + 1.6);
+  if (mounted == 0) {
+    QPen dashed(palette.color(QPalette::Disabled, QPalette::Text), 1.1);
+    dashed.setDashPattern({2.2, 2.0});
+    painter.setPen(dashed);
+    painter.drawEllipse(at, kDotRadius - 0.4, kDotRadius - 0.4);
+  } else if (mounted == 1) {
+    painter.setPen(QPen(mark, 2));
+    painter.drawEllipse(at, kDotRadius - 1, kDotRadius - 1);
+  } else {
+    painter.setBrush(mark);
+    painter.drawEllipse(at, kDotRadius, kDotRadius);
+  }
+}
+
+}  // namespace
+
+MicroscopeDrawing::MicroscopeDrawing(QWidget* parent) : QWidget(parent) {
+  setFocusPolicy(Qt::NoFocus);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void MicroscopeDrawing::SetAccessories(const QVector<DrawnAccessory>& accessories) {
+  accessories_ = accessories;
+  QStringList described;
+  for (const DrawnAccessory& accessory : accessories) {
+    const char* state = accessory.mounted == 0   ? "not mounted"
+                        : accessory.mounted == 1 ? "sensed only"
+                                                 : "controllable";
+    described.append(accessory.label + QStringLiteral(": ") + QLatin1String(state));
+  }
+  setAccessibleDescription(described.join(QStringLiteral(", ")));
+  update();
+}
+
+double MicroscopeDrawing::drawingScale() const {
+  double scale = std::min(width() / kDesign.width(), height() / kDesign.height());
+  scale = std::clamp(scale, kLeastScale, kMostScale);
+  const double extra = ExtraOnSide(accessories_, Side::Left, scale, fontMetrics()) +
+                       ExtraOnSide(accessories_, Side::Right, scale, fontMetrics());
+  return std::clamp(std::min(scale, width() / (kDesign.width() + extra)), kLeastScale, kMostScale);
+}
+
+QSize MicroscopeDrawing::sizeHint() const {
+  return kDesign.toSize();
+}
+
+QSize MicroscopeDrawing::minimumSizeHint() const {
+  return (kDesign * kLeastScale).toSize();
+}
+
+void MicroscopeDrawing::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  DrawPlate(painter, rect(), palette().color(QPalette::AlternateBase),
+            {palette().color(QPalette::Mid), 1, grid::kInnerCorner});
+  const double scale = drawingScale();
+  const double left = ExtraOnSide(accessories_, Side::Left, scale, fontMetrics());
+  const double right = ExtraOnSide(accessories_, Side::Right, scale, fontMetrics());
+  const double whole = (left + kDesign.width() + right) * scale;
+  const QPointF origin((width() - whole) / 2 + left * scale,
+                       (height() - kDesign.height() * scale) / 2);
+  QSvgRenderer body(InkedDrawing(palette()));
+  body.render(&painter, QRectF(origin, kDesign * scale));
+
+  const auto place = [&](double x, double y) { return origin + QPointF(x, y) * scale; };
+  const double labelLeft = (width() - whole) / 2 + kLabelMargin * scale;
+  const double labelRight = (width() + whole) / 2 - kLabelMargin * scale;
+  for (const DrawnAccessory& accessory : accessories_) {
+    const Anchor* anchor = AnchorOf(accessory.number);
+    if (anchor == nullptr) continue;
+    const bool onLeft = anchor->side == Side::Left;
+    const QPointF dot = place(anchor->x, anchor->y);
+    const double y = place(0, anchor->labelY).y();
+    const double advance = fontMetrics().horizontalAdvance(accessory.label);
+    const double textLeft = onLeft ? labelLeft : labelRight - advance;
+    const QColor line =
+        palette().color(accessory.mounted == 0 ? QPalette::Disabled : QPalette::Active,
+                        accessory.mounted == 0 ? QPalette::Text : QPalette::Dark);
+    QPen pen(line, 1);
+    if (accessory.mounted == 0) pen.setDashPattern({4, 3});
+    painter.setPen(pen);
+    const double from = onLeft ? textLeft + advance + kTextGap : textLeft - kTextGap;
+    const double elbow = dot.x() + (onLeft ? -kElbow : kElbow) * scale;
+    painter.drawPolyline(QPolygonF{{from, y}, {elbow, y}, dot});
+    painter.setPen(palette().color(accessory.mounted == 0 ? QPalette::Disabled : QPalette::Active,
+                                   QPalette::WindowText));
+    painter.drawText(QRectF(textLeft, y - 20, advance + 2, 40), Qt::AlignLeft | Qt::AlignVCenter,
+                     accessory.label);
+    DrawDot(painter, dot, accessory.mounted, palette());
+  }
+}
+
+}  // namespace mortane

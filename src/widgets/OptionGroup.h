@@ -1,0 +1,39 @@
+// An array of option buttons of which at most one is selected.
+#pragma once
+
+#include <QButtonGroup>
+#include <QObject>
+#include <QVector>
+
+class QAbstractButton;
+class QRadioButton;
+
+namespace mortane {
+
+// Selecting from the program raises clicked() for a new selection only; a user's click raises it
+// always; clearing raises nothing. The buttons form one Tab stop with arrows inside.
+class OptionGroup : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit OptionGroup(QObject* parent);
+
+  // Adds an option of the next index, named arrayName_index.
+  QRadioButton* addOption(const QString& text, const QString& arrayName, QWidget* parent);
+  void add(QAbstractButton* button, int index);
+
+  [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }
+  [[nodiscard]] QAbstractButton* button(int index) const { return group_.button(index); }
+  [[nodiscard]] int selected() const { return group_.checkedId(); }  // -1: none
+  void select(int index);
+  void clear();
+
+ signals:
+  void clicked(int index);
+
+ private:
+  QButtonGroup group_;
+  QVector<QAbstractButton*> buttons_;
+};
+
+}  // namespace mortane

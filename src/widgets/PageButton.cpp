@@ -1,0 +1,99 @@
+#include "widgets/PageButton.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "widgets/Paint.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kIconSize = 32;
+constexpr int kIconTop = 12;
+constexpr int kBarWidth = 4;
+
+}  // namespace
+
+PageButton::PageButton(IconName icon, const QString& text, QWidget* parent)
+    : QAbstractButton(parent), icon_(icon) {
+  setText(text);
+  setFont(RailFont());
+  setAccessibleName(text);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void PageButton::SetSelected(bool selected) {
+  if (selected_ == selected) return;
+  selected_ = selected;
+  update();
+}
+
+void PageButton::SetPending(bool pending) {
+  if (pending_ == pending) return;
+  pending_ = pending;
+  update();
+}
+
+QSize PageButton::sizeHint() const {
+  const int text = fontMetrics().height();
+  return {qMax(grid::kRailWidth, fontMetrics().horizontalAdvance(this->text()) + 16),
+          qMax(grid::kRailButtonHeight, kIconTop + kIconSize + 2 * grid::kUnit + text + 10)};
+}
+
+void PageButton::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier)
+    emit selectRequested();
+  event->accept();
+}
+
+void PageButton::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+}
+
+void PageButton::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
+    emit selectRequested();
+    return;
+  }
+  event->ignore();
+}
+
+void PageButton::keyReleaseEvent(QKeyEvent* event) {
+  event->ignore();
+}
+
+QColor PageButton::Ground() const {
+  if (selected_) return ToneColor(Tone::RailSelected);
+  return ToneColor(isEnabled() && underMouse() ? Tone::RailHover : Tone::Rail);
+}
+
+QColor PageButton::Foreground() const {
+  if (!isEnabled()) return ToneColor(Tone::RailDisabled);
+  return ToneColor(selected_ || underMouse() ? Tone::RailText : Tone::RailResting);
+}
+
+void PageButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Ground());
+  if (selected_) painter.fillRect(0, 0, kBarWidth, height(), ToneColor(Tone::Amber));
+  const QColor foreground = Foreground();
+  const QRectF iconArea((width() - kIconSize) / 2, kIconTop, kIconSize, kIconSize);
+  DrawIcon(painter, icon_, iconArea,
+           {foreground, selected_ && isEnabled() ? ToneColor(Tone::Amber) : foreground});
+  const int textTop = kIconTop + kIconSize + grid::kUnit;
+  painter.setPen(foreground);
+  painter.drawText(QRect(0, textTop, width(), height() - textTop - grid::kUnit),
+                   Qt::AlignHCenter | Qt::AlignVCenter, text());
+  if (pending_ && isEnabled())
+    DrawPendingDot(painter, {iconArea.right() + 4, iconArea.top() + 3},
+                   ToneColor(Tone::RailPending), Ground());
+  if (hasFocus())
+    DrawPlate(painter, QRectF(rect()).adjusted(3, 3, -3, -3), {},
+              {palette().color(QPalette::BrightText), 2, grid::kFieldCorner});
+}
+
+}  // namespace mortane

@@ -1,0 +1,43 @@
+// One page button of the rail.
+#pragma once
+
+#include <QAbstractButton>
+
+#include "widgets/Icons.h"
+
+namespace mortane {
+
+// Acts when the left button goes down with no modifier, and on Space; a click is not needed.
+class PageButton : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  PageButton(IconName icon, const QString& text, QWidget* parent = nullptr);
+
+  void SetSelected(bool selected);
+  [[nodiscard]] bool isSelected() const { return selected_; }
+  // The dot that says: differs from what was last received or sent.
+  void SetPending(bool pending);
+  [[nodiscard]] bool isPending() const { return pending_; }
+  [[nodiscard]] QSize sizeHint() const override;
+
+ signals:
+  void selectRequested();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  [[nodiscard]] QColor Ground() const;
+  [[nodiscard]] QColor Foreground() const;
+
+  IconName icon_;
+  bool selected_ = false;
+  bool pending_ = false;
+};
+
+}  // namespace mortane

@@ -1,0 +1,30 @@
+// Small strokes that the painted widgets and the style share.
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+
+class QPainter;
+
+namespace mortane {
+
+struct Outline {
+  QColor line;
+  double width = 1;
+  double corner = 0;
+  bool dashed = false;
+};
+
+// A filled rounded rectangle whose line lies wholly inside it, sharp at every scale.
+void DrawPlate(QPainter& painter, const QRectF& area, const QColor& fill, const Outline& outline);
+
+// The downward chevron of a combo, standing in the middle of the area.
+void DrawChevronDown(QPainter& painter, const QRectF& area, const QColor& line);
+
+// The tick of a check box or a passed step.
+void DrawTick(QPainter& painter, const QRectF& area, const QColor& line);
+
+// The round dot of a pending change.
+void DrawPendingDot(QPainter& painter, QPointF center, const QColor& fill, const QColor& ground);
+
+}  // namespace mortane

@@ -1,0 +1,44 @@
+// The dark strip of page buttons.
+#pragma once
+
+#include <QVector>
+#include <QWidget>
+
+#include "widgets/Icons.h"
+
+namespace mortane {
+
+class PageButton;
+
+// One Tab stop. Up and Down only move the focus, Space selects.
+class Rail : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Rail(QWidget* parent = nullptr);
+
+  // Buttons are named ImageButton_0, ImageButton_1 ...
+  int AddPage(IconName icon, const QString& text);
+  [[nodiscard]] PageButton* button(int index) const { return buttons_[index]; }
+  [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }
+  [[nodiscard]] int selected() const { return selected_; }  // -1 before the first selection
+  // Raises selectionChanged for a new page only, whoever selects it.
+  void select(int index);
+  void SetPageEnabled(int index, bool enabled);
+
+ signals:
+  void selectionChanged(int index);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void MoveFocus(int step);
+  void UpdateTabStop();
+
+  QVector<PageButton*> buttons_;
+  int selected_ = -1;
+};
+
+}  // namespace mortane

@@ -1,0 +1,35 @@
+#include "widgets/RowDelegate.h"
+
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kSidePadding = 6;
+
+}  // namespace
+
+RowDelegate::RowDelegate(QObject* parent)
+    : QStyledItemDelegate(parent), leastHeight_(grid::kRowHeight) {}
+
+QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  const QSize content = QStyledItemDelegate::sizeHint(option, index);
+  return {content.width() + 2 * kSidePadding, GridHeight(leastHeight_, option.fontMetrics)};
+}
+
+void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+  QStyleOptionViewItem row = option;
+  row.state &= ~QStyle::State_HasFocus;
+  QStyledItemDelegate::paint(painter, row, index);
+}
+
+void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  option->state &= ~QStyle::State_HasFocus;
+  if (index.data(kDimmedRole).toBool())
+    option->palette.setColor(QPalette::Text,
+                             option->palette.color(QPalette::Disabled, QPalette::Text));
+}
+
+}  // namespace mortane

@@ -1,0 +1,29 @@
+// Draws the rows of a list: grid height, no focus rectangle, dimmed and checked rows.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace mortane {
+
+inline constexpr int kDimmedRole = Qt::UserRole + 1;
+
+class RowDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  explicit RowDelegate(QObject* parent);
+
+  void SetLeastHeight(int pixels) { leastHeight_ = pixels; }
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const override;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+ private:
+  int leastHeight_;
+};
+
+}  // namespace mortane

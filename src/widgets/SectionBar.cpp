@@ -1,0 +1,129 @@
+#include "widgets/SectionBar.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "widgets/OptionGroup.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kSidePadding = 18;
+
+// Rounded only where the bar begins or ends.
+QPainterPath OptionShape(const QRectF& area, bool first, bool last) {
+  const double corner = grid::kInnerCorner;
+  QPainterPath shape;
+  shape.setFillRule(Qt::WindingFill);
+  shape.addRoundedRect(area, corner, corner);
+  if (!first) shape.addRect(area.adjusted(0, 0, -area.width() / 2, 0));
+  if (!last) shape.addRect(area.adjusted(area.width() / 2, 0, 0, 0));
+  return shape.simplified();
+}
+
+}  // namespace
+
+SectionOption::SectionOption(const QString& text, QWidget* parent) : QAbstractButton(parent) {
+  setText(text);
+  setCheckable(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void SectionOption::SetEnds(bool first, bool last) {
+  first_ = first;
+  last_ = last;
+  update();
+}
+
+QSize SectionOption::sizeHint() const {
+  const QFontMetrics bold(BoldFont());
+  return {bold.horizontalAdvance(text()) + 2 * kSidePadding,
+          GridHeight(grid::kSectionHeight, *this)};
+}
+
+void SectionOption::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const bool chosen = isChecked();
+  // Neighbours share their line: each but the first begins on the last pixel of the one before.
+  const QRectF area = QRectF(rect()).adjusted(first_ ? 0.5 : -0.5, 0.5, -0.5, -0.5);
+  QColor fill = palette().color(QPalette::Button);
+  if (isEnabled() && underMouse()) fill = palette().color(QPalette::Midlight);
+  if (chosen && isEnabled()) fill = ToneColor(Tone::Amber);
+  painter.setPen(chosen && isEnabled() ? ToneColor(Tone::Amber).darker(118)
+                                       : palette().color(QPalette::Mid));
+  painter.setBrush(fill);
+  painter.drawPath(OptionShape(area, first_, last_));
+  if (hasFocus()) {
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 4, 4);
+  }
+  painter.setFont(chosen ? BoldFont() : font());
+  painter.setPen(chosen && isEnabled() ? ToneColor(Tone::OnAmber)
+                                       : palette().color(QPalette::ButtonText));
+  painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+}
+
+SectionBar::SectionBar(QWidget* parent) : QWidget(parent), group_(new OptionGroup(this)) {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(0);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  connect(group_, &OptionGroup::clicked, this, &SectionBar::clicked);
+}
+
+int SectionBar::AddOption(const QString& text) {
+  const int index = count();
+  auto* option = new SectionOption(text, this);
+  option->setObjectName(arrayName_ + QLatin1Char('_') + QString::number(index));
+  option->setAccessibleName(text);
+  options_.append(option);
+  group_->add(option, index);
+  layout()->addWidget(option);
+  MarkEnds();
+  return index;
+}
+
+QAbstractButton* SectionBar::option(int index) const {
+  return group_->button(index);
+}
+
+int SectionBar::count() const {
+  return static_cast<int>(options_.size());
+}
+
+int SectionBar::selected() const {
+  return group_->selected();
+}
+
+void SectionBar::select(int index) {
+  group_->select(index);
+}
+
+void SectionBar::SetOptionEnabled(int index, bool enabled) {
+  options_[index]->setEnabled(enabled);
+}
+
+void SectionBar::SetOptionVisible(int index, bool visible) {
+  options_[index]->setVisible(visible);
+  MarkEnds();
+}
+
+void SectionBar::MarkEnds() {
+  SectionOption* first = nullptr;
+  SectionOption* last = nullptr;
+  for (SectionOption* option : options_) {
+    option->SetEnds(false, false);
+    if (option->isHidden() && option->testAttribute(Qt::WA_WState_ExplicitShowHide)) continue;
+    if (first == nullptr) first = option;
+    last = option;
+  }
+  for (SectionOption* option : options_) option->SetEnds(option == first, option == last);
+}
+
+}  // namespace mortane

@@ -1,0 +1,58 @@
+// The joined option buttons in a page's header: one section is chosen, in amber.
+#pragma once
+
+#include <QAbstractButton>
+#include <QVector>
+#include <QWidget>
+
+namespace mortane {
+
+class OptionGroup;
+
+class SectionOption : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  explicit SectionOption(const QString& text, QWidget* parent);
+
+  void SetEnds(bool first, bool last);
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool first_ = false;
+  bool last_ = false;
+};
+
+// One Tab stop; arrows move and choose. A hidden option closes up, and the ends stay round.
+class SectionBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SectionBar(QWidget* parent = nullptr);
+
+  // Options are named optSettings_0, optSettings_1 ... unless another array name is set before.
+  void SetArrayName(const QString& name) { arrayName_ = name; }
+  int AddOption(const QString& text);
+  [[nodiscard]] QAbstractButton* option(int index) const;
+  [[nodiscard]] int count() const;
+  [[nodiscard]] int selected() const;  // -1: none
+  void select(int index);
+  void SetOptionEnabled(int index, bool enabled);
+  void SetOptionVisible(int index, bool visible);
+
+ signals:
+  // For a program's new selection, and for a user's click always.
+  void clicked(int index);
+
+ private:
+  void MarkEnds();
+
+  QVector<SectionOption*> options_;
+  OptionGroup* group_ = nullptr;
+  QString arrayName_ = QStringLiteral("optSettings");
+};
+
+}  // namespace mortane

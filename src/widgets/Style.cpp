@@ -1,0 +1,250 @@
+#include "widgets/Style.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QPainter>
+#include <QStyleOption>
+
+#include "widgets/Paint.h"
+#include "widgets/StylePrimitives.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kIndicatorSide = 16;
+constexpr int kScrollBarExtent = 12;
+constexpr int kScrollBarLeastHandle = 28;
+constexpr int kComboTextMargin = 8;
+constexpr int kComboArrowWidth = 26;
+constexpr int kButtonPadding = 18;
+
+// A bar without end buttons: the handle may use its whole length.
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
+  const bool horizontal = bar.orientation == Qt::Horizontal;
+  const int length = horizontal ? bar.rect.width() : bar.rect.height();
+  const int range = bar.maximum - bar.minimum;
+  int handle = length;
+  if (range > 0)
+    handle = qBound(
+        qMin(kScrollBarLeastHandle, length),
+        static_cast<int>(qint64{length} * bar.pageStep / (qint64{range} + bar.pageStep)), length);
+  const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
+                                                    length - handle, bar.upsideDown);
+  const auto slice = [&](int from, int size) {
+    return horizontal ? QRect(bar.rect.left() + from, bar.rect.top(), size, bar.rect.height())
+                      : QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), size);
+  };
+  switch (part) {
+    case QStyle::SC_ScrollBarSlider:
+      return slice(start, handle);
+    case QStyle::SC_ScrollBarSubPage:
+      return slice(0, start);
+    case QStyle::SC_ScrollBarAddPage:
+      return slice(start + handle, length - start - handle);
+    case QStyle::SC_ScrollBarGroove:
+      return bar.rect;
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
+Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                       const QWidget* widget) const {
+  switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+      return kIndicatorSide;
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+      return grid::kBetweenControls;
+    case PM_ScrollBarExtent:
+      return kScrollBarExtent;
+    case PM_ScrollBarSliderMin:
+      return kScrollBarLeastHandle;
+    case PM_ScrollView_ScrollBarSpacing:
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+    case PM_ToolBarFrameWidth:
+    case PM_MenuBarPanelWidth:
+      return 0;
+    case PM_ToolBarItemSpacing:
+      return grid::kBetweenControls;
+    case PM_ToolBarItemMargin:
+      return grid::kUnit;
+    case PM_DefaultFrameWidth:
+      return qobject_cast<const QAbstractItemView*>(widget) != nullptr
+                 ? 2
+                 : QProxyStyle::pixelMetric(metric, option, widget);
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* data) const {
+  switch (hint) {
+    case SH_EtchDisabledText:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+    case SH_ComboBox_Popup:
+    case SH_Widget_Animate:
+    case SH_Widget_Animation_Duration:
+    case SH_ItemView_ActivateItemOnSingleClick:
+      return 0;
+    case SH_ItemView_ShowDecorationSelected:
+    case SH_ItemView_PaintAlternatingRowColorsForEmptyArea:
+      return hint == SH_ItemView_ShowDecorationSelected ? 1 : 0;
+    default:
+      return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                              const QWidget* widget) const {
+  QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+  if (option == nullptr) return result;
+  const int field = GridHeight(grid::kFieldHeight, option->fontMetrics);
+  switch (type) {
+    case CT_LineEdit:
+      result.setHeight(qMax(result.height(), field));
+      break;
+    case CT_ComboBox:
+      result = QSize(size.width() + kComboTextMargin + kComboArrowWidth + grid::kUnit, field);
+      break;
+    case CT_PushButton:
+      result = QSize(qMax(result.width(), size.width() + 2 * kButtonPadding), field);
+      break;
+    case CT_HeaderSection:
+      result.setHeight(GridHeight(28, option->fontMetrics));
+      break;
+    case CT_MenuBarItem:
+      result += QSize(grid::kUnit, grid::kUnit);
+      break;
+    case CT_MenuItem:
+      result.setHeight(qMax(result.height(), option->fontMetrics.height() + 10));
+      break;
+    default:
+      break;
+  }
+  return result;
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+  switch (element) {
+    case PE_PanelLineEdit: {
+      const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+      if (frame != nullptr && frame->lineWidth <= 0) return;
+      return DrawFieldPlate(*option, *painter, widget);
+    }
+    case PE_FrameLineEdit:
+      return;
+    case PE_Frame:
+      if (qobject_cast<const QAbstractScrollArea*>(widget) == nullptr) break;
+      return DrawListFrame(*option, *painter, widget);
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+      return DrawCheckBoxIndicator(*option, *painter);
+    case PE_IndicatorRadioButton:
+      return DrawRadioIndicator(*option, *painter);
+    case PE_PanelButtonCommand:
+      return DrawButtonPlate(*option, *painter, widget);
+    case PE_PanelButtonTool:
+      return DrawToolButtonPlate(*option, *painter);
+    case PE_PanelItemViewItem:
+      return DrawRowGround(*option, *painter);
+    case PE_FrameFocusRect:
+      if (qobject_cast<const QAbstractItemView*>(widget) != nullptr ||
+          (widget != nullptr && widget->inherits("QPushButton")))
+        return;
+      return DrawFocusLine(*option, *painter);
+    case PE_PanelItemViewRow:
+    case PE_PanelStatusBar:
+    case PE_FrameStatusBarItem:
+      return;
+    default:
+      break;
+  }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+  switch (element) {
+    case CE_HeaderSection:
+    case CE_HeaderEmptyArea:
+      return DrawHeaderSection(*option, *painter);
+    case CE_HeaderLabel:
+      if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option)) {
+        const QRect text = header->rect.adjusted(grid::kUnit, 0, -grid::kUnit, 0);
+        painter->setPen(option->palette.color(QPalette::PlaceholderText));
+        painter->drawText(text, static_cast<int>(header->textAlignment) | Qt::AlignVCenter,
+                          header->text);
+      }
+      return;
+    case CE_PushButtonLabel:
+      if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+        QStyleOptionButton copy = *button;
+        if (copy.state.testFlag(State_Enabled) &&
+            (copy.features.testFlag(QStyleOptionButton::DefaultButton) ||
+             (widget != nullptr && widget->property(kMainProperty).toBool())))
+          copy.palette.setColor(QPalette::ButtonText, copy.palette.color(QPalette::BrightText));
+        return QProxyStyle::drawControl(element, &copy, painter, widget);
+      }
+      break;
+    case CE_ToolBar:
+    case CE_MenuBarEmptyArea:
+      painter->fillRect(option->rect, option->palette.color(QPalette::Window));
+      return;
+    default:
+      break;
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                               QPainter* painter, const QWidget* widget) const {
+  if (control == CC_ComboBox) return DrawComboBox(*option, *painter);
+  if (control == CC_ScrollBar) return DrawScrollBar(*option, *painter, widget);
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                            SubControl subControl, const QWidget* widget) const {
+  if (control == CC_ComboBox && subControl == SC_ComboBoxEditField)
+    return visualRect(option->direction, option->rect,
+                      option->rect.adjusted(kComboTextMargin, 2, -kComboArrowWidth, -2));
+  if (control == CC_ComboBox && subControl == SC_ComboBoxArrow)
+    return visualRect(option->direction, option->rect,
+                      QRect(option->rect.right() - kComboArrowWidth + 1, option->rect.top(),
+                            kComboArrowWidth, option->rect.height()));
+  if (control == CC_ScrollBar)
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+      return ScrollBarPart(*bar, subControl);
+  return QProxyStyle::subControlRect(control, option, subControl, widget);
+}
+
+void Style::DrawComboBox(const QStyleOptionComplex& option, QPainter& painter) const {
+  DrawFieldPlate(option, painter, nullptr);
+  const QRect arrow = subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, nullptr);
+  DrawChevronDown(painter, arrow, option.palette.color(QPalette::Text));
+}
+
+void Style::DrawScrollBar(const QStyleOptionComplex& option, QPainter& painter,
+                          const QWidget* widget) const {
+  const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(&option);
+  if (bar == nullptr || bar->maximum <= bar->minimum) return;
+  const QRectF handle = subControlRect(CC_ScrollBar, &option, SC_ScrollBarSlider, widget);
+  const bool held =
+      bar->activeSubControls.testFlag(SC_ScrollBarSlider) && bar->state.testFlag(State_MouseOver);
+  const QColor fill = option.palette.color(held ? QPalette::Dark : QPalette::Mid);
+  DrawPlate(painter, handle.adjusted(2, 2, -2, -2), fill, {{}, 0, 4});
+}
+
+}  // namespace mortane

@@ -1,0 +1,42 @@
+// How the ordinary controls are drawn: Fusion with the grid and the palette of Theme.h.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace mortane {
+
+// Property of a field whose text was refused; the style draws its red line and ground.
+inline constexpr char kRefusedProperty[] = "refused";
+// Property of a push button that is the main one of its dialog without being its default.
+inline constexpr char kMainProperty[] = "mainCommand";
+
+// Every colour comes from the palette of the control or from Theme.h, so that one style serves both
+// palettes, the disabled group too, which a style sheet cannot name.
+class Style : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  Style();
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                       SubControl subControl, const QWidget* widget) const override;
+
+ private:
+  void DrawComboBox(const QStyleOptionComplex& option, QPainter& painter) const;
+  void DrawScrollBar(const QStyleOptionComplex& option, QPainter& painter,
+                     const QWidget* widget) const;
+};
+
+}  // namespace mortane

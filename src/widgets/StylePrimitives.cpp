@@ -1,0 +1,146 @@
+#include "widgets/StylePrimitives.h"
+
+#include <QPainter>
+#include <QPalette>
+#include <QStyleOption>
+#include <QWidget>
+
+#include "widgets/Paint.h"
+#include "widgets/Style.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
+  return option.state.testFlag(flag);
+}
+
+bool IsRefused(const QWidget* widget) {
+  return widget != nullptr && widget->property(kRefusedProperty).toBool();
+}
+
+QColor FieldLine(const QStyleOption& option) {
+  if (!Has(option, QStyle::State_Enabled)) return option.palette.color(QPalette::Mid);
+  if (Has(option, QStyle::State_HasFocus)) return option.palette.color(QPalette::Highlight);
+  return option.palette.color(QPalette::Dark);
+}
+
+bool IsMainButton(const QStyleOption& option, const QWidget* widget) {
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+  return (button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton)) ||
+         (widget != nullptr && widget->property(kMainProperty).toBool());
+}
+
+}  // namespace
+
+void DrawFieldPlate(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  if (IsRefused(widget)) {
+    DrawPlate(painter, option.rect, ToneColor(Tone::RefusedGround),
+              {ToneColor(Tone::RefusedLine), 2, grid::kFieldCorner});
+    return;
+  }
+  const bool readOnly = Has(option, QStyle::State_ReadOnly);
+  const bool focused = Has(option, QStyle::State_HasFocus);
+  const QColor fill = option.palette.color(readOnly ? QPalette::AlternateBase : QPalette::Base);
+  const QColor line =
+      readOnly && !focused ? option.palette.color(QPalette::Mid) : FieldLine(option);
+  DrawPlate(painter, option.rect, fill, {line, focused ? 2.0 : 1.0, grid::kFieldCorner});
+}
+
+void DrawListFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+  if (frame != nullptr && frame->lineWidth <= 0) return;
+  const bool focused = widget != nullptr && widget->hasFocus();
+  const QColor line = option.palette.color(focused ? QPalette::Highlight : QPalette::Mid);
+  DrawPlate(painter, option.rect, {}, {line, focused ? 2.0 : 1.0, grid::kFieldCorner});
+}
+
+void DrawCheckBoxIndicator(const QStyleOption& option, QPainter& painter) {
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool on = Has(option, QStyle::State_On);
+  const QPalette& palette = option.palette;
+  QColor fill = palette.color(QPalette::Base);
+  QColor line = palette.color(enabled ? QPalette::Dark : QPalette::Mid);
+  if (on && enabled) fill = line = palette.color(QPalette::Highlight);
+  if (!on && enabled && Has(option, QStyle::State_MouseOver))
+    line = palette.color(QPalette::Shadow);
+  DrawPlate(painter, option.rect, fill, {line, enabled && !on ? 1.2 : 1.0, 4, !enabled});
+  if (on)
+    DrawTick(painter, option.rect,
+             enabled ? palette.color(QPalette::BrightText) : palette.color(QPalette::Text));
+}
+
+void DrawRadioIndicator(const QStyleOption& option, QPainter& painter) {
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool on = Has(option, QStyle::State_On);
+  const QPalette& palette = option.palette;
+  const double side = qMin(option.rect.width(), option.rect.height());
+  QRectF circle(0, 0, side, side);
+  circle.moveCenter(QRectF(option.rect).center());
+  QColor line = palette.color(enabled ? QPalette::Dark : QPalette::Mid);
+  QColor fill = palette.color(QPalette::Base);
+  if (on && enabled) fill = line = palette.color(QPalette::Highlight);
+  DrawPlate(painter, circle, fill, {line, 1.2, side / 2, !enabled});
+  if (!on) return;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette.color(enabled ? QPalette::BrightText : QPalette::Text));
+  painter.drawEllipse(circle.center(), side * 0.18, side * 0.18);
+  painter.restore();
+}
+
+void DrawButtonPlate(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  const QPalette& palette = option.palette;
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool main = enabled && IsMainButton(option, widget);
+  const bool pressed = Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On);
+  QColor fill = palette.color(main ? QPalette::Highlight : QPalette::Button);
+  QColor line = main ? fill : palette.color(QPalette::Mid);
+  if (!enabled) fill = palette.color(QPalette::Base);
+  if (enabled && pressed) fill = main ? fill.darker(125) : palette.color(QPalette::Mid);
+  if (enabled && !pressed && Has(option, QStyle::State_MouseOver)) {
+    if (main)
+      fill = fill.lighter(112);
+    else
+      line = palette.color(QPalette::Dark);
+  }
+  DrawPlate(painter, option.rect, fill, {line, 1, grid::kFieldCorner});
+  if (!Has(option, QStyle::State_HasFocus)) return;
+  if (main)
+    DrawPlate(painter, QRectF(option.rect).adjusted(2, 2, -2, -2), {},
+              {palette.color(QPalette::BrightText), 1.5, grid::kFieldCorner - 1.5});
+  else
+    DrawPlate(painter, option.rect, {},
+              {palette.color(QPalette::Highlight), 2, grid::kFieldCorner});
+}
+
+void DrawRowGround(const QStyleOption& option, QPainter& painter) {
+  if (Has(option, QStyle::State_Selected))
+    painter.fillRect(option.rect, option.palette.color(QPalette::Highlight));
+}
+
+void DrawFocusLine(const QStyleOption& option, QPainter& painter) {
+  DrawPlate(painter, option.rect, {},
+            {option.palette.color(QPalette::Highlight), 2, grid::kFieldCorner});
+}
+
+void DrawToolButtonPlate(const QStyleOption& option, QPainter& painter) {
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool pressed = Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On);
+  const bool hover = Has(option, QStyle::State_MouseOver);
+  if (enabled && (pressed || hover)) {
+    const QColor fill = option.palette.color(pressed ? QPalette::Mid : QPalette::Button);
+    DrawPlate(painter, option.rect, fill, {{}, 0, grid::kFieldCorner});
+  }
+  if (Has(option, QStyle::State_HasFocus)) DrawFocusLine(option, painter);
+}
+
+void DrawHeaderSection(const QStyleOption& option, QPainter& painter) {
+  painter.fillRect(option.rect, option.palette.color(QPalette::AlternateBase));
+  painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
+                   option.palette.color(QPalette::Mid));
+}
+
+}  // namespace mortane

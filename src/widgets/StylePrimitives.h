@@ -1,0 +1,20 @@
+// The plates, frames and indicators that Style draws.
+#pragma once
+
+class QPainter;
+class QStyleOption;
+class QWidget;
+
+namespace mortane {
+
+void DrawFieldPlate(const QStyleOption& option, QPainter& painter, const QWidget* widget);
+void DrawListFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget);
+void DrawCheckBoxIndicator(const QStyleOption& option, QPainter& painter);
+void DrawRadioIndicator(const QStyleOption& option, QPainter& painter);
+void DrawButtonPlate(const QStyleOption& option, QPainter& painter, const QWidget* widget);
+void DrawRowGround(const QStyleOption& option, QPainter& painter);
+void DrawFocusLine(const QStyleOption& option, QPainter& painter);
+void DrawToolButtonPlate(const QStyleOption& option, QPainter& painter);
+void DrawHeaderSection(const QStyleOption& option, QPainter& painter);
+
+}  // namespace mortane

@@ -1,0 +1,37 @@
+// A strip of tabs over one set of controls.
+#pragma once
+
+#include <QStringList>
+#include <QTabBar>
+
+namespace mortane {
+
+// Building and setting are silent; clicked() is raised for a user's click or arrow only. A click
+// takes the focus first, so that the field being left is stored for the old tab, and a refused
+// text keeps the old tab.
+class TabStrip : public QTabBar {
+  Q_OBJECT
+
+ public:
+  explicit TabStrip(QWidget* parent = nullptr);
+
+  // Replaces all tabs; the first one is then selected.
+  void SetTabs(const QStringList& captions);
+  int AppendTab(const QString& caption);
+  [[nodiscard]] int index() const { return currentIndex(); }
+  void setIndex(int index);
+  [[nodiscard]] QString caption() const { return tabText(currentIndex()); }
+
+ signals:
+  void clicked(int index);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] QSize tabSizeHint(int index) const override;
+  [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
+};
+
+}  // namespace mortane
