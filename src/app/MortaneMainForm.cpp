@@ -44,7 +44,7 @@ void MortaneMainForm::LoadStep(int step) {
       versionPanel_->setText(QStringLiteral(MORTANE_VERSION));
       break;
     case 2:
-      for (const Page& page : pages_) {
+      for (const PageEntry& page : pages_) {
         if (page.widget != nullptr) page.widget->hide();
       }
       break;
@@ -95,7 +95,7 @@ void MortaneMainForm::FirstActivation() {
 
 void MortaneMainForm::RefreshPages() {
   for (std::size_t i = 0; i < pages_.size(); ++i) {
-    const Page& page = pages_[i];
+    const PageEntry& page = pages_[i];
     const bool enabled = page.widget != nullptr && page.isEnabled(GetK70());
     PictureMenu->SetPageEnabled(static_cast<int>(i), enabled);
     if (!enabled) continue;
@@ -125,7 +125,7 @@ void MortaneMainForm::SaveCurrentPage() {
 
 // Disabled pages too: what was read is shown as soon as another microscope enables them.
 void MortaneMainForm::LoadAllPages() {
-  for (const Page& page : pages_) {
+  for (const PageEntry& page : pages_) {
     if (page.LoadData) RunStep(prompts_, page.LoadData);
   }
 }

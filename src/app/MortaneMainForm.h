@@ -119,7 +119,7 @@ class MortaneMainForm : public QMainWindow {
   controller::ControllerLibrary& library_;
   Prompts& prompts_;
   std::vector<std::string> arguments_;
-  std::array<Page, kPageCount> pages_;
+  std::array<PageEntry, kPageCount> pages_;
   QLabel* versionPanel_ = nullptr;
   ProgressLine* progress_ = nullptr;
   bool started_ = false;

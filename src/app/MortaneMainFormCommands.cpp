@@ -85,7 +85,7 @@ void MortaneMainForm::DoSend() {
       if (ModifyBeforeSend()) static_cast<void>(GetK70().Modify());
     });
     RunStep(prompts_, [] { GetK70().Send(); });
-    const Page& control = pages_[kControlPage];
+    const PageEntry& control = pages_[kControlPage];
     if (control.SendData) RunStep(prompts_, control.SendData);
     prompts_.Wait(kWaitAfterSendMs);
   }

@@ -155,6 +155,7 @@ void MortaneMainForm::BuildStatusBar() {
   StatusBar1 = statusBar();
   StatusBar1->setObjectName("StatusBar1");
   StatusBar1->setSizeGripEnabled(false);
+  StatusBar1->setContentsMargins(0, 0, grid::kBetweenColumns, 0);
   // Panels 1 to 4 stay empty and take no room.
   versionPanel_ = new QLabel(StatusBar1);
   versionPanel_->setObjectName("StatusBar1_5");
@@ -168,7 +169,7 @@ void MortaneMainForm::BuildStatusBar() {
 void MortaneMainForm::StackPages() {
   auto* stack = new QGridLayout(FrameControl);
   stack->setContentsMargins({});
-  for (const Page& page : pages_) {
+  for (const PageEntry& page : pages_) {
     if (page.widget != nullptr) stack->addWidget(page.widget, 0, 0);
   }
 }

@@ -13,7 +13,7 @@ PageTable MainPages() {
        [](MortaneMainForm& form) {
          form.SystemSettingsCtl1 = new SystemSettingsCtl(form.FrameControl);
          form.SystemSettingsCtl1->setObjectName("SystemSettingsCtl1");
-         return MakePage(*form.SystemSettingsCtl1);
+         return MakeEntry(*form.SystemSettingsCtl1);
        },
        [](const clsK70&) { return true; }},
       {"Objectives", IconName::Objective},

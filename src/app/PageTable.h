@@ -15,7 +15,7 @@ class MortaneMainForm;
 class clsK70;
 
 // A page as the window calls it. A page has only what it offers; the rest stays empty.
-struct Page {
+struct PageEntry {
   QWidget* widget = nullptr;
   std::function<void()> LoadData;
   std::function<void()> SaveData;
@@ -29,7 +29,7 @@ struct Page {
 struct PageRow {
   QString title;
   IconName icon;
-  std::function<Page(MortaneMainForm&)> make = {};
+  std::function<PageEntry(MortaneMainForm&)> make = {};
   std::function<bool(const clsK70&)> isEnabled = {};
 };
 
@@ -41,8 +41,8 @@ PageTable MainPages();
 
 // A page control as the window calls it, by the names of its operations.
 template <typename Ctl>
-Page MakePage(Ctl& ctl) {
-  Page page;
+PageEntry MakeEntry(Ctl& ctl) {
+  PageEntry page;
   page.widget = &ctl;
   page.LoadData = [&ctl] { ctl.LoadData(); };
   page.SaveData = [&ctl] { ctl.SaveData(); };

@@ -69,12 +69,22 @@ void AddButtons(QMessageBox& box, int style) {
   }
 }
 
+// What the box stands over. Without a window manager no window is ever active.
+QWidget* ParentOfBoxes() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->windowType() == Qt::Window) return window;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 PromptBox::PromptBox(const std::string& text, int style, const std::string& caption)
     : box_(IconOf(style),
            caption.empty() ? QApplication::applicationName() : QString::fromStdString(caption),
-           ShownText(text), QMessageBox::NoButton, QApplication::activeWindow()) {
+           ShownText(text), QMessageBox::NoButton, ParentOfBoxes()) {
   box_.setTextFormat(Qt::PlainText);
   AddButtons(box_, style);
 }

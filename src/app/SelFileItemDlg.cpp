@@ -1,10 +1,10 @@
 #include "app/SelFileItemDlg.h"
 
-#include <QListWidget>
 #include <QPushButton>
 
 #include "app/DialogLayout.h"
 #include "model/clsK70.h"
+#include "widgets/ListBox.h"
 
 namespace mortane {
 namespace {
@@ -16,8 +16,8 @@ constexpr std::int16_t kNotWanted = 0;
 
 SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent)
     : QDialog(parent),
-      List1(new QListWidget(this)),
-      Datalist(new QListWidget(this)),
+      List1(new ListBox(this)),
+      Datalist(new ListBox(this)),
       OkButton(new QPushButton(QStringLiteral("&OK"), this)),
       CancelButton(new QPushButton(QStringLiteral("&Cancel"), this)),
       k70_(k70) {
@@ -29,15 +29,14 @@ SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent)
   OkButton->setObjectName("OkButton");
   CancelButton->setObjectName("CancelButton");
   for (const FileSection& section : kFileSections) {
-    Datalist->addItem(
+    Datalist->addRow(
         QString::fromUtf8(section.label.data(), static_cast<qsizetype>(section.label.size())));
   }
 
   ArrangeDialog(*this, nullptr, *List1, *OkButton, *CancelButton);
   connect(OkButton, &QPushButton::clicked, this, &QDialog::accept);
-  connect(List1, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
-    const auto position = static_cast<std::int16_t>(List1->row(item));
-    k70_.FileItem(position, item->checkState() == Qt::Checked ? kWanted : kNotWanted);
+  connect(List1, &ListBox::rowChecked, this, [this](int position, bool checked) {
+    k70_.FileItem(static_cast<std::int16_t>(position), checked ? kWanted : kNotWanted);
   });
   LoadList();
 }
@@ -45,18 +44,14 @@ SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent)
 // The items are asked one by one as the list grows: checking a new line writes the item of its
 // position, which is never ahead of the one that is asked.
 void SelFileItemDlg::LoadList() {
-  for (int i = 0; i < Datalist->count(); ++i) {
+  for (int i = 0; i < Datalist->rowCount(); ++i) {
     if (k70_.FileItem(static_cast<std::int16_t>(i)) == kNotWanted) continue;
-    auto* line = new QListWidgetItem(Datalist->item(i)->text());
-    line->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    line->setCheckState(Qt::Unchecked);
-    List1->addItem(line);
-    line->setCheckState(Qt::Checked);
+    List1->SetRowChecked(List1->addRow(Datalist->text(i)), true);
   }
 }
 
 void SelFileItemDlg::reject() {
-  for (int i = 0; i < Datalist->count(); ++i) {
+  for (int i = 0; i < Datalist->rowCount(); ++i) {
     k70_.FileItem(static_cast<std::int16_t>(i), kNotWanted);
   }
   QDialog::reject();

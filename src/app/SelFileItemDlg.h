@@ -3,11 +3,11 @@
 
 #include <QDialog>
 
-class QListWidget;
 class QPushButton;
 
 namespace mortane {
 
+class ListBox;
 class clsK70;
 
 // Lists the sections that the file holds. A line's check is written to the file item of the
@@ -20,8 +20,8 @@ class SelFileItemDlg : public QDialog {
   // Cancel, the close box and Escape: no section is wanted.
   void reject() override;
 
-  QListWidget* List1;
-  QListWidget* Datalist;  // hidden, the labels in the order of the file items
+  ListBox* List1;
+  ListBox* Datalist;  // hidden, the labels in the order of the file items
   QPushButton* OkButton;
   QPushButton* CancelButton;
 

@@ -32,6 +32,7 @@ SelScopeDlg::SelScopeDlg(clsK70& k70, Prompts& prompts, Availability isDeviceAva
   Label1->setObjectName("Label1");
   Label1->setBuddy(List1);
   List1->setObjectName("List1");
+  List1->SetIconRows(true);
   OkButton->setObjectName("OkButton");
   CancelButton->setObjectName("CancelButton");
   ArrangeDialog(*this, Label1, *List1, *OkButton, *CancelButton);
@@ -47,9 +48,11 @@ void SelScopeDlg::LoadList(clsK70& k70) {
     const bool available = isDeviceAvailable_(device);
     std::string line = available ? Trim(k70.DeviceName(device)) : kNotAvailable;
     if (line.empty()) line = "NoName";
-    List1->addRow(QString::fromStdString(line), device);
+    const int row = List1->addRow(QString::fromStdString(line), device);
+    List1->SetRowIcon(row, IconName::System);
+    List1->SetRowDimmed(row, !available);
   }
-  if (List1->count() > 0) List1->setIndex(0);
+  if (List1->rowCount() > 0) List1->setIndex(0);
 }
 
 void SelScopeDlg::OnOk() {

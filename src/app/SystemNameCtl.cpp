@@ -1,12 +1,10 @@
 #include "app/SystemNameCtl.h"
 
-#include <QFontDatabase>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
-#include <vector>
 
 #include "app/ShownText.h"
 #include "common/Text.h"
@@ -20,6 +18,8 @@ namespace mortane {
 namespace {
 
 constexpr int kNameLength = 15;
+// Wide letters are half as wide again as figures.
+constexpr int kNameWidthCharacters = 24;
 constexpr int kCardGap = 12;
 constexpr int kColumnGap = 16;
 constexpr int kLabelGap = 12;
@@ -39,7 +39,7 @@ QFont ReportFont() {
 }  // namespace
 
 SystemNameCtl::SystemNameCtl(QWidget* parent)
-    : QWidget(parent),
+    : Page(parent),
       FrameBase(new QFrame(this)),
       Frame1(nullptr),
       Label1(nullptr),
@@ -68,7 +68,8 @@ QWidget* SystemNameCtl::BuildNameCard() {
   Label1->setObjectName("Label1");
   TextSystemName = new TextField(Frame1);
   TextSystemName->setObjectName("TextSystemName");
-  TextSystemName->setLimit(kNameLength);
+  TextSystemName->SetLimit(kNameLength);
+  TextSystemName->SetWidthFor(kNameWidthCharacters);
   Label1->setBuddy(TextSystemName);
 
   auto* row = new QHBoxLayout;
@@ -89,6 +90,16 @@ QWidget* SystemNameCtl::BuildReportCard() {
   TextAccessories->setTabChangesFocus(true);
   TextAccessories->setLineWrapMode(QPlainTextEdit::NoWrap);
   TextAccessories->setFont(ReportFont());
+  const int character = TextAccessories->fontMetrics().horizontalAdvance(u'0');
+  TextAccessories->setTabStopDistance(kTabWidthCharacters * character);
+  TextAccessories->setMinimumWidth(kReportWidthCharacters * character);
+
+  drawing_ = new MicroscopeDrawing(card);
+  auto* columns = new QHBoxLayout;
+  columns->setSpacing(kColumnGap);
+  columns->addWidget(TextAccessories, 1);
+  columns->addWidget(drawing_, 2);
+  card->body()->addLayout(columns);
   return card;
 }
 
@@ -98,11 +109,23 @@ void SystemNameCtl::LoadData() {
   TextSystemName->setText(nameless ? QStringLiteral("NoName")
                                    : QString::fromStdString(k70.SystemName));
   TextAccessories->setPlainText(ShownText(k70.GetAccessories()));
-  ShowDrawing();
+  QVector<DrawnAccessory> drawn;
+  for (const AccessoryRow& row : kAccessoryTable) {
+    const std::int32_t mounted = k70.IsMounted(row.number);
+    const std::string_view label = ReportLabel(row, mounted);
+    drawn.append({row.number, QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())),
+                  mounted});
+  }
+  drawing_->SetAccessories(drawn);
 }
 
 void SystemNameCtl::SaveData() {
   GetK70().SystemName = TextSystemName->text().toStdString();
+}
+
+void SystemNameCtl::resizeEvent(QResizeEvent* event) {
+  Page::resizeEvent(event);
+  drawing_->setVisible(window()->width() >= kNarrowestWindowWithDrawing);
 }
 
 }  // namespace mortane

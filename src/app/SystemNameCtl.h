@@ -1,7 +1,7 @@
 // The panel with the system name and the report of fitted accessories.
 #pragma once
 
-#include <QWidget>
+#include "widgets/Page.h"
 
 class QFrame;
 class QLabel;
@@ -14,12 +14,12 @@ class TextField;
 
 // A nameless controller shows "NoName". That is only shown until the field is left or the page
 // is saved: then it is the name, and a Send writes it.
-class SystemNameCtl : public QWidget {
+class SystemNameCtl : public Page {
  public:
   explicit SystemNameCtl(QWidget* parent = nullptr);
 
-  void LoadData();
-  void SaveData();
+  void LoadData() override;
+  void SaveData() override;
 
   QFrame* FrameBase;
   QFrame* Frame1;
@@ -33,7 +33,6 @@ class SystemNameCtl : public QWidget {
  private:
   QWidget* BuildNameCard();
   QWidget* BuildReportCard();
-  void ShowDrawing();
 
   MicroscopeDrawing* drawing_;
 };

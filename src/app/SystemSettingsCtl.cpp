@@ -8,7 +8,7 @@
 namespace mortane {
 
 SystemSettingsCtl::SystemSettingsCtl(QWidget* parent)
-    : QWidget(parent),
+    : Page(parent),
       Header(new PageHeader(IconName::System, QStringLiteral("System"), this)),
       SystemNameCtl1(new SystemNameCtl(this)) {
   Header->setObjectName("Header");

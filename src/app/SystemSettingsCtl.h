@@ -1,19 +1,19 @@
 // The system page: the name panel under a header.
 #pragma once
 
-#include <QWidget>
+#include "widgets/Page.h"
 
 namespace mortane {
 
 class PageHeader;
 class SystemNameCtl;
 
-class SystemSettingsCtl : public QWidget {
+class SystemSettingsCtl : public Page {
  public:
   explicit SystemSettingsCtl(QWidget* parent = nullptr);
 
-  void LoadData();
-  void SaveData();
+  void LoadData() override;
+  void SaveData() override;
 
   PageHeader* Header;
   SystemNameCtl* SystemNameCtl1;

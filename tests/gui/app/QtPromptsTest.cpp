@@ -1,0 +1,307 @@
+// Boxes, file dialogs, pointer, flushing and waiting, as a person meets them.
+#include "app/QtPrompts.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QWheelEvent>
+
+#include "AppRig.h"
+#include "support/TempFolder.h"
+#include "widgets/ProgressLine.h"
+
+namespace mortane::test {
+namespace {
+
+QtPrompts MakePrompts() {
+  return QtPrompts([](int) { ADD_FAILURE() << "nobody should wait"; });
+}
+
+QAbstractButton* ButtonOf(QMessageBox& box, const QString& text) {
+  for (QAbstractButton* button : box.buttons()) {
+    if (button->text() == text) return button;
+  }
+  ADD_FAILURE() << "no button " << text.toStdString();
+  return box.buttons().front();
+}
+
+struct StyleCase {
+  int style;
+  QMessageBox::Icon icon;
+  QStringList buttons;  // the first is the default
+  std::vector<Answer> answers;
+};
+
+class MessageBoxStyle : public testing::TestWithParam<StyleCase> {};
+
+TEST_P(MessageBoxStyle, GivesIconButtonsAndAnswers) {
+  QtPrompts prompts = MakePrompts();
+  const StyleCase& row = GetParam();
+  for (qsizetype i = 0; i < row.buttons.size(); ++i) {
+    const WhenShown<QMessageBox> person([&](QMessageBox& box) {
+      EXPECT_EQ(box.icon(), row.icon);
+      EXPECT_EQ(box.buttons().size(), row.buttons.size());
+      EXPECT_EQ(box.defaultButton()->text(), row.buttons.front());
+      ButtonOf(box, row.buttons[i])->click();
+    });
+    EXPECT_EQ(prompts.MsgBox("text", row.style), row.answers[static_cast<std::size_t>(i)]);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Styles, MessageBoxStyle,
+    testing::Values(StyleCase{0, QMessageBox::NoIcon, {"OK"}, {Answer::Ok}},
+                    StyleCase{16, QMessageBox::Critical, {"OK"}, {Answer::Ok}},
+                    StyleCase{48, QMessageBox::Warning, {"OK"}, {Answer::Ok}},
+                    StyleCase{64, QMessageBox::Information, {"OK"}, {Answer::Ok}},
+                    StyleCase{33,
+                              QMessageBox::Question,
+                              {"OK", "Cancel"},
+                              {Answer::Ok, Answer::Cancel}},
+                    StyleCase{36, QMessageBox::Question, {"&Yes", "&No"}, {Answer::Yes, Answer::No}},
+                    StyleCase{22,
+                              QMessageBox::Critical,
+                              {"Cancel", "&Try Again", "&Continue"},
+                              {Answer::Cancel, Answer::TryAgain, Answer::Continue}}));
+
+struct EscapeCase {
+  int style;
+  Answer answer;
+};
+
+class EscapeKey : public testing::TestWithParam<EscapeCase> {};
+
+TEST_P(EscapeKey, AnswersAsTheCloseBox) {
+  QtPrompts prompts = MakePrompts();
+  const WhenShown<QMessageBox> person(
+      [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  EXPECT_EQ(prompts.MsgBox("text", GetParam().style), GetParam().answer);
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, EscapeKey,
+                         testing::Values(EscapeCase{0, Answer::Ok}, EscapeCase{33, Answer::Cancel},
+                                         EscapeCase{36, Answer::No},
+                                         EscapeCase{22, Answer::Cancel}));
+
+TEST(MessageBox, HasTheApplicationsTitleUnlessACaptionIsGiven) {
+  QtPrompts prompts = MakePrompts();
+  for (const char* caption : {"", "Send"}) {
+    const WhenShown<QMessageBox> person([&](QMessageBox& box) {
+      EXPECT_EQ(box.windowTitle(), *caption == 0 ? "Mortane" : caption);
+      box.accept();
+    });
+    prompts.MsgBox("text", 0, caption);
+  }
+}
+
+TEST(MessageBox, ShowsTheTextAsItIsAndBreaksItsLines) {
+  QtPrompts prompts = MakePrompts();
+  const WhenShown<QMessageBox> person([](QMessageBox& box) {
+    EXPECT_EQ(box.text(), "<b>one</b>\ntwo");
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    box.accept();
+  });
+  prompts.MsgBox("<b>one</b>\r\ntwo", 0);
+}
+
+TEST(MessageBox, CanBeAnsweredWhileTheWindowIsDisabled) {
+  QtPrompts prompts = MakePrompts();
+  QWidget window;
+  window.show();
+  window.setEnabled(false);
+  window.activateWindow();
+  prompts.SetPointer(Pointer::Hourglass);
+  const WhenShown<QMessageBox> person([](QMessageBox& box) {
+    EXPECT_TRUE(box.isEnabled());
+    QTest::mouseClick(ButtonOf(box, "OK"), Qt::LeftButton);
+  });
+  EXPECT_EQ(prompts.MsgBox("text", 16, "Send"), Answer::Ok);
+  prompts.SetPointer(Pointer::Default);
+}
+
+TEST(TimedMsgBox, ClosesItselfAndAnswersZero) {
+  QtPrompts prompts = MakePrompts();
+  EXPECT_EQ(prompts.TimedMsgBox(1, "Move Stop?", 0, "Title"), Answer::TimedOut);
+  EXPECT_EQ(static_cast<int>(Answer::TimedOut), 0);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST(TimedMsgBox, AnsweredInTimeGivesTheAnswerAndNeverFires) {
+  QtPrompts prompts = MakePrompts();
+  const WhenShown<QMessageBox> person([](QMessageBox& box) {
+    EXPECT_EQ(box.windowTitle(), "Title");
+    EXPECT_EQ(box.text(), "Move Stop?");
+    ButtonOf(box, "OK")->click();
+  });
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_EQ(prompts.TimedMsgBox(60000, "Move Stop?", 0, "Title", "help", 5), Answer::Ok);
+  EXPECT_LT(clock.elapsed(), 30000);
+}
+
+TEST(TimedMsgBox, AnAnswerAfterTheTimeIsStillZero) {
+  QtPrompts prompts = MakePrompts();
+  const WhenShown<QMessageBox> person([](QMessageBox& box) {
+    // The tick comes while the thread is busy, and the person's click right behind it.
+    QTest::qSleep(5);
+    QTimer::singleShot(0, &box, [&box] { ButtonOf(box, "OK")->click(); });
+  });
+  EXPECT_EQ(prompts.TimedMsgBox(1, "Move Stop?", 0, "Title"), Answer::TimedOut);
+}
+
+constexpr char kFilter[] = "XML File (*.xml)|*.xml";
+
+TEST(FileToOpen, MustExistAndStartsWithNoName) {
+  QtPrompts prompts = MakePrompts();
+  const TempFolder folder;
+  const std::string path = folder.Write("settings.xml", "<Setup/>");
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+    EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+    EXPECT_EQ(dialog.nameFilters(), QStringList{"XML File (*.xml)"});
+    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    EXPECT_EQ(name->text(), "");
+    name->setText(QString::fromStdString(path));
+    QTest::keyClick(name, Qt::Key_Return);
+  });
+  EXPECT_EQ(prompts.AskFileToOpen({kFileOpenFlags, kFilter, ".xml"}), path);
+}
+
+TEST(FileToOpen, CancelledIsNoName) {
+  QtPrompts prompts = MakePrompts();
+  const WhenShown<QFileDialog> person([](QFileDialog& dialog) { dialog.reject(); });
+  EXPECT_EQ(prompts.AskFileToOpen({kFileOpenFlags, kFilter, ".xml"}), "");
+}
+
+struct NameCase {
+  const char* typed;
+  const char* saved;
+};
+
+class FileToSave : public testing::TestWithParam<NameCase> {};
+
+TEST_P(FileToSave, GetsItsExtensionOnce) {
+  QtPrompts prompts = MakePrompts();
+  const TempFolder folder;
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+    EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    EXPECT_EQ(name->text(), "");
+    name->setText(QString::fromStdString(folder.Path(GetParam().typed)));
+    QTest::keyClick(name, Qt::Key_Return);
+  });
+  EXPECT_EQ(prompts.AskFileToSave({kFileSaveFlags, kFilter, ".xml"}),
+            folder.Path(GetParam().saved));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, FileToSave,
+                         testing::Values(NameCase{"lab", "lab.xml"},
+                                         NameCase{"lab.xml", "lab.xml"},
+                                         NameCase{"lab 2 \xC3\xA9.xml", "lab 2 \xC3\xA9.xml"}));
+
+TEST(Pointer, IsTheHourglassUntilEachOneIsTakenBack) {
+  QtPrompts prompts = MakePrompts();
+  prompts.SetPointer(Pointer::Hourglass);
+  prompts.SetPointer(Pointer::Hourglass);
+  prompts.SetPointer(Pointer::Default);
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  prompts.SetPointer(Pointer::Default);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(Wait, SleepsForTheGivenTime) {
+  std::vector<int> waits;
+  QtPrompts prompts([&](int milliseconds) { waits.push_back(milliseconds); });
+  prompts.Wait(3000);
+  EXPECT_EQ(waits, std::vector<int>{3000});
+}
+
+TEST(Progress, ShowsOnTheLineAndGoesAwayAtTheEnd) {
+  QtPrompts prompts = MakePrompts();
+  prompts.ShowProgress(1, 4);  // nowhere yet
+  ProgressLine line;
+  prompts.ShowProgressOn(&line);
+  prompts.ShowProgress(1, 4);
+  EXPECT_DOUBLE_EQ(line.fraction(), 0.25);
+  prompts.ShowProgress(4, 4);
+  EXPECT_DOUBLE_EQ(line.fraction(), 0);
+}
+
+// Counts what reaches it.
+class Target : public QWidget {
+ public:
+  int input = 0;
+  int wheels = 0;
+  int posted = 0;
+
+ protected:
+  void mousePressEvent(QMouseEvent*) override { ++input; }
+  void mouseReleaseEvent(QMouseEvent*) override { ++input; }
+  void mouseDoubleClickEvent(QMouseEvent*) override { ++input; }
+  void mouseMoveEvent(QMouseEvent*) override { ++input; }
+  void keyPressEvent(QKeyEvent*) override { ++input; }
+  void keyReleaseEvent(QKeyEvent*) override { ++input; }
+  void wheelEvent(QWheelEvent*) override { ++wheels; }
+  void customEvent(QEvent*) override { ++posted; }
+};
+
+void PostMouse(QWidget& target, QEvent::Type type) {
+  QApplication::postEvent(&target,
+                          new QMouseEvent(type, QPointF(1, 1), QPointF(1, 1), Qt::LeftButton,
+                                          Qt::LeftButton, Qt::NoModifier));
+}
+
+TEST(FlushInput, DropsMouseAndKeysAndNothingElse) {
+  QtPrompts prompts = MakePrompts();
+  Target target;
+  for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                  QEvent::MouseButtonDblClick, QEvent::MouseMove}) {
+    PostMouse(target, type);
+  }
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QApplication::postEvent(&target, new QKeyEvent(type, Qt::Key_A, Qt::NoModifier, "a"));
+  }
+  QApplication::postEvent(
+      &target, new QWheelEvent(QPointF(1, 1), QPointF(1, 1), {}, {0, 120}, Qt::NoButton,
+                               Qt::NoModifier, Qt::NoScrollPhase, false));
+  QApplication::postEvent(&target, new QEvent(QEvent::User));
+  int ticks = 0;
+  QTimer::singleShot(0, [&] { ++ticks; });
+
+  prompts.FlushInput();
+  QApplication::processEvents();
+  EXPECT_EQ(target.input, 0);
+  EXPECT_EQ(target.wheels, 1);
+  EXPECT_EQ(target.posted, 1);
+  EXPECT_EQ(ticks, 1);
+}
+
+TEST(FlushInput, LeavesLaterInputAlone) {
+  QtPrompts prompts = MakePrompts();
+  Target target;
+  prompts.FlushInput();
+  PostMouse(target, QEvent::MouseButtonPress);
+  QApplication::processEvents();
+  EXPECT_EQ(target.input, 1);
+}
+
+TEST(FlushInput, WithinItselfDoesNothing) {
+  QtPrompts prompts = MakePrompts();
+  Target target;
+  QTimer::singleShot(0, [&] {
+    prompts.FlushInput();
+    PostMouse(target, QEvent::MouseButtonPress);
+  });
+  prompts.FlushInput();
+  QApplication::processEvents();
+  EXPECT_EQ(target.input, 0) << "the outer one was still at work";
+}
+
+}  // namespace
+}  // namespace mortane::test
