@@ -39,7 +39,7 @@ std::string EntityBomb() {
   std::string text = "<!DOCTYPE Setup [<!ENTITY e0 \"ha\">";
   for (int i = 1; i < 40; ++i) {
     const std::string inner = "&e" + std::to_string(i - 1) + ";";
-    text += "<!ENTITY e" + std::to_string(i) + " \"" + inner + inner + "\">";
+    text.append("<!ENTITY e" + std::to_string(i) + " \"").append(inner).append(inner).append("\">");
   }
   return text + "]><Setup a=\"&e39;\">&e39;</Setup>";
 }
