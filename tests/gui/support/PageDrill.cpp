@@ -1,0 +1,129 @@
+#include "gui/support/PageDrill.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+
+#include "gui/support/PageActs.h"
+#include "widgets/TextField.h"
+
+namespace mortane::test {
+namespace {
+
+std::string CaptionOf(const QWidget& control) {
+  if (const auto* label = qobject_cast<const QLabel*>(&control)) {
+    return label->text().toStdString();
+  }
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
+    return button->text().toStdString();
+  }
+  return control.accessibleName().toStdString();
+}
+
+}  // namespace
+
+Page& PageDrill::ShowOn(PageRig& rig) {
+  Page& page = rig.Show(GetParam().make());
+  if (GetParam().prepare) GetParam().prepare(rig);
+  return page;
+}
+
+TEST_P(PageDrill, BearsTheGivenControlsWithTheirCaptions) {
+  PageRig rig(GetParam().bench);
+  ShowOn(rig);
+  for (const GivenControl& given : GetParam().controls) {
+    EXPECT_EQ(CaptionOf(rig.Find(given.name)), given.text) << given.name;
+  }
+}
+
+TEST_P(PageDrill, ShowsTheUnit) {
+  for (const ShownValue& row : GetParam().shown) {
+    PageRig rig(GetParam().bench);
+    Page& page = ShowOn(rig);
+    row.change(rig.k70());
+    const std::string before = row.value(rig.k70());
+    page.LoadData();
+    if (GetParam().prepare) GetParam().prepare(rig);
+    EXPECT_EQ(Shown(rig.Find(row.control)), row.shown) << row.control;
+    EXPECT_EQ(row.value(rig.k70()), before) << row.control << ": showing changes nothing";
+  }
+}
+
+TEST_P(PageDrill, AnEditReachesTheUnitAtOnce) {
+  for (const PageEdit& edit : GetParam().edits) {
+    PageRig rig(GetParam().bench);
+    ShowOn(rig);
+    EXPECT_NE(edit.value(rig.k70()), edit.expected) << edit.control << ": the edit is none";
+    Enter(rig.Find(edit.control), QString::fromStdString(edit.entered));
+    EXPECT_EQ(edit.value(rig.k70()), edit.expected) << edit.control << " " << edit.entered;
+  }
+}
+
+TEST_P(PageDrill, RefusesABadTextAndKeepsTheFocus) {
+  for (const RefusedText& row : GetParam().refused) {
+    PageRig rig(GetParam().bench);
+    ShowOn(rig);
+    const std::string before = row.value(rig.k70());
+    auto& field = rig.Find<TextField>(row.control);
+    rig.prompts.ExpectBox(row.message, box::kOk);
+    Enter(field, QString::fromStdString(row.entered));
+    EXPECT_TRUE(field.hasFocus()) << row.control << " " << row.entered;
+    EXPECT_EQ(field.text().toStdString(), row.entered);
+    EXPECT_EQ(row.value(rig.k70()), before) << row.control << " " << row.entered;
+    EXPECT_TRUE(rig.prompts.AllAnswersUsed()) << row.control << " " << row.entered;
+  }
+}
+
+TEST_P(PageDrill, EnablesWhatTheMicroscopeHas) {
+  for (const EnablingRule& rule : GetParam().enabling) {
+    Bench bench = benches::Named(rule.bench);
+    if (rule.change) rule.change(bench);
+    PageRig rig(std::move(bench));
+    ShowOn(rig);
+    EXPECT_EQ(rig.Find(rule.control).isEnabled(), rule.enabled) << rule.control << rule.bench;
+  }
+}
+
+TEST_P(PageDrill, TheTabKeyGoesThroughThePageInOrder) {
+  PageRig rig(GetParam().bench);
+  ShowOn(rig);
+  EXPECT_EQ(rig.TabOrder(), GetParam().tabOrder);
+}
+
+TEST_P(PageDrill, LoadsAndSavesWithoutAController) {
+  PageRig rig(benches::Named(GetParam().bench), Link::None);
+  Page& page = rig.Show(GetParam().make());
+  page.LoadData();
+  page.SaveData();
+  EXPECT_TRUE(rig.prompts.Boxes().empty());
+}
+
+TEST_P(PageDrill, LoadsWhicheverCallOfTheControllerFails) {
+  std::size_t calls = 0;
+  {
+    PageRig rig(GetParam().bench);
+    Page& page = ShowOn(rig);
+    rig.journal.Clear();
+    page.LoadData();
+    calls = rig.journal.CallCount();
+  }
+  for (std::size_t k = 1; k <= calls; ++k) {
+    PageRig rig(GetParam().bench);
+    Page& page = ShowOn(rig);
+    rig.faults.FailCall(k);
+    EXPECT_NO_THROW(page.LoadData()) << "call " << k;
+    EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
+    EXPECT_TRUE(rig.prompts.Boxes().empty()) << "call " << k;
+  }
+}
+
+TEST_P(PageDrill, SavingAsksTheControllerNothing) {
+  PageRig rig(GetParam().bench);
+  Page& page = ShowOn(rig);
+  rig.journal.Clear();
+  page.SaveData();
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+}
+
+}  // namespace mortane::test

@@ -1,0 +1,84 @@
+// The one drill for pages: each brings its table of data and passes the same tests.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "gui/support/PageRig.h"
+
+namespace mortane::test {
+
+// A given control; `text` is its caption, or of a frame the caption that it announces.
+struct GivenControl {
+  std::string name;
+  std::string text;
+};
+
+// A control that shows a value of the model. `change` gives the model the value, `value` tells it
+// as a text; showing must not alter it. The control shows `shown` after the next loading.
+struct ShownValue {
+  std::string control;
+  std::function<void(clsK70&)> change;
+  std::function<std::string(clsK70&)> value;
+  std::string shown;
+};
+
+// What a person enters, and what the model then holds.
+struct PageEdit {
+  std::string control;
+  std::string entered;
+  std::function<std::string(clsK70&)> value;
+  std::string expected;
+};
+
+// A text that is refused with a box: the focus stays, and the model keeps what it held.
+struct RefusedText {
+  std::string control;
+  std::string entered;
+  std::function<std::string(clsK70&)> value;
+  std::string message;
+};
+
+// Whether a control is enabled on a bench, as changed here.
+struct EnablingRule {
+  std::string control;
+  std::string bench;
+  std::function<void(Bench&)> change;
+  bool enabled = false;
+};
+
+// `make` gives the page, which is loaded after the model has received from `bench`. What it needs
+// done before its controls can be worked, `prepare` does.
+struct PageDrillData {
+  std::string name;
+  std::string bench;
+  std::function<Page*()> make;
+  std::function<void(PageRig&)> prepare;
+  std::vector<GivenControl> controls;
+  std::vector<ShownValue> shown;
+  std::vector<PageEdit> edits;
+  std::vector<RefusedText> refused;
+  std::vector<EnablingRule> enabling;
+  std::vector<std::string> tabOrder;
+};
+
+inline void PrintTo(const PageDrillData& data, std::ostream* stream) {
+  *stream << data.name;
+}
+
+inline std::string PageDrillName(const testing::TestParamInfo<PageDrillData>& info) {
+  return info.param.name;
+}
+
+// Fill it with INSTANTIATE_TEST_SUITE_P(SomePage, PageDrill, Values(...), PageDrillName).
+class PageDrill : public testing::TestWithParam<PageDrillData> {
+ protected:
+  // Shows the page of the data on its bench, or on another.
+  static Page& ShowOn(PageRig& rig);
+};
+
+}  // namespace mortane::test
