@@ -1,0 +1,377 @@
+// The objective database and the controller, beyond the drill.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "support/UnitDrill.h"
+
+namespace mortane::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+controller::ObjectiveData& Record(Rig& rig, std::int32_t code) {
+  auto& records = rig.instrument().database.objectives;
+  return *std::find_if(
+      records.begin(), records.end(),
+      [&](const controller::ObjectiveData& record) { return record.code == code; });
+}
+
+std::string Modified(const clsK70& k70) {
+  std::string list;
+  EXPECT_EQ(k70.DbNosepiece.ModifySdk(list), "");
+  return list;
+}
+
+// The journal's lines that are no plain questions about records.
+Lines Commands(const Rig& rig) {
+  Lines lines;
+  for (const std::string& line : rig.journal.Lines()) {
+    const bool question = line.find(" -> ") != std::string::npos && !line.starts_with("Query");
+    if (!question) lines.push_back(line);
+  }
+  return lines;
+}
+
+TEST(ObjectiveRead, AsksTheListsOnceAndOnlyTheUsersObjectivesForTheirCodes) {
+  Rig rig("Harbour");
+  rig.Connect();
+  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  const Lines first = rig.journal.Lines();
+  ASSERT_GE(first.size(), 15U);
+  EXPECT_EQ(first[0], "AccessoryDatabase.ObjectiveSeriesCount -> 6");
+  EXPECT_EQ(first[1], "AccessoryDatabase.ObjectiveTypeCount -> 7");
+  EXPECT_EQ(first[2], "AccessoryDatabase.ObjectiveSeries.Item(1).Name -> \"Plan A\"");
+  EXPECT_EQ(first[8], "AccessoryDatabase.ObjectiveTypes.Item(1).Name -> \"Dry\"");
+  rig.journal.Clear();
+  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  Lines queries;
+  for (const std::string& line : rig.journal.Lines()) {
+    EXPECT_EQ(line.find("ObjectiveSeries"), std::string::npos) << line;
+    if (line.starts_with("QueryCommand")) queries.push_back(line);
+  }
+  ASSERT_EQ(queries.size(), 9U);
+  EXPECT_EQ(queries[0], "QueryCommand(\"rONR1\") -> \"ONR1230FA0C63B63\"");
+  EXPECT_EQ(queries[8], "QueryCommand(\"rONR9\") -> \"ONR9000000000000\"");
+}
+
+TEST(ObjectiveRead, WithoutANosepieceLeavesTheTableEmptyButLoadsTheLists) {
+  Rig rig("Harbour");
+  rig.instrument().Accessory(accessory::kNosepiece).state = 0;
+  rig.Connect();
+  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 6);
+  EXPECT_EQ(rig.k70.DbNosepiece.Types(7), "Macro");
+  for (std::int32_t code = 0; code < 250; ++code) {
+    EXPECT_EQ(rig.k70.DbNosepiece.Name(code), "");
+    EXPECT_EQ(rig.k70.DbNosepiece.SeriesCode(code), 0);
+  }
+}
+
+TEST(ObjectiveRead, TheCondensersSurviveAReadWithoutANosepiece) {
+  Rig rig(List({"Quay", "Harbour", "Hub"}));
+  ASSERT_TRUE(rig.k70.Connect(1));
+  rig.k70.Receive();
+  ASSERT_EQ(rig.k70.DbNosepiece.AdoptiveCondenser(242), 5);
+  ASSERT_TRUE(rig.k70.Connect(2));
+  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.k70.DbNosepiece.AdoptiveCondenser(242), 5);
+  EXPECT_NE(FileTextOf(rig.k70.DbNosepiece)
+                .find("<OPTION POSITION=\"2\" CODE=\"000000000005\" NAME=\"\"/>"),
+            std::string::npos);
+}
+
+TEST(ObjectiveRead, ListsOfTheFirstControllerStay) {
+  Rig rig(List({"Quay", "Harbour", "Attic"}));
+  ASSERT_TRUE(rig.k70.Connect(1));
+  rig.k70.Receive();
+  rig.prompts.AcceptAnyBox();
+  ASSERT_TRUE(rig.k70.Connect(2));
+  rig.k70.Receive();
+  EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 6);
+  EXPECT_EQ(rig.k70.DbNosepiece.Series(1), "Plan A");
+}
+
+TEST(ObjectiveRead, ListsThatFailBeforeTheyAreSizedAreAskedAgain) {
+  for (const char* call :
+       {"AccessoryDatabase.ObjectiveSeriesCount", "AccessoryDatabase.ObjectiveTypeCount"}) {
+    Rig rig("Harbour");
+    rig.Connect();
+    rig.faults.Add({call, 1});
+    rig.prompts.ExpectBox("*** DbNosepiece.ReadDB Error!!(80004005)", box::kOk);
+    EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+    EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 0);
+    EXPECT_EQ(rig.k70.DbNosepiece.Series(0), "-----------");
+    EXPECT_EQ(rig.k70.DbNosepiece.Name(1), "Plan A 2x");
+    EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+    EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 6);
+    EXPECT_EQ(rig.k70.DbNosepiece.TypesCount(), 7);
+  }
+}
+
+TEST(ObjectiveRead, ListsThatFailLaterStayAsFarAsTheyWereFilled) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.faults.Add({"AccessoryDatabase.ObjectiveSeries.Item(3)", 1});
+  rig.prompts.ExpectBox("*** DbNosepiece.ReadDB Error!!(80004005)", box::kOk);
+  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 6);
+  EXPECT_EQ(rig.k70.DbNosepiece.Series(0), "-----------");
+  EXPECT_EQ(rig.k70.DbNosepiece.Series(2), "Plan F");
+  EXPECT_EQ(rig.k70.DbNosepiece.Series(3), "");
+  EXPECT_EQ(rig.k70.DbNosepiece.TypesCount(), 7);
+  EXPECT_EQ(rig.k70.DbNosepiece.Types(1), "");
+}
+
+TEST(ObjectiveRead, ACodeBeyondTheTableEndsIt) {
+  for (const std::int32_t code : {250, -1, 2147483647}) {
+    Rig rig("Harbour");
+    Record(rig, 3).code = code;
+    rig.Connect();
+    EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "Nosepieces Optional (Mortane:9)") << code;
+    EXPECT_EQ(rig.k70.DbNosepiece.Name(2), "Plan A 4x");
+    EXPECT_EQ(rig.k70.DbNosepiece.Name(4), "");
+  }
+}
+
+TEST(ObjectiveRead, AnAnswerThatEndsWithNoDigitEndsIt) {
+  for (const char* answer : {"", "   ", "ONR1120640640FAx"}) {
+    Rig rig("Harbour");
+    Record(rig, 241).answer = answer;
+    rig.Connect();
+    EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "Nosepieces Optional (Mortane:D)") << answer;
+    std::string list = "Before";
+    EXPECT_EQ(rig.k70.DbNosepiece.ModifySdk(list), "Nosepiece Optional (Mortane:D)") << answer;
+    EXPECT_EQ(list, "Before");
+  }
+}
+
+struct AnswerRow {
+  const char* answer;
+  const char* command;  // when condenser 4 is to be written
+};
+
+TEST(ObjectiveWrite, EchoesTheElevenCharactersBeforeTheDigitAsTheyCame) {
+  for (const AnswerRow& row :
+       {AnswerRow{"ONR1230FA0C63B63", "SendCommand(\"cONS1230FA0C63B64\")"},
+        AnswerRow{"230FA0C63B63", "SendCommand(\"cONS1230FA0C63B64\")"},
+        AnswerRow{"  ONR1 abcdefghijk3  ", "SendCommand(\"cONS1abcdefghijk4\")"},
+        AnswerRow{"ONR1 2 4567890A3", "SendCommand(\"cONS1 2 4567890A4\")"},
+        AnswerRow{"éöü4567890A3", "SendCommand(\"cONS1éöü4567890A4\")"}}) {
+    Rig rig("Harbour");
+    rig.ConnectAndReceive();
+    Record(rig, 241).answer = row.answer;
+    rig.k70.DbNosepiece.Set_DbNosepiece(1, "Clinic 25x", 2, 3, "25", "1.98", "0.95", 4);
+    rig.k70.DbNosepiece.WriteSdk();
+    ASSERT_EQ(rig.journal.Writes().size(), 1U) << row.answer;
+    EXPECT_TRUE(rig.journal.Writes()[0].starts_with(row.command)) << rig.journal.Writes()[0];
+  }
+}
+
+TEST(ObjectiveWrite, AsksTheCodeAfterTheValuesAreWritten) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.DbNosepiece.Set_DbNosepiece(1, "New", 1, 1, "40", "0.56", "0.65", 9);
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  const Lines lines = Commands(rig);
+  ASSERT_GE(lines.size(), 4U);
+  EXPECT_EQ(lines[0], "AccessoryDatabase.Nosepieces.Item(27).Name = \"New\"");
+  EXPECT_EQ(lines[1], "AccessoryDatabase.Nosepieces.Item(27).SetProperties(1, 1, 40, 0.56, 0.65)");
+  EXPECT_EQ(lines[2], "QueryCommand(\"rONR1\") -> \"ONR11119003828A3\"");
+  EXPECT_EQ(lines[3], "SendCommand(\"cONS11119003828A9\")");
+  EXPECT_EQ(Record(rig, 241).adoptive, 9);
+}
+
+TEST(ObjectiveWrite, WithNothingChangedSendsOnlyTheQueries) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  const Lines lines = Commands(rig);
+  ASSERT_EQ(lines.size(), 9U);
+  for (std::size_t i = 0; i < 9; ++i) {
+    EXPECT_TRUE(lines[i].starts_with("QueryCommand(\"rONR" + std::to_string(i + 1) + "\")"));
+  }
+}
+
+TEST(ObjectiveWrite, NeverTouchesAFixedObjective) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.DbNosepiece.Set_DbNosepiece(0, "Pocket", 1, 2, "10", "1", "0.3", 6);
+  Record(rig, 1).name = "Renamed behind us";
+  EXPECT_EQ(Modified(rig.k70), "");
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_TRUE(rig.journal.Writes().empty());
+}
+
+TEST(ObjectiveCompare, EachValueCounts) {
+  const std::vector<std::function<void(controller::ObjectiveData&)>> changes{
+      [](auto& record) { record.name = "Other"; },
+      [](auto& record) { record.series = 1; },
+      [](auto& record) { record.type = 1; },
+      [](auto& record) { record.magnification = 25.1; },
+      [](auto& record) { record.workingDistance = 1.99; },
+      [](auto& record) { record.numericalAperture = 0.951; }};
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    Rig rig("Harbour");
+    rig.ConnectAndReceive();
+    changes[i](Record(rig, 241));
+    EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] Clinic 25x") << i;
+    EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "") << i;
+    EXPECT_EQ(rig.journal.Writes().size(), 2U) << i;
+    EXPECT_EQ(Modified(rig.k70), "") << i;
+  }
+}
+
+TEST(ObjectiveCompare, BlanksBehindANameDoNotCountOthersDo) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  Record(rig, 241).name = "Clinic 25x   ";
+  EXPECT_EQ(Modified(rig.k70), "");
+  Record(rig, 241).name = " Clinic 25x";
+  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] Clinic 25x");
+  Record(rig, 241).name = "Clinic 25x\t";
+  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] Clinic 25x");
+}
+
+TEST(ObjectiveCompare, ALineHasTwentyCharactersOfTheName) {
+  Rig rig("Harbour");
+  Record(rig, 241).name = "äöüäöüäöüäöüäöüäöüäöüäöü";
+  rig.ConnectAndReceive();
+  Record(rig, 241).series = 1;
+  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] äöüäöüäöüäöüäöüäöüäö");
+}
+
+TEST(ObjectiveCompare, AnEmptyNameLeavesTheBlankBehindTheBracket) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.DbNosepiece.Set_DbNosepiece(1, "", 2, 3, "25", "1.98", "0.95", 8);
+  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] \r\nNosepiece Optional[1] ");
+}
+
+TEST(ObjectiveCompare, AnOptionOutsideTheNineIsComparedAndWrittenWithoutItsCode) {
+  Rig rig("Harbour");
+  Record(rig, 26).option = true;
+  rig.ConnectAndReceive();
+  Record(rig, 26).name = "Changed";
+  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[-214] Epi 150x");
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_EQ(rig.journal.Writes(),
+            (Lines{"AccessoryDatabase.Nosepieces.Item(26).Name = \"Epi 150x\"",
+                   "AccessoryDatabase.Nosepieces.Item(26).SetProperties(6, 1, 150, 0.42, 0.9)"}));
+  for (const std::string& line : rig.journal.Lines()) {
+    EXPECT_EQ(line.find("rONR-"), std::string::npos) << line;
+  }
+}
+
+TEST(ObjectiveCompare, IsNotGatedByTheNosepiece) {
+  Rig rig("Harbour");
+  rig.instrument().Accessory(accessory::kNosepiece).state = 0;
+  rig.Connect();
+  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  std::string list;
+  EXPECT_EQ(rig.k70.DbNosepiece.ModifySdk(list), "");
+  EXPECT_TRUE(list.starts_with("Nosepiece Optional[1] \r\nNosepiece Optional[1] \r\n")) << list;
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_EQ(Record(rig, 241).name, "");
+  EXPECT_EQ(Modified(rig.k70), "");
+}
+
+TEST(ObjectiveCompare, LinesBeforeAFailureStay) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.DbNosepiece.Set_DbNosepiece(1, "New", 2, 3, "25", "1.98", "0.95", 3);
+  rig.faults.Add({"QueryCommand(\"rONR2\")"});
+  std::string list = "Before";
+  EXPECT_EQ(rig.k70.DbNosepiece.ModifySdk(list), "Nosepiece Optional (LIB:80004005)");
+  EXPECT_EQ(list, "Before\r\nNosepiece Optional[1] New");
+}
+
+struct WriteFault {
+  const char* call;
+  const char* lines;
+  Lines writes;
+};
+
+// Position 1 differs in all that it has, and so does position 3.
+TEST(ObjectiveWrite, AFailureIsALineAndStopsNeitherTheRecordNorTheScan) {
+  const std::string item = "AccessoryDatabase.Nosepieces.Item(27).";
+  const std::string name1 = item + "Name = \"One\"";
+  const std::string values1 = item + "SetProperties(1, 1, 10, 1, 0.25)";
+  const std::string condenser1 = "SendCommand(\"cONS1110640640FA7\")";
+  const Lines third{"AccessoryDatabase.Nosepieces.Item(29).Name = \"Three\"",
+                    "AccessoryDatabase.Nosepieces.Item(29).SetProperties(1, 1, 20, 1, 0.25)",
+                    "SendCommand(\"cONS3110C80640FA8\")"};
+  const std::string failed = " ! LIB:80004005";
+  for (const WriteFault& fault : {
+           WriteFault{"put AccessoryDatabase.Nosepieces.Item(27).Name",
+                      "Nosepiece Optional[1]",
+                      {name1 + failed, values1, condenser1}},
+           WriteFault{"AccessoryDatabase.Nosepieces.Item(27).SetProperties",
+                      "Nosepiece Optional[1]",
+                      {name1, values1 + failed, "SendCommand(\"cONS1230FA0C63B67\")"}},
+           WriteFault{"SendCommand(\"cONS1110640640FA7\")",
+                      "Nosepiece Optional[1]",
+                      {name1, values1, condenser1 + failed}},
+           WriteFault{"QueryCommand(\"rONR1\")", "Nosepiece Optional[1]", {name1, values1}},
+           WriteFault{"get AccessoryDatabase.Nosepieces.Item(27).Name",
+                      "Nosepiece Optional[1]",
+                      {"SendCommand(\"cONS1230FA0C63B67\")"}},
+           WriteFault{"AccessoryDatabase.Nosepieces.Item(27).NumericalAperture",
+                      "Nosepiece Optional[1]",
+                      {"SendCommand(\"cONS1230FA0C63B67\")"}},
+           WriteFault{"AccessoryDatabase.Nosepieces.Item(27).Code",
+                      "Nosepiece Optional (LIB:80004005)",
+                      {}},
+           WriteFault{"AccessoryDatabase.Nosepieces.Item(27).IsOption",
+                      "Nosepiece Optional (LIB:80004005)",
+                      {}},
+       }) {
+    Rig rig("Harbour");
+    rig.ConnectAndReceive();
+    rig.k70.DbNosepiece.Set_DbNosepiece(1, "One", 1, 1, "10", "1", "0.25", 7);
+    rig.k70.DbNosepiece.Set_DbNosepiece(3, "Three", 1, 1, "20", "1", "0.25", 8);
+    rig.faults.Add({fault.call});
+    EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), fault.lines) << fault.call;
+    Lines expected = fault.writes;
+    expected.insert(expected.end(), third.begin(), third.end());
+    EXPECT_EQ(rig.journal.Writes(), expected) << fault.call;
+  }
+}
+
+TEST(ObjectiveWrite, ARecordThatFailsInBothStepsHasTwoLines) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.DbNosepiece.Set_DbNosepiece(1, "One", 1, 1, "10", "1", "0.25", 7);
+  rig.faults.Add({"put AccessoryDatabase.Nosepieces.Item.Name"});
+  rig.faults.Add({"AccessoryDatabase.Nosepieces.Item.SetProperties"});
+  rig.faults.Add({"SendCommand"});
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional[1]\r\nNosepiece Optional[1]");
+  EXPECT_EQ(rig.journal.Writes().size(), 3U);
+}
+
+TEST(ObjectiveWrite, AnAnswerWithoutADigitIsTheRecordsLine) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  Record(rig, 242).answer = "ONR232276013578x";
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional[2]");
+  EXPECT_TRUE(rig.journal.Writes().empty());
+}
+
+TEST(ObjectiveWrite, ACodeBeyondTheTableIsTheRecordsLineAndWritesNothing) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  Record(rig, 249).code = 250;
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional[10]");
+  EXPECT_TRUE(rig.journal.Writes().empty());
+}
+
+TEST(ObjectiveWrite, AControllerThatWentAwayFillsOneLine) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.faults.Add({"AccessoryDatabase.Nosepieces.Item"});
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional (LIB:80004005)");
+}
+
+}  // namespace
+}  // namespace mortane::test
