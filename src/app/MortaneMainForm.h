@@ -24,6 +24,7 @@ namespace controller {
 class ControllerLibrary;
 }
 class CommandKey;
+class CondenserSettingsCtl;
 class PageButton;
 class ProgressLine;
 class Rail;
@@ -68,6 +69,7 @@ class MortaneMainForm : public QMainWindow {
   std::array<QRadioButton*, kPageCount> optMenu;
   QFrame* FrameControl;
   SystemSettingsCtl* SystemSettingsCtl1 = nullptr;
+  CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
   QStatusBar* StatusBar1;
   FileQuestion CommonDialog1;
 

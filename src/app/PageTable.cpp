@@ -4,21 +4,38 @@
 
 #include "app/MortaneMainForm.h"
 #include "app/SystemSettingsCtl.h"
+#include "condensers/CondenserSettingsCtl.h"
+#include "model/clsK70.h"
 
 namespace mortane {
+namespace {
+
+// A page is a member of the window and bears its name.
+template <typename Ctl>
+PageEntry MakePage(MortaneMainForm& form, Ctl*& member, const char* name) {
+  member = new Ctl(form.FrameControl);
+  member->setObjectName(QLatin1String(name));
+  return MakeEntry(*member);
+}
+
+}  // namespace
 
 PageTable MainPages() {
   return {{
       {"System", IconName::System,
        [](MortaneMainForm& form) {
-         form.SystemSettingsCtl1 = new SystemSettingsCtl(form.FrameControl);
-         form.SystemSettingsCtl1->setObjectName("SystemSettingsCtl1");
-         return MakeEntry(*form.SystemSettingsCtl1);
+         return MakePage(form, form.SystemSettingsCtl1, "SystemSettingsCtl1");
        },
        [](const clsK70&) { return true; }},
       {"Objectives", IconName::Objective},
       {"Filter Cubes", IconName::Cube},
-      {"Condensers", IconName::Condenser},
+      {"Condensers", IconName::Condenser,
+       [](MortaneMainForm& form) {
+         return MakePage(form, form.CondenserSettingsCtl1, "CondenserSettingsCtl1");
+       },
+       [](const clsK70& k70) {
+         return k70.Controller(0) && k70.IsMounted(accessory::kCondenser) != kNotMounted;
+       }},
       {"Interlocks", IconName::Interlock},
       {"Controls", IconName::Control},
   }};
