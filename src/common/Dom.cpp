@@ -8,6 +8,7 @@
 #include <new>
 
 #include "common/DomParser.h"
+#include "common/DomWriter.h"
 #include "common/Failure.h"
 #include "platform/AtomicFile.h"
 
@@ -62,12 +63,6 @@ std::string CheckedName(std::string_view name) {
   if (xmlValidateName(Xml(checked), 0) != 0)
     RaiseOwnFailure(kConversionError, "XML cannot hold the name \"" + checked + "\"");
   return checked;
-}
-
-// libxml2 writes all but ASCII as references unless the document says that it is UTF-8.
-void WriteAsUtf8(xmlDoc* document) {
-  if (document->encoding != nullptr) xmlFree(const_cast<xmlChar*>(document->encoding));
-  document->encoding = Made(xmlStrdup(Xml("UTF-8")));
 }
 
 std::vector<DomNode> NodesFrom(xmlNode* first) {
@@ -133,9 +128,7 @@ void DomNode::Append(DomNode child) {
   Made(xmlAddChild(node_, child.node_));
 }
 
-DomDocument::DomDocument() : document_(Made(xmlNewDoc(Xml("1.0")))) {
-  WriteAsUtf8(document_.get());
-}
+DomDocument::DomDocument() : document_(Made(xmlNewDoc(Xml("1.0")))) {}
 
 DomDocument::~DomDocument() {
   FreeLoose();
@@ -181,7 +174,6 @@ bool DomDocument::LoadText(std::string_view bytes) {
   xmlDoc* parsed = ParseXml(bytes, problem_);
   if (parsed == nullptr) return false;
   document_.reset(parsed);
-  WriteAsUtf8(parsed);
   return true;
 }
 
@@ -207,13 +199,7 @@ void DomDocument::Save(const std::string& path) const {
 }
 
 std::string DomDocument::ToText() const {
-  xmlOutputBuffer* output = Made(xmlAllocOutputBuffer(nullptr));
-  for (xmlNode* node = document_->children; node != nullptr; node = node->next)
-    xmlNodeDumpOutput(output, document_.get(), node, 0, 0, "UTF-8");
-  std::string text(reinterpret_cast<const char*>(xmlOutputBufferGetContent(output)),
-                   xmlOutputBufferGetSize(output));
-  xmlOutputBufferClose(output);
-  return text;
+  return WriteXml(*document_);
 }
 
 }  // namespace mortane
