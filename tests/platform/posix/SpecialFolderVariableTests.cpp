@@ -43,12 +43,12 @@ struct Row {
 
 TEST(GetSpecialFolder, FollowsTheConfigurationFolderAndThenHome) {
   const Row rows[] = {
-      {"/c", "/home/u", "/c"},
-      {"/c d\xC3\xA9/", "/home/u", "/c d\xC3\xA9"},
-      {"", "/home/u", "/home/u/.config"},
-      {nullptr, "/home/u/", "/home/u/.config"},
-      {"relative", "/home/u", "/home/u/.config"},
-      {"/", "/home/u", "/"},
+      {"/c", "/people/u", "/c"},
+      {"/c d\xC3\xA9/", "/people/u", "/c d\xC3\xA9"},
+      {"", "/people/u", "/people/u/.config"},
+      {nullptr, "/people/u/", "/people/u/.config"},
+      {"relative", "/people/u", "/people/u/.config"},
+      {"/", "/people/u", "/"},
   };
   for (const Row& row : rows) {
     const Variable configured("XDG_CONFIG_HOME", row.configured);
