@@ -99,7 +99,7 @@ Value DecoratedObject::Step() {
 
 Value DecoratedObject::Get(std::string_view member, Args args) {
   if (member.empty()) {
-    const Value number = inner_->Get(member, args);
+    Value number = inner_->Get(member, args);
     library_.TookNumber(path_, number);
     return number;
   }

@@ -61,6 +61,7 @@ FiberData QuayFiber() {
 
 std::vector<std::string> Names() {
   std::vector<std::string> names;
+  names.reserve(kRigs.size() + 1);
   for (const RigRow& rig : kRigs) names.emplace_back(rig.name);
   names.emplace_back(kCrowd);
   return names;

@@ -92,6 +92,7 @@ constexpr std::array kCubes{
 template <std::size_t Count>
 std::vector<ListedName> ListOf(const std::array<std::string_view, Count>& names) {
   std::vector<ListedName> list;
+  list.reserve(Count);
   for (const std::string_view name : names) list.push_back({std::string(name)});
   return list;
 }
@@ -99,6 +100,7 @@ std::vector<ListedName> ListOf(const std::array<std::string_view, Count>& names)
 template <std::size_t Count>
 std::vector<FilterData> FixedFilters(const std::array<std::string_view, Count>& names) {
   std::vector<FilterData> records;
+  records.reserve(Count + kOptions);
   std::int32_t code = 0;
   for (const std::string_view name : names) records.push_back({++code, false, std::string(name)});
   return records;
@@ -110,6 +112,7 @@ std::string OptionName(const std::vector<std::string>& names, std::size_t index)
 
 std::vector<ObjectiveData> Objectives() {
   std::vector<ObjectiveData> records;
+  records.reserve(kObjectives.size() + kOptions);
   std::int32_t code = 0;
   for (const ObjectiveRow& row : kObjectives) {
     records.push_back({++code,
@@ -133,6 +136,7 @@ std::vector<ObjectiveData> Objectives() {
 
 std::vector<CubeData> Cubes() {
   std::vector<CubeData> records;
+  records.reserve(kCubes.size() + kOptions);
   std::int32_t code = 0;
   for (const CubeRow& row : kCubes) {
     records.push_back(

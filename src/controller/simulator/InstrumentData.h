@@ -1,0 +1,125 @@
+// The parts of a simulated instrument, as plain data.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace mortane::controller {
+
+// A controller unit, number 1 to 7. It answers when `present` is 1; other numbers than 0 and 1
+// are handed out as they stand.
+struct ControllerUnit {
+  std::int32_t present = 0;
+  std::string version;
+
+  bool operator==(const ControllerUnit&) const = default;
+};
+
+// 1 on, 0 off; the controller's codes are 1, 2, 5 and 6.
+struct BuzzerData {
+  std::int32_t body = 0;
+  std::int32_t hub = 0;
+  std::int32_t handController = 0;
+  std::int32_t fifthUnit = 0;
+
+  bool operator==(const BuzzerData&) const = default;
+};
+
+// 1 enabled, 0 disabled; the controller's units are 0, 4 and 7. LED: 0 off, 1 dark, 2 bright.
+struct SwitchData {
+  std::int32_t body = 0;
+  std::int32_t handController = 0;
+  std::int32_t remote = 0;
+  std::int32_t remoteLed = 0;
+
+  bool operator==(const SwitchData&) const = default;
+};
+
+// Numbers of the accessories.
+namespace accessory {
+inline constexpr int kNDFilter = 1;
+inline constexpr int kFieldStop = 2;
+inline constexpr int kApertureStop = 3;
+inline constexpr int kLamp = 4;
+inline constexpr int kCondenser = 5;
+inline constexpr int kFilterCube = 6;
+inline constexpr int kShutter = 7;
+inline constexpr int kAnalyzer = 8;
+inline constexpr int kNosepiece = 9;
+inline constexpr int kZoom = 10;
+inline constexpr int kLightPath = 11;
+inline constexpr int kZDrive = 12;
+inline constexpr int kEpiFieldStop = 13;
+inline constexpr int kXYDrive = 14;
+inline constexpr int kCount = 14;
+}  // namespace accessory
+
+// `state` is 1 when the accessory is fitted; one of state 0 answers nothing but that.
+// `value` is its position, voltage, path or magnification; the drives have their own.
+struct AccessoryData {
+  std::int32_t state = 0;
+  bool readOnly = false;
+  double value = 0;
+  std::int32_t offsetCode = 0;
+
+  bool operator==(const AccessoryData&) const = default;
+};
+
+struct TurretPlace {
+  std::int32_t position = 0;
+  std::int32_t code = 0;
+
+  bool operator==(const TurretPlace&) const = default;
+};
+
+using TurretPlaces = std::vector<TurretPlace>;
+
+// Positions in steps of 0.05 micrometres. Knob: 1 automatic, 0 manual; 1 coarse to 3 fine.
+// Compensation: 1 none, 2 absolute, 3 relative. Limits: 0 is 15 mm, 1 is 25 mm.
+struct ZDriveData {
+  std::int32_t position = 0;
+  std::int32_t knobAuto = 0;
+  std::int32_t knobSensitivity = 1;
+  std::int32_t moveProfile = 0;
+  std::int32_t moveOption = 0;
+  std::int32_t focusCompensation = 1;
+  std::int32_t lowerLimit = 0;
+  std::int32_t upperLimit = 0;
+
+  bool operator==(const ZDriveData&) const = default;
+};
+
+// As the Z drive. Handle: 0 right, 1 left.
+struct XYDriveData {
+  std::int32_t positionX = 0;
+  std::int32_t positionY = 0;
+  std::int32_t knobAuto = 0;
+  std::int32_t knobSensitivity = 1;
+  std::int32_t moveProfile = 0;
+  std::int32_t focusCompensation = 1;
+  std::int32_t handleMode = 0;
+
+  bool operator==(const XYDriveData&) const = default;
+};
+
+// Whether one accessory follows the four triggers: 1 yes, 0 no.
+struct InterlockData {
+  std::int32_t byObservation = 0;
+  std::int32_t byZoom = 0;
+  std::int32_t byNosepiece = 0;
+  std::int32_t byLightPath = 0;
+
+  bool operator==(const InterlockData&) const = default;
+};
+
+// In the order of the triggers, from 1.
+inline constexpr std::array kTriggers{&InterlockData::byObservation, &InterlockData::byZoom,
+                                      &InterlockData::byNosepiece, &InterlockData::byLightPath};
+
+// Keys "1" to "G" of the body. Of the hand controller key "0", its mode, and "1" to "E".
+inline constexpr std::size_t kBodySwitches = 16;
+inline constexpr std::size_t kHandSwitches = 15;
+
+}  // namespace mortane::controller
