@@ -134,11 +134,14 @@ class BasicAppRig : public RigLibrary {
   bool RequestClose() {
     QCloseEvent event;
     QSpontaneKeyEvent::setSpontaneous(&event);
-    QApplication::sendEvent(form.get(), &event);
+    qApp->notify(form.get(), &event);  // sending it would make it the program's own
     return event.isAccepted();
   }
 
-  // Calls of the log that are neither progress nor anything else than the given opening.
+  // The instrument that a bench of one microscope is about.
+  Instrument& instrument() { return simulated.bench().instruments.back(); }
+
+  // Calls of the log that begin with the given opening.
   int CountLog(std::string_view opening) const {
     int count = 0;
     for (const std::string& line : prompts.Log()) count += line.starts_with(opening) ? 1 : 0;

@@ -183,8 +183,8 @@ struct FileRig : Rig {
   std::unique_ptr<SelFileItemDlg> dialog;
 };
 
-const std::vector<std::string> kLabels{"System",    "Objective", "Filter Cube",
-                                       "Condenser", "InterLock", "Control",
+const std::vector<std::string> kLabels{"System",          "Objective",         "Filter Cube",
+                                       "Condenser",       "InterLock",         "Control",
                                        "K70 SW Function", "Tactor SW Function"};
 
 TEST(SelFileItemDlg, OffersWhatTheFileHolds) {

@@ -54,19 +54,17 @@ TEST_P(MessageBoxStyle, GivesIconButtonsAndAnswers) {
 
 INSTANTIATE_TEST_SUITE_P(
     Styles, MessageBoxStyle,
-    testing::Values(StyleCase{0, QMessageBox::NoIcon, {"OK"}, {Answer::Ok}},
-                    StyleCase{16, QMessageBox::Critical, {"OK"}, {Answer::Ok}},
-                    StyleCase{48, QMessageBox::Warning, {"OK"}, {Answer::Ok}},
-                    StyleCase{64, QMessageBox::Information, {"OK"}, {Answer::Ok}},
-                    StyleCase{33,
-                              QMessageBox::Question,
-                              {"OK", "Cancel"},
-                              {Answer::Ok, Answer::Cancel}},
-                    StyleCase{36, QMessageBox::Question, {"&Yes", "&No"}, {Answer::Yes, Answer::No}},
-                    StyleCase{22,
-                              QMessageBox::Critical,
-                              {"Cancel", "&Try Again", "&Continue"},
-                              {Answer::Cancel, Answer::TryAgain, Answer::Continue}}));
+    testing::Values(
+        StyleCase{0, QMessageBox::NoIcon, {"OK"}, {Answer::Ok}},
+        StyleCase{16, QMessageBox::Critical, {"OK"}, {Answer::Ok}},
+        StyleCase{48, QMessageBox::Warning, {"OK"}, {Answer::Ok}},
+        StyleCase{64, QMessageBox::Information, {"OK"}, {Answer::Ok}},
+        StyleCase{33, QMessageBox::Question, {"OK", "Cancel"}, {Answer::Ok, Answer::Cancel}},
+        StyleCase{36, QMessageBox::Question, {"&Yes", "&No"}, {Answer::Yes, Answer::No}},
+        StyleCase{22,
+                  QMessageBox::Critical,
+                  {"Cancel", "&Try Again", "&Continue"},
+                  {Answer::Cancel, Answer::TryAgain, Answer::Continue}}));
 
 struct EscapeCase {
   int style;
@@ -200,8 +198,7 @@ TEST_P(FileToSave, GetsItsExtensionOnce) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, FileToSave,
-                         testing::Values(NameCase{"lab", "lab.xml"},
-                                         NameCase{"lab.xml", "lab.xml"},
+                         testing::Values(NameCase{"lab", "lab.xml"}, NameCase{"lab.xml", "lab.xml"},
                                          NameCase{"lab 2 \xC3\xA9.xml", "lab 2 \xC3\xA9.xml"}));
 
 TEST(Pointer, IsTheHourglassUntilEachOneIsTakenBack) {
@@ -252,9 +249,8 @@ class Target : public QWidget {
 };
 
 void PostMouse(QWidget& target, QEvent::Type type) {
-  QApplication::postEvent(&target,
-                          new QMouseEvent(type, QPointF(1, 1), QPointF(1, 1), Qt::LeftButton,
-                                          Qt::LeftButton, Qt::NoModifier));
+  QApplication::postEvent(&target, new QMouseEvent(type, QPointF(1, 1), QPointF(1, 1),
+                                                   Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
 }
 
 TEST(FlushInput, DropsMouseAndKeysAndNothingElse) {
@@ -267,9 +263,9 @@ TEST(FlushInput, DropsMouseAndKeysAndNothingElse) {
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
     QApplication::postEvent(&target, new QKeyEvent(type, Qt::Key_A, Qt::NoModifier, "a"));
   }
-  QApplication::postEvent(
-      &target, new QWheelEvent(QPointF(1, 1), QPointF(1, 1), {}, {0, 120}, Qt::NoButton,
-                               Qt::NoModifier, Qt::NoScrollPhase, false));
+  QApplication::postEvent(&target,
+                          new QWheelEvent(QPointF(1, 1), QPointF(1, 1), {}, {0, 120}, Qt::NoButton,
+                                          Qt::NoModifier, Qt::NoScrollPhase, false));
   QApplication::postEvent(&target, new QEvent(QEvent::User));
   int ticks = 0;
   QTimer::singleShot(0, [&] { ++ticks; });

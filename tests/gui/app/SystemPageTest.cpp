@@ -1,10 +1,10 @@
 // The system page: name and report.
 #include <gtest/gtest.h>
 
-#include <QFontInfo>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "AppRig.h"
 #include "app/SystemNameCtl.h"
@@ -46,8 +46,8 @@ class SystemPage : public testing::Test {
 TEST_F(SystemPage, BearsItsControlsByName) {
   EXPECT_EQ(page->Header->objectName(), "Header");
   EXPECT_EQ(page->SystemNameCtl1->objectName(), "SystemNameCtl1");
-  for (const char* control : {"FrameBase", "Frame1", "Label1", "TextSystemName",
-                              "TextAccessories"}) {
+  for (const char* control :
+       {"FrameBase", "Frame1", "Label1", "TextSystemName", "TextAccessories"}) {
     EXPECT_NE(page->findChild<QWidget*>(control), nullptr) << control;
   }
   EXPECT_EQ(panel().Label1->text(), "System Name:");

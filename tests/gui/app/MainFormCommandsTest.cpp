@@ -1,0 +1,591 @@
+// The commands of the main window, from each control that reaches them.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolBar>
+#include <QToolButton>
+#include <algorithm>
+
+#include "AppRig.h"
+#include "app/SelFileItemDlg.h"
+#include "app/SelScopeDlg.h"
+#include "app/SystemNameCtl.h"
+#include "app/SystemSettingsCtl.h"
+#include "support/TempFolder.h"
+#include "widgets/CommandKey.h"
+#include "widgets/ListBox.h"
+#include "widgets/PageButton.h"
+#include "widgets/TextField.h"
+
+namespace mortane::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+// The log without the steps of the progress.
+Lines Calls(const ScriptedPrompts& prompts) {
+  Lines calls;
+  std::copy_if(prompts.Log().begin(), prompts.Log().end(), std::back_inserter(calls),
+               [](const std::string& line) { return !line.starts_with("progress"); });
+  return calls;
+}
+
+// A started window with six fakes.
+struct CommandRig {
+  explicit CommandRig(Bench bench = benches::Named("Harbour"), Lines arguments = {})
+      : app(std::move(bench), std::move(arguments), fakes.Table()) {
+    app.Start();
+    fakes.calls.clear();
+  }
+  MortaneMainForm& form() { return *app.form; }
+  void Tool(int position) {
+    QAction* button = form().Toolbar1->actions()[position - 1];
+    QTest::mouseClick(form().Toolbar1->widgetForAction(button), Qt::LeftButton);
+  }
+  void Key(std::size_t index) { QTest::mouseClick(form().ImageCommand[index], Qt::LeftButton); }
+
+  FakePages fakes;
+  AppRig app;
+};
+
+enum class Way { Menu, Tool, Key };
+
+struct RouteRow {
+  const char* first;  // what the command's log begins with
+  QAction* MortaneMainForm::*menu;
+  int tool;
+  int key;
+};
+
+const RouteRow kRoutes[] = {
+    {"open", &MortaneMainForm::MenuFileOpen, 1, -1},
+    {"save", &MortaneMainForm::MenuFileSave, 2, -1},
+    {"box 33", &MortaneMainForm::FileMenuExit, -1, 3},
+    {"pointer 11", &MortaneMainForm::MenuConnectReceive, 5, 1},
+    {"pointer 11", &MortaneMainForm::MenuConnectSend, 6, 2},
+};
+
+TEST(Commands, AreReachedFromMenuToolBarAndKeys) {
+  for (const RouteRow& row : kRoutes) {
+    for (const Way way : {Way::Menu, Way::Tool, Way::Key}) {
+      if ((way == Way::Tool && row.tool < 0) || (way == Way::Key && row.key < 0)) continue;
+      CommandRig rig;
+      const std::string first = row.first;
+      if (first == "open") rig.app.prompts.ExpectFileToOpen("");
+      if (first == "save") rig.app.prompts.ExpectFileToSave("");
+      if (first == "box 33") {
+        rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Cancel, kMainCaption);
+      }
+      if (way == Way::Menu) (rig.form().*row.menu)->trigger();
+      if (way == Way::Tool) rig.Tool(row.tool);
+      if (way == Way::Key) rig.Key(static_cast<std::size_t>(row.key));
+      const Lines calls = Calls(rig.app.prompts);
+      ASSERT_FALSE(calls.empty()) << row.first;
+      EXPECT_TRUE(calls.front().starts_with(first)) << calls.front();
+      EXPECT_EQ(calls.back(), "flush") << "what was clicked meanwhile is dropped";
+      const bool sends = row.menu == &MortaneMainForm::MenuConnectSend;
+      EXPECT_EQ(rig.app.CountLog("wait 3000"), sends ? 1 : 0);
+    }
+  }
+}
+
+TEST(Commands, SelectIsReachedFromMenuToolBarAndKey) {
+  for (const Way way : {Way::Menu, Way::Tool, Way::Key}) {
+    CommandRig rig;
+    const WhenShown<SelScopeDlg> person([](SelScopeDlg& dialog) { dialog.CancelButton->click(); });
+    if (way == Way::Menu) rig.form().MenuConnectSelect->trigger();
+    if (way == Way::Tool) rig.Tool(4);
+    if (way == Way::Key) rig.Key(0);
+    EXPECT_EQ(Calls(rig.app.prompts), Lines{"flush"});
+  }
+}
+
+TEST(Commands, StandBehindMnemonics) {
+  CommandRig rig;
+  rig.form().activateWindow();
+  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Cancel, kMainCaption);
+  QTest::keyClick(&rig.form(), Qt::Key_F, Qt::AltModifier);
+  QWidget* menu = QApplication::activePopupWidget();
+  ASSERT_EQ(menu, rig.form().MenuFile);
+  QTest::keyClick(menu, Qt::Key_X);
+  EXPECT_EQ(rig.app.prompts.Boxes().size(), 1U);
+}
+
+TEST(CommandKeys, ActOnAClickWithThePlainLeftButtonOnly) {
+  CommandRig rig;
+  CommandKey& receive = *rig.form().ImageCommand[1];
+  for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+    QTest::mousePress(&receive, button);
+    EXPECT_FALSE(receive.isPressedLook());
+    QTest::mouseRelease(&receive, button);
+  }
+  for (const Qt::KeyboardModifier modifier :
+       {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+    QTest::mouseClick(&receive, Qt::LeftButton, modifier);
+  }
+  EXPECT_TRUE(rig.app.prompts.Log().empty());
+  QTest::mousePress(&receive, Qt::LeftButton);
+  EXPECT_TRUE(receive.isPressedLook());
+  EXPECT_TRUE(rig.app.prompts.Log().empty()) << "not before the click";
+  QTest::mouseRelease(&receive, Qt::LeftButton);
+  EXPECT_FALSE(receive.isPressedLook());
+  EXPECT_EQ(rig.app.CountLog("pointer 11"), 1);
+}
+
+TEST(CommandKeys, LetGoBesideThemDoNothing) {
+  CommandRig rig;
+  CommandKey& receive = *rig.form().ImageCommand[1];
+  QTest::mousePress(&receive, Qt::LeftButton);
+  QTest::mouseRelease(&receive, Qt::LeftButton, {}, QPoint(-20, -20));
+  EXPECT_FALSE(receive.isPressedLook());
+  EXPECT_TRUE(rig.app.prompts.Log().empty());
+  QTest::mouseClick(&receive, Qt::LeftButton);
+  EXPECT_EQ(rig.app.CountLog("pointer 11"), 1) << "and act again afterwards";
+}
+
+TEST(CommandKeys, ActByKeyboard) {
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+    CommandRig rig;
+    rig.form().activateWindow();
+    rig.form().ImageCommand[1]->setFocus();
+    QTest::keyClick(rig.form().ImageCommand[1], key);
+    EXPECT_EQ(rig.app.CountLog("pointer 11"), 1) << key;
+  }
+}
+
+TEST(Open, AsksForAnExistingFileAndCancelledDoesNothingElse) {
+  CommandRig rig;
+  rig.app.prompts.ExpectFileToOpen("");
+  rig.form().MenuFileOpen->trigger();
+  EXPECT_EQ(Calls(rig.app.prompts), (Lines{"open", "flush"}));
+  const FileQuestion& question = rig.app.prompts.FileQuestions().front();
+  EXPECT_EQ(question.flags, 6148);
+  EXPECT_EQ(question.filter, "XML File (*.xml)|*.xml");
+  EXPECT_TRUE(rig.fakes.calls.empty());
+}
+
+constexpr char kOtherName[] =
+    "<Setup><SYSTEM><QHRMNAME NAME=\"From File\"/></SYSTEM><FILTER/></Setup>";
+
+TEST(Open, ReadsTheChosenSectionsAndLoadsAllPagesDisabledOnesToo) {
+  CommandRig rig;
+  rig.fakes.enabled = {true, false, false, false, false, false};
+  const TempFolder folder;
+  rig.app.prompts.ExpectFileToOpen(folder.Write("a.xml", kOtherName));
+  const WhenShown<SelFileItemDlg> person([&](SelFileItemDlg& dialog) {
+    EXPECT_EQ(dialog.List1->rowCount(), 2);
+    EXPECT_TRUE(rig.fakes.calls.empty());
+    dialog.OkButton->click();
+  });
+  rig.form().MenuFileOpen->trigger();
+  EXPECT_EQ(GetK70().SystemName, "From File");
+  EXPECT_EQ(rig.fakes.calls, OfAllPages("LoadData"));
+  EXPECT_TRUE(rig.app.journal.Writes().empty()) << "nothing is sent";
+}
+
+TEST(Open, WithTheDialogCancelledReadsNothingAndStillLoadsAllPages) {
+  CommandRig rig;
+  const std::string before = GetK70().SystemName;
+  const TempFolder folder;
+  rig.app.prompts.ExpectFileToOpen(folder.Write("a.xml", kOtherName));
+  const WhenShown<SelFileItemDlg> person(
+      [](SelFileItemDlg& dialog) { dialog.CancelButton->click(); });
+  rig.form().MenuFileOpen->trigger();
+  EXPECT_EQ(GetK70().SystemName, before);
+  EXPECT_EQ(rig.fakes.calls, OfAllPages("LoadData"));
+}
+
+TEST(Open, WithTheSystemSectionUncheckedKeepsTheNameInTheField) {
+  AppRig rig(benches::Named("Harbour"));
+  rig.Start();
+  const QString before = rig.form->SystemSettingsCtl1->SystemNameCtl1->TextSystemName->text();
+  const TempFolder folder;
+  rig.prompts.ExpectFileToOpen(folder.Write("a.xml", kOtherName));
+  const WhenShown<SelFileItemDlg> person([](SelFileItemDlg& dialog) {
+    dialog.List1->SetRowChecked(0, false);
+    dialog.OkButton->click();
+  });
+  rig.form->MenuFileOpen->trigger();
+  EXPECT_EQ(rig.form->SystemSettingsCtl1->SystemNameCtl1->TextSystemName->text(), before);
+}
+
+struct BadFileRow {
+  const char* content;
+  const char* box;  // the file's name goes in front when it begins with a blank
+};
+
+TEST(Open, AFileThatCannotBeReadIsToldTwiceAndThePagesAreLoaded) {
+  for (const BadFileRow& row :
+       {BadFileRow{"no xml", "Can't Load Xml"}, BadFileRow{"", "Can't Load Xml"},
+        BadFileRow{"<Other/>", " Other Format"}}) {
+    CommandRig rig;
+    const TempFolder folder;
+    const std::string path = folder.Write("a.xml", row.content);
+    const std::string box = row.box[0] == ' ' ? path + row.box : row.box;
+    rig.app.prompts.ExpectFileToOpen(path);
+    rig.app.prompts.ExpectBox(box, 0);
+    rig.app.prompts.ExpectBox(box, 0);
+    const WhenShown<SelFileItemDlg> person([](SelFileItemDlg& dialog) {
+      EXPECT_EQ(dialog.List1->rowCount(), 0);
+      dialog.OkButton->click();
+    });
+    rig.form().MenuFileOpen->trigger();
+    EXPECT_EQ(rig.fakes.calls, OfAllPages("LoadData"));
+    EXPECT_EQ(Calls(rig.app.prompts).back(), "flush");
+  }
+}
+
+TEST(Save, TakesTheVisiblePageBeforeItAsksAndNoOther) {
+  CommandRig rig;
+  QTest::mousePress(rig.form().ImageButton[4], Qt::LeftButton);
+  rig.app.prompts.ExpectFileToSave("");
+  rig.app.prompts.onCall = [&] {
+    if (rig.app.prompts.Log().back() == "save") {
+      EXPECT_EQ(rig.fakes.calls, Lines{"4.SaveData"});
+    }
+  };
+  rig.form().MenuFileSave->trigger();
+  EXPECT_EQ(Calls(rig.app.prompts), (Lines{"save", "flush"}));
+  EXPECT_EQ(rig.fakes.calls, Lines{"4.SaveData"});
+  EXPECT_EQ(rig.app.prompts.FileQuestions().front().flags, 2050);
+}
+
+TEST(Save, WritesTheFile) {
+  CommandRig rig;
+  const TempFolder folder;
+  rig.app.prompts.ExpectFileToSave(folder.Path("new.xml"));
+  rig.form().MenuFileSave->trigger();
+  EXPECT_TRUE(TempFolder::Read(folder.Path("new.xml")).starts_with("<Setup><SYSTEM>"));
+}
+
+TEST(Save, ThatFailsIsToldByTheModel) {
+  CommandRig rig;
+  const TempFolder folder;
+  rig.app.prompts.ExpectFileToSave(folder.Path("missing/new.xml"));
+  rig.app.prompts.AcceptAnyBox();
+  rig.form().MenuFileSave->trigger();
+  ASSERT_EQ(rig.app.prompts.Boxes().size(), 1U);
+  EXPECT_TRUE(rig.app.prompts.Boxes()[0].text.starts_with("XML File Write Error\r\n"));
+  EXPECT_EQ(rig.app.prompts.Boxes()[0].style, 16);
+}
+
+TEST(Receive, LoadsAllPagesUnderTheHourglass) {
+  CommandRig rig;
+  rig.fakes.enabled[2] = false;
+  rig.app.prompts.onCall = [&] {
+    if (rig.app.prompts.Log().back() == "pointer 0") {
+      EXPECT_EQ(rig.fakes.calls, OfAllPages("LoadData"));
+    }
+  };
+  rig.form().MenuConnectReceive->trigger();
+  EXPECT_EQ(Calls(rig.app.prompts), (Lines{"pointer 11", "pointer 0", "flush"}));
+  EXPECT_EQ(rig.fakes.calls, OfAllPages("LoadData"));
+  EXPECT_TRUE(rig.form().ImageButton[2]->isEnabled()) << "only Select asks again";
+}
+
+TEST(Receive, BringsTheNameBackToTheField) {
+  AppRig rig(benches::Named("Harbour"));
+  rig.Start();
+  TextField& field = *rig.form->SystemSettingsCtl1->SystemNameCtl1->TextSystemName;
+  field.setText("typed");
+  rig.form->MenuConnectReceive->trigger();
+  EXPECT_EQ(field.text().toStdString(), rig.instrument().name);
+}
+
+TEST(Send, SavesTheVisiblePageSendsAndWaits) {
+  CommandRig rig;
+  QTest::mousePress(rig.form().ImageButton[2], Qt::LeftButton);
+  GetK70().SystemName = "Bay 4";
+  rig.form().MenuConnectSend->trigger();
+  EXPECT_EQ(rig.fakes.calls, (Lines{"2.SaveData", "5.SendData"}));
+  EXPECT_EQ(Calls(rig.app.prompts), (Lines{"pointer 11", "wait 3000", "pointer 0", "flush"}));
+  ASSERT_FALSE(rig.app.journal.Writes().empty());
+  EXPECT_EQ(rig.app.journal.Writes().front(), "SystemName = \"Bay 4\"");
+}
+
+TEST(Send, DisablesTheWindowFromSavingToTheEndOfTheWait) {
+  CommandRig rig;
+  std::vector<bool> enabled;
+  rig.app.prompts.onCall = [&] { enabled.push_back(rig.form().isEnabled()); };
+  rig.form().MenuConnectSend->trigger();
+  ASSERT_GE(enabled.size(), 4U);
+  EXPECT_TRUE(enabled.front()) << "the hourglass comes first";
+  for (std::size_t i = 1; i + 2 < enabled.size(); ++i) EXPECT_FALSE(enabled[i]) << i;
+  EXPECT_TRUE(enabled.back()) << "input is dropped by the window that is to get it";
+  EXPECT_TRUE(rig.form().isEnabled());
+}
+
+TEST(Send, WithFailuresEndsAllTheSameWithTheWait) {
+  CommandRig rig;
+  GetK70().SystemName = "Bay 4";
+  rig.app.faults.Add({"put SystemName"});
+  rig.app.prompts.ExpectBox("System Name", 16, Answer::Ok, "Send", [&] {
+    EXPECT_FALSE(rig.form().isEnabled());
+    EXPECT_EQ(rig.app.CountLog("wait"), 0);
+  });
+  rig.form().MenuConnectSend->trigger();
+  EXPECT_EQ(rig.app.CountLog("wait 3000"), 1);
+  EXPECT_TRUE(rig.form().isEnabled());
+  EXPECT_EQ(rig.app.prompts.PointerBalance(), 0);
+}
+
+TEST(Send, GivesTheFocusBackAndStoresNothingByTakingIt) {
+  AppRig rig(benches::Named("Harbour"));
+  rig.Start();
+  rig.form->activateWindow();
+  TextField& field = *rig.form->SystemSettingsCtl1->SystemNameCtl1->TextSystemName;
+  field.setFocus();
+  rig.form->MenuConnectSend->trigger();
+  EXPECT_TRUE(field.hasFocus());
+}
+
+TEST(Send, FromThePageOfANamelessControllerWritesNoName) {
+  Bench bench = benches::Named("Harbour");
+  bench.instruments[1].name = "";
+  AppRig rig(bench);
+  rig.Start();
+  rig.form->MenuConnectSend->trigger();
+  EXPECT_EQ(rig.instrument().name, "NoName");
+}
+
+TEST(Exit, AsksAndStaysWhenCancelled) {
+  CommandRig rig;
+  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Cancel, kMainCaption);
+  rig.Key(3);
+  EXPECT_TRUE(rig.form().isVisible());
+  EXPECT_EQ(Calls(rig.app.prompts).back(), "flush");
+}
+
+TEST(Exit, WithOkClosesWithoutASecondQuestionAndSendsNothing) {
+  CommandRig rig;
+  GetK70().SystemName = "unsent";
+  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption);
+  rig.form().FileMenuExit->trigger();
+  EXPECT_FALSE(rig.form().isVisible());
+  EXPECT_TRUE(rig.app.journal.Writes().empty());
+  EXPECT_TRUE(rig.fakes.calls.empty()) << "nothing is saved";
+}
+
+TEST(CloseBox, AsksTheSameAndIsCancelledUnlessOk) {
+  CommandRig rig;
+  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Cancel, kMainCaption);
+  EXPECT_FALSE(rig.app.RequestClose());
+  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption);
+  EXPECT_TRUE(rig.app.RequestClose());
+}
+
+TEST(CloseBox, IsNotAskedByTheProgramItself) {
+  CommandRig rig;
+  rig.form().Unload();
+  EXPECT_FALSE(rig.form().isVisible());
+  EXPECT_TRUE(rig.app.prompts.Log().empty());
+}
+
+TEST(CloseBox, UsedDuringACommandWaitsForItsEnd) {
+  CommandRig rig;
+  rig.app.prompts.onCall = [&] {
+    if (rig.app.prompts.Log().back() != "flush") return;
+    EXPECT_FALSE(rig.app.RequestClose());
+    EXPECT_TRUE(rig.app.prompts.Boxes().empty());
+    rig.app.prompts.onCall = {};
+    rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption);
+  };
+  rig.form().MenuConnectReceive->trigger();
+  EXPECT_TRUE(rig.form().isVisible());
+  QTest::qWait(1);
+  EXPECT_FALSE(rig.form().isVisible());
+}
+
+TEST(Commands, DoNotRunWithinEachOther) {
+  CommandRig rig;
+  rig.app.prompts.onCall = [&] {
+    if (rig.app.prompts.Log().back() == "flush") rig.form().MenuConnectSend->trigger();
+  };
+  rig.form().MenuConnectReceive->trigger();
+  EXPECT_EQ(rig.app.CountLog("wait"), 0);
+}
+
+Bench Three() {
+  return Microscopes({"Alpha", "Beta", "Gamma"});
+}
+
+// The window connected to one of three microscopes by its name.
+struct SelectRig : CommandRig {
+  SelectRig() : CommandRig(Three(), {"Alpha"}) {}
+  void Select(int line) {
+    const WhenShown<SelScopeDlg> person([line](SelScopeDlg& dialog) {
+      dialog.List1->setIndex(line);
+      dialog.OkButton->click();
+    });
+    form().MenuConnectSelect->trigger();
+  }
+  std::vector<bool> Transfers() {
+    return {form().ImageCommand[1]->isEnabled(), form().ImageCommand[2]->isEnabled(),
+            form().MenuConnectReceive->isEnabled(), form().MenuConnectSend->isEnabled()};
+  }
+  // All other controls that start a command.
+  bool OthersEnabled() {
+    bool enabled = form().ImageCommand[0]->isEnabled() && form().ImageCommand[3]->isEnabled() &&
+                   form().MenuFileOpen->isEnabled() && form().MenuFileSave->isEnabled() &&
+                   form().FileMenuExit->isEnabled() && form().MenuConnectSelect->isEnabled();
+    for (const QAction* button : form().Toolbar1->actions()) {
+      enabled = enabled && (button->isSeparator() || button->isEnabled());
+    }
+    return enabled;
+  }
+};
+
+TEST(Select, OfTheConnectedDeviceChangesNothing) {
+  SelectRig rig;
+  rig.Select(0);
+  EXPECT_EQ(Calls(rig.app.prompts), Lines{"flush"});
+  EXPECT_EQ(GetK70().lConnectDevice, 1);
+  EXPECT_TRUE(rig.fakes.calls.empty());
+  EXPECT_TRUE(rig.app.journal.Writes().empty());
+}
+
+TEST(Select, ConnectsReceivesAndRefreshesThePages) {
+  SelectRig rig;
+  rig.fakes.enabled = {true, false, true, true, true, true};
+  QTest::mousePress(rig.form().ImageButton[4], Qt::LeftButton);
+  rig.Select(1);
+  EXPECT_EQ(GetK70().lConnectDevice, 2);
+  EXPECT_EQ(GetK70().SystemName, "Beta");
+  Lines expected = OfAllPages("LoadData");
+  for (const char* line : {"0.LoadData", "2.LoadData", "3.LoadData", "4.LoadData", "5.LoadData",
+                           "5.SetNosePostiton"}) {
+    expected.push_back(line);
+  }
+  EXPECT_EQ(rig.fakes.calls, expected);
+  EXPECT_FALSE(rig.form().ImageButton[1]->isEnabled());
+  EXPECT_TRUE(rig.form().optMenu[0]->isChecked()) << "the system page comes up";
+  EXPECT_EQ(Calls(rig.app.prompts), (Lines{"pointer 11", "pointer 0", "flush", "flush"}));
+}
+
+TEST(Select, LetsTheOldDeviceGoBeforeItTakesTheNewOne) {
+  SelectRig rig;
+  rig.Select(1);
+  const Lines& lines = rig.app.journal.Lines();
+  const auto at = [&](const char* line) { return std::find(lines.begin(), lines.end(), line); };
+  ASSERT_NE(at("DeviceList.Item(1).Disconnect()"), lines.end());
+  EXPECT_LT(at("DeviceList.Item(1).Disconnect()"), at("DeviceList.Item(2).Connect()"));
+  RigLibrary other(benches::Named("Quay"));
+  clsK70 holder(other.library, other.prompts);
+  EXPECT_TRUE(holder.CreateConnectionName("1"));
+  EXPECT_FALSE(holder.CreateConnectionName("2"));
+}
+
+TEST(Select, GoesOnWhenTheOldDeviceCannotBeLetGo) {
+  SelectRig rig;
+  rig.app.faults.Add({"DeviceList.Item(1).Disconnect"});
+  rig.app.prompts.ExpectBox("*** Disconnect Error!!(80004005)", 0);
+  rig.Select(1);
+  EXPECT_EQ(GetK70().lConnectDevice, 2);
+}
+
+TEST(Select, OfAHeldDeviceStopsAndDisablesExactlyTheTransfers) {
+  SelectRig rig;
+  RigLibrary other(benches::Named("Quay"));
+  clsK70 holder(other.library, other.prompts);
+  ASSERT_TRUE(holder.CreateConnectionName("2"));
+  rig.app.prompts.ExpectBox("Other Application has already used this Microscope.", 0);
+  rig.Select(1);
+  EXPECT_EQ(rig.Transfers(), std::vector<bool>(4, false));
+  EXPECT_TRUE(rig.OthersEnabled());
+  EXPECT_EQ(GetK70().lConnectDevice, -1);
+  EXPECT_EQ(rig.app.CountLog("flush"), 0) << "this path drops no input";
+  EXPECT_TRUE(rig.fakes.calls.empty());
+
+  rig.app.prompts.AcceptAnyBox();
+  rig.Tool(5);  // the tool bar still tries
+  EXPECT_TRUE(rig.app.prompts.Boxes().back().text.starts_with("System Name"));
+  EXPECT_EQ(rig.app.prompts.Boxes().back().style, 16);
+  rig.Select(0);
+  EXPECT_EQ(rig.Transfers(), std::vector<bool>(4, true));
+  EXPECT_EQ(GetK70().lConnectDevice, 1);
+}
+
+TEST(Select, WithoutAConnectionOpenAndSaveStillWork) {
+  SelectRig rig;
+  RigLibrary other(benches::Named("Quay"));
+  clsK70 holder(other.library, other.prompts);
+  ASSERT_TRUE(holder.CreateConnectionName("2"));
+  rig.app.prompts.ExpectBox("Other Application has already used this Microscope.", 0);
+  rig.Select(1);
+  const TempFolder folder;
+  rig.app.prompts.ExpectFileToSave(folder.Path("a.xml"));
+  rig.form().MenuFileSave->trigger();
+  rig.app.prompts.ExpectFileToOpen(folder.Path("a.xml"));
+  const WhenShown<SelFileItemDlg> person([](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+  rig.form().MenuFileOpen->trigger();
+  EXPECT_EQ(rig.app.prompts.Boxes().size(), 1U);
+}
+
+TEST(Select, ThatCannotConnectStopsAndLeavesTheControlsAsTheyWere) {
+  SelectRig rig;
+  rig.app.faults.Add({"DeviceList.Item(2).Connect"});
+  rig.app.prompts.ExpectBox("Device Connect Error.", 16);
+  rig.Select(1);
+  EXPECT_EQ(rig.Transfers(), std::vector<bool>(4, true));
+  EXPECT_EQ(rig.app.CountLog("flush"), 0) << "this path drops no input";
+  EXPECT_TRUE(rig.fakes.calls.empty());
+  RigLibrary other(benches::Named("Quay"));
+  clsK70 holder(other.library, other.prompts);
+  EXPECT_FALSE(holder.CreateConnectionName("2")) << "the name is kept";
+
+  rig.app.faults.Clear();
+  rig.Select(1);
+  EXPECT_EQ(GetK70().lConnectDevice, 2) << "the same device can be tried again";
+}
+
+using CommandRow = QAction* MortaneMainForm::*;
+
+// Each controller call that a command makes fails in turn.
+TEST(Commands, SurviveAFailureOfEachControllerCallInTurn) {
+  for (const CommandRow command :
+       {&MortaneMainForm::MenuConnectReceive, &MortaneMainForm::MenuConnectSend}) {
+    AppRig rig(benches::Named("Harbour"));
+    rig.Start();
+    rig.prompts.AcceptAnyBox();
+    const auto run = [&](std::size_t failing) {
+      GetK70().SystemName = "call " + std::to_string(failing);
+      rig.faults.Clear();
+      if (failing > 0) rig.faults.FailCall(failing);
+      rig.prompts.ClearRecords();
+      const std::size_t before = rig.journal.CallCount();
+      (rig.form.get()->*command)->trigger();
+      EXPECT_EQ(rig.prompts.PointerBalance(), 0) << failing;
+      EXPECT_TRUE(rig.form->isEnabled()) << failing;
+      EXPECT_EQ(Calls(rig.prompts).back(), "flush") << failing;
+      return rig.journal.CallCount() - before;
+    };
+    const std::size_t calls = run(0);
+    ASSERT_GT(calls, 0U);
+    for (std::size_t k = 1; k <= calls; ++k) {
+      run(k);
+      EXPECT_FALSE(rig.prompts.Boxes().empty()) << "call " << k << " failed unseen";
+    }
+  }
+}
+
+TEST(Select, SurvivesAFailureOfEachControllerCallInTurn) {
+  for (std::size_t k = 1; k < 60; k += 3) {
+    SelectRig rig;
+    rig.app.prompts.AcceptAnyBox();
+    const WhenShown<SelScopeDlg> person([&](SelScopeDlg& dialog) {
+      dialog.List1->setIndex(1);
+      rig.app.faults.FailCall(k);
+      dialog.OkButton->click();
+      if (dialog.isVisible()) dialog.reject();
+    });
+    rig.form().MenuConnectSelect->trigger();
+    EXPECT_EQ(rig.app.prompts.PointerBalance(), 0) << k;
+    EXPECT_TRUE(rig.form().isEnabled()) << k;
+  }
+}
+
+}  // namespace
+}  // namespace mortane::test
