@@ -164,6 +164,13 @@ TEST(Faults, CanHitTheWalkAndLeaveTheCount) {
   EXPECT_THROW(walk.Next(), ControllerError);
 }
 
+TEST(Faults, OfACollectionDoNotCountTheStepsOfAWalkOverIt) {
+  FaultRig rig;
+  rig.plan.Add({"NosepieceDevice.Positions", 2});
+  EXPECT_NO_THROW(ReadThirdCode(rig.root));
+  EXPECT_THROW(ReadThirdCode(rig.root), ControllerError);
+}
+
 TEST(Faults, HitCreationByTheNameOfTheClass) {
   FaultRig rig;
   rig.plan.Add({"Create(Microscope)"});
