@@ -12,6 +12,9 @@
 
 #include "condensers/clsCondenser.h"
 #include "condensers/clsDbCondenser.h"
+#include "filters/FilterItemNames.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
 #include "model/ConnectedMicroscope.h"
 #include "model/SettingsFile.h"
 #include "model/Transfers.h"
@@ -41,6 +44,11 @@ class clsK70 : public ConnectedMicroscope {
   clsNosepiece curNosepiece{*this, DbNosepiece};
   clsDbNosepiece DbNosepiece{*this};
   clsLimitation curLimit{*this};
+  clsFilter curFilter{*this, dbFilter};
+  clsDbFilter dbFilter{*this, Exciter, Dichroic, Barrier};
+  clsDbExciter Exciter{*this};
+  clsDbDichroic Dichroic{*this};
+  clsDbBarrier Barrier{*this};
   clsCondenser curCondenser{*this, dbcon};
   clsDbCondenser dbcon{*this};
 

@@ -1,0 +1,37 @@
+#include "filters/clsFilter.h"
+
+namespace mortane {
+namespace {
+
+constexpr std::size_t kNameLength = 10;
+
+constexpr TurretKind kFilterTurret{
+    accessory::kFilterCube,
+    [](const controller::Microscope& mic) { return mic.FilterCubeDevice().Positions(); },
+    249,
+    "Filter Cube (",
+    "Filter Cube[",
+    "Filter Cube[",
+};
+
+}  // namespace
+
+clsFilter::clsFilter(ConnectedMicroscope& microscope, const clsDbFilter& database)
+    : parent(microscope), database_(database), codes_(kFilterTurret) {}
+
+std::string clsFilter::ModifySdk(std::string& list) const {
+  return codes_.Modify(parent, list, [this](std::int32_t code) {
+    return FirstCharacters(database_.Name(code), kNameLength);
+  });
+}
+
+std::string clsFilter::ReadDom(const DomNode& node) {
+  const TurretCodes::FileItem item = codes_.ReadDom(node);
+  return item.taken ? std::string() : ItemLine(kFilterTurret.writeLabel, item.position);
+}
+
+void clsFilter::WriteDom(DomDocument& document, DomNode section) const {
+  codes_.WriteDom(document, section, Count);
+}
+
+}  // namespace mortane

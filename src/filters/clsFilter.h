@@ -1,0 +1,42 @@
+// What stands in the filter turret: the cube code at each address.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "common/Dom.h"
+#include "filters/clsDbFilter.h"
+#include "model/ConnectedMicroscope.h"
+#include "model/TurretCodes.h"
+
+namespace mortane {
+
+// Owned by clsK70. What a code means is the database's affair.
+class clsFilter {
+ public:
+  clsFilter(ConnectedMicroscope& microscope, const clsDbFilter& database);
+
+  ConnectedMicroscope& parent;
+
+  // Positions of the turret; told by clsK70 on connecting and after each transfer from the
+  // controller. A read of this unit alone leaves it.
+  std::int32_t Count = 0;
+
+  // Cube code 0 to 249 at address 1 to 10; for other addresses -1, and nothing is stored.
+  std::int32_t code(std::int32_t address) const { return codes_.Code(address); }
+  void code(std::int32_t address, std::int32_t value) { codes_.Code(address, value); }
+
+  std::string ReadSdk() { return codes_.Read(parent).failure; }
+  std::string ModifySdk(std::string& list) const;
+  std::string WriteSdk() const { return codes_.Write(parent); }
+
+  // An "ITEM" element may name an address beyond Count; WriteDom writes those up to Count.
+  std::string ReadDom(const DomNode& node);
+  void WriteDom(DomDocument& document, DomNode section) const;
+
+ private:
+  const clsDbFilter& database_;
+  TurretCodes codes_;
+};
+
+}  // namespace mortane
