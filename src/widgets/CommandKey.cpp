@@ -49,7 +49,7 @@ void CommandKey::setMain(bool main) {
 }
 
 bool CommandKey::isPressedLook() const {
-  return pressedByMouse_ || (isDown() && hasFocus());
+  return shownPressed_ || (isDown() && !heldByMouse_);
 }
 
 QSize CommandKey::sizeHint() const {
@@ -58,16 +58,18 @@ QSize CommandKey::sizeHint() const {
 }
 
 void CommandKey::mousePressEvent(QMouseEvent* event) {
-  pressedByMouse_ = IsPlainLeft(*event);
+  heldByMouse_ = true;
+  shownPressed_ = IsPlainLeft(*event);
   QAbstractButton::mousePressEvent(event);
   update();
 }
 
 void CommandKey::mouseReleaseEvent(QMouseEvent* event) {
-  pressedByMouse_ = false;
+  shownPressed_ = false;
   releasedPlainly_ = IsPlainLeft(*event);
   update();
   QAbstractButton::mouseReleaseEvent(event);
+  heldByMouse_ = false;
   releasedPlainly_ = true;
 }
 

@@ -36,7 +36,8 @@ class CommandKey : public QAbstractButton {
 
   IconName icon_;
   bool main_ = false;
-  bool pressedByMouse_ = false;
+  bool heldByMouse_ = false;
+  bool shownPressed_ = false;
   bool releasedPlainly_ = true;  // true at rest, so that the keyboard always acts
 };
 

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kIconSide = 22;
 constexpr int kRowsAskedFor = 6;
+constexpr int kDialogUnits = 4;  // of a character's average width
 
 }  // namespace
 
@@ -30,6 +31,14 @@ ListBox::ListBox(QWidget* parent) : QTreeWidget(parent) {
   header()->setSectionsMovable(false);
   header()->setMinimumSectionSize(16);
   SetColumns({{}});
+  connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
+    const int row = indexOfTopLevelItem(item);
+    if (column != 0 || row < 0) return;
+    const bool checked = item->checkState(0) == Qt::Checked;
+    if (item->data(0, kCheckedRole).toBool() == checked) return;
+    item->setData(0, kCheckedRole, checked);
+    emit rowChecked(row, checked);
+  });
 }
 
 void ListBox::SetColumns(const QVector<ListColumn>& columns) {
@@ -51,6 +60,18 @@ void ListBox::SetColumns(const QVector<ListColumn>& columns) {
     header()->setSectionResizeMode(i, QHeaderView::ResizeToContents);
 }
 
+void ListBox::SetTabStops(const QVector<int>& dialogUnits) {
+  tabStops_ = dialogUnits;
+  header()->resizeSections(QHeaderView::ResizeToContents);
+}
+
+int ListBox::sizeHintForColumn(int column) const {
+  const int before = column > 0 ? tabStops_.value(column - 1) : 0;
+  const int units = tabStops_.value(column) - before;
+  return qMax(units * fontMetrics().averageCharWidth() / kDialogUnits,
+              QTreeWidget::sizeHintForColumn(column));
+}
+
 void ListBox::SetIconRows(bool iconRows) {
   setIconSize({kIconSide, kIconSide});
   static_cast<RowDelegate*>(itemDelegate())
@@ -58,14 +79,17 @@ void ListBox::SetIconRows(bool iconRows) {
 }
 
 int ListBox::addRow(const QString& text, const QVariant& data) {
-  auto* item = new QTreeWidgetItem(this);
-  const QStringList parts = text.split(QLatin1Char('\t'));
+  // Complete before the view sees it, which would otherwise look at it at every step.
+  auto* item = new QTreeWidgetItem;
+  // A tab that no column asks for belongs to the text.
+  const QStringList parts = columnCount() > 1 ? text.split(QLatin1Char('\t')) : QStringList(text);
   const int count = qMin(static_cast<int>(parts.size()), columnCount());
   for (int i = 0; i < count; ++i) {
     item->setText(i, parts[i]);
     item->setTextAlignment(i, columns_[i].alignment | Qt::AlignVCenter);
   }
   item->setData(0, Qt::UserRole, data);
+  addTopLevelItem(item);
   return rowCount() - 1;
 }
 
@@ -125,6 +149,7 @@ void ListBox::SelectQuietly(int row) {
     return;
   }
   setCurrentItem(item);
+  item->setSelected(true);  // also after a click with the control key has taken it back
   scrollToItem(item);
 }
 

@@ -24,6 +24,9 @@ class ListBox : public QTreeWidget {
 
   // Columns before rows. Heads are shown if one of them has a text; the last column stretches.
   void SetColumns(const QVector<ListColumn>& columns);
+  // Columns after the first begin no further left than these stops, which are given in dialog
+  // units: quarters of a character's average width.
+  void SetTabStops(const QVector<int>& dialogUnits);
   void SetIconRows(bool iconRows);
 
   int addRow(const QString& text, const QVariant& data = {});
@@ -44,6 +47,7 @@ class ListBox : public QTreeWidget {
 
  signals:
   void clicked(int row);
+  // For every change of a row's check mark, by the program or the user.
   void rowChecked(int row, bool checked);
 
  protected:
@@ -54,6 +58,7 @@ class ListBox : public QTreeWidget {
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] int sizeHintForColumn(int column) const override;
 
   void SelectQuietly(int row);
 
@@ -61,6 +66,7 @@ class ListBox : public QTreeWidget {
   [[nodiscard]] int RowAt(const QMouseEvent& event) const;
 
   QVector<ListColumn> columns_;
+  QVector<int> tabStops_;
 };
 
 }  // namespace mortane

@@ -6,16 +6,14 @@
 #include <algorithm>
 #include <array>
 
-#include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
 
-constexpr QSizeF kDesign{638, 394};
+constexpr QSizeF kDesign{606, 370};
 constexpr double kLeastScale = 0.8;
 constexpr double kMostScale = 1.5;
-constexpr double kLabelMargin = 16;
 constexpr double kTextGap = 7;
 constexpr double kElbow = 26;
 constexpr double kDotRadius = 5;
@@ -32,13 +30,13 @@ struct Anchor {
 };
 
 constexpr std::array kAnchors{
-    Anchor{1, Side::Right, 408, 72, 77},       Anchor{2, Side::Left, 343.5, 104.5, 104.5},
-    Anchor{3, Side::Right, 371, 165.5, 165.5}, Anchor{4, Side::Right, 458, 55, 50},
-    Anchor{5, Side::Left, 330, 144, 144},      Anchor{6, Side::Right, 384, 270, 261},
-    Anchor{7, Side::Right, 444, 312, 315},     Anchor{8, Side::Left, 298, 274, 271},
-    Anchor{9, Side::Left, 334, 245, 244},      Anchor{10, Side::Right, 391, 300, 288},
-    Anchor{11, Side::Left, 283, 295, 298},     Anchor{12, Side::Left, 312, 326, 326},
-    Anchor{13, Side::Right, 463, 326, 342},    Anchor{14, Side::Left, 305, 200.5, 200.5},
+    Anchor{1, Side::Right, 392, 60, 65},       Anchor{2, Side::Left, 327.5, 92.5, 92.5},
+    Anchor{3, Side::Right, 355, 153.5, 153.5}, Anchor{4, Side::Right, 442, 43, 38},
+    Anchor{5, Side::Left, 314, 132, 132},      Anchor{6, Side::Right, 368, 258, 249},
+    Anchor{7, Side::Right, 428, 300, 303},     Anchor{8, Side::Left, 282, 262, 259},
+    Anchor{9, Side::Left, 318, 233, 232},      Anchor{10, Side::Right, 375, 288, 276},
+    Anchor{11, Side::Left, 267, 283, 286},     Anchor{12, Side::Left, 296, 314, 314},
+    Anchor{13, Side::Right, 447, 314, 330},    Anchor{14, Side::Left, 289, 188.5, 188.5},
 };
 
 const Anchor* AnchorOf(int number) {
@@ -78,8 +76,7 @@ double ExtraOnSide(const QVector<DrawnAccessory>& accessories, Side side, double
     const Anchor* anchor = AnchorOf(accessory.number);
     if (anchor == nullptr || anchor->side != side) continue;
     const double room = (side == Side::Left ? anchor->x : kDesign.width() - anchor->x) - kElbow;
-    const double needed =
-        kLabelMargin + (metrics.horizontalAdvance(accessory.label) + 2 * kTextGap) / scale;
+    const double needed = (metrics.horizontalAdvance(accessory.label) + 2 * kTextGap) / scale;
     extra = std::max(extra, needed - room);
   }
   return extra;
@@ -144,8 +141,6 @@ QSize MicroscopeDrawing::minimumSizeHint() const {
 void MicroscopeDrawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  DrawPlate(painter, rect(), palette().color(QPalette::AlternateBase),
-            {palette().color(QPalette::Mid), 1, grid::kInnerCorner});
   const double scale = drawingScale();
   const double left = ExtraOnSide(accessories_, Side::Left, scale, fontMetrics());
   const double right = ExtraOnSide(accessories_, Side::Right, scale, fontMetrics());
@@ -156,8 +151,8 @@ void MicroscopeDrawing::paintEvent(QPaintEvent*) {
   body.render(&painter, QRectF(origin, kDesign * scale));
 
   const auto place = [&](double x, double y) { return origin + QPointF(x, y) * scale; };
-  const double labelLeft = (width() - whole) / 2 + kLabelMargin * scale;
-  const double labelRight = (width() + whole) / 2 - kLabelMargin * scale;
+  const double labelLeft = (width() - whole) / 2;
+  const double labelRight = (width() + whole) / 2;
   for (const DrawnAccessory& accessory : accessories_) {
     const Anchor* anchor = AnchorOf(accessory.number);
     if (anchor == nullptr) continue;

@@ -1,10 +1,13 @@
 #include "widgets/OptionGroup.h"
 
+#include <QEvent>
 #include <QRadioButton>
+#include <algorithm>
 
 namespace mortane {
 
 OptionGroup::OptionGroup(QObject* parent) : QObject(parent) {
+  connect(&group_, &QButtonGroup::idToggled, this, [this] { UpdateTabStop(); });
   connect(&group_, &QButtonGroup::idClicked, this, &OptionGroup::clicked);
 }
 
@@ -19,6 +22,8 @@ QRadioButton* OptionGroup::addOption(const QString& text, const QString& arrayNa
 void OptionGroup::add(QAbstractButton* button, int index) {
   buttons_.append(button);
   group_.addButton(button, index);
+  button->installEventFilter(this);
+  UpdateTabStop();
 }
 
 void OptionGroup::select(int index) {
@@ -33,6 +38,34 @@ void OptionGroup::clear() {
   group_.setExclusive(false);
   for (QAbstractButton* button : buttons_) button->setChecked(false);
   group_.setExclusive(true);
+}
+
+bool OptionGroup::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::EnabledChange:
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+      UpdateTabStop();
+      break;
+    default:
+      break;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+// Tab comes to the selected option, or to the first that can be used.
+void OptionGroup::UpdateTabStop() {
+  const auto usable = [](const QAbstractButton* button) {
+    const bool hidden = button->isHidden() && button->testAttribute(Qt::WA_WState_ExplicitShowHide);
+    return button->isEnabled() && !hidden;
+  };
+  QAbstractButton* stop = group_.checkedButton();
+  if (stop == nullptr || !usable(stop)) {
+    const auto first = std::find_if(buttons_.begin(), buttons_.end(), usable);
+    stop = first == buttons_.end() ? nullptr : *first;
+  }
+  for (QAbstractButton* button : buttons_)
+    button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 }  // namespace mortane

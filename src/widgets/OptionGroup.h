@@ -31,7 +31,12 @@ class OptionGroup : public QObject {
  signals:
   void clicked(int index);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  void UpdateTabStop();
+
   QButtonGroup group_;
   QVector<QAbstractButton*> buttons_;
 };

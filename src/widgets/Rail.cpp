@@ -51,7 +51,7 @@ bool Rail::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   }
-  if (event->type() == QEvent::FocusOut) UpdateTabStop();
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) UpdateTabStop();
   return QWidget::eventFilter(watched, event);
 }
 
@@ -65,9 +65,12 @@ void Rail::MoveFocus(int step) {
   }
 }
 
-// Tab comes to the button of the page on show, or to the first that can be used.
+// Tab comes to the button of the page on show, or to the first that can be used, and leaves the
+// rail from whichever button has the focus.
 void Rail::UpdateTabStop() {
   int stop = selected_;
+  for (int i = 0; i < count(); ++i)
+    if (buttons_[i]->hasFocus()) stop = i;
   if (stop < 0 || !buttons_[stop]->isEnabled()) {
     stop = 0;
     while (stop < count() && !buttons_[stop]->isEnabled()) ++stop;

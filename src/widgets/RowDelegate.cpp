@@ -3,18 +3,12 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
-namespace {
-
-constexpr int kSidePadding = 6;
-
-}  // namespace
-
 RowDelegate::RowDelegate(QObject* parent)
     : QStyledItemDelegate(parent), leastHeight_(grid::kRowHeight) {}
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const QSize content = QStyledItemDelegate::sizeHint(option, index);
-  return {content.width() + 2 * kSidePadding, GridHeight(leastHeight_, option.fontMetrics)};
+  return {content.width(), GridHeight(leastHeight_, option.fontMetrics)};
 }
 
 void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -27,9 +21,8 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
   option->state &= ~QStyle::State_HasFocus;
-  if (index.data(kDimmedRole).toBool())
-    option->palette.setColor(QPalette::Text,
-                             option->palette.color(QPalette::Disabled, QPalette::Text));
+  if (index.data(kDimmedRole).toBool() && !option->state.testFlag(QStyle::State_Selected))
+    option->state &= ~QStyle::State_Enabled;
 }
 
 }  // namespace mortane

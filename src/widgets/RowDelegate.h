@@ -6,6 +6,7 @@
 namespace mortane {
 
 inline constexpr int kDimmedRole = Qt::UserRole + 1;
+inline constexpr int kCheckedRole = Qt::UserRole + 2;  // the check mark last told
 
 class RowDelegate : public QStyledItemDelegate {
   Q_OBJECT

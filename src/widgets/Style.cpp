@@ -13,11 +13,14 @@ namespace mortane {
 namespace {
 
 constexpr int kIndicatorSide = 16;
+constexpr int kListFrameWidth = 2;
+constexpr int kCellMargin = 7;
 constexpr int kScrollBarExtent = 12;
 constexpr int kScrollBarLeastHandle = 28;
 constexpr int kComboTextMargin = 8;
 constexpr int kComboArrowWidth = 26;
 constexpr int kButtonPadding = 18;
+constexpr int kOptionInset = 5;  // keeps indicator and text clear of the line of the focus
 
 // A bar without end buttons: the handle may use its whole length.
 QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
@@ -79,9 +82,13 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ToolBarItemMargin:
       return grid::kUnit;
     case PM_DefaultFrameWidth:
-      return qobject_cast<const QAbstractItemView*>(widget) != nullptr
-                 ? 2
+      // Room for the line of the focus, inside which the corners of the contents are hidden.
+      return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr
+                 ? kListFrameWidth
                  : QProxyStyle::pixelMetric(metric, option, widget);
+    case PM_FocusFrameHMargin:
+    case PM_HeaderMargin:
+      return kCellMargin;
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }
@@ -98,8 +105,7 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     case SH_ItemView_ActivateItemOnSingleClick:
       return 0;
     case SH_ItemView_ShowDecorationSelected:
-    case SH_ItemView_PaintAlternatingRowColorsForEmptyArea:
-      return hint == SH_ItemView_ShowDecorationSelected ? 1 : 0;
+      return 1;
     default:
       return QProxyStyle::styleHint(hint, option, widget, data);
   }
@@ -123,8 +129,12 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     case CT_HeaderSection:
       result.setHeight(GridHeight(28, option->fontMetrics));
       break;
+    case CT_RadioButton:
+    case CT_CheckBox:
+      result = QSize(result.width() + 2 * kOptionInset, qMax(result.height(), field - 4));
+      break;
     case CT_MenuBarItem:
-      result += QSize(grid::kUnit, grid::kUnit);
+      result += QSize(grid::kBetweenGroups, grid::kBetweenControls);
       break;
     case CT_MenuItem:
       result.setHeight(qMax(result.height(), option->fontMetrics.height() + 10));
@@ -133,6 +143,27 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
       break;
   }
   return result;
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option,
+                            const QWidget* widget) const {
+  switch (element) {
+    case SE_RadioButtonFocusRect:
+    case SE_RadioButtonClickRect:
+    case SE_CheckBoxFocusRect:
+    case SE_CheckBoxClickRect:
+      return option->rect;
+    case SE_RadioButtonIndicator:
+    case SE_RadioButtonContents:
+    case SE_CheckBoxIndicator:
+    case SE_CheckBoxContents: {
+      const QRect plain = QProxyStyle::subElementRect(element, option, widget);
+      return plain.translated(option->direction == Qt::RightToLeft ? -kOptionInset : kOptionInset,
+                              0);
+    }
+    default:
+      return QProxyStyle::subElementRect(element, option, widget);
+  }
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -164,8 +195,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
           (widget != nullptr && widget->inherits("QPushButton")))
         return;
       return DrawFocusLine(*option, *painter);
-    case PE_PanelItemViewRow:
     case PE_PanelStatusBar:
+      return DrawBar(*option, *painter, Qt::TopEdge);
+    case PE_PanelItemViewRow:
     case PE_FrameStatusBarItem:
       return;
     default:
@@ -182,9 +214,8 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
       return DrawHeaderSection(*option, *painter);
     case CE_HeaderLabel:
       if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option)) {
-        const QRect text = header->rect.adjusted(grid::kUnit, 0, -grid::kUnit, 0);
         painter->setPen(option->palette.color(QPalette::PlaceholderText));
-        painter->drawText(text, static_cast<int>(header->textAlignment) | Qt::AlignVCenter,
+        painter->drawText(header->rect, static_cast<int>(header->textAlignment) | Qt::AlignVCenter,
                           header->text);
       }
       return;
@@ -199,9 +230,16 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
       }
       break;
     case CE_ToolBar:
+      return DrawBar(*option, *painter, Qt::BottomEdge);
     case CE_MenuBarEmptyArea:
       painter->fillRect(option->rect, option->palette.color(QPalette::Window));
       return;
+    case CE_MenuBarItem:
+      if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
+        DrawMenuBarItem(*item, *painter);
+        return;
+      }
+      break;
     default:
       break;
   }

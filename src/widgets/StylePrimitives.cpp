@@ -143,4 +143,22 @@ void DrawHeaderSection(const QStyleOption& option, QPainter& painter) {
                    option.palette.color(QPalette::Mid));
 }
 
+void DrawMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter) {
+  painter.fillRect(option.rect, option.palette.color(QPalette::Window));
+  const bool active = Has(option, QStyle::State_Selected) && Has(option, QStyle::State_Enabled);
+  if (active)
+    DrawPlate(painter, QRectF(option.rect).adjusted(2, 2, -2, -2),
+              option.palette.color(QPalette::Highlight), {{}, 0, grid::kFieldCorner});
+  painter.setPen(option.palette.color(active ? QPalette::HighlightedText : QPalette::ButtonText));
+  painter.drawText(option.rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
+                   option.text);
+}
+
+void DrawBar(const QStyleOption& option, QPainter& painter, Qt::Edge line) {
+  painter.fillRect(option.rect, option.palette.color(QPalette::Window));
+  const int y = line == Qt::TopEdge ? option.rect.top() : option.rect.bottom();
+  painter.fillRect(QRect(option.rect.left(), y, option.rect.width(), 1),
+                   option.palette.color(QPalette::Active, QPalette::Mid));
+}
+
 }  // namespace mortane

@@ -113,14 +113,13 @@ bool TextField::validate() {
   if (!accepts_) return true;
   if (validating_) return false;
   validating_ = true;
-  const QPointer<TextField> alive(this);
   const bool accepted = accepts_();
-  if (!accepted && alive) {
+  if (!accepted) {
     SetRefused(true);
     selectAll();
     if (complain_) complain_();
   }
-  if (alive) validating_ = false;
+  validating_ = false;
   return accepted;
 }
 

@@ -1,0 +1,108 @@
+#include "widgets/ComboBox.h"
+
+#include <QAbstractItemView>
+
+#include "gui/widgets/TestWindow.h"
+
+namespace mortane {
+namespace {
+
+using Rows = std::vector<int>;
+
+class ComboBoxTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    other = window.Add<QLineEdit>();
+    combo = window.Add<ComboBox>();
+    for (int i = 0; i < 3; ++i) combo->addRow(QString::number(i), 10 * i);
+    window.Show();
+    other->setFocus();
+  }
+
+  void ChooseWithMouse(int row) {
+    QTest::mouseClick(combo, Qt::LeftButton);
+    QAbstractItemView* list = combo->view();
+    ASSERT_TRUE(list->isVisible());
+    const QRect area = list->visualRect(list->model()->index(row, 0));
+    // The first release within the double-click time would belong to the opening press.
+    QTest::qWait(QApplication::doubleClickInterval() + 20);
+    QTest::mouseMove(list->viewport(), area.center());
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, area.center());
+  }
+
+  TestWindow window;
+  QLineEdit* other = nullptr;
+  ComboBox* combo = nullptr;
+};
+
+TEST_F(ComboBoxTest, FillingSelectsNothingAndRaisesNothing) {
+  combo->clearRows();
+  QSignalSpy changes(combo, &QComboBox::currentIndexChanged);
+  QSignalSpy clicks(combo, &ComboBox::clicked);
+  combo->addRow("first", 1);
+  combo->addRow("second", 2);
+  EXPECT_EQ(combo->index(), -1);
+  EXPECT_EQ(combo->currentText(), QString());
+  EXPECT_EQ(changes.count(), 0);
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ComboBoxTest, AFurtherRowKeepsTheSelection) {
+  combo->setIndex(1);
+  combo->addRow("late");
+  EXPECT_EQ(combo->index(), 1);
+}
+
+TEST_F(ComboBoxTest, ProgramRaisesAClickForANewValidIndexButNoChoice) {
+  QSignalSpy clicks(combo, &ComboBox::clicked);
+  QSignalSpy choices(combo, &ComboBox::chosen);
+  combo->setIndex(2);
+  combo->setIndex(2);
+  combo->setIndex(9);
+  EXPECT_EQ(combo->index(), -1);
+  EXPECT_EQ(Indices(clicks), (Rows{2}));
+  EXPECT_EQ(choices.count(), 0);
+}
+
+TEST_F(ComboBoxTest, AUserMayChooseTheEntryOnShowAgain) {
+  combo->setIndex(1);
+  QSignalSpy choices(combo, &ComboBox::chosen);
+  QSignalSpy clicks(combo, &ComboBox::clicked);
+  combo->setFocus();
+  QTest::keyClick(combo, Qt::Key_Return);
+  ASSERT_TRUE(combo->view()->isVisible());
+  QTest::keyClick(combo->view(), Qt::Key_Return);
+  EXPECT_EQ(Indices(choices), (Rows{1}));
+  EXPECT_EQ(Indices(clicks), (Rows{1}));
+}
+
+TEST_F(ComboBoxTest, AMouseChoiceIsRaisedOnce) {
+  combo->setIndex(1);
+  QSignalSpy choices(combo, &ComboBox::chosen);
+  ChooseWithMouse(2);
+  EXPECT_EQ(Indices(choices), (Rows{2}));
+  EXPECT_EQ(combo->data(combo->index()).toInt(), 20);
+}
+
+TEST_F(ComboBoxTest, WheelWorksOnlyWithTheFocus) {
+  combo->setIndex(0);
+  TurnWheel(combo);
+  EXPECT_EQ(combo->index(), 0);
+  combo->setFocus();
+  TurnWheel(combo);
+  EXPECT_EQ(combo->index(), 1);
+}
+
+TEST_F(ComboBoxTest, AWheelTurnDoesNotBringTheFocus) {
+  EXPECT_EQ(combo->focusPolicy(), Qt::StrongFocus);
+  TurnWheel(combo);
+  EXPECT_TRUE(other->hasFocus());
+}
+
+TEST_F(ComboBoxTest, FindsARowByItsData) {
+  EXPECT_EQ(combo->rowOf(20), 2);
+  EXPECT_EQ(combo->rowOf(25), -1);
+}
+
+}  // namespace
+}  // namespace mortane

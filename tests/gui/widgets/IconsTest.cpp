@@ -1,0 +1,57 @@
+#include "widgets/Icons.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+
+namespace mortane {
+namespace {
+
+QImage Drawn(IconName name, const IconTint& tint, int size = 48) {
+  return Icon(name, size, tint).toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+bool Contains(const QImage& image, const QColor& color) {
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixelColor(x, y) == color) return true;
+  return false;
+}
+
+TEST(Icons, EveryIconIsDrawnInItsLineColourAndUnlikeTheOthers) {
+  QList<QImage> seen;
+  for (int i = 0; i < kIconCount; ++i) {
+    const QImage image = Drawn(static_cast<IconName>(i), {Qt::red, Qt::green});
+    EXPECT_TRUE(Contains(image, Qt::red)) << i;
+    EXPECT_FALSE(seen.contains(image)) << i;
+    seen.append(image);
+  }
+}
+
+TEST(Icons, TheAccentIsOneColourOrTheLinesOwn) {
+  EXPECT_TRUE(Contains(Drawn(IconName::Receive, {Qt::red, Qt::green}), Qt::green));
+  const QImage plain = Drawn(IconName::Receive, {Qt::red, {}});
+  EXPECT_FALSE(Contains(plain, Qt::blue));
+  EXPECT_FALSE(Contains(plain, Qt::black));
+}
+
+TEST(Icons, AScaledScreenGetsAllItsPixels) {
+  const QPixmap icon = Icon(IconName::Save, 22, {Qt::black, {}}, 2);
+  EXPECT_EQ(icon.width(), 44);
+  EXPECT_EQ(icon.devicePixelRatio(), 2);
+}
+
+TEST(Icons, ADisabledIconStandsInTheDisabledTextColour) {
+  const QColor disabled = QApplication::palette().color(QPalette::Disabled, QPalette::ButtonText);
+  const QColor enabled = QApplication::palette().color(QPalette::ButtonText);
+  const QIcon icon = Icon(IconName::Save);
+  EXPECT_TRUE(Contains(icon.pixmap(QSize(48, 48), 1, QIcon::Disabled).toImage(), disabled));
+  EXPECT_FALSE(Contains(icon.pixmap(QSize(48, 48), 1, QIcon::Disabled).toImage(), enabled));
+  EXPECT_TRUE(Contains(icon.pixmap(QSize(48, 48), 1, QIcon::Normal).toImage(), enabled));
+}
+
+}  // namespace
+}  // namespace mortane

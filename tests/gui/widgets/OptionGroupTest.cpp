@@ -1,0 +1,92 @@
+#include "widgets/OptionGroup.h"
+
+#include <QRadioButton>
+
+#include "gui/widgets/TestWindow.h"
+
+namespace mortane {
+namespace {
+
+using Rows = std::vector<int>;
+
+class OptionGroupTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    group = new OptionGroup(&window.widget());
+    for (const char* text : {"Absolute", "ON", "OFF"})
+      window.widget().layout()->addWidget(group->addOption(text, "optMode", &window.widget()));
+    after = window.Add<QLineEdit>();
+    window.Show();
+  }
+
+  TestWindow window;
+  OptionGroup* group = nullptr;
+  QLineEdit* after = nullptr;
+};
+
+TEST_F(OptionGroupTest, NothingIsSelectedAtFirst) {
+  EXPECT_EQ(group->selected(), -1);
+}
+
+TEST_F(OptionGroupTest, ProgramRaisesAClickForANewSelectionOnly) {
+  QSignalSpy clicks(group, &OptionGroup::clicked);
+  group->select(1);
+  group->select(1);
+  group->select(2);
+  group->select(7);
+  EXPECT_EQ(group->selected(), 2);
+  EXPECT_EQ(Indices(clicks), (Rows{1, 2}));
+}
+
+TEST_F(OptionGroupTest, ClearingLeavesNothingSelectedAndRaisesNothing) {
+  group->select(1);
+  QSignalSpy clicks(group, &OptionGroup::clicked);
+  group->clear();
+  EXPECT_EQ(group->selected(), -1);
+  EXPECT_FALSE(group->button(1)->isChecked());
+  EXPECT_EQ(clicks.count(), 0);
+  group->select(0);
+  group->select(2);
+  EXPECT_FALSE(group->button(0)->isChecked());
+}
+
+TEST_F(OptionGroupTest, AUsersClickIsRaisedAlwaysAndOnce) {
+  QSignalSpy clicks(group, &OptionGroup::clicked);
+  QTest::mouseClick(group->button(1), Qt::LeftButton);
+  QTest::mouseClick(group->button(1), Qt::LeftButton);
+  EXPECT_EQ(Indices(clicks), (Rows{1, 1}));
+}
+
+TEST_F(OptionGroupTest, ArrowsMoveInsideAndTabLeaves) {
+  group->select(0);
+  group->button(0)->setFocus();
+  QSignalSpy clicks(group, &OptionGroup::clicked);
+  QTest::keyClick(group->button(0), Qt::Key_Down);
+  EXPECT_EQ(Indices(clicks), (Rows{1}));
+  QTest::keyClick(group->button(1), Qt::Key_Tab);
+  EXPECT_TRUE(after->hasFocus());
+}
+
+TEST_F(OptionGroupTest, TabComesToTheSelectedOptionOrToTheFirstThatCanBeUsed) {
+  const auto stops = [this] {
+    Rows found;
+    for (int i = 0; i < group->count(); ++i)
+      if (group->button(i)->focusPolicy() & Qt::TabFocus) found.push_back(i);
+    return found;
+  };
+  EXPECT_EQ(stops(), (Rows{0}));
+  group->button(0)->setEnabled(false);
+  EXPECT_EQ(stops(), (Rows{1}));
+  group->select(2);
+  EXPECT_EQ(stops(), (Rows{2}));
+  group->button(2)->hide();
+  EXPECT_EQ(stops(), (Rows{1}));
+}
+
+TEST_F(OptionGroupTest, ElementsAreNamedAfterTheirArray) {
+  EXPECT_EQ(group->button(2)->objectName(), "optMode_2");
+  EXPECT_EQ(group->count(), 3);
+}
+
+}  // namespace
+}  // namespace mortane

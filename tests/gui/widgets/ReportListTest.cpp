@@ -1,0 +1,47 @@
+#include "widgets/ReportList.h"
+
+#include "gui/widgets/TestWindow.h"
+
+namespace mortane {
+namespace {
+
+class ReportListTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    list = window.Add<ReportList>(QStringList{"Switch", "Function"});
+    list->addRow("L (A)\tZ Escape");
+    list->addRow("R (A)\tDIA Lamp Preset");
+  }
+
+  TestWindow window;
+  ReportList* list = nullptr;
+};
+
+TEST_F(ReportListTest, ShowsItsHeads) {
+  EXPECT_FALSE(list->isHeaderHidden());
+  EXPECT_EQ(list->headerItem()->text(0), "Switch");
+  EXPECT_EQ(list->headerItem()->text(1), "Function");
+}
+
+TEST_F(ReportListTest, OneRowAtATimeIsBold) {
+  list->SetBoldRow(0);
+  list->SetBoldRow(1);
+  EXPECT_FALSE(list->topLevelItem(0)->font(0).bold());
+  EXPECT_TRUE(list->topLevelItem(1)->font(0).bold());
+  EXPECT_TRUE(list->topLevelItem(1)->font(1).bold());
+  EXPECT_EQ(list->boldRow(), 1);
+  list->SetBoldRow(-1);
+  EXPECT_FALSE(list->topLevelItem(1)->font(1).bold());
+}
+
+TEST_F(ReportListTest, ACellChangesInPlaceWithoutAClick) {
+  list->setIndex(1);
+  QSignalSpy clicks(list, &ListBox::clicked);
+  list->SetCell(1, 1, "Z Escape");
+  EXPECT_EQ(list->cell(1, 1), "Z Escape");
+  EXPECT_EQ(list->cell(1, 0), "R (A)");
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+}  // namespace
+}  // namespace mortane

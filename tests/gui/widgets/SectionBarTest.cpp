@@ -1,0 +1,84 @@
+#include "widgets/SectionBar.h"
+
+#include "gui/widgets/TestWindow.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+using Rows = std::vector<int>;
+
+class SectionBarTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    before = window.Add<QLineEdit>();
+    bar = window.Add<SectionBar>();
+    for (const char* text : {"Nosepiece", "Optional Obj.", "Limit Control"}) bar->AddOption(text);
+    after = window.Add<QLineEdit>();
+    window.Show();
+  }
+
+  QColor GroundOf(int index) {
+    const QImage picture = bar->option(index)->grab().toImage();
+    return picture.pixelColor(12, 5);
+  }
+
+  TestWindow window;
+  QLineEdit* before = nullptr;
+  SectionBar* bar = nullptr;
+  QLineEdit* after = nullptr;
+};
+
+TEST_F(SectionBarTest, ProgramRaisesAClickForANewSelectionOnlyAndAUserAlways) {
+  QSignalSpy clicks(bar, &SectionBar::clicked);
+  bar->select(0);
+  bar->select(0);
+  QTest::mouseClick(bar->option(0), Qt::LeftButton);
+  QTest::mouseClick(bar->option(1), Qt::LeftButton);
+  EXPECT_EQ(Indices(clicks), (Rows{0, 0, 1}));
+}
+
+TEST_F(SectionBarTest, TheChosenOptionIsAmberAndTheOthersAreNot) {
+  bar->select(1);
+  EXPECT_EQ(GroundOf(1), ToneColor(Tone::Amber));
+  EXPECT_EQ(GroundOf(0), bar->palette().color(QPalette::Button));
+  EXPECT_EQ(GroundOf(2), bar->palette().color(QPalette::Button));
+}
+
+TEST_F(SectionBarTest, ADisabledOptionCannotBeChosen) {
+  bar->select(0);
+  bar->SetOptionEnabled(2, false);
+  QSignalSpy clicks(bar, &SectionBar::clicked);
+  QTest::mouseClick(bar->option(2), Qt::LeftButton);
+  EXPECT_EQ(bar->selected(), 0);
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(SectionBarTest, AHiddenOptionClosesUp) {
+  const int second = bar->option(1)->x();
+  bar->SetOptionVisible(0, false);
+  QTest::qWait(1);
+  EXPECT_LT(bar->option(1)->x(), second);
+  EXPECT_EQ(bar->option(1)->x(), 0);
+}
+
+TEST_F(SectionBarTest, IsOneTabStopWithArrowsInside) {
+  bar->select(1);
+  before->setFocus();
+  QTest::keyClick(before, Qt::Key_Tab);
+  ASSERT_TRUE(bar->option(1)->hasFocus());
+  QSignalSpy clicks(bar, &SectionBar::clicked);
+  QTest::keyClick(bar->option(1), Qt::Key_Right);
+  EXPECT_EQ(Indices(clicks), (Rows{2}));
+  EXPECT_TRUE(bar->option(2)->hasFocus());
+  QTest::keyClick(bar->option(2), Qt::Key_Tab);
+  EXPECT_TRUE(after->hasFocus());
+}
+
+TEST_F(SectionBarTest, OptionsBearTheNameOfTheirArrayAndTheirText) {
+  EXPECT_EQ(bar->option(2)->objectName(), "optSettings_2");
+  EXPECT_EQ(bar->option(2)->accessibleName(), "Limit Control");
+}
+
+}  // namespace
+}  // namespace mortane

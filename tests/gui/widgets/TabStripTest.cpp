@@ -1,0 +1,97 @@
+#include "widgets/TabStrip.h"
+
+#include "gui/widgets/TestWindow.h"
+#include "widgets/TextField.h"
+
+namespace mortane {
+namespace {
+
+using Rows = std::vector<int>;
+
+class TabStripTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    field = window.Add<TextField>();
+    tabs = window.Add<TabStrip>();
+    tabs->SetTabs({"1", "2", "3"});
+    window.Show();
+    field->setFocus();
+  }
+
+  void ClickTab(int index, Qt::MouseButton button = Qt::LeftButton) {
+    // As the system delivers it, through the window, so that the focus moves first.
+    const QPoint at = tabs->mapTo(&window.widget(), tabs->tabRect(index).center());
+    QTest::mouseClick(window.widget().windowHandle(), button, Qt::NoModifier, at);
+  }
+
+  TestWindow window;
+  TextField* field = nullptr;
+  TabStrip* tabs = nullptr;
+};
+
+TEST_F(TabStripTest, BuildingAndSettingAreSilent) {
+  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  QSignalSpy changes(tabs, &QTabBar::currentChanged);
+  tabs->setIndex(2);
+  tabs->SetTabs({"a", "b"});
+  EXPECT_EQ(tabs->index(), 0);
+  EXPECT_EQ(tabs->caption(), "a");
+  EXPECT_EQ(tabs->AppendTab("c"), 2);
+  EXPECT_EQ(tabs->index(), 0);
+  EXPECT_EQ(clicks.count(), 0);
+  EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(TabStripTest, AUsersClickIsRaisedOnceAlsoOnTheSelectedTab) {
+  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  ClickTab(1);
+  ClickTab(1);
+  ClickTab(2, Qt::RightButton);
+  EXPECT_EQ(Indices(clicks), (Rows{1, 1}));
+}
+
+TEST_F(TabStripTest, ArrowsChooseAndStopAtTheEnds) {
+  tabs->setFocus();
+  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  for (int i = 0; i < 3; ++i) QTest::keyClick(tabs, Qt::Key_Right);
+  EXPECT_EQ(Indices(clicks), (Rows{1, 2}));
+}
+
+TEST_F(TabStripTest, TheFieldIsLeftBeforeTheTabChanges) {
+  int tabWhenLeft = -1;
+  QObject::connect(field, &TextField::left, field, [&] { tabWhenLeft = tabs->index(); });
+  QTest::keyClicks(field, "new");
+  ClickTab(2);
+  EXPECT_EQ(tabWhenLeft, 0);
+  EXPECT_EQ(tabs->index(), 2);
+  EXPECT_TRUE(tabs->hasFocus());
+}
+
+TEST_F(TabStripTest, ARefusedTextKeepsTheTab) {
+  field->setValidation([] { return false; });
+  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  ClickTab(2);
+  QApplication::processEvents();
+  EXPECT_EQ(tabs->index(), 0);
+  EXPECT_EQ(clicks.count(), 0);
+  EXPECT_TRUE(field->hasFocus());
+}
+
+TEST_F(TabStripTest, TheWheelChoosesNothing) {
+  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  TurnWheel(tabs);
+  tabs->setFocus();
+  TurnWheel(tabs);
+  EXPECT_EQ(tabs->index(), 0);
+  EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(TabStripTest, TabsAreNeverSmallerThanTheGrid) {
+  for (int i = 0; i < tabs->count(); ++i) {
+    EXPECT_GE(tabs->tabRect(i).width(), 56);
+    EXPECT_GE(tabs->tabRect(i).height(), 32);
+  }
+}
+
+}  // namespace
+}  // namespace mortane

@@ -1,0 +1,111 @@
+#include "widgets/Theme.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QPalette>
+#include <cmath>
+
+#include "gui/widgets/TestWindow.h"
+#include "widgets/Style.h"
+
+namespace mortane {
+namespace {
+
+QApplication& Application() {
+  return *qobject_cast<QApplication*>(qApp);
+}
+
+double Luminance(const QColor& color) {
+  const auto part = [](double value) {
+    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+  const double a = Luminance(one);
+  const double b = Luminance(other);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+class ThemeIn : public ::testing::TestWithParam<Scheme> {
+ protected:
+  void SetUp() override { ApplyTheme(Application(), GetParam()); }
+  void TearDown() override { ApplyTheme(Application(), Scheme::Light); }
+};
+
+TEST_P(ThemeIn, TextCanBeReadOnEveryGround) {
+  const QPalette palette = QApplication::palette();
+  for (const auto ground :
+       {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button})
+    EXPECT_GE(Contrast(palette.color(QPalette::Text), palette.color(ground)), 4.5) << ground;
+  for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::AlternateBase})
+    EXPECT_GE(Contrast(palette.color(QPalette::PlaceholderText), palette.color(ground)), 4.5)
+        << ground;
+  EXPECT_GE(Contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)),
+            4.5);
+  EXPECT_GE(Contrast(ToneColor(Tone::OnAmber), ToneColor(Tone::Amber)), 4.5);
+  for (const auto ground : {Tone::Rail, Tone::RailHover, Tone::RailSelected})
+    EXPECT_GE(Contrast(ToneColor(Tone::RailText), ToneColor(ground)), 4.5);
+  EXPECT_GE(Contrast(ToneColor(Tone::RailResting), ToneColor(Tone::Rail)), 4.5);
+  EXPECT_GE(Contrast(palette.color(QPalette::Text), ToneColor(Tone::RefusedGround)), 4.5);
+}
+
+TEST_P(ThemeIn, LinesOfFieldsAndFocusStandOut) {
+  const QPalette palette = QApplication::palette();
+  EXPECT_GE(Contrast(palette.color(QPalette::Dark), palette.color(QPalette::Base)), 3.0);
+  EXPECT_GE(Contrast(palette.color(QPalette::Highlight), palette.color(QPalette::Base)), 3.0);
+  EXPECT_GE(Contrast(ToneColor(Tone::RefusedLine), ToneColor(Tone::RefusedGround)), 3.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Schemes, ThemeIn, ::testing::Values(Scheme::Light, Scheme::Dark),
+                         [](const auto& row) {
+                           return row.param == Scheme::Dark ? "Dark" : "Light";
+                         });
+
+TEST(Theme, SchemesDifferAndAmberDoesNot) {
+  ApplyTheme(Application(), Scheme::Dark);
+  EXPECT_EQ(CurrentScheme(), Scheme::Dark);
+  const QColor window = QApplication::palette().color(QPalette::Window);
+  const QColor amber = ToneColor(Tone::Amber);
+  ApplyTheme(Application(), Scheme::Light);
+  EXPECT_NE(QApplication::palette().color(QPalette::Window), window);
+  EXPECT_EQ(ToneColor(Tone::Amber), amber);
+  EXPECT_EQ(amber, QColor(255, 204, 0));
+}
+
+TEST(Theme, TheEnvironmentChoosesTheScheme) {
+  qputenv("MORTANE_SCHEME", "dark");
+  ApplyTheme(Application());
+  EXPECT_EQ(CurrentScheme(), Scheme::Dark);
+  qputenv("MORTANE_SCHEME", "light");
+  ApplyTheme(Application());
+  EXPECT_EQ(CurrentScheme(), Scheme::Light);
+  qunsetenv("MORTANE_SCHEME");
+}
+
+TEST(Theme, HeightsFollowALargeFont) {
+  QFont font = QApplication::font();
+  font.setPixelSize(12);
+  EXPECT_EQ(GridHeight(30, QFontMetrics(font)), 30);
+  font.setPixelSize(60);
+  EXPECT_EQ(GridHeight(30, QFontMetrics(font)), QFontMetrics(font).height() + 10);
+}
+
+TEST(Theme, FontsKeepTheFamilyOfTheSystemAndTheScale) {
+  const QFont base = QApplication::font();
+  EXPECT_EQ(TitleFont().family(), base.family());
+  EXPECT_NEAR(TitleFont().pointSizeF(), base.pointSizeF() * 1.5, 0.01);
+  EXPECT_NEAR(CaptionFont().pointSizeF(), base.pointSizeF() * 0.92, 0.01);
+  EXPECT_NEAR(FixedFont().pointSizeF(), base.pointSizeF(), 0.01);
+}
+
+TEST(Theme, ARefusedFieldIsDrawnWithItsOwnLine) {
+  QLineEdit field;
+  field.resize(120, 30);
+  field.setProperty(kRefusedProperty, true);
+  EXPECT_EQ(field.grab().toImage().pixelColor(60, 0), ToneColor(Tone::RefusedLine));
+}
+
+}  // namespace
+}  // namespace mortane
