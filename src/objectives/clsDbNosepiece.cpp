@@ -53,6 +53,11 @@ bool Has(const List& list, std::int32_t index) {
   return index >= 0 && static_cast<std::size_t>(index) < list.size();
 }
 
+// position 0 to 9.
+std::size_t IndexOfOption(std::int32_t position) {
+  return static_cast<std::size_t>(kOptionBase) + static_cast<std::size_t>(position);
+}
+
 bool IsWithin(double value, double highest) {
   return value >= 0 && value <= highest;
 }
@@ -127,7 +132,7 @@ void clsDbNosepiece::Get_DbNosepieceOption(std::int32_t npos, std::string& sName
     nType = -1;
     return;
   }
-  const auto code = static_cast<std::size_t>(kOptionBase + npos);
+  const std::size_t code = IndexOfOption(npos);
   const Objective& objective = objectives_[code];
   sName = FirstCharacters(objective.name, kShownNameLength);
   nSeries = objective.values.series;
@@ -143,7 +148,7 @@ void clsDbNosepiece::Set_DbNosepiece(std::int32_t npos, std::string_view sName,
                                      std::string_view sMag, std::string_view sWD,
                                      std::string_view sNA, std::int32_t nCondenser) {
   if (npos != 0 && !IsOptionPosition(npos)) return;
-  const auto code = static_cast<std::size_t>(kOptionBase + npos);
+  const std::size_t code = IndexOfOption(npos);
   objectives_[code] = {FirstCharacters(sName, kNameLength),
                        {nSeries, nType, MagnificationOf(sMag), ToDouble(sWD), ToDouble(sNA)}};
   condensers_[code] = nCondenser;
@@ -288,7 +293,7 @@ std::string clsDbNosepiece::ReadDom(const DomNode& node) {
     return ItemLine(kItem, position);
   }
   const std::int32_t condenser = CondenserDigit(text);
-  const auto code = static_cast<std::size_t>(kOptionBase + position);
+  const std::size_t code = IndexOfOption(position);
   objectives_[code] = {name, values};
   condensers_[code] = condenser;
   return {};
@@ -296,7 +301,7 @@ std::string clsDbNosepiece::ReadDom(const DomNode& node) {
 
 void clsDbNosepiece::WriteDom(DomDocument& document, DomNode section) const {
   for (std::int32_t position = 1; position <= kOptionPositions; ++position) {
-    const auto code = static_cast<std::size_t>(kOptionBase + position);
+    const std::size_t code = IndexOfOption(position);
     DomNode element = document.CreateElement("OPTION");
     element.SetAttribute("POSITION", std::to_string(position));
     element.SetAttribute("CODE", EncodeObjective(objectives_[code].values, condensers_[code]));
