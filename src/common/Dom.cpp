@@ -8,7 +8,6 @@
 #include <new>
 
 #include "common/DomParser.h"
-#include "common/DomWriter.h"
 #include "common/Failure.h"
 #include "platform/AtomicFile.h"
 
@@ -63,6 +62,12 @@ std::string CheckedName(std::string_view name) {
   if (xmlValidateName(Xml(checked), 0) != 0)
     RaiseOwnFailure(kConversionError, "XML cannot hold the name \"" + checked + "\"");
   return checked;
+}
+
+// libxml2 writes all but ASCII as references unless the document says that it is UTF-8.
+void WriteAsUtf8(xmlDoc* document) {
+  if (document->encoding != nullptr) xmlFree(const_cast<xmlChar*>(document->encoding));
+  document->encoding = Made(xmlStrdup(Xml("UTF-8")));
 }
 
 std::vector<DomNode> NodesFrom(xmlNode* first) {
@@ -128,7 +133,9 @@ void DomNode::Append(DomNode child) {
   Made(xmlAddChild(node_, child.node_));
 }
 
-DomDocument::DomDocument() : document_(Made(xmlNewDoc(Xml("1.0")))) {}
+DomDocument::DomDocument() : document_(Made(xmlNewDoc(Xml("1.0")))) {
+  WriteAsUtf8(document_.get());
+}
 
 DomDocument::~DomDocument() {
   FreeLoose();
@@ -174,6 +181,7 @@ bool DomDocument::LoadText(std::string_view bytes) {
   xmlDoc* parsed = ParseXml(bytes, problem_);
   if (parsed == nullptr) return false;
   document_.reset(parsed);
+  WriteAsUtf8(parsed);
   return true;
 }
 
@@ -199,7 +207,13 @@ void DomDocument::Save(const std::string& path) const {
 }
 
 std::string DomDocument::ToText() const {
-  return WriteXml(*document_);
+  xmlOutputBuffer* output = Made(xmlAllocOutputBuffer(nullptr));
+  for (xmlNode* node = document_->children; node != nullptr; node = node->next)
+    xmlNodeDumpOutput(output, document_.get(), node, 0, 0, "UTF-8");
+  std::string text(reinterpret_cast<const char*>(xmlOutputBufferGetContent(output)),
+                   xmlOutputBufferGetSize(output));
+  xmlOutputBufferClose(output);
+  return text;
 }
 
 }  // namespace mortane

@@ -43,8 +43,8 @@ class DomNode {
 // Reads UTF-8, UTF-16 and declared encodings, with or without a byte-order mark. Refuses what
 // is not well formed, declared entities and attribute defaults (both can make a small file fill
 // the memory); follows nothing outside the file.
-// Writes UTF-8 with no declaration, no document type and no white space of its own: the same
-// content always gives the same bytes.
+// Writes UTF-8 with no declaration and no white space of its own: the same content always gives
+// the same bytes.
 class DomDocument {
  public:
   DomDocument();

@@ -12,11 +12,10 @@
 namespace mortane {
 namespace {
 
-// No network; without XML_PARSE_HUGE the library's limits on depth and on the length of a text
-// hold. Only with XML_PARSE_NOENT does libxml2 decode the names of name spaces fully; entities
-// that it could put in are refused below.
+// No network, and nothing substituted; without XML_PARSE_HUGE the library's limits on depth and
+// on the length of a text hold.
 constexpr int kParseOptions =
-    XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
+    XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
 
 struct FreeContext {
   void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }

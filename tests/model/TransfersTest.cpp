@@ -214,38 +214,41 @@ TEST(Modify, ANameThatFailsGoesToTheCaller) {
 // Every controller call that a transfer makes fails in turn: nothing leaves the transfer, and
 // all that it says stands in one critical box.
 
-void FailEachCall(const char* bench, const std::string& caption,
-                  const std::function<void(clsK70&)>& transfer) {
-  std::size_t calls = 0;
-  {
-    Rig rig(bench);
-    rig.ConnectAndReceive();
+void FailEachCall(const std::string& caption, const std::function<void(clsK70&)>& transfer) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.prompts.AcceptAnyBox();
+  const std::string name = rig.instrument().name;
+  const auto runFromTheStart = [&] {
+    rig.instrument().name = name;
+    rig.k70.Receive();
     rig.k70.SystemName = "Changed";
-    transfer(rig.k70);
-    calls = rig.journal.CallCount();
-  }
+    rig.journal.Clear();
+    rig.prompts.ClearRecords();
+  };
+  runFromTheStart();
+  transfer(rig.k70);
+  const std::size_t calls = rig.journal.CallCount();
   ASSERT_GT(calls, 0U);
   for (std::size_t k = 1; k <= calls; ++k) {
-    Rig rig(bench);
-    rig.ConnectAndReceive();
-    rig.k70.SystemName = "Changed";
-    rig.prompts.AcceptAnyBox();
+    runFromTheStart();
     rig.faults.FailCall(k);
     transfer(rig.k70);
     EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
     ASSERT_EQ(rig.prompts.Boxes().size(), 1U) << "call " << k;
-    EXPECT_EQ(rig.prompts.Boxes()[0].style, box::kCritical);
-    EXPECT_EQ(rig.prompts.Boxes()[0].caption, caption);
+    EXPECT_EQ(rig.prompts.Boxes()[0].style, box::kCritical) << "call " << k;
+    EXPECT_EQ(rig.prompts.Boxes()[0].caption, caption) << "call " << k;
     EXPECT_EQ(rig.k70.lConnectDevice, 1);
+    rig.faults.Clear();
   }
 }
 
 TEST(Receive, EachControllerCallThatFailsIsReportedOnce) {
-  FailEachCall("Harbour", "", [](clsK70& k70) { k70.Receive(); });
+  FailEachCall("", [](clsK70& k70) { k70.Receive(); });
 }
 
 TEST(Send, EachControllerCallThatFailsIsReportedOnce) {
-  FailEachCall("Harbour", "Send", [](clsK70& k70) { k70.Send(); });
+  FailEachCall("Send", [](clsK70& k70) { k70.Send(); });
 }
 
 }  // namespace
