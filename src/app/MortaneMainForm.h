@@ -25,6 +25,7 @@ class ControllerLibrary;
 }
 class CommandKey;
 class CondenserSettingsCtl;
+class ObjectiveSettingsCtl;
 class PageButton;
 class ProgressLine;
 class Rail;
@@ -69,6 +70,7 @@ class MortaneMainForm : public QMainWindow {
   std::array<QRadioButton*, kPageCount> optMenu;
   QFrame* FrameControl;
   SystemSettingsCtl* SystemSettingsCtl1 = nullptr;
+  ObjectiveSettingsCtl* ObjectiveSettingsCtl1 = nullptr;
   CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
   QStatusBar* StatusBar1;
   FileQuestion CommonDialog1;

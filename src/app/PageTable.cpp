@@ -6,6 +6,7 @@
 #include "app/SystemSettingsCtl.h"
 #include "condensers/CondenserSettingsCtl.h"
 #include "model/clsK70.h"
+#include "objectives/ObjectiveSettingsCtl.h"
 
 namespace mortane {
 namespace {
@@ -27,7 +28,11 @@ PageTable MainPages() {
          return MakePage(form, form.SystemSettingsCtl1, "SystemSettingsCtl1");
        },
        [](const clsK70&) { return true; }},
-      {"Objectives", IconName::Objective},
+      {"Objectives", IconName::Objective,
+       [](MortaneMainForm& form) {
+         return MakePage(form, form.ObjectiveSettingsCtl1, "ObjectiveSettingsCtl1");
+       },
+       [](const clsK70& k70) { return k70.IsMounted(accessory::kNosepiece) != kNotMounted; }},
       {"Filter Cubes", IconName::Cube},
       {"Condensers", IconName::Condenser,
        [](MortaneMainForm& form) {

@@ -74,9 +74,11 @@ constexpr std::array<ToneRow, kToneCount> kTones{{
     {Tone::DrawingLine, 0xFF33415C, 0xFFA7B4CC},  {Tone::DrawingFill, 0xFFE9EDF3, 0xFF262D3A},
     {Tone::DrawingShade, 0xFFD5DCE6, 0xFF323B4B}, {Tone::DrawingDeep, 0xFFBFC9D6, 0xFF434E62},
     {Tone::HelpLine, 0xFFE8EEF8, 0xFF1B2740},     {Tone::IconAccent, 0xFF25519C, 0xFF8FB6F7},
-    {Tone::RingRed, 0xFFC8322B, 0xFFC8322B},      {Tone::RingYellow, 0xFFF0C419, 0xFFF0C419},
-    {Tone::RingGreen, 0xFF2E9A57, 0xFF2E9A57},    {Tone::RingBlue, 0xFF5DB1E6, 0xFF5DB1E6},
-    {Tone::LightCone, 0xFFFFDF66, 0xFFFFDF66},
+    {Tone::RingBlack, 0xFF1B1B1B, 0xFF1B1B1B},    {Tone::RingGrey, 0xFF9A9A9A, 0xFF9A9A9A},
+    {Tone::RingBrown, 0xFF8A5A2B, 0xFF8A5A2B},    {Tone::RingRed, 0xFFC8322B, 0xFFC8322B},
+    {Tone::RingYellow, 0xFFF0C419, 0xFFF0C419},   {Tone::RingGreen, 0xFF2E9A57, 0xFF2E9A57},
+    {Tone::RingBlue, 0xFF5DB1E6, 0xFF5DB1E6},     {Tone::RingDarkBlue, 0xFF2448A8, 0xFF2448A8},
+    {Tone::RingWhite, 0xFFFFFFFF, 0xFFFFFFFF},    {Tone::LightCone, 0xFFFFDF66, 0xFFFFDF66},
 }};
 
 Scheme currentScheme = Scheme::Light;

@@ -33,10 +33,15 @@ enum class Tone {
   DrawingDeep,
   HelpLine,
   IconAccent,
+  RingBlack,
+  RingGrey,
+  RingBrown,
   RingRed,
   RingYellow,
   RingGreen,
   RingBlue,
+  RingDarkBlue,
+  RingWhite,
   LightCone,
 };
 inline constexpr int kToneCount = static_cast<int>(Tone::LightCone) + 1;

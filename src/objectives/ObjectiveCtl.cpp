@@ -1,0 +1,279 @@
+#include "objectives/ObjectiveCtl.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "common/Numbers.h"
+#include "common/Text.h"
+#include "model/clsK70.h"
+#include "widgets/Card.h"
+#include "widgets/ListBox.h"
+#include "widgets/TabStrip.h"
+#include "widgets/Theme.h"
+#include "widgets/TurretDrawing.h"
+#include "widgets/ValueLabel.h"
+
+namespace mortane {
+namespace {
+
+// A record whose name begins so is a place in the list that holds no objective.
+constexpr std::string_view kDashes = "-------";
+constexpr QChar kSeparator = u'\t';
+constexpr int kSeriesWidth = 150;
+constexpr int kSeriesList = -1;
+
+// Where the list's columns begin at least, in quarters of a character.
+constexpr std::array kTabStops{30, 60, 90, 120, 180};
+
+struct Objective {
+  std::int32_t code = -1;
+  std::string type;
+  std::string magnification;
+  std::string workingDistance;
+  std::string numericalAperture;
+  std::string name;
+};
+
+// The first objective of the series after a code; its code is -1 when there is none.
+Objective NextOf(std::int32_t series, std::int32_t after) {
+  Objective next;
+  std::int32_t position = after;
+  next.code = GetK70().DbNosepiece.Get_DbNosepiecePocket(series, position, next.type,
+                                                         next.magnification, next.workingDistance,
+                                                         next.numericalAperture, next.name);
+  return next;
+}
+
+QString RowText(const Objective& objective) {
+  const QStringList parts{
+      QString::fromStdString(objective.type), QString::fromStdString(objective.magnification),
+      QString::fromStdString(objective.workingDistance),
+      QString::fromStdString(objective.numericalAperture), QString::fromStdString(objective.name)};
+  return parts.join(kSeparator);
+}
+
+}  // namespace
+
+struct ObjectiveCtl::Value {
+  const char* labelName;
+  const char* caption;
+  const char* valueName;
+  int part;  // of a row of the objective list
+  int characters;
+  QLabel* ObjectiveCtl::*label;
+  ValueLabel* ObjectiveCtl::*value;
+};
+
+const ObjectiveCtl::Value ObjectiveCtl::kValues[6]{
+    {"Label1", "Series", "LabelSeries", kSeriesList, 20, &ObjectiveCtl::Label1,
+     &ObjectiveCtl::LabelSeries},
+    {"Label2", "Type", "LabelType", 0, 12, &ObjectiveCtl::Label2, &ObjectiveCtl::LabelType},
+    {"Label3", "Mag.", "LabelMag", 1, 10, &ObjectiveCtl::Label3, &ObjectiveCtl::LabelMag},
+    {"Label4", "W.D.", "LabelWD", 2, 10, &ObjectiveCtl::Label4, &ObjectiveCtl::LabelWD},
+    {"Label5", "N.A.", "LabelNA", 3, 10, &ObjectiveCtl::Label5, &ObjectiveCtl::LabelNA},
+    {"Label6", "Name", "LabelName", 4, 20, &ObjectiveCtl::Label6, &ObjectiveCtl::LabelName},
+};
+
+ObjectiveCtl::ObjectiveCtl(QWidget* parent) : Page(parent) {
+  auto* card = new Card(QStringLiteral("Set Objective Data to Each Address"), this);
+  FrameBase = card;
+  FrameBase->setObjectName("FrameBase");
+  auto* panel = new QVBoxLayout(this);
+  panel->setContentsMargins({});
+  panel->addWidget(card);
+  TabNosepiece = new TabStrip(card);
+  TabNosepiece->setObjectName("TabNosepiece");
+  TabNosepiece->setAccessibleName(QStringLiteral("Address"));
+  card->body()->addWidget(TabNosepiece);
+  card->body()->addWidget(BuildLists(card), 1);
+  card->body()->addWidget(BuildPlate(card));
+
+  connect(TabNosepiece, &TabStrip::clicked, this, &ObjectiveCtl::ClickTab);
+  connect(ListSeries, &ListBox::clicked, this, &ObjectiveCtl::ClickSeries);
+  connect(ListItem, &ListBox::clicked, this, &ObjectiveCtl::ClickItem);
+  connect(turret_, &TurretDrawing::clicked, this, [this](int index) {
+    TabNosepiece->setIndex(index);
+    ClickTab(index);
+  });
+}
+
+QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
+  auto* ground = new QWidget(parent);
+  auto* row = new QHBoxLayout(ground);
+  row->setContentsMargins({});
+  row->setSpacing(grid::kBetweenColumns);
+  turret_ = new TurretDrawing(PlaceKind::Objectives, ground);
+  turret_->setObjectName("turret");
+  ListSeries = new ListBox(ground);
+  ListSeries->setObjectName("ListSeries");
+  ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
+  ListSeries->setFixedWidth(kSeriesWidth);
+  ListItem = new ListBox(ground);
+  ListItem->setObjectName("ListItem");
+  ListItem->setAccessibleName(QStringLiteral("Objectives"));
+  ListItem->SetColumns({{QStringLiteral("Type")},
+                        {QStringLiteral("Mag."), Qt::AlignRight},
+                        {QStringLiteral("W.D."), Qt::AlignRight},
+                        {QStringLiteral("N.A."), Qt::AlignRight},
+                        {QStringLiteral("Name")}});
+  row->addWidget(turret_);
+  row->addWidget(ListSeries);
+  row->addWidget(ListItem, 1);
+  return ground;
+}
+
+QFrame* ObjectiveCtl::BuildPlate(QWidget* parent) {
+  auto* plate = new InnerFrame({}, parent);
+  Frame1 = plate;
+  Frame1->setObjectName("Frame1");
+  auto* cells = new QGridLayout;
+  cells->setHorizontalSpacing(grid::kBetweenColumns);
+  cells->setVerticalSpacing(grid::kUnit);
+  int column = 0;
+  for (const Value& value : kValues) {
+    QLabel* label = CaptionLabel(QLatin1String(value.caption), plate);
+    label->setObjectName(QLatin1String(value.labelName));
+    auto* shown = new ValueLabel(plate);
+    shown->setObjectName(QLatin1String(value.valueName));
+    shown->setAccessibleName(QLatin1String(value.caption));
+    shown->SetCharacters(value.characters);
+    cells->addWidget(label, 0, column);
+    cells->addWidget(shown, 1, column);
+    cells->setColumnStretch(column, value.characters);
+    this->*value.label = label;
+    this->*value.value = shown;
+    ++column;
+  }
+  plate->body()->addLayout(cells);
+  return plate;
+}
+
+void ObjectiveCtl::showEvent(QShowEvent* event) {
+  if (!shownBefore_) ListItem->SetTabStops({kTabStops.begin(), kTabStops.end()});
+  shownBefore_ = true;
+  Page::showEvent(event);
+}
+
+std::int32_t ObjectiveCtl::address() const {
+  return TabNosepiece->caption().toInt();
+}
+
+void ObjectiveCtl::LoadData() {
+  const clsNosepiece& nosepiece = GetK70().curNosepiece;
+  QStringList captions;
+  for (std::int32_t i = 1; i <= nosepiece.Count; ++i) captions.append(QString::number(i));
+  TabNosepiece->SetTabs(captions);
+  UpdateTurret();
+  if (nosepiece.Count < 1) {
+    ShowRows({});
+    ShowParts({});
+    return;
+  }
+  FillSeries();
+  ClickTab(TabNosepiece->index());
+}
+
+void ObjectiveCtl::FillSeries() {
+  if (ListSeries->rowCount() > 0) return;
+  const clsDbNosepiece& database = GetK70().DbNosepiece;
+  for (std::int32_t i = 0; i <= database.SeriesCount(); ++i) {
+    ListSeries->addRow(QString::fromStdString(database.Series(i)));
+  }
+}
+
+// The new index of the series list mounts an objective of its own where the mounted one is not
+// listed; what is shown and selected goes by the code from before.
+void ObjectiveCtl::ClickTab(int) {
+  const clsK70& k70 = GetK70();
+  const std::int32_t mounted = k70.curNosepiece.code(address());
+  const std::int32_t series = k70.DbNosepiece.SeriesCode(mounted);
+  turret_->setIndex(TabNosepiece->index());
+  ListSeries->setIndex(series);
+  LabelSeries->setText(QString::fromStdString(k70.DbNosepiece.Series(series)));
+  SelectOrBlank(BuildList(series, mounted));
+}
+
+void ObjectiveCtl::ClickSeries(int row) {
+  LabelSeries->setText(ListSeries->text(row));
+  const int found = BuildList(row, GetK70().curNosepiece.code(address()));
+  SelectOrBlank(found < 0 && ListItem->rowCount() > 0 ? 0 : found);
+}
+
+void ObjectiveCtl::ClickItem(int row) {
+  ShowParts(ListItem->text(row));
+  if (address() == 0) return;
+  GetK70().curNosepiece.code(address(), ListItem->data(row).toInt());
+  turret_->SetItem(TabNosepiece->index(), ItemAt(address()));
+}
+
+// Of neighbours that read the same one row stands for both, and the mounted code wins.
+int ObjectiveCtl::BuildList(std::int32_t series, std::int32_t mounted) {
+  std::vector<Row> rows;
+  int found = -1;
+  for (Objective next = NextOf(series, -1); next.code >= 0; next = NextOf(series, next.code)) {
+    if (next.name.starts_with(kDashes)) continue;
+    QString text = RowText(next);
+    if (rows.empty() || rows.back().text != text) rows.push_back({std::move(text), next.code});
+    if (next.code != mounted) continue;
+    rows.back().code = mounted;
+    found = static_cast<int>(rows.size()) - 1;
+  }
+  ShowRows(std::move(rows));
+  return found;
+}
+
+// Addresses of one series read the same, so most changes of the tab need no filling.
+void ObjectiveCtl::ShowRows(std::vector<Row> rows) {
+  const bool same =
+      std::equal(rows.begin(), rows.end(), rows_.begin(), rows_.end(),
+                 [](const Row& left, const Row& right) { return left.text == right.text; });
+  rows_ = std::move(rows);
+  if (same) {
+    ListItem->setIndex(-1);
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+      ListItem->setData(static_cast<int>(i), rows_[i].code);
+    }
+    return;
+  }
+  ListItem->clearRows();
+  for (const Row& row : rows_) ListItem->addRow(row.text, row.code);
+}
+
+void ObjectiveCtl::SelectOrBlank(int row) {
+  ListItem->setIndex(row);
+  if (row < 0) ShowParts({});
+}
+
+void ObjectiveCtl::ShowParts(const QString& row) {
+  const QStringList parts = row.split(kSeparator);
+  for (const Value& value : kValues) {
+    if (value.part != kSeriesList) (this->*value.value)->setText(parts.value(value.part));
+  }
+}
+
+TurretItem ObjectiveCtl::ItemAt(std::int32_t address) const {
+  const clsDbNosepiece& database = GetK70().DbNosepiece;
+  const std::int32_t code = GetK70().curNosepiece.code(address);
+  const std::string name = database.Name(code);
+  if (name.starts_with(kDashes) || Trim(name).empty()) return {};
+  Objective objective = NextOf(database.SeriesCode(code), code - 1);
+  // A series that the list does not know has no objectives to ask for.
+  if (objective.code != code) objective = {code, {}, "----", {}, {}, name};
+  const QString mark = QString::fromStdString(objective.magnification);
+  const QString shownName = QString::fromStdString(objective.name);
+  const bool numbered = objective.magnification.ends_with('x');
+  if (numbered) objective.magnification.pop_back();
+  return {mark, mark + QStringLiteral(", ") + shownName,
+          numbered ? std::optional(ToDouble(objective.magnification)) : std::nullopt};
+}
+
+void ObjectiveCtl::UpdateTurret() {
+  QVector<TurretItem> items;
+  for (std::int32_t i = 1; i <= GetK70().curNosepiece.Count; ++i) items.append(ItemAt(i));
+  turret_->SetItems(items);
+}
+
+}  // namespace mortane

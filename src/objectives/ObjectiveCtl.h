@@ -1,0 +1,82 @@
+// The panel that assigns an objective to each address of the nosepiece.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+#include "widgets/Page.h"
+
+class QFrame;
+class QLabel;
+
+namespace mortane {
+
+class Card;
+class ListBox;
+class TabStrip;
+class TurretDrawing;
+class ValueLabel;
+struct TurretItem;
+
+// Every selection in the list of objectives mounts that objective, also one that the program
+// makes. So browsing another series mounts its first objective, and so may loading.
+class ObjectiveCtl : public Page {
+  Q_OBJECT
+
+ public:
+  explicit ObjectiveCtl(QWidget* parent = nullptr);
+
+  void LoadData() override;
+  void SaveData() override {}
+
+  QFrame* FrameBase;
+  TabStrip* TabNosepiece;
+  ListBox* ListSeries;
+  ListBox* ListItem;
+  QFrame* Frame1;
+  QLabel* Label1;
+  QLabel* Label2;
+  QLabel* Label3;
+  QLabel* Label4;
+  QLabel* Label5;
+  QLabel* Label6;
+  ValueLabel* LabelSeries;
+  ValueLabel* LabelType;
+  ValueLabel* LabelMag;
+  ValueLabel* LabelWD;
+  ValueLabel* LabelNA;
+  ValueLabel* LabelName;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  struct Value;
+  static const Value kValues[6];
+  struct Row {
+    QString text;
+    std::int32_t code;
+  };
+
+  QWidget* BuildLists(QWidget* parent);
+  QFrame* BuildPlate(QWidget* parent);
+  void ShowParts(const QString& row);
+  void FillSeries();
+  // The row to select for the mounted code; -1 when the series does not list it.
+  int BuildList(std::int32_t series, std::int32_t mounted);
+  void ShowRows(std::vector<Row> rows);
+  void SelectOrBlank(int row);
+  void ClickSeries(int row);
+  void ClickItem(int row);
+  void ClickTab(int index);
+  std::int32_t address() const;  // of the selected tab; 0 without one
+  TurretItem ItemAt(std::int32_t address) const;
+  void UpdateTurret();
+
+  TurretDrawing* turret_ = nullptr;
+  std::vector<Row> rows_;  // of the objective list
+  bool shownBefore_ = false;
+};
+
+}  // namespace mortane

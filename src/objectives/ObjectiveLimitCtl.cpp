@@ -1,0 +1,157 @@
+#include "objectives/ObjectiveLimitCtl.h"
+
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "model/clsK70.h"
+#include "widgets/Card.h"
+#include "widgets/OptionGroup.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kStageDown = 2;
+constexpr std::int32_t kControllerWithoutStageDown = 5;
+constexpr int kOptionColumn = 200;
+
+QLabel* NamedCaption(const char* name, const char* text, QWidget* parent) {
+  QLabel* label = CaptionLabel(QLatin1String(text), parent);
+  label->setObjectName(QLatin1String(name));
+  label->setWordWrap(true);
+  return label;
+}
+
+}  // namespace
+
+struct ObjectiveLimitCtl::Rule {
+  const char* frameName;
+  const char* caption;
+  const char* arrayName;
+  const char* labelName;
+  const char* explanation;
+  std::array<const char*, 3> options;
+  bool stageDownIsOptional;
+  QFrame* ObjectiveLimitCtl::*frame;
+  OptionGroup* ObjectiveLimitCtl::*group;
+  QLabel* ObjectiveLimitCtl::*label;
+  std::int16_t clsLimitation::*value;
+};
+
+const ObjectiveLimitCtl::Rule ObjectiveLimitCtl::kRules[3]{
+    {"frmIncrease",
+     "",
+     "optPreventIncrease",
+     "Label8",
+     " Safety Setting (Change from 2.0x / Lower Obj. to 1 mm / Less W.D. Obj. )",
+     {"Free (default)", "No Rotation", "Rotate After Stage going down"},
+     true,
+     &ObjectiveLimitCtl::frmIncrease,
+     &ObjectiveLimitCtl::optPreventIncrease,
+     &ObjectiveLimitCtl::Label8,
+     &clsLimitation::curIncrease},
+    {"frmSkip",
+     "Empty Position",
+     "optSkipEmpty",
+     "Label9",
+     "Rotate With Skipping empty data position",
+     {"Use (default)", "Skip", nullptr},
+     false,
+     &ObjectiveLimitCtl::frmSkip,
+     &ObjectiveLimitCtl::optSkipEmpty,
+     &ObjectiveLimitCtl::Label9,
+     &clsLimitation::curSkip},
+    {"frmImmersion",
+     "Immersion Objective IN/OUT Control",
+     "optPreventImmersion",
+     "Label10",
+     "Rotate Immersion Type",
+     {"Free (default)", "No Rotation", "Rotate After Stage going down"},
+     true,
+     &ObjectiveLimitCtl::frmImmersion,
+     &ObjectiveLimitCtl::optPreventImmersion,
+     &ObjectiveLimitCtl::Label10,
+     &clsLimitation::curImmersion},
+};
+
+ObjectiveLimitCtl::ObjectiveLimitCtl(QWidget* parent)
+    : Page(parent),
+      FrameBase(nullptr),
+      frmIncrease(nullptr),
+      frmSkip(nullptr),
+      frmImmersion(nullptr),
+      optPreventIncrease(nullptr),
+      optSkipEmpty(nullptr),
+      optPreventImmersion(nullptr),
+      Label1(nullptr),
+      Label2(nullptr),
+      Label8(nullptr),
+      Label9(nullptr),
+      Label10(nullptr) {
+  auto* card = new Card(QStringLiteral("Limitation Controls"), this);
+  FrameBase = card;
+  FrameBase->setObjectName("FrameBase");
+  auto* panel = new QVBoxLayout(this);
+  panel->setContentsMargins({});
+  panel->addWidget(card);
+  for (const Rule& rule : kRules) AddRule(*card, rule);
+  Label2 = NamedCaption(
+      "Label2",
+      "Limitation Controls are effective after rotating the nosepiece with interlock mode.", card);
+  Label1 = NamedCaption(
+      "Label1",
+      "These functions are effective for rotating the nosepiece by buttons on the microscope",
+      card);
+  card->body()->addStretch();
+  auto* notes = new QVBoxLayout;
+  notes->setSpacing(grid::kUnit);
+  notes->addWidget(Label2);
+  notes->addWidget(Label1);
+  card->body()->addLayout(notes);
+}
+
+void ObjectiveLimitCtl::AddRule(Card& card, const Rule& rule) {
+  auto* frame = new InnerFrame(QLatin1String(rule.caption), &card);
+  frame->setObjectName(QLatin1String(rule.frameName));
+  auto* group = new OptionGroup(this);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(grid::kBetweenColumns);
+  for (const char* text : rule.options) {
+    if (text == nullptr) continue;
+    QRadioButton* option =
+        group->addOption(QLatin1String(text), QLatin1String(rule.arrayName), frame);
+    option->setMinimumWidth(kOptionColumn);
+    row->addWidget(option);
+  }
+  row->addStretch();
+  frame->body()->addLayout(row);
+  QLabel* label = NamedCaption(rule.labelName, rule.explanation, frame);
+  frame->body()->addWidget(label);
+  card.body()->addWidget(frame);
+  this->*rule.frame = frame;
+  this->*rule.group = group;
+  this->*rule.label = label;
+  connect(group, &OptionGroup::clicked, this,
+          [&rule](int index) { GetK70().curLimit.*rule.value = static_cast<std::int16_t>(index); });
+}
+
+void ObjectiveLimitCtl::LoadData() {
+  for (const Rule& rule : kRules) LoadRule(rule);
+}
+
+void ObjectiveLimitCtl::LoadRule(const Rule& rule) {
+  const std::int16_t value = GetK70().curLimit.*rule.value;
+  OptionGroup* group = this->*rule.group;
+  (this->*rule.frame)->setEnabled(value >= 0);
+  // A settings file may give a number that no option stands for.
+  if (group->button(value) == nullptr) group->clear();
+  if (value >= 0) group->select(value);
+  if (!rule.stageDownIsOptional) return;
+  group->button(kStageDown)->setEnabled(!GetK70().Controller(kControllerWithoutStageDown));
+}
+
+}  // namespace mortane

@@ -1,0 +1,162 @@
+// Where the controls of the optional objective page stand.
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "objectives/ObjectiveOptionCtl.h"
+#include "widgets/Card.h"
+#include "widgets/ComboBox.h"
+#include "widgets/ListBox.h"
+#include "widgets/TabStrip.h"
+#include "widgets/TextField.h"
+#include "widgets/Theme.h"
+#include "widgets/ValueLabel.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kPositions = 9;
+constexpr int kNameLength = 15;
+// Wide letters are half as wide again as figures.
+constexpr int kNameWidthCharacters = 24;
+constexpr int kNumberLength = 5;
+constexpr int kNumberWidthCharacters = 7;
+
+}  // namespace
+
+void ObjectiveOptionCtl::Build() {
+  auto* card = new Card(QStringLiteral("Add Optional Objective Data to the List"), this);
+  FrameBase = card;
+  FrameBase->setObjectName("FrameBase");
+  auto* panel = new QVBoxLayout(this);
+  panel->setContentsMargins({});
+  panel->addWidget(card);
+  TabStrip1 = new TabStrip(card);
+  TabStrip1->setObjectName("TabStrip1");
+  TabStrip1->setAccessibleName(QStringLiteral("Position"));
+  QStringList captions;
+  for (int i = 1; i <= kPositions; ++i) captions.append(QString::number(i));
+  TabStrip1->SetTabs(captions);
+  NosepieceOptionItemFrm = new QFrame(card);
+  NosepieceOptionItemFrm->setObjectName("NosepieceOptionItemFrm");
+  auto* rows = new QVBoxLayout(NosepieceOptionItemFrm);
+  rows->setContentsMargins({});
+  rows->setSpacing(grid::kBetweenGroups);
+  rows->addWidget(BuildName(NosepieceOptionItemFrm));
+  rows->addWidget(BuildLists(NosepieceOptionItemFrm), 1);
+  card->body()->addWidget(TabStrip1);
+  card->body()->addWidget(NosepieceOptionItemFrm, 1);
+}
+
+QWidget* ObjectiveOptionCtl::BuildName(QWidget* parent) {
+  auto* ground = new QWidget(parent);
+  Label1 = new QLabel(QStringLiteral("Name"), ground);
+  Label1->setObjectName("Label1");
+  TextName = new TextField(ground);
+  TextName->setObjectName("TextName");
+  TextName->SetLimit(kNameLength);
+  TextName->SetWidthFor(kNameWidthCharacters);
+  Label1->setBuddy(TextName);
+  auto* row = new QHBoxLayout(ground);
+  row->setContentsMargins({});
+  row->setSpacing(grid::kBetweenGroups);
+  row->addWidget(Label1);
+  row->addWidget(TextName);
+  row->addStretch();
+  return ground;
+}
+
+QWidget* ObjectiveOptionCtl::BuildLists(QWidget* parent) {
+  auto* ground = new QWidget(parent);
+  auto* cells = new QGridLayout(ground);
+  cells->setContentsMargins({});
+  cells->setHorizontalSpacing(grid::kBetweenColumns);
+  cells->setVerticalSpacing(grid::kUnit);
+  const auto list = [&](const char* name, int column, int stretch) {
+    auto* made = new ListBox(ground);
+    made->setObjectName(QLatin1String(name));
+    cells->addWidget(made, 2, column);
+    cells->setColumnStretch(column, stretch);
+    return made;
+  };
+  const auto head = [&](const char* name, const char* caption, QWidget* buddy, int column) {
+    QLabel* label = CaptionLabel(QLatin1String(caption), ground);
+    label->setObjectName(QLatin1String(name));
+    label->setBuddy(buddy);
+    buddy->setAccessibleName(label->text());
+    cells->addWidget(label, 0, column);
+    return label;
+  };
+  const auto value = [&](const char* name, int column) {
+    auto* shown = new ValueLabel(ground);
+    shown->setObjectName(QLatin1String(name));
+    cells->addWidget(shown, 1, column);
+    return shown;
+  };
+  LabelSeries = value("LabelSeries", 0);
+  ListSeries = list("ListSeries", 0, 3);
+  Label2 = head("Label2", "Series", ListSeries, 0);
+  LabelType = value("LabelType", 1);
+  ListType = list("ListType", 1, 2);
+  Label3 = head("Label3", "Type", ListType, 1);
+  MakeNumber(kNumbers[0], ground);
+  Label7 = new QLabel(QStringLiteral("x"), ground);
+  Label7->setObjectName("Label7");
+  auto* magnification = new QHBoxLayout;
+  magnification->setSpacing(grid::kBetweenControls);
+  magnification->addWidget(TextMag);
+  magnification->addWidget(Label7);
+  magnification->addStretch();
+  cells->addWidget(Label4, 0, 2);
+  cells->addLayout(magnification, 1, 2);
+  ListMag = list("ListMag", 2, 2);
+  ListMag->setAccessibleName(Label4->text());
+  cells->addWidget(BuildValues(ground), 1, 3, 2, 1);
+  cells->setColumnStretch(3, 3);
+  return ground;
+}
+
+void ObjectiveOptionCtl::MakeNumber(const Number& number, QWidget* parent) {
+  auto* label = new QLabel(QLatin1String(number.caption), parent);
+  label->setObjectName(QLatin1String(number.labelName));
+  auto* field = new TextField(parent);
+  field->setObjectName(QLatin1String(number.fieldName));
+  field->SetLimit(kNumberLength);
+  field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  field->SetWidthFor(kNumberWidthCharacters);
+  label->setBuddy(field);
+  this->*number.label = label;
+  this->*number.field = field;
+}
+
+QFrame* ObjectiveOptionCtl::BuildValues(QWidget* parent) {
+  auto* frame = new InnerFrame({}, parent);
+  auto* fields = new QGridLayout;
+  fields->setHorizontalSpacing(grid::kBetweenControls);
+  fields->setVerticalSpacing(grid::kBetweenControls);
+  for (std::size_t i = 1; i < kNumbers.size(); ++i) {
+    MakeNumber(kNumbers[i], frame);
+    fields->addWidget(this->*kNumbers[i].label, static_cast<int>(i), 0);
+    fields->addWidget(this->*kNumbers[i].field, static_cast<int>(i), 1);
+  }
+  fields->setColumnStretch(2, 1);
+  frame->body()->addLayout(fields);
+  auto* condenser = new InnerFrame(QStringLiteral("Adoptive"), frame);
+  FrmCondenser = condenser;
+  FrmCondenser->setObjectName("FrmCondenser");
+  Label8 = CaptionLabel(QStringLiteral("DIC / Ph Condenser"), condenser);
+  Label8->setObjectName("Label8");
+  ComboCondenser = new ComboBox(condenser);
+  ComboCondenser->setObjectName("ComboCondenser");
+  ComboCondenser->setAccessibleName(Label8->text());
+  Label8->setBuddy(ComboCondenser);
+  condenser->body()->addWidget(Label8);
+  condenser->body()->addWidget(ComboCondenser);
+  frame->body()->addSpacing(grid::kBetweenControls);
+  frame->body()->addWidget(condenser);
+  frame->body()->addStretch();
+  return frame;
+}
+
+}  // namespace mortane

@@ -1,0 +1,71 @@
+// A turret from above: what stands at each of its addresses, to be seen and chosen.
+#pragma once
+
+#include <QString>
+#include <QVector>
+#include <QWidget>
+#include <optional>
+
+class QAbstractButton;
+
+namespace mortane {
+
+class OptionGroup;
+class TurretButton;
+
+enum class PlaceKind {
+  Objectives,  // round places with the magnification inside a ring of its colour
+  Cubes,       // upright tiles with the name
+};
+
+// `mark` stands on the place; an empty one makes it a free place. `details` follow the address in
+// the accessible name. `pending` tells that it differs from what was last received or sent.
+struct TurretItem {
+  QString mark;
+  QString details;
+  std::optional<double> magnification;
+  bool pending = false;
+
+  bool operator==(const TurretItem&) const = default;
+};
+
+// Address 1 is at the top, the others follow clockwise. The places are buttons, of which one is
+// chosen; together they are one Tab stop, with arrows inside. Scales from 0.8 to 1.5 with its
+// height and never stretches.
+class TurretDrawing : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit TurretDrawing(PlaceKind kind, QWidget* parent = nullptr);
+
+  // Up to ten. The chosen place stays if there is one of its index.
+  void SetItems(const QVector<TurretItem>& items);
+  void SetItem(int index, const TurretItem& item);
+  [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }
+  [[nodiscard]] QAbstractButton* place(int index) const;
+  [[nodiscard]] int index() const;  // -1: none
+  void setIndex(int index);         // silent
+
+  [[nodiscard]] double drawingScale() const;
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ signals:
+  // For a user's click or arrow only.
+  void clicked(int index);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void MakeButtons(int count);
+  void PlaceButtons();
+  void Describe();
+
+  PlaceKind kind_;
+  OptionGroup* group_;
+  QVector<TurretButton*> buttons_;
+};
+
+}  // namespace mortane

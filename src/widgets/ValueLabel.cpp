@@ -1,0 +1,44 @@
+#include "widgets/ValueLabel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kLeastCharacters = 4;
+
+}  // namespace
+
+ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent) {
+  setFont(FixedFont());
+  setTextFormat(Qt::PlainText);
+}
+
+QSize ValueLabel::sizeHint() const {
+  return {fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters_, fontMetrics().height()};
+}
+
+QSize ValueLabel::minimumSizeHint() const {
+  return {fontMetrics().horizontalAdvance(QLatin1Char('0')) * qMin(kLeastCharacters, characters_),
+          fontMetrics().height()};
+}
+
+bool ValueLabel::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QLabel::event(event);
+  const bool fits = fontMetrics().horizontalAdvance(text()) <= width();
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), fits ? QString() : text(), this);
+  return true;
+}
+
+void ValueLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(palette().color(foregroundRole()));
+  painter.drawText(rect(), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft),
+                   fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+}
+
+}  // namespace mortane
