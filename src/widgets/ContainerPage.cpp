@@ -25,10 +25,12 @@ ContainerPage::ContainerPage(IconName icon, const QString& title, int sectionSta
 }
 
 int ContainerPage::AddSubPage(const QString& caption, Page* page) {
+  // The option comes first, so that the Tab key reaches it before the sub-page.
+  const int index = sections()->AddOption(caption);
   page->hide();
   stack_->addWidget(page);
   subPages_.append(page);
-  return sections()->AddOption(caption);
+  return index;
 }
 
 SectionBar* ContainerPage::sections() const {

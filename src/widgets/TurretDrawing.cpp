@@ -51,47 +51,39 @@ QPointF Direction(int index, int count) {
 }  // namespace
 
 TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
-    : QWidget(parent), kind_(kind), group_(nullptr) {
+    : QWidget(parent), kind_(kind), group_(new OptionGroup(this)) {
   setFocusPolicy(Qt::NoFocus);
-  QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-  setSizePolicy(policy);
-  MakeButtons(0);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  // All at once, so that they stand at the drawing's place in the order of the Tab key.
+  for (int i = 0; i < kMostPlaces; ++i) MakeButton(i);
+  connect(group_, &OptionGroup::clicked, this, &TurretDrawing::clicked);
 }
 
-void TurretDrawing::MakeButtons(int count) {
-  delete group_;
-  qDeleteAll(buttons_);
-  buttons_.clear();
-  group_ = new OptionGroup(this);
-  for (int i = 0; i < count; ++i) {
-    auto* button = new TurretButton(kind_, i + 1, this);
-    button->setObjectName(QStringLiteral("place_%1").arg(i + 1));
-    group_->add(button, i);
-    connect(button, &TurretButton::stepped, this, [this, i](int steps) {
-      const int wanted = (i + steps + this->count()) % this->count();
-      buttons_[wanted]->setFocus();
-      buttons_[wanted]->click();
-    });
-    connect(button, &TurretButton::jumped, this, [this](bool toLast) {
-      TurretButton* wanted = toLast ? buttons_.last() : buttons_.first();
-      wanted->setFocus();
-      wanted->click();
-    });
-    buttons_.append(button);
-    button->show();
-  }
-  connect(group_, &OptionGroup::clicked, this, &TurretDrawing::clicked);
-  PlaceButtons();
+void TurretDrawing::MakeButton(int index) {
+  auto* button = new TurretButton(kind_, index + 1, this);
+  button->setObjectName(QStringLiteral("place_%1").arg(index + 1));
+  button->hide();
+  group_->add(button, index);
+  connect(button, &TurretButton::stepped, this,
+          [this, index](int steps) { Choose((index + steps + count_) % count_); });
+  connect(button, &TurretButton::jumped, this,
+          [this](bool toLast) { Choose(toLast ? count_ - 1 : 0); });
+  buttons_.append(button);
+}
+
+void TurretDrawing::Choose(int index) {
+  buttons_[index]->setFocus();
+  buttons_[index]->click();
 }
 
 void TurretDrawing::SetItems(const QVector<TurretItem>& items) {
-  const int count = qMin(kMostPlaces, static_cast<int>(items.size()));
-  if (count != this->count()) {
-    const int before = index();
-    MakeButtons(count);
-    setIndex(before);
+  count_ = qMin(kMostPlaces, static_cast<int>(items.size()));
+  if (index() >= count_) setIndex(-1);
+  for (int i = 0; i < kMostPlaces; ++i) {
+    if (i < count_) buttons_[i]->SetItem(items[i]);
+    buttons_[i]->setVisible(i < count_);
   }
-  for (int i = 0; i < count; ++i) buttons_[i]->SetItem(items[i]);
+  PlaceButtons();
   Describe();
 }
 
@@ -103,13 +95,13 @@ void TurretDrawing::SetItem(int index, const TurretItem& item) {
 
 void TurretDrawing::Describe() {
   QStringList names;
-  for (const TurretButton* button : buttons_) names.append(button->accessibleName());
+  for (int i = 0; i < count_; ++i) names.append(buttons_[i]->accessibleName());
   setAccessibleDescription(names.join(QStringLiteral("; ")));
   update();
 }
 
 QAbstractButton* TurretDrawing::place(int index) const {
-  return buttons_.value(index);
+  return index >= 0 && index < count_ ? buttons_[index] : nullptr;
 }
 
 int TurretDrawing::index() const {

@@ -41,7 +41,7 @@ class TurretDrawing : public QWidget {
   // Up to ten. The chosen place stays if there is one of its index.
   void SetItems(const QVector<TurretItem>& items);
   void SetItem(int index, const TurretItem& item);
-  [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }
+  [[nodiscard]] int count() const { return count_; }
   [[nodiscard]] QAbstractButton* place(int index) const;
   [[nodiscard]] int index() const;  // -1: none
   void setIndex(int index);         // silent
@@ -59,13 +59,15 @@ class TurretDrawing : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void MakeButtons(int count);
+  void MakeButton(int index);
+  void Choose(int index);
   void PlaceButtons();
   void Describe();
 
   PlaceKind kind_;
   OptionGroup* group_;
-  QVector<TurretButton*> buttons_;
+  QVector<TurretButton*> buttons_;  // of all addresses that there can be
+  int count_ = 0;
 };
 
 }  // namespace mortane
