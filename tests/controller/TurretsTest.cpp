@@ -53,7 +53,7 @@ TEST(Accessories, ThatAreNotFittedTellOnlyThat) {
 
 TEST(Accessories, GiveAStateThatIsANumber) {
   SimulatedRig rig("Quay");
-  rig.instrument().Accessory(accessory::kLamp).value = 7.25;
+  rig.instrument().Accessory(accessory::kDiaLamp).value = 7.25;
   EXPECT_EQ(rig.root.LampDevice().Voltage().Real(), 7.25);
   rig.instrument().Accessory(accessory::kLightPath).value = 3;
   EXPECT_EQ(rig.root.LightPathDevice().Path().Number(), 3);

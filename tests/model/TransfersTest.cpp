@@ -221,7 +221,6 @@ void FailEachCall(const std::string& caption, const std::function<void(clsK70&)>
   const std::string name = rig.instrument().name;
   const auto runFromTheStart = [&] {
     rig.instrument().name = name;
-    rig.k70.Receive();
     rig.k70.SystemName = "Changed";
     rig.journal.Clear();
     rig.prompts.ClearRecords();

@@ -25,13 +25,13 @@ constexpr std::array kDevices{
               &Instrument::filterCubes},
     DeviceRow{"LightPathDevice", accessory::kLightPath, "Path", false, false, nullptr},
     DeviceRow{"AnalyzerDevice", accessory::kAnalyzer, "Position", true, false, nullptr},
-    DeviceRow{"LampDevice", accessory::kLamp, "Voltage", false, false, nullptr},
-    DeviceRow{"ShutterDevice", accessory::kShutter, "Position", true, false, nullptr},
+    DeviceRow{"LampDevice", accessory::kDiaLamp, "Voltage", false, false, nullptr},
+    DeviceRow{"ShutterDevice", accessory::kEpiShutter, "Position", true, false, nullptr},
     DeviceRow{"NDFilterDevice", accessory::kNDFilter, "Position", true, true, nullptr},
-    DeviceRow{"FieldStopDevice", accessory::kFieldStop, "Position", true, true, nullptr},
-    DeviceRow{"ApertureStopDevice", accessory::kApertureStop, "Position", true, true, nullptr},
+    DeviceRow{"FieldStopDevice", accessory::kDiaFieldStop, "Position", true, true, nullptr},
+    DeviceRow{"ApertureStopDevice", accessory::kDiaApertureStop, "Position", true, true, nullptr},
     DeviceRow{"EpiFieldStopDevice", accessory::kEpiFieldStop, "Position", true, true, nullptr},
-    DeviceRow{"ZoomDevice", accessory::kZoom, "Magnification", false, false, nullptr},
+    DeviceRow{"ZoomDevice", accessory::kOpticalZoom, "Magnification", false, false, nullptr},
 };
 
 // Positions are whole numbers on the wire, voltages and magnifications need not be.

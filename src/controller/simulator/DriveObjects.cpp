@@ -97,18 +97,18 @@ void AddAxis(MemberObject& object, const DeviceLink& link, int number, std::stri
 
 ObjectRef MakeZDrive(const DeviceLink& link) {
   auto drive = std::make_shared<MemberObject>();
-  AddAccessoryState(*drive, link, accessory::kZDrive);
-  AddFields(*drive, link, accessory::kZDrive, &Instrument::zDrive, kZFields);
-  AddAxis(*drive, link, accessory::kZDrive, "Position", Axis::Z);
+  AddAccessoryState(*drive, link, accessory::kZFocusDrive);
+  AddFields(*drive, link, accessory::kZFocusDrive, &Instrument::zDrive, kZFields);
+  AddAxis(*drive, link, accessory::kZFocusDrive, "Position", Axis::Z);
   return drive;
 }
 
 ObjectRef MakeXYDrive(const DeviceLink& link) {
   auto drive = std::make_shared<MemberObject>();
-  AddAccessoryState(*drive, link, accessory::kXYDrive);
-  AddFields(*drive, link, accessory::kXYDrive, &Instrument::xyDrive, kXYFields);
-  AddAxis(*drive, link, accessory::kXYDrive, "PositionX", Axis::X);
-  AddAxis(*drive, link, accessory::kXYDrive, "PositionY", Axis::Y);
+  AddAccessoryState(*drive, link, accessory::kXYStage);
+  AddFields(*drive, link, accessory::kXYStage, &Instrument::xyDrive, kXYFields);
+  AddAxis(*drive, link, accessory::kXYStage, "PositionX", Axis::X);
+  AddAxis(*drive, link, accessory::kXYStage, "PositionY", Axis::Y);
   return drive;
 }
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "controller/AccessoryNumber.h"
+
 namespace mortane::controller {
 
 // A controller unit, number 1 to 7. It answers when `present` is 1; other numbers than 0 and 1
@@ -36,25 +38,6 @@ struct SwitchData {
 
   bool operator==(const SwitchData&) const = default;
 };
-
-// Numbers of the accessories.
-namespace accessory {
-inline constexpr int kNDFilter = 1;
-inline constexpr int kFieldStop = 2;
-inline constexpr int kApertureStop = 3;
-inline constexpr int kLamp = 4;
-inline constexpr int kCondenser = 5;
-inline constexpr int kFilterCube = 6;
-inline constexpr int kShutter = 7;
-inline constexpr int kAnalyzer = 8;
-inline constexpr int kNosepiece = 9;
-inline constexpr int kZoom = 10;
-inline constexpr int kLightPath = 11;
-inline constexpr int kZDrive = 12;
-inline constexpr int kEpiFieldStop = 13;
-inline constexpr int kXYDrive = 14;
-inline constexpr int kCount = 14;
-}  // namespace accessory
 
 // `state` is 1 when the accessory is fitted; one of state 0 answers nothing but that.
 // `value` is its position, voltage, path or magnification; the drives have their own.

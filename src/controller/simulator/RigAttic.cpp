@@ -120,8 +120,8 @@ DatabaseData AwkwardDatabase() {
 namespace rigs {
 
 Instrument Attic() {
-  constexpr std::array offsets{accessory::kNDFilter, accessory::kFieldStop,
-                               accessory::kApertureStop, accessory::kEpiFieldStop};
+  constexpr std::array offsets{accessory::kNDFilter, accessory::kDiaFieldStop,
+                               accessory::kDiaApertureStop, accessory::kEpiFieldStop};
   Instrument attic;
   attic.name = "Attic";
   AddUnit(attic, 1, "V1.30b");
@@ -134,7 +134,7 @@ Instrument Attic() {
   attic.limitation = 19;
   attic.escapeMode = -1;
   attic.zDrive.focusCompensation = 2;
-  attic.Interlock(accessory::kZDrive, 3) = 1;
+  attic.Interlock(accessory::kZFocusDrive, 3) = 1;
   attic.xyDrive.handleMode = 3;
   attic.database = AwkwardDatabase();
   // On the dials: a second half of a pair and no function at all; on the switches: characters

@@ -35,15 +35,15 @@ void SetOrdinaryOffsets(Instrument& instrument) {
 void SetRelativeCompensation(Instrument& instrument) {
   instrument.zDrive.focusCompensation = 3;
   instrument.xyDrive.focusCompensation = 3;
-  instrument.Interlock(accessory::kZDrive, kByNosepiece) = 1;
-  instrument.Interlock(accessory::kXYDrive, kByNosepiece) = 1;
-  instrument.Interlock(accessory::kLamp, kByObservation) = 1;
+  instrument.Interlock(accessory::kZFocusDrive, kByNosepiece) = 1;
+  instrument.Interlock(accessory::kXYStage, kByNosepiece) = 1;
+  instrument.Interlock(accessory::kDiaLamp, kByObservation) = 1;
   instrument.Interlock(accessory::kFilterCube, kByObservation) = 1;
   instrument.Interlock(accessory::kCondenser, kByObservation) = 1;
   instrument.Interlock(accessory::kNDFilter, kByNosepiece) = 1;
-  instrument.Interlock(accessory::kApertureStop, kByNosepiece) = 1;
+  instrument.Interlock(accessory::kDiaApertureStop, kByNosepiece) = 1;
   instrument.Interlock(accessory::kEpiFieldStop, kByLightPath) = 1;
-  instrument.Interlock(accessory::kFieldStop, kByZoom) = 1;
+  instrument.Interlock(accessory::kDiaFieldStop, kByZoom) = 1;
 }
 
 }  // namespace
@@ -54,8 +54,8 @@ Instrument Quay() {
   AddUnit(quay, kHub, version);
   AddUnit(quay, kHandController, version);
   FitAllAccessories(quay, Fit::Controllable);
-  quay.Accessory(accessory::kLamp).value = 9;
-  quay.Accessory(accessory::kZoom).value = 1.5;
+  quay.Accessory(accessory::kDiaLamp).value = 9;
+  quay.Accessory(accessory::kOpticalZoom).value = 1.5;
   quay.nosepiece = Places({2, 5, 8, 12, 15, 241});
   quay.filterCubes = Places({2, 3, 4, 6, 9, 1});
   quay.condensers = Places({1, 2, 3, 9, 5, 6, 7});
@@ -101,7 +101,7 @@ Instrument Lantern() {
   FitAllAccessories(lantern, Fit::Controllable);
   lantern.Accessory(accessory::kCondenser) = {};
   lantern.Accessory(accessory::kEpiFieldStop) = {};
-  FitAccessories(lantern, {accessory::kLightPath, accessory::kZoom, accessory::kXYDrive},
+  FitAccessories(lantern, {accessory::kLightPath, accessory::kOpticalZoom, accessory::kXYStage},
                  Fit::Sensed);
   lantern.nosepiece = Places({1, 4, 7, 10, 14});
   lantern.filterCubes = Places({2, 3, 5, 7, 1});
@@ -115,9 +115,9 @@ Instrument Lantern() {
 Instrument Pair() {
   Instrument pair = WithBody("Pair", "V1.30");
   AddUnit(pair, kHub, "V1.30");
-  FitAccessories(pair, {accessory::kNosepiece, accessory::kFilterCube, accessory::kXYDrive},
+  FitAccessories(pair, {accessory::kNosepiece, accessory::kFilterCube, accessory::kXYStage},
                  Fit::Controllable);
-  FitAccessories(pair, {accessory::kZDrive, accessory::kCondenser}, Fit::Sensed);
+  FitAccessories(pair, {accessory::kZFocusDrive, accessory::kCondenser}, Fit::Sensed);
   pair.nosepiece = Places({1, 4, 7, 10, 14, 18, 20});
   pair.filterCubes = Places({2, 3, 5, 7, 8, 4, 1});
   pair.condensers = Places({1, 2, 3, 4, 5});
@@ -130,7 +130,7 @@ Instrument Relay() {
   Instrument relay = WithBody("Relay", "V1.3");
   AddUnit(relay, kThirdUnit, "V1.3");
   AddUnit(relay, kHandController, "V1.3");
-  FitAccessories(relay, {accessory::kXYDrive, accessory::kZDrive}, Fit::Controllable);
+  FitAccessories(relay, {accessory::kXYStage, accessory::kZFocusDrive}, Fit::Controllable);
   FitAccessories(relay, {accessory::kCondenser}, Fit::Sensed);
   relay.condensers = Places({1, 2, 3, 4, 5, 6, 7});
   SetSwitches(relay.handSwitches, kHandDefaults);
@@ -149,7 +149,7 @@ Instrument Watch() {
 Instrument Hollow() {
   Instrument hollow = WithBody("Hollow", "V1.30");
   FitAllAccessories(hollow, Fit::Controllable);
-  hollow.Accessory(accessory::kXYDrive) = {};
+  hollow.Accessory(accessory::kXYStage) = {};
   return hollow;
 }
 

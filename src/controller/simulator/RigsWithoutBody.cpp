@@ -23,11 +23,11 @@ Instrument WithUnit(std::string name, int unit) {
 Instrument Hub() {
   Instrument hub = WithUnit("Hub", kHub);
   AddUnit(hub, kHandController, "V1.30");
-  FitAccessories(
-      hub,
-      {accessory::kFilterCube, accessory::kCondenser, accessory::kLightPath, accessory::kZoom,
-       accessory::kEpiFieldStop, accessory::kNDFilter, accessory::kFieldStop},
-      Fit::Controllable);
+  FitAccessories(hub,
+                 {accessory::kFilterCube, accessory::kCondenser, accessory::kLightPath,
+                  accessory::kOpticalZoom, accessory::kEpiFieldStop, accessory::kNDFilter,
+                  accessory::kDiaFieldStop},
+                 Fit::Controllable);
   hub.filterCubes = Places({2, 3, 4, 5, 6, 7, 8, 9, 10, 1});
   hub.condensers = Places({1, 2, 3, 4, 5, 6, 7});
   // Objectives do not turn here: the dials drive cubes, zoom and field stop.
@@ -38,7 +38,7 @@ Instrument Hub() {
 Instrument Outpost() {
   Instrument outpost = WithUnit("Outpost", kThirdUnit);
   FitAccessories(outpost, {accessory::kNosepiece}, Fit::Sensed);
-  FitAccessories(outpost, {accessory::kFilterCube, accessory::kZDrive}, Fit::Controllable);
+  FitAccessories(outpost, {accessory::kFilterCube, accessory::kZFocusDrive}, Fit::Controllable);
   outpost.nosepiece = Places({1, 4, 7, 10, 14, 18});
   outpost.filterCubes = Places({2, 3, 5, 7, 8, 1});
   return outpost;
@@ -47,7 +47,8 @@ Instrument Outpost() {
 Instrument Deck() {
   Instrument deck = WithUnit("Deck", kSixthUnit);
   FitAccessories(
-      deck, {accessory::kNosepiece, accessory::kFilterCube, accessory::kShutter, accessory::kLamp},
+      deck,
+      {accessory::kNosepiece, accessory::kFilterCube, accessory::kEpiShutter, accessory::kDiaLamp},
       Fit::Controllable);
   deck.nosepiece = Places({1, 4, 7, 10, 14, 18});
   deck.filterCubes = Places({2, 3, 5, 7, 8, 1});
