@@ -108,6 +108,8 @@ QWidget* ObjectiveOptionCtl::BuildLists(QWidget* parent) {
   magnification->addWidget(TextMag);
   magnification->addWidget(Label7);
   magnification->addStretch();
+  Label4->setFont(CaptionFont());
+  Label4->setForegroundRole(QPalette::PlaceholderText);
   cells->addWidget(Label4, 0, 2);
   cells->addLayout(magnification, 1, 2);
   ListMag = list("ListMag", 2, 2);

@@ -14,6 +14,13 @@ constexpr int kIconSide = 22;
 constexpr int kRowsAskedFor = 6;
 constexpr int kDialogUnits = 4;  // of a character's average width
 
+double AverageCharacter(const QFontMetrics& metrics) {
+  static const QString kLetters =
+      QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+  return static_cast<double>(metrics.horizontalAdvance(kLetters)) /
+         static_cast<double>(kLetters.size());
+}
+
 }  // namespace
 
 ListBox::ListBox(QWidget* parent) : QTreeWidget(parent) {
@@ -68,7 +75,7 @@ void ListBox::SetTabStops(const QVector<int>& dialogUnits) {
 int ListBox::sizeHintForColumn(int column) const {
   const int before = column > 0 ? tabStops_.value(column - 1) : 0;
   const int units = tabStops_.value(column) - before;
-  return qMax(units * fontMetrics().averageCharWidth() / kDialogUnits,
+  return qMax(qRound(units * AverageCharacter(fontMetrics()) / kDialogUnits),
               QTreeWidget::sizeHintForColumn(column));
 }
 
@@ -191,10 +198,7 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
 
 // A view that gets the focus with no current row would make the first one current.
 void ListBox::focusInEvent(QFocusEvent* event) {
-  if (index() < 0)
-    QWidget::focusInEvent(event);
-  else
-    QTreeWidget::focusInEvent(event);
+  if (index() >= 0) QTreeWidget::focusInEvent(event);
   update();
   viewport()->update();
 }

@@ -22,7 +22,7 @@ constexpr double kHubHole = 4;
 constexpr double kOrbitEdge = 12;
 constexpr double kLargestPlace = 34;
 constexpr double kBetweenPlaces = 5;
-constexpr double kNumberGap = 14;
+constexpr double kNumberGap = 8;  // from the halo to the middle, in pixels of any scale
 constexpr double kTileHeightShare = 0.8;
 constexpr double kLeastScale = 0.8;
 constexpr double kMostScale = 1.5;
@@ -185,7 +185,8 @@ void TurretDrawing::paintEvent(QPaintEvent*) {
   const QPointF center(width() / 2.0, kSide * scale / 2);
   for (int i = 0; i < count(); ++i) {
     const bool chosen = i == index();
-    const double distance = (ring.orbit - ring.placeRadius - kNumberGap) * scale;
+    const double distance =
+        (ring.orbit - ring.placeRadius) * scale - TurretButton::HaloRoom() - kNumberGap;
     QRectF box(0, 0, 40, 20);
     box.moveCenter(center + Direction(i, count()) * distance);
     painter.setFont(chosen ? BoldFont() : CaptionFont());

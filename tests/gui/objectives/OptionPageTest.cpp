@@ -354,7 +354,7 @@ TEST(OptionPage, WithoutACondenserTheRowsAndTheStoredCodeStay) {
   PageRig rig("Harbour");
   auto& page = rig.Show(new ObjectiveOptionCtl);
   const Texts before = RowsOf(*page.ComboCondenser);
-  rig.instrument().Accessory(controller::accessory::kCondenser).state = 0;
+  rig.instrument().Accessory(accessory::kCondenser).state = 0;
   page.LoadData();
   EXPECT_FALSE(page.FrmCondenser->isEnabled());
   EXPECT_EQ(RowsOf(*page.ComboCondenser), before);
@@ -367,10 +367,10 @@ TEST(OptionPage, ATabAsksForTheCondenserButKeepsItsRows) {
   auto& page = rig.Show(new ObjectiveOptionCtl);
   const Texts before = RowsOf(*page.ComboCondenser);
   rig.instrument().database.condensers[1].name = "Renamed";
-  rig.instrument().Accessory(controller::accessory::kCondenser).state = 0;
+  rig.instrument().Accessory(accessory::kCondenser).state = 0;
   ClickTab(*page.TabStrip1, 1);
   EXPECT_FALSE(page.FrmCondenser->isEnabled());
-  rig.instrument().Accessory(controller::accessory::kCondenser).state = 1;
+  rig.instrument().Accessory(accessory::kCondenser).state = 1;
   ClickTab(*page.TabStrip1, 2);
   EXPECT_TRUE(page.FrmCondenser->isEnabled());
   EXPECT_EQ(RowsOf(*page.ComboCondenser), before);
