@@ -152,6 +152,17 @@ TEST(Limitation, ComparesWithTheLastReadAndAsksNothing) {
   EXPECT_EQ(list, "");
 }
 
+TEST(Limitation, ARuleThatBecameUnknownIsNoDifferenceAndKeepsAllFromBeingWritten) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.curLimit.curSkip = -1;
+  std::string list;
+  EXPECT_EQ(rig.k70.curLimit.ModifySdk(list), "");
+  EXPECT_EQ(list, "");
+  EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "");
+  EXPECT_TRUE(rig.journal.Writes().empty());
+}
+
 TEST(Limitation, AReadThatFailsLeavesThreeUnknowns) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
