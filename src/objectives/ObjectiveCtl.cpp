@@ -191,9 +191,14 @@ void ObjectiveCtl::ClickTab(int) {
   const std::int32_t mounted = k70.curNosepiece.code(address());
   const std::int32_t series = k70.DbNosepiece.SeriesCode(mounted);
   turret_->setIndex(TabNosepiece->index());
+  listing_.reset();
   ListSeries->setIndex(series);
   LabelSeries->setText(QString::fromStdString(k70.DbNosepiece.Series(series)));
-  SelectOrBlank(BuildList(series, mounted));
+  // The click of the series has just built this very list.
+  const bool built = listing_ && listing_->series == series && listing_->mounted == mounted;
+  const int row = built ? listing_->row : BuildList(series, mounted);
+  ListItem->setIndex(-1);
+  SelectOrBlank(row);
 }
 
 void ObjectiveCtl::ClickSeries(int row) {
@@ -222,6 +227,7 @@ int ObjectiveCtl::BuildList(std::int32_t series, std::int32_t mounted) {
     found = static_cast<int>(rows.size()) - 1;
   }
   ShowRows(std::move(rows));
+  listing_ = {series, mounted, found};
   return found;
 }
 

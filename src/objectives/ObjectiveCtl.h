@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "widgets/Page.h"
@@ -59,6 +60,12 @@ class ObjectiveCtl : public Page {
     std::int32_t code;
   };
 
+  struct Listing {
+    std::int32_t series;
+    std::int32_t mounted;
+    int row;
+  };
+
   QWidget* BuildLists(QWidget* parent);
   QFrame* BuildPlate(QWidget* parent);
   void ShowParts(const QString& row);
@@ -76,6 +83,7 @@ class ObjectiveCtl : public Page {
 
   TurretDrawing* turret_ = nullptr;
   std::vector<Row> rows_;  // of the objective list
+  std::optional<Listing> listing_;
   bool shownBefore_ = false;
 };
 

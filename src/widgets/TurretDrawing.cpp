@@ -1,5 +1,6 @@
 #include "widgets/TurretDrawing.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QtMath>
@@ -23,6 +24,7 @@ constexpr double kOrbitEdge = 12;
 constexpr double kLargestPlace = 34;
 constexpr double kBetweenPlaces = 5;
 constexpr double kNumberGap = 8;  // from the halo to the middle, in pixels of any scale
+constexpr QSizeF kNumberSize{40, 20};
 constexpr double kTileHeightShare = 0.8;
 constexpr double kLeastScale = 0.8;
 constexpr double kMostScale = 1.5;
@@ -64,6 +66,8 @@ void TurretDrawing::MakeButton(int index) {
   button->setObjectName(QStringLiteral("place_%1").arg(index + 1));
   button->hide();
   group_->add(button, index);
+  connect(button, &TurretButton::toggled, this,
+          [this, index] { update(NumberArea(index).toAlignedRect()); });
   connect(button, &TurretButton::stepped, this,
           [this, index](int steps) { Choose((index + steps + count_) % count_); });
   connect(button, &TurretButton::jumped, this,
@@ -97,7 +101,6 @@ void TurretDrawing::Describe() {
   QStringList names;
   for (int i = 0; i < count_; ++i) names.append(buttons_[i]->accessibleName());
   setAccessibleDescription(names.join(QStringLiteral("; ")));
-  update();
 }
 
 QAbstractButton* TurretDrawing::place(int index) const {
@@ -115,7 +118,6 @@ void TurretDrawing::setIndex(int index) {
   } else {
     group_->select(index);
   }
-  update();
 }
 
 double TurretDrawing::drawingScale() const {
@@ -134,6 +136,7 @@ QSize TurretDrawing::minimumSizeHint() const {
 
 void TurretDrawing::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  disc_ = {};
   PlaceButtons();
   updateGeometry();
 }
@@ -141,7 +144,7 @@ void TurretDrawing::resizeEvent(QResizeEvent* event) {
 void TurretDrawing::PlaceButtons() {
   const double scale = drawingScale();
   const Ring ring = RingOf(count());
-  const QPointF center(width() / 2.0, kSide * scale / 2);
+  const QPointF center = Center();
   for (int i = 0; i < count(); ++i) {
     const double width = 2 * ring.placeRadius * scale;
     const double height = kind_ == PlaceKind::Objectives ? width : width * kTileHeightShare;
@@ -155,12 +158,22 @@ void TurretDrawing::PlaceButtons() {
   update();
 }
 
-void TurretDrawing::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
+void TurretDrawing::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) disc_ = {};
+}
+
+// The disc without its places is painted once for each size.
+void TurretDrawing::PaintDisc() {
+  const double ratio = devicePixelRatioF();
   const double scale = drawingScale();
-  painter.translate(width() / 2.0, kSide * scale / 2);
+  disc_ = QPixmap(QSizeF(kSide * scale * ratio, kSide * scale * ratio).toSize());
+  disc_.setDevicePixelRatio(ratio);
+  disc_.fill(Qt::transparent);
+  QPainter painter(&disc_);
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(scale, scale);
+  painter.translate(kSide / 2, kSide / 2);
   const QColor line = ToneColor(Tone::DrawingLine);
   QRadialGradient rim(QPointF(), kRadius);
   rim.setColorAt(0, ToneColor(Tone::DrawingFill));
@@ -179,19 +192,32 @@ void TurretDrawing::paintEvent(QPaintEvent*) {
   painter.drawEllipse(QPointF(), kHub, kHub);
   painter.setBrush(ToneColor(Tone::DrawingFill));
   painter.drawEllipse(QPointF(), kHubHole, kHubHole);
-  painter.resetTransform();
+}
 
+QRectF TurretDrawing::NumberArea(int index) const {
   const Ring ring = RingOf(count());
-  const QPointF center(width() / 2.0, kSide * scale / 2);
+  const double scale = drawingScale();
+  const double distance =
+      (ring.orbit - ring.placeRadius) * scale - TurretButton::HaloRoom() - kNumberGap;
+  QRectF area(QPointF(), kNumberSize);
+  area.moveCenter(Center() + Direction(index, count()) * distance);
+  return area;
+}
+
+QPointF TurretDrawing::Center() const {
+  return {width() / 2.0, kSide * drawingScale() / 2};
+}
+
+void TurretDrawing::paintEvent(QPaintEvent*) {
+  if (disc_.isNull() || disc_.devicePixelRatio() != devicePixelRatioF()) PaintDisc();
+  QPainter painter(this);
+  const double side = kSide * drawingScale();
+  painter.drawPixmap(Center() - QPointF(side, side) / 2, disc_);
   for (int i = 0; i < count(); ++i) {
     const bool chosen = i == index();
-    const double distance =
-        (ring.orbit - ring.placeRadius) * scale - TurretButton::HaloRoom() - kNumberGap;
-    QRectF box(0, 0, 40, 20);
-    box.moveCenter(center + Direction(i, count()) * distance);
     painter.setFont(chosen ? BoldFont() : CaptionFont());
     painter.setPen(palette().color(chosen ? QPalette::WindowText : QPalette::PlaceholderText));
-    painter.drawText(box, Qt::AlignCenter, QString::number(i + 1));
+    painter.drawText(NumberArea(i), Qt::AlignCenter, QString::number(i + 1));
   }
 }
 

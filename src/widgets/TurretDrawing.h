@@ -1,6 +1,7 @@
 // A turret from above: what stands at each of its addresses, to be seen and chosen.
 #pragma once
 
+#include <QPixmap>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -57,17 +58,22 @@ class TurretDrawing : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void MakeButton(int index);
   void Choose(int index);
   void PlaceButtons();
   void Describe();
+  void PaintDisc();
+  [[nodiscard]] QPointF Center() const;
+  [[nodiscard]] QRectF NumberArea(int index) const;
 
   PlaceKind kind_;
   OptionGroup* group_;
   QVector<TurretButton*> buttons_;  // of all addresses that there can be
   int count_ = 0;
+  QPixmap disc_;
 };
 
 }  // namespace mortane
