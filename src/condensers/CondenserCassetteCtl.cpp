@@ -20,31 +20,37 @@ constexpr int kComboWidth = 280;
 constexpr std::int32_t kNoCondenser = 0;
 constexpr std::int32_t kSuits = 1;
 
-// Which condensers fit an address is known to the controller alone. Without its answer none is
-// offered, and the page shows the rest.
-std::int32_t FixedCount(const clsK70& k70) {
-  try {
-    return k70.Mic.AccessoryDatabase().CondenserCount();
-  } catch (const Failure&) {
-    return 0;
-  }
-}
+using Records = controller::RecordList<controller::CondenserRecord>;
 
-bool Suits(const clsK70& k70, std::int32_t code, std::int32_t address) {
+bool Suits(const Records& records, std::int32_t code, std::int32_t address) {
   try {
     // A fixed record stands at the position of its code.
-    return k70.Mic.AccessoryDatabase().Condensers().Item(code).SuitsAddress(address) == kSuits;
+    return records.Item(code).SuitsAddress(address) == kSuits;
   } catch (const Failure&) {
     return false;
   }
 }
 
-std::vector<std::int32_t> CodesFor(const clsK70& k70, std::int32_t address) {
+// Which condensers fit an address is known to the controller alone. Where it gives no answer
+// none is offered, and the page shows the rest.
+std::vector<std::int32_t> FixedCodesFor(const clsK70& k70, std::int32_t address) {
   std::vector<std::int32_t> codes;
-  const std::int32_t fixed = FixedCount(k70);
-  for (std::int32_t code = 1; code <= fixed; ++code) {
-    if (Suits(k70, code, address)) codes.push_back(code);
+  try {
+    const controller::AccessoryDatabase database = k70.Mic.AccessoryDatabase();
+    const std::int32_t count = database.CondenserCount();
+    const Records records = database.Condensers();
+    for (std::int32_t code = 1; code <= count; ++code) {
+      if (Suits(records, code, address)) codes.push_back(code);
+    }
+  } catch (const Failure&) {
+    return {};
   }
+  return codes;
+}
+
+// The user's condensers fit every address; only the named ones can be told apart.
+std::vector<std::int32_t> NamedOptions(const clsK70& k70) {
+  std::vector<std::int32_t> codes;
   for (int row = 0; row < CondenserOptionCtl::kRowCount; ++row) {
     const std::int32_t code = CondenserOptionCtl::CodeOf(row);
     const std::string name = k70.dbcon.Name(code);
@@ -111,9 +117,11 @@ void CondenserCassetteCtl::LoadRow(int row) {
   };
   // An empty address selects nothing, although its code has an entry.
   add(kNoCondenser);
-  for (const std::int32_t code : CodesFor(k70, row + 1)) {
-    const int entry = add(code);
-    if (code == mounted) combo->setIndex(entry);
+  for (const auto& codes : {FixedCodesFor(k70, row + 1), NamedOptions(k70)}) {
+    for (const std::int32_t code : codes) {
+      const int entry = add(code);
+      if (code == mounted) combo->setIndex(entry);
+    }
   }
 }
 

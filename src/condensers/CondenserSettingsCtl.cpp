@@ -22,8 +22,8 @@ CondenserSettingsCtl::CondenserSettingsCtl(QWidget* parent)
     : ContainerPage(IconName::Condenser, QStringLiteral("Condensers"), grid::kSectionStart, parent),
       Header(header()),
       optCondenserSetting(sections()),
-      CondenserCassetteCtl1(new CondenserCassetteCtl(this)),
-      CondenserOptionCtl1(new CondenserOptionCtl(this)) {
+      CondenserCassetteCtl1(new CondenserCassetteCtl),
+      CondenserOptionCtl1(new CondenserOptionCtl) {
   Header->setObjectName("Header");
   CondenserCassetteCtl1->setObjectName("CondenserCassetteCtl1");
   CondenserOptionCtl1->setObjectName("CondenserOptionCtl1");

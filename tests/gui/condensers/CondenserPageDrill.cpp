@@ -1,0 +1,134 @@
+// The drill of the condenser pages.
+#include "condensers/CondenserCassetteCtl.h"
+#include "condensers/CondenserOptionCtl.h"
+#include "condensers/CondenserSettingsCtl.h"
+#include "gui/support/PageActs.h"
+#include "gui/support/PageDrill.h"
+
+namespace mortane::test {
+namespace {
+
+std::string Numbered(const char* array, int index) {
+  return std::string(array) + "_" + std::to_string(index);
+}
+
+std::function<std::string(clsK70&)> CodeAt(std::int32_t address) {
+  return [address](clsK70& k70) { return std::to_string(k70.curCondenser.code(address)); };
+}
+
+std::function<void(clsK70&)> PutCode(std::int32_t address, std::int32_t code) {
+  return [=](clsK70& k70) { k70.curCondenser.code(address, code); };
+}
+
+std::function<std::string(clsK70&)> NameOf(std::int32_t code) {
+  return [code](clsK70& k70) { return k70.dbcon.Name(code); };
+}
+
+std::function<void(clsK70&)> PutName(std::int32_t code, const char* name) {
+  return [=](clsK70& k70) { k70.dbcon.Name(code, name); };
+}
+
+void Unfit(Bench& bench) {
+  bench.instruments.back().Accessory(accessory::kCondenser) = {};
+}
+
+PageDrillData Cassette() {
+  PageDrillData data;
+  data.name = "Cassette";
+  data.bench = "Harbour";
+  data.make = [] { return new CondenserCassetteCtl; };
+  data.controls = {{"FrameBase", "Set Condenser Data to Each Address"}};
+  for (int row = 0; row < 7; ++row) {
+    const std::string number = std::to_string(row + 1);
+    data.controls.push_back({Numbered("Label1", row), number});
+    data.controls.push_back({Numbered("Combo1", row), "Address " + number});
+    data.tabOrder.push_back(Numbered("Combo1", row));
+  }
+  data.shown = {
+      {"Combo1_0", PutCode(1, 8), CodeAt(1), "Polar"},
+      {"Combo1_0", PutCode(1, 4), CodeAt(1), ""},
+      {"Combo1_1", PutCode(2, 0), CodeAt(2), ""},
+      {"Combo1_3", PutCode(4, 141), CodeAt(4), "Slit"},
+      {"Combo1_3", PutCode(4, 142), CodeAt(4), ""},
+      {"Combo1_6", PutCode(7, 149), CodeAt(7), ""},
+  };
+  data.edits = {
+      {"Combo1_0", "Ph 3", CodeAt(1), "9"},
+      {"Combo1_2", "", CodeAt(3), "0"},
+      {"Combo1_6", "Slit", CodeAt(7), "141"},
+  };
+  return data;
+}
+
+PageDrillData Names() {
+  PageDrillData data;
+  data.name = "Names";
+  data.bench = "Harbour";
+  data.make = [] { return new CondenserOptionCtl; };
+  data.controls = {{"FrameBase", "Add Optional Condenser Data to the List"}};
+  for (int row = 0; row < 9; ++row) {
+    const std::string number = std::to_string(row + 1);
+    data.controls.push_back({Numbered("Label11", row), number});
+    data.controls.push_back({Numbered("TextName", row), "Optional Condenser " + number});
+    data.tabOrder.push_back(Numbered("TextName", row));
+  }
+  data.shown = {
+      {"TextName_0", PutName(141, "Ring"), NameOf(141), "Ring"},
+      {"TextName_0", PutName(141, " Ring "), NameOf(141), " Ring "},
+      {"TextName_1", PutName(142, ""), NameOf(142), "----------"},
+      {"TextName_2", PutName(143, "    "), NameOf(143), "----------"},
+      {"TextName_3", PutName(144, "---------"), NameOf(144), "---------"},
+      {"TextName_4", PutName(145, "\t"), NameOf(145), "\t"},
+      {"TextName_8", PutName(149, "M\xC3\xBCnchen 25"), NameOf(149), "M\xC3\xBCnchen 25"},
+  };
+  data.edits = {
+      {"TextName_0", "Ring", NameOf(141), "Ring"},
+      {"TextName_0", "", NameOf(141), ""},
+      {"TextName_4", "  two", NameOf(145), "  two"},
+      {"TextName_8", "Ten chars.", NameOf(149), "Ten chars."},
+      {"TextName_8", "Eleven char", NameOf(149), "Eleven cha"},
+  };
+  return data;
+}
+
+PageDrillData Settings() {
+  PageDrillData data;
+  data.name = "Settings";
+  data.bench = "Harbour";
+  data.make = [] { return new CondenserSettingsCtl; };
+  data.controls = {
+      {"Header", ""},
+      {"optCondenserSetting_0", "Condenser"},
+      {"optCondenserSetting_1", "Optional"},
+      {"CondenserCassetteCtl1", ""},
+      {"CondenserOptionCtl1", ""},
+  };
+  data.shown = {
+      {"Combo1_4", PutCode(5, 6), CodeAt(5), "DIC M"},
+      {"TextName_1", PutName(142, "Lens"), NameOf(142), "Lens"},
+  };
+  data.edits = {{"Combo1_4", "Slit", CodeAt(5), "141"}};
+  data.enabling = {
+      {"optCondenserSetting_0", "Harbour", {}, true},
+      {"optCondenserSetting_0", "Pair", {}, true},
+      {"optCondenserSetting_0", "Harbour", Unfit, false},
+      {"optCondenserSetting_1", "Harbour", Unfit, true},
+      {"optCondenserSetting_0", "Lantern", {}, false},
+      {"optCondenserSetting_1", "Lantern", {}, true},
+  };
+  data.tabOrder = {"optCondenserSetting_0",
+                   "Combo1_0",
+                   "Combo1_1",
+                   "Combo1_2",
+                   "Combo1_3",
+                   "Combo1_4",
+                   "Combo1_5",
+                   "Combo1_6"};
+  return data;
+}
+
+INSTANTIATE_TEST_SUITE_P(Condensers, PageDrill, testing::Values(Cassette(), Names(), Settings()),
+                         PageDrillName);
+
+}  // namespace
+}  // namespace mortane::test
