@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QTest>
 
+#include "NosepieceRig.h"
 #include "common/Numbers.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
@@ -76,20 +77,6 @@ PageDrillData NosepiecePage() {
 }
 
 INSTANTIATE_TEST_SUITE_P(NosepiecePage, PageDrill, testing::Values(NosepiecePage()), PageDrillName);
-
-// The awkward instrument tells of its bad records when it is received from.
-struct AtticRig : PageRig {
-  AtticRig() : PageRig("Attic", Link::None) {
-    prompts.AcceptAnyBox();
-    EXPECT_TRUE(k70().Connect(1));
-    k70().Receive();
-    prompts.ClearRecords();
-  }
-};
-
-TurretDrawing& TurretOf(PageRig& rig) {
-  return rig.Find<TurretDrawing>("turret");
-}
 
 const Texts kBlank{"", "", "", "", ""};
 
@@ -369,51 +356,6 @@ TEST(NosepiecePage, ShowsNumbersInTheFormatOfTheSystem) {
     EXPECT_EQ(TurretOf(rig).place(0)->accessibleName(), "Address 1, 2,5x, Fine");
   }
   SetSystemNumberFormat(PointFormat());
-}
-
-TEST(NosepiecePage, AClickOnAPlaceIsAClickOnItsTab) {
-  PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
-  QTest::mouseClick(TurretOf(rig).place(4), Qt::LeftButton);
-  EXPECT_EQ(page.TabNosepiece->caption(), "5");
-  EXPECT_EQ(page.LabelName->text(), "Super C 20x");
-  EXPECT_EQ(Shown(*page.ListSeries), "Super C");
-  ClickTab(*page.TabNosepiece, 1);
-  EXPECT_EQ(TurretOf(rig).index(), 1);
-}
-
-TEST(NosepiecePage, ThePlacesAgreeWithTheListsAtAllTimes) {
-  PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
-  TurretDrawing& turret = TurretOf(rig);
-  ASSERT_EQ(turret.count(), 6);
-  EXPECT_EQ(turret.place(0)->accessibleName(), "Address 1, 2x, Plan A 2x");
-  EXPECT_EQ(turret.place(3)->accessibleName(), "Address 4, 40x, Plan F 40x");
-  ClickTab(*page.TabNosepiece, 3);
-  Enter(*page.ListItem, "DIC\t20x\t2.1\t0.5\tPlan F 20x");
-  EXPECT_EQ(turret.place(3)->accessibleName(), "Address 4, 20x, Plan F 20x");
-  Enter(*page.ListSeries, "Epi");
-  EXPECT_EQ(turret.place(3)->accessibleName(), "Address 4, 5x, Epi 5x");
-  Enter(*page.ListSeries, "-----------");
-  EXPECT_EQ(turret.place(3)->accessibleName(), "Address 4, ----");
-}
-
-TEST(NosepiecePage, ArrowsOnThePlacesWorkTheTabs) {
-  PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
-  TurretOf(rig).place(0)->setFocus();
-  QTest::keyClick(TurretOf(rig).place(0), Qt::Key_Left);
-  EXPECT_EQ(page.TabNosepiece->caption(), "6");
-  EXPECT_EQ(page.LabelName->text(), "Super C100x Oil");
-}
-
-TEST(NosepiecePage, HasRoomForTenAddresses) {
-  AtticRig rig;
-  auto& page = rig.Show(new ObjectiveCtl);
-  EXPECT_EQ(page.TabNosepiece->count(), 10);
-  EXPECT_EQ(TurretOf(rig).count(), 10);
-  QTest::mouseClick(TurretOf(rig).place(9), Qt::LeftButton);
-  EXPECT_EQ(page.TabNosepiece->caption(), "10");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+#include "OptionTexts.h"
 #include "common/Numbers.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
@@ -19,25 +20,6 @@ using Texts = std::vector<std::string>;
 
 const std::string kMessage = "Please Input right value.";
 const QString kDashes = "---------------";
-
-// Everything that a position holds, in one text.
-std::string StoredAt(clsK70& k70, std::int32_t position) {
-  std::string name;
-  std::string magnification;
-  std::string distance;
-  std::string aperture;
-  std::int32_t series = 0;
-  std::int32_t type = 0;
-  std::int32_t condenser = 0;
-  k70.DbNosepiece.Get_DbNosepieceOption(position, name, series, type, magnification, distance,
-                                        aperture, condenser);
-  return name + "|" + std::to_string(series) + "|" + std::to_string(type) + "|" + magnification +
-         "|" + distance + "|" + aperture + "|" + std::to_string(condenser);
-}
-
-std::string First(clsK70& k70) {
-  return StoredAt(k70, 1);
-}
 
 const std::vector<GivenControl> kControls{
     {"FrameBase", "Add Optional Objective Data to the List"},
@@ -290,105 +272,6 @@ TEST(OptionPage, ARefusedNumberKeepsTheTabTheRowAndTheCondenser) {
     EXPECT_EQ(page.TextWD->text(), "41.5");
     EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|1.98|0.95|3");
     page.TextWD->setText("1.98");
-  }
-}
-
-TEST(OptionPage, OffersTheFixedCondensersButThreeOfThem) {
-  PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
-  EXPECT_EQ(RowsOf(*page.ComboCondenser),
-            (Texts{"None", "Ph 1", "Ph 2", "DIC L", "DIC M", "DIC H", "Ph 3"}));
-  std::vector<int> codes;
-  for (int i = 0; i < page.ComboCondenser->count(); ++i) {
-    codes.push_back(page.ComboCondenser->data(i).toInt());
-  }
-  EXPECT_EQ(codes, (std::vector<int>{0, 2, 3, 5, 6, 7, 9}));
-}
-
-struct StopRow {
-  int record;
-  const char* name;
-  bool option;
-  Texts rows;
-};
-
-TEST(OptionPage, TheFirstBlankOrOptionalRecordEndsTheCondensers) {
-  for (const StopRow& row :
-       {StopRow{1, "--", false, {"None"}}, StopRow{1, "Mine", true, {"None"}},
-        StopRow{3, "--------", false, {"None", "Ph 1"}},
-        StopRow{3, "-", false, {"None", "Ph 1", "-", "DIC L", "DIC M", "DIC H", "Ph 3"}},
-        StopRow{4, "--", false, {"None", "Ph 1", "Ph 2"}},
-        StopRow{6, "Mine", true, {"None", "Ph 1", "Ph 2", "DIC L"}}}) {
-    Bench bench = benches::Named("Harbour");
-    auto& record =
-        bench.instruments.back().database.condensers[static_cast<std::size_t>(row.record) - 1];
-    record.name = row.name;
-    record.option = row.option;
-    PageRig rig(std::move(bench));
-    auto& page = rig.Show(new ObjectiveOptionCtl);
-    EXPECT_EQ(RowsOf(*page.ComboCondenser), row.rows) << row.record << row.name;
-  }
-}
-
-TEST(OptionPage, ARecordBeyondNineIsOfferedToo) {
-  Bench bench = benches::Named("Harbour");
-  auto& condensers = bench.instruments.back().database.condensers;
-  const auto tenth = std::find_if(condensers.begin(), condensers.end(),
-                                  [](const auto& record) { return record.option; });
-  condensers.insert(tenth, {10, false, "Tenth", "1111111111"});
-  PageRig rig(std::move(bench));
-  auto& page = rig.Show(new ObjectiveOptionCtl);
-  Enter(*page.ComboCondenser, "Tenth");
-  EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|1.98|0.95|10");
-}
-
-TEST(OptionPage, ChoosingTheCondenserOnShowStoresAgain) {
-  PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
-  rig.k70().DbNosepiece.Set_DbNosepiece(1, "Other", 1, 1, "1", "1", "1", 0);
-  Enter(*page.ComboCondenser, "Ph 2");
-  EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|1.98|0.95|3");
-}
-
-TEST(OptionPage, WithoutACondenserTheRowsAndTheStoredCodeStay) {
-  PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
-  const Texts before = RowsOf(*page.ComboCondenser);
-  rig.instrument().Accessory(accessory::kCondenser).state = 0;
-  page.LoadData();
-  EXPECT_FALSE(page.FrmCondenser->isEnabled());
-  EXPECT_EQ(RowsOf(*page.ComboCondenser), before);
-  Enter(*page.ListMag, "5x");
-  EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|5|1.98|0.95|3");
-}
-
-TEST(OptionPage, ATabAsksForTheCondenserButKeepsItsRows) {
-  PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
-  const Texts before = RowsOf(*page.ComboCondenser);
-  rig.instrument().database.condensers[1].name = "Renamed";
-  rig.instrument().Accessory(accessory::kCondenser).state = 0;
-  ClickTab(*page.TabStrip1, 1);
-  EXPECT_FALSE(page.FrmCondenser->isEnabled());
-  rig.instrument().Accessory(accessory::kCondenser).state = 1;
-  ClickTab(*page.TabStrip1, 2);
-  EXPECT_TRUE(page.FrmCondenser->isEnabled());
-  EXPECT_EQ(RowsOf(*page.ComboCondenser), before);
-  page.LoadData();
-  EXPECT_EQ(RowsOf(*page.ComboCondenser)[1], "Renamed");
-}
-
-TEST(OptionPage, ACodeWithoutARowSelectsNothingAndStaysStored) {
-  for (const std::int32_t code : {1, 4, 8, 200, -1}) {
-    PageRig rig("Harbour");
-    rig.k70().DbNosepiece.Set_DbNosepiece(1, "Mine", 1, 1, "5", "1", "0.1", code);
-    auto& page = rig.Show(new ObjectiveOptionCtl);
-    EXPECT_EQ(page.ComboCondenser->index(), -1) << code;
-    EXPECT_TRUE(First(rig.k70()).ends_with("|" + std::to_string(code)));
-    Enter(*page.ListMag, "10x");
-    EXPECT_TRUE(First(rig.k70()).ends_with("|" + std::to_string(code)));
-    Enter(*page.ComboCondenser, "Ph 1");
-    EXPECT_TRUE(First(rig.k70()).ends_with("|2"));
   }
 }
 
