@@ -59,13 +59,12 @@ void OptionGroup::UpdateTabStop() {
     const bool hidden = button->isHidden() && button->testAttribute(Qt::WA_WState_ExplicitShowHide);
     return button->isEnabled() && !hidden;
   };
-  QAbstractButton* stop = group_.checkedButton();
-  if (stop == nullptr || !usable(stop)) {
-    const auto first = std::find_if(buttons_.begin(), buttons_.end(), usable);
-    stop = first == buttons_.end() ? nullptr : *first;
-  }
-  for (QAbstractButton* button : buttons_)
-    button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
+  const auto checked = buttons_.indexOf(group_.checkedButton());
+  auto stop = checked;
+  if (checked < 0 || !usable(buttons_[checked]))
+    stop = std::find_if(buttons_.begin(), buttons_.end(), usable) - buttons_.begin();
+  for (qsizetype i = 0; i < buttons_.size(); ++i)
+    buttons_[i]->setFocusPolicy(i == stop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 }  // namespace mortane

@@ -81,7 +81,7 @@ void PageButton::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), Ground());
   if (selected_) painter.fillRect(0, 0, kBarWidth, height(), ToneColor(Tone::Amber));
   const QColor foreground = Foreground();
-  const QRectF iconArea((width() - kIconSize) / 2, kIconTop, kIconSize, kIconSize);
+  const QRectF iconArea((width() - kIconSize) / 2.0, kIconTop, kIconSize, kIconSize);
   DrawIcon(painter, icon_, iconArea,
            {foreground, selected_ && isEnabled() ? ToneColor(Tone::Amber) : foreground});
   const int textTop = kIconTop + kIconSize + grid::kUnit;

@@ -115,15 +115,12 @@ void SectionBar::SetOptionVisible(int index, bool visible) {
 }
 
 void SectionBar::MarkEnds() {
-  SectionOption* first = nullptr;
-  SectionOption* last = nullptr;
+  QVector<SectionOption*> shown;
   for (SectionOption* option : options_) {
-    option->SetEnds(false, false);
-    if (option->isHidden() && option->testAttribute(Qt::WA_WState_ExplicitShowHide)) continue;
-    if (first == nullptr) first = option;
-    last = option;
+    const bool hidden = option->isHidden() && option->testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (!hidden) shown.append(option);
   }
-  for (SectionOption* option : options_) option->SetEnds(option == first, option == last);
+  for (qsizetype i = 0; i < shown.size(); ++i) shown[i]->SetEnds(i == 0, i + 1 == shown.size());
 }
 
 }  // namespace mortane

@@ -16,40 +16,18 @@ constexpr int kIndicatorSide = 16;
 constexpr int kListFrameWidth = 2;
 constexpr int kCellMargin = 7;
 constexpr int kScrollBarExtent = 12;
-constexpr int kScrollBarLeastHandle = 28;
 constexpr int kComboTextMargin = 8;
 constexpr int kComboArrowWidth = 26;
 constexpr int kButtonPadding = 18;
 constexpr int kOptionInset = 5;  // keeps indicator and text clear of the line of the focus
 
-// A bar without end buttons: the handle may use its whole length.
-QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
-  const bool horizontal = bar.orientation == Qt::Horizontal;
-  const int length = horizontal ? bar.rect.width() : bar.rect.height();
-  const int range = bar.maximum - bar.minimum;
-  int handle = length;
-  if (range > 0)
-    handle = qBound(
-        qMin(kScrollBarLeastHandle, length),
-        static_cast<int>(qint64{length} * bar.pageStep / (qint64{range} + bar.pageStep)), length);
-  const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
-                                                    length - handle, bar.upsideDown);
-  const auto slice = [&](int from, int size) {
-    return horizontal ? QRect(bar.rect.left() + from, bar.rect.top(), size, bar.rect.height())
-                      : QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), size);
-  };
-  switch (part) {
-    case QStyle::SC_ScrollBarSlider:
-      return slice(start, handle);
-    case QStyle::SC_ScrollBarSubPage:
-      return slice(0, start);
-    case QStyle::SC_ScrollBarAddPage:
-      return slice(start + handle, length - start - handle);
-    case QStyle::SC_ScrollBarGroove:
-      return bar.rect;
-    default:
-      return {};
-  }
+// What an option or a check box takes of a wider row: indicator, label and room for the focus.
+QRect OptionArea(const QStyleOptionButton& option) {
+  const int text =
+      option.fontMetrics.size(Qt::TextShowMnemonic, option.text).width() + 2 * kOptionInset;
+  const int width = qMin(option.rect.width(), kIndicatorSide + grid::kBetweenControls + text);
+  return QStyle::visualRect(option.direction, option.rect,
+                            QRect(option.rect.topLeft(), QSize(width, option.rect.height())));
 }
 
 }  // namespace
@@ -147,23 +125,10 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
 
 QRect Style::subElementRect(SubElement element, const QStyleOption* option,
                             const QWidget* widget) const {
-  switch (element) {
-    case SE_RadioButtonFocusRect:
-    case SE_RadioButtonClickRect:
-    case SE_CheckBoxFocusRect:
-    case SE_CheckBoxClickRect:
-      return option->rect;
-    case SE_RadioButtonIndicator:
-    case SE_RadioButtonContents:
-    case SE_CheckBoxIndicator:
-    case SE_CheckBoxContents: {
-      const QRect plain = QProxyStyle::subElementRect(element, option, widget);
-      return plain.translated(option->direction == Qt::RightToLeft ? -kOptionInset : kOptionInset,
-                              0);
-    }
-    default:
-      return QProxyStyle::subElementRect(element, option, widget);
-  }
+  if (element == SE_RadioButtonClickRect || element == SE_CheckBoxClickRect)
+    if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option))
+      return OptionArea(*button);
+  return QProxyStyle::subElementRect(element, option, widget);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -206,6 +171,24 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+// Indicator and label stand clear of the line of the focus, which goes round both.
+void Style::DrawOption(const QStyleOptionButton& option, bool radio, QPainter& painter,
+                       const QWidget* widget) const {
+  const QRect inside = option.rect.adjusted(kOptionInset, 0, -kOptionInset, 0);
+  QStyleOptionButton part = option;
+  part.rect = alignedRect(option.direction, Qt::AlignLeft | Qt::AlignVCenter,
+                          QSize(kIndicatorSide, kIndicatorSide), inside);
+  if (radio)
+    DrawRadioIndicator(part, painter);
+  else
+    DrawCheckBoxIndicator(part, painter);
+  const int offset = kIndicatorSide + grid::kBetweenControls;
+  part.rect = visualRect(option.direction, inside, inside.adjusted(offset, 0, 0, 0));
+  QProxyStyle::drawControl(radio ? CE_RadioButtonLabel : CE_CheckBoxLabel, &part, &painter, widget);
+  part.rect = OptionArea(option);
+  if (option.state.testFlag(State_HasFocus)) DrawFocusLine(part, painter);
+}
+
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                         const QWidget* widget) const {
   switch (element) {
@@ -219,6 +202,11 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
                           header->text);
       }
       return;
+    case CE_RadioButton:
+    case CE_CheckBox:
+      if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option))
+        return DrawOption(*button, element == CE_RadioButton, *painter, widget);
+      break;
     case CE_PushButtonLabel:
       if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
         QStyleOptionButton copy = *button;

@@ -3,6 +3,8 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionButton;
+
 namespace mortane {
 
 // Property of a field whose text was refused; the style draws its red line and ground.
@@ -36,6 +38,8 @@ class Style : public QProxyStyle {
                        SubControl subControl, const QWidget* widget) const override;
 
  private:
+  void DrawOption(const QStyleOptionButton& option, bool radio, QPainter& painter,
+                  const QWidget* widget) const;
   void DrawComboBox(const QStyleOptionComplex& option, QPainter& painter) const;
   void DrawScrollBar(const QStyleOptionComplex& option, QPainter& painter,
                      const QWidget* widget) const;

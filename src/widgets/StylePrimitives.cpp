@@ -161,4 +161,33 @@ void DrawBar(const QStyleOption& option, QPainter& painter, Qt::Edge line) {
                    option.palette.color(QPalette::Active, QPalette::Mid));
 }
 
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
+  const bool horizontal = bar.orientation == Qt::Horizontal;
+  const int length = horizontal ? bar.rect.width() : bar.rect.height();
+  const int range = bar.maximum - bar.minimum;
+  int handle = length;
+  if (range > 0)
+    handle = qBound(
+        qMin(kScrollBarLeastHandle, length),
+        static_cast<int>(qint64{length} * bar.pageStep / (qint64{range} + bar.pageStep)), length);
+  const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
+                                                    length - handle, bar.upsideDown);
+  const auto slice = [&](int from, int size) {
+    return horizontal ? QRect(bar.rect.left() + from, bar.rect.top(), size, bar.rect.height())
+                      : QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), size);
+  };
+  switch (part) {
+    case QStyle::SC_ScrollBarSlider:
+      return slice(start, handle);
+    case QStyle::SC_ScrollBarSubPage:
+      return slice(0, start);
+    case QStyle::SC_ScrollBarAddPage:
+      return slice(start + handle, length - start - handle);
+    case QStyle::SC_ScrollBarGroove:
+      return bar.rect;
+    default:
+      return {};
+  }
+}
+
 }  // namespace mortane

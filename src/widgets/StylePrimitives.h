@@ -1,11 +1,13 @@
 // The plates, frames and indicators that Style draws.
 #pragma once
 
-#include <Qt>
+#include <QRect>
+#include <QStyle>
 
 class QPainter;
 class QStyleOption;
 class QStyleOptionMenuItem;
+class QStyleOptionSlider;
 class QWidget;
 
 namespace mortane {
@@ -18,6 +20,9 @@ void DrawButtonPlate(const QStyleOption& option, QPainter& painter, const QWidge
 void DrawRowGround(const QStyleOption& option, QPainter& painter);
 void DrawFocusLine(const QStyleOption& option, QPainter& painter);
 void DrawToolButtonPlate(const QStyleOption& option, QPainter& painter);
+inline constexpr int kScrollBarLeastHandle = 28;
+// A bar without end buttons: the handle may use its whole length.
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
 void DrawHeaderSection(const QStyleOption& option, QPainter& painter);
 void DrawMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter);
 // Tool bar and status bar: the window's ground with a line towards the middle of the window.
