@@ -25,6 +25,7 @@ class ControllerLibrary;
 }
 class CommandKey;
 class CondenserSettingsCtl;
+class FilterQubeSettingsCtl;
 class ObjectiveSettingsCtl;
 class PageButton;
 class ProgressLine;
@@ -71,6 +72,7 @@ class MortaneMainForm : public QMainWindow {
   QFrame* FrameControl;
   SystemSettingsCtl* SystemSettingsCtl1 = nullptr;
   ObjectiveSettingsCtl* ObjectiveSettingsCtl1 = nullptr;
+  FilterQubeSettingsCtl* FilterQubeSettingsCtl1 = nullptr;
   CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
   QStatusBar* StatusBar1;
   FileQuestion CommonDialog1;

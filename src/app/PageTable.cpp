@@ -5,6 +5,7 @@
 #include "app/MortaneMainForm.h"
 #include "app/SystemSettingsCtl.h"
 #include "condensers/CondenserSettingsCtl.h"
+#include "filters/FilterQubeSettingsCtl.h"
 #include "model/clsK70.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 
@@ -33,7 +34,11 @@ PageTable MainPages() {
          return MakePage(form, form.ObjectiveSettingsCtl1, "ObjectiveSettingsCtl1");
        },
        [](const clsK70& k70) { return k70.IsMounted(accessory::kNosepiece) != kNotMounted; }},
-      {"Filter Cubes", IconName::Cube},
+      {"Filter Cubes", IconName::Cube,
+       [](MortaneMainForm& form) {
+         return MakePage(form, form.FilterQubeSettingsCtl1, "FilterQubeSettingsCtl1");
+       },
+       [](const clsK70& k70) { return k70.IsMounted(accessory::kFilterCube) != kNotMounted; }},
       {"Condensers", IconName::Condenser,
        [](MortaneMainForm& form) {
          return MakePage(form, form.CondenserSettingsCtl1, "CondenserSettingsCtl1");

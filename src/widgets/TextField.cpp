@@ -155,7 +155,8 @@ void TextField::focusOutEvent(QFocusEvent* event) {
     FocusVeto::Start(this);
     return;
   }
-  if (!mark_.isEmpty() && IsBlank(text())) setText(mark_);
+  const bool marked = leftBlank_ == LeftBlank::GetsMark && !mark_.isEmpty();
+  if (marked && IsBlank(text())) setText(mark_);
   emit left();
 }
 

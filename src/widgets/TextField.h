@@ -6,7 +6,7 @@
 
 namespace mortane {
 
-// Leaving runs the validation, then puts the mark back into a blank box, then raises left().
+// Leaving runs the validation, then may put the mark back into a blank box, then raises left().
 // Leaving means moving to another control of the window, edited or not: another window, a popup
 // and the disabling of the window are none.
 class TextField : public QLineEdit {
@@ -18,9 +18,13 @@ class TextField : public QLineEdit {
   // At most that many characters, typed, pasted or set.
   void SetLimit(int characters);
   void setText(const QString& text);
+  enum class LeftBlank { GetsMark, StaysBlank };
   // The dashes that stand for an unnamed item: wiped by the first key that makes a character,
-  // back when the box is left blank.
-  void SetMark(const QString& dashes) { mark_ = dashes; }
+  // and in most boxes back when the box is left blank.
+  void SetMark(const QString& dashes, LeftBlank leftBlank = LeftBlank::GetsMark) {
+    mark_ = dashes;
+    leftBlank_ = leftBlank;
+  }
   // Decides whether the text may stay (and stores it if so). A text that may not is shown refused
   // while complain runs and until the next key; focus and text stay, and what the user clicked
   // does not act.
@@ -46,6 +50,7 @@ class TextField : public QLineEdit {
   void WipeMark();
 
   QString mark_;
+  LeftBlank leftBlank_ = LeftBlank::GetsMark;
   std::function<bool()> accepts_;
   std::function<void()> complain_;
   bool validating_ = false;

@@ -1,0 +1,49 @@
+// The panel that names the nine exciters, dichroics and barriers of the user.
+#pragma once
+
+#include <array>
+
+#include "filters/FilterItemNames.h"
+#include "filters/OptionalFilters.h"
+#include "widgets/Page.h"
+
+class QFrame;
+class QGridLayout;
+class QLabel;
+
+namespace mortane {
+
+class TextField;
+
+// A nameless item shows dashes. They are only a mark, but saving takes them for the name.
+class FilterOptionalItemCtl : public Page {
+  Q_OBJECT
+
+ public:
+  explicit FilterOptionalItemCtl(QWidget* parent = nullptr);
+
+  void LoadData() override;
+  void SaveData() override;
+
+  using Fields = std::array<TextField*, kFilterPositions>;
+
+  QFrame* FrameBase;
+  QLabel* Label1;
+  QLabel* Label2;
+  QLabel* Label3;
+  std::array<QLabel*, kFilterPositions> Label11;
+  Fields TextExciter;
+  Fields TextDichroic;
+  Fields TextBarrier;
+
+ private:
+  struct Column;
+  static const std::array<Column, kFilterItems> kColumns;
+
+  void BuildHeads(QGridLayout& cells);
+  void BuildRow(int row, QGridLayout& cells);
+  TextField* BuildField(const Column& column, int row);
+  void Store(const Column& column, int row);
+};
+
+}  // namespace mortane

@@ -1,0 +1,63 @@
+// The panel that composes the nine cubes of the user, one per tab.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "filters/FilterItemNames.h"
+#include "widgets/Page.h"
+
+class QFrame;
+class QGridLayout;
+class QLabel;
+
+namespace mortane {
+
+class ListBox;
+class TabStrip;
+class TextField;
+class ValueLabel;
+
+// Every accepted entry stores the whole cube on show. So does a new row that loading selects,
+// with the name as shown: dashes for a blank one. An item that no list offers stays as it is.
+class FilterOptionalQubeCtl : public Page {
+  Q_OBJECT
+
+ public:
+  explicit FilterOptionalQubeCtl(QWidget* parent = nullptr);
+
+  void LoadData() override;
+  void SaveData() override { Store(); }
+
+  QFrame* FrameBase;
+  TabStrip* TabOption;
+  QFrame* frm2;
+  QLabel* Label1;
+  TextField* TextName;
+  QLabel* Label2;
+  ValueLabel* LabelExciter;
+  ListBox* ListExciter;
+  QLabel* Label3;
+  ValueLabel* LabelDichroic;
+  ListBox* ListDichroic;
+  QLabel* Label4;
+  ValueLabel* LabelBarrier;
+  ListBox* ListBarrier;
+
+ private:
+  struct Item;
+  static const std::array<Item, kFilterItems> kItems;
+
+  QWidget* BuildName();
+  void BuildList(const Item& item, int column, QGridLayout& cells);
+  // Takes over name and codes; they must be complete before a row is selected, which stores.
+  void ReadCube();
+  void FillList(const Item& item);
+  void SelectItem(const Item& item);
+  std::int32_t& codeOf(const Item& item);
+  void Store();
+
+  std::array<std::int32_t, kFilterItems> codes_{};  // of the cube on show
+};
+
+}  // namespace mortane

@@ -1,0 +1,235 @@
+#include "filters/FilterQubeCtl.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "filters/OptionalFilters.h"
+#include "model/clsK70.h"
+#include "widgets/Card.h"
+#include "widgets/ListBox.h"
+#include "widgets/TabStrip.h"
+#include "widgets/Theme.h"
+#include "widgets/TurretDrawing.h"
+#include "widgets/ValueLabel.h"
+
+namespace mortane {
+namespace {
+
+// A record whose name begins so is a place in the list that holds no cube.
+constexpr std::string_view kDashes = "-------";
+constexpr QChar kSeparator = u'\t';
+constexpr int kCharacters = 10;
+
+// Where the list's columns begin at least, in quarters of a character.
+constexpr std::array kTabStops{64, 128, 192};
+
+// The cubes of the first two rows are those that the observation methods know.
+constexpr int kProtectedRows = 2;
+
+// On turrets of every size this address never shows the first cube.
+constexpr char kAddressOfSecondCube[] = "6";
+
+constexpr char kQuestion[] =
+    "This position is related with Observation Method.\r\nIs Change data on this position?";
+
+QString RowText(std::int32_t code) {
+  std::string name;
+  std::string exciter;
+  std::string dichroic;
+  std::string barrier;
+  GetK70().dbFilter.Get_DbFilter(code, name, exciter, dichroic, barrier);
+  const QStringList parts{QString::fromStdString(name), QString::fromStdString(exciter),
+                          QString::fromStdString(dichroic), QString::fromStdString(barrier)};
+  return parts.join(kSeparator);
+}
+
+TurretItem TurretItemOf(std::int32_t code) {
+  const QString name = RowText(code).section(kSeparator, 0, 0);
+  if (IsBlankName(name) || name.startsWith(QLatin1String(kDashes.data()))) return {};
+  return {name, name, std::nullopt};
+}
+
+}  // namespace
+
+struct FilterQubeCtl::Value {
+  const char* labelName;
+  const char* caption;
+  const char* valueName;
+  QLabel* FilterQubeCtl::*label;
+  ValueLabel* FilterQubeCtl::*value;
+};
+
+const std::array<FilterQubeCtl::Value, 4> FilterQubeCtl::kValues{{
+    {"Label1", "Name", "LabelName", &FilterQubeCtl::Label1, &FilterQubeCtl::LabelName},
+    {"Label2", "Exciter", "LabelExciter", &FilterQubeCtl::Label2, &FilterQubeCtl::LabelExciter},
+    {"Label3", "Dichroic", "LabelDichroic", &FilterQubeCtl::Label3, &FilterQubeCtl::LabelDichroic},
+    {"Label4", "Barrier", "LabelBarrier", &FilterQubeCtl::Label4, &FilterQubeCtl::LabelBarrier},
+}};
+
+FilterQubeCtl::FilterQubeCtl(QWidget* parent) : Page(parent) {
+  auto* card = new Card(QStringLiteral("Set Filter Cube Data to Each Address"), this);
+  FrameBase = card;
+  FrameBase->setObjectName("FrameBase");
+  auto* panel = new QVBoxLayout(this);
+  panel->setContentsMargins({});
+  panel->addWidget(card);
+  TabPocket = new TabStrip(card);
+  TabPocket->setObjectName("TabPocket");
+  TabPocket->setAccessibleName(QStringLiteral("Address"));
+  card->body()->addWidget(TabPocket);
+  card->body()->addWidget(BuildList(card), 1);
+  card->body()->addWidget(BuildPlate(card));
+
+  connect(TabPocket, &TabStrip::clicked, this, &FilterQubeCtl::ClickTab);
+  connect(List1, &ListBox::clicked, this, &FilterQubeCtl::ClickList);
+  connect(turret_, &TurretDrawing::clicked, this, [this](int index) {
+    TabPocket->setIndex(index);
+    ClickTab();
+  });
+}
+
+QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
+  auto* ground = new QWidget(parent);
+  auto* row = new QHBoxLayout(ground);
+  row->setContentsMargins({});
+  row->setSpacing(grid::kBetweenColumns);
+  turret_ = new TurretDrawing(PlaceKind::Cubes, ground);
+  turret_->setObjectName("turret");
+  List1 = new ListBox(ground);
+  List1->setObjectName("List1");
+  List1->setAccessibleName(QStringLiteral("Filter Cubes"));
+  QVector<ListColumn> columns;
+  for (const Value& value : kValues) columns.append({QLatin1String(value.caption)});
+  List1->SetColumns(columns);
+  row->addWidget(turret_);
+  row->addWidget(List1, 1);
+  return ground;
+}
+
+QFrame* FilterQubeCtl::BuildPlate(QWidget* parent) {
+  auto* plate = new InnerFrame({}, parent);
+  Frm1 = plate;
+  Frm1->setObjectName("Frm1");
+  auto* cells = new QGridLayout;
+  cells->setHorizontalSpacing(grid::kBetweenColumns);
+  cells->setVerticalSpacing(grid::kUnit);
+  int column = 0;
+  for (const Value& value : kValues) {
+    QLabel* label = CaptionLabel(QLatin1String(value.caption), plate);
+    label->setObjectName(QLatin1String(value.labelName));
+    auto* shown = new ValueLabel(plate);
+    shown->setObjectName(QLatin1String(value.valueName));
+    shown->setAccessibleName(QLatin1String(value.caption));
+    shown->SetCharacters(kCharacters);
+    cells->addWidget(label, 0, column);
+    cells->addWidget(shown, 1, column);
+    cells->setColumnStretch(column, 1);
+    this->*value.label = label;
+    this->*value.value = shown;
+    ++column;
+  }
+  plate->body()->addLayout(cells);
+  return plate;
+}
+
+void FilterQubeCtl::showEvent(QShowEvent* event) {
+  if (!shownBefore_) List1->SetTabStops({kTabStops.begin(), kTabStops.end()});
+  shownBefore_ = true;
+  Page::showEvent(event);
+}
+
+std::int32_t FilterQubeCtl::address() const {
+  return TabPocket->caption().toInt();
+}
+
+std::int32_t FilterQubeCtl::mounted() const {
+  return GetK70().curFilter.code(address());
+}
+
+void FilterQubeCtl::LoadData() {
+  const clsFilter& turret = GetK70().curFilter;
+  QStringList captions;
+  for (std::int32_t i = 1; i <= turret.Count; ++i) captions.append(QString::number(i));
+  TabPocket->SetTabs(captions);
+  UpdateTurret();
+  List1->clearRows();
+  if (turret.Count >= 1) List1->setIndex(FillList(mounted()));
+  ShowParts(List1->index());
+}
+
+// A fixed cube is selected by its code and not by its row. Behind a record that is not listed this
+// selects, and so mounts, another cube; the row is known only when all of them are there.
+int FilterQubeCtl::FillList(std::int32_t mounted) {
+  const clsDbFilter& database = GetK70().dbFilter;
+  int selected = -1;
+  const std::int32_t highest = HighestFixedCode(&controller::AccessoryDatabase::FilterCubeCount);
+  for (std::int32_t code = 0; code <= highest; ++code) {
+    if (database.Name(code).starts_with(kDashes)) continue;
+    AddCube(code);
+    if (code == mounted) selected = code;
+  }
+  for (std::int32_t code = kFirstOptionalFilter; code <= kLastOptionalFilter; ++code) {
+    const std::string name = database.Name(code);
+    if (name.starts_with(kDashes) || IsBlankName(QString::fromStdString(name))) continue;
+    AddCube(code);
+    if (code == mounted) selected = List1->rowCount() - 1;
+  }
+  return selected;
+}
+
+void FilterQubeCtl::AddCube(std::int32_t code) {
+  List1->addRow(RowText(code), code);
+}
+
+int FilterQubeCtl::RowOf(std::int32_t code) const {
+  for (int row = 0; row < List1->rowCount(); ++row) {
+    if (List1->data(row).toInt() == code) return row;
+  }
+  return -1;
+}
+
+// A mounted cube that is not listed leaves the row of the tab before.
+void FilterQubeCtl::ClickTab() {
+  turret_->setIndex(TabPocket->index());
+  if (const int row = RowOf(mounted()); row >= 0) List1->setIndex(row);
+  const bool avoidsFirst = TabPocket->caption() == QLatin1String(kAddressOfSecondCube);
+  if (avoidsFirst && List1->index() == 0 && List1->rowCount() > 1) List1->setIndex(1);
+  ShowParts(List1->index());
+}
+
+void FilterQubeCtl::ClickList(int row) {
+  if (LeavesProtectedCube(row) &&
+      GetK70().prompts().MsgBox(kQuestion, box::kYesNo, "Warning") != Answer::Yes) {
+    ClickTab();
+    return;
+  }
+  ShowAndStore(row);
+}
+
+bool FilterQubeCtl::LeavesProtectedCube(int row) const {
+  if (address() != GetK70().curFilter.Count || row < kProtectedRows) return false;
+  const int from = RowOf(mounted());
+  return from >= 0 && from < kProtectedRows;
+}
+
+void FilterQubeCtl::ShowAndStore(int row) {
+  ShowParts(row);
+  GetK70().curFilter.code(address(), List1->data(row).toInt());
+  turret_->SetItem(TabPocket->index(), TurretItemOf(mounted()));
+}
+
+void FilterQubeCtl::ShowParts(int row) {
+  const QStringList parts = List1->text(row).split(kSeparator);
+  int part = 0;
+  for (const Value& value : kValues) (this->*value.value)->setText(parts.value(part++));
+}
+
+void FilterQubeCtl::UpdateTurret() {
+  const clsFilter& turret = GetK70().curFilter;
+  QVector<TurretItem> items;
+  for (std::int32_t i = 1; i <= turret.Count; ++i) items.append(TurretItemOf(turret.code(i)));
+  turret_->SetItems(items);
+}
+
+}  // namespace mortane

@@ -1,0 +1,72 @@
+// The panel that assigns a cube to each address of the filter turret.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <cstdint>
+
+#include "widgets/Page.h"
+
+class QFrame;
+class QLabel;
+
+namespace mortane {
+
+class ListBox;
+class TabStrip;
+class TurretDrawing;
+class ValueLabel;
+struct TurretItem;
+
+// Every selection in the list mounts that cube, also one that the program makes. The observation
+// methods rely on the last address holding one of the first two cubes, so a change away from them
+// is asked about.
+class FilterQubeCtl : public Page {
+  Q_OBJECT
+
+ public:
+  explicit FilterQubeCtl(QWidget* parent = nullptr);
+
+  void LoadData() override;
+  void SaveData() override {}  // every choice is in the model already
+
+  QFrame* FrameBase;
+  TabStrip* TabPocket;
+  ListBox* List1;
+  QFrame* Frm1;
+  QLabel* Label1;
+  QLabel* Label2;
+  QLabel* Label3;
+  QLabel* Label4;
+  ValueLabel* LabelName;
+  ValueLabel* LabelExciter;
+  ValueLabel* LabelDichroic;
+  ValueLabel* LabelBarrier;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  struct Value;
+  static const std::array<Value, 4> kValues;
+
+  QWidget* BuildList(QWidget* parent);
+  QFrame* BuildPlate(QWidget* parent);
+  // The row to select for a mounted code; -1 when there is none.
+  int FillList(std::int32_t mounted);
+  void AddCube(std::int32_t code);
+  int RowOf(std::int32_t code) const;
+  void ClickTab();
+  void ClickList(int row);
+  bool LeavesProtectedCube(int row) const;
+  void ShowAndStore(int row);
+  void ShowParts(int row);
+  std::int32_t address() const;  // of the selected tab; 0 without one
+  std::int32_t mounted() const;
+  void UpdateTurret();
+
+  TurretDrawing* turret_ = nullptr;
+  bool shownBefore_ = false;
+};
+
+}  // namespace mortane
