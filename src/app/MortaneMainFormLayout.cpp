@@ -47,9 +47,10 @@ MortaneMainForm::MortaneMainForm(MainFormServices services, const PageTable& pag
   setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
   BuildMenus();
   BuildToolbar();
+  // The Tab key goes by the order of making: page buttons, page, command keys.
   BuildRail(pages);
-  BuildCommandBar();
   BuildPages(pages);
+  BuildCommandBar();
   BuildStatusBar();
   Arrange();
 }

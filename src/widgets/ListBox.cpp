@@ -156,7 +156,6 @@ void ListBox::SelectQuietly(int row) {
     return;
   }
   setCurrentItem(item);
-  item->setSelected(true);  // also after a click with the control key has taken it back
   scrollToItem(item);
 }
 
@@ -206,6 +205,16 @@ void ListBox::focusInEvent(QFocusEvent* event) {
 void ListBox::focusOutEvent(QFocusEvent* event) {
   QTreeWidget::focusOutEvent(event);
   update();
+}
+
+// A click with the control key would take the selection back.
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
+                                                              const QEvent* event) const {
+  QItemSelectionModel::SelectionFlags flags = QTreeWidget::selectionCommand(index, event);
+  if (index.isValid() && flags.testFlag(QItemSelectionModel::Deselect)) {
+    flags = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+  }
+  return flags;
 }
 
 QSize ListBox::sizeHint() const {

@@ -58,6 +58,8 @@ class ListBox : public QTreeWidget {
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   [[nodiscard]] QSize sizeHint() const override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
   [[nodiscard]] int sizeHintForColumn(int column) const override;
 
   void SelectQuietly(int row);

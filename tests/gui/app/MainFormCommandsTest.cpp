@@ -543,31 +543,46 @@ TEST(Select, ThatCannotConnectStopsAndLeavesTheControlsAsTheyWere) {
 
 using CommandRow = QAction* MortaneMainForm::*;
 
-// Each controller call that a command makes fails in turn.
+// Each controller call that the model makes for a command fails in turn, and none of them unseen.
 TEST(Commands, SurviveAFailureOfEachControllerCallInTurn) {
   for (const CommandRow command :
        {&MortaneMainForm::MenuConnectReceive, &MortaneMainForm::MenuConnectSend}) {
-    AppRig rig(benches::Named("Harbour"));
-    rig.Start();
-    rig.prompts.AcceptAnyBox();
+    CommandRig rig;
+    rig.app.prompts.AcceptAnyBox();
     const auto run = [&](std::size_t failing) {
       GetK70().SystemName = "call " + std::to_string(failing);
-      rig.faults.Clear();
-      if (failing > 0) rig.faults.FailCall(failing);
-      rig.prompts.ClearRecords();
-      const std::size_t before = rig.journal.CallCount();
-      (rig.form.get()->*command)->trigger();
-      EXPECT_EQ(rig.prompts.PointerBalance(), 0) << failing;
-      EXPECT_TRUE(rig.form->isEnabled()) << failing;
-      EXPECT_EQ(Calls(rig.prompts).back(), "flush") << failing;
-      return rig.journal.CallCount() - before;
+      rig.app.faults.Clear();
+      if (failing > 0) rig.app.faults.FailCall(failing);
+      rig.app.prompts.ClearRecords();
+      const std::size_t before = rig.app.journal.CallCount();
+      (rig.form().*command)->trigger();
+      EXPECT_EQ(rig.app.prompts.PointerBalance(), 0) << failing;
+      EXPECT_TRUE(rig.form().isEnabled()) << failing;
+      EXPECT_EQ(Calls(rig.app.prompts).back(), "flush") << failing;
+      return rig.app.journal.CallCount() - before;
     };
     const std::size_t calls = run(0);
     ASSERT_GT(calls, 0U);
     for (std::size_t k = 1; k <= calls; ++k) {
       run(k);
-      EXPECT_FALSE(rig.prompts.Boxes().empty()) << "call " << k << " failed unseen";
+      EXPECT_FALSE(rig.app.prompts.Boxes().empty()) << "call " << k << " failed unseen";
     }
+  }
+}
+
+// Pages ask the controller too; they do without an answer.
+TEST(Commands, SurviveAFailureOfWhatThePagesAsk) {
+  AppRig rig(benches::Named("Harbour"));
+  rig.Start();
+  rig.prompts.AcceptAnyBox();
+  rig.form->MenuConnectReceive->trigger();
+  const std::size_t calls = rig.journal.CallCount();
+  for (std::size_t k = 1; k <= calls; k += 23) {
+    rig.faults.Clear();
+    rig.faults.FailCall(k);
+    rig.form->MenuConnectReceive->trigger();
+    EXPECT_EQ(rig.prompts.PointerBalance(), 0) << k;
+    EXPECT_EQ(Calls(rig.prompts).back(), "flush") << k;
   }
 }
 

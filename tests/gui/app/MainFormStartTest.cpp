@@ -281,6 +281,21 @@ TEST(PageButtons, ByKeyMoveTheFocusWithArrowsAndSelectWithSpace) {
   EXPECT_TRUE(rig.form->optMenu[1]->isChecked());
 }
 
+TEST(TabKey, GoesFromThePageButtonThroughThePageToTheCommandKeys) {
+  AppRig rig(benches::Named("Harbour"));
+  rig.Start();
+  rig.form->activateWindow();
+  rig.form->ImageButton[0]->setFocus();
+  const std::vector<std::string> stops{"TextSystemName", "TextAccessories", "ImageCommand_0",
+                                       "ImageCommand_1", "ImageCommand_2",  "ImageCommand_3",
+                                       "ImageButton_0"};
+  for (const std::string& stop : stops) {
+    QTest::keyClick(rig.form.get(), Qt::Key_Tab);
+    ASSERT_NE(rig.form->focusWidget(), nullptr);
+    EXPECT_EQ(rig.form->focusWidget()->objectName().toStdString(), stop);
+  }
+}
+
 // Two programs on one device: what the second one says, and that it ends.
 TEST(TwoCopies, TheSecondOneIsRefused) {
   AppRig second(benches::Named("Harbour"));
