@@ -1,0 +1,157 @@
+#!/bin/bash
+# The tour: starts the program on the simulated microscope under a virtual display, goes through
+# its pages by keyboard and mouse, and leaves a picture of each in a folder, in both palettes and
+# at 100 % and 200 %:
+# tools/tour.sh PROGRAM FOLDER
+# The palette is asked of the program by MORTANE_SCHEME, which stands in for the system's.
+set -euo pipefail
+
+program="$1"
+folder="$2"
+width=1152
+height=740
+
+fail() {
+  echo "tour: $1" >&2
+  exit 1
+}
+
+work="$(mktemp -d)"
+server=
+guest=
+cleanup() {
+  [[ -z "$guest" ]] || kill "$guest" 2>/dev/null || true
+  [[ -z "$server" ]] || kill "$server" 2>/dev/null || true
+  wait
+  rm -rf "$work"
+}
+trap cleanup EXIT
+
+# The server chooses a free display and tells its number.
+start_server() {
+  Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp 3>"$work/display" >/dev/null 2>&1 &
+  server=$!
+  for _ in {1..100}; do
+    [[ ! -s "$work/display" ]] || break
+    sleep 0.1
+  done
+  [[ -s "$work/display" ]] || fail "no virtual display"
+  DISPLAY=":$(<"$work/display")"
+  export DISPLAY
+}
+
+# Windows of the program that are on the display.
+windows() {
+  xdotool search --onlyvisible --name '^Mortane$' 2>/dev/null || true
+}
+
+# Waits for that many windows. The smallest one, a box where there is one, goes into `box`, the
+# largest one into `main`.
+await_windows() {
+  local found
+  for _ in {1..100}; do
+    mapfile -t found < <(windows)
+    if [[ ${#found[@]} -eq "$1" ]]; then
+      mapfile -t found < <(for window in "${found[@]}"; do
+        xdotool getwindowgeometry --shell "$window" |
+          awk -F= -v id="$window" '/^(WIDTH|HEIGHT)/ {n = n ? n * $2 : $2} END {print n, id}'
+      done | sort -n | cut -d' ' -f2)
+      box="${found[0]}"
+      main="${found[-1]}"
+      return 0
+    fi
+    kill -0 "$guest" 2>/dev/null || fail "the program has ended: $(<"$work/errors")"
+    sleep 0.1
+  done
+  fail "${#found[@]} windows instead of $1"
+}
+
+# The window as it stands once two pictures in a row are the same.
+take_picture() {
+  local last="" now=""
+  for _ in {1..50}; do
+    import -window "$main" "png24:$1"
+    now="$(convert "$1" rgb:- | cksum)"
+    [[ "$now" != "$last" ]] || break
+    last="$now"
+    sleep 0.1
+  done
+}
+
+# A sum over a part of a picture; the part is given at 100 %.
+part() {
+  convert "$1" -crop \
+    "$(($2 * percent / 100))x$(($3 * percent / 100))+$(($4 * percent / 100))+$(($5 * percent / 100))" \
+    rgb:- | cksum
+}
+
+# What stands beside a page's title changes only with the page and its section, the strip of page
+# buttons only with the page.
+header() { part "$1" "$width" 30 0 76; }
+rail() { part "$1" 100 640 0 64; }
+
+# Pictures of the sections of the page on show but the first. The bar of sections follows the page
+# buttons, and its arrows choose; a page without one only moves its cursor.
+tour_sections() {
+  local first before now section=1
+  xdotool key Tab
+  take_picture "$work/section.png"
+  first="$(header "$work/section.png")"
+  before="$first"
+  while true; do
+    xdotool key Right
+    sleep 0.2
+    take_picture "$work/section.png"
+    now="$(header "$work/section.png")"
+    [[ "$now" != "$before" && "$now" != "$first" ]] || break
+    before="$now"
+    section=$((section + 1))
+    cp "$work/section.png" "$out/$number-$section.png"
+  done
+  xdotool key shift+Tab
+  sleep 0.2
+  take_picture "$work/section.png"
+}
+
+tour() {
+  local scheme="$1" percent="$2" out="$folder/$1-$2" number=1
+  mkdir -p "$out"
+  MORTANE_SCHEME="$scheme" QT_SCALE_FACTOR="$((percent / 100))" QT_QPA_PLATFORM=xcb \
+    "$program" /SIM 2>"$work/errors" &
+  guest=$!
+
+  # The window, and over it the box that tells of the simulation.
+  await_windows 2
+  xdotool windowfocus --sync "$box" key Return
+  await_windows 1
+
+  # From the first page button on, the arrow goes to the next one that can be used.
+  xdotool windowfocus --sync "$main" mousemove --window "$main" \
+    "$((52 * percent / 100))" "$((100 * percent / 100))" click 1 mousemove --window "$main" 0 0
+  take_picture "$out/1.png"
+  while true; do
+    tour_sections
+    xdotool key Down key space
+    sleep 0.2
+    take_picture "$work/page.png"
+    [[ "$(rail "$work/page.png")" != "$(rail "$work/section.png")" ]] || break
+    number=$((number + 1))
+    cp "$work/page.png" "$out/$number.png"
+  done
+
+  # Out by the menu, as a person leaves.
+  xdotool key alt+f key x
+  await_windows 2
+  xdotool windowfocus --sync "$box" key Return
+  wait "$guest" || fail "the program ended with $?: $(<"$work/errors")"
+  guest=
+  echo "tour: $number pages in $out"
+}
+
+# Room for the window without its being made smaller to fit, at the largest scale.
+start_server "$((width * 5 / 2))" "$((height * 5 / 2))"
+for scheme in light dark; do
+  for percent in 100 200; do
+    tour "$scheme" "$percent"
+  done
+done
