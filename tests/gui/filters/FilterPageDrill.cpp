@@ -1,0 +1,212 @@
+// The drill of the filter pages.
+#include "filters/FilterOptionalItemCtl.h"
+#include "filters/FilterOptionalQubeCtl.h"
+#include "filters/FilterQubeCtl.h"
+#include "filters/FilterQubeSettingsCtl.h"
+#include "gui/support/PageActs.h"
+#include "gui/support/PageDrill.h"
+
+namespace mortane::test {
+namespace {
+
+std::string Numbered(const char* array, int index) {
+  return std::string(array) + "_" + std::to_string(index);
+}
+
+template <int Address>
+std::string CodeAt(clsK70& k70) {
+  return std::to_string(k70.curFilter.code(Address));
+}
+
+template <int Code>
+void Mount(clsK70& k70) {
+  k70.curFilter.code(1, Code);
+}
+
+void Unfit(Bench& bench) {
+  bench.instruments.back().Accessory(accessory::kFilterCube) = {};
+}
+
+PageDrillData Turret() {
+  PageDrillData data;
+  data.name = "Turret";
+  data.bench = "Harbour";
+  data.make = [] { return new FilterQubeCtl; };
+  data.controls = {
+      {"FrameBase", "Set Filter Cube Data to Each Address"},
+      {"Frm1", ""},
+      {"Label1", "Name"},
+      {"Label2", "Exciter"},
+      {"Label3", "Dichroic"},
+      {"Label4", "Barrier"},
+      {"LabelName", "UV Blue"},
+      {"LabelExciter", "365/10"},
+      {"LabelDichroic", "DM 400"},
+      {"LabelBarrier", "460/50"},
+  };
+  data.shown = {
+      {"LabelName", Mount<5>, CodeAt<1>, "Green"},
+      {"LabelExciter", Mount<5>, CodeAt<1>, "470/40"},
+      {"LabelDichroic", Mount<5>, CodeAt<1>, "DM 495"},
+      {"LabelBarrier", Mount<5>, CodeAt<1>, "525/50"},
+      {"List1", Mount<10>, CodeAt<1>, "Far red\t620/60\tDM 660\t700/75"},
+      {"List1", Mount<241>, CodeAt<1>, "Ratio\t387/11\tDM 495\t525/50"},
+      {"LabelExciter", Mount<241>, CodeAt<1>, "387/11"},
+      {"List1", Mount<1>, CodeAt<1>, "Empty\t\t\t"},
+      {"List1", Mount<0>, CodeAt<1>, "\t\t\t"},
+      {"LabelName", Mount<0>, CodeAt<1>, ""},
+      {"List1", Mount<242>, CodeAt<1>, ""},
+      {"LabelName", Mount<100>, CodeAt<1>, ""},
+      {"TabPocket", Mount<5>, CodeAt<1>, "1"},
+  };
+  data.edits = {
+      {"List1", "Violet\t405/20\tDM 430\t480/40", CodeAt<1>, "3"},
+      {"List1", "\t\t\t", CodeAt<1>, "0"},
+      {"List1", "Ratio\t387/11\tDM 495\t525/50", CodeAt<1>, "241"},
+  };
+  data.tabOrder = {"TabPocket", "place_1", "List1"};
+  return data;
+}
+
+std::string FirstCube(clsK70& k70) {
+  std::string name;
+  std::int32_t exciter = 0;
+  std::int32_t dichroic = 0;
+  std::int32_t barrier = 0;
+  k70.dbFilter.Get_DbFilterOption(1, name, exciter, dichroic, barrier);
+  return name + "," + std::to_string(exciter) + "," + std::to_string(dichroic) + "," +
+         std::to_string(barrier);
+}
+
+std::function<void(clsK70&)> Put(const char* name, int exciter, int dichroic, int barrier) {
+  return [=](clsK70& k70) { k70.dbFilter.Set_DbFilterOption(1, name, exciter, dichroic, barrier); };
+}
+
+PageDrillData OptionalCube() {
+  PageDrillData data;
+  data.name = "OptionalCube";
+  data.bench = "Harbour";
+  data.make = [] { return new FilterOptionalQubeCtl; };
+  data.controls = {
+      {"FrameBase", "Add Optional Filter Cube Data to the List"},
+      {"frm2", ""},
+      {"Label1", "Name"},
+      {"Label2", "Exciter"},
+      {"Label3", "Dichroic"},
+      {"Label4", "Barrier"},
+      {"LabelExciter", "387/11"},
+      {"LabelDichroic", "DM 495"},
+      {"LabelBarrier", "525/50"},
+      {"ListExciter", "Exciter"},
+      {"ListDichroic", "Dichroic"},
+      {"ListBarrier", "Barrier"},
+  };
+  data.shown = {
+      {"TextName", Put("Two", 1, 2, 3), FirstCube, "Two"},
+      {"TextName", Put("----------", 1, 2, 3), FirstCube, "----------"},
+      {"LabelExciter", Put("Two", 1, 2, 3), FirstCube, "340/26"},
+      {"LabelDichroic", Put("Two", 1, 2, 3), FirstCube, "DM 430"},
+      {"LabelBarrier", Put("Two", 1, 2, 3), FirstCube, "480/40"},
+      {"ListExciter", Put("Two", 242, 2, 3), FirstCube, "488/6"},
+      {"ListDichroic", Put("Two", 1, 241, 3), FirstCube, "DM 409"},
+      {"ListBarrier", Put("Two", 1, 2, 241), FirstCube, "Quad"},
+      {"ListBarrier", Put("Two", 1, 2, 0), FirstCube, ""},
+      {"LabelBarrier", Put("Two", 1, 2, 249), FirstCube, ""},
+      {"TabOption", Put("Two", 1, 2, 3), FirstCube, "1"},
+  };
+  data.edits = {
+      {"TextName", "Two", FirstCube, "Two,241,4,5"},
+      {"TextName", "Eleven char", FirstCube, "Eleven cha,241,4,5"},
+      {"TextName", "", FirstCube, ",241,4,5"},
+      {"ListExciter", "488/6", FirstCube, "Ratio,242,4,5"},
+      {"ListExciter", "", FirstCube, "Ratio,0,4,5"},
+      {"ListDichroic", "DM 409", FirstCube, "Ratio,241,241,5"},
+      {"ListBarrier", "LP 420", FirstCube, "Ratio,241,4,1"},
+  };
+  data.tabOrder = {"TabOption", "TextName", "ListExciter", "ListDichroic", "ListBarrier"};
+  return data;
+}
+
+template <FilterItem kItem>
+std::function<std::string(clsK70&)> NameOf(FilterItemNames<kItem> clsK70::*list, int code) {
+  return [=](clsK70& k70) { return (k70.*list).Name(code); };
+}
+
+template <FilterItem kItem>
+std::function<void(clsK70&)> PutName(FilterItemNames<kItem> clsK70::*list, int code,
+                                     const char* name) {
+  return [=](clsK70& k70) { (k70.*list).Name(code, name); };
+}
+
+PageDrillData OptionalItem() {
+  PageDrillData data;
+  data.name = "OptionalItem";
+  data.bench = "Harbour";
+  data.make = [] { return new FilterOptionalItemCtl; };
+  data.controls = {{"FrameBase", "Add Optional Filter Data "},
+                   {"Label1", "Exciter"},
+                   {"Label2", "Dichroic"},
+                   {"Label3", "Barrier"}};
+  for (int row = 0; row < 9; ++row) {
+    const std::string number = std::to_string(row + 1);
+    data.controls.push_back({Numbered("Label11", row), number});
+    for (const char* kind : {"Exciter", "Dichroic", "Barrier"}) {
+      const std::string field = Numbered((std::string("Text") + kind).c_str(), row);
+      data.controls.push_back({field, std::string(kind) + " " + number});
+      data.tabOrder.push_back(field);
+    }
+  }
+  data.shown = {
+      {"TextExciter_0", PutName(&clsK70::Exciter, 241, "Ex"), NameOf(&clsK70::Exciter, 241), "Ex"},
+      {"TextDichroic_3", PutName(&clsK70::Dichroic, 244, " Di "), NameOf(&clsK70::Dichroic, 244),
+       " Di "},
+      {"TextBarrier_8", PutName(&clsK70::Barrier, 249, "Ba"), NameOf(&clsK70::Barrier, 249), "Ba"},
+      {"TextExciter_1", PutName(&clsK70::Exciter, 242, ""), NameOf(&clsK70::Exciter, 242),
+       "----------"},
+      {"TextDichroic_1", PutName(&clsK70::Dichroic, 242, "   "), NameOf(&clsK70::Dichroic, 242),
+       "----------"},
+      {"TextBarrier_1", PutName(&clsK70::Barrier, 242, "---------"), NameOf(&clsK70::Barrier, 242),
+       "---------"},
+  };
+  data.edits = {
+      {"TextExciter_0", "Ex", NameOf(&clsK70::Exciter, 241), "Ex"},
+      {"TextExciter_8", "Ten chars.", NameOf(&clsK70::Exciter, 249), "Ten chars."},
+      {"TextDichroic_4", "Eleven char", NameOf(&clsK70::Dichroic, 245), "Eleven cha"},
+      {"TextBarrier_0", "", NameOf(&clsK70::Barrier, 241), ""},
+      {"TextBarrier_7", " Ba", NameOf(&clsK70::Barrier, 248), " Ba"},
+  };
+  return data;
+}
+
+PageDrillData Settings() {
+  PageDrillData data;
+  data.name = "Settings";
+  data.bench = "Harbour";
+  data.make = [] { return new FilterQubeSettingsCtl; };
+  data.controls = {
+      {"Header", ""},
+      {"optFilterSetting_0", "Filter Cube"},
+      {"optFilterSetting_1", "Optional Cube"},
+      {"optFilterSetting_2", "Optional Item"},
+      {"FilterQubeCtl1", ""},
+      {"FilterOptionalQubeCtl1", ""},
+      {"FilterOptionalItemCtl1", ""},
+  };
+  data.shown = {{"List1", Mount<10>, CodeAt<1>, "Far red\t620/60\tDM 660\t700/75"}};
+  data.edits = {{"List1", "Violet\t405/20\tDM 430\t480/40", CodeAt<1>, "3"}};
+  data.enabling = {
+      {"optFilterSetting_0", "Harbour", {}, true},
+      {"optFilterSetting_0", "Harbour", Unfit, false},
+      {"optFilterSetting_1", "Harbour", Unfit, true},
+      {"optFilterSetting_2", "Harbour", Unfit, true},
+  };
+  data.tabOrder = {"optFilterSetting_0", "TabPocket", "place_1", "List1"};
+  return data;
+}
+
+INSTANTIATE_TEST_SUITE_P(Filters, PageDrill,
+                         testing::Values(Turret(), OptionalCube(), OptionalItem(), Settings()),
+                         PageDrillName);
+
+}  // namespace
+}  // namespace mortane::test
