@@ -92,10 +92,17 @@ bool IsBlank(const QString& text) {
 TextField::TextField(QWidget* parent) : QLineEdit(parent) {
   setTextMargins(kTextMargin, 0, kTextMargin, 0);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  connect(this, &QLineEdit::textChanged, this, [this] { ColourText(); });
 }
 
 void TextField::SetLimit(int characters) {
   setValidator(new TextValidator(characters, this));
+}
+
+void TextField::SetMark(const QString& dashes, LeftBlank leftBlank) {
+  mark_ = dashes;
+  leftBlank_ = leftBlank;
+  ColourText();
 }
 
 void TextField::setText(const QString& text) {
@@ -176,7 +183,17 @@ void TextField::SetRefused(bool refused) {
 }
 
 void TextField::WipeMark() {
-  if (!mark_.isEmpty() && text() == mark_) clear();
+  if (ShowsMark()) clear();
+}
+
+void TextField::ColourText() {
+  QPalette own;
+  if (ShowsMark()) {
+    const QColor dim = QApplication::palette().color(QPalette::PlaceholderText);
+    own.setColor(QPalette::Active, QPalette::Text, dim);
+    own.setColor(QPalette::Inactive, QPalette::Text, dim);
+  }
+  setPalette(own);
 }
 
 }  // namespace mortane

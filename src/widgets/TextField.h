@@ -20,11 +20,8 @@ class TextField : public QLineEdit {
   void setText(const QString& text);
   enum class LeftBlank { GetsMark, StaysBlank };
   // The dashes that stand for an unnamed item: wiped by the first key that makes a character,
-  // and in most boxes back when the box is left blank.
-  void SetMark(const QString& dashes, LeftBlank leftBlank = LeftBlank::GetsMark) {
-    mark_ = dashes;
-    leftBlank_ = leftBlank;
-  }
+  // and in most boxes back when the box is left blank. They show in the colour of captions.
+  void SetMark(const QString& dashes, LeftBlank leftBlank = LeftBlank::GetsMark);
   // Decides whether the text may stay (and stores it if so). A text that may not is shown refused
   // while complain runs and until the next key; focus and text stay, and what the user clicked
   // does not act.
@@ -47,7 +44,9 @@ class TextField : public QLineEdit {
  private:
   [[nodiscard]] bool IsLeaving(Qt::FocusReason reason) const;
   void SetRefused(bool refused);
+  [[nodiscard]] bool ShowsMark() const { return !mark_.isEmpty() && text() == mark_; }
   void WipeMark();
+  void ColourText();
 
   QString mark_;
   LeftBlank leftBlank_ = LeftBlank::GetsMark;

@@ -161,5 +161,22 @@ TEST_F(TextFieldTest, AReadOnlyFieldKeepsItsMark) {
   EXPECT_EQ(field->text(), kDashes);
 }
 
+TEST_F(TextFieldTest, TheMarkShowsInTheColourOfCaptionsAndATextDoesNot) {
+  const QPalette usual = QApplication::palette();
+  field->setText(kDashes);
+  const auto color = [this] { return field->palette().color(QPalette::Active, QPalette::Text); };
+  EXPECT_EQ(color(), usual.color(QPalette::Text)) << "no mark yet";
+  field->SetMark(kDashes);
+  EXPECT_EQ(color(), usual.color(QPalette::PlaceholderText));
+  EXPECT_EQ(field->palette().color(QPalette::Disabled, QPalette::Text),
+            usual.color(QPalette::Disabled, QPalette::Text));
+  QTest::keyClick(field, Qt::Key_A);
+  EXPECT_EQ(color(), usual.color(QPalette::Text));
+  field->setText("---------");
+  EXPECT_EQ(color(), usual.color(QPalette::Text));
+  field->setText(kDashes);
+  EXPECT_EQ(color(), usual.color(QPalette::PlaceholderText));
+}
+
 }  // namespace
 }  // namespace mortane
