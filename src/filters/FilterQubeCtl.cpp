@@ -230,6 +230,7 @@ void FilterQubeCtl::UpdateTurret() {
   QVector<TurretItem> items;
   for (std::int32_t i = 1; i <= turret.Count; ++i) items.append(TurretItemOf(turret.code(i)));
   turret_->SetItems(items);
+  turret_->setIndex(TabPocket->index());
 }
 
 }  // namespace mortane

@@ -195,6 +195,7 @@ TEST_F(CubePage, LoadingGoesBackToTheFirstTab) {
   page.LoadData();
   EXPECT_EQ(page.TabPocket->caption(), "1");
   EXPECT_EQ(parts().front(), "UV Blue");
+  EXPECT_EQ(rig.Find<TurretDrawing>("turret").index(), 0);
 }
 
 TEST_F(CubePage, ArrowKeysInTheListMountToo) {
@@ -216,6 +217,7 @@ TEST_F(CubePage, AClickOnAPlaceIsAClickOnItsTab) {
 TEST_F(CubePage, ThePlacesAgreeWithTheListAtAllTimes) {
   auto& turret = rig.Find<TurretDrawing>("turret");
   ASSERT_EQ(turret.count(), 6);
+  EXPECT_EQ(turret.index(), 0);
   EXPECT_EQ(turret.place(0)->accessibleName(), "Address 1, UV Blue");
   EXPECT_EQ(turret.place(5)->accessibleName(), "Address 6, Empty");
   ClickRow(*page.List1, 4);
