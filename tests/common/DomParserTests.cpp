@@ -5,6 +5,7 @@
 #include <string>
 
 #include "common/Dom.h"
+#include "platform/AtomicFile.h"
 #include "support/TempFolder.h"
 
 namespace mortane {
@@ -205,7 +206,8 @@ TEST(Load, RefusesAFileOfMoreThanSixtyFourMebibytes) {
 
 TEST(Load, ForgetsTheContentOfTheFileBefore) {
   const test::TempFolder folder;
-  const std::string good = folder.Write("good \xC3\xA9.xml", "<Setup/>");
+  const std::string good = folder.Path("good \xC3\xA9.xml");
+  WriteFileAtomically(good, "<Setup/>");
   DomDocument document;
   ASSERT_TRUE(document.Load(good)) << document.Problem();
   EXPECT_EQ(document.Children().size(), 1U);

@@ -220,7 +220,8 @@ TEST(DomDocument, RaisesAFailureWhenTheFolderIsMissing) {
     SmallDocument().Save(path);
     ADD_FAILURE() << "nothing was raised";
   } catch (const Failure& failure) {
-    EXPECT_EQ(failure.Description(), "Cannot write " + path + ": No such file or directory");
+    EXPECT_TRUE(failure.Description().starts_with("Cannot write " + path + ": "))
+        << failure.Description();
   }
 }
 

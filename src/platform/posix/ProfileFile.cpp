@@ -119,10 +119,10 @@ void SetValue(Lines& lines, std::string_view section, std::string_view key,
               std::string_view value) {
   const std::string lineEnd =
       !lines.empty() && lines.front().text.ends_with("\r\n") ? "\r\n" : "\n";
-  const std::string text = std::string(key) + "=" + std::string(value) + lineEnd;
+  const std::string rest = "=" + std::string(value) + lineEnd;
   Range range = FindSection(lines, section);
   if (const std::optional<std::size_t> found = FindKey(lines, range, key)) {
-    lines[*found] = Line(text);
+    lines[*found] = Line(lines[*found].name + rest);
     return;
   }
   if (range.IsEmpty()) {
@@ -133,7 +133,8 @@ void SetValue(Lines& lines, std::string_view section, std::string_view key,
   // Empty lines between this section and the next stay between them.
   while (WithoutBlanks(lines[range.end - 1].text).empty()) --range.end;
   EndLastLine(lines, range.end, lineEnd);
-  lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(range.end), Line(text));
+  lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(range.end),
+               Line(std::string(key) + rest));
 }
 
 bool FitsInLine(std::string_view text) {

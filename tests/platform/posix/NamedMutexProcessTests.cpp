@@ -91,6 +91,12 @@ TEST(NamedMutexAcrossProcesses, HoldsForAnotherUserToo) {
   EXPECT_EQ(OpenInChild(name, true), static_cast<int>(Opened::First));
 }
 
+TEST(NamedMutex, FailsUnderANameThatTheSystemCannotHold) {
+  NamedMutex mutex;
+  EXPECT_EQ(mutex.Open(std::string(40000, 'x')), Opened::Failed);
+  EXPECT_FALSE(mutex.IsOpen());
+}
+
 TEST(NamedMutexAcrossProcesses, FollowsNoLinkInTheFilesPlace) {
   const test::UniqueName unique;
   const std::string& name = unique.Text();
