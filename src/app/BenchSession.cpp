@@ -11,8 +11,8 @@ namespace mortane {
 
 BenchSession::BenchSession(const std::string& path)
     : path_(path),
-      library_(path.empty() ? controller::benches::Named("Quay")
-                            : controller::ReadBenchFile(path)) {
+      library_(path.empty() ? controller::benches::Named("Quay") : controller::ReadBenchFile(path)),
+      timed_(library_, [this] { AdvanceClock(); }) {
   if (!path_.empty()) {
     library_.OnChange([this](const controller::Bench&) { changed_ = true; });
   }
@@ -20,6 +20,13 @@ BenchSession::BenchSession(const std::string& path)
 
 BenchSession::~BenchSession() {
   Keep();
+}
+
+void BenchSession::AdvanceClock() {
+  using std::chrono::milliseconds;
+  const auto passed = std::chrono::steady_clock::now() - started_;
+  const std::int64_t now = std::chrono::duration_cast<milliseconds>(passed).count();
+  library_.clock().Advance(now - library_.clock().Now());
 }
 
 void BenchSession::Keep() {

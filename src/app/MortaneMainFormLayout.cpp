@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPainter>
 #include <QRadioButton>
 #include <QScreen>
 #include <QStatusBar>
@@ -29,6 +30,17 @@ struct CommandRow {
   const char* text;
   IconName icon;
   void (MortaneMainForm::*run)();
+};
+
+// The panel of the command keys, under a line that ends the page.
+class CommandBar : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter(this).fillRect(0, 0, width(), 1, palette().color(QPalette::Active, QPalette::Mid));
+  }
 };
 
 QString ElementName(const char* array, std::size_t index) {
@@ -125,7 +137,7 @@ void MortaneMainForm::BuildCommandBar() {
       {"Send", IconName::Send, &MortaneMainForm::DoSend},
       {"Exit", IconName::Exit, &MortaneMainForm::DoExit},
   }};
-  Picture2 = new QWidget(this);
+  Picture2 = new CommandBar(this);
   Picture2->setObjectName("Picture2");
   auto* keys = new QHBoxLayout(Picture2);
   keys->setContentsMargins(grid::kPageMargin, grid::kBetweenControls, grid::kPageMargin,
@@ -183,7 +195,8 @@ void MortaneMainForm::Arrange() {
   cells->addWidget(PictureMenu, 0, 0, 2, 1);
   cells->addWidget(FrameControl, 0, 1);
   cells->addWidget(Picture2, 1, 1);
-  cells->addWidget(progress_, 2, 0, 1, 2);
+  cells->addWidget(progress_, 1, 0, 1, 2, Qt::AlignBottom);
+  progress_->raise();
   cells->setRowStretch(0, 1);
   cells->setColumnStretch(1, 1);
   setCentralWidget(center);

@@ -23,6 +23,7 @@ constexpr int kNameWidthCharacters = 24;
 constexpr int kCardGap = 12;
 constexpr int kColumnGap = 16;
 constexpr int kLabelGap = 12;
+constexpr int kReportMargin = 8;
 // The report's lines are indented by one tab.
 constexpr int kTabWidthCharacters = 3;
 // The report keeps its lines whole beside the drawing.
@@ -45,7 +46,8 @@ SystemNameCtl::SystemNameCtl(QWidget* parent)
       Label1(nullptr),
       TextSystemName(nullptr),
       TextAccessories(nullptr),
-      drawing_(nullptr) {
+      drawing_(nullptr),
+      drawingFrame_(nullptr) {
   FrameBase->setObjectName("FrameBase");
   auto* panel = new QVBoxLayout(this);
   panel->setContentsMargins({});
@@ -90,15 +92,18 @@ QWidget* SystemNameCtl::BuildReportCard() {
   TextAccessories->setTabChangesFocus(true);
   TextAccessories->setLineWrapMode(QPlainTextEdit::NoWrap);
   TextAccessories->setFont(ReportFont());
+  TextAccessories->document()->setDocumentMargin(kReportMargin);
   const int character = TextAccessories->fontMetrics().horizontalAdvance(u'0');
   TextAccessories->setTabStopDistance(kTabWidthCharacters * character);
   TextAccessories->setMinimumWidth(kReportWidthCharacters * character);
 
-  drawing_ = new MicroscopeDrawing(card);
+  drawingFrame_ = new InnerFrame({}, card);
+  drawing_ = new MicroscopeDrawing(drawingFrame_);
+  drawingFrame_->body()->addWidget(drawing_);
   auto* columns = new QHBoxLayout;
   columns->setSpacing(kColumnGap);
   columns->addWidget(TextAccessories, 1);
-  columns->addWidget(drawing_, 2);
+  columns->addWidget(drawingFrame_, 2);
   card->body()->addLayout(columns);
   return card;
 }
@@ -125,7 +130,7 @@ void SystemNameCtl::SaveData() {
 
 void SystemNameCtl::resizeEvent(QResizeEvent* event) {
   Page::resizeEvent(event);
-  drawing_->setVisible(window()->width() >= kNarrowestWindowWithDrawing);
+  drawingFrame_->setVisible(window()->width() >= kNarrowestWindowWithDrawing);
 }
 
 }  // namespace mortane

@@ -9,6 +9,7 @@ class QPlainTextEdit;
 
 namespace mortane {
 
+class InnerFrame;
 class MicroscopeDrawing;
 class TextField;
 
@@ -35,6 +36,7 @@ class SystemNameCtl : public Page {
   QWidget* BuildReportCard();
 
   MicroscopeDrawing* drawing_;
+  InnerFrame* drawingFrame_;
 };
 
 }  // namespace mortane
