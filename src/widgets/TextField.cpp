@@ -172,8 +172,7 @@ bool TextField::IsLeaving(Qt::FocusReason reason) const {
       reason == Qt::MenuBarFocusReason)
     return false;
   if (!isEnabled() || validating_ || FocusVeto::IsRunning()) return false;
-  const QWidget* next = QApplication::focusWidget();
-  return next != nullptr && next->window() == window();
+  return QApplication::focusWidget() != nullptr;
 }
 
 void TextField::SetRefused(bool refused) {

@@ -159,6 +159,15 @@ TEST_F(FieldValidation, EnterRunsTheValidationOnlyIfThePageSaysSo) {
   EXPECT_TRUE(field->hasFocus());
 }
 
+TEST_F(FieldValidation, DisablingTheFieldItselfAsksNothing) {
+  QSignalSpy left(field, &TextField::left);
+  field->setEnabled(false);
+  QApplication::processEvents();
+  EXPECT_FALSE(field->hasFocus());
+  EXPECT_EQ(asked, 0);
+  EXPECT_EQ(left.count(), 0);
+}
+
 TEST_F(FieldValidation, DisablingTheWindowAsksNothing) {
   window.widget().setEnabled(false);
   QApplication::processEvents();
