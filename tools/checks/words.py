@@ -51,7 +51,7 @@ BAD = {
         "a catch of everything": "} catch ( ... ) {",
         "an open namespace": "using namespace std;",
         "a path of one machine": 'open("/home/me/x");',
-        "a document from elsewhere": "// see Part 1.2",
+        "a document from elsewhere": "// see Chapter 1.2",
         "blanks at the end": "int a;  ",
     }.items()
 }
