@@ -18,8 +18,9 @@ for use in "$@"; do
 done
 
 # dpkg-query fails for the packages that it has never heard of, which are missing too.
-present=" $(dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' "${wanted[@]}" \
-  2>/dev/null | awk '$1 == "installed" {print $2}' | xargs) "
+known="$(dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' "${wanted[@]}" \
+  2>/dev/null || true)"
+present=" $(awk '$1 == "installed" {print $2}' <<<"$known" | xargs) "
 missing=()
 for package in "${wanted[@]}"; do
   [[ "$present" == *" $package "* ]] || missing+=("$package")
