@@ -27,9 +27,10 @@ cleanup() {
 }
 trap cleanup EXIT
 
-# The server chooses a free display and tells its number.
+# The server chooses a free display and tells its number. Without -noreset it would start afresh
+# whenever its last client leaves, under the feet of a program that is just connecting.
 start_server() {
-  Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp 3>"$work/display" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp -noreset 3>"$work/display" >/dev/null 2>&1 &
   server=$!
   for _ in {1..100}; do
     [[ ! -s "$work/display" ]] || break
