@@ -1,6 +1,5 @@
 #include "filters/FilterQubeCtl.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -12,6 +11,7 @@
 #include "widgets/Theme.h"
 #include "widgets/TurretDrawing.h"
 #include "widgets/ValueLabel.h"
+#include "widgets/ValuePlate.h"
 
 namespace mortane {
 namespace {
@@ -108,28 +108,16 @@ QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
 }
 
 QFrame* FilterQubeCtl::BuildPlate(QWidget* parent) {
-  auto* plate = new InnerFrame({}, parent);
+  auto* plate = new ValuePlate(parent);
   Frm1 = plate;
   Frm1->setObjectName("Frm1");
-  auto* cells = new QGridLayout;
-  cells->setHorizontalSpacing(grid::kBetweenColumns);
-  cells->setVerticalSpacing(grid::kUnit);
-  int column = 0;
   for (const Value& value : kValues) {
-    QLabel* label = CaptionLabel(QLatin1String(value.caption), plate);
-    label->setObjectName(QLatin1String(value.labelName));
-    auto* shown = new ValueLabel(plate);
-    shown->setObjectName(QLatin1String(value.valueName));
-    shown->setAccessibleName(QLatin1String(value.caption));
-    shown->SetCharacters(kCharacters);
-    cells->addWidget(label, 0, column);
-    cells->addWidget(shown, 1, column);
-    cells->setColumnStretch(column, 1);
-    this->*value.label = label;
-    this->*value.value = shown;
-    ++column;
+    const ValuePlate::Value added =
+        plate->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
+                        QLatin1String(value.valueName), kCharacters, 1);
+    this->*value.label = added.caption;
+    this->*value.value = added.value;
   }
-  plate->body()->addLayout(cells);
   return plate;
 }
 

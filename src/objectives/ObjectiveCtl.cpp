@@ -1,6 +1,5 @@
 #include "objectives/ObjectiveCtl.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -15,6 +14,7 @@
 #include "widgets/Theme.h"
 #include "widgets/TurretDrawing.h"
 #include "widgets/ValueLabel.h"
+#include "widgets/ValuePlate.h"
 
 namespace mortane {
 namespace {
@@ -126,28 +126,16 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
 }
 
 QFrame* ObjectiveCtl::BuildPlate(QWidget* parent) {
-  auto* plate = new InnerFrame({}, parent);
+  auto* plate = new ValuePlate(parent);
   Frame1 = plate;
   Frame1->setObjectName("Frame1");
-  auto* cells = new QGridLayout;
-  cells->setHorizontalSpacing(grid::kBetweenColumns);
-  cells->setVerticalSpacing(grid::kUnit);
-  int column = 0;
   for (const Value& value : kValues) {
-    QLabel* label = CaptionLabel(QLatin1String(value.caption), plate);
-    label->setObjectName(QLatin1String(value.labelName));
-    auto* shown = new ValueLabel(plate);
-    shown->setObjectName(QLatin1String(value.valueName));
-    shown->setAccessibleName(QLatin1String(value.caption));
-    shown->SetCharacters(value.characters);
-    cells->addWidget(label, 0, column);
-    cells->addWidget(shown, 1, column);
-    cells->setColumnStretch(column, value.characters);
-    this->*value.label = label;
-    this->*value.value = shown;
-    ++column;
+    const ValuePlate::Value added =
+        plate->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
+                        QLatin1String(value.valueName), value.characters, value.characters);
+    this->*value.label = added.caption;
+    this->*value.value = added.value;
   }
-  plate->body()->addLayout(cells);
   return plate;
 }
 
