@@ -15,7 +15,7 @@ LAYERS = (
     ("microscope", ("src/model/*",)),
     ("widgets", ("src/widgets/*",)),
     ("app", ("src/app/*",)),
-    ("pages", ("src/*/*Ctl*",)),
+    ("pages", ("src/*/*Ctl*", "src/filters/OptionalFilters.*")),
     ("units", ("src/*/*",)),
 )
 

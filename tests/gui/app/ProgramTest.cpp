@@ -52,6 +52,7 @@ class Program : public testing::Test {
     environment.insert("DISPLAY", display_.Name());
     environment.insert("QT_QPA_PLATFORM", "xcb");
     environment.insert("MORTANE_BENCH", QString::fromStdString(bench));
+    environment.insert("LSAN_OPTIONS", "suppressions=" MORTANE_KNOWN_LEAKS ":print_suppressions=0");
     program.setProcessEnvironment(environment);
     program.start(MORTANE_PROGRAM, arguments);
     ASSERT_TRUE(program.waitForStarted(kPatienceMs));
