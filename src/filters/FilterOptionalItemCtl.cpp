@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "widgets/Card.h"
 #include "widgets/TextField.h"
@@ -101,7 +102,8 @@ void FilterOptionalItemCtl::LoadData() {
 // From right to left, barrier first.
 void FilterOptionalItemCtl::SaveData() {
   for (int row = 0; row < kFilterPositions; ++row) {
-    for (auto column = kColumns.rbegin(); column != kColumns.rend(); ++column) Store(*column, row);
+    std::for_each(kColumns.rbegin(), kColumns.rend(),
+                  [this, row](const Column& column) { Store(column, row); });
   }
 }
 

@@ -49,7 +49,7 @@ bool IsCode(std::int32_t code) {
 }
 
 std::size_t OptionIndex(std::int32_t position) {
-  return static_cast<std::size_t>(kOptionBase + position);
+  return static_cast<std::size_t>(kOptionBase) + static_cast<std::size_t>(position);
 }
 
 // The sign of a negative code takes the place of a zero, so that the text keeps its length.
