@@ -1,4 +1,6 @@
-# Flags that every target of the project shares: warnings, sanitizers, language level.
+# Flags that the targets of the project share.
+
+# Of all targets: warnings, language level, include root.
 add_library(mortane_flags INTERFACE)
 target_compile_features(mortane_flags INTERFACE cxx_std_20)
 target_include_directories(mortane_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
@@ -14,8 +16,21 @@ endif()
 if(MORTANE_WERROR)
   target_compile_options(mortane_flags INTERFACE -Werror)
 endif()
+
+# Of the product's own code: instrumented where the build has sanitizers. What links it needs
+# their run-time libraries.
+add_library(mortane_product_flags INTERFACE)
 if(MORTANE_SANITIZE)
-  target_compile_options(mortane_flags INTERFACE
+  target_compile_options(mortane_product_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(mortane_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# Of the tests' code, which is built far more often than it runs: neither instrumented nor
+# optimised. Programs and the objects that they share need the same kind of code to share
+# precompiled headers.
+add_library(mortane_test_flags INTERFACE)
+target_link_libraries(mortane_test_flags INTERFACE mortane_flags)
+if(NOT WIN32)
+  target_compile_options(mortane_test_flags INTERFACE -O0 -fPIC)
 endif()

@@ -1,14 +1,17 @@
-// Runs the tests of pages in an application that needs no display.
+// Runs tests in an application that needs no display.
 #include <gtest/gtest.h>
 
 #include <QApplication>
 
+#include "support/TestWatch.h"
 #include "widgets/Theme.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  testing::UnitTest::GetInstance()->listeners().Append(mortane::test::MakeTestWatch().release());
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Mortane"));
   QApplication::setQuitOnLastWindowClosed(false);
   mortane::ApplyTheme(application, mortane::Scheme::Light);
   return RUN_ALL_TESTS();

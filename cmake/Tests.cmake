@@ -1,0 +1,51 @@
+# Test programs: one a room, precompiled headers shared among them, one ctest test for each suite.
+
+# mortane_test(name [QT] SOURCES ... LIBRARIES ...)
+# A program with the shared main function. QT gives it an application that needs no display. A
+# suite is a process; each of its tests ends within a minute, or the process says which did not.
+function(mortane_test name)
+  cmake_parse_arguments(ARG "QT" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  if(ARG_QT)
+    mortane_test_code(${name} QT)
+    target_link_libraries(${name} PRIVATE mortane_qt_test_main)
+  else()
+    mortane_test_code(${name})
+    target_link_libraries(${name} PRIVATE mortane_test_main)
+  endif()
+  target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} GTest::gtest)
+  mortane_discover_suites(${name})
+endfunction()
+
+# mortane_test_code(target [QT])
+# The flags and precompiled headers of test code, for programs and for what they share.
+function(mortane_test_code target)
+  target_link_libraries(${target} PRIVATE mortane_test_flags)
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  if(WIN32)
+    return()
+  endif()
+  if("QT" IN_LIST ARGN)
+    target_precompile_headers(${target} REUSE_FROM mortane_qt_test_headers)
+  else()
+    target_precompile_headers(${target} REUSE_FROM mortane_test_headers)
+  endif()
+endfunction()
+
+# Lists the suites once the program is built. A program for another system cannot be asked on the
+# machine that builds it; its suites are listed when ctest runs.
+function(mortane_discover_suites name)
+  set(list "${CMAKE_CURRENT_BINARY_DIR}/${name}.suites.cmake")
+  set(script "${PROJECT_SOURCE_DIR}/cmake/DiscoverSuites.cmake")
+  if(CMAKE_CROSSCOMPILING)
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${list}")
+    file(GENERATE OUTPUT "${list}" CONTENT
+      "set(PROGRAM \"$<TARGET_FILE:${name}>\")\nset(RESULTS \"${PROJECT_BINARY_DIR}/results\")\n\
+set(EMULATOR \"${CMAKE_CROSSCOMPILING_EMULATOR}\")\ninclude(\"${script}\")\n")
+    return()
+  endif()
+  add_custom_command(TARGET ${name} POST_BUILD VERBATIM COMMAND ${CMAKE_COMMAND}
+    -D "PROGRAM=$<TARGET_FILE:${name}>" -D "RESULTS=${PROJECT_BINARY_DIR}/results"
+    -D "LIST=${list}" -P "${script}")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${list}")
+endfunction()
