@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace mortane {
@@ -12,6 +13,11 @@ namespace mortane {
 class NamedMutex {
  public:
   enum class Opened { First, AlreadyExisted, Failed };
+
+  // Names are the whole machine's. Test programs put a text of their own in front of all of them,
+  // so that two that run side by side do not find each other's devices in use.
+  static void SetScope(std::string_view scope) { scope_ = scope; }
+  static const std::string& Scope() { return scope_; }
 
   NamedMutex();
   ~NamedMutex();  // closes
@@ -30,6 +36,8 @@ class NamedMutex {
 
  private:
   struct Handle;
+
+  inline static std::string scope_;
   std::unique_ptr<Handle> handle_;
 };
 

@@ -66,6 +66,18 @@ TEST(NamedMutex, HoldsNamesApart) {
   EXPECT_EQ(two.Open(name + "-3132"), Opened::First);
 }
 
+TEST(NamedMutex, HoldsScopesApart) {
+  const test::UniqueName unique;
+  const std::string scope = NamedMutex::Scope();
+  NamedMutex one;
+  NamedMutex two;
+  EXPECT_EQ(one.Open(unique.Text()), Opened::First);
+  NamedMutex::SetScope(unique.Text() + "-");
+  EXPECT_EQ(two.Open(unique.Text()), Opened::First);
+  NamedMutex::SetScope(scope);
+  EXPECT_EQ(two.Open(unique.Text()), Opened::AlreadyExisted);
+}
+
 TEST(NamedMutex, TakesNamesThatNoFileCouldHave) {
   const test::UniqueName unique;
   const std::string& name = unique.Text();

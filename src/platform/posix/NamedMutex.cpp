@@ -85,7 +85,7 @@ NamedMutex::~NamedMutex() = default;
 // the last descriptor, is the name. A loser keeps its descriptor without a lock.
 NamedMutex::Opened NamedMutex::Open(std::string_view name) {
   Close();
-  Descriptor file = OpenLockFile(LockPath(name));
+  Descriptor file = OpenLockFile(LockPath(scope_ + std::string(name)));
   struct stat status {};
   if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
     return Opened::Failed;

@@ -17,7 +17,8 @@ NamedMutex::~NamedMutex() = default;
 NamedMutex::Opened NamedMutex::Open(std::string_view name) {
   Close();
   SetLastError(ERROR_SUCCESS);
-  mortane::Handle mutex(CreateMutexW(nullptr, FALSE, ToWide(name).c_str()));
+  const std::string scoped = scope_ + std::string(name);
+  mortane::Handle mutex(CreateMutexW(nullptr, FALSE, ToWide(scoped).c_str()));
   if (!mutex.IsOpen()) return Opened::Failed;
   const bool existed = GetLastError() == ERROR_ALREADY_EXISTS;
   handle_ = std::make_unique<Handle>(Handle{std::move(mutex)});

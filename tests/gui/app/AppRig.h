@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "app/MortaneMainForm.h"
-#include "support/DeviceNamesLock.h"
 #include "support/Rig.h"
 
 namespace mortane::test {
@@ -148,7 +147,6 @@ class BasicAppRig : public RigLibrary {
     return count;
   }
 
-  DeviceNamesLock lock;
   std::unique_ptr<Form> form;
 };
 using AppRig = BasicAppRig<>;

@@ -5,7 +5,6 @@
 
 #include <deque>
 
-#include "support/DeviceNamesLock.h"
 #include "support/Rig.h"
 
 namespace mortane::test {
@@ -55,7 +54,6 @@ struct StartRig : Rig {
     return count;
   }
 
-  DeviceNamesLock lock;
   std::deque<int> choices;
   int dialogs = 0;
 };

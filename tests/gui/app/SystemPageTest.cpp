@@ -36,7 +36,6 @@ class SystemPage : public testing::Test {
   SystemNameCtl& panel() { return *page->SystemNameCtl1; }
   TextField& name() { return *panel().TextSystemName; }
 
-  DeviceNamesLock lock;
   RigLibrary rig{benches::Named("Harbour")};
   QWidget window;
   SystemSettingsCtl* page = new SystemSettingsCtl;

@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "support/DeviceNamesLock.h"
 #include "support/Rig.h"
 #include "widgets/Page.h"
 
@@ -54,7 +53,6 @@ class PageRig : public RigLibrary {
   void ShowPage(Page* page);
   QWidget* FindWidget(std::string_view name);
 
-  DeviceNamesLock lock_;
   std::unique_ptr<QWidget> window_;
   QPushButton* elsewhere_ = nullptr;
 };

@@ -3,11 +3,15 @@
 
 #include <QApplication>
 
+#include "platform/NamedMutex.h"
 #include "support/TestWatch.h"
+#include "support/UniqueName.h"
 #include "widgets/Theme.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  const mortane::test::UniqueName deviceNames;
+  mortane::NamedMutex::SetScope(deviceNames.Text() + "-");
   testing::UnitTest::GetInstance()->listeners().Append(mortane::test::MakeTestWatch().release());
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);

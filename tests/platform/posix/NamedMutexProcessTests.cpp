@@ -25,7 +25,7 @@ int OpenInChild(const std::string& name, bool asNobody = false) {
 // The file behind a name; empty when there is none.
 std::filesystem::path LockFile(const std::string& name) {
   for (const char* folder : {"/run/lock", "/tmp"}) {
-    auto path = std::filesystem::path(folder) / ("mortane-" + name + ".lock");
+    auto path = std::filesystem::path(folder) / ("mortane-" + NamedMutex::Scope() + name + ".lock");
     if (std::filesystem::exists(std::filesystem::symlink_status(path))) return path;
   }
   return {};
