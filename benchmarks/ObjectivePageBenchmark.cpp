@@ -11,7 +11,7 @@
 #include "SilentPrompts.h"
 #include "controller/simulator/Benches.h"
 #include "controller/simulator/SimulatedLibrary.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "objectives/ObjectiveCtl.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"

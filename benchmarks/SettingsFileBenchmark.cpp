@@ -10,7 +10,7 @@
 #include "SilentPrompts.h"
 #include "controller/simulator/Benches.h"
 #include "controller/simulator/SimulatedLibrary.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 
 namespace mortane {
 namespace {

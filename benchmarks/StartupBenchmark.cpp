@@ -22,7 +22,7 @@
 #include "app/QtPrompts.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "platform/CommandLine.h"
 #include "platform/Sleep.h"
 #include "widgets/Theme.h"

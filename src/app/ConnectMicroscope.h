@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "controller/ControllerObject.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 
 namespace mortane {
 

@@ -12,7 +12,7 @@
 #include "app/GetAppIcon.h"
 #include "app/SelScopeDlg.h"
 #include "common/Numbers.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/CommandKey.h"
 #include "widgets/PageButton.h"
 #include "widgets/Rail.h"

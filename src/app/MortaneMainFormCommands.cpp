@@ -6,7 +6,7 @@
 #include "app/CommandBoundary.h"
 #include "app/MortaneMainForm.h"
 #include "app/SelFileItemDlg.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/CommandKey.h"
 
 namespace mortane {

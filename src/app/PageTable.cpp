@@ -6,7 +6,7 @@
 #include "app/SystemSettingsCtl.h"
 #include "condensers/CondenserSettingsCtl.h"
 #include "filters/FilterQubeSettingsCtl.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 
 namespace mortane {

@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 #include "app/DialogLayout.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/ListBox.h"
 
 namespace mortane {

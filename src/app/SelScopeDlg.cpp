@@ -8,7 +8,7 @@
 #include "app/DialogLayout.h"
 #include "common/Prompts.h"
 #include "common/Text.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/Icons.h"
 #include "widgets/ListBox.h"
 

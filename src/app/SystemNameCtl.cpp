@@ -8,8 +8,8 @@
 
 #include "app/ShownText.h"
 #include "common/Text.h"
-#include "model/AccessoryTable.h"
-#include "model/clsK70.h"
+#include "hub/AccessoryTable.h"
+#include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/MicroscopeDrawing.h"
 #include "widgets/TextField.h"

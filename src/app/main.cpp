@@ -14,7 +14,7 @@
 #include "app/QtPrompts.h"
 #include "common/Failure.h"
 #include "common/Numbers.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "platform/CommandLine.h"
 #include "platform/Sleep.h"
 #include "widgets/Theme.h"

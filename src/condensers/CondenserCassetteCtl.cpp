@@ -8,7 +8,7 @@
 #include "common/Failure.h"
 #include "common/Text.h"
 #include "condensers/CondenserOptionCtl.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Theme.h"

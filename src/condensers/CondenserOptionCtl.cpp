@@ -4,7 +4,7 @@
 #include <QLabel>
 
 #include "common/Text.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/FoldingLayout.h"
 #include "widgets/TextField.h"

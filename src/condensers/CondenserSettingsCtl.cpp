@@ -2,7 +2,7 @@
 
 #include "condensers/CondenserCassetteCtl.h"
 #include "condensers/CondenserOptionCtl.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-#include "common/Dom.h"
 #include "condensers/clsDbCondenser.h"
+#include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
 #include "model/TurretCodes.h"
 

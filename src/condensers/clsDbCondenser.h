@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "common/Dom.h"
+#include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
 #include "model/OptionNames.h"
 

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 
 #include "filters/OptionalFilters.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"

@@ -5,7 +5,7 @@
 #include "filters/FilterOptionalItemCtl.h"
 #include "filters/FilterOptionalQubeCtl.h"
 #include "filters/FilterQubeCtl.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "common/ElementFields.h"
 #include "common/Numbers.h"
+#include "model/ElementFields.h"
 #include "model/OptionRecords.h"
 
 namespace mortane {

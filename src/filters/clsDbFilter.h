@@ -6,11 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include "common/Dom.h"
-#include "common/UnitReport.h"
 #include "controller/AccessoryDatabase.h"
+#include "document/Dom.h"
 #include "filters/FilterItemNames.h"
 #include "model/ConnectedMicroscope.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 

@@ -1,6 +1,6 @@
 #include "model/OptionNames.h"
 
-#include "common/ElementFields.h"
+#include "model/ElementFields.h"
 #include "model/OptionRecords.h"
 
 namespace mortane {

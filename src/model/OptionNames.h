@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "common/Dom.h"
 #include "controller/AccessoryDatabase.h"
+#include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
 
 namespace mortane {

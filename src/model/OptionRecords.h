@@ -1,8 +1,8 @@
 // Walks over the lists of the controller's accessory database.
 #pragma once
 
-#include "common/UnitReport.h"
 #include "controller/AccessoryDatabase.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 

@@ -1,6 +1,6 @@
 #include "model/TurretCodes.h"
 
-#include "common/ElementFields.h"
+#include "model/ElementFields.h"
 
 namespace mortane {
 namespace {

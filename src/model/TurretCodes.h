@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "common/Dom.h"
-#include "common/UnitReport.h"
+#include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 

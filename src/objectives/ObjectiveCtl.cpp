@@ -7,7 +7,7 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"

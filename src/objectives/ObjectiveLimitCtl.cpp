@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"

@@ -5,7 +5,7 @@
 #include "common/Failure.h"
 #include "common/Numbers.h"
 #include "common/Text.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"

@@ -2,7 +2,7 @@
 
 #include <QAbstractButton>
 
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "objectives/ObjectiveCtl.h"
 #include "objectives/ObjectiveLimitCtl.h"
 #include "objectives/ObjectiveOptionCtl.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "common/ElementFields.h"
 #include "common/Numbers.h"
+#include "model/ElementFields.h"
 #include "model/OptionRecords.h"
 
 namespace mortane {

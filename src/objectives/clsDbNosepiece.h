@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
-#include "common/Dom.h"
-#include "common/UnitReport.h"
 #include "controller/AccessoryDatabase.h"
+#include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
+#include "model/UnitReport.h"
 #include "objectives/ObjectiveCode.h"
 #include "objectives/ObjectiveLists.h"
 

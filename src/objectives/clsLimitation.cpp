@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "common/ElementFields.h"
-#include "common/UnitReport.h"
+#include "model/ElementFields.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 namespace {

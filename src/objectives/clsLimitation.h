@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "common/Dom.h"
+#include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
 
 namespace mortane {

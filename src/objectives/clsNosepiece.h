@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "common/Dom.h"
+#include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
 #include "model/TurretCodes.h"
 #include "objectives/clsDbNosepiece.h"

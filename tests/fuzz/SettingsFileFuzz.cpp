@@ -7,12 +7,12 @@
 #include <string>
 #include <string_view>
 
-#include "common/Dom.h"
 #include "common/Text.h"
 #include "controller/simulator/Benches.h"
 #include "controller/simulator/SimulatedLibrary.h"
+#include "document/Dom.h"
 #include "fuzz/FuzzEntry.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 
 namespace mortane {
 namespace {

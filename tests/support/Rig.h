@@ -11,7 +11,7 @@
 #include "controller/Journal.h"
 #include "controller/simulator/Benches.h"
 #include "controller/simulator/SimulatedLibrary.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 #include "support/ScriptedPrompts.h"
 
 namespace mortane::test {

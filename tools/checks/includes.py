@@ -6,36 +6,27 @@ import re
 
 import tree
 
-# From the lowest layer to the highest; the first pattern that fits a file names its layer.
+# The rooms as layers, from the lowest up; a room may include itself and every layer below. The
+# areas (a unit and its page side by side) stand in one layer and know nothing of each other.
 LAYERS = (
-    ("base", ("src/common/*", "src/platform/*")),
-    ("controller", ("src/controller/*",)),
-    ("hub", ("src/model/clsK70*", "src/model/clsMutex.*", "src/model/SettingsFile.h",
-             "src/model/Transfers.h")),
-    ("microscope", ("src/model/*",)),
-    ("widgets", ("src/widgets/*",)),
-    ("app", ("src/app/*",)),
-    ("pages", ("src/*/*Ctl*", "src/filters/OptionalFilters.*")),
-    ("units", ("src/*/*",)),
+    ("common",),
+    ("platform",),
+    ("document",),
+    ("controller",),
+    ("model",),
+    ("objectives", "filters", "condensers", "interlocks", "drives", "switches"),
+    ("hub",),
+    ("app",),
 )
-
-# What a layer may include beside itself. A page sits in its unit's folder and includes the hub;
-# the unit does not.
-MAY_INCLUDE = {
-    "base": (),
-    "controller": ("base",),
-    "microscope": ("base", "controller"),
-    "units": ("base", "controller", "microscope"),
-    "hub": ("base", "controller", "microscope", "units"),
-    "widgets": ("base",),
-    "pages": ("base", "controller", "microscope", "units", "hub", "widgets"),
-    "app": ("base", "controller", "microscope", "units", "hub", "widgets", "pages"),
-}
-WITH_QT = ("widgets", "pages", "app")
+# The kit of controls stands beside them: it sees the texts of the core alone, and only pages and
+# windows see it.
+KIT = "widgets"
+AREAS = LAYERS[5]
+PAGES = (*(f"src/{area}/*Ctl*" for area in AREAS), "src/filters/OptionalFilters.*")
 
 # Headers of the operating system and of libraries stand in these places only.
 FOREIGN = {
-    r"libxml/": ("src/common/Dom*",),
+    r"libxml/": ("src/document/*",),
     r".*\.h$": ("src/platform/posix/*", "src/platform/windows/*", "src/controller/com/*"),
 }
 
@@ -46,12 +37,42 @@ def fits(name, patterns):
     return any(fnmatch.fnmatch(name, pattern) for pattern in patterns)
 
 
-def layer_of(name):
-    return next((layer for layer, patterns in LAYERS if fits(name, patterns)), None)
+def room_of(name):
+    return name.split("/")[1]
+
+
+def rank(room):
+    return next((i for i, rooms in enumerate(LAYERS) if room in rooms), None)
+
+
+def is_page(name):
+    return fits(name, PAGES)
+
+
+def has_qt(name):
+    return room_of(name) in (KIT, "app") or is_page(name)
+
+
+def direction_problem(name, target):
+    """Why the one file may not include the other; None when it may."""
+    own, other = room_of(name), room_of(target)
+    if own == other:
+        if is_page(target) and not is_page(name) and own in AREAS:
+            return "a unit may not include a page"
+        return None
+    if own == KIT:
+        return None if other == "common" else f"{KIT} may not include {other}"
+    if other == KIT:
+        return None if has_qt(name) else f"only pages and windows may include {KIT}"
+    if is_page(name) and other == "hub":
+        return None
+    if rank(own) is None or rank(other) is None or rank(other) >= rank(own):
+        return f"{own} may not include {other}"
+    return None
 
 
 def foreign_problem(name, header):
-    if layer_of(name) in WITH_QT:
+    if has_qt(name):
         return None
     if re.match(r"Q[A-Z]|Qt", header):
         return f"<{header}>: no Qt below the widgets and pages"
@@ -68,10 +89,8 @@ def own_problem(name, header, known):
     if header.startswith(("platform/posix/", "platform/windows/")):
         if not name.startswith("src/" + header.rsplit("/", 1)[0]):
             return f'"{header}": belongs to one half of the platform room'
-    own, other = layer_of(name), layer_of(target)
-    if other != own and other not in MAY_INCLUDE[own]:
-        return f'"{header}": {own} may not include {other}'
-    return None
+    problem = direction_problem(name, target)
+    return f'"{header}": {problem}' if problem else None
 
 
 def circles(graph):
@@ -127,46 +146,60 @@ def check(root):
 
 GOOD = {
     "src/common/Text.h": "#include <string>\n",
-    "src/common/DomParser.cpp": "#include <libxml/parser.h>\n",
+    "src/document/Dom.h": '#include "common/Text.h"\n',
+    "src/document/DomParser.cpp": "#include <libxml/parser.h>\n",
     "src/controller/Microscope.h": '#include "common/Text.h"\n',
     "src/model/ConnectedMicroscope.h": '#include "controller/Microscope.h"\n',
     "src/objectives/clsNosepiece.h": '#include "model/ConnectedMicroscope.h"\n',
-    "src/model/clsK70.h": '#include "objectives/clsNosepiece.h"\n',
+    "src/hub/clsK70.h": '#include "objectives/clsNosepiece.h"\n',
     "src/widgets/Card.h": "#include <QWidget>\n",
-    "src/objectives/ObjectiveCtl.h": '#include "model/clsK70.h"\n#include "widgets/Card.h"\n',
-    "src/app/main.cpp": '#include <QApplication>\n#include "objectives/ObjectiveCtl.h"\n',
+    "src/objectives/ObjectiveCtl.h":
+        '#include "objectives/clsNosepiece.h"\n#include "widgets/Card.h"\n',
+    "src/app/main.cpp":
+        '#include <QApplication>\n#include "hub/clsK70.h"\n#include "objectives/ObjectiveCtl.h"\n',
     "src/platform/Sleep.h": "",
     "src/platform/posix/Sleep.cpp": "#include <unistd.h>\n",
     "src/platform/windows/Sleep.cpp": "#include <windows.h>\n",
 }
 BAD = {
     "a unit that includes the hub": (
-        {"src/objectives/clsNosepiece.cpp": '#include "model/clsK70.h"\n'},
+        {"src/objectives/clsNosepiece.cpp": '#include "hub/clsK70.h"\n'},
         "src/objectives/clsNosepiece.cpp:1"),
     "a unit that includes a page": (
-        {"src/filters/clsFilter.cpp": '#include "objectives/ObjectiveCtl.h"\n'},
+        {"src/objectives/clsNosepiece.cpp": '#include "objectives/ObjectiveCtl.h"\n'},
+        "src/objectives/clsNosepiece.cpp:1"),
+    "a unit that includes the kit": (
+        {"src/objectives/clsNosepiece.cpp": '#include "widgets/Card.h"\n'},
+        "src/objectives/clsNosepiece.cpp:1"),
+    "an area that includes another": (
+        {"src/filters/clsFilter.cpp": '#include "objectives/clsNosepiece.h"\n'},
         "src/filters/clsFilter.cpp:1"),
-    "a helper of the units that includes one": (
+    "the model above itself": (
         {"src/model/Names.cpp": '\n#include "objectives/clsNosepiece.h"\n'},
         "src/model/Names.cpp:2"),
     "the controller above itself": (
         {"src/controller/Proxy.cpp": '#include "model/ConnectedMicroscope.h"\n'},
         "src/controller/Proxy.cpp:1"),
+    "the controller and the hub": (
+        {"src/controller/Proxy.cpp": '#include "hub/clsK70.h"\n'}, "src/controller/Proxy.cpp:1"),
     "common above itself": (
-        {"src/common/Text.cpp": '#include "controller/Microscope.h"\n'}, "src/common/Text.cpp:1"),
+        {"src/common/Text.cpp": '#include "document/Dom.h"\n'}, "src/common/Text.cpp:1"),
     "widgets that know the model": (
-        {"src/widgets/Card.cpp": '#include "model/clsK70.h"\n'}, "src/widgets/Card.cpp:1"),
+        {"src/widgets/Card.cpp": '#include "model/ConnectedMicroscope.h"\n'},
+        "src/widgets/Card.cpp:1"),
     "a page that knows the windows": (
         {"src/app/Main.h": "", "src/filters/FilterCtl.cpp": '#include "app/Main.h"\n'},
         "src/filters/FilterCtl.cpp:1"),
-    "Qt in the core": (
-        {"src/model/clsK70.cpp": "#include <QString>\n"}, "src/model/clsK70.cpp:1"),
+    "a room that no layer names": (
+        {"src/utils/Misc.h": "", "src/app/Main.cpp": '#include "utils/Misc.h"\n'},
+        "src/app/Main.cpp:1"),
+    "Qt in the core": ({"src/hub/clsK70.cpp": "#include <QString>\n"}, "src/hub/clsK70.cpp:1"),
     "Qt by its module's folder": (
         {"src/common/Text.cpp": "#include <QtCore/QString>\n"}, "src/common/Text.cpp:1"),
     "the operating system outside the platform room": (
-        {"src/model/clsMutex.cpp": "#  include <sys/file.h>\n"}, "src/model/clsMutex.cpp:1"),
+        {"src/hub/clsMutex.cpp": "#  include <sys/file.h>\n"}, "src/hub/clsMutex.cpp:1"),
     "libxml2 outside the document": (
-        {"src/model/SettingsFile.h": "#include <libxml/tree.h>\n"}, "src/model/SettingsFile.h:1"),
+        {"src/hub/SettingsFile.h": "#include <libxml/tree.h>\n"}, "src/hub/SettingsFile.h:1"),
     "one half that includes the other": (
         {"src/platform/posix/D.h": "", "src/platform/windows/Sleep.cpp":
          '#include "platform/posix/D.h"\n'}, "src/platform/windows/Sleep.cpp:1"),

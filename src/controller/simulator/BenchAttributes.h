@@ -5,10 +5,10 @@
 #include <string_view>
 #include <variant>
 
-#include "common/Dom.h"
 #include "controller/simulator/BenchDatabaseFields.h"
 #include "controller/simulator/BenchFields.h"
 #include "controller/simulator/BenchText.h"
+#include "document/Dom.h"
 
 namespace mortane::controller::bench_file {
 

@@ -7,9 +7,9 @@
 #include <tuple>
 #include <type_traits>
 
-#include "common/Dom.h"
 #include "controller/simulator/BenchAttributes.h"
 #include "controller/simulator/BenchText.h"
+#include "document/Dom.h"
 
 namespace mortane::controller::bench_file {
 

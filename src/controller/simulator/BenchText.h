@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "common/Dom.h"
 #include "controller/simulator/Bench.h"
+#include "document/Dom.h"
 
 namespace mortane::controller::bench_file {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 
 namespace mortane::test {
 

@@ -1,4 +1,4 @@
-#include "model/clsMutex.h"
+#include "hub/clsMutex.h"
 
 #include "common/Failure.h"
 

@@ -1,6 +1,6 @@
 // Receive, Send and Modify: three walks over the one table of units.
 #include "common/Text.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 
 namespace mortane {
 namespace {

@@ -1,4 +1,4 @@
-#include "model/AccessoryTable.h"
+#include "hub/AccessoryTable.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 
 #include "common/Numbers.h"
 #include "common/Text.h"

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <string>
 
-#include "common/Dom.h"
+#include "document/Dom.h"
 #include "platform/AtomicFile.h"
 #include "support/TempFolder.h"
 

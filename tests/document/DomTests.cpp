@@ -1,4 +1,4 @@
-#include "common/Dom.h"
+#include "document/Dom.h"
 
 #include <gtest/gtest.h>
 

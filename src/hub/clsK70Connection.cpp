@@ -1,7 +1,7 @@
 // Connecting, and what is found out while connecting.
 #include "common/Text.h"
-#include "model/AccessoryTable.h"
-#include "model/clsK70.h"
+#include "hub/AccessoryTable.h"
+#include "hub/clsK70.h"
 
 namespace mortane {
 namespace {

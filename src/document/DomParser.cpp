@@ -1,4 +1,4 @@
-#include "common/DomParser.h"
+#include "document/DomParser.h"
 
 #include <libxml/parser.h>
 #include <libxml/xmlerror.h>

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "common/Text.h"
-#include "model/clsK70.h"
+#include "hub/clsK70.h"
 
 namespace mortane {
 namespace {

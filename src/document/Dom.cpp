@@ -1,4 +1,4 @@
-#include "common/Dom.h"
+#include "document/Dom.h"
 
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
@@ -7,8 +7,8 @@
 #include <cassert>
 #include <new>
 
-#include "common/DomParser.h"
 #include "common/Failure.h"
+#include "document/DomParser.h"
 #include "platform/AtomicFile.h"
 
 namespace mortane {

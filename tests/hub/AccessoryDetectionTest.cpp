@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "model/AccessoryTable.h"
+#include "hub/AccessoryTable.h"
 #include "support/Rig.h"
 
 namespace mortane::test {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "common/Dom.h"
+#include "document/Dom.h"
 
 namespace mortane {
 

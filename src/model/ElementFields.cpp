@@ -1,4 +1,4 @@
-#include "common/ElementFields.h"
+#include "model/ElementFields.h"
 
 #include <algorithm>
 
