@@ -50,7 +50,6 @@ controller::Bench BenchWithAFullDatabase() {
 // Made once for both measurements, so that they stand on the same window and rows.
 struct Rig {
   Rig() : library(BenchWithAFullDatabase()) {
-    ProvideK70(library, prompts);
     GetK70().Connect(0);
     GetK70().Receive();
     window.resize(kPageRoom);
@@ -61,7 +60,10 @@ struct Rig {
     window.show();
     QApplication::processEvents();
   }
-  ~Rig() { ReleaseK70(); }
+  ~Rig() {
+    delete page;
+    ReleaseK70();
+  }
   Rig(const Rig&) = delete;
   Rig& operator=(const Rig&) = delete;
   Rig(Rig&&) = delete;
@@ -79,8 +81,9 @@ struct Rig {
 
   controller::SimulatedLibrary library;
   SilentPrompts prompts;
+  clsK70& k70 = ProvideK70(library, prompts);
   QWidget window;
-  ObjectiveCtl* page = new ObjectiveCtl;
+  ObjectiveCtl* page = new ObjectiveCtl(k70.curNosepiece, k70.DbNosepiece);
 };
 
 void SwitchTabsOfThePage(benchmark::State& state) {

@@ -25,6 +25,7 @@ std::string BenchmarkFile() {
 
 struct LoadedModel {
   LoadedModel() {
+    k70.Initialize();
     k70.Connect(0);
     k70.Receive();
     k70.WriteXML(path);

@@ -72,8 +72,8 @@ int RunFullChild(int argc, char** argv) {
   QApplication::setApplicationName("Mortane");
   ApplyTheme(application);
   AnsweringPrompts prompts(SleepMilliseconds);
-  ProvideK70(bench.Library(), prompts);
-  MortaneMainForm form({bench.Library(), prompts, arguments});
+  clsK70& k70 = ProvideK70(bench.Library(), prompts);
+  MortaneMainForm form({k70, bench.Library(), prompts, arguments});
   prompts.ShowProgressOn(form.Progress());
   form.Load();
   const auto* report = form.SystemSettingsCtl1->SystemNameCtl1->TextAccessories;

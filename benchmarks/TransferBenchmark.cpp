@@ -81,6 +81,7 @@ std::size_t CountCalls(Transfer transfer) {
   controller::JournalLibrary library(simulated, journal);
   SilentPrompts prompts;
   clsK70 k70(library, prompts);
+  k70.Initialize();
   k70.Connect(0);
   k70.Receive();
   journal.Clear();
@@ -93,6 +94,7 @@ void MeasureTransfer(benchmark::State& state, Transfer transfer) {
   TimedLibrary library(simulated);
   SilentPrompts prompts;
   clsK70 k70(library, prompts);
+  k70.Initialize();
   k70.Connect(0);
   k70.Receive();
   library.inLibrary = {};

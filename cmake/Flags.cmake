@@ -11,7 +11,7 @@ target_compile_options(mortane_flags INTERFACE
 # overlap themselves, and warns of them; the sanitized build looks at the real ones.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(mortane_flags INTERFACE
-    "$<$<NOT:$<CONFIG:Debug>>:-Wno-array-bounds;-Wno-maybe-uninitialized;-Wno-restrict>")
+    "$<$<NOT:$<CONFIG:Debug>>:-Wno-array-bounds;-Wno-maybe-uninitialized;-Wno-restrict;-Wno-stringop-overflow>")
 endif()
 if(MORTANE_WERROR)
   target_compile_options(mortane_flags INTERFACE -Werror)

@@ -2,8 +2,8 @@
 
 namespace mortane {
 
-void ShowFailure(Prompts& prompts, const Failure& failure) {
-  prompts.MsgBox(failure.Description(), box::kCritical);
+void ShowFailure(Prompts& prompts, const std::exception& failure) {
+  prompts.MsgBox(failure.what(), box::kCritical);
 }
 
 }  // namespace mortane

@@ -1,15 +1,16 @@
 // The one place where a failure that nobody below expected becomes a box.
 #pragma once
 
+#include <exception>
 #include <utility>
 
-#include "common/Failure.h"
 #include "common/Prompts.h"
 
 namespace mortane {
 
-// Shows the failure's text in a critical box.
-void ShowFailure(Prompts& prompts, const Failure& failure);
+// Shows what went wrong in a critical box: the text of a Failure, or what a fault of the program
+// itself says.
+void ShowFailure(Prompts& prompts, const std::exception& failure);
 
 // Runs one step of a command; what follows the step goes on in either case. Answers whether
 // the step came to its end.
@@ -18,7 +19,7 @@ bool RunStep(Prompts& prompts, Step&& step) {
   try {
     std::forward<Step>(step)();
     return true;
-  } catch (const Failure& failure) {
+  } catch (const std::exception& failure) {
     ShowFailure(prompts, failure);
     return false;
   }

@@ -14,6 +14,7 @@
 #include "common/Numbers.h"
 #include "hub/clsK70.h"
 #include "widgets/CommandKey.h"
+#include "widgets/Page.h"
 #include "widgets/PageButton.h"
 #include "widgets/Rail.h"
 
@@ -44,8 +45,8 @@ void MortaneMainForm::LoadStep(int step) {
       versionPanel_->setText(QStringLiteral(MORTANE_VERSION));
       break;
     case 2:
-      for (const PageEntry& page : pages_) {
-        if (page.widget != nullptr) page.widget->hide();
+      for (Page* page : pages_) {
+        if (page != nullptr) page->hide();
       }
       break;
     case 3:
@@ -95,22 +96,22 @@ void MortaneMainForm::FirstActivation() {
 
 void MortaneMainForm::RefreshPages() {
   for (std::size_t i = 0; i < pages_.size(); ++i) {
-    const PageEntry& page = pages_[i];
-    const bool enabled = page.widget != nullptr && page.isEnabled(GetK70());
+    Page* page = pages_[i];
+    const bool enabled = page != nullptr && isPageEnabled_[i](GetK70());
     PictureMenu->SetPageEnabled(static_cast<int>(i), enabled);
     if (!enabled) continue;
-    RunStep(prompts_, page.LoadData);
-    if (page.SetNosePostiton) RunStep(prompts_, page.SetNosePostiton);
+    RunStep(prompts_, [page] { page->LoadData(); });
+    RunStep(prompts_, [page] { page->SetNosePostiton(); });
     if (i == 0) optMenu[0]->setChecked(true);
   }
 }
 
 void MortaneMainForm::OnMenuChanged(std::size_t index) {
   PictureMenu->select(static_cast<int>(index));
-  ShowPage(pages_[index].widget);
+  ShowPage(pages_[index]);
 }
 
-void MortaneMainForm::ShowPage(QWidget* page) {
+void MortaneMainForm::ShowPage(Page* page) {
   if (currentPage_ != nullptr) currentPage_->hide();
   currentPage_ = page;
   if (currentPage_ != nullptr) currentPage_->show();
@@ -119,14 +120,17 @@ void MortaneMainForm::ShowPage(QWidget* page) {
 // A page that is not visible wrote its edits to the model when they were made.
 void MortaneMainForm::SaveCurrentPage() {
   for (std::size_t i = 0; i < optMenu.size(); ++i) {
-    if (optMenu[i]->isChecked() && pages_[i].SaveData) RunStep(prompts_, pages_[i].SaveData);
+    Page* page = pages_[i];
+    if (optMenu[i]->isChecked() && page != nullptr) {
+      RunStep(prompts_, [page] { page->SaveData(); });
+    }
   }
 }
 
 // Disabled pages too: what was read is shown as soon as another microscope enables them.
 void MortaneMainForm::LoadAllPages() {
-  for (const PageEntry& page : pages_) {
-    if (page.LoadData) RunStep(prompts_, page.LoadData);
+  for (Page* page : pages_) {
+    if (page != nullptr) RunStep(prompts_, [page] { page->LoadData(); });
   }
 }
 

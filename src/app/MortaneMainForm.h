@@ -4,9 +4,11 @@
 #include <QMainWindow>
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "app/FormServices.h"
 #include "app/PageTable.h"
 #include "common/Prompts.h"
 
@@ -20,9 +22,6 @@ class QToolBar;
 
 namespace mortane {
 
-namespace controller {
-class ControllerLibrary;
-}
 class CommandKey;
 class CondenserSettingsCtl;
 class FilterQubeSettingsCtl;
@@ -30,21 +29,15 @@ class ObjectiveSettingsCtl;
 class PageButton;
 class ProgressLine;
 class Rail;
+class Page;
+class clsK70;
 class SystemSettingsCtl;
-
-// What the window works with; all of it outlives the window.
-struct MainFormServices {
-  controller::ControllerLibrary& library;
-  Prompts& prompts;
-  // The program's path, then the command line's arguments.
-  std::vector<std::string> arguments;
-};
 
 // Made once by the program, which calls Load and shows it. The first activation connects a
 // microscope; when there is none to be had, the window closes itself.
 class MortaneMainForm : public QMainWindow {
  public:
-  explicit MortaneMainForm(MainFormServices services, const PageTable& pages = MainPages());
+  explicit MortaneMainForm(const FormServices& services, const PageTable& pages = MainPages());
 
   // Brings the controls to their first state. A step that fails is shown and ends the loading;
   // the window can be shown all the same.
@@ -96,7 +89,7 @@ class MortaneMainForm : public QMainWindow {
   void BuildToolbar();
   void BuildRail(const PageTable& pages);
   void BuildCommandBar();
-  void BuildPages(const PageTable& pages);
+  void BuildPages(const PageTable& pages, clsK70& k70);
   void BuildStatusBar();
   void StackPages();
   void Arrange();
@@ -105,7 +98,7 @@ class MortaneMainForm : public QMainWindow {
   void FirstActivation();
   void RefreshPages();
   void OnMenuChanged(std::size_t index);
-  void ShowPage(QWidget* page);
+  void ShowPage(Page* page);
   void SaveCurrentPage();
   void LoadAllPages();
   std::int16_t AskDevice();
@@ -125,12 +118,13 @@ class MortaneMainForm : public QMainWindow {
   controller::ControllerLibrary& library_;
   Prompts& prompts_;
   std::vector<std::string> arguments_;
-  std::array<PageEntry, kPageCount> pages_;
+  std::array<Page*, kPageCount> pages_{};
+  std::array<std::function<bool(const clsK70&)>, kPageCount> isPageEnabled_;
   QLabel* versionPanel_ = nullptr;
   ProgressLine* progress_ = nullptr;
   bool started_ = false;
   bool commandRunning_ = false;
-  QWidget* currentPage_ = nullptr;
+  Page* currentPage_ = nullptr;
 };
 
 }  // namespace mortane

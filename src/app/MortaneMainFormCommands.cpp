@@ -8,6 +8,7 @@
 #include "app/SelFileItemDlg.h"
 #include "hub/clsK70.h"
 #include "widgets/CommandKey.h"
+#include "widgets/Page.h"
 
 namespace mortane {
 namespace {
@@ -85,8 +86,9 @@ void MortaneMainForm::DoSend() {
       if (ModifyBeforeSend()) static_cast<void>(GetK70().Modify());
     });
     RunStep(prompts_, [] { GetK70().Send(); });
-    const PageEntry& control = pages_[kControlPage];
-    if (control.SendData) RunStep(prompts_, control.SendData);
+    if (Page* control = pages_[kControlPage]) {
+      RunStep(prompts_, [control] { control->SendData(); });
+    }
     prompts_.Wait(kWaitAfterSendMs);
   }
   setEnabled(true);

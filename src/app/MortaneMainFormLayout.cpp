@@ -14,6 +14,7 @@
 #include "app/GetAppIcon.h"
 #include "app/MortaneMainForm.h"
 #include "widgets/CommandKey.h"
+#include "widgets/Page.h"
 #include "widgets/PageButton.h"
 #include "widgets/ProgressLine.h"
 #include "widgets/Rail.h"
@@ -49,11 +50,11 @@ QString ElementName(const char* array, std::size_t index) {
 
 }  // namespace
 
-MortaneMainForm::MortaneMainForm(MainFormServices services, const PageTable& pages)
+MortaneMainForm::MortaneMainForm(const FormServices& services, const PageTable& pages)
     : CommonDialog1{0, "XML File (*.xml)|*.xml", ".xml"},
       library_(services.library),
       prompts_(services.prompts),
-      arguments_(std::move(services.arguments)) {
+      arguments_(services.arguments) {
   setObjectName("MortaneMainForm");
   setWindowTitle(QLatin1String(kMainTitle));
   setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
@@ -61,7 +62,7 @@ MortaneMainForm::MortaneMainForm(MainFormServices services, const PageTable& pag
   BuildToolbar();
   // The Tab key goes by the order of making: page buttons, page, command keys.
   BuildRail(pages);
-  BuildPages(pages);
+  BuildPages(pages, services.k70);
   BuildCommandBar();
   BuildStatusBar();
   Arrange();
@@ -154,13 +155,13 @@ void MortaneMainForm::BuildCommandBar() {
   ImageCommand[2]->setMain(true);
 }
 
-void MortaneMainForm::BuildPages(const PageTable& pages) {
+void MortaneMainForm::BuildPages(const PageTable& pages, clsK70& k70) {
   FrameControl = new QFrame(this);
   FrameControl->setObjectName("FrameControl");
   for (std::size_t i = 0; i < pages.size(); ++i) {
     if (!pages[i].make) continue;
-    pages_[i] = pages[i].make(*this);
-    pages_[i].isEnabled = pages[i].isEnabled;
+    pages_[i] = pages[i].make(*this, k70);
+    isPageEnabled_[i] = pages[i].isEnabled;
   }
 }
 
@@ -182,8 +183,8 @@ void MortaneMainForm::BuildStatusBar() {
 void MortaneMainForm::StackPages() {
   auto* stack = new QGridLayout(FrameControl);
   stack->setContentsMargins({});
-  for (const PageEntry& page : pages_) {
-    if (page.widget != nullptr) stack->addWidget(page.widget, 0, 0);
+  for (Page* page : pages_) {
+    if (page != nullptr) stack->addWidget(page, 0, 0);
   }
 }
 

@@ -5,19 +5,17 @@
 #include "app/MortaneMainForm.h"
 #include "app/SystemSettingsCtl.h"
 #include "condensers/CondenserSettingsCtl.h"
+#include "filters/FilterItemLists.h"
 #include "filters/FilterQubeSettingsCtl.h"
 #include "hub/clsK70.h"
 #include "objectives/ObjectiveSettingsCtl.h"
+#include "widgets/Named.h"
 
 namespace mortane {
 namespace {
 
-// A page is a member of the window and bears its name.
-template <typename Ctl>
-PageEntry MakePage(MortaneMainForm& form, Ctl*& member, const char* name) {
-  member = new Ctl(form.FrameControl);
-  member->setObjectName(QLatin1String(name));
-  return MakeEntry(*member);
+bool IsFitted(const clsK70& k70, std::int32_t accessory) {
+  return k70.IsMounted(accessory) != kNotMounted;
 }
 
 }  // namespace
@@ -25,27 +23,35 @@ PageEntry MakePage(MortaneMainForm& form, Ctl*& member, const char* name) {
 PageTable MainPages() {
   return {{
       {"System", IconName::System,
-       [](MortaneMainForm& form) {
-         return MakePage(form, form.SystemSettingsCtl1, "SystemSettingsCtl1");
+       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+         return form.SystemSettingsCtl1 =
+                    Named(new SystemSettingsCtl(k70, form.FrameControl), "SystemSettingsCtl1");
        },
        [](const clsK70&) { return true; }},
       {"Objectives", IconName::Objective,
-       [](MortaneMainForm& form) {
-         return MakePage(form, form.ObjectiveSettingsCtl1, "ObjectiveSettingsCtl1");
+       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+         return form.ObjectiveSettingsCtl1 =
+                    Named(new ObjectiveSettingsCtl(k70.curNosepiece, k70.DbNosepiece, k70.curLimit,
+                                                   form.FrameControl),
+                          "ObjectiveSettingsCtl1");
        },
-       [](const clsK70& k70) { return k70.IsMounted(accessory::kNosepiece) != kNotMounted; }},
+       [](const clsK70& k70) { return IsFitted(k70, accessory::kNosepiece); }},
       {"Filter Cubes", IconName::Cube,
-       [](MortaneMainForm& form) {
-         return MakePage(form, form.FilterQubeSettingsCtl1, "FilterQubeSettingsCtl1");
+       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+         const FilterItemLists items{k70.Exciter, k70.Dichroic, k70.Barrier};
+         return form.FilterQubeSettingsCtl1 =
+                    Named(new FilterQubeSettingsCtl(k70.curFilter, k70.dbFilter, items,
+                                                    form.FrameControl),
+                          "FilterQubeSettingsCtl1");
        },
-       [](const clsK70& k70) { return k70.IsMounted(accessory::kFilterCube) != kNotMounted; }},
+       [](const clsK70& k70) { return IsFitted(k70, accessory::kFilterCube); }},
       {"Condensers", IconName::Condenser,
-       [](MortaneMainForm& form) {
-         return MakePage(form, form.CondenserSettingsCtl1, "CondenserSettingsCtl1");
+       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+         return form.CondenserSettingsCtl1 =
+                    Named(new CondenserSettingsCtl(k70.curCondenser, k70.dbcon, form.FrameControl),
+                          "CondenserSettingsCtl1");
        },
-       [](const clsK70& k70) {
-         return k70.Controller(0) && k70.IsMounted(accessory::kCondenser) != kNotMounted;
-       }},
+       [](const clsK70& k70) { return k70.Controller(0) && IsFitted(k70, accessory::kCondenser); }},
       {"Interlocks", IconName::Interlock},
       {"Controls", IconName::Control},
   }};

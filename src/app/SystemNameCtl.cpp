@@ -17,7 +17,7 @@
 namespace mortane {
 namespace {
 
-constexpr int kNameLength = 15;
+constexpr int kNameLength = static_cast<int>(kSystemNameLength);
 // Wide letters are half as wide again as figures.
 constexpr int kNameWidthCharacters = 24;
 constexpr int kCardGap = 12;
@@ -39,13 +39,14 @@ QFont ReportFont() {
 
 }  // namespace
 
-SystemNameCtl::SystemNameCtl(QWidget* parent)
+SystemNameCtl::SystemNameCtl(clsK70& k70, QWidget* parent)
     : Page(parent),
       FrameBase(new QFrame(this)),
       Frame1(nullptr),
       Label1(nullptr),
       TextSystemName(nullptr),
       TextAccessories(nullptr),
+      k70_(k70),
       drawing_(nullptr),
       drawingFrame_(nullptr) {
   FrameBase->setObjectName("FrameBase");
@@ -109,14 +110,13 @@ QWidget* SystemNameCtl::BuildReportCard() {
 }
 
 void SystemNameCtl::LoadData() {
-  clsK70& k70 = GetK70();
-  const bool nameless = Trim(k70.SystemName).empty();
+  const bool nameless = Trim(k70_.SystemName).empty();
   TextSystemName->setText(nameless ? QStringLiteral("NoName")
-                                   : QString::fromStdString(k70.SystemName));
-  TextAccessories->setPlainText(ShownText(k70.GetAccessories()));
+                                   : QString::fromStdString(k70_.SystemName));
+  TextAccessories->setPlainText(ShownText(k70_.GetAccessories()));
   QVector<DrawnAccessory> drawn;
   for (const AccessoryRow& row : kAccessoryTable) {
-    const std::int32_t mounted = k70.IsMounted(row.number);
+    const std::int32_t mounted = k70_.IsMounted(row.number);
     const std::string_view label = ReportLabel(row, mounted);
     drawn.append({row.number, QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())),
                   mounted});
@@ -125,7 +125,7 @@ void SystemNameCtl::LoadData() {
 }
 
 void SystemNameCtl::SaveData() {
-  GetK70().SystemName = TextSystemName->text().toStdString();
+  k70_.SystemName = TextSystemName->text().toStdString();
 }
 
 void SystemNameCtl::resizeEvent(QResizeEvent* event) {

@@ -12,12 +12,13 @@ namespace mortane {
 class InnerFrame;
 class MicroscopeDrawing;
 class TextField;
+class clsK70;
 
 // A nameless controller shows "NoName". That is only shown until the field is left or the page
 // is saved: then it is the name, and a Send writes it.
 class SystemNameCtl : public Page {
  public:
-  explicit SystemNameCtl(QWidget* parent = nullptr);
+  explicit SystemNameCtl(clsK70& k70, QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override;
@@ -35,6 +36,7 @@ class SystemNameCtl : public Page {
   QWidget* BuildNameCard();
   QWidget* BuildReportCard();
 
+  clsK70& k70_;
   MicroscopeDrawing* drawing_;
   InnerFrame* drawingFrame_;
 };

@@ -7,10 +7,10 @@
 
 namespace mortane {
 
-SystemSettingsCtl::SystemSettingsCtl(QWidget* parent)
+SystemSettingsCtl::SystemSettingsCtl(clsK70& k70, QWidget* parent)
     : Page(parent),
       Header(new PageHeader(IconName::System, QStringLiteral("System"), this)),
-      SystemNameCtl1(new SystemNameCtl(this)) {
+      SystemNameCtl1(new SystemNameCtl(k70, this)) {
   Header->setObjectName("Header");
   SystemNameCtl1->setObjectName("SystemNameCtl1");
   MakePageLayout(this, Header)->addWidget(SystemNameCtl1, 1);

@@ -7,10 +7,11 @@ namespace mortane {
 
 class PageHeader;
 class SystemNameCtl;
+class clsK70;
 
 class SystemSettingsCtl : public Page {
  public:
-  explicit SystemSettingsCtl(QWidget* parent = nullptr);
+  explicit SystemSettingsCtl(clsK70& k70, QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override;

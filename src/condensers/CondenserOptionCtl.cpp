@@ -3,48 +3,47 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-#include "common/Text.h"
-#include "hub/clsK70.h"
+#include "condensers/clsDbCondenser.h"
 #include "widgets/Card.h"
 #include "widgets/FoldingLayout.h"
+#include "widgets/Named.h"
+#include "widgets/ShownName.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
 
-constexpr int kNameLength = 10;
+constexpr int kNameLength = static_cast<int>(kOptionNameLength);
 constexpr int kColumnGap = 48;
+
+std::int32_t CodeOf(int row) {
+  return kCondenserOptionBase + row + 1;
+}
 
 }  // namespace
 
-CondenserOptionCtl::CondenserOptionCtl(QWidget* parent)
-    : Page(parent),
-      FrameBase(new Card(QStringLiteral("Add Optional Condenser Data to the List"), this)),
+CondenserOptionCtl::CondenserOptionCtl(clsDbCondenser& condensers, QWidget* parent)
+    : CardPage(QStringLiteral("Add Optional Condenser Data to the List"), parent),
       Label11{},
-      TextName{} {
-  FrameBase->setObjectName("FrameBase");
-  auto* page = new QVBoxLayout(this);
-  page->setContentsMargins({});
-  page->addWidget(FrameBase);
+      TextName{},
+      condensers_(condensers) {
   auto* rows = new FoldingLayout(kColumnGap);
   FrameBase->body()->addLayout(rows, 1);
-  for (int row = 0; row < kRowCount; ++row) rows->addWidget(BuildRow(row));
+  for (int row = 0; row < kOptionPositions; ++row) rows->addWidget(BuildRow(row));
 }
 
 QWidget* CondenserOptionCtl::BuildRow(int row) {
   const auto i = static_cast<std::size_t>(row);
   const QString number = QString::number(row + 1);
   auto* line = new QWidget(FrameBase);
-  Label11[i] = new QLabel(number, line);
-  Label11[i]->setObjectName(QStringLiteral("Label11_%1").arg(row));
-  TextField* field = TextName[i] = new TextField(line);
-  field->setObjectName(QStringLiteral("TextName_%1").arg(row));
+  Label11[i] = Named(new QLabel(number, line), "Label11", row);
+  TextField* field = TextName[i] = Named(new TextField(line), "TextName", row);
   field->setAccessibleName(QStringLiteral("Optional Condenser ") + number);
   field->setFont(FixedFont());
   field->SetLimit(kNameLength);
   field->SetWidthFor(kNameLength);
-  field->SetMark(QLatin1String(kUnnamed));
+  field->SetMark(ToQString(kUnnamedMark));
   Label11[i]->setBuddy(field);
 
   auto* cells = new QHBoxLayout(line);
@@ -61,20 +60,19 @@ QWidget* CondenserOptionCtl::BuildRow(int row) {
 }
 
 void CondenserOptionCtl::LoadData() {
-  for (int row = 0; row < kRowCount; ++row) {
-    const std::string name = GetK70().dbcon.Name(CodeOf(row));
+  for (int row = 0; row < kOptionPositions; ++row) {
     TextName[static_cast<std::size_t>(row)]->setText(
-        Trim(name).empty() ? QLatin1String(kUnnamed) : QString::fromStdString(name));
+        NameOrMark(condensers_.Name(CodeOf(row)), kUnnamedMark));
   }
 }
 
 void CondenserOptionCtl::SaveData() {
-  for (int row = 0; row < kRowCount; ++row) Store(row);
+  for (int row = 0; row < kOptionPositions; ++row) Store(row);
 }
 
 void CondenserOptionCtl::Store(int row) {
   const QString text = TextName[static_cast<std::size_t>(row)]->text();
-  GetK70().dbcon.Name(CodeOf(row), text.toStdString());
+  condensers_.Name(CodeOf(row), text.toStdString());
 }
 
 }  // namespace mortane

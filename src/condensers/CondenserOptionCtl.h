@@ -2,36 +2,33 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 
-#include "widgets/Page.h"
+#include "model/OptionCodes.h"
+#include "widgets/CardPage.h"
 
 class QLabel;
 
 namespace mortane {
 
-class Card;
 class TextField;
+class clsDbCondenser;
 
 // A nameless one shows dashes. They are only a mark, but saving the page takes them for the name.
-class CondenserOptionCtl : public Page {
+class CondenserOptionCtl : public CardPage {
  public:
-  static constexpr int kRowCount = 9;
-  static constexpr char kUnnamed[] = "----------";
-  static constexpr std::int32_t CodeOf(int row) { return 141 + row; }
-
-  explicit CondenserOptionCtl(QWidget* parent = nullptr);
+  explicit CondenserOptionCtl(clsDbCondenser& condensers, QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override;
 
-  Card* FrameBase;
-  std::array<QLabel*, kRowCount> Label11;
-  std::array<TextField*, kRowCount> TextName;
+  std::array<QLabel*, kOptionPositions> Label11;
+  std::array<TextField*, kOptionPositions> TextName;
 
  private:
   QWidget* BuildRow(int row);
   void Store(int row);
+
+  clsDbCondenser& condensers_;
 };
 
 }  // namespace mortane

@@ -2,7 +2,8 @@
 
 #include "condensers/CondenserCassetteCtl.h"
 #include "condensers/CondenserOptionCtl.h"
-#include "hub/clsK70.h"
+#include "condensers/clsCondenser.h"
+#include "widgets/Named.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 
@@ -12,24 +13,24 @@ namespace {
 constexpr int kCassetteOption = 0;
 constexpr int kNamesOption = 1;
 
-bool HasCondenser() {
-  return GetK70().IsMounted(accessory::kCondenser) != kNotMounted;
-}
-
 }  // namespace
 
-CondenserSettingsCtl::CondenserSettingsCtl(QWidget* parent)
+CondenserSettingsCtl::CondenserSettingsCtl(clsCondenser& cassette, clsDbCondenser& condensers,
+                                           QWidget* parent)
     : ContainerPage(IconName::Condenser, QStringLiteral("Condensers"), grid::kSectionStart, parent),
-      Header(header()),
+      Header(Named(header(), "Header")),
       optCondenserSetting(sections()),
-      CondenserCassetteCtl1(new CondenserCassetteCtl),
-      CondenserOptionCtl1(new CondenserOptionCtl) {
-  Header->setObjectName("Header");
-  CondenserCassetteCtl1->setObjectName("CondenserCassetteCtl1");
-  CondenserOptionCtl1->setObjectName("CondenserOptionCtl1");
+      CondenserCassetteCtl1(
+          Named(new CondenserCassetteCtl(cassette, condensers), "CondenserCassetteCtl1")),
+      CondenserOptionCtl1(Named(new CondenserOptionCtl(condensers), "CondenserOptionCtl1")),
+      cassette_(cassette) {
   optCondenserSetting->SetArrayName("optCondenserSetting");
   AddSubPage("Condenser", CondenserCassetteCtl1);
   AddSubPage("Optional", CondenserOptionCtl1);
+}
+
+bool CondenserSettingsCtl::HasCondenser() const {
+  return cassette_.parent.IsMounted(accessory::kCondenser) != kNotMounted;
 }
 
 void CondenserSettingsCtl::LoadData() {

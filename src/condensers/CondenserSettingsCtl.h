@@ -7,11 +7,14 @@ namespace mortane {
 
 class CondenserCassetteCtl;
 class CondenserOptionCtl;
+class clsCondenser;
+class clsDbCondenser;
 
 // The cassette can be seen only where a condenser is mounted; the user's names always.
 class CondenserSettingsCtl : public ContainerPage {
  public:
-  explicit CondenserSettingsCtl(QWidget* parent = nullptr);
+  CondenserSettingsCtl(clsCondenser& cassette, clsDbCondenser& condensers,
+                       QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override;
@@ -20,6 +23,11 @@ class CondenserSettingsCtl : public ContainerPage {
   SectionBar* optCondenserSetting;
   CondenserCassetteCtl* CondenserCassetteCtl1;
   CondenserOptionCtl* CondenserOptionCtl1;
+
+ private:
+  bool HasCondenser() const;
+
+  clsCondenser& cassette_;
 };
 
 }  // namespace mortane

@@ -1,5 +1,7 @@
 #include "condensers/clsCondenser.h"
 
+#include "model/OptionCodes.h"
+
 namespace mortane {
 namespace {
 
@@ -7,7 +9,7 @@ namespace {
 constexpr TurretKind kCassette{
     accessory::kCondenser,
     [](const controller::Microscope& mic) { return mic.CondenserDevice().Positions(); },
-    149,
+    kCondenserOptionBase + kOptionPositions,
     "Condenser Casset (",
     "Condenser[",
     "Condenser Casset[",

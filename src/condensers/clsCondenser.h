@@ -16,6 +16,8 @@ class clsCondenser {
  public:
   clsCondenser(ConnectedMicroscope& microscope, const clsDbCondenser& database);
 
+  static constexpr std::string_view kElement = TurretCodes::kElement;
+
   ConnectedMicroscope& parent;
 
   // Addresses of the cassette; told by the controller on connecting and on each read. A read

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
@@ -11,11 +12,15 @@
 
 namespace mortane {
 
-// Owned by clsK70. Codes are 0 to 149; position n, 1 to 9, of the user's condensers is code
-// 140 + n.
+// Position n, 1 to 9, of the user's condensers is code kCondenserOptionBase + n.
+inline constexpr std::int32_t kCondenserOptionBase = 140;
+
+// Owned by clsK70. Codes are 0 to 149.
 class clsDbCondenser {
  public:
   explicit clsDbCondenser(ConnectedMicroscope& microscope);
+
+  static constexpr std::string_view kElement = "OPTION";
 
   ConnectedMicroscope& parent;
 
@@ -23,6 +28,10 @@ class clsDbCondenser {
   std::string Name(std::int32_t code) const { return names_.Name(code); }
   // Keeps the first ten characters; ignores another code.
   void Name(std::int32_t code, std::string_view name) { names_.Name(code, name); }
+
+  // The fixed condensers that fit an address of the cassette, which the controller alone knows;
+  // those that give no answer are left out.
+  std::vector<std::int32_t> FixedCodesFor(std::int32_t address) const;
 
   std::string ReadSdk() { return names_.Read(parent); }
   std::string ModifySdk(std::string& list) const { return names_.Modify(parent, list); }

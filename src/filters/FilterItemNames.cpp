@@ -7,18 +7,19 @@ namespace {
 
 using controller::AccessoryDatabase;
 
-constexpr std::int32_t kOptionBase = 240;
-
 constexpr std::array<NameListKind, kFilterItems> kKinds{{
     {accessory::kFilterCube, [](const AccessoryDatabase& database) { return database.Exciters(); },
-     kOptionBase, "EXCITER", "Filter Cube Optional Item Exciter (",
-     "Filter Cube Optional Item Exciter[", "Filter Cube Optional Item Exciter["},
+     kOptionBase, kFilterItemElements[0], "Filter Cube Optional Item Exciter (",
+     "Filter Cube Optional Item Exciter[", "Filter Cube Optional Item Exciter[",
+     &AccessoryDatabase::ExciterCount},
     {accessory::kFilterCube, [](const AccessoryDatabase& database) { return database.Dichroics(); },
-     kOptionBase, "DICHROIC", "Filter Cube Optional Item Dichroic (",
-     "Filter Cube Optional Item Dichroic[", "Filter Cube Optional Item Dichroic["},
+     kOptionBase, kFilterItemElements[1], "Filter Cube Optional Item Dichroic (",
+     "Filter Cube Optional Item Dichroic[", "Filter Cube Optional Item Dichroic[",
+     &AccessoryDatabase::DichroicCount},
     {accessory::kFilterCube, [](const AccessoryDatabase& database) { return database.Barriers(); },
-     kOptionBase, "BARRIER", "Filter Cube Optional Item Barrier (",
-     "Filter Cube Optional Item Barrier[", "Filter Cube Optional Item Barrier["},
+     kOptionBase, kFilterItemElements[2], "Filter Cube Optional Item Barrier (",
+     "Filter Cube Optional Item Barrier[", "Filter Cube Optional Item Barrier[",
+     &AccessoryDatabase::BarrierCount},
 }};
 
 }  // namespace

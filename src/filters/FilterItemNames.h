@@ -1,6 +1,7 @@
 // The excitation filters, dichroic mirrors and barrier filters that a controller knows.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -16,6 +17,10 @@ namespace mortane {
 enum class FilterItem : std::size_t { Exciter, Dichroic, Barrier };
 inline constexpr std::size_t kFilterItems = 3;
 
+// Their elements in a settings file.
+inline constexpr std::array<std::string_view, kFilterItems> kFilterItemElements{
+    "EXCITER", "DICHROIC", "BARRIER"};
+
 // In what the three lists differ.
 const NameListKind& FilterItemKind(FilterItem item);
 
@@ -26,12 +31,16 @@ class FilterItemNames {
  public:
   explicit FilterItemNames(ConnectedMicroscope& microscope) : parent(microscope) {}
 
+  static constexpr std::string_view kElement = kFilterItemElements[static_cast<std::size_t>(kItem)];
+
   ConnectedMicroscope& parent;
 
   // Empty for another code.
   std::string Name(std::int32_t code) const { return names_.Name(code); }
   // Keeps the first ten characters; ignores another code.
   void Name(std::int32_t code, std::string_view name) { names_.Name(code, name); }
+
+  std::int32_t FixedCount() const { return names_.FixedCount(parent); }
 
   std::string ReadSdk() { return names_.Read(parent); }
   std::string ModifySdk(std::string& list) const { return names_.Modify(parent, list); }

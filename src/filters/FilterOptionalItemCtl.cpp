@@ -5,7 +5,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "model/OptionCodes.h"
 #include "widgets/Card.h"
+#include "widgets/Named.h"
+#include "widgets/ShownName.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 
@@ -34,29 +37,23 @@ const std::array<FilterOptionalItemCtl::Column, kFilterItems> FilterOptionalItem
      &FilterOptionalItemCtl::TextBarrier},
 }};
 
-FilterOptionalItemCtl::FilterOptionalItemCtl(QWidget* parent) : Page(parent) {
-  // The blank at the end of the caption is given so.
-  auto* card = new Card(QStringLiteral("Add Optional Filter Data "), this);
-  FrameBase = card;
-  FrameBase->setObjectName("FrameBase");
-  auto* panel = new QVBoxLayout(this);
-  panel->setContentsMargins({});
-  panel->addWidget(card);
+// The blank at the end of the caption is given so.
+FilterOptionalItemCtl::FilterOptionalItemCtl(const FilterItemLists& items, QWidget* parent)
+    : CardPage(QStringLiteral("Add Optional Filter Data "), parent), items_(items) {
   auto* cells = new QGridLayout;
   cells->setHorizontalSpacing(grid::kBetweenColumns);
   cells->setVerticalSpacing(grid::kUnit);
   BuildHeads(*cells);
-  for (int row = 0; row < kFilterPositions; ++row) BuildRow(row, *cells);
+  for (int row = 0; row < kOptionPositions; ++row) BuildRow(row, *cells);
   cells->setColumnStretch(static_cast<int>(kFilterItems) + 1, 1);
-  card->body()->addLayout(cells);
-  card->body()->addStretch();
+  FrameBase->body()->addLayout(cells);
+  FrameBase->body()->addStretch();
 }
 
 void FilterOptionalItemCtl::BuildHeads(QGridLayout& cells) {
   int place = 1;
   for (const Column& column : kColumns) {
-    QLabel* label = CaptionLabel(QLatin1String(column.caption), FrameBase);
-    label->setObjectName(QLatin1String(column.labelName));
+    QLabel* label = Named(CaptionLabel(QLatin1String(column.caption), FrameBase), column.labelName);
     this->*column.label = label;
     cells.addWidget(label, 0, place++);
   }
@@ -64,8 +61,7 @@ void FilterOptionalItemCtl::BuildHeads(QGridLayout& cells) {
 
 void FilterOptionalItemCtl::BuildRow(int row, QGridLayout& cells) {
   const auto i = static_cast<std::size_t>(row);
-  Label11[i] = new QLabel(QString::number(row + 1), FrameBase);
-  Label11[i]->setObjectName(QStringLiteral("Label11_%1").arg(row));
+  Label11[i] = Named(new QLabel(QString::number(row + 1), FrameBase), "Label11", row);
   Label11[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   cells.addWidget(Label11[i], row + 1, 0);
   int place = 1;
@@ -74,13 +70,12 @@ void FilterOptionalItemCtl::BuildRow(int row, QGridLayout& cells) {
 }
 
 TextField* FilterOptionalItemCtl::BuildField(const Column& column, int row) {
-  auto* field = new TextField(FrameBase);
-  field->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(column.fieldName)).arg(row));
+  auto* field = Named(new TextField(FrameBase), column.fieldName, row);
   field->setAccessibleName(QStringLiteral("%1 %2").arg(QLatin1String(column.caption)).arg(row + 1));
   field->setFont(FixedFont());
-  field->SetLimit(kFilterNameLength);
+  field->SetLimit(static_cast<int>(kOptionNameLength));
   field->SetWidthFor(kFieldCharacters);
-  field->SetMark(QLatin1String(kUnusedFilter));
+  field->SetMark(ToQString(kUnnamedMark));
   field->setValidation([this, &column, row] {
     Store(column, row);
     return true;
@@ -92,16 +87,16 @@ TextField* FilterOptionalItemCtl::BuildField(const Column& column, int row) {
 
 void FilterOptionalItemCtl::LoadData() {
   for (const Column& column : kColumns) {
-    std::int32_t code = kFirstOptionalFilter;
+    std::int32_t code = kOptionBase;
     for (TextField* field : this->*column.fields) {
-      field->setText(NameOrMark(FilterItemName(column.item, code++)));
+      field->setText(NameOrMark(items_.Name(column.item, ++code), kUnnamedMark));
     }
   }
 }
 
 // From right to left, barrier first.
 void FilterOptionalItemCtl::SaveData() {
-  for (int row = 0; row < kFilterPositions; ++row) {
+  for (int row = 0; row < kOptionPositions; ++row) {
     std::for_each(kColumns.rbegin(), kColumns.rend(),
                   [this, row](const Column& column) { Store(column, row); });
   }
@@ -109,7 +104,7 @@ void FilterOptionalItemCtl::SaveData() {
 
 void FilterOptionalItemCtl::Store(const Column& column, int row) {
   const TextField* field = (this->*column.fields)[static_cast<std::size_t>(row)];
-  PutFilterItemName(column.item, kFirstOptionalFilter + row, field->text());
+  items_.Name(column.item, kOptionBase + row + 1, field->text().toStdString());
 }
 
 }  // namespace mortane

@@ -3,11 +3,10 @@
 
 #include <array>
 
-#include "filters/FilterItemNames.h"
-#include "filters/OptionalFilters.h"
-#include "widgets/Page.h"
+#include "filters/FilterItemLists.h"
+#include "model/OptionCodes.h"
+#include "widgets/CardPage.h"
 
-class QFrame;
 class QGridLayout;
 class QLabel;
 
@@ -16,22 +15,21 @@ namespace mortane {
 class TextField;
 
 // A nameless item shows dashes. They are only a mark, but saving takes them for the name.
-class FilterOptionalItemCtl : public Page {
+class FilterOptionalItemCtl : public CardPage {
   Q_OBJECT
 
  public:
-  explicit FilterOptionalItemCtl(QWidget* parent = nullptr);
+  explicit FilterOptionalItemCtl(const FilterItemLists& items, QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override;
 
-  using Fields = std::array<TextField*, kFilterPositions>;
+  using Fields = std::array<TextField*, kOptionPositions>;
 
-  QFrame* FrameBase;
   QLabel* Label1;
   QLabel* Label2;
   QLabel* Label3;
-  std::array<QLabel*, kFilterPositions> Label11;
+  std::array<QLabel*, kOptionPositions> Label11;
   Fields TextExciter;
   Fields TextDichroic;
   Fields TextBarrier;
@@ -44,6 +42,8 @@ class FilterOptionalItemCtl : public Page {
   void BuildRow(int row, QGridLayout& cells);
   TextField* BuildField(const Column& column, int row);
   void Store(const Column& column, int row);
+
+  FilterItemLists items_;
 };
 
 }  // namespace mortane

@@ -5,10 +5,13 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "filters/OptionalFilters.h"
-#include "hub/clsK70.h"
+#include "common/Text.h"
+#include "filters/clsDbFilter.h"
+#include "model/OptionCodes.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
+#include "widgets/Named.h"
+#include "widgets/ShownName.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
@@ -19,8 +22,6 @@ namespace {
 
 // Wide letters are half as wide again as figures.
 constexpr int kNameWidthCharacters = 16;
-
-using controller::AccessoryDatabase;
 
 }  // namespace
 
@@ -33,36 +34,29 @@ struct FilterOptionalQubeCtl::Item {
   QLabel* FilterOptionalQubeCtl::*label;
   ValueLabel* FilterOptionalQubeCtl::*value;
   ListBox* FilterOptionalQubeCtl::*list;
-  std::int32_t (AccessoryDatabase::*count)() const;  // the highest fixed code
 };
 
 const std::array<FilterOptionalQubeCtl::Item, kFilterItems> FilterOptionalQubeCtl::kItems{{
     {FilterItem::Exciter, "Label2", "Exciter", "LabelExciter", "ListExciter",
      &FilterOptionalQubeCtl::Label2, &FilterOptionalQubeCtl::LabelExciter,
-     &FilterOptionalQubeCtl::ListExciter, &AccessoryDatabase::ExciterCount},
+     &FilterOptionalQubeCtl::ListExciter},
     {FilterItem::Dichroic, "Label3", "Dichroic", "LabelDichroic", "ListDichroic",
      &FilterOptionalQubeCtl::Label3, &FilterOptionalQubeCtl::LabelDichroic,
-     &FilterOptionalQubeCtl::ListDichroic, &AccessoryDatabase::DichroicCount},
+     &FilterOptionalQubeCtl::ListDichroic},
     {FilterItem::Barrier, "Label4", "Barrier", "LabelBarrier", "ListBarrier",
      &FilterOptionalQubeCtl::Label4, &FilterOptionalQubeCtl::LabelBarrier,
-     &FilterOptionalQubeCtl::ListBarrier, &AccessoryDatabase::BarrierCount},
+     &FilterOptionalQubeCtl::ListBarrier},
 }};
 
-FilterOptionalQubeCtl::FilterOptionalQubeCtl(QWidget* parent) : Page(parent) {
-  auto* card = new Card(QStringLiteral("Add Optional Filter Cube Data to the List"), this);
-  FrameBase = card;
-  FrameBase->setObjectName("FrameBase");
-  auto* panel = new QVBoxLayout(this);
-  panel->setContentsMargins({});
-  panel->addWidget(card);
-  TabOption = new TabStrip(card);
-  TabOption->setObjectName("TabOption");
+FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterItemLists& items,
+                                             QWidget* parent)
+    : CardPage(QStringLiteral("Add Optional Filter Cube Data to the List"), parent),
+      cubes_(cubes),
+      items_(items) {
+  TabOption = Named(new TabStrip(FrameBase), "TabOption");
   TabOption->setAccessibleName(QStringLiteral("Position"));
-  QStringList captions;
-  for (int i = 1; i <= kFilterPositions; ++i) captions.append(QString::number(i));
-  TabOption->SetTabs(captions);
-  frm2 = new QFrame(card);
-  frm2->setObjectName("frm2");
+  TabOption->SetNumberedTabs(kOptionPositions);
+  frm2 = Named(new QFrame(FrameBase), "frm2");
   auto* rows = new QVBoxLayout(frm2);
   rows->setContentsMargins({});
   rows->setSpacing(grid::kBetweenGroups);
@@ -73,8 +67,8 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(QWidget* parent) : Page(parent) {
   int column = 0;
   for (const Item& item : kItems) BuildList(item, column++, *cells);
   rows->addLayout(cells, 1);
-  card->body()->addWidget(TabOption);
-  card->body()->addWidget(frm2, 1);
+  FrameBase->body()->addWidget(TabOption);
+  FrameBase->body()->addWidget(frm2, 1);
   connect(TabOption, &TabStrip::clicked, this, [this] {
     ReadCube();
     for (const Item& item : kItems) SelectItem(item);
@@ -83,13 +77,11 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(QWidget* parent) : Page(parent) {
 
 QWidget* FilterOptionalQubeCtl::BuildName() {
   auto* ground = new QWidget(frm2);
-  Label1 = new QLabel(QStringLiteral("Name"), ground);
-  Label1->setObjectName("Label1");
-  TextName = new TextField(ground);
-  TextName->setObjectName("TextName");
-  TextName->SetLimit(kFilterNameLength);
+  Label1 = Named(new QLabel(QStringLiteral("Name"), ground), "Label1");
+  TextName = Named(new TextField(ground), "TextName");
+  TextName->SetLimit(static_cast<int>(kOptionNameLength));
   TextName->SetWidthFor(kNameWidthCharacters);
-  TextName->SetMark(QLatin1String(kUnusedFilter), TextField::LeftBlank::StaysBlank);
+  TextName->SetMark(ToQString(kUnnamedMark), TextField::LeftBlank::StaysBlank);
   TextName->setValidation([this] {
     Store();
     return true;
@@ -106,12 +98,9 @@ QWidget* FilterOptionalQubeCtl::BuildName() {
 }
 
 void FilterOptionalQubeCtl::BuildList(const Item& item, int column, QGridLayout& cells) {
-  QLabel* label = CaptionLabel(QLatin1String(item.caption), frm2);
-  label->setObjectName(QLatin1String(item.captionName));
-  auto* value = new ValueLabel(frm2);
-  value->setObjectName(QLatin1String(item.valueName));
-  auto* list = new ListBox(frm2);
-  list->setObjectName(QLatin1String(item.listName));
+  QLabel* label = Named(CaptionLabel(QLatin1String(item.caption), frm2), item.captionName);
+  auto* value = Named(new ValueLabel(frm2), item.valueName);
+  auto* list = Named(new ListBox(frm2), item.listName);
   list->setAccessibleName(label->text());
   label->setBuddy(list);
   cells.addWidget(label, 0, column);
@@ -143,24 +132,24 @@ void FilterOptionalQubeCtl::LoadData() {
 void FilterOptionalQubeCtl::ReadCube() {
   std::string name;
   auto& [exciter, dichroic, barrier] = codes_;
-  GetK70().dbFilter.Get_DbFilterOption(TabOption->caption().toInt(), name, exciter, dichroic,
-                                       barrier);
-  TextName->setText(NameOrMark(QString::fromStdString(name)));
+  cubes_.Get_DbFilterOption(TabOption->caption().toInt(), name, exciter, dichroic, barrier);
+  TextName->setText(NameOrMark(name, kUnnamedMark));
 }
 
 void FilterOptionalQubeCtl::FillList(const Item& item) {
   ListBox* list = this->*item.list;
   list->clearRows();
-  const std::int32_t highest = HighestFixedCode(item.count);
-  for (std::int32_t code = 0; code <= highest; ++code) {
-    const QString name = FilterItemName(item.item, code);
-    if (name != QLatin1String(kUnusedFilter)) list->addRow(name, code);
-  }
-  for (std::int32_t code = kFirstOptionalFilter; code <= kLastOptionalFilter; ++code) {
-    const QString name = FilterItemName(item.item, code);
-    if (name != QLatin1String(kUnusedFilter) && !IsBlankName(name)) list->addRow(name, code);
+  const std::int32_t fixed = items_.FixedCount(item.item);
+  for (std::int32_t code = 0; code <= fixed; ++code) AddItem(item, code);
+  for (std::int32_t code = kOptionBase + 1; code <= kHighestCode; ++code) {
+    if (!Trim(items_.Name(item.item, code)).empty()) AddItem(item, code);
   }
   SelectItem(item);
+}
+
+void FilterOptionalQubeCtl::AddItem(const Item& item, std::int32_t code) {
+  const std::string name = items_.Name(item.item, code);
+  if (name != kUnnamedMark) (this->*item.list)->addRow(QString::fromStdString(name), code);
 }
 
 // A code without a row leaves the selection.
@@ -172,8 +161,8 @@ void FilterOptionalQubeCtl::SelectItem(const Item& item) {
 }
 
 void FilterOptionalQubeCtl::Store() {
-  GetK70().dbFilter.Set_DbFilterOption(TabOption->caption().toInt(), TextName->text().toStdString(),
-                                       codes_[0], codes_[1], codes_[2]);
+  cubes_.Set_DbFilterOption(TabOption->caption().toInt(), TextName->text().toStdString(), codes_[0],
+                            codes_[1], codes_[2]);
 }
 
 }  // namespace mortane

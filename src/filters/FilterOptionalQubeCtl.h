@@ -4,8 +4,8 @@
 #include <array>
 #include <cstdint>
 
-#include "filters/FilterItemNames.h"
-#include "widgets/Page.h"
+#include "filters/FilterItemLists.h"
+#include "widgets/CardPage.h"
 
 class QFrame;
 class QGridLayout;
@@ -17,19 +17,20 @@ class ListBox;
 class TabStrip;
 class TextField;
 class ValueLabel;
+class clsDbFilter;
 
 // Every accepted entry stores the whole cube on show. So does a new row that loading selects,
 // with the name as shown: dashes for a blank one. An item that no list offers stays as it is.
-class FilterOptionalQubeCtl : public Page {
+class FilterOptionalQubeCtl : public CardPage {
   Q_OBJECT
 
  public:
-  explicit FilterOptionalQubeCtl(QWidget* parent = nullptr);
+  FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterItemLists& items,
+                        QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override { Store(); }
 
-  QFrame* FrameBase;
   TabStrip* TabOption;
   QFrame* frm2;
   QLabel* Label1;
@@ -53,10 +54,13 @@ class FilterOptionalQubeCtl : public Page {
   // Takes over name and codes; they must be complete before a row is selected, which stores.
   void ReadCube();
   void FillList(const Item& item);
+  void AddItem(const Item& item, std::int32_t code);
   void SelectItem(const Item& item);
   std::int32_t& codeOf(const Item& item);
   void Store();
 
+  clsDbFilter& cubes_;
+  FilterItemLists items_;
   std::array<std::int32_t, kFilterItems> codes_{};  // of the cube on show
 };
 

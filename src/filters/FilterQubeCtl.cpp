@@ -3,10 +3,13 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "filters/OptionalFilters.h"
-#include "hub/clsK70.h"
+#include "common/Text.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
+#include "model/OptionCodes.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
+#include "widgets/Named.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/TurretDrawing.h"
@@ -16,8 +19,6 @@
 namespace mortane {
 namespace {
 
-// A record whose name begins so is a place in the list that holds no cube.
-constexpr std::string_view kDashes = "-------";
 constexpr QChar kSeparator = u'\t';
 constexpr int kCharacters = 10;
 
@@ -33,21 +34,22 @@ constexpr char kAddressOfSecondCube[] = "6";
 constexpr char kQuestion[] =
     "This position is related with Observation Method.\r\nIs Change data on this position?";
 
-QString RowText(std::int32_t code) {
+QString RowText(const clsDbFilter& cubes, std::int32_t code) {
   std::string name;
   std::string exciter;
   std::string dichroic;
   std::string barrier;
-  GetK70().dbFilter.Get_DbFilter(code, name, exciter, dichroic, barrier);
+  cubes.Get_DbFilter(code, name, exciter, dichroic, barrier);
   const QStringList parts{QString::fromStdString(name), QString::fromStdString(exciter),
                           QString::fromStdString(dichroic), QString::fromStdString(barrier)};
   return parts.join(kSeparator);
 }
 
-TurretItem TurretItemOf(std::int32_t code) {
-  const QString name = RowText(code).section(kSeparator, 0, 0);
-  if (IsBlankName(name) || name.startsWith(QLatin1String(kDashes.data()))) return {};
-  return {name, name, std::nullopt};
+TurretItem TurretItemOf(const clsDbFilter& cubes, std::int32_t code) {
+  const std::string name = FirstCharacters(cubes.Name(code), kOptionNameLength);
+  if (Trim(name).empty() || IsVacant(name)) return {};
+  const QString shown = QString::fromStdString(name);
+  return {shown, shown, std::nullopt};
 }
 
 }  // namespace
@@ -67,19 +69,15 @@ const std::array<FilterQubeCtl::Value, 4> FilterQubeCtl::kValues{{
     {"Label4", "Barrier", "LabelBarrier", &FilterQubeCtl::Label4, &FilterQubeCtl::LabelBarrier},
 }};
 
-FilterQubeCtl::FilterQubeCtl(QWidget* parent) : Page(parent) {
-  auto* card = new Card(QStringLiteral("Set Filter Cube Data to Each Address"), this);
-  FrameBase = card;
-  FrameBase->setObjectName("FrameBase");
-  auto* panel = new QVBoxLayout(this);
-  panel->setContentsMargins({});
-  panel->addWidget(card);
-  TabPocket = new TabStrip(card);
-  TabPocket->setObjectName("TabPocket");
+FilterQubeCtl::FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidget* parent)
+    : CardPage(QStringLiteral("Set Filter Cube Data to Each Address"), parent),
+      filterTurret_(turret),
+      cubes_(cubes) {
+  TabPocket = Named(new TabStrip(FrameBase), "TabPocket");
   TabPocket->setAccessibleName(QStringLiteral("Address"));
-  card->body()->addWidget(TabPocket);
-  card->body()->addWidget(BuildList(card), 1);
-  card->body()->addWidget(BuildPlate(card));
+  FrameBase->body()->addWidget(TabPocket);
+  FrameBase->body()->addWidget(BuildList(FrameBase), 1);
+  FrameBase->body()->addWidget(BuildPlate(FrameBase));
 
   connect(TabPocket, &TabStrip::clicked, this, &FilterQubeCtl::ClickTab);
   connect(List1, &ListBox::clicked, this, &FilterQubeCtl::ClickList);
@@ -94,10 +92,8 @@ QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
   auto* row = new QHBoxLayout(ground);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
-  turret_ = new TurretDrawing(PlaceKind::Cubes, ground);
-  turret_->setObjectName("turret");
-  List1 = new ListBox(ground);
-  List1->setObjectName("List1");
+  turret_ = Named(new TurretDrawing(PlaceKind::Cubes, ground), "turret");
+  List1 = Named(new ListBox(ground), "List1");
   List1->setAccessibleName(QStringLiteral("Filter Cubes"));
   QVector<ListColumn> columns;
   for (const Value& value : kValues) columns.append({QLatin1String(value.caption)});
@@ -109,8 +105,7 @@ QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
 
 QFrame* FilterQubeCtl::BuildPlate(QWidget* parent) {
   auto* plate = new ValuePlate(parent);
-  Frm1 = plate;
-  Frm1->setObjectName("Frm1");
+  Frm1 = Named(plate, "Frm1");
   for (const Value& value : kValues) {
     const ValuePlate::Value added =
         plate->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
@@ -132,34 +127,30 @@ std::int32_t FilterQubeCtl::address() const {
 }
 
 std::int32_t FilterQubeCtl::mounted() const {
-  return GetK70().curFilter.code(address());
+  return filterTurret_.code(address());
 }
 
 void FilterQubeCtl::LoadData() {
-  const clsFilter& turret = GetK70().curFilter;
-  QStringList captions;
-  for (std::int32_t i = 1; i <= turret.Count; ++i) captions.append(QString::number(i));
-  TabPocket->SetTabs(captions);
+  TabPocket->SetNumberedTabs(filterTurret_.Count);
   UpdateTurret();
   List1->clearRows();
-  if (turret.Count >= 1) List1->setIndex(FillList(mounted()));
+  if (filterTurret_.Count >= 1) List1->setIndex(FillList(mounted()));
   ShowParts(List1->index());
 }
 
 // A fixed cube is selected by its code and not by its row. Behind a record that is not listed this
 // selects, and so mounts, another cube; the row is known only when all of them are there.
 int FilterQubeCtl::FillList(std::int32_t mounted) {
-  const clsDbFilter& database = GetK70().dbFilter;
   int selected = -1;
-  const std::int32_t highest = HighestFixedCode(&controller::AccessoryDatabase::FilterCubeCount);
-  for (std::int32_t code = 0; code <= highest; ++code) {
-    if (database.Name(code).starts_with(kDashes)) continue;
+  const std::int32_t fixed = cubes_.FixedCount();
+  for (std::int32_t code = 0; code <= fixed; ++code) {
+    if (IsVacant(cubes_.Name(code))) continue;
     AddCube(code);
     if (code == mounted) selected = code;
   }
-  for (std::int32_t code = kFirstOptionalFilter; code <= kLastOptionalFilter; ++code) {
-    const std::string name = database.Name(code);
-    if (name.starts_with(kDashes) || IsBlankName(QString::fromStdString(name))) continue;
+  for (std::int32_t code = kOptionBase + 1; code <= kHighestCode; ++code) {
+    const std::string name = cubes_.Name(code);
+    if (IsVacant(name) || Trim(name).empty()) continue;
     AddCube(code);
     if (code == mounted) selected = List1->rowCount() - 1;
   }
@@ -167,7 +158,7 @@ int FilterQubeCtl::FillList(std::int32_t mounted) {
 }
 
 void FilterQubeCtl::AddCube(std::int32_t code) {
-  List1->addRow(RowText(code), code);
+  List1->addRow(RowText(cubes_, code), code);
 }
 
 int FilterQubeCtl::RowOf(std::int32_t code) const {
@@ -188,7 +179,7 @@ void FilterQubeCtl::ClickTab() {
 
 void FilterQubeCtl::ClickList(int row) {
   if (LeavesProtectedCube(row) &&
-      GetK70().prompts().MsgBox(kQuestion, box::kYesNo, "Warning") != Answer::Yes) {
+      filterTurret_.parent.prompts().MsgBox(kQuestion, box::kYesNo, "Warning") != Answer::Yes) {
     ClickTab();
     return;
   }
@@ -196,15 +187,15 @@ void FilterQubeCtl::ClickList(int row) {
 }
 
 bool FilterQubeCtl::LeavesProtectedCube(int row) const {
-  if (address() != GetK70().curFilter.Count || row < kProtectedRows) return false;
+  if (address() != filterTurret_.Count || row < kProtectedRows) return false;
   const int from = RowOf(mounted());
   return from >= 0 && from < kProtectedRows;
 }
 
 void FilterQubeCtl::ShowAndStore(int row) {
   ShowParts(row);
-  GetK70().curFilter.code(address(), List1->data(row).toInt());
-  turret_->SetItem(TabPocket->index(), TurretItemOf(mounted()));
+  filterTurret_.code(address(), List1->data(row).toInt());
+  turret_->SetItem(TabPocket->index(), TurretItemOf(cubes_, mounted()));
 }
 
 void FilterQubeCtl::ShowParts(int row) {
@@ -214,9 +205,9 @@ void FilterQubeCtl::ShowParts(int row) {
 }
 
 void FilterQubeCtl::UpdateTurret() {
-  const clsFilter& turret = GetK70().curFilter;
   QVector<TurretItem> items;
-  for (std::int32_t i = 1; i <= turret.Count; ++i) items.append(TurretItemOf(turret.code(i)));
+  for (std::int32_t i = 1; i <= filterTurret_.Count; ++i)
+    items.append(TurretItemOf(cubes_, filterTurret_.code(i)));
   turret_->SetItems(items);
   turret_->setIndex(TabPocket->index());
 }

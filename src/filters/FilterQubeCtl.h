@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-#include "widgets/Page.h"
+#include "widgets/CardPage.h"
 
 class QFrame;
 class QLabel;
@@ -16,21 +16,21 @@ class ListBox;
 class TabStrip;
 class TurretDrawing;
 class ValueLabel;
+class clsDbFilter;
+class clsFilter;
 struct TurretItem;
 
 // Every selection in the list mounts that cube, also one that the program makes. The observation
 // methods rely on the last address holding one of the first two cubes, so a change away from them
 // is asked about.
-class FilterQubeCtl : public Page {
+class FilterQubeCtl : public CardPage {
   Q_OBJECT
 
  public:
-  explicit FilterQubeCtl(QWidget* parent = nullptr);
+  FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidget* parent = nullptr);
 
   void LoadData() override;
-  void SaveData() override {}  // every choice is in the model already
 
-  QFrame* FrameBase;
   TabStrip* TabPocket;
   ListBox* List1;
   QFrame* Frm1;
@@ -65,6 +65,8 @@ class FilterQubeCtl : public Page {
   std::int32_t mounted() const;
   void UpdateTurret();
 
+  clsFilter& filterTurret_;
+  const clsDbFilter& cubes_;
   TurretDrawing* turret_ = nullptr;
   bool shownBefore_ = false;
 };

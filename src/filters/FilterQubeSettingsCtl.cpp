@@ -5,7 +5,9 @@
 #include "filters/FilterOptionalItemCtl.h"
 #include "filters/FilterOptionalQubeCtl.h"
 #include "filters/FilterQubeCtl.h"
-#include "hub/clsK70.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
+#include "widgets/Named.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 
@@ -15,23 +17,18 @@ namespace {
 constexpr int kTurretSection = 0;
 constexpr int kCubeSection = 1;
 
-bool HasTurret() {
-  return GetK70().IsMounted(accessory::kFilterCube) != kNotMounted;
-}
-
 }  // namespace
 
-FilterQubeSettingsCtl::FilterQubeSettingsCtl(QWidget* parent)
+FilterQubeSettingsCtl::FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cubes,
+                                             const FilterItemLists& items, QWidget* parent)
     : ContainerPage(IconName::Cube, QStringLiteral("Filter Cubes"), grid::kSectionStart, parent),
-      Header(header()),
+      Header(Named(header(), "Header")),
       optFilterSetting{},
-      FilterQubeCtl1(new FilterQubeCtl),
-      FilterOptionalQubeCtl1(new FilterOptionalQubeCtl),
-      FilterOptionalItemCtl1(new FilterOptionalItemCtl) {
-  Header->setObjectName("Header");
-  FilterQubeCtl1->setObjectName("FilterQubeCtl1");
-  FilterOptionalQubeCtl1->setObjectName("FilterOptionalQubeCtl1");
-  FilterOptionalItemCtl1->setObjectName("FilterOptionalItemCtl1");
+      FilterQubeCtl1(Named(new FilterQubeCtl(turret, cubes), "FilterQubeCtl1")),
+      FilterOptionalQubeCtl1(
+          Named(new FilterOptionalQubeCtl(cubes, items), "FilterOptionalQubeCtl1")),
+      FilterOptionalItemCtl1(Named(new FilterOptionalItemCtl(items), "FilterOptionalItemCtl1")),
+      turret_(turret) {
   sections()->SetArrayName("optFilterSetting");
   AddSubPage(QStringLiteral("Filter Cube"), FilterQubeCtl1);
   AddSubPage(QStringLiteral("Optional Cube"), FilterOptionalQubeCtl1);
@@ -39,6 +36,10 @@ FilterQubeSettingsCtl::FilterQubeSettingsCtl(QWidget* parent)
   for (std::size_t i = 0; i < optFilterSetting.size(); ++i) {
     optFilterSetting[i] = sections()->option(static_cast<int>(i));
   }
+}
+
+bool FilterQubeSettingsCtl::HasTurret() const {
+  return turret_.parent.IsMounted(accessory::kFilterCube) != kNotMounted;
 }
 
 void FilterQubeSettingsCtl::LoadData() {

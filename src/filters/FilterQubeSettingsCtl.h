@@ -12,6 +12,9 @@ namespace mortane {
 class FilterOptionalItemCtl;
 class FilterOptionalQubeCtl;
 class FilterQubeCtl;
+class clsDbFilter;
+class clsFilter;
+struct FilterItemLists;
 
 // Loading shows the turret where there is one, otherwise the user's cubes. Saving leaves the
 // user's cubes alone: a name that was typed there but not accepted is not taken.
@@ -19,7 +22,8 @@ class FilterQubeSettingsCtl : public ContainerPage {
   Q_OBJECT
 
  public:
-  explicit FilterQubeSettingsCtl(QWidget* parent = nullptr);
+  FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cubes, const FilterItemLists& items,
+                        QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override;
@@ -29,6 +33,11 @@ class FilterQubeSettingsCtl : public ContainerPage {
   FilterQubeCtl* FilterQubeCtl1;
   FilterOptionalQubeCtl* FilterOptionalQubeCtl1;
   FilterOptionalItemCtl* FilterOptionalItemCtl1;
+
+ private:
+  bool HasTurret() const;
+
+  clsFilter& turret_;
 };
 
 }  // namespace mortane

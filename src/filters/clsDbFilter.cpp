@@ -12,16 +12,12 @@ namespace {
 
 using controller::FilterCubeRecord;
 
-constexpr std::size_t kCodes = 250;
-constexpr std::int32_t kHighestItem = 249;
-constexpr std::int32_t kOptionBase = 240;
+constexpr std::size_t kCodes = kHighestCode + 1;
 
 // The comparison alone has no blank before its bracket.
 constexpr std::string_view kFailure = "Filter Cube Optional Cube (";
 constexpr std::string_view kModifyFailure = "Filter Cube Optional Cube(";
 constexpr std::string_view kItem = "Filter Cube Optional Cube[";
-
-constexpr std::size_t kNameLength = 10;
 
 // The text form of the item codes: for each item a mark and three digits.
 constexpr std::size_t kItemDigits = 3;
@@ -85,13 +81,13 @@ std::string EncodeItems(const FilterCubeItems& items) {
 
 bool AreLegal(const FilterCubeItems& items) {
   return std::all_of(kItemMembers.begin(), kItemMembers.end(), [&](const ItemMember& item) {
-    return items.*item.code >= 0 && items.*item.code <= kHighestItem;
+    return items.*item.code >= 0 && items.*item.code <= kHighestCode;
   });
 }
 
 template <typename Items>
 std::string ShownName(const Items& items, std::int32_t code) {
-  return code == 0 ? std::string() : FirstCharacters(items.Name(code), kNameLength);
+  return code == 0 ? std::string() : FirstCharacters(items.Name(code), kOptionNameLength);
 }
 
 }  // namespace
@@ -108,12 +104,20 @@ std::string clsDbFilter::Name(std::int32_t code) const {
   return IsCode(code) ? cubes_[static_cast<std::size_t>(code)].name : std::string();
 }
 
+std::int32_t clsDbFilter::FixedCount() const {
+  try {
+    return parent.Mic.AccessoryDatabase().FilterCubeCount();
+  } catch (const Failure&) {
+    return 0;
+  }
+}
+
 void clsDbFilter::Get_DbFilter(std::int32_t code, std::string& sName, std::string& sExciter,
                                std::string& sDichroic, std::string& sBarrier) const {
   for (std::string* text : {&sName, &sExciter, &sDichroic, &sBarrier}) text->clear();
   if (!IsCode(code)) return;
   const Cube& cube = cubes_[static_cast<std::size_t>(code)];
-  sName = FirstCharacters(cube.name, kNameLength);
+  sName = FirstCharacters(cube.name, kOptionNameLength);
   sExciter = ShownName(exciters_, cube.items.exciter);
   sDichroic = ShownName(dichroics_, cube.items.dichroic);
   sBarrier = ShownName(barriers_, cube.items.barrier);
@@ -133,7 +137,7 @@ void clsDbFilter::Set_DbFilterOption(std::int32_t npos, std::string_view sName,
                                      std::int32_t lExciter, std::int32_t lDichroic,
                                      std::int32_t lBarrier) {
   if (!IsOptionPosition(npos)) return;
-  cubes_[OptionIndex(npos)] = {FirstCharacters(sName, kNameLength),
+  cubes_[OptionIndex(npos)] = {FirstCharacters(sName, kOptionNameLength),
                                {lExciter, lDichroic, lBarrier}};
 }
 
@@ -156,7 +160,7 @@ void clsDbFilter::ReadRecord(const FilterCubeRecord& record) {
 
 // The cube stays usable with such an item missing.
 void clsDbFilter::DropUnknownItems(std::int32_t code, FilterCubeItems& items) const {
-  const auto isBeyond = [&](const ItemMember& item) { return items.*item.code > kHighestItem; };
+  const auto isBeyond = [&](const ItemMember& item) { return items.*item.code > kHighestCode; };
   if (std::none_of(kItemMembers.begin(), kItemMembers.end(), isBeyond)) return;
   parent.prompts().MsgBox("*** DbFilter.DataError " + std::to_string(code), box::kOk);
   for (const ItemMember& item : kItemMembers) {
@@ -228,7 +232,7 @@ std::string clsDbFilter::ReadDom(const DomNode& node) {
 void clsDbFilter::WriteDom(DomDocument& document, DomNode section) const {
   for (std::int32_t position = 1; position <= kOptionPositions; ++position) {
     const Cube& cube = cubes_[OptionIndex(position)];
-    DomNode element = document.CreateElement("OPTION");
+    DomNode element = document.CreateElement(kElement);
     element.SetAttribute("POSITION", std::to_string(position));
     element.SetAttribute("CODE", EncodeItems(cube.items));
     element.SetAttribute("NAME", cube.name);

@@ -29,10 +29,16 @@ class clsDbFilter {
   clsDbFilter(ConnectedMicroscope& microscope, const clsDbExciter& exciters,
               const clsDbDichroic& dichroics, const clsDbBarrier& barriers);
 
+  static constexpr std::string_view kElement = "OPTION";
+
   ConnectedMicroscope& parent;
 
   // In full; empty for another code.
   std::string Name(std::int32_t code) const;
+
+  // The fixed cubes as the controller counts them, which is their highest code; 0 where it gives
+  // no answer.
+  std::int32_t FixedCount() const;
 
   // The names of a cube and of its items, each cut to ten characters; an item that the cube has
   // not is empty, and so are all four for another code.

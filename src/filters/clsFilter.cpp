@@ -1,14 +1,14 @@
 #include "filters/clsFilter.h"
 
+#include "model/OptionCodes.h"
+
 namespace mortane {
 namespace {
-
-constexpr std::size_t kNameLength = 10;
 
 constexpr TurretKind kFilterTurret{
     accessory::kFilterCube,
     [](const controller::Microscope& mic) { return mic.FilterCubeDevice().Positions(); },
-    249,
+    kHighestCode,
     "Filter Cube (",
     "Filter Cube[",
     "Filter Cube[",
@@ -21,7 +21,7 @@ clsFilter::clsFilter(ConnectedMicroscope& microscope, const clsDbFilter& databas
 
 std::string clsFilter::ModifySdk(std::string& list) const {
   return codes_.Modify(parent, list, [this](std::int32_t code) {
-    return FirstCharacters(database_.Name(code), kNameLength);
+    return FirstCharacters(database_.Name(code), kOptionNameLength);
   });
 }
 

@@ -16,6 +16,8 @@ class clsFilter {
  public:
   clsFilter(ConnectedMicroscope& microscope, const clsDbFilter& database);
 
+  static constexpr std::string_view kElement = TurretCodes::kElement;
+
   ConnectedMicroscope& parent;
 
   // Positions of the turret; told by clsK70 on connecting and after each transfer from the

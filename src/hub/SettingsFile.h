@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "document/Dom.h"
+#include "model/ConfigurationUnit.h"
 
 namespace mortane {
 
@@ -58,9 +59,9 @@ struct FileElement {
 using FileTable = std::vector<FileElement>;
 
 // The row of a unit that follows the pattern ReadDom, WriteDom.
-template <typename Unit>
-FileElement MakeFileElement(std::size_t fileItem, std::string_view name, Unit& unit) {
-  return {fileItem, name, NameMatch::IgnoringCase,
+template <ConfigurationUnit Unit>
+FileElement MakeFileElement(std::size_t fileItem, Unit& unit) {
+  return {fileItem, Unit::kElement, NameMatch::IgnoringCase,
           [&unit](DomNode node) { return unit.ReadDom(node); },
           [&unit](DomDocument& document, DomNode parent) { unit.WriteDom(document, parent); }};
 }

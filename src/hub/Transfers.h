@@ -3,13 +3,17 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "model/ConfigurationUnit.h"
 
 namespace mortane {
 
 // One unit as the transfers see it. A unit's `gate` decides whether Send and Modify call it;
 // reading asks every unit.
 struct TransferStep {
+  std::string_view unit;  // its name, for what it did not catch itself
   std::function<std::string()> read;
   std::function<std::string(std::string&)> modify;
   std::function<std::string()> write;
@@ -17,12 +21,23 @@ struct TransferStep {
 };
 
 // The row of a unit that follows the pattern ReadSdk, ModifySdk, WriteSdk.
-template <typename Unit>
-TransferStep MakeTransferStep(Unit& unit, std::function<bool()> gate) {
-  return {[&unit] { return unit.ReadSdk(); },
+template <ConfigurationUnit Unit>
+TransferStep MakeTransferStep(std::string_view name, Unit& unit, std::function<bool()> gate) {
+  return {name, [&unit] { return unit.ReadSdk(); },
           [&unit](std::string& list) { return unit.ModifySdk(list); },
           [&unit] { return unit.WriteSdk(); }, std::move(gate)};
 }
+
+// The same with the unit's own IsEnable as its gate.
+template <EnabledUnit Unit>
+TransferStep MakeEnabledStep(std::string_view name, Unit& unit) {
+  return MakeTransferStep(name, unit, [&unit] { return unit.IsEnable(); });
+}
+
+// The report of one operation of a unit. A failure that the unit let pass is a fault of the
+// program: it becomes the line "Unit ", the unit's name and what failed, so that it is seen and the
+// transfer goes on.
+std::string ReportOf(std::string_view unit, const std::function<std::string()>& operation);
 
 // Steps in the order of Send and Modify.
 using TransferTable = std::vector<TransferStep>;

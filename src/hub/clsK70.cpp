@@ -1,21 +1,21 @@
 #include "hub/clsK70.h"
 
+#include <utility>
+
 #include "common/Numbers.h"
 #include "common/Text.h"
 
 namespace mortane {
 namespace {
 
-// Where the program's own library and prompts are kept until the first GetK70.
-struct Provider {
-  controller::ControllerLibrary* library = nullptr;
-  Prompts* prompts = nullptr;
-  std::unique_ptr<clsK70> instance;
+struct Instance {
+  std::unique_ptr<clsK70> k70;
+  bool initialised = false;
 };
 
-Provider& TheProvider() {
-  static Provider provider;
-  return provider;
+Instance& TheInstance() {
+  static Instance instance;
+  return instance;
 }
 
 }  // namespace
@@ -37,11 +37,14 @@ clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts)
             "Condenser Count",
             {&curCondenser.Count}}}} {
   FillTables();
+}
+
+void clsK70::Initialize() {
   try {
     CreateRoot();
     Mic.DeviceList().Count();  // a new root scans for devices when it is asked
   } catch (const Failure& failure) {
-    prompts.MsgBox(OperationError("clsK70_Initialize", failure), box::kOk);
+    prompts().MsgBox(OperationError("clsK70_Initialize", failure), box::kOk);
   }
 }
 
@@ -67,17 +70,17 @@ void clsK70::FillTables() {
     return [this, number] { return IsMounted(number) != kNotMounted; };
   };
   transfers_ = {
-      MakeTransferStep(curNosepiece, mounted(accessory::kNosepiece)),
-      MakeTransferStep(DbNosepiece, mounted(accessory::kNosepiece)),
-      MakeTransferStep(curLimit,
+      MakeTransferStep("curNosepiece", curNosepiece, mounted(accessory::kNosepiece)),
+      MakeTransferStep("DbNosepiece", DbNosepiece, mounted(accessory::kNosepiece)),
+      MakeTransferStep("curLimit", curLimit,
                        [this] { return IsMounted(accessory::kNosepiece) == kControllable; }),
-      MakeTransferStep(curFilter, mounted(accessory::kFilterCube)),
-      MakeTransferStep(dbFilter, mounted(accessory::kFilterCube)),
-      MakeTransferStep(Exciter, mounted(accessory::kFilterCube)),
-      MakeTransferStep(Dichroic, mounted(accessory::kFilterCube)),
-      MakeTransferStep(Barrier, mounted(accessory::kFilterCube)),
-      MakeTransferStep(curCondenser, mounted(accessory::kCondenser)),
-      MakeTransferStep(dbcon, mounted(accessory::kCondenser)),
+      MakeTransferStep("curFilter", curFilter, mounted(accessory::kFilterCube)),
+      MakeTransferStep("dbFilter", dbFilter, mounted(accessory::kFilterCube)),
+      MakeTransferStep("Exciter", Exciter, mounted(accessory::kFilterCube)),
+      MakeTransferStep("Dichroic", Dichroic, mounted(accessory::kFilterCube)),
+      MakeTransferStep("Barrier", Barrier, mounted(accessory::kFilterCube)),
+      MakeTransferStep("curCondenser", curCondenser, mounted(accessory::kCondenser)),
+      MakeTransferStep("dbcon", dbcon, mounted(accessory::kCondenser)),
   };
   fileTable_ = {
       {fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
@@ -87,16 +90,16 @@ void clsK70::FillTables() {
          element.SetAttribute("NAME", SystemName);
          section.Append(element);
        }},
-      MakeFileElement(fileitem::kNosepiece, "ITEM", curNosepiece),
-      MakeFileElement(fileitem::kNosepiece, "OPTION", DbNosepiece),
-      MakeFileElement(fileitem::kNosepiece, "LIMIT", curLimit),
-      MakeFileElement(fileitem::kFilter, "ITEM", curFilter),
-      MakeFileElement(fileitem::kFilter, "OPTION", dbFilter),
-      MakeFileElement(fileitem::kFilter, "EXCITER", Exciter),
-      MakeFileElement(fileitem::kFilter, "DICHROIC", Dichroic),
-      MakeFileElement(fileitem::kFilter, "BARRIER", Barrier),
-      MakeFileElement(fileitem::kCondenser, "ITEM", curCondenser),
-      MakeFileElement(fileitem::kCondenser, "OPTION", dbcon),
+      MakeFileElement(fileitem::kNosepiece, curNosepiece),
+      MakeFileElement(fileitem::kNosepiece, DbNosepiece),
+      MakeFileElement(fileitem::kNosepiece, curLimit),
+      MakeFileElement(fileitem::kFilter, curFilter),
+      MakeFileElement(fileitem::kFilter, dbFilter),
+      MakeFileElement(fileitem::kFilter, Exciter),
+      MakeFileElement(fileitem::kFilter, Dichroic),
+      MakeFileElement(fileitem::kFilter, Barrier),
+      MakeFileElement(fileitem::kCondenser, curCondenser),
+      MakeFileElement(fileitem::kCondenser, dbcon),
   };
 }
 
@@ -122,24 +125,20 @@ void clsK70::DeleteConnectionName() {
   if (mutex_) mutex_->Delete();
 }
 
-void ProvideK70(controller::ControllerLibrary& library, Prompts& prompts) {
-  TheProvider().library = &library;
-  TheProvider().prompts = &prompts;
+clsK70& ProvideK70(controller::ControllerLibrary& library, Prompts& prompts) {
+  TheInstance() = {std::make_unique<clsK70>(library, prompts), false};
+  return *TheInstance().k70;
 }
 
 clsK70& GetK70() {
-  Provider& provider = TheProvider();
-  if (!provider.instance) {
-    if (provider.library == nullptr || provider.prompts == nullptr) {
-      RaiseOwnFailure(kNoObjectError, "No controller library was provided.");
-    }
-    provider.instance = std::make_unique<clsK70>(*provider.library, *provider.prompts);
-  }
-  return *provider.instance;
+  Instance& instance = TheInstance();
+  if (!instance.k70) RaiseOwnFailure(kNoObjectError, "There is no microscope object.");
+  if (!std::exchange(instance.initialised, true)) instance.k70->Initialize();
+  return *instance.k70;
 }
 
 void ReleaseK70() {
-  TheProvider().instance.reset();
+  TheInstance() = {};
 }
 
 }  // namespace mortane

@@ -30,9 +30,12 @@ namespace mortane {
 // make a conversion fail raise a Failure to the caller.
 class clsK70 : public ConnectedMicroscope {
  public:
+  // Makes the units; the library is not asked for anything yet.
+  clsK70(controller::ControllerLibrary& library, Prompts& prompts);
+
   // Creates the controller's root and lets it list its devices. A failure is shown, and every
   // later use of the controller fails in its own way.
-  clsK70(controller::ControllerLibrary& library, Prompts& prompts);
+  void Initialize();
 
   // Disconnects a connected device in silence and lets go of its name.
   ~clsK70();
@@ -128,10 +131,11 @@ class clsK70 : public ConnectedMicroscope {
   std::array<Turret, 3> turrets_;
 };
 
-// The one instance, made on the first call from what ProvideK70 was given; it lives until
-// ReleaseK70, which the program calls before its toolkit ends.
+// The one instance. ProvideK70 makes it without a call to the library, so that pages can be given
+// their units; the first GetK70 initialises it. ReleaseK70 destroys it: after the windows, whose
+// pages refer to it, and before the toolkit ends. Without an instance GetK70 raises error 91.
+clsK70& ProvideK70(controller::ControllerLibrary& library, Prompts& prompts);
 clsK70& GetK70();
-void ProvideK70(controller::ControllerLibrary& library, Prompts& prompts);
 void ReleaseK70();
 
 }  // namespace mortane

@@ -8,7 +8,7 @@ namespace mortane {
 namespace {
 
 // One less than the controller takes: a name of 15 characters is written and refused here.
-constexpr std::size_t kLongestNameInFile = 14;
+constexpr std::size_t kLongestNameInFile = kSystemNameLength - 1;
 
 constexpr std::int16_t kWanted = -1;
 

@@ -3,19 +3,12 @@
 #include "hub/clsK70.h"
 
 namespace mortane {
-namespace {
-
-// What a controller stores of the system name.
-constexpr std::size_t kSystemNameLength = 15;
-
-}  // namespace
-
 void clsK70::Receive() {
   std::string failures = ReadSystemName();
-  ErrorTrap trap;
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
     Progress(i);
-    trap.Run([&] { failures = AppendLine(failures, transfers_[i].read()); });
+    const TransferStep& step = transfers_[i];
+    failures = AppendLine(failures, ReportOf(step.unit, step.read));
   }
   failures = AppendLine(failures, ReadTurretCounts());
   Progress(transfers_.size() + 1);
@@ -24,12 +17,10 @@ void clsK70::Receive() {
 
 void clsK70::Send() {
   std::string failures = WriteSystemName();
-  ErrorTrap trap;
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
     Progress(i);
-    trap.Run([&] {
-      if (transfers_[i].gate()) failures = AppendLine(failures, transfers_[i].write());
-    });
+    const TransferStep& step = transfers_[i];
+    if (step.gate()) failures = AppendLine(failures, ReportOf(step.unit, step.write));
   }
   Progress(transfers_.size() + 1);
   if (!failures.empty()) prompts().MsgBox(failures, box::kCritical, "Send");

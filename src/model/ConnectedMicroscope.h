@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "common/Prompts.h"
@@ -14,6 +15,9 @@ namespace mortane {
 inline constexpr std::int32_t kNotMounted = 0;
 inline constexpr std::int32_t kSensorOnly = 1;
 inline constexpr std::int32_t kControllable = 2;
+
+// What a controller stores of its system name, in characters.
+inline constexpr std::size_t kSystemNameLength = 15;
 
 // Versions that ReadMicVer answers for a unit that is absent and for the simulator.
 inline constexpr double kNoVersion = -1;

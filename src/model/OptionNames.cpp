@@ -22,7 +22,15 @@ std::string OptionNames::Name(std::int32_t code) const {
 }
 
 void OptionNames::Name(std::int32_t code, std::string_view name) {
-  if (Has(code)) names_[IndexOf(code)] = FirstCharacters(name, kNameLength);
+  if (Has(code)) names_[IndexOf(code)] = FirstCharacters(name, kOptionNameLength);
+}
+
+std::int32_t OptionNames::FixedCount(const ConnectedMicroscope& microscope) const {
+  try {
+    return (microscope.Mic.AccessoryDatabase().*kind_.fixedCount)();
+  } catch (const Failure&) {
+    return 0;
+  }
 }
 
 std::string OptionNames::Read(const ConnectedMicroscope& microscope) {
@@ -76,7 +84,7 @@ std::string OptionNames::ReadDom(const DomNode& node) {
   const ElementFields fields(node);
   const std::int32_t position = fields.Number("POSITION");
   const std::string name = RightTrim(fields.Text("NAME"));
-  if (!IsOptionPosition(position) || CharacterCount(name) > kNameLength) {
+  if (!IsOptionPosition(position) || CharacterCount(name) > kOptionNameLength) {
     return ItemLine(kind_.writeLabel, position);
   }
   names_[IndexOf(kind_.optionBase + position)] = name;

@@ -9,6 +9,7 @@
 #include "controller/AccessoryDatabase.h"
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
+#include "model/OptionCodes.h"
 
 namespace mortane {
 
@@ -22,15 +23,13 @@ struct NameListKind {
   std::string_view failureLabel;
   std::string_view differenceLabel;
   std::string_view writeLabel;  // also of an element that is refused
+  std::int32_t (controller::AccessoryDatabase::*fixedCount)() const;
 };
 
 // Part of the unit of one list, which gives it the microscope for each operation. Comparing
 // and writing walk over the controller's list whether the accessory is mounted or not.
 class OptionNames {
  public:
-  // What the user may give to a record.
-  static constexpr std::size_t kNameLength = 10;
-
   // The kind must live as long.
   explicit OptionNames(const NameListKind& kind);
 
@@ -38,6 +37,10 @@ class OptionNames {
   std::string Name(std::int32_t code) const;
   // Keeps the first ten characters; ignores a code outside the list.
   void Name(std::int32_t code, std::string_view name);
+
+  // The fixed records as the controller counts them, which is their highest code; 0 where it gives
+  // no answer.
+  std::int32_t FixedCount(const ConnectedMicroscope& microscope) const;
 
   std::string Read(const ConnectedMicroscope& microscope);
   std::string Modify(const ConnectedMicroscope& microscope, std::string& list) const;

@@ -2,16 +2,10 @@
 #pragma once
 
 #include "controller/AccessoryDatabase.h"
+#include "model/OptionCodes.h"
 #include "model/UnitReport.h"
 
 namespace mortane {
-
-// Positions of the records that the user may define, in every list: 1 to 9.
-inline constexpr std::int32_t kOptionPositions = 9;
-
-inline bool IsOptionPosition(std::int32_t position) {
-  return position >= 1 && position <= kOptionPositions;
-}
 
 // In the controller's order. A failure ends the walk.
 template <typename Record, typename Visit>

@@ -89,7 +89,7 @@ TurretCodes::FileItem TurretCodes::ReadDom(const DomNode& node) {
 
 void TurretCodes::WriteDom(DomDocument& document, DomNode section, std::int32_t count) const {
   for (std::int32_t address = 1; address <= count; ++address) {
-    DomNode element = document.CreateElement("ITEM");
+    DomNode element = document.CreateElement(kElement);
     element.SetAttribute("POSITION", std::to_string(address));
     element.SetAttribute("CODE", std::to_string(Code(address)));
     section.Append(element);

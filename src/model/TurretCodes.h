@@ -29,6 +29,7 @@ struct TurretKind {
 class TurretCodes {
  public:
   static constexpr std::int32_t kAddresses = 10;
+  static constexpr std::string_view kElement = "ITEM";
 
   // The kind must live as long.
   explicit TurretCodes(const TurretKind& kind) : kind_(kind) {}

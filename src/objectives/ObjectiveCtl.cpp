@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <array>
 
-#include "common/Numbers.h"
 #include "common/Text.h"
-#include "hub/clsK70.h"
+#include "model/OptionCodes.h"
+#include "objectives/clsDbNosepiece.h"
+#include "objectives/clsNosepiece.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
+#include "widgets/Named.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/TurretDrawing.h"
@@ -19,8 +21,6 @@
 namespace mortane {
 namespace {
 
-// A record whose name begins so is a place in the list that holds no objective.
-constexpr std::string_view kDashes = "-------";
 constexpr QChar kSeparator = u'\t';
 constexpr int kSeriesWidth = 150;
 constexpr int kSeriesList = -1;
@@ -38,12 +38,12 @@ struct Objective {
 };
 
 // The first objective of the series after a code; its code is -1 when there is none.
-Objective NextOf(std::int32_t series, std::int32_t after) {
+Objective NextOf(const clsDbNosepiece& objectives, std::int32_t series, std::int32_t after) {
   Objective next;
   std::int32_t position = after;
-  next.code = GetK70().DbNosepiece.Get_DbNosepiecePocket(series, position, next.type,
-                                                         next.magnification, next.workingDistance,
-                                                         next.numericalAperture, next.name);
+  next.code =
+      objectives.Get_DbNosepiecePocket(series, position, next.type, next.magnification,
+                                       next.workingDistance, next.numericalAperture, next.name);
   return next;
 }
 
@@ -77,26 +77,23 @@ const ObjectiveCtl::Value ObjectiveCtl::kValues[6]{
     {"Label6", "Name", "LabelName", 4, 20, &ObjectiveCtl::Label6, &ObjectiveCtl::LabelName},
 };
 
-ObjectiveCtl::ObjectiveCtl(QWidget* parent) : Page(parent) {
-  auto* card = new Card(QStringLiteral("Set Objective Data to Each Address"), this);
-  FrameBase = card;
-  FrameBase->setObjectName("FrameBase");
-  auto* panel = new QVBoxLayout(this);
-  panel->setContentsMargins({});
-  panel->addWidget(card);
-  TabNosepiece = new TabStrip(card);
-  TabNosepiece->setObjectName("TabNosepiece");
+ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& objectives,
+                           QWidget* parent)
+    : CardPage(QStringLiteral("Set Objective Data to Each Address"), parent),
+      nosepiece_(nosepiece),
+      objectives_(objectives) {
+  TabNosepiece = Named(new TabStrip(FrameBase), "TabNosepiece");
   TabNosepiece->setAccessibleName(QStringLiteral("Address"));
-  card->body()->addWidget(TabNosepiece);
-  card->body()->addWidget(BuildLists(card), 1);
-  card->body()->addWidget(BuildPlate(card));
+  FrameBase->body()->addWidget(TabNosepiece);
+  FrameBase->body()->addWidget(BuildLists(FrameBase), 1);
+  FrameBase->body()->addWidget(BuildPlate(FrameBase));
 
   connect(TabNosepiece, &TabStrip::clicked, this, &ObjectiveCtl::ClickTab);
   connect(ListSeries, &ListBox::clicked, this, &ObjectiveCtl::ClickSeries);
   connect(ListItem, &ListBox::clicked, this, &ObjectiveCtl::ClickItem);
   connect(turret_, &TurretDrawing::clicked, this, [this](int index) {
     TabNosepiece->setIndex(index);
-    ClickTab(index);
+    ClickTab();
   });
 }
 
@@ -105,14 +102,11 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
   auto* row = new QHBoxLayout(ground);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
-  turret_ = new TurretDrawing(PlaceKind::Objectives, ground);
-  turret_->setObjectName("turret");
-  ListSeries = new ListBox(ground);
-  ListSeries->setObjectName("ListSeries");
+  turret_ = Named(new TurretDrawing(PlaceKind::Objectives, ground), "turret");
+  ListSeries = Named(new ListBox(ground), "ListSeries");
   ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
   ListSeries->setFixedWidth(kSeriesWidth);
-  ListItem = new ListBox(ground);
-  ListItem->setObjectName("ListItem");
+  ListItem = Named(new ListBox(ground), "ListItem");
   ListItem->setAccessibleName(QStringLiteral("Objectives"));
   ListItem->SetColumns({{QStringLiteral("Type")},
                         {QStringLiteral("Mag."), Qt::AlignRight},
@@ -127,8 +121,7 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
 
 QFrame* ObjectiveCtl::BuildPlate(QWidget* parent) {
   auto* plate = new ValuePlate(parent);
-  Frame1 = plate;
-  Frame1->setObjectName("Frame1");
+  Frame1 = Named(plate, "Frame1");
   for (const Value& value : kValues) {
     const ValuePlate::Value added =
         plate->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
@@ -150,38 +143,33 @@ std::int32_t ObjectiveCtl::address() const {
 }
 
 void ObjectiveCtl::LoadData() {
-  const clsNosepiece& nosepiece = GetK70().curNosepiece;
-  QStringList captions;
-  for (std::int32_t i = 1; i <= nosepiece.Count; ++i) captions.append(QString::number(i));
-  TabNosepiece->SetTabs(captions);
+  TabNosepiece->SetNumberedTabs(nosepiece_.Count);
   UpdateTurret();
-  if (nosepiece.Count < 1) {
+  if (nosepiece_.Count < 1) {
     ShowRows({});
     ShowParts({});
     return;
   }
   FillSeries();
-  ClickTab(TabNosepiece->index());
+  ClickTab();
 }
 
 void ObjectiveCtl::FillSeries() {
   if (ListSeries->rowCount() > 0) return;
-  const clsDbNosepiece& database = GetK70().DbNosepiece;
-  for (std::int32_t i = 0; i <= database.SeriesCount(); ++i) {
-    ListSeries->addRow(QString::fromStdString(database.Series(i)));
+  for (std::int32_t i = 0; i <= objectives_.SeriesCount(); ++i) {
+    ListSeries->addRow(QString::fromStdString(objectives_.Series(i)));
   }
 }
 
 // The new index of the series list mounts an objective of its own where the mounted one is not
 // listed; what is shown and selected goes by the code from before.
-void ObjectiveCtl::ClickTab(int) {
-  const clsK70& k70 = GetK70();
-  const std::int32_t mounted = k70.curNosepiece.code(address());
-  const std::int32_t series = k70.DbNosepiece.SeriesCode(mounted);
+void ObjectiveCtl::ClickTab() {
+  const std::int32_t mounted = nosepiece_.code(address());
+  const std::int32_t series = objectives_.SeriesCode(mounted);
   turret_->setIndex(TabNosepiece->index());
   listing_.reset();
   ListSeries->setIndex(series);
-  LabelSeries->setText(QString::fromStdString(k70.DbNosepiece.Series(series)));
+  LabelSeries->setText(QString::fromStdString(objectives_.Series(series)));
   // The click of the series has just built this very list.
   const bool built = listing_ && listing_->series == series && listing_->mounted == mounted;
   const int row = built ? listing_->row : BuildList(series, mounted);
@@ -191,14 +179,14 @@ void ObjectiveCtl::ClickTab(int) {
 
 void ObjectiveCtl::ClickSeries(int row) {
   LabelSeries->setText(ListSeries->text(row));
-  const int found = BuildList(row, GetK70().curNosepiece.code(address()));
+  const int found = BuildList(row, nosepiece_.code(address()));
   SelectOrBlank(found < 0 && ListItem->rowCount() > 0 ? 0 : found);
 }
 
 void ObjectiveCtl::ClickItem(int row) {
   ShowParts(ListItem->text(row));
   if (address() == 0) return;
-  GetK70().curNosepiece.code(address(), ListItem->data(row).toInt());
+  nosepiece_.code(address(), ListItem->data(row).toInt());
   turret_->SetItem(TabNosepiece->index(), ItemAt(address()));
 }
 
@@ -206,8 +194,9 @@ void ObjectiveCtl::ClickItem(int row) {
 int ObjectiveCtl::BuildList(std::int32_t series, std::int32_t mounted) {
   std::vector<Row> rows;
   int found = -1;
-  for (Objective next = NextOf(series, -1); next.code >= 0; next = NextOf(series, next.code)) {
-    if (next.name.starts_with(kDashes)) continue;
+  for (Objective next = NextOf(objectives_, series, -1); next.code >= 0;
+       next = NextOf(objectives_, series, next.code)) {
+    if (IsVacant(next.name)) continue;
     QString text = RowText(next);
     if (rows.empty() || rows.back().text != text) rows.push_back({std::move(text), next.code});
     if (next.code != mounted) continue;
@@ -248,25 +237,25 @@ void ObjectiveCtl::ShowParts(const QString& row) {
   }
 }
 
+// Mounted is what the lists show as an objective: a record with a name or a magnification.
 TurretItem ObjectiveCtl::ItemAt(std::int32_t address) const {
-  const clsDbNosepiece& database = GetK70().DbNosepiece;
-  const std::int32_t code = GetK70().curNosepiece.code(address);
-  const std::string name = database.Name(code);
-  if (name.starts_with(kDashes) || Trim(name).empty()) return {};
-  Objective objective = NextOf(database.SeriesCode(code), code - 1);
-  // A series that the list does not know has no objectives to ask for.
-  if (objective.code != code) objective = {code, {}, "----", {}, {}, name};
-  const QString mark = QString::fromStdString(objective.magnification);
-  const QString shownName = QString::fromStdString(objective.name);
-  const bool numbered = objective.magnification.ends_with('x');
-  if (numbered) objective.magnification.pop_back();
-  return {mark, mark + QStringLiteral(", ") + shownName,
-          numbered ? std::optional(ToDouble(objective.magnification)) : std::nullopt};
+  const std::int32_t code = nosepiece_.code(address);
+  const std::string name = objectives_.Name(code);
+  const double magnification = objectives_.Magnification(code);
+  const bool named = !Trim(name).empty();
+  if (IsVacant(name) || (!named && magnification == 0)) return {};
+  const QString mark = QString::fromStdString(MagnificationText(magnification));
+  QString details = mark;
+  if (named) {
+    const std::string shownName = FirstCharacters(name, kObjectiveNameLength);
+    details += QStringLiteral(", ") + QString::fromStdString(shownName);
+  }
+  return {mark, details, magnification == 0 ? std::nullopt : std::optional(magnification)};
 }
 
 void ObjectiveCtl::UpdateTurret() {
   QVector<TurretItem> items;
-  for (std::int32_t i = 1; i <= GetK70().curNosepiece.Count; ++i) items.append(ItemAt(i));
+  for (std::int32_t i = 1; i <= nosepiece_.Count; ++i) items.append(ItemAt(i));
   turret_->SetItems(items);
 }
 

@@ -6,32 +6,32 @@
 #include <optional>
 #include <vector>
 
-#include "widgets/Page.h"
+#include "widgets/CardPage.h"
 
 class QFrame;
 class QLabel;
 
 namespace mortane {
 
-class Card;
 class ListBox;
 class TabStrip;
 class TurretDrawing;
 class ValueLabel;
+class clsDbNosepiece;
+class clsNosepiece;
 struct TurretItem;
 
 // Every selection in the list of objectives mounts that objective, also one that the program
 // makes. So browsing another series mounts its first objective, and so may loading.
-class ObjectiveCtl : public Page {
+class ObjectiveCtl : public CardPage {
   Q_OBJECT
 
  public:
-  explicit ObjectiveCtl(QWidget* parent = nullptr);
+  ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& objectives,
+               QWidget* parent = nullptr);
 
   void LoadData() override;
-  void SaveData() override {}
 
-  QFrame* FrameBase;
   TabStrip* TabNosepiece;
   ListBox* ListSeries;
   ListBox* ListItem;
@@ -76,11 +76,13 @@ class ObjectiveCtl : public Page {
   void SelectOrBlank(int row);
   void ClickSeries(int row);
   void ClickItem(int row);
-  void ClickTab(int index);
+  void ClickTab();
   std::int32_t address() const;  // of the selected tab; 0 without one
   TurretItem ItemAt(std::int32_t address) const;
   void UpdateTurret();
 
+  clsNosepiece& nosepiece_;
+  const clsDbNosepiece& objectives_;
   TurretDrawing* turret_ = nullptr;
   std::vector<Row> rows_;  // of the objective list
   std::optional<Listing> listing_;

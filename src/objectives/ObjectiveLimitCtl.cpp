@@ -7,8 +7,9 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "hub/clsK70.h"
+#include "objectives/clsLimitation.h"
 #include "widgets/Card.h"
+#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 
@@ -20,8 +21,7 @@ constexpr std::int32_t kControllerWithoutStageDown = 5;
 constexpr int kOptionColumn = 200;
 
 QLabel* NamedCaption(const char* name, const char* text, QWidget* parent) {
-  QLabel* label = CaptionLabel(QLatin1String(text), parent);
-  label->setObjectName(QLatin1String(name));
+  QLabel* label = Named(CaptionLabel(QLatin1String(text), parent), name);
   label->setWordWrap(true);
   return label;
 }
@@ -78,45 +78,27 @@ const ObjectiveLimitCtl::Rule ObjectiveLimitCtl::kRules[3]{
      &clsLimitation::curImmersion},
 };
 
-ObjectiveLimitCtl::ObjectiveLimitCtl(QWidget* parent)
-    : Page(parent),
-      FrameBase(nullptr),
-      frmIncrease(nullptr),
-      frmSkip(nullptr),
-      frmImmersion(nullptr),
-      optPreventIncrease(nullptr),
-      optSkipEmpty(nullptr),
-      optPreventImmersion(nullptr),
-      Label1(nullptr),
-      Label2(nullptr),
-      Label8(nullptr),
-      Label9(nullptr),
-      Label10(nullptr) {
-  auto* card = new Card(QStringLiteral("Limitation Controls"), this);
-  FrameBase = card;
-  FrameBase->setObjectName("FrameBase");
-  auto* panel = new QVBoxLayout(this);
-  panel->setContentsMargins({});
-  panel->addWidget(card);
-  for (const Rule& rule : kRules) AddRule(*card, rule);
+ObjectiveLimitCtl::ObjectiveLimitCtl(clsLimitation& limits, QWidget* parent)
+    : CardPage(QStringLiteral("Limitation Controls"), parent), limits_(limits) {
+  for (const Rule& rule : kRules) AddRule(rule);
   Label2 = NamedCaption(
       "Label2",
-      "Limitation Controls are effective after rotating the nosepiece with interlock mode.", card);
+      "Limitation Controls are effective after rotating the nosepiece with interlock mode.",
+      FrameBase);
   Label1 = NamedCaption(
       "Label1",
       "These functions are effective for rotating the nosepiece by buttons on the microscope",
-      card);
-  card->body()->addStretch();
+      FrameBase);
+  FrameBase->body()->addStretch();
   auto* notes = new QVBoxLayout;
   notes->setSpacing(grid::kUnit);
   notes->addWidget(Label2);
   notes->addWidget(Label1);
-  card->body()->addLayout(notes);
+  FrameBase->body()->addLayout(notes);
 }
 
-void ObjectiveLimitCtl::AddRule(Card& card, const Rule& rule) {
-  auto* frame = new InnerFrame(QLatin1String(rule.caption), &card);
-  frame->setObjectName(QLatin1String(rule.frameName));
+void ObjectiveLimitCtl::AddRule(const Rule& rule) {
+  auto* frame = Named(new InnerFrame(QLatin1String(rule.caption), FrameBase), rule.frameName);
   auto* group = new OptionGroup(this);
   auto* row = new QHBoxLayout;
   row->setSpacing(grid::kBetweenColumns);
@@ -131,12 +113,12 @@ void ObjectiveLimitCtl::AddRule(Card& card, const Rule& rule) {
   frame->body()->addLayout(row);
   QLabel* label = NamedCaption(rule.labelName, rule.explanation, frame);
   frame->body()->addWidget(label);
-  card.body()->addWidget(frame);
+  FrameBase->body()->addWidget(frame);
   this->*rule.frame = frame;
   this->*rule.group = group;
   this->*rule.label = label;
   connect(group, &OptionGroup::clicked, this,
-          [&rule](int index) { GetK70().curLimit.*rule.value = static_cast<std::int16_t>(index); });
+          [this, &rule](int index) { limits_.*rule.value = static_cast<std::int16_t>(index); });
 }
 
 void ObjectiveLimitCtl::LoadData() {
@@ -144,14 +126,14 @@ void ObjectiveLimitCtl::LoadData() {
 }
 
 void ObjectiveLimitCtl::LoadRule(const Rule& rule) {
-  const std::int16_t value = GetK70().curLimit.*rule.value;
+  const std::int16_t value = limits_.*rule.value;
   OptionGroup* group = this->*rule.group;
   (this->*rule.frame)->setEnabled(value >= 0);
   // A settings file may give a number that no option stands for.
   if (group->button(value) == nullptr) group->clear();
   if (value >= 0) group->select(value);
   if (!rule.stageDownIsOptional) return;
-  group->button(kStageDown)->setEnabled(!GetK70().Controller(kControllerWithoutStageDown));
+  group->button(kStageDown)->setEnabled(!limits_.parent.Controller(kControllerWithoutStageDown));
 }
 
 }  // namespace mortane

@@ -3,27 +3,25 @@
 
 #include <cstdint>
 
-#include "widgets/Page.h"
+#include "widgets/CardPage.h"
 
 class QFrame;
 class QLabel;
 
 namespace mortane {
 
-class Card;
 class OptionGroup;
+class clsLimitation;
 
 // An option reaches its rule at once; a rule that the controller did not tell is disabled.
-class ObjectiveLimitCtl : public Page {
+class ObjectiveLimitCtl : public CardPage {
   Q_OBJECT
 
  public:
-  explicit ObjectiveLimitCtl(QWidget* parent = nullptr);
+  explicit ObjectiveLimitCtl(clsLimitation& limits, QWidget* parent = nullptr);
 
   void LoadData() override;
-  void SaveData() override {}
 
-  QFrame* FrameBase;
   QFrame* frmIncrease;
   QFrame* frmSkip;
   QFrame* frmImmersion;
@@ -40,8 +38,10 @@ class ObjectiveLimitCtl : public Page {
   struct Rule;
   static const Rule kRules[3];
 
-  void AddRule(Card& card, const Rule& rule);
+  void AddRule(const Rule& rule);
   void LoadRule(const Rule& rule);
+
+  clsLimitation& limits_;
 };
 
 }  // namespace mortane

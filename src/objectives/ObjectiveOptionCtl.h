@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "widgets/Page.h"
+#include "widgets/CardPage.h"
 
 class QFrame;
 class QLabel;
@@ -17,20 +17,20 @@ class ListBox;
 class TabStrip;
 class TextField;
 class ValueLabel;
+class clsDbNosepiece;
 
 // Every accepted entry stores the whole objective on show. So does a new row that loading
 // selects, with the texts as cut to the boxes.
-class ObjectiveOptionCtl : public Page {
+class ObjectiveOptionCtl : public CardPage {
   Q_OBJECT
 
  public:
-  explicit ObjectiveOptionCtl(QWidget* parent = nullptr);
+  explicit ObjectiveOptionCtl(clsDbNosepiece& objectives, QWidget* parent = nullptr);
 
   void LoadData() override;
   // Stores once more; a number that may not be is stored as 0, and the box keeps it.
   void SaveData() override;
 
-  QFrame* FrameBase;
   TabStrip* TabStrip1;
   QFrame* NosepieceOptionItemFrm;
   QLabel* Label1;
@@ -84,6 +84,7 @@ class ObjectiveOptionCtl : public Page {
   void Store();
   void StoreNumbers(const std::array<std::string, 3>& numbers);
 
+  clsDbNosepiece& objectives_;
   std::int32_t series_ = 0;
   std::int32_t type_ = 0;
   std::int32_t condenser_ = 0;

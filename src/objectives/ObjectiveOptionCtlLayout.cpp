@@ -4,10 +4,13 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "model/OptionCodes.h"
 #include "objectives/ObjectiveOptionCtl.h"
+#include "objectives/clsDbNosepiece.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
+#include "widgets/Named.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
@@ -16,8 +19,6 @@
 namespace mortane {
 namespace {
 
-constexpr int kPositions = 9;
-constexpr int kNameLength = 15;
 // Wide letters are half as wide again as figures.
 constexpr int kNameWidthCharacters = 24;
 constexpr int kNumberLength = 5;
@@ -26,36 +27,24 @@ constexpr int kNumberWidthCharacters = 7;
 }  // namespace
 
 void ObjectiveOptionCtl::Build() {
-  auto* card = new Card(QStringLiteral("Add Optional Objective Data to the List"), this);
-  FrameBase = card;
-  FrameBase->setObjectName("FrameBase");
-  auto* panel = new QVBoxLayout(this);
-  panel->setContentsMargins({});
-  panel->addWidget(card);
-  TabStrip1 = new TabStrip(card);
-  TabStrip1->setObjectName("TabStrip1");
+  TabStrip1 = Named(new TabStrip(FrameBase), "TabStrip1");
   TabStrip1->setAccessibleName(QStringLiteral("Position"));
-  QStringList captions;
-  for (int i = 1; i <= kPositions; ++i) captions.append(QString::number(i));
-  TabStrip1->SetTabs(captions);
-  NosepieceOptionItemFrm = new QFrame(card);
-  NosepieceOptionItemFrm->setObjectName("NosepieceOptionItemFrm");
+  TabStrip1->SetNumberedTabs(kOptionPositions);
+  NosepieceOptionItemFrm = Named(new QFrame(FrameBase), "NosepieceOptionItemFrm");
   auto* rows = new QVBoxLayout(NosepieceOptionItemFrm);
   rows->setContentsMargins({});
   rows->setSpacing(grid::kBetweenGroups);
   rows->addWidget(BuildName(NosepieceOptionItemFrm));
   rows->addWidget(BuildLists(NosepieceOptionItemFrm), 1);
-  card->body()->addWidget(TabStrip1);
-  card->body()->addWidget(NosepieceOptionItemFrm, 1);
+  FrameBase->body()->addWidget(TabStrip1);
+  FrameBase->body()->addWidget(NosepieceOptionItemFrm, 1);
 }
 
 QWidget* ObjectiveOptionCtl::BuildName(QWidget* parent) {
   auto* ground = new QWidget(parent);
-  Label1 = new QLabel(QStringLiteral("Name"), ground);
-  Label1->setObjectName("Label1");
-  TextName = new TextField(ground);
-  TextName->setObjectName("TextName");
-  TextName->SetLimit(kNameLength);
+  Label1 = Named(new QLabel(QStringLiteral("Name"), ground), "Label1");
+  TextName = Named(new TextField(ground), "TextName");
+  TextName->SetLimit(static_cast<int>(kShownObjectiveNameLength));
   TextName->SetWidthFor(kNameWidthCharacters);
   Label1->setBuddy(TextName);
   auto* row = new QHBoxLayout(ground);
@@ -74,23 +63,20 @@ QWidget* ObjectiveOptionCtl::BuildLists(QWidget* parent) {
   cells->setHorizontalSpacing(grid::kBetweenColumns);
   cells->setVerticalSpacing(grid::kUnit);
   const auto list = [&](const char* name, int column, int stretch) {
-    auto* made = new ListBox(ground);
-    made->setObjectName(QLatin1String(name));
+    auto* made = Named(new ListBox(ground), name);
     cells->addWidget(made, 2, column);
     cells->setColumnStretch(column, stretch);
     return made;
   };
   const auto head = [&](const char* name, const char* caption, QWidget* buddy, int column) {
-    QLabel* label = CaptionLabel(QLatin1String(caption), ground);
-    label->setObjectName(QLatin1String(name));
+    QLabel* label = Named(CaptionLabel(QLatin1String(caption), ground), name);
     label->setBuddy(buddy);
     buddy->setAccessibleName(label->text());
     cells->addWidget(label, 0, column);
     return label;
   };
   const auto value = [&](const char* name, int column) {
-    auto* shown = new ValueLabel(ground);
-    shown->setObjectName(QLatin1String(name));
+    auto* shown = Named(new ValueLabel(ground), name);
     cells->addWidget(shown, 1, column);
     return shown;
   };
@@ -101,8 +87,7 @@ QWidget* ObjectiveOptionCtl::BuildLists(QWidget* parent) {
   ListType = list("ListType", 1, 2);
   Label3 = head("Label3", "Type", ListType, 1);
   MakeNumber(kNumbers[0], ground);
-  Label7 = new QLabel(QStringLiteral("x"), ground);
-  Label7->setObjectName("Label7");
+  Label7 = Named(new QLabel(QStringLiteral("x"), ground), "Label7");
   auto* magnification = new QHBoxLayout;
   magnification->setSpacing(grid::kBetweenControls);
   magnification->addWidget(TextMag);
@@ -120,10 +105,8 @@ QWidget* ObjectiveOptionCtl::BuildLists(QWidget* parent) {
 }
 
 void ObjectiveOptionCtl::MakeNumber(const Number& number, QWidget* parent) {
-  auto* label = new QLabel(QLatin1String(number.caption), parent);
-  label->setObjectName(QLatin1String(number.labelName));
-  auto* field = new TextField(parent);
-  field->setObjectName(QLatin1String(number.fieldName));
+  auto* label = Named(new QLabel(QLatin1String(number.caption), parent), number.labelName);
+  auto* field = Named(new TextField(parent), number.fieldName);
   field->SetLimit(kNumberLength);
   field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   field->SetWidthFor(kNumberWidthCharacters);
@@ -149,8 +132,7 @@ QFrame* ObjectiveOptionCtl::BuildValues(QWidget* parent) {
   FrmCondenser->setObjectName("FrmCondenser");
   Label8 = CaptionLabel(QStringLiteral("DIC / Ph Condenser"), condenser);
   Label8->setObjectName("Label8");
-  ComboCondenser = new ComboBox(condenser);
-  ComboCondenser->setObjectName("ComboCondenser");
+  ComboCondenser = Named(new ComboBox(condenser), "ComboCondenser");
   ComboCondenser->setAccessibleName(Label8->text());
   Label8->setBuddy(ComboCondenser);
   condenser->body()->addWidget(Label8);

@@ -2,10 +2,12 @@
 
 #include <QAbstractButton>
 
-#include "hub/clsK70.h"
 #include "objectives/ObjectiveCtl.h"
 #include "objectives/ObjectiveLimitCtl.h"
 #include "objectives/ObjectiveOptionCtl.h"
+#include "objectives/clsLimitation.h"
+#include "objectives/clsNosepiece.h"
+#include "widgets/Named.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 
@@ -16,23 +18,17 @@ constexpr int kNosepieceSection = 0;
 constexpr int kOptionSection = 1;
 constexpr int kLimitSection = 2;
 
-bool HasNosepiece() {
-  return GetK70().IsMounted(accessory::kNosepiece) != kNotMounted;
-}
-
 }  // namespace
 
-ObjectiveSettingsCtl::ObjectiveSettingsCtl(QWidget* parent)
+ObjectiveSettingsCtl::ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepiece& objectives,
+                                           clsLimitation& limits, QWidget* parent)
     : ContainerPage(IconName::Objective, QStringLiteral("Objectives"), grid::kSectionStart, parent),
-      Header(header()),
+      Header(Named(header(), "Header")),
       optSettings{},
-      ObjectiveCtl1(new ObjectiveCtl),
-      ObjectiveOptionCtl1(new ObjectiveOptionCtl),
-      ObjectiveLimitCtl1(new ObjectiveLimitCtl) {
-  Header->setObjectName("Header");
-  ObjectiveCtl1->setObjectName("ObjectiveCtl1");
-  ObjectiveOptionCtl1->setObjectName("ObjectiveOptionCtl1");
-  ObjectiveLimitCtl1->setObjectName("ObjectiveLimitCtl1");
+      ObjectiveCtl1(Named(new ObjectiveCtl(nosepiece, objectives), "ObjectiveCtl1")),
+      ObjectiveOptionCtl1(Named(new ObjectiveOptionCtl(objectives), "ObjectiveOptionCtl1")),
+      ObjectiveLimitCtl1(Named(new ObjectiveLimitCtl(limits), "ObjectiveLimitCtl1")),
+      limits_(limits) {
   AddSubPage(QStringLiteral("Nosepiece"), ObjectiveCtl1);
   AddSubPage(QStringLiteral("Optional Obj."), ObjectiveOptionCtl1);
   AddSubPage(QStringLiteral("Limit Control"), ObjectiveLimitCtl1);
@@ -41,9 +37,13 @@ ObjectiveSettingsCtl::ObjectiveSettingsCtl(QWidget* parent)
   }
 }
 
+bool ObjectiveSettingsCtl::HasNosepiece() const {
+  return limits_.parent.IsMounted(accessory::kNosepiece) != kNotMounted;
+}
+
 void ObjectiveSettingsCtl::LoadData() {
   ObjectiveOptionCtl1->LoadData();
-  const bool limited = GetK70().curLimit.IsEnable();
+  const bool limited = limits_.IsEnable();
   sections()->SetOptionEnabled(kLimitSection, limited);
   if (limited) ObjectiveLimitCtl1->LoadData();
   const bool fitted = HasNosepiece();
@@ -54,7 +54,7 @@ void ObjectiveSettingsCtl::LoadData() {
 
 void ObjectiveSettingsCtl::SaveData() {
   ObjectiveOptionCtl1->SaveData();
-  if (GetK70().curLimit.IsEnable()) ObjectiveLimitCtl1->SaveData();
+  if (limits_.IsEnable()) ObjectiveLimitCtl1->SaveData();
   if (HasNosepiece()) ObjectiveCtl1->SaveData();
 }
 

@@ -12,13 +12,17 @@ namespace mortane {
 class ObjectiveCtl;
 class ObjectiveLimitCtl;
 class ObjectiveOptionCtl;
+class clsDbNosepiece;
+class clsLimitation;
+class clsNosepiece;
 
 // Loading shows the nosepiece where there is one, otherwise the optional objectives.
 class ObjectiveSettingsCtl : public ContainerPage {
   Q_OBJECT
 
  public:
-  explicit ObjectiveSettingsCtl(QWidget* parent = nullptr);
+  ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepiece& objectives, clsLimitation& limits,
+                       QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override;
@@ -28,6 +32,11 @@ class ObjectiveSettingsCtl : public ContainerPage {
   ObjectiveCtl* ObjectiveCtl1;
   ObjectiveOptionCtl* ObjectiveOptionCtl1;
   ObjectiveLimitCtl* ObjectiveLimitCtl1;
+
+ private:
+  bool HasNosepiece() const;
+
+  clsLimitation& limits_;
 };
 
 }  // namespace mortane

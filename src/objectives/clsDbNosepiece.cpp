@@ -9,33 +9,18 @@
 namespace mortane {
 namespace {
 
-constexpr std::int32_t kOptionBase = 240;
-
 // The plural is the read's alone.
 constexpr std::string_view kReadFailure = "Nosepieces Optional (";
 constexpr std::string_view kFailure = "Nosepiece Optional (";
 constexpr std::string_view kItem = "Nosepiece Optional[";
 
-constexpr std::string_view kNoMagnification = "----";
-
-constexpr std::size_t kNameLength = 20;
-constexpr std::size_t kShownNameLength = 15;
 constexpr std::size_t kTypeLength = 20;
 
 constexpr std::array<double, 15> kMagnifications{0,  1,  1.5, 2,  2.5, 4,   5,  10,
                                                  20, 40, 50,  60, 100, 150, 200};
 
-// What an element of a settings file may hold, both ends included.
-constexpr double kHighestMagnification = 200;
-constexpr double kHighestDistance = 40;
-constexpr double kHighestAperture = 2;
-
 std::string PlainMagnificationText(double value) {
   return value == 0 ? std::string(kNoMagnification) : ShortestGeneral(value);
-}
-
-std::string MagnificationText(double value) {
-  return value == 0 ? std::string(kNoMagnification) : ShortestGeneral(value) + "x";
 }
 
 double MagnificationOf(std::string_view text) {
@@ -64,12 +49,21 @@ bool IsWithin(double value, double highest) {
 
 }  // namespace
 
+std::string MagnificationText(double value) {
+  return value == 0 ? std::string(kNoMagnification) : ShortestGeneral(value) + "x";
+}
+
 std::int32_t clsDbNosepiece::AdoptiveCondenser(std::int32_t code) const {
   return Has(condensers_, code) ? condensers_[static_cast<std::size_t>(code)] : 0;
 }
 
 std::string clsDbNosepiece::Name(std::int32_t code) const {
   return Has(objectives_, code) ? objectives_[static_cast<std::size_t>(code)].name : std::string();
+}
+
+double clsDbNosepiece::Magnification(std::int32_t code) const {
+  if (!Has(objectives_, code)) return 0;
+  return objectives_[static_cast<std::size_t>(code)].values.magnification;
 }
 
 std::int32_t clsDbNosepiece::SeriesCode(std::int32_t code) const {
@@ -115,7 +109,7 @@ std::int32_t clsDbNosepiece::Get_DbNosepiecePocket(std::int32_t nSeri, std::int3
     sMag = MagnificationText(objective.values.magnification);
     sWD = ShortestGeneral(objective.values.workingDistance);
     sNA = ShortestGeneral(objective.values.numericalAperture);
-    sName = FirstCharacters(objective.name, kNameLength);
+    sName = FirstCharacters(objective.name, kObjectiveNameLength);
     npos = static_cast<std::int32_t>(code);
     return npos;
   }
@@ -134,7 +128,7 @@ void clsDbNosepiece::Get_DbNosepieceOption(std::int32_t npos, std::string& sName
   }
   const std::size_t code = IndexOfOption(npos);
   const Objective& objective = objectives_[code];
-  sName = FirstCharacters(objective.name, kShownNameLength);
+  sName = FirstCharacters(objective.name, kShownObjectiveNameLength);
   nSeries = objective.values.series;
   nType = objective.values.type;
   sMag = PlainMagnificationText(objective.values.magnification);
@@ -149,7 +143,7 @@ void clsDbNosepiece::Set_DbNosepiece(std::int32_t npos, std::string_view sName,
                                      std::string_view sNA, std::int32_t nCondenser) {
   if (npos != 0 && !IsOptionPosition(npos)) return;
   const std::size_t code = IndexOfOption(npos);
-  objectives_[code] = {FirstCharacters(sName, kNameLength),
+  objectives_[code] = {FirstCharacters(sName, kObjectiveNameLength),
                        {nSeries, nType, MagnificationOf(sMag), ToDouble(sWD), ToDouble(sNA)}};
   condensers_[code] = nCondenser;
 }
@@ -221,8 +215,8 @@ void clsDbNosepiece::CompareRecord(const controller::ObjectiveRecord& record,
   const std::int32_t code = record.Code();
   const std::size_t index = CheckedIndex(code, 0, kCodes);
   const std::int32_t position = code - kOptionBase;
-  const std::string line =
-      ItemLine(kItem, position) + " " + FirstCharacters(objectives_[index].name, kNameLength);
+  const std::string line = ItemLine(kItem, position) + " " +
+                           FirstCharacters(objectives_[index].name, kObjectiveNameLength);
   if (Differs(record, objectives_[index])) lines = AppendLine(lines, line);
   if (!IsOptionPosition(position)) return;
   if (AskCode(position).condenser != condensers_[index]) lines = AppendLine(lines, line);
@@ -289,7 +283,7 @@ std::string clsDbNosepiece::ReadDom(const DomNode& node) {
   const std::string name = RightTrim(fields.Text("NAME"));
   const ObjectiveValues values = DecodeObjective(text);
   if (CharacterCount(text) != kObjectiveCodeLength || !IsOptionPosition(position) ||
-      CharacterCount(name) > kNameLength || !IsLegal(values)) {
+      CharacterCount(name) > kObjectiveNameLength || !IsLegal(values)) {
     return ItemLine(kItem, position);
   }
   const std::int32_t condenser = CondenserDigit(text);
@@ -302,7 +296,7 @@ std::string clsDbNosepiece::ReadDom(const DomNode& node) {
 void clsDbNosepiece::WriteDom(DomDocument& document, DomNode section) const {
   for (std::int32_t position = 1; position <= kOptionPositions; ++position) {
     const std::size_t code = IndexOfOption(position);
-    DomNode element = document.CreateElement("OPTION");
+    DomNode element = document.CreateElement(kElement);
     element.SetAttribute("POSITION", std::to_string(position));
     element.SetAttribute("CODE", EncodeObjective(objectives_[code].values, condensers_[code]));
     element.SetAttribute("NAME", objectives_[code].name);

@@ -11,10 +11,27 @@
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
 #include "model/UnitReport.h"
+#include "objectives/AdoptiveCondensers.h"
 #include "objectives/ObjectiveCode.h"
 #include "objectives/ObjectiveLists.h"
 
 namespace mortane {
+
+// Names of objectives hold 20 characters, of which the page of the user's objectives shows 15.
+inline constexpr std::size_t kObjectiveNameLength = 20;
+inline constexpr std::size_t kShownObjectiveNameLength = 15;
+
+// Shown in the place of a blank name, and of a magnification of 0.
+inline constexpr std::string_view kUnnamedObjective = "---------------";
+inline constexpr std::string_view kNoMagnification = "----";
+
+// What the user and a settings file may give, both ends included; the distance in millimetres.
+inline constexpr double kHighestMagnification = 200;
+inline constexpr double kHighestDistance = 40;
+inline constexpr double kHighestAperture = 2;
+
+// "40x", "1.5x"; kNoMagnification for 0.
+std::string MagnificationText(double value);
 
 // Owned by clsK70. Codes are 0 to 249; position n, 1 to 9, of the user's objectives is code
 // 240 + n. Queries never fail for an index out of range: they give 0 or an empty text. Numbers
@@ -24,11 +41,14 @@ class clsDbNosepiece {
   explicit clsDbNosepiece(ConnectedMicroscope& microscope)
       : parent(microscope), objectives_(kCodes) {}
 
+  static constexpr std::string_view kElement = "OPTION";
+
   ConnectedMicroscope& parent;
 
   // Code of the condenser that suits an objective; told for the user's objectives only.
   std::int32_t AdoptiveCondenser(std::int32_t code) const;
   std::string Name(std::int32_t code) const;
+  double Magnification(std::int32_t code) const;
   std::int32_t SeriesCode(std::int32_t code) const;
 
   // The lists count from 0, whose entry is a row of dashes; the counts are the highest indices.
@@ -60,6 +80,11 @@ class clsDbNosepiece {
   void Set_DbNosepiece(std::int32_t npos, std::string_view sName, std::int32_t nSeries,
                        std::int32_t nType, std::string_view sMag, std::string_view sWD,
                        std::string_view sNA, std::int32_t nCondenser);
+
+  // Whether the controller has a condenser at this moment, also one without addresses; one that
+  // does not answer is not there.
+  bool HasCondenser() const { return HasLiveCondenser(parent); }
+  AdoptiveCondensers ListCondensers() const { return ReadAdoptiveCondensers(parent); }
 
   std::string ReadSdk();
   std::string ModifySdk(std::string& list) const;

@@ -125,7 +125,7 @@ void clsLimitation::WriteDom(DomDocument& document, DomNode section) const {
   for (const Rule& rule : kRules) {
     const std::int16_t value = this->*rule.value;
     const bool hasCode = value >= 0 && static_cast<std::size_t>(value) < rule.codes.size();
-    DomNode element = document.CreateElement("LIMIT");
+    DomNode element = document.CreateElement(kElement);
     element.SetAttribute("POSITION", rule.position);
     element.SetAttribute("CODE",
                          hasCode ? rule.codes[static_cast<std::size_t>(value)] : kUnknownCode);

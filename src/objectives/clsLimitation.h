@@ -16,6 +16,8 @@ class clsLimitation {
  public:
   explicit clsLimitation(ConnectedMicroscope& microscope) : parent(microscope) {}
 
+  static constexpr std::string_view kElement = "LIMIT";
+
   ConnectedMicroscope& parent;
 
   // Changing from 2.0x or lower to 1 mm of working distance or less: 0 free, 1 no rotation,

@@ -1,16 +1,15 @@
 #include "objectives/clsNosepiece.h"
 
 #include "common/Numbers.h"
+#include "model/OptionCodes.h"
 
 namespace mortane {
 namespace {
 
-constexpr std::size_t kNameLength = 20;
-
 constexpr TurretKind kNosepiece{
     accessory::kNosepiece,
     [](const controller::Microscope& mic) { return mic.NosepieceDevice().Positions(); },
-    249,
+    kHighestCode,
     "Nosepiece (",
     "Nosepiece[",
     "Nosepiece[",
@@ -39,7 +38,7 @@ std::string clsNosepiece::ReadSdk() {
 
 std::string clsNosepiece::ModifySdk(std::string& list) const {
   return codes_.Modify(parent, list, [this](std::int32_t code) {
-    return FirstCharacters(database_.Name(code), kNameLength);
+    return FirstCharacters(database_.Name(code), kObjectiveNameLength);
   });
 }
 

@@ -16,6 +16,8 @@ class clsNosepiece {
  public:
   clsNosepiece(ConnectedMicroscope& microscope, const clsDbNosepiece& database);
 
+  static constexpr std::string_view kElement = TurretCodes::kElement;
+
   ConnectedMicroscope& parent;
 
   // Positions of the nosepiece; told by the controller on connecting and on each read. It stays

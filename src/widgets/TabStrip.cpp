@@ -33,6 +33,12 @@ void TabStrip::SetTabs(const QStringList& captions) {
   setCurrentIndex(0);
 }
 
+void TabStrip::SetNumberedTabs(int count) {
+  QStringList captions;
+  for (int i = 1; i <= count; ++i) captions.append(QString::number(i));
+  SetTabs(captions);
+}
+
 int TabStrip::AppendTab(const QString& caption) {
   const QSignalBlocker quiet(this);
   return addTab(caption);

@@ -17,6 +17,8 @@ class TabStrip : public QTabBar {
 
   // Replaces all tabs; the first one is then selected.
   void SetTabs(const QStringList& captions);
+  // Tabs "1", "2" ... up to `count`.
+  void SetNumberedTabs(int count);
   int AppendTab(const QString& caption);
   [[nodiscard]] int index() const { return currentIndex(); }
   void setIndex(int index);

@@ -84,6 +84,7 @@ struct Reader {
   std::string path = (FastFolder() / ("mortane-fuzz-" + std::to_string(getpid()))).string();
 
   Reader() {
+    k70.Initialize();
     k70.Connect(0);
     k70.Receive();
   }

@@ -16,7 +16,9 @@ TEST(MicroscopeObject, StartsUnconnectedWithNothingMounted) {
 
 TEST(MicroscopeObject, CreationListsTheDevicesOnce) {
   RigLibrary library(benches::Named("Quay"));
-  const clsK70 k70(library.library, library.prompts);
+  clsK70 k70(library.library, library.prompts);
+  EXPECT_EQ(library.journal.CallCount(), 0U) << "its units can be given away before that";
+  k70.Initialize();
   ASSERT_EQ(library.journal.Lines().size(), 1U);
   EXPECT_EQ(library.journal.Lines()[0], "DeviceList.Count -> 1");
 }
@@ -26,6 +28,7 @@ TEST(MicroscopeObject, AFailedCreationShowsTheNumberAndGoesOn) {
   library.faults.Add({"DeviceList.Count", 1});
   library.prompts.ExpectBox("*** clsK70_Initialize Error!!(80004005)", box::kOk, Answer::Ok);
   clsK70 k70(library.library, library.prompts);
+  k70.Initialize();
   EXPECT_EQ(k70.lConnectDevice, -1);
   EXPECT_TRUE(k70.Connect(0));
 }
@@ -35,6 +38,7 @@ TEST(MicroscopeObject, WithoutARootEveryUseFailsInItsOwnWay) {
   library.faults.Add({"Create(Microscope)"});
   library.prompts.ExpectBox("*** clsK70_Initialize Error!!(80004005)", box::kOk, Answer::Ok);
   clsK70 k70(library.library, library.prompts);
+  k70.Initialize();
   library.prompts.ExpectBox("*** DeviceCount Error!!(5B)", box::kOk, Answer::Ok);
   EXPECT_EQ(k70.DeviceCount(), 0);
   EXPECT_FALSE(k70.Connect(0));
@@ -141,6 +145,7 @@ TEST(MicroscopeObject, DisconnectsInSilenceWhenItGoes) {
   RigLibrary library(benches::Named("Quay"));
   {
     clsK70 k70(library.library, library.prompts);
+    k70.Initialize();
     ASSERT_TRUE(k70.Connect(0));
     library.journal.Clear();
     library.faults.Add({"DeviceList.Item.Disconnect"});
@@ -152,20 +157,32 @@ TEST(MicroscopeObject, DisconnectsInSilenceWhenItGoes) {
 TEST(MicroscopeObject, AsksNothingWhenItGoesUnconnected) {
   RigLibrary library(benches::Named("Quay"));
   {
-    const clsK70 k70(library.library, library.prompts);
+    clsK70 k70(library.library, library.prompts);
+    k70.Initialize();
     library.journal.Clear();
   }
   EXPECT_TRUE(library.journal.Lines().empty());
 }
 
-TEST(MicroscopeObject, TheOneInstanceIsMadeOnFirstUseAndStays) {
+TEST(MicroscopeObject, TheOneInstanceAsksTheLibraryOnFirstUseAndStays) {
   RigLibrary library(benches::Named("Quay"));
-  ProvideK70(library.library, library.prompts);
+  clsK70& provided = ProvideK70(library.library, library.prompts);
   EXPECT_EQ(library.journal.CallCount(), 0U);
   clsK70& first = GetK70();
-  EXPECT_GT(library.journal.CallCount(), 0U);
+  EXPECT_EQ(&first, &provided);
+  const std::size_t calls = library.journal.CallCount();
+  EXPECT_GT(calls, 0U);
   EXPECT_EQ(&GetK70(), &first);
+  EXPECT_EQ(library.journal.CallCount(), calls);
   ReleaseK70();
+}
+
+TEST(MicroscopeObject, ThereIsNoSecondInstanceAfterTheFirstIsReleased) {
+  RigLibrary library(benches::Named("Quay"));
+  ProvideK70(library.library, library.prompts);
+  ReleaseK70();
+  EXPECT_THROW(GetK70(), Failure);
+  EXPECT_EQ(library.journal.CallCount(), 0U);
 }
 
 }  // namespace

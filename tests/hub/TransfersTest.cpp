@@ -250,5 +250,17 @@ TEST(Send, EachControllerCallThatFailsIsReportedOnce) {
   FailEachCall("Send", [](clsK70& k70) { k70.Send(); });
 }
 
+TEST(UnitOperation, GivesTheUnitsReport) {
+  EXPECT_EQ(ReportOf("curFilter", [] { return std::string("Filter Cube[1]"); }), "Filter Cube[1]");
+  EXPECT_EQ(ReportOf("curFilter", [] { return std::string(); }), "");
+}
+
+TEST(UnitOperation, TurnsWhatTheUnitLetPassIntoALineWithItsName) {
+  EXPECT_EQ(ReportOf("curFilter", []() -> std::string { throw Failure("LIB", 55, "broken"); }),
+            "Unit curFilter (LIB:37)");
+  EXPECT_EQ(ReportOf("curFilter", []() -> std::string { throw std::out_of_range("beyond"); }),
+            "Unit curFilter (beyond)");
+}
+
 }  // namespace
 }  // namespace mortane::test

@@ -44,7 +44,10 @@ struct RigLibrary {
 
 // With the model made, and nothing connected yet.
 struct Rig : RigLibrary {
-  explicit Rig(Bench bench) : RigLibrary(std::move(bench)) { journal.Clear(); }
+  explicit Rig(Bench bench) : RigLibrary(std::move(bench)) {
+    k70.Initialize();
+    journal.Clear();
+  }
   explicit Rig(std::string_view benchName) : Rig(benches::Named(benchName)) {}
 
   // Connects the instrument that a named bench is about: the last of its list.

@@ -14,6 +14,7 @@
 
 #include "app/MortaneMainForm.h"
 #include "support/Rig.h"
+#include "widgets/Page.h"
 
 namespace mortane::test {
 
@@ -31,16 +32,16 @@ inline Bench Microscopes(std::initializer_list<const char*> names) {
 }
 
 // A page that only tells when it is called.
-class FakePage : public QWidget {
+class FakePage : public Page {
  public:
   FakePage(std::string name, std::vector<std::string>& calls, QWidget* parent)
-      : QWidget(parent), name_(std::move(name)), calls_(calls) {}
+      : Page(parent), name_(std::move(name)), calls_(calls) {}
 
-  void LoadData() {
+  void LoadData() override {
     calls_.push_back(name_ + ".LoadData");
     if (onLoad) onLoad();
   }
-  void SaveData() { calls_.push_back(name_ + ".SaveData"); }
+  void SaveData() override { calls_.push_back(name_ + ".SaveData"); }
 
   std::function<void()> onLoad;
 
@@ -53,8 +54,8 @@ class FakePage : public QWidget {
 class FakeControlPage : public FakePage {
  public:
   using FakePage::FakePage;
-  void SetNosePostiton() { calls_.push_back(name_ + ".SetNosePostiton"); }
-  void SendData() { calls_.push_back(name_ + ".SendData"); }
+  void SetNosePostiton() override { calls_.push_back(name_ + ".SetNosePostiton"); }
+  void SendData() override { calls_.push_back(name_ + ".SendData"); }
 };
 
 // Six fakes, named 0 to 5; `enabled` are the answers of their rules.
@@ -63,10 +64,10 @@ class FakePages {
   PageTable Table() {
     PageTable table = MainPages();
     for (std::size_t i = 0; i < kPageCount; ++i) {
-      table[i].make = [this, i](MortaneMainForm& form) {
+      table[i].make = [this, i](MortaneMainForm& form, clsK70&) -> Page* {
         const std::string name = std::to_string(i);
-        if (i != kPageCount - 1) return Made<FakePage>(i, name, form);
-        return Made<FakeControlPage>(i, name, form);
+        if (i != kPageCount - 1) return pages[i] = new FakePage(name, calls, form.FrameControl);
+        return pages[i] = new FakeControlPage(name, calls, form.FrameControl);
       };
       table[i].isEnabled = [this, i](const clsK70&) { return enabled[i]; };
     }
@@ -76,14 +77,6 @@ class FakePages {
   std::array<bool, kPageCount> enabled{true, true, true, true, true, true};
   std::array<FakePage*, kPageCount> pages{};
   std::vector<std::string> calls;
-
- private:
-  template <typename Fake>
-  PageEntry Made(std::size_t index, const std::string& name, MortaneMainForm& form) {
-    auto* page = new Fake(name, calls, form.FrameControl);
-    pages[index] = page;
-    return MakeEntry(*page);
-  }
 };
 
 // Lines "0.operation" to "5.operation".
@@ -103,9 +96,9 @@ class BasicAppRig : public RigLibrary {
   explicit BasicAppRig(Bench bench, std::vector<std::string> arguments = {},
                        const PageTable& pages = MainPages())
       : RigLibrary(std::move(bench)) {
-    ProvideK70(library, prompts);
+    clsK70& k70 = ProvideK70(library, prompts);
     arguments.insert(arguments.begin(), "mortane");
-    form = std::make_unique<Form>(MainFormServices{library, prompts, std::move(arguments)}, pages);
+    form = std::make_unique<Form>(FormServices{k70, library, prompts, std::move(arguments)}, pages);
   }
   ~BasicAppRig() {
     form.reset();

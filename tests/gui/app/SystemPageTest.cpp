@@ -20,7 +20,6 @@ namespace {
 class SystemPage : public testing::Test {
  protected:
   SystemPage() {
-    ProvideK70(rig.library, rig.prompts);
     k70().Connect(1);
     window.setLayout(new QVBoxLayout);
     window.layout()->addWidget(page);
@@ -37,8 +36,9 @@ class SystemPage : public testing::Test {
   TextField& name() { return *panel().TextSystemName; }
 
   RigLibrary rig{benches::Named("Harbour")};
+  clsK70& provided = ProvideK70(rig.library, rig.prompts);
   QWidget window;
-  SystemSettingsCtl* page = new SystemSettingsCtl;
+  SystemSettingsCtl* page = new SystemSettingsCtl(provided);
   QPushButton* elsewhere = new QPushButton("elsewhere");
 };
 

@@ -8,7 +8,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "condensers/CondenserCassetteCtl.h"
+#include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/ComboBox.h"
@@ -25,7 +25,7 @@ class CassettePage : public testing::Test {
   clsCondenser& cassette() { return rig.k70().curCondenser; }
 
   PageRig rig{"Harbour"};
-  CondenserCassetteCtl& page = *new CondenserCassetteCtl;
+  CondenserCassetteCtl& page = *MakeCondenserCassetteCtl(rig.k70());
 };
 
 class ShownCassettePage : public CassettePage {
@@ -157,7 +157,7 @@ TEST_P(CassetteSizes, AlwaysShowSevenRows) {
   places.clear();
   for (std::int32_t address = 1; address <= GetParam(); ++address) places.push_back({address, 1});
   PageRig rig(std::move(bench));
-  auto& page = rig.Show(new CondenserCassetteCtl);
+  auto& page = rig.Show(MakeCondenserCassetteCtl(rig.k70()));
   ASSERT_EQ(rig.k70().curCondenser.Count, GetParam());
   for (std::size_t row = 0; row < page.Combo1.size(); ++row) {
     EXPECT_TRUE(page.Combo1[row]->isVisible()) << row;
@@ -188,7 +188,7 @@ TEST_F(CassettePage, LeavesOutARecordThatGivesNoAnswer) {
 TEST(CassettePageAlone, OffersCodeZeroOnlyWithoutAController) {
   PageRig rig("Harbour", Link::None);
   rig.faults.Add({"AccessoryDatabase"});
-  auto& page = rig.Show(new CondenserCassetteCtl);
+  auto& page = rig.Show(MakeCondenserCassetteCtl(rig.k70()));
   for (const ComboBox* combo : page.Combo1) {
     EXPECT_EQ(RowsOf(*combo), Names{""});
     EXPECT_EQ(combo->currentIndex(), -1);

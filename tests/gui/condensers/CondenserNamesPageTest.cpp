@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QTest>
 
-#include "condensers/CondenserOptionCtl.h"
+#include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/TextField.h"
@@ -28,7 +28,7 @@ class CondenserNamesPage : public testing::Test {
   void name(int position, const char* value) { rig.k70().dbcon.Name(140 + position, value); }
 
   PageRig rig{"Harbour"};
-  CondenserOptionCtl& page = *new CondenserOptionCtl;
+  CondenserOptionCtl& page = *MakeCondenserOptionCtl(rig.k70());
 };
 
 TEST_F(CondenserNamesPage, ShowsTheNamesOfTheBench) {

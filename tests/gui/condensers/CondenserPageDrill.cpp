@@ -1,7 +1,5 @@
 // The drill of the condenser pages.
-#include "condensers/CondenserCassetteCtl.h"
-#include "condensers/CondenserOptionCtl.h"
-#include "condensers/CondenserSettingsCtl.h"
+#include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
 
@@ -36,7 +34,7 @@ PageDrillData Cassette() {
   PageDrillData data;
   data.name = "Cassette";
   data.bench = "Harbour";
-  data.make = [] { return new CondenserCassetteCtl; };
+  data.make = MakeCondenserCassetteCtl;
   data.controls = {{"FrameBase", "Set Condenser Data to Each Address"}};
   for (int row = 0; row < 7; ++row) {
     const std::string number = std::to_string(row + 1);
@@ -64,7 +62,7 @@ PageDrillData Names() {
   PageDrillData data;
   data.name = "Names";
   data.bench = "Harbour";
-  data.make = [] { return new CondenserOptionCtl; };
+  data.make = MakeCondenserOptionCtl;
   data.controls = {{"FrameBase", "Add Optional Condenser Data to the List"}};
   for (int row = 0; row < 9; ++row) {
     const std::string number = std::to_string(row + 1);
@@ -95,7 +93,7 @@ PageDrillData Settings() {
   PageDrillData data;
   data.name = "Settings";
   data.bench = "Harbour";
-  data.make = [] { return new CondenserSettingsCtl; };
+  data.make = MakeCondenserSettingsCtl;
   data.controls = {
       {"Header", ""},
       {"optCondenserSetting_0", "Condenser"},

@@ -6,9 +6,7 @@
 #include <QTest>
 
 #include "app/PageTable.h"
-#include "condensers/CondenserCassetteCtl.h"
-#include "condensers/CondenserOptionCtl.h"
-#include "condensers/CondenserSettingsCtl.h"
+#include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/ComboBox.h"
@@ -38,7 +36,7 @@ class CondenserPage : public testing::Test {
   }
 
   PageRig rig{"Harbour"};
-  CondenserSettingsCtl& page = *new CondenserSettingsCtl;
+  CondenserSettingsCtl& page = *MakeCondenserSettingsCtl(rig.k70());
 };
 
 TEST_F(CondenserPage, OpensOnTheCassette) {
@@ -120,7 +118,7 @@ TEST(CondenserPageAlone, OpensOnTheNamesWithoutACondenser) {
   Bench bench = benches::Named("Harbour");
   Unfit(bench);
   PageRig rig(std::move(bench));
-  auto& page = rig.Show(new CondenserSettingsCtl);
+  auto& page = rig.Show(MakeCondenserSettingsCtl(rig.k70()));
   EXPECT_FALSE(page.optCondenserSetting->option(0)->isEnabled());
   EXPECT_EQ(page.CurrentItem(), 1);
   EXPECT_TRUE(page.CondenserOptionCtl1->isVisible());
@@ -132,7 +130,7 @@ TEST(CondenserPageAlone, OpensOnTheNamesWithoutACondenser) {
 
 TEST(CondenserPageAlone, GoesToTheNamesWhenTheNextMicroscopeHasNoCondenser) {
   PageRig rig(List({"Quay", "Lantern", "Harbour"}));
-  auto& page = rig.Show(new CondenserSettingsCtl);
+  auto& page = rig.Show(MakeCondenserSettingsCtl(rig.k70()));
   ASSERT_EQ(page.CurrentItem(), 0);
   rig.k70().Disconnect();
   ASSERT_TRUE(rig.k70().Connect(1));
@@ -143,8 +141,9 @@ TEST(CondenserPageAlone, GoesToTheNamesWhenTheNextMicroscopeHasNoCondenser) {
 }
 
 TEST(CondenserPageAlone, HasNothingSelectedBeforeItIsLoaded) {
-  const CondenserSettingsCtl page;
-  EXPECT_EQ(page.CurrentItem(), -1);
+  PageRig rig("Harbour");
+  const std::unique_ptr<CondenserSettingsCtl> page(MakeCondenserSettingsCtl(rig.k70()));
+  EXPECT_EQ(page->CurrentItem(), -1);
 }
 
 struct WindowRow {

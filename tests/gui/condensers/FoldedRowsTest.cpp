@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-#include "condensers/CondenserOptionCtl.h"
+#include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageRig.h"
 #include "widgets/TextField.h"
 
@@ -21,7 +21,7 @@ class FoldedRows : public testing::Test {
   }
 
   PageRig rig{"Harbour"};
-  CondenserOptionCtl& page = *new CondenserOptionCtl;
+  CondenserOptionCtl& page = *MakeCondenserOptionCtl(rig.k70());
 };
 
 TEST_F(FoldedRows, StandBelowEachOtherWhereThereIsRoom) {

@@ -3,7 +3,7 @@
 #include <QHeaderView>
 #include <QTest>
 
-#include "filters/FilterQubeCtl.h"
+#include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
@@ -36,7 +36,7 @@ class CubePage : public testing::Test {
   int selectedCode() { return page.List1->data(page.List1->index()).toInt(); }
 
   PageRig rig;
-  FilterQubeCtl& page = *new FilterQubeCtl;
+  FilterQubeCtl& page = *MakeFilterQubeCtl(rig.k70());
 };
 
 const Texts kBlank{"", "", "", ""};

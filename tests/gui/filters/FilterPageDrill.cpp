@@ -1,8 +1,5 @@
 // The drill of the filter pages.
-#include "filters/FilterOptionalItemCtl.h"
-#include "filters/FilterOptionalQubeCtl.h"
-#include "filters/FilterQubeCtl.h"
-#include "filters/FilterQubeSettingsCtl.h"
+#include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
 
@@ -31,7 +28,7 @@ PageDrillData Turret() {
   PageDrillData data;
   data.name = "Turret";
   data.bench = "Harbour";
-  data.make = [] { return new FilterQubeCtl; };
+  data.make = MakeFilterQubeCtl;
   data.controls = {
       {"FrameBase", "Set Filter Cube Data to Each Address"},
       {"Frm1", ""},
@@ -86,7 +83,7 @@ PageDrillData OptionalCube() {
   PageDrillData data;
   data.name = "OptionalCube";
   data.bench = "Harbour";
-  data.make = [] { return new FilterOptionalQubeCtl; };
+  data.make = MakeFilterOptionalQubeCtl;
   data.controls = {
       {"FrameBase", "Add Optional Filter Cube Data to the List"},
       {"frm2", ""},
@@ -142,7 +139,7 @@ PageDrillData OptionalItem() {
   PageDrillData data;
   data.name = "OptionalItem";
   data.bench = "Harbour";
-  data.make = [] { return new FilterOptionalItemCtl; };
+  data.make = MakeFilterOptionalItemCtl;
   data.controls = {{"FrameBase", "Add Optional Filter Data "},
                    {"Label1", "Exciter"},
                    {"Label2", "Dichroic"},
@@ -182,7 +179,7 @@ PageDrillData Settings() {
   PageDrillData data;
   data.name = "Settings";
   data.bench = "Harbour";
-  data.make = [] { return new FilterQubeSettingsCtl; };
+  data.make = MakeFilterQubeSettingsCtl;
   data.controls = {
       {"Header", ""},
       {"optFilterSetting_0", "Filter Cube"},

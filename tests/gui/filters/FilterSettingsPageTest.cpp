@@ -4,10 +4,7 @@
 #include <QAbstractButton>
 
 #include "app/PageTable.h"
-#include "filters/FilterOptionalItemCtl.h"
-#include "filters/FilterOptionalQubeCtl.h"
-#include "filters/FilterQubeCtl.h"
-#include "filters/FilterQubeSettingsCtl.h"
+#include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
@@ -32,7 +29,7 @@ class FilterPage : public testing::Test {
   void Click(std::size_t option) { ClickButton(*page.optFilterSetting[option]); }
 
   PageRig rig{"Harbour"};
-  FilterQubeSettingsCtl& page = *new FilterQubeSettingsCtl;
+  FilterQubeSettingsCtl& page = *MakeFilterQubeSettingsCtl(rig.k70());
 };
 
 TEST_F(FilterPage, OpensOnTheTurret) {
@@ -89,7 +86,7 @@ TEST_F(FilterPage, LoadingLeadsBackToTheTurretAndFillsTheItems) {
 
 TEST(FilterPageAlone, OpensOnTheOptionalCubesWithoutATurret) {
   PageRig rig(Unfitted());
-  auto& page = rig.Show(new FilterQubeSettingsCtl);
+  auto& page = rig.Show(MakeFilterQubeSettingsCtl(rig.k70()));
   EXPECT_FALSE(page.optFilterSetting[0]->isEnabled());
   EXPECT_EQ(page.CurrentItem(), 1);
   EXPECT_TRUE(page.FilterOptionalQubeCtl1->isVisible());

@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-#include "filters/FilterOptionalQubeCtl.h"
+#include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
@@ -41,7 +41,7 @@ class OptionalCubePage : public testing::Test {
   }
 
   PageRig rig{"Harbour"};
-  FilterOptionalQubeCtl& page = *new FilterOptionalQubeCtl;
+  FilterOptionalQubeCtl& page = *MakeFilterOptionalQubeCtl(rig.k70());
 };
 
 TEST_F(OptionalCubePage, HasNineTabs) {

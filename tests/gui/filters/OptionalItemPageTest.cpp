@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QTest>
 
-#include "filters/FilterOptionalItemCtl.h"
+#include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/TextField.h"
@@ -20,7 +20,7 @@ class OptionalItemPage : public testing::Test {
   OptionalItemPage() { rig.Show(&page); }
 
   PageRig rig{"Harbour"};
-  FilterOptionalItemCtl& page = *new FilterOptionalItemCtl;
+  FilterOptionalItemCtl& page = *MakeFilterOptionalItemCtl(rig.k70());
 };
 
 TEST_F(OptionalItemPage, ShowsTheNamesOfTheBenchInTheFixedPitchFont) {

@@ -1,7 +1,7 @@
 // The question about the last address, and the sixth address.
 #include <QTest>
 
-#include "filters/FilterQubeCtl.h"
+#include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
@@ -31,7 +31,7 @@ class ProtectedAddress : public testing::Test {
   int codeAt(int address) { return rig.k70().curFilter.code(address); }
 
   PageRig rig{"Harbour"};
-  FilterQubeCtl& page = *new FilterQubeCtl;
+  FilterQubeCtl& page = *MakeFilterQubeCtl(rig.k70());
 };
 
 TEST_F(ProtectedAddress, YesMountsTheNewCube) {

@@ -1,10 +1,10 @@
 // The page of the limits that a nosepiece keeps.
-#include "objectives/ObjectiveLimitCtl.h"
 
 #include <QAbstractButton>
 #include <QFrame>
 #include <QTest>
 
+#include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
 #include "widgets/OptionGroup.h"
@@ -52,7 +52,7 @@ PageDrillData LimitPage() {
   PageDrillData data;
   data.name = "Limits";
   data.bench = "Harbour";
-  data.make = [] { return new ObjectiveLimitCtl; };
+  data.make = MakeObjectiveLimitCtl;
   data.controls = kControls;
   data.shown = {
       {"optPreventIncrease_2", Set<kIncrease, 2>, ValueOf<kIncrease>, "on"},
@@ -111,7 +111,7 @@ TEST(LimitPage, ShowsEachOfTheEighteenCodesAndWritesItBack) {
     Bench bench = benches::Named("Harbour");
     bench.instruments.back().limitation = ++code;
     PageRig rig(std::move(bench));
-    auto& page = rig.Show(new ObjectiveLimitCtl);
+    auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
     EXPECT_EQ(page.optPreventIncrease->selected(), increase) << code;
     EXPECT_EQ(page.optSkipEmpty->selected(), skip) << code;
     EXPECT_EQ(page.optPreventImmersion->selected(), immersion) << code;
@@ -125,7 +125,7 @@ TEST(LimitPage, AnUnknownCodeDisablesAllGroupsAndIsNotWrittenBack) {
     Bench bench = benches::Named("Harbour");
     bench.instruments.back().limitation = code;
     PageRig rig(std::move(bench));
-    auto& page = rig.Show(new ObjectiveLimitCtl);
+    auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
     for (const OptionGroup* group :
          {page.optPreventIncrease, page.optSkipEmpty, page.optPreventImmersion}) {
       EXPECT_EQ(group->selected(), -1) << code;
@@ -139,7 +139,7 @@ TEST(LimitPage, AnUnknownCodeDisablesAllGroupsAndIsNotWrittenBack) {
 
 TEST(LimitPage, ASkipOfTwoFromASettingsFileSelectsNothing) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveLimitCtl);
+  auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
   rig.k70().curLimit.curSkip = 2;
   page.LoadData();
   EXPECT_EQ(page.optSkipEmpty->selected(), -1);
@@ -149,7 +149,7 @@ TEST(LimitPage, ASkipOfTwoFromASettingsFileSelectsNothing) {
 
 TEST(LimitPage, AKnownRuleAmongUnknownOnesIsEnabledAlone) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveLimitCtl);
+  auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
   rig.k70().curLimit.curIncrease = -1;
   rig.k70().curLimit.curImmersion = -1;
   page.LoadData();
@@ -166,7 +166,7 @@ TEST(LimitPage, StageDownReturnsWithAnotherController) {
   Bench bench = List({"Quay", "Deck", "Harbour"});
   bench.instruments[1].limitation = 1;
   PageRig rig(std::move(bench), Link::None);
-  auto& page = rig.Show(new ObjectiveLimitCtl);
+  auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
   for (const bool withStageDown : {false, true}) {
     ASSERT_TRUE(rig.k70().Connect(withStageDown ? 2 : 1));
     rig.k70().Receive();
@@ -178,7 +178,7 @@ TEST(LimitPage, StageDownReturnsWithAnotherController) {
 
 TEST(LimitPage, ArrowsMoveInsideAGroupAndStore) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveLimitCtl);
+  auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
   page.optPreventIncrease->button(0)->setFocus();
   QTest::keyClick(page.optPreventIncrease->button(0), Qt::Key_Right);
   EXPECT_EQ(rig.k70().curLimit.curIncrease, 1);

@@ -1,5 +1,4 @@
 // The page of the nosepiece's addresses.
-#include "objectives/ObjectiveCtl.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -8,6 +7,7 @@
 
 #include "NosepieceRig.h"
 #include "common/Numbers.h"
+#include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
 #include "widgets/ListBox.h"
@@ -52,7 +52,7 @@ PageDrillData NosepiecePage() {
   PageDrillData data;
   data.name = "Nosepiece";
   data.bench = "Harbour";
-  data.make = [] { return new ObjectiveCtl; };
+  data.make = MakeObjectiveCtl;
   data.controls = kControls;
   data.shown = {
       {"LabelSeries", Mount<18>, CodeAt<1>, "Super C"},
@@ -91,20 +91,20 @@ Texts ShownParts(const ObjectiveCtl& page) {
 
 TEST(NosepiecePage, HasATabForEachAddress) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   EXPECT_EQ(RowsOf(*page.TabNosepiece), (Texts{"1", "2", "3", "4", "5", "6"}));
 }
 
 TEST(NosepiecePage, ListsTheSeriesFromTheRowOfDashes) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   EXPECT_EQ(RowsOf(*page.ListSeries),
             (Texts{"-----------", "Plan A", "Plan F", "Super C", "Long WD", "Relief", "Epi"}));
 }
 
 TEST(NosepiecePage, ListsTheObjectivesOfTheSeriesWithTheirCodes) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   EXPECT_EQ(RowsOf(*page.ListItem),
             (Texts{"Macro\t2x\t8.5\t0.06\tPlan A 2x", "Dry\t4x\t30\t0.1\tPlan A 4x",
                    "Dry\t10x\t10.5\t0.25\tPlan A 10x", "Phase\t10x\t10.5\t0.25\tPlan A 10x Ph",
@@ -120,7 +120,7 @@ TEST(NosepiecePage, LoadingAndVisitingAllTabsOfAnOrdinaryNosepieceChangesNothing
     PageRig rig(bench);
     Texts before;
     for (int i = 1; i <= 10; ++i) before.push_back(std::to_string(rig.k70().curNosepiece.code(i)));
-    auto& page = rig.Show(new ObjectiveCtl);
+    auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
     for (int i = 0; i < page.TabNosepiece->count(); ++i) ClickTab(*page.TabNosepiece, i);
     Texts after;
     for (int i = 1; i <= 10; ++i) after.push_back(std::to_string(rig.k70().curNosepiece.code(i)));
@@ -130,7 +130,7 @@ TEST(NosepiecePage, LoadingAndVisitingAllTabsOfAnOrdinaryNosepieceChangesNothing
 
 TEST(NosepiecePage, ATabShowsWhatStandsAtItsAddress) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   ClickTab(*page.TabNosepiece, 3);
   EXPECT_EQ(page.LabelSeries->text(), "Plan F");
   EXPECT_EQ(Shown(*page.ListSeries), "Plan F");
@@ -140,7 +140,7 @@ TEST(NosepiecePage, ATabShowsWhatStandsAtItsAddress) {
 
 TEST(NosepiecePage, AChoiceGoesToTheSelectedAddressAlone) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   ClickTab(*page.TabNosepiece, 2);
   Enter(*page.ListItem, "Dry\t20x\t1.2\t0.4\tPlan A 20x");
   const clsNosepiece& nosepiece = rig.k70().curNosepiece;
@@ -153,7 +153,7 @@ TEST(NosepiecePage, AChoiceGoesToTheSelectedAddressAlone) {
 
 TEST(NosepiecePage, BrowsingAnotherSeriesMountsItsFirstObjective) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   Enter(*page.ListSeries, "Long WD");
   EXPECT_EQ(rig.k70().curNosepiece.code(1), 19);
   EXPECT_EQ(page.LabelSeries->text(), "Long WD");
@@ -163,7 +163,7 @@ TEST(NosepiecePage, BrowsingAnotherSeriesMountsItsFirstObjective) {
 
 TEST(NosepiecePage, BrowsingTheSeriesOfTheMountedObjectiveKeepsIt) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   ClickTab(*page.TabNosepiece, 1);
   Enter(*page.ListSeries, "Plan A");
   EXPECT_EQ(rig.k70().curNosepiece.code(2), 4);
@@ -172,7 +172,7 @@ TEST(NosepiecePage, BrowsingTheSeriesOfTheMountedObjectiveKeepsIt) {
 
 TEST(NosepiecePage, ArrowKeysInTheSeriesListBrowseToo) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   page.ListSeries->setFocus();
   QTest::keyClick(page.ListSeries, Qt::Key_Down);
   EXPECT_EQ(page.LabelSeries->text(), "Plan F");
@@ -181,7 +181,7 @@ TEST(NosepiecePage, ArrowKeysInTheSeriesListBrowseToo) {
 
 TEST(NosepiecePage, ASeriesWithoutObjectivesBlanksTheLabelsAndMountsNothing) {
   AtticRig rig;
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   ClickTab(*page.TabNosepiece, 2);
   ASSERT_EQ(rig.k70().curNosepiece.code(3), 4);
   Enter(*page.ListSeries, "Series 11");
@@ -193,7 +193,7 @@ TEST(NosepiecePage, ASeriesWithoutObjectivesBlanksTheLabelsAndMountsNothing) {
 
 TEST(NosepiecePage, WithNoAddressesThereAreNoTabsAndTheListIsEmpty) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   rig.k70().curNosepiece.Count = 0;
   page.LoadData();
   EXPECT_EQ(page.TabNosepiece->count(), 0);
@@ -212,7 +212,7 @@ TEST(NosepiecePage, WithNoAddressesThereAreNoTabsAndTheListIsEmpty) {
 TEST(NosepiecePage, AMountedCodeWithADashedNameLeavesNoSelectedRow) {
   PageRig rig("Harbour");
   rig.k70().curNosepiece.code(1, 243);
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   EXPECT_EQ(page.ListItem->index(), -1);
   EXPECT_EQ(ShownParts(page), kBlank);
   EXPECT_EQ(RowsOf(*page.ListItem), Texts{"--------\t----\t0\t0\t"});
@@ -222,7 +222,7 @@ TEST(NosepiecePage, AMountedCodeWithADashedNameLeavesNoSelectedRow) {
 TEST(NosepiecePage, UnusedCodesShareOneRowThatStandsForTheMountedOne) {
   PageRig rig("Harbour");
   rig.k70().curNosepiece.code(1, 100);
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   EXPECT_EQ(RowsOf(*page.ListItem), Texts{"--------\t----\t0\t0\t"});
   EXPECT_EQ(page.ListItem->index(), 0);
   EXPECT_EQ(page.ListItem->data(0).toInt(), 100);
@@ -233,7 +233,7 @@ TEST(NosepiecePage, OfTwinsTheMountedOneWins) {
   for (const std::int32_t mounted : {6, 7}) {
     AtticRig rig;
     rig.k70().curNosepiece.code(1, mounted);
-    auto& page = rig.Show(new ObjectiveCtl);
+    auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
     EXPECT_EQ(page.ListItem->index(), 0);
     EXPECT_EQ(page.ListItem->data(0).toInt(), mounted);
     EXPECT_EQ(page.ListItem->data(1).toInt(), 247) << "the twins have one row";
@@ -244,7 +244,7 @@ TEST(NosepiecePage, OfTwinsTheMountedOneWins) {
 TEST(NosepiecePage, OfTwinsTheFirstStandsWhereNeitherIsMounted) {
   AtticRig rig;
   rig.k70().curNosepiece.code(1, 1);
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   Enter(*page.ListSeries, "Series 3");
   EXPECT_EQ(rig.k70().curNosepiece.code(1), 6);
 }
@@ -253,7 +253,7 @@ TEST(NosepiecePage, SameTextsApartFromEachOtherHaveTheirOwnRows) {
   AtticRig rig;
   rig.k70().curNosepiece.code(1, 1);
   rig.k70().DbNosepiece.Set_DbNosepiece(1, "Series 1 4x", 1, 1, "4", "30", "0.1", 0);
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   const Texts rows = RowsOf(*page.ListItem);
   EXPECT_EQ(std::count(rows.begin(), rows.end(), "Type 1\t4x\t30\t0.1\tSeries 1 4x"), 2);
 }
@@ -261,25 +261,25 @@ TEST(NosepiecePage, SameTextsApartFromEachOtherHaveTheirOwnRows) {
 TEST(NosepiecePage, ASeriesThatTheListDoesNotKnowSelectsNothing) {
   AtticRig rig;
   rig.k70().curNosepiece.code(1, 8);
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   EXPECT_EQ(page.ListSeries->index(), -1);
   EXPECT_EQ(page.LabelSeries->text(), "");
   EXPECT_EQ(page.ListItem->rowCount(), 0);
   EXPECT_EQ(ShownParts(page), kBlank);
   EXPECT_EQ(rig.k70().curNosepiece.code(1), 8);
-  EXPECT_EQ(TurretOf(rig).place(0)->accessibleName(), "Address 1, ----, Lost 50x");
+  EXPECT_EQ(TurretOf(rig).place(0)->accessibleName(), "Address 1, 50x, Lost 50x");
 }
 
 TEST(NosepiecePage, ShowsTwentyCharactersOfAName) {
   AtticRig rig;
   rig.k70().curNosepiece.code(1, 2);
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   EXPECT_EQ(page.LabelName->text(), "A name of thirty cha");
 }
 
 TEST(NosepiecePage, LoadingGoesBackToTheFirstTab) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   ClickTab(*page.TabNosepiece, 4);
   page.LoadData();
   EXPECT_EQ(page.TabNosepiece->index(), 0);
@@ -292,7 +292,7 @@ TEST(NosepiecePage, SeriesNamesAreThoseOfTheFirstMicroscope) {
   rig.prompts.AcceptAnyBox();
   ASSERT_TRUE(rig.k70().Connect(1));
   rig.k70().Receive();
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   const Texts before = RowsOf(*page.ListSeries);
   ASSERT_TRUE(rig.k70().Connect(2));
   rig.k70().Receive();
@@ -303,7 +303,7 @@ TEST(NosepiecePage, SeriesNamesAreThoseOfTheFirstMicroscope) {
 TEST(NosepiecePage, TheTabKeyIntoAListWithoutSelectionMountsNothing) {
   PageRig rig("Harbour");
   rig.k70().curNosepiece.code(1, 243);
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   rig.k70().curNosepiece.code(1, 243);
   page.ListSeries->setFocus();
   QTest::keyClick(page.ListSeries, Qt::Key_Tab);
@@ -314,7 +314,7 @@ TEST(NosepiecePage, TheTabKeyIntoAListWithoutSelectionMountsNothing) {
 
 TEST(NosepiecePage, AClickOnTheSelectedRowStoresAgain) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   rig.k70().curNosepiece.code(1, 9);
   ClickRow(*page.ListItem, 0);
   EXPECT_EQ(rig.k70().curNosepiece.code(1), 1);
@@ -322,7 +322,7 @@ TEST(NosepiecePage, AClickOnTheSelectedRowStoresAgain) {
 
 TEST(NosepiecePage, ColumnsBeginNoFurtherLeftThanTheTabStops) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   ASSERT_EQ(page.ListItem->columnCount(), 5);
   const int letters = page.ListItem->fontMetrics().horizontalAdvance(
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
@@ -336,7 +336,7 @@ TEST(NosepiecePage, ColumnsBeginNoFurtherLeftThanTheTabStops) {
 
 TEST(NosepiecePage, ValuesStandInTheFixedPitchFont) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveCtl);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   for (const ValueLabel* label : {page.LabelSeries, page.LabelType, page.LabelMag, page.LabelWD,
                                   page.LabelNA, page.LabelName}) {
     EXPECT_EQ(label->font(), FixedFont()) << label->objectName().toStdString();
@@ -347,7 +347,7 @@ TEST(NosepiecePage, ShowsNumbersInTheFormatOfTheSystem) {
   SetSystemNumberFormat({",", "."});
   {
     PageRig rig("Harbour");
-    auto& page = rig.Show(new ObjectiveCtl);
+    auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
     EXPECT_EQ(ShownParts(page), (Texts{"Macro", "2x", "8,5", "0,06", "Plan A 2x"}));
     rig.k70().DbNosepiece.Set_DbNosepiece(1, "Fine", 1, 1, "2,5", "1", "0,1", 0);
     rig.k70().curNosepiece.code(1, 241);

@@ -1,14 +1,11 @@
 // The container of the objective pages.
-#include "objectives/ObjectiveSettingsCtl.h"
 
 #include <QAbstractButton>
 #include <QTest>
 
+#include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
-#include "objectives/ObjectiveCtl.h"
-#include "objectives/ObjectiveLimitCtl.h"
-#include "objectives/ObjectiveOptionCtl.h"
 #include "widgets/ListBox.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/PageHeader.h"
@@ -23,7 +20,7 @@ PageDrillData ObjectivePages() {
   PageDrillData data;
   data.name = "Objectives";
   data.bench = "Harbour";
-  data.make = [] { return new ObjectiveSettingsCtl; };
+  data.make = MakeObjectiveSettingsCtl;
   data.controls = {{"optSettings_0", "Nosepiece"},
                    {"optSettings_1", "Optional Obj."},
                    {"optSettings_2", "Limit Control"},
@@ -57,14 +54,14 @@ const Page* VisibleOf(const ObjectiveSettingsCtl& page) {
 
 TEST(ObjectivePages, OpenOnTheNosepieceWhereThereIsOne) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   EXPECT_EQ(page.CurrentItem(), 0);
   EXPECT_EQ(VisibleOf(page), page.ObjectiveCtl1);
 }
 
 TEST(ObjectivePages, OpenOnTheOptionalObjectivesWithoutANosepiece) {
   PageRig rig("Hub");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   EXPECT_EQ(page.CurrentItem(), 1);
   EXPECT_FALSE(page.optSettings[0]->isEnabled());
   EXPECT_EQ(VisibleOf(page), page.ObjectiveOptionCtl1);
@@ -72,7 +69,7 @@ TEST(ObjectivePages, OpenOnTheOptionalObjectivesWithoutANosepiece) {
 
 TEST(ObjectivePages, TheNosepieceComesBackWithAnotherMicroscope) {
   PageRig rig(List({"Quay", "Hub", "Harbour"}), Link::None);
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   for (const bool fitted : {false, true, false}) {
     ASSERT_TRUE(rig.k70().Connect(fitted ? 2 : 1));
     rig.k70().Receive();
@@ -84,7 +81,7 @@ TEST(ObjectivePages, TheNosepieceComesBackWithAnotherMicroscope) {
 
 TEST(ObjectivePages, AClickShowsItsSubPageAlone) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   const std::array<const Page*, 3> subPages{page.ObjectiveCtl1, page.ObjectiveOptionCtl1,
                                             page.ObjectiveLimitCtl1};
   for (const std::size_t index : {2U, 1U, 0U}) {
@@ -96,7 +93,7 @@ TEST(ObjectivePages, AClickShowsItsSubPageAlone) {
 
 TEST(ObjectivePages, TheSelectedOptionAloneIsAmber) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   ClickButton(*page.optSettings[2]);
   page.optSettings[0]->setFocus();
   for (std::size_t i = 0; i < page.optSettings.size(); ++i) {
@@ -109,7 +106,7 @@ TEST(ObjectivePages, TheSelectedOptionAloneIsAmber) {
 
 TEST(ObjectivePages, ASubPageIsLoadedEachTimeThatItIsOpened) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   ClickTab(*page.ObjectiveCtl1->TabNosepiece, 3);
   ClickButton(*page.optSettings[2]);
   rig.k70().curLimit.curSkip = 1;
@@ -123,7 +120,7 @@ TEST(ObjectivePages, ASubPageIsLoadedEachTimeThatItIsOpened) {
 
 TEST(ObjectivePages, AClickOnTheOptionOnShowLoadsAgain) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   ClickTab(*page.ObjectiveCtl1->TabNosepiece, 3);
   ClickButton(*page.optSettings[0]);
   EXPECT_EQ(page.ObjectiveCtl1->TabNosepiece->caption(), "1");
@@ -131,7 +128,7 @@ TEST(ObjectivePages, AClickOnTheOptionOnShowLoadsAgain) {
 
 TEST(ObjectivePages, LoadingOpensTheNosepieceAgainAndLoadsTheOthersUnseen) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   ClickButton(*page.optSettings[2]);
   rig.k70().DbNosepiece.Set_DbNosepiece(1, "Renamed", 1, 1, "5", "1", "0.1", 0);
   rig.k70().curLimit.curImmersion = 2;
@@ -143,7 +140,7 @@ TEST(ObjectivePages, LoadingOpensTheNosepieceAgainAndLoadsTheOthersUnseen) {
 
 TEST(ObjectivePages, SavingRepairsTheOptionalObjectiveWhateverIsOnShow) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   page.ObjectiveOptionCtl1->TextMag->setText("300");
   page.SaveData();
   std::string name;
@@ -161,7 +158,7 @@ TEST(ObjectivePages, SavingRepairsTheOptionalObjectiveWhateverIsOnShow) {
 
 TEST(ObjectivePages, AnEditIsSentAndNothingElse) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveSettingsCtl);
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   ClickTab(*page.ObjectiveCtl1->TabNosepiece, 3);
   Enter(*page.ObjectiveCtl1->ListItem, "DIC\t20x\t2.1\t0.5\tPlan F 20x");
   page.SaveData();

@@ -5,9 +5,9 @@
 #include <algorithm>
 
 #include "OptionTexts.h"
+#include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
-#include "objectives/ObjectiveOptionCtl.h"
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"
@@ -19,7 +19,7 @@ using Texts = std::vector<std::string>;
 
 TEST(OptionCondenser, OffersTheFixedCondensersButThreeOfThem) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   EXPECT_EQ(RowsOf(*page.ComboCondenser),
             (Texts{"None", "Ph 1", "Ph 2", "DIC L", "DIC M", "DIC H", "Ph 3"}));
   std::vector<int> codes;
@@ -49,7 +49,7 @@ TEST(OptionCondenser, TheFirstBlankOrOptionalRecordEndsTheCondensers) {
     record.name = row.name;
     record.option = row.option;
     PageRig rig(std::move(bench));
-    auto& page = rig.Show(new ObjectiveOptionCtl);
+    auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
     EXPECT_EQ(RowsOf(*page.ComboCondenser), row.rows) << row.record << row.name;
   }
 }
@@ -61,14 +61,14 @@ TEST(OptionCondenser, ARecordBeyondNineIsOfferedToo) {
                                   [](const auto& record) { return record.option; });
   condensers.insert(tenth, {10, false, "Tenth", "1111111111"});
   PageRig rig(std::move(bench));
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   Enter(*page.ComboCondenser, "Tenth");
   EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|1.98|0.95|10");
 }
 
 TEST(OptionCondenser, ChoosingTheCondenserOnShowStoresAgain) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   rig.k70().DbNosepiece.Set_DbNosepiece(1, "Other", 1, 1, "1", "1", "1", 0);
   Enter(*page.ComboCondenser, "Ph 2");
   EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|1.98|0.95|3");
@@ -76,7 +76,7 @@ TEST(OptionCondenser, ChoosingTheCondenserOnShowStoresAgain) {
 
 TEST(OptionCondenser, WithoutACondenserTheRowsAndTheStoredCodeStay) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   const Texts before = RowsOf(*page.ComboCondenser);
   rig.instrument().Accessory(accessory::kCondenser).state = 0;
   page.LoadData();
@@ -88,7 +88,7 @@ TEST(OptionCondenser, WithoutACondenserTheRowsAndTheStoredCodeStay) {
 
 TEST(OptionCondenser, ATabAsksForTheCondenserButKeepsItsRows) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   const Texts before = RowsOf(*page.ComboCondenser);
   rig.instrument().database.condensers[1].name = "Renamed";
   rig.instrument().Accessory(accessory::kCondenser).state = 0;
@@ -106,7 +106,7 @@ TEST(OptionCondenser, ACodeWithoutARowSelectsNothingAndStaysStored) {
   for (const std::int32_t code : {1, 4, 8, 200, -1}) {
     PageRig rig("Harbour");
     rig.k70().DbNosepiece.Set_DbNosepiece(1, "Mine", 1, 1, "5", "1", "0.1", code);
-    auto& page = rig.Show(new ObjectiveOptionCtl);
+    auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
     EXPECT_EQ(page.ComboCondenser->index(), -1) << code;
     EXPECT_TRUE(First(rig.k70()).ends_with("|" + std::to_string(code)));
     Enter(*page.ListMag, "10x");

@@ -1,10 +1,10 @@
 // The page of the user's objectives.
-#include "objectives/ObjectiveOptionCtl.h"
 
 #include <QTest>
 
 #include "OptionTexts.h"
 #include "common/Numbers.h"
+#include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
 #include "widgets/ComboBox.h"
@@ -45,7 +45,7 @@ PageDrillData OptionPage() {
   PageDrillData data;
   data.name = "OptionalObjectives";
   data.bench = "Harbour";
-  data.make = [] { return new ObjectiveOptionCtl; };
+  data.make = MakeObjectiveOptionCtl;
   data.controls = kControls;
   data.shown = {
       {"TextName", Define, First, "Mine"},        {"LabelSeries", Define, First, "Long WD"},
@@ -97,13 +97,13 @@ INSTANTIATE_TEST_SUITE_P(OptionPage, PageDrill, testing::Values(OptionPage()), P
 
 TEST(OptionPage, HasNineTabs) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   EXPECT_EQ(RowsOf(*page.TabStrip1), (Texts{"1", "2", "3", "4", "5", "6", "7", "8", "9"}));
 }
 
 TEST(OptionPage, ListsSeriesTypesAndMagnifications) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   EXPECT_EQ(RowsOf(*page.ListSeries),
             (Texts{"-----------", "Plan A", "Plan F", "Super C", "Long WD", "Relief", "Epi"}));
   EXPECT_EQ(RowsOf(*page.ListType),
@@ -114,7 +114,7 @@ TEST(OptionPage, ListsSeriesTypesAndMagnifications) {
 
 TEST(OptionPage, FieldsTakeTheirNumberOfCharacters) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   TypeInto(*page.TextName, "1234567890123456");
   EXPECT_EQ(page.TextName->text(), "123456789012345");
   for (TextField* field : {page.TextMag, page.TextWD, page.TextNA}) {
@@ -126,7 +126,7 @@ TEST(OptionPage, FieldsTakeTheirNumberOfCharacters) {
 
 TEST(OptionPage, ATabShowsItsPosition) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   ClickTab(*page.TabStrip1, 1);
   EXPECT_EQ(page.TextName->text(), "Loan 63x Oil");
   EXPECT_EQ(page.LabelSeries->text(), "Super C");
@@ -139,7 +139,7 @@ TEST(OptionPage, ATabShowsItsPosition) {
 
 TEST(OptionPage, AnEditGoesToThePositionOnShowAlone) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   ClickTab(*page.TabStrip1, 8);
   Enter(*page.ListSeries, "Relief");
   EXPECT_EQ(StoredAt(rig.k70(), 9), "---------------|5|0|----|0|0|0");
@@ -148,7 +148,7 @@ TEST(OptionPage, AnEditGoesToThePositionOnShowAlone) {
 
 TEST(OptionPage, ClearingDistanceOrApertureAtOnceTurnsItIntoZero) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   for (TextField* field : {page.TextWD, page.TextNA}) {
     TypeInto(*field, "");
     EXPECT_EQ(field->text(), "0") << field->objectName().toStdString();
@@ -163,7 +163,7 @@ class OptionEnter : public testing::TestWithParam<Qt::Key> {};
 
 TEST_P(OptionEnter, StoresAndKeepsTheFocus) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   TypeInto(*page.TextName, "By key");
   EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|1.98|0.95|3");
   QTest::keyClick(page.TextName, GetParam());
@@ -177,7 +177,7 @@ TEST_P(OptionEnter, StoresAndKeepsTheFocus) {
 
 TEST_P(OptionEnter, RefusesABadNumber) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   TypeInto(*page.TextNA, "3");
   rig.prompts.ExpectBox(kMessage, box::kOk);
   QTest::keyClick(page.TextNA, GetParam());
@@ -195,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(BothKeys, OptionEnter, testing::Values(Qt::Key_Return, 
 
 TEST(OptionPage, AnEmptyNameIsStoredOnLeavingAndThenShowsDashes) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   for (const char* blank : {"", "   "}) {
     Enter(*page.TextName, blank);
     EXPECT_EQ(page.TextName->text(), kDashes);
@@ -207,7 +207,7 @@ TEST(OptionPage, AnEmptyNameIsStoredOnLeavingAndThenShowsDashes) {
 
 TEST(OptionPage, TheFirstKeyWipesTheDashes) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   ClickTab(*page.TabStrip1, 4);
   ASSERT_EQ(page.TextName->text(), kDashes);
   page.TextName->setFocus();
@@ -219,7 +219,7 @@ TEST(OptionPage, TheFirstKeyWipesTheDashes) {
 
 TEST(OptionPage, TheTabKeyThroughANameOfDashesKeepsIt) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   ClickTab(*page.TabStrip1, 4);
   page.TextName->setFocus();
   QTest::keyClick(page.TextName, Qt::Key_Tab);
@@ -229,7 +229,7 @@ TEST(OptionPage, TheTabKeyThroughANameOfDashesKeepsIt) {
 
 TEST(OptionPage, EnterOnANameOfDashesStoresTheEmptyName) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   ClickTab(*page.TabStrip1, 4);
   page.TextName->setFocus();
   QTest::keyClick(page.TextName, Qt::Key_Return);
@@ -239,7 +239,7 @@ TEST(OptionPage, EnterOnANameOfDashesStoresTheEmptyName) {
 
 TEST(OptionPage, FourteenDashesAreAnOrdinaryName) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   TypeInto(*page.TextName, "--------------");
   QTest::keyClicks(page.TextName, "x");
   EXPECT_EQ(page.TextName->text(), "--------------x");
@@ -247,7 +247,7 @@ TEST(OptionPage, FourteenDashesAreAnOrdinaryName) {
 
 TEST(OptionPage, ClickingATabStoresTheFieldForTheOldPosition) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   TypeInto(*page.TextWD, "7.5");
   ClickTab(*page.TabStrip1, 1);
   EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|7.5|0.95|3");
@@ -257,7 +257,7 @@ TEST(OptionPage, ClickingATabStoresTheFieldForTheOldPosition) {
 
 TEST(OptionPage, ARefusedNumberKeepsTheTabTheRowAndTheCondenser) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   for (const int target : {0, 1}) {
     TypeInto(*page.TextWD, "41.5");
     rig.prompts.ExpectBox(kMessage, box::kOk);
@@ -280,7 +280,7 @@ TEST(OptionPage, TheListsAreFilledOnceOnly) {
   rig.prompts.AcceptAnyBox();
   ASSERT_TRUE(rig.k70().Connect(1));
   rig.k70().Receive();
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   const Texts series = RowsOf(*page.ListSeries);
   const Texts types = RowsOf(*page.ListType);
   ASSERT_TRUE(rig.k70().Connect(2));
@@ -295,7 +295,7 @@ TEST(OptionPage, SelectingANewRowOnLoadingStoresTheTextsAsCut) {
   PageRig rig("Harbour");
   rig.k70().DbNosepiece.Set_DbNosepiece(1, "Sixteen letters.", 4, 6, "123.45", "12.345", "0.1234",
                                         2);
-  rig.Show(new ObjectiveOptionCtl);
+  rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   EXPECT_EQ(rig.k70().DbNosepiece.Name(241), "Sixteen letters");
   EXPECT_EQ(First(rig.k70()), "Sixteen letters|4|6|123.4|12.34|0.123|2");
 }
@@ -303,7 +303,7 @@ TEST(OptionPage, SelectingANewRowOnLoadingStoresTheTextsAsCut) {
 TEST(OptionPage, AnIndexBeyondTheListsSelectsNothing) {
   PageRig rig("Harbour");
   rig.k70().DbNosepiece.Set_DbNosepiece(1, "Mine", 40, 50, "5", "1", "0.1", 2);
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   EXPECT_EQ(page.ListSeries->index(), -1);
   EXPECT_EQ(page.ListType->index(), -1);
   EXPECT_EQ(page.LabelSeries->text(), "");
@@ -315,7 +315,7 @@ TEST(OptionPage, AnIndexBeyondTheListsSelectsNothing) {
 TEST(OptionPage, AnEmptyNameIsShownEmpty) {
   PageRig rig("Harbour");
   rig.k70().DbNosepiece.Set_DbNosepiece(1, "", 2, 3, "5", "1", "0.1", 2);
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   EXPECT_EQ(page.TextName->text(), "");
 }
 
@@ -340,7 +340,7 @@ TEST(OptionPage, SavingStoresZeroForWhatMayNotBe) {
            SaveRow{&ObjectiveOptionCtl::TextNA, "2", "Clinic 25x|2|3|25|1.98|2|3"},
        }) {
     PageRig rig("Harbour");
-    auto& page = rig.Show(new ObjectiveOptionCtl);
+    auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
     (page.*row.field)->setText(row.text);
     page.SaveData();
     EXPECT_EQ(First(rig.k70()), row.stored) << row.text;
@@ -353,7 +353,7 @@ TEST(OptionPage, TakesAndShowsNumbersInTheFormatOfTheSystem) {
   SetSystemNumberFormat({",", "."});
   {
     PageRig rig("Harbour");
-    auto& page = rig.Show(new ObjectiveOptionCtl);
+    auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
     EXPECT_EQ(page.TextWD->text(), "1,98");
     Enter(*page.TextWD, "3,25");
     EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|3,25|0,95|3");
@@ -374,7 +374,7 @@ TEST(OptionPage, TakesAndShowsNumbersInTheFormatOfTheSystem) {
 
 TEST(OptionPage, NamesMayHoldAnyLetters) {
   PageRig rig("Harbour");
-  auto& page = rig.Show(new ObjectiveOptionCtl);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   page.TextName->setText(QString::fromUtf8("Übergröße 25x µm plus"));
   page.TextName->setFocus();
   QTest::keyClick(page.TextName, Qt::Key_Return);

@@ -24,7 +24,7 @@ std::string CaptionOf(const QWidget& control) {
 }  // namespace
 
 Page& PageDrill::ShowOn(PageRig& rig) {
-  Page& page = rig.Show(GetParam().make());
+  Page& page = rig.Show(GetParam().make(rig.k70()));
   if (GetParam().prepare) GetParam().prepare(rig);
   return page;
 }
@@ -93,7 +93,7 @@ TEST_P(PageDrill, TheTabKeyGoesThroughThePageInOrder) {
 
 TEST_P(PageDrill, LoadsAndSavesWithoutAController) {
   PageRig rig(benches::Named(GetParam().bench), Link::None);
-  Page& page = rig.Show(GetParam().make());
+  Page& page = rig.Show(GetParam().make(rig.k70()));
   page.LoadData();
   page.SaveData();
   EXPECT_TRUE(rig.prompts.Boxes().empty());

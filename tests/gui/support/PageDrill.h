@@ -56,7 +56,7 @@ struct EnablingRule {
 struct PageDrillData {
   std::string name;
   std::string bench;
-  std::function<Page*()> make;
+  std::function<Page*(clsK70&)> make;
   std::function<void(PageRig&)> prepare;
   std::vector<GivenControl> controls;
   std::vector<ShownValue> shown;

@@ -1,0 +1,24 @@
+// What a program's window works with.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace mortane {
+
+namespace controller {
+class ControllerLibrary;
+}
+class Prompts;
+class clsK70;
+
+// All of it outlives the window.
+struct FormServices {
+  clsK70& k70;
+  controller::ControllerLibrary& library;
+  Prompts& prompts;
+  // The program's path, then the command line's arguments.
+  std::vector<std::string> arguments;
+};
+
+}  // namespace mortane

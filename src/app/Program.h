@@ -1,0 +1,25 @@
+// What the programs of this project do alike, from the command line to the end of the process.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "app/FormServices.h"
+
+class QWidget;
+
+namespace mortane {
+
+class QtPrompts;
+
+// In what one program differs from another.
+struct ProgramKind {
+  const char* title;
+  // Makes the window and brings it to its first state; it is shown and destroyed by RunProgram.
+  std::function<std::unique_ptr<QWidget>(const FormServices&, QtPrompts&)> makeForm;
+};
+
+// The program's exit code: 2 for a bench file that is wrong, told in one line on standard error.
+int RunProgram(int argc, char** argv, const ProgramKind& kind);
+
+}  // namespace mortane

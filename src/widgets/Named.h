@@ -1,0 +1,23 @@
+// Names of controls, by which styles, tests and screen readers' scripts find them.
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace mortane {
+
+// Gives the control its name and hands it back.
+template <typename Control>
+Control* Named(Control* control, const char* name) {
+  control->setObjectName(QLatin1String(name));
+  return control;
+}
+
+// The name of an element of an array of controls: "Label1_0".
+template <typename Control>
+Control* Named(Control* control, const char* arrayName, int index) {
+  control->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(arrayName)).arg(index));
+  return control;
+}
+
+}  // namespace mortane
