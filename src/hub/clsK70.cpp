@@ -81,6 +81,7 @@ void clsK70::FillTables() {
       MakeTransferStep("Barrier", Barrier, mounted(accessory::kFilterCube)),
       MakeTransferStep("curCondenser", curCondenser, mounted(accessory::kCondenser)),
       MakeTransferStep("dbcon", dbcon, mounted(accessory::kCondenser)),
+      MakeEnabledStep("ILObservation", ILObservation),
   };
   fileTable_ = {
       {fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
@@ -100,6 +101,7 @@ void clsK70::FillTables() {
       MakeFileElement(fileitem::kFilter, Barrier),
       MakeFileElement(fileitem::kCondenser, curCondenser),
       MakeFileElement(fileitem::kCondenser, dbcon),
+      MakeFileElement(fileitem::kInterlock, ILObservation),
   };
 }
 

@@ -18,6 +18,7 @@
 #include "hub/SettingsFile.h"
 #include "hub/Transfers.h"
 #include "hub/clsMutex.h"
+#include "interlocks/clsInterLockObservation.h"
 #include "model/ConnectedMicroscope.h"
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsLimitation.h"
@@ -54,6 +55,7 @@ class clsK70 : public ConnectedMicroscope {
   clsDbBarrier Barrier{*this};
   clsCondenser curCondenser{*this, dbcon};
   clsDbCondenser dbcon{*this};
+  clsInterLockObservation ILObservation{*this};
 
   // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;
   // others read 0 and store nothing.

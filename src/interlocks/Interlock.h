@@ -1,0 +1,83 @@
+// What the interlock units share: the state of one interlock in the model, in the controller and
+// in a settings file.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "common/Failure.h"
+#include "document/Dom.h"
+#include "model/ConnectedMicroscope.h"
+#include "model/UnitReport.h"
+
+namespace mortane {
+
+// The change that accessories follow, in the controller's numbers.
+enum class InterlockTrigger : std::int32_t {
+  Observation = 1,
+  OpticalZoom = 2,
+  Nosepiece = 3,
+  LightPath = 4,
+};
+
+// Whether an accessory follows. Unknown was not read, or the accessory takes no part.
+inline constexpr std::int32_t kInterlockUnknown = -1;
+inline constexpr std::int32_t kInterlockOff = 0;
+inline constexpr std::int32_t kInterlockOn = 1;
+
+// The states of accessories 1 to kCount, unknown at first. Any other accessory number raises
+// kSubscriptError.
+template <std::size_t kCount>
+class InterlockStates {
+ public:
+  InterlockStates() { Forget(); }
+
+  void Forget() { states_.fill(kInterlockUnknown); }
+
+  std::int32_t Get(std::int32_t item) const { return states_[CheckedIndex(item, 1, kCount)]; }
+  void Set(std::int32_t item, std::int32_t state) {
+    states_[CheckedIndex(item, 1, kCount)] = state;
+  }
+  // Leaves an unknown state as it is.
+  void SetKnown(std::int32_t item, std::int32_t state) {
+    if (Get(item) != kInterlockUnknown) Set(item, state);
+  }
+
+ private:
+  std::array<std::int32_t, kCount> states_;
+};
+
+// The controller's interlock of accessory `item`. Both raise what the library raises.
+std::int32_t ReadInterlock(const ConnectedMicroscope& microscope, std::int32_t item,
+                           InterlockTrigger trigger);
+void WriteInterlock(const ConnectedMicroscope& microscope, std::int32_t item,
+                    InterlockTrigger trigger, std::int32_t state);
+
+// An element of a settings file; `state` is nothing when its CODE is none of the three words.
+struct InterlockElement {
+  std::string position;  // as it stands in the file
+  std::optional<std::int32_t> state;
+};
+InterlockElement ReadInterlockElement(const DomNode& node);
+// A state that is neither on nor off is written as unknown.
+void AppendInterlockElement(DomDocument& document, DomNode section, std::string_view element,
+                            std::string_view position, std::int32_t state);
+
+// Runs `collect` with a text for its lines. They join `list` only when all could be compared;
+// otherwise the failure's line is the answer.
+template <typename Collect>
+std::string CollectWhenComplete(std::string& list, std::string_view opening, Collect&& collect) {
+  std::string lines;
+  std::string failure = FailureOf(opening, [&] { std::forward<Collect>(collect)(lines); });
+  if (failure.empty()) list = AppendLine(list, lines);
+  return failure;
+}
+
+inline bool IsControllable(const ConnectedMicroscope& microscope, std::int32_t item) {
+  return microscope.IsMounted(item) == kControllable;
+}
+
+}  // namespace mortane

@@ -1,0 +1,62 @@
+// What the tests of the interlock units share.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "support/UnitDrill.h"
+
+namespace mortane::test {
+
+using Lines = std::vector<std::string>;
+
+inline constexpr const char* kNoAnswer = "LIB:80004005)";
+
+// The lines as a report joins them.
+inline std::string Report(const Lines& lines) {
+  std::string report;
+  for (const std::string& line : lines) report += (report.empty() ? "" : "\r\n") + line;
+  return report;
+}
+
+// Lets only these controller units answer, counted from 0.
+inline void SetUnits(Instrument& instrument, const std::vector<int>& units) {
+  for (int unit = 1; unit <= 7; ++unit) instrument.Unit(unit) = {};
+  for (const int unit : units) instrument.Unit(unit + 1) = {1, "V1.30"};
+}
+
+// Makes IsMounted of the accessory kNotMounted, kSensorOnly or kControllable.
+inline void Fit(Instrument& instrument, std::int32_t number, std::int32_t mounted) {
+  instrument.Accessory(number).state = mounted == kNotMounted ? 0 : 1;
+  instrument.Accessory(number).readOnly = mounted == kSensorOnly;
+}
+
+// "-1 0 1": a unit's states of the accessories 1 to `count`.
+template <typename StateOf>
+std::string StatesOf(std::int32_t count, StateOf&& stateOf) {
+  std::string states;
+  for (std::int32_t k = 1; k <= count; ++k) {
+    states += (states.empty() ? "" : " ") + std::to_string(stateOf(k));
+  }
+  return states;
+}
+
+// The journal's words for one interlock.
+inline std::string Interlock(std::int32_t item, std::int32_t trigger) {
+  return "ControllerSettings.Interlock(" + std::to_string(item) + ", " + std::to_string(trigger) +
+         ")";
+}
+
+// What a statement raises for an accessory number beyond the table.
+template <typename Statement>
+std::string RaisedBy(Statement&& statement) {
+  try {
+    statement();
+    return "nothing";
+  } catch (const Failure& failure) {
+    return failure.Source() + ":" + std::to_string(failure.Number());
+  }
+}
+
+}  // namespace mortane::test
