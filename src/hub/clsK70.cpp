@@ -82,6 +82,7 @@ void clsK70::FillTables() {
       MakeTransferStep("curCondenser", curCondenser, mounted(accessory::kCondenser)),
       MakeTransferStep("dbcon", dbcon, mounted(accessory::kCondenser)),
       MakeEnabledStep("ILObservation", ILObservation),
+      MakeEnabledStep("ILOffset", ILOffset),
   };
   fileTable_ = {
       {fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
@@ -102,6 +103,7 @@ void clsK70::FillTables() {
       MakeFileElement(fileitem::kCondenser, curCondenser),
       MakeFileElement(fileitem::kCondenser, dbcon),
       MakeFileElement(fileitem::kInterlock, ILObservation),
+      MakeFileElement(fileitem::kInterlock, ILOffset),
   };
 }
 

@@ -19,6 +19,7 @@
 #include "hub/Transfers.h"
 #include "hub/clsMutex.h"
 #include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOffset.h"
 #include "model/ConnectedMicroscope.h"
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsLimitation.h"
@@ -56,6 +57,7 @@ class clsK70 : public ConnectedMicroscope {
   clsCondenser curCondenser{*this, dbcon};
   clsDbCondenser dbcon{*this};
   clsInterLockObservation ILObservation{*this};
+  clsInterLockOffset ILOffset{*this};
 
   // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;
   // others read 0 and store nothing.

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "interlocks/ObservationAccessories.h"
+#include "interlocks/OffsetAccessories.h"
 
 namespace mortane::test {
 namespace {
@@ -27,6 +28,12 @@ TEST(InterlockAccessories, FollowTheObservationOnThePageInThisOrder) {
             "0 Lamp (4)\n1 FilterCube (6)\n2 Nosepiece (9)\n3 ND Filter (1)\n4 Light Path (11)\n"
             "5 DIA Field Stop (2)\n6 Aperture Stop (3)\n7 Zoom (10)\n8 Shutter (7)\n"
             "9 Analyzer (8)\n10 Condenser (5)\n");
+}
+
+TEST(InterlockAccessories, AreCompensatedOnThePageInThisOrder) {
+  EXPECT_EQ(OnThePage(kOffsetAccessories, [](const auto& row) { return row.pageRow; }),
+            "0 ND Filter    ( default: 0.75 ) (1)\n1 DIA Field Stop       ( : 1.00 ) (2)\n"
+            "2 Aperture Stop        ( : 1.00 ) (3)\n3 EPI Field Stop       ( : 1.00 ) (13)\n");
 }
 
 }  // namespace

@@ -41,7 +41,47 @@ UnitDrillData Observation() {
   return data;
 }
 
-INSTANTIATE_TEST_SUITE_P(Interlocks, UnitDrill, testing::Values(Observation()), DrillName);
+UnitDrillData Offset() {
+  UnitDrillData data;
+  data.name = "InterLockOffset";
+  data.bench = "Harbour";
+  data.unit = OperationsOf(&clsK70::ILOffset);
+  data.edits = {
+      {"lowest code",
+       [](clsK70& k70) { k70.ILOffset.curND = 0; },
+       "InterLock Offset[ND]",
+       {"NDFilterDevice.OffsetCode = 0"}},
+      {"highest code",
+       [](clsK70& k70) { k70.ILOffset.curFStop = 9; },
+       "InterLock Offset[Dia F.Stop]",
+       {"FieldStopDevice.OffsetCode = 9"}},
+      {"epi field stop",
+       [](clsK70& k70) { k70.ILOffset.curEpiFStop = 3; },
+       "InterLock Offset[Epi F.Stop]",
+       {"EpiFieldStopDevice.OffsetCode = 3"}},
+      {"aperture stop",
+       [](clsK70& k70) { k70.ILOffset.curAStop = 1; },
+       "InterLock Offset[Dia A.Stop]",
+       {"ApertureStopDevice.OffsetCode = 1"}},
+  };
+  data.readFailure = data.modifyFailure = "InterLock Offset (";
+  data.writeFailures = {"InterLock Offset[ND]", "InterLock Offset[Dia F.Stop]",
+                        "InterLock Offset[Condenser]", "InterLock Offset[Dia A.Stop]"};
+  data.refused = {
+      {R"(<OFFSET POSITION="ND" CODE="10"/>)", ""},
+      {R"(<OFFSET POSITION="ND" CODE="-1"/>)", ""},
+      {R"(<OFFSET POSITION="ND" CODE="9.6"/>)", ""},
+      {R"(<OFFSET POSITION="ND"/>)", ""},
+      {R"(<OFFSET POSITION="Condenser" CODE="1"/>)", ""},
+      {R"(<OFFSET POSITION="ND " CODE="1"/>)", ""},
+      {R"(<OFFSET CODE="1"/>)", ""},
+      {"<OFFSET/>", ""},
+  };
+  return data;
+}
+
+INSTANTIATE_TEST_SUITE_P(Interlocks, UnitDrill, testing::Values(Observation(), Offset()),
+                         DrillName);
 
 }  // namespace
 }  // namespace mortane::test
