@@ -82,6 +82,7 @@ void clsK70::FillTables() {
       MakeTransferStep("curCondenser", curCondenser, mounted(accessory::kCondenser)),
       MakeTransferStep("dbcon", dbcon, mounted(accessory::kCondenser)),
       MakeEnabledStep("ILObservation", ILObservation),
+      MakeEnabledStep("ILOther", ILOther),
       MakeEnabledStep("ILOffset", ILOffset),
   };
   fileTable_ = {
@@ -103,6 +104,17 @@ void clsK70::FillTables() {
       MakeFileElement(fileitem::kCondenser, curCondenser),
       MakeFileElement(fileitem::kCondenser, dbcon),
       MakeFileElement(fileitem::kInterlock, ILObservation),
+      MakeFileElement(fileitem::kInterlock, ILOther),
+      {fileitem::kInterlock,
+       clsInterLockOther::kLightPathElement,
+       NameMatch::IgnoringCase,
+       [this](const DomNode& element) { return ILOther.ReadLPDom(element); },
+       {}},
+      {fileitem::kInterlock,
+       clsInterLockOther::kZoomElement,
+       NameMatch::IgnoringCase,
+       [this](const DomNode& element) { return ILOther.ReadZMDom(element); },
+       {}},
       MakeFileElement(fileitem::kInterlock, ILOffset),
   };
 }

@@ -20,6 +20,7 @@
 #include "hub/clsMutex.h"
 #include "interlocks/clsInterLockObservation.h"
 #include "interlocks/clsInterLockOffset.h"
+#include "interlocks/clsInterLockOther.h"
 #include "model/ConnectedMicroscope.h"
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsLimitation.h"
@@ -57,6 +58,7 @@ class clsK70 : public ConnectedMicroscope {
   clsCondenser curCondenser{*this, dbcon};
   clsDbCondenser dbcon{*this};
   clsInterLockObservation ILObservation{*this};
+  clsInterLockOther ILOther{*this};
   clsInterLockOffset ILOffset{*this};
 
   // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;

@@ -6,6 +6,7 @@
 
 #include "interlocks/ObservationAccessories.h"
 #include "interlocks/OffsetAccessories.h"
+#include "interlocks/OtherAccessories.h"
 
 namespace mortane::test {
 namespace {
@@ -28,6 +29,24 @@ TEST(InterlockAccessories, FollowTheObservationOnThePageInThisOrder) {
             "0 Lamp (4)\n1 FilterCube (6)\n2 Nosepiece (9)\n3 ND Filter (1)\n4 Light Path (11)\n"
             "5 DIA Field Stop (2)\n6 Aperture Stop (3)\n7 Zoom (10)\n8 Shutter (7)\n"
             "9 Analyzer (8)\n10 Condenser (5)\n");
+}
+
+TEST(InterlockAccessories, FollowTheNosepieceOnThePageInThisOrder) {
+  EXPECT_EQ(OnThePage(kOtherAccessories, [](const auto& row) { return row.nosepieceIndex; }),
+            "0 ND Filter (1)\n1 DIA Field Stop (2)\n2 Condenser (5)\n3 Aperture Stop (3)\n"
+            "4 Z Focus (12)\n5 XY Stage (14)\n");
+}
+
+TEST(InterlockAccessories, FollowLightPathAndZoomOnThePageInThisOrder) {
+  EXPECT_EQ(OnThePage(kOtherAccessories, [](const auto& row) { return row.pathIndex; }),
+            "0 EPI Field Stop (13)\n1 ND Filter (1)\n2 DIA Field Stop (2)\n");
+}
+
+TEST(InterlockAccessories, HaveABoxWhereTheyFollow) {
+  for (const OtherAccessory& row : kOtherAccessories) {
+    EXPECT_EQ(row.nosepieceIndex != OtherAccessory::kNoBox, row.FollowsNosepiece()) << row.number;
+    EXPECT_EQ(row.pathIndex != OtherAccessory::kNoBox, row.FollowsPath()) << row.number;
+  }
 }
 
 TEST(InterlockAccessories, AreCompensatedOnThePageInThisOrder) {

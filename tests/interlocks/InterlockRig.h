@@ -42,6 +42,29 @@ std::string StatesOf(std::int32_t count, StateOf&& stateOf) {
   return states;
 }
 
+// A table of fourteen in which nothing is known.
+inline constexpr const char* kAllUnknown = "-1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1";
+
+inline std::string NosepieceStates(const clsInterLockOther& unit) {
+  return StatesOf(14, [&](std::int32_t k) { return unit.Status(k); });
+}
+
+inline std::string LightPathStates(const clsInterLockOther& unit) {
+  return StatesOf(14, [&](std::int32_t k) { return unit.LightPathStatus(k); });
+}
+
+inline std::string ZoomStates(const clsInterLockOther& unit) {
+  return StatesOf(14, [&](std::int32_t k) { return unit.ZoomStatus(k); });
+}
+
+// One in which nothing else is known.
+inline std::string PathStates(std::int32_t ndFilter, std::int32_t fieldStop,
+                              std::int32_t epiFieldStop) {
+  return StatesOf(14, [&](std::int32_t k) {
+    return k == 1 ? ndFilter : k == 2 ? fieldStop : k == 13 ? epiFieldStop : -1;
+  });
+}
+
 // The journal's words for one interlock.
 inline std::string Interlock(std::int32_t item, std::int32_t trigger) {
   return "ControllerSettings.Interlock(" + std::to_string(item) + ", " + std::to_string(trigger) +

@@ -41,6 +41,69 @@ UnitDrillData Observation() {
   return data;
 }
 
+// Three kinds of elements, one writer.
+UnitOperations OperationsOfOther() {
+  UnitOperations operations = OperationsOf(&clsK70::ILOther);
+  operations.readElement = [](clsK70& k70, const std::string& xml) {
+    DomDocument document;
+    EXPECT_TRUE(document.LoadText(xml)) << xml;
+    const DomNode element = document.Children().at(0);
+    if (element.Name() == "LIGHTPATH") return k70.ILOther.ReadLPDom(element);
+    if (element.Name() == "ZOOM") return k70.ILOther.ReadZMDom(element);
+    return k70.ILOther.ReadDom(element);
+  };
+  return operations;
+}
+
+UnitDrillData Other() {
+  UnitDrillData data;
+  data.name = "InterLockOther";
+  data.bench = "Harbour";
+  data.unit = OperationsOfOther();
+  data.edits = {
+      {"the first does not follow the nosepiece",
+       [](clsK70& k70) { k70.ILOther.Status(1, 0); },
+       "InterLock Other[ND]",
+       {"ControllerSettings.ClearInterlock(1, 3)"}},
+      {"the epi field stop follows the zoom, of which a read makes a copy",
+       [](clsK70& k70) {
+         k70.ILOther.ZoomStatus(13, 1);
+         k70.ILOther.Status(10, 1);
+       },
+       "InterLock Optical Zoom [Epi FieldStop]",
+       {"ControllerSettings.SetInterlock(13, 2)"}},
+      {"the field stop does not follow the zoom",
+       [](clsK70& k70) { k70.ILOther.ZoomStatus(2, 0); },
+       "InterLock Optical Zoom [FieldStop]",
+       {"ControllerSettings.ClearInterlock(2, 2)"}},
+      {"the ND filter follows the light path",
+       [](clsK70& k70) { k70.ILOther.LightPathStatus(1, 1); },
+       "InterLock Light Path [ND Filter]",
+       {"ControllerSettings.SetInterlock(1, 4)"}},
+      {"the last does not follow the nosepiece",
+       [](clsK70& k70) { k70.ILOther.Status(14, 0); },
+       "InterLock Other[XY Stage]",
+       {"ControllerSettings.ClearInterlock(14, 3)"}},
+  };
+  data.readFailure = data.modifyFailure = "InterLock Other (";
+  data.writeFailures = {"InterLock Other[",
+                        "InterLock Other [Optical Zoom : ", "InterLock Other [Light Path : "};
+  // The rest of the bad elements: OtherInterlocksFileTest.
+  data.refused = {
+      {R"(<OTHER POSITION="ND" CODE="On"/>)", "InterLock Other[ND]"},
+      {R"(<OTHER POSITION="Nobody" CODE="On"/>)", "InterLock Other[Nobody]"},
+      {"<OTHER/>", "InterLock Other[]"},
+      {R"(<OTHER POSITION="Nobody" CODE="True"/>)", ""},
+      {R"(<OTHER POSITION="EpiFStop" CODE="True"/>)", ""},
+      {R"(<OTHER POSITION="ND" CODE="unknown"/>)", ""},
+      {R"(<LIGHTPATH POSITION="ND" CODE="1"/>)", "InterLock LightPath[ND]"},
+      {R"(<LIGHTPATH POSITION="XYStage" CODE="False"/>)", ""},
+      {R"(<ZOOM POSITION="ND"/>)", "InterLock Zoom[ND]"},
+      {R"(<ZOOM POSITION="OpticalZoom" CODE="True"/>)", ""},
+  };
+  return data;
+}
+
 UnitDrillData Offset() {
   UnitDrillData data;
   data.name = "InterLockOffset";
@@ -80,7 +143,7 @@ UnitDrillData Offset() {
   return data;
 }
 
-INSTANTIATE_TEST_SUITE_P(Interlocks, UnitDrill, testing::Values(Observation(), Offset()),
+INSTANTIATE_TEST_SUITE_P(Interlocks, UnitDrill, testing::Values(Observation(), Other(), Offset()),
                          DrillName);
 
 }  // namespace
