@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 
 #include "support/Rig.h"
 #include "support/TempFolder.h"
@@ -11,13 +12,16 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// Something to send in every unit of nosepiece and condenser.
+// Something to send in every unit of nosepiece, condenser and interlocks.
 void ChangeAll(clsK70& k70) {
   k70.curNosepiece.code(1, 5);
   k70.DbNosepiece.Set_DbNosepiece(1, "Clinic 25x", 2, 3, "25", "1.98", "0.95", 4);
   k70.curLimit.curSkip = 1;
   k70.curCondenser.code(1, 9);
   k70.dbcon.Name(141, "Slot");
+  k70.ILObservation.Status(accessory::kDiaLamp, 0);
+  k70.ILOther.Status(accessory::kNDFilter, 0);
+  k70.ILOffset.curND = 2;
 }
 
 constexpr const char* kNosepieceWrite = "NosepieceDevice.Positions(1).Code = 5";
@@ -25,7 +29,11 @@ constexpr const char* kDatabaseWrite = "SendCommand(\"cONS1230FA0C63B64\")";
 constexpr const char* kLimitWrite = "NosepieceDevice.Limitation = 2";
 constexpr const char* kCondenserWrite = "CondenserDevice.Positions(1).Code = 9";
 constexpr const char* kNamesWrite = "AccessoryDatabase.Condensers.Item(10).Name = \"Slot\"";
-const Lines kAllWrites{kNosepieceWrite, kDatabaseWrite, kLimitWrite, kCondenserWrite, kNamesWrite};
+constexpr const char* kObservationWrite = "ControllerSettings.ClearInterlock(4, 1)";
+constexpr const char* kOtherWrite = "ControllerSettings.ClearInterlock(1, 3)";
+constexpr const char* kOffsetWrite = "NDFilterDevice.OffsetCode = 2";
+const Lines kAllWrites{kNosepieceWrite, kDatabaseWrite,    kLimitWrite, kCondenserWrite,
+                       kNamesWrite,     kObservationWrite, kOtherWrite, kOffsetWrite};
 
 // Those of the lines above that are there, in the order in which they come.
 Lines Known(const Lines& writes) {
@@ -56,9 +64,11 @@ TEST(UnitTable, ModifyListsTheUnitsInTheSameOrder) {
   ChangeAll(rig.k70);
   EXPECT_EQ(rig.k70.Modify(),
             "Nosepiece[1] Plan A 20x\r\nNosepiece Optional[1] Clinic 25x\r\n"
-            "Nosepiece Limit[Skip]\r\nCondenser[1] Ph 3\r\nOptional Condenser[1] Slot");
+            "Nosepiece Limit[Skip]\r\nCondenser[1] Ph 3\r\nOptional Condenser[1] Slot\r\n"
+            "InterLock Observation[Lamp]\r\nInterLock Other[ND]\r\nInterLock Offset[ND]");
 }
 
+// Its followers are unknown.
 TEST(UnitTable, ASensorOnTheNosepieceGatesItsLimitsAlone) {
   Rig rig("Harbour");
   rig.instrument().Accessory(accessory::kNosepiece).readOnly = true;
@@ -66,8 +76,8 @@ TEST(UnitTable, ASensorOnTheNosepieceGatesItsLimitsAlone) {
   rig.ConnectAndReceive();
   ChangeAll(rig.k70);
   rig.k70.Send();
-  EXPECT_EQ(Known(rig.journal.Writes()),
-            (Lines{kNosepieceWrite, kDatabaseWrite, kCondenserWrite, kNamesWrite}));
+  EXPECT_EQ(Known(rig.journal.Writes()), (Lines{kNosepieceWrite, kDatabaseWrite, kCondenserWrite,
+                                                kNamesWrite, kObservationWrite, kOffsetWrite}));
 }
 
 struct GateRow {
@@ -78,8 +88,11 @@ struct GateRow {
 // The databases are not even compared then, although they would answer.
 TEST(UnitTable, AnAbsentAccessoryGatesItsUnits) {
   for (const GateRow& row :
-       {GateRow{accessory::kNosepiece, {kCondenserWrite, kNamesWrite}},
-        GateRow{accessory::kCondenser, {kNosepieceWrite, kDatabaseWrite, kLimitWrite}}}) {
+       {GateRow{accessory::kNosepiece,
+                {kCondenserWrite, kNamesWrite, kObservationWrite, kOffsetWrite}},
+        GateRow{accessory::kCondenser,
+                {kNosepieceWrite, kDatabaseWrite, kLimitWrite, kObservationWrite, kOtherWrite,
+                 kOffsetWrite}}}) {
     Rig rig("Harbour");
     rig.instrument().Accessory(row.absent).state = 0;
     rig.ConnectAndReceive();
@@ -99,7 +112,29 @@ TEST(UnitTable, ATurretWithoutAddressesGatesItsUnits) {
   rig.ConnectAndReceive();
   ChangeAll(rig.k70);
   rig.k70.Send();
-  EXPECT_EQ(Known(rig.journal.Writes()), Lines{});
+  EXPECT_EQ(Known(rig.journal.Writes()), Lines{kOffsetWrite});
+}
+
+// The stage's interlock is known and differs, but does not enable its unit.
+TEST(UnitTable, AUnitThatIsNotEnabledIsNeitherComparedNorSent) {
+  Rig rig("Pair");
+  rig.ConnectAndReceive();
+  rig.k70.ILOther.Status(accessory::kXYStage, 1);
+  EXPECT_FALSE(rig.k70.ILOther.IsEnable());
+  EXPECT_EQ(rig.k70.Modify(), "");
+  rig.k70.Send();
+  for (const std::string& line : rig.journal.Lines()) {
+    EXPECT_FALSE(Mentions(line, "Interlock(14, 3)")) << line;
+  }
+}
+
+TEST(UnitTable, InterlocksThatWereNeverReadAreNotAskedForByASend) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.k70.Send();
+  for (const std::string& line : rig.journal.Lines()) {
+    EXPECT_FALSE(Mentions(line, "Interlock") || Mentions(line, "OffsetCode")) << line;
+  }
 }
 
 TEST(UnitTable, ReceiveGivesTheTurretsTheirCounts) {
@@ -129,6 +164,20 @@ TEST(UnitTable, AFileCarriesEveryUnitToAnotherModel) {
   EXPECT_EQ(TempFolder::Read(folder.Path("again.xml")), TempFolder::Read(path));
 }
 
+// "ITEM 6, OPTION 9": the elements of a section as they follow each other.
+std::string RunsIn(const DomNode& section) {
+  std::vector<std::pair<std::string, int>> runs;
+  for (const DomNode& element : section.Children()) {
+    if (runs.empty() || runs.back().first != element.Name()) runs.emplace_back(element.Name(), 0);
+    ++runs.back().second;
+  }
+  std::string text;
+  for (const auto& [name, count] : runs) {
+    text += (text.empty() ? "" : ", ") + name + " " + std::to_string(count);
+  }
+  return text;
+}
+
 TEST(UnitTable, TheFileHasTheUnitsElementsInTheirSectionsAndInOrder) {
   const TempFolder folder;
   Rig rig("Harbour");
@@ -136,14 +185,27 @@ TEST(UnitTable, TheFileHasTheUnitsElementsInTheirSectionsAndInOrder) {
   rig.k70.WriteXML(folder.Path("all.xml"));
   DomDocument document;
   ASSERT_TRUE(document.Load(folder.Path("all.xml")));
-  std::string names;
+  std::map<std::string, std::string> runs;
   for (const DomNode& section : document.Children().at(0).Children()) {
-    if (section.Name() != "NOSEPIECE" && section.Name() != "CONDENSER") continue;
-    names += section.Name() + ":";
-    for (const DomNode& element : section.Children()) names += element.Name()[0];
-    names += " ";
+    runs[section.Name()] = RunsIn(section);
   }
-  EXPECT_EQ(names, "NOSEPIECE:IIIIIIOOOOOOOOOLLL CONDENSER:IIIIIIIOOOOOOOOO ");
+  EXPECT_EQ(runs["NOSEPIECE"], "ITEM 6, OPTION 9, LIMIT 3");
+  EXPECT_EQ(runs["FILTER"], "ITEM 6, OPTION 9, EXCITER 9, DICHROIC 9, BARRIER 9");
+  EXPECT_EQ(runs["CONDENSER"], "ITEM 7, OPTION 9");
+  EXPECT_EQ(runs["INTERLOCK"], "OBSERVATION 11, OTHER 8, LIGHTPATH 3, ZOOM 3, OFFSET 4");
+}
+
+TEST(UnitTable, AnElementInTheSectionOfAnotherAreaIsPassedOver) {
+  const TempFolder folder;
+  const std::string path = folder.Write(
+      "elsewhere.xml",
+      "<Setup><CONTROL><OBSERVATION POSITION=\"ND\" CODE=\"x\"/><ZOOM CODE=\"x\"/></CONTROL>"
+      "<NOSEPIECE><OTHER POSITION=\"ND\" CODE=\"x\"/><OFFSET POSITION=\"ND\" CODE=\"1\"/>"
+      "</NOSEPIECE><INTERLOCK><LIMIT CODE=\"x\"/></INTERLOCK></Setup>");
+  Rig rig("Harbour");
+  rig.k70.ReadXMLItems(path);
+  rig.k70.ReadXML(path);
+  EXPECT_EQ(rig.k70.ILOffset.curND, -1);
 }
 
 TEST(UnitTable, LinesOfAFilesUnitsStandInOneBox) {
@@ -152,12 +214,14 @@ TEST(UnitTable, LinesOfAFilesUnitsStandInOneBox) {
       "bad.xml",
       "<Setup><CONDENSER><option POSITION=\"1\" NAME=\"Eleven char\"/><ITEM/></CONDENSER>"
       "<nosepiece><ITEM POSITION=\"11\" CODE=\"1\"/><OPTION/><limit CODE=\"x\"/></nosepiece>"
-      "</Setup>");
+      "<Interlock><zoom POSITION=\"ND\"/><other/><Offset/><lightpath CODE=\"x\"/>"
+      "<observation POSITION=\"Lamp\"/></Interlock></Setup>");
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.prompts.ExpectBox(
       "Condenser Option[1]\r\nCondenser Caset[-1] CODE=-1\r\nNosepiece[11]\r\n"
-      "Nosepiece Optional[-1]\r\nNosepiece Limit",
+      "Nosepiece Optional[-1]\r\nNosepiece Limit\r\nInterLock Zoom[ND]\r\nInterLock Other[]\r\n"
+      "InterLock LightPath[]\r\nInterLock Observation[Lamp]",
       box::kOk, Answer::Ok, "XML Read");
   rig.k70.ReadXMLItems(path);
   rig.k70.ReadXML(path);
@@ -189,7 +253,8 @@ TEST(UnitTable, AValueThatNoCodeCanHoldMakesTheSaveFail) {
 }
 
 TEST(UnitTable, UntouchedInstrumentsHaveNothingToModify) {
-  for (const char* bench : {"Quay", "Harbour", "Lantern", "Hub", "Pair", "Watch", "Hollow"}) {
+  for (const char* bench : {"Quay", "Harbour", "Lantern", "Hub", "Pair", "Outpost", "Relay", "Deck",
+                            "DeckRemote", "Watch", "Shell", "Hollow"}) {
     Rig rig(bench);
     rig.ConnectAndReceive();
     EXPECT_EQ(rig.k70.Modify(), "") << bench;
