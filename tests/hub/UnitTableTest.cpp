@@ -68,6 +68,22 @@ TEST(UnitTable, ModifyListsTheUnitsInTheSameOrder) {
             "InterLock Observation[Lamp]\r\nInterLock Other[ND]\r\nInterLock Offset[ND]");
 }
 
+TEST(UnitTable, ReceiveReadsTheUnitsInTheSameOrder) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.faults.Add({"get NDFilterDevice.OffsetCode"});
+  rig.faults.Add({"ControllerSettings.Interlock(1, 3)"});
+  rig.faults.Add({"ControllerSettings.Interlock(1, 1)"});
+  rig.faults.Add({"CondenserDevice.Positions(1)"});
+  rig.faults.Add({"NosepieceDevice.Limitation"});
+  rig.prompts.ExpectBox(
+      "Nosepiece Limit (LIB:80004005)\r\nCondenser Casset (LIB:80004005)\r\n"
+      "InterLock Observation (LIB:80004005)\r\nInterLock Other (LIB:80004005)\r\n"
+      "InterLock Offset (LIB:80004005)",
+      box::kCritical);
+  rig.k70.Receive();
+}
+
 // Its followers are unknown.
 TEST(UnitTable, ASensorOnTheNosepieceGatesItsLimitsAlone) {
   Rig rig("Harbour");
