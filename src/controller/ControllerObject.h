@@ -10,8 +10,8 @@ namespace mortane::controller {
 // An object of the library. Every call may raise a ControllerError.
 //
 // The empty member name is the object's default member: of a state value, the number that it
-// stands for. A collection's member "_NewEnum" gives a walk over its items; the walk's member
-// "Next" gives the following item, or nothing at the end.
+// stands for. A collection's member "_NewEnum" gives an enumerator of its items; the
+// enumerator's member "Next" gives the following item, or nothing at the end.
 class ControllerObject {
  public:
   virtual ~ControllerObject() = default;

@@ -9,7 +9,7 @@ namespace mortane::controller {
 
 class DecoratedObject : public ControllerObject {
  public:
-  enum class Role { Plain, Walk };
+  enum class Role { Plain, Enumerator };
 
   DecoratedObject(DecoratedLibrary& library, ObjectRef inner, std::string path, Role role)
       : library_(library), inner_(std::move(inner)), path_(std::move(path)), role_(role) {}
@@ -26,7 +26,7 @@ class DecoratedObject : public ControllerObject {
   // The caller's objects are ours; the inner library must see its own.
   Value Unwrap(const Value& value) const;
   std::vector<Value> Unwrap(Args args) const;
-  Value Step();
+  Value Next();
 
   DecoratedLibrary& library_;
   ObjectRef inner_;
@@ -37,8 +37,8 @@ class DecoratedObject : public ControllerObject {
 
 namespace {
 
-constexpr std::string_view kWalkMember = "_NewEnum";
-constexpr std::string_view kStepMember = "Next";
+constexpr std::string_view kEnumeratorMember = "_NewEnum";
+constexpr std::string_view kNextMember = "Next";
 
 std::string DescribeArguments(Args args) {
   std::string text;
@@ -89,10 +89,10 @@ std::vector<Value> DecoratedObject::Unwrap(Args args) const {
   return values;
 }
 
-Value DecoratedObject::Step() {
+Value DecoratedObject::Next() {
   const std::string path = path_ + "(" + std::to_string(turns_ + 1) + ")";
-  const Value item = library_.Around({CallKind::WalkStep, path, kStepMember},
-                                     [&] { return inner_->Call(kStepMember, {}); });
+  const Value item = library_.Around({CallKind::EnumeratorNext, path, kNextMember},
+                                     [&] { return inner_->Call(kNextMember, {}); });
   ++turns_;
   return Wrap(item, path, Role::Plain);
 }
@@ -107,7 +107,7 @@ Value DecoratedObject::Get(std::string_view member, Args args) {
   const std::string path = PathOf(member, args, false);
   const Value result = library_.Around({CallKind::Get, path, member},
                                        [&] { return inner_->Get(member, Args(values)); });
-  if (member == kWalkMember) return Wrap(result, path_, Role::Walk);
+  if (member == kEnumeratorMember) return Wrap(result, path_, Role::Enumerator);
   return Wrap(result, path, Role::Plain);
 }
 
@@ -120,7 +120,7 @@ void DecoratedObject::Put(std::string_view member, const Value& value, Args args
 }
 
 Value DecoratedObject::Call(std::string_view member, Args args) {
-  if (role_ == Role::Walk && member == kStepMember && args.empty()) return Step();
+  if (role_ == Role::Enumerator && member == kNextMember && args.empty()) return Next();
   const std::vector<Value> values = Unwrap(args);
   const std::string path = PathOf(member, args, true);
   const Value result = library_.Around({CallKind::Call, path, member},

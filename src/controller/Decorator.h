@@ -9,11 +9,11 @@
 
 namespace mortane::controller {
 
-enum class CallKind { Create, Get, Put, Call, WalkStep };
+enum class CallKind { Create, Get, Put, Call, EnumeratorNext };
 
 // One call. The path leads from the root, whose members stand without a prefix, arguments in
-// brackets: "DeviceList.Item(1).Connect()". An item that a walk hands out is named after the
-// collection and its turn: "NosepieceDevice.Positions(3)".
+// brackets: "DeviceList.Item(1).Connect()". An item that an enumerator hands out is named
+// after the collection and its turn: "NosepieceDevice.Positions(3)".
 struct CallSite {
   CallKind kind;
   std::string path;

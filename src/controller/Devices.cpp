@@ -2,7 +2,7 @@
 
 namespace mortane::controller {
 
-std::optional<TurretPosition> TurretWalk::Next() const {
+std::optional<TurretPosition> TurretEnumerator::Next() const {
   const Value item = Call("Next");
   if (std::holds_alternative<std::monostate>(item)) return std::nullopt;
   return TurretPosition(ToObject(item));

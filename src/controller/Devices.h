@@ -70,8 +70,8 @@ class TurretPosition : public Proxy {
   void PutCode(std::int32_t code) const { Put("Code", code); }
 };
 
-// A walk over the addresses; it asks the controller for each item as it comes.
-class TurretWalk : public Proxy {
+// Enumerates the addresses; it asks the controller for each item when that is reached.
+class TurretEnumerator : public Proxy {
  public:
   using Proxy::Proxy;
   // The following item, nothing at the end.
@@ -82,7 +82,7 @@ class TurretPositions : public Proxy {
  public:
   using Proxy::Proxy;
   std::int32_t Count() const { return GetLong("Count"); }
-  TurretWalk Walk() const { return TurretWalk(GetObject("_NewEnum")); }
+  TurretEnumerator Enumerate() const { return TurretEnumerator(GetObject("_NewEnum")); }
 };
 
 // Filter cube turret and condenser cassette.

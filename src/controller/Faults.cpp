@@ -40,7 +40,7 @@ bool PathMatches(std::string_view pattern, std::string_view path) {
 }
 
 // A collection's own path must not stand for the steps of a walk over it.
-bool StepMatches(std::string_view pattern, std::string_view path) {
+bool NextMatches(std::string_view pattern, std::string_view path) {
   const std::string_view collection = path.substr(0, path.rfind('('));
   return (pattern.ends_with(')') && PathMatches(pattern, path)) ||
          PathMatches(pattern, std::string(collection) + ".Next");
@@ -51,7 +51,7 @@ bool Matches(std::string_view pattern, const CallSite& site) {
     if (!pattern.starts_with(prefix)) continue;
     return site.kind == kind && PathMatches(pattern.substr(prefix.size()), site.path);
   }
-  if (site.kind == CallKind::WalkStep) return StepMatches(pattern, site.path);
+  if (site.kind == CallKind::EnumeratorNext) return NextMatches(pattern, site.path);
   return PathMatches(pattern, site.path);
 }
 

@@ -14,7 +14,8 @@ namespace mortane::controller {
 // `call` is the path of a call as the journal writes it. Each pair of brackets may be left out,
 // which then stands for any arguments: "DeviceList.Item(1).Connect", "DeviceList.Item.Connect".
 // "get ", "put " or "call " in front takes calls of that kind only. Also: "Create(Microscope)";
-// "NosepieceDevice.Positions(3)" for a step of a walk, "NosepieceDevice.Positions.Next" for all.
+// "NosepieceDevice.Positions(3)" for one step of an enumerator, "NosepieceDevice.Positions.Next"
+// for all.
 struct FaultRule {
   std::string call;
   int occurrence = 0;  // 0 every call that matches, n the n-th only

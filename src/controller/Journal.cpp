@@ -24,7 +24,7 @@ std::string LeftSide(const CallSite& site) {
 }
 
 bool IsNavigation(const CallSite& site, const Value& result) {
-  return site.kind == CallKind::Create || site.kind == CallKind::WalkStep ||
+  return site.kind == CallKind::Create || site.kind == CallKind::EnumeratorNext ||
          std::holds_alternative<ObjectRef>(result);
 }
 

@@ -77,7 +77,7 @@ class Microscope : public Proxy {
   std::int32_t RemoteLED() const { return GetLong("RemoteLED", {7}); }
   void PutRemoteLED(std::int32_t state) const { Put("RemoteLED", state, {7}); }
 
-  // Any of the accessory devices above by its member's name, for tables that walk over them.
+  // Any of the accessory devices above by its member's name, for tables of devices.
   AccessoryDevice Accessory(std::string_view member) const {
     return Device<AccessoryDevice>(member);
   }

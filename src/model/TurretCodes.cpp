@@ -11,8 +11,8 @@ bool IsAddress(std::int32_t address) {
 
 template <typename Visit>
 void ForEachItem(const controller::TurretPositions& positions, Visit&& visit) {
-  const controller::TurretWalk walk = positions.Walk();
-  while (const auto item = walk.Next()) visit(*item);
+  const controller::TurretEnumerator enumerator = positions.Enumerate();
+  while (const auto item = enumerator.Next()) visit(*item);
 }
 
 }  // namespace

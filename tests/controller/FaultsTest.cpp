@@ -28,10 +28,10 @@ void ConnectItem(const Microscope& root) {
   root.DeviceList().Item(1).Connect();
 }
 void ReadThirdCode(const Microscope& root) {
-  const TurretWalk walk = root.NosepieceDevice().Positions().Walk();
-  walk.Next();
-  walk.Next();
-  walk.Next()->Code();
+  const TurretEnumerator enumerator = root.NosepieceDevice().Positions().Enumerate();
+  enumerator.Next();
+  enumerator.Next();
+  enumerator.Next()->Code();
 }
 void AskSwitch(const Microscope& root) {
   root.ControllerSettings().SwitchFunction(0, "A");
@@ -142,26 +142,26 @@ TEST(Faults, ComeAlwaysWithoutAnOccurrence) {
   EXPECT_EQ(rig.plan.Hits(), 2U);
 }
 
-TEST(Faults, CanHitTheCountAndLeaveTheWalk) {
+TEST(Faults, CanHitTheCountAndLeaveTheEnumerator) {
   FaultRig rig;
   rig.plan.Add({"NosepieceDevice.Positions.Count"});
   const TurretPositions positions = rig.root.NosepieceDevice().Positions();
   EXPECT_THROW(positions.Count(), ControllerError);
-  const TurretWalk walk = positions.Walk();
+  const TurretEnumerator enumerator = positions.Enumerate();
   int items = 0;
-  while (walk.Next()) ++items;
+  while (enumerator.Next()) ++items;
   EXPECT_EQ(items, 6);
 }
 
-TEST(Faults, CanHitTheWalkAndLeaveTheCount) {
+TEST(Faults, CanHitTheEnumeratorAndLeaveTheCount) {
   FaultRig rig;
   rig.plan.Add({"NosepieceDevice.Positions(3)"});
   const TurretPositions positions = rig.root.NosepieceDevice().Positions();
   EXPECT_EQ(positions.Count(), 6);
-  const TurretWalk walk = positions.Walk();
-  EXPECT_TRUE(walk.Next());
-  EXPECT_TRUE(walk.Next());
-  EXPECT_THROW(walk.Next(), ControllerError);
+  const TurretEnumerator enumerator = positions.Enumerate();
+  EXPECT_TRUE(enumerator.Next());
+  EXPECT_TRUE(enumerator.Next());
+  EXPECT_THROW(enumerator.Next(), ControllerError);
 }
 
 TEST(Faults, OfACollectionDoNotCountTheStepsOfAWalkOverIt) {

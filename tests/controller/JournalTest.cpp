@@ -63,15 +63,15 @@ TEST(Journal, ShowsValuesReadWrittenAndCalls) {
                    "AccessoryDatabase.Nosepieces.Item(2).IsOption -> false"}));
 }
 
-TEST(Journal, NamesTheItemsOfAWalkByTheirTurn) {
+TEST(Journal, NamesTheItemsOfAnEnumeratorByTheirTurn) {
   ConnectedJournal rig("Hollow");
   rig.simulated.bench().instruments[0].nosepiece = {{9, 4}, {8, 5}};
-  const TurretWalk walk = rig.root.NosepieceDevice().Positions().Walk();
-  walk.Next()->Code();
-  const TurretPosition second = *walk.Next();
+  const TurretEnumerator enumerator = rig.root.NosepieceDevice().Positions().Enumerate();
+  enumerator.Next()->Code();
+  const TurretPosition second = *enumerator.Next();
   second.Position();
   second.PutCode(14);
-  EXPECT_FALSE(walk.Next());
+  EXPECT_FALSE(enumerator.Next());
   EXPECT_EQ(rig.journal.Lines(), (Lines{"NosepieceDevice.Positions(1).Code -> 4",
                                         "NosepieceDevice.Positions(2).Position -> 8",
                                         "NosepieceDevice.Positions(2).Code = 14"}));
@@ -96,9 +96,9 @@ TEST(Journal, ShowsFailuresBehindTheCallThatFailed) {
   rig.faults.Add({"Create(Microscope)"});
   EXPECT_THROW(rig.root.ControllerPresent(3), ControllerError);
   EXPECT_THROW(rig.root.PutSystemName("x"), ControllerError);
-  const TurretWalk walk = rig.root.NosepieceDevice().Positions().Walk();
-  walk.Next();
-  EXPECT_THROW(walk.Next(), ControllerError);
+  const TurretEnumerator enumerator = rig.root.NosepieceDevice().Positions().Enumerate();
+  enumerator.Next();
+  EXPECT_THROW(enumerator.Next(), ControllerError);
   EXPECT_THROW(rig.root.CondenserDevice(), ControllerError);
   EXPECT_THROW(rig.library.Create("Microscope"), ControllerError);
   EXPECT_EQ(rig.journal.Lines(),
@@ -130,7 +130,7 @@ TEST(Journal, CountsEveryCallButTheNumbersOfStates) {
   EXPECT_EQ(rig.journal.CallCount(), 7U);
   EXPECT_EQ(root.ZDriveDevice().Position().Number(), 0);
   EXPECT_EQ(rig.journal.CallCount(), 9U);
-  root.NosepieceDevice().Positions().Walk().Next();
+  root.NosepieceDevice().Positions().Enumerate().Next();
   EXPECT_EQ(rig.journal.CallCount(), 13U);
   rig.journal.Clear();
   EXPECT_EQ(rig.journal.CallCount(), 0U);

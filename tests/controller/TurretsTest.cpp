@@ -5,10 +5,10 @@
 namespace mortane::controller::test {
 namespace {
 
-std::vector<TurretPlace> Walked(const TurretDevice& turret) {
+std::vector<TurretPlace> Enumerated(const TurretDevice& turret) {
   std::vector<TurretPlace> places;
-  const TurretWalk walk = turret.Positions().Walk();
-  while (const auto item = walk.Next()) places.push_back({item->Position(), item->Code()});
+  const TurretEnumerator enumerator = turret.Positions().Enumerate();
+  while (const auto item = enumerator.Next()) places.push_back({item->Position(), item->Code()});
   return places;
 }
 
@@ -91,42 +91,42 @@ TEST(OffsetDevices, KeepACodeEach) {
   EXPECT_THROW(rig.root.Accessory("AnalyzerDevice").Object()->Get("OffsetCode"), ControllerError);
 }
 
-TEST(Turrets, CountAndWalkTheirPlacesInOrder) {
+TEST(Turrets, CountAndEnumerateTheirPlacesInOrder) {
   SimulatedRig rig("Harbour");
   EXPECT_EQ(rig.root.NosepieceDevice().Positions().Count(), 6);
   EXPECT_EQ(rig.root.FilterCubeDevice().Positions().Count(), 6);
   EXPECT_EQ(rig.root.CondenserDevice().Positions().Count(), 7);
-  EXPECT_EQ(Walked(rig.root.NosepieceDevice()), rig.instrument().nosepiece);
-  EXPECT_EQ(Walked(rig.root.FilterCubeDevice()), rig.instrument().filterCubes);
-  EXPECT_EQ(Walked(rig.root.CondenserDevice()), rig.instrument().condensers);
+  EXPECT_EQ(Enumerated(rig.root.NosepieceDevice()), rig.instrument().nosepiece);
+  EXPECT_EQ(Enumerated(rig.root.FilterCubeDevice()), rig.instrument().filterCubes);
+  EXPECT_EQ(Enumerated(rig.root.CondenserDevice()), rig.instrument().condensers);
 }
 
-TEST(Turrets, WalkOverPlacesThatAreNumberedOddly) {
+TEST(Turrets, EnumeratePlacesThatAreNumberedOddly) {
   SimulatedRig rig("Harbour");
   const TurretPlaces odd{{0, 1}, {11, 250}, {1, -5}};
   rig.instrument().nosepiece = odd;
-  EXPECT_EQ(Walked(rig.root.NosepieceDevice()), odd);
+  EXPECT_EQ(Enumerated(rig.root.NosepieceDevice()), odd);
 }
 
-TEST(Turrets, WithoutPlacesEndAWalkAtOnce) {
+TEST(Turrets, WithoutPlacesEndAnEnumerationAtOnce) {
   SimulatedRig rig("Hollow");
   EXPECT_EQ(rig.root.CondenserDevice().Positions().Count(), 0);
-  EXPECT_TRUE(Walked(rig.root.CondenserDevice()).empty());
+  EXPECT_TRUE(Enumerated(rig.root.CondenserDevice()).empty());
 }
 
-TEST(Turrets, ThatAreNotFittedNeitherCountNorWalk) {
+TEST(Turrets, ThatAreNotFittedNeitherCountNorEnumerate) {
   SimulatedRig rig("Shell");
   const TurretPositions positions = rig.root.NosepieceDevice().Positions();
   EXPECT_THROW(positions.Count(), ControllerError);
-  EXPECT_THROW(positions.Walk().Next(), ControllerError);
+  EXPECT_THROW(positions.Enumerate().Next(), ControllerError);
 }
 
-TEST(Turrets, KeepSeveralWalksApart) {
+TEST(Turrets, KeepSeveralEnumeratorsApart) {
   SimulatedRig rig("Harbour");
   const TurretPositions positions = rig.root.NosepieceDevice().Positions();
-  const TurretWalk first = positions.Walk();
+  const TurretEnumerator first = positions.Enumerate();
   first.Next();
-  const TurretWalk second = positions.Walk();
+  const TurretEnumerator second = positions.Enumerate();
   EXPECT_EQ(first.Next()->Position(), 2);
   EXPECT_EQ(second.Next()->Position(), 1);
 }
@@ -134,9 +134,9 @@ TEST(Turrets, KeepSeveralWalksApart) {
 TEST(Turrets, TakeANewCodeAtOnePlaceOnly) {
   SimulatedRig rig("Harbour");
   TurretPlaces expected = rig.instrument().condensers;
-  const TurretWalk walk = rig.root.CondenserDevice().Positions().Walk();
-  walk.Next();
-  walk.Next()->PutCode(145);
+  const TurretEnumerator enumerator = rig.root.CondenserDevice().Positions().Enumerate();
+  enumerator.Next();
+  enumerator.Next()->PutCode(145);
   expected[1].code = 145;
   EXPECT_EQ(rig.instrument().condensers, expected);
 }

@@ -84,14 +84,14 @@ ObjectRef MakeTurretPosition(const DeviceLink& link, const DeviceRow& row, std::
   return object;
 }
 
-ObjectRef MakeTurretWalk(const DeviceLink& link, const DeviceRow& row) {
-  auto walk = std::make_shared<MemberObject>();
+ObjectRef MakeTurretEnumerator(const DeviceLink& link, const DeviceRow& row) {
+  auto enumerator = std::make_shared<MemberObject>();
   const auto next = std::make_shared<std::size_t>(0);
-  walk->OnCall("Next", 0, [link, &row, next](Args) -> Value {
+  enumerator->OnCall("Next", 0, [link, &row, next](Args) -> Value {
     if (*next >= (link.Fitted(row.number).*(row.places)).size()) return {};
     return MakeTurretPosition(link, row, (*next)++);
   });
-  return walk;
+  return enumerator;
 }
 
 void AddPositions(MemberObject& object, const DeviceLink& link, const DeviceRow& row) {
@@ -104,7 +104,8 @@ void AddPositions(MemberObject& object, const DeviceLink& link, const DeviceRow&
                   const TurretPlaces& places = link.Fitted(row.number).*(row.places);
                   return static_cast<std::int32_t>(places.size());
                 })
-        .OnGet("_NewEnum", 0, [link, &row](Args) -> Value { return MakeTurretWalk(link, row); });
+        .OnGet("_NewEnum", 0,
+               [link, &row](Args) -> Value { return MakeTurretEnumerator(link, row); });
     return positions;
   });
 }

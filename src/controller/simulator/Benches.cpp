@@ -4,32 +4,32 @@
 #include <array>
 
 #include "common/Failure.h"
-#include "controller/simulator/Rigs.h"
+#include "controller/simulator/Instruments.h"
 
 namespace mortane::controller::benches {
 namespace {
 
 constexpr std::string_view kCrowd = "Crowd";
 
-struct RigRow {
+struct InstrumentRow {
   std::string_view name;
   Instrument (*make)();
 };
 
-constexpr std::array kRigs{
-    RigRow{"Quay", rigs::Quay},
-    RigRow{"Harbour", rigs::Harbour},
-    RigRow{"Lantern", rigs::Lantern},
-    RigRow{"Hub", rigs::Hub},
-    RigRow{"Pair", rigs::Pair},
-    RigRow{"Outpost", rigs::Outpost},
-    RigRow{"Relay", rigs::Relay},
-    RigRow{"Deck", rigs::Deck},
-    RigRow{"DeckRemote", rigs::DeckRemote},
-    RigRow{"Watch", rigs::Watch},
-    RigRow{"Shell", rigs::Shell},
-    RigRow{"Hollow", rigs::Hollow},
-    RigRow{"Attic", rigs::Attic},
+constexpr std::array kInstruments{
+    InstrumentRow{"Quay", instruments::Quay},
+    InstrumentRow{"Harbour", instruments::Harbour},
+    InstrumentRow{"Lantern", instruments::Lantern},
+    InstrumentRow{"Hub", instruments::Hub},
+    InstrumentRow{"Pair", instruments::Pair},
+    InstrumentRow{"Outpost", instruments::Outpost},
+    InstrumentRow{"Relay", instruments::Relay},
+    InstrumentRow{"Deck", instruments::Deck},
+    InstrumentRow{"DeckRemote", instruments::DeckRemote},
+    InstrumentRow{"Watch", instruments::Watch},
+    InstrumentRow{"Shell", instruments::Shell},
+    InstrumentRow{"Hollow", instruments::Hollow},
+    InstrumentRow{"Attic", instruments::Attic},
 };
 
 Instrument Renamed(Instrument instrument, std::string name) {
@@ -39,9 +39,10 @@ Instrument Renamed(Instrument instrument, std::string name) {
 
 // Names as a list may hold them: plain, of a device that is away, blank, with blanks around.
 std::vector<Instrument> Crowd() {
-  std::vector<Instrument> devices{rigs::Quay(), Renamed(rigs::Harbour(), "Alpha"),
-                                  Renamed(rigs::Harbour(), "Beta"), Renamed(rigs::Lantern(), "   "),
-                                  Renamed(rigs::Hub(), "  Gamma  ")};
+  std::vector<Instrument> devices{instruments::Quay(), Renamed(instruments::Harbour(), "Alpha"),
+                                  Renamed(instruments::Harbour(), "Beta"),
+                                  Renamed(instruments::Lantern(), "   "),
+                                  Renamed(instruments::Hub(), "  Gamma  ")};
   devices[2].available = 0;
   return devices;
 }
@@ -61,25 +62,25 @@ FiberData QuayFiber() {
 
 std::vector<std::string> Names() {
   std::vector<std::string> names;
-  names.reserve(kRigs.size() + 1);
-  for (const RigRow& rig : kRigs) names.emplace_back(rig.name);
+  names.reserve(kInstruments.size() + 1);
+  for (const InstrumentRow& row : kInstruments) names.emplace_back(row.name);
   names.emplace_back(kCrowd);
   return names;
 }
 
 Bench Named(std::string_view name) {
   if (name == kCrowd) return {Crowd(), {}};
-  if (name == kRigs.front().name) return {{rigs::Quay()}, QuayFiber()};
-  return {{rigs::Quay(), InstrumentNamed(name)}, {}};
+  if (name == kInstruments.front().name) return {{instruments::Quay()}, QuayFiber()};
+  return {{instruments::Quay(), InstrumentNamed(name)}, {}};
 }
 
 Instrument InstrumentNamed(std::string_view name) {
-  const auto rig =
-      std::find_if(kRigs.begin(), kRigs.end(), [&](const RigRow& row) { return row.name == name; });
-  if (rig == kRigs.end()) {
+  const auto row = std::find_if(kInstruments.begin(), kInstruments.end(),
+                                [&](const InstrumentRow& each) { return each.name == name; });
+  if (row == kInstruments.end()) {
     RaiseOwnFailure(kSubscriptError, "No bench is named \"" + std::string(name) + "\".");
   }
-  return rig->make();
+  return row->make();
 }
 
 }  // namespace mortane::controller::benches

@@ -6,7 +6,7 @@
 
 #include "controller/simulator/Bench.h"
 
-namespace mortane::controller::rigs {
+namespace mortane::controller::instruments {
 
 Instrument Quay();        // the simulator: body, hub and hand controller, all fitted
 Instrument Harbour();     // body and hand controller, everything fitted and controllable
@@ -41,4 +41,4 @@ void SetSwitches(std::array<std::string, Count>& switches, std::string_view char
   }
 }
 
-}  // namespace mortane::controller::rigs
+}  // namespace mortane::controller::instruments

@@ -1,6 +1,6 @@
-#include "controller/simulator/Rigs.h"
+#include "controller/simulator/Instruments.h"
 
-namespace mortane::controller::rigs {
+namespace mortane::controller::instruments {
 
 void FitAccessories(Instrument& instrument, std::initializer_list<int> numbers, Fit fit) {
   for (const int number : numbers) {
@@ -28,4 +28,4 @@ TurretPlaces Places(std::initializer_list<std::int32_t> codes) {
   return places;
 }
 
-}  // namespace mortane::controller::rigs
+}  // namespace mortane::controller::instruments

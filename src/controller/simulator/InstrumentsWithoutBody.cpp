@@ -1,7 +1,7 @@
 #include "controller/simulator/DatabaseContent.h"
-#include "controller/simulator/Rigs.h"
+#include "controller/simulator/Instruments.h"
 
-namespace mortane::controller::rigs {
+namespace mortane::controller::instruments {
 namespace {
 
 constexpr int kHub = 2;
@@ -71,4 +71,4 @@ Instrument Shell() {
   return shell;
 }
 
-}  // namespace mortane::controller::rigs
+}  // namespace mortane::controller::instruments

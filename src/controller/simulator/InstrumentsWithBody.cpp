@@ -1,7 +1,7 @@
 #include "controller/simulator/DatabaseContent.h"
-#include "controller/simulator/Rigs.h"
+#include "controller/simulator/Instruments.h"
 
-namespace mortane::controller::rigs {
+namespace mortane::controller::instruments {
 namespace {
 
 constexpr int kBody = 1;
@@ -153,4 +153,4 @@ Instrument Hollow() {
   return hollow;
 }
 
-}  // namespace mortane::controller::rigs
+}  // namespace mortane::controller::instruments

@@ -1,7 +1,7 @@
 #include <array>
 
 #include "controller/simulator/DatabaseContent.h"
-#include "controller/simulator/Rigs.h"
+#include "controller/simulator/Instruments.h"
 
 namespace mortane::controller {
 namespace {
@@ -117,7 +117,7 @@ DatabaseData AwkwardDatabase() {
   return database;
 }
 
-namespace rigs {
+namespace instruments {
 
 Instrument Attic() {
   constexpr std::array offsets{accessory::kNDFilter, accessory::kDiaFieldStop,
@@ -146,5 +146,5 @@ Instrument Attic() {
   return attic;
 }
 
-}  // namespace rigs
+}  // namespace instruments
 }  // namespace mortane::controller
