@@ -54,6 +54,9 @@ std::string DescribeArguments(Args args) {
 std::string DescribeValue(const Value& value) {
   if (std::holds_alternative<std::monostate>(value)) return "nothing";
   if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "true" : "false";
+  if (const auto* integer = std::get_if<std::int16_t>(&value)) {
+    return "int16(" + std::to_string(*integer) + ")";
+  }
   if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_string(*number);
   if (const auto* real = std::get_if<double>(&value)) {
     return ShortestGeneral(*real, PointFormat());

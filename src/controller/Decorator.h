@@ -21,7 +21,8 @@ struct CallSite {
   const Value* written = nullptr;  // of a Put
 };
 
-// Numbers as they are, texts in quotes, an object of a decorated library as its path.
+// Numbers as they are, those of 16 bits as "int16(1)", texts in quotes, an object of a decorated
+// library as its path.
 std::string DescribeValue(const Value& value);
 
 // Decorates the objects that it hands out, and theirs. They must not outlive it, nor it the

@@ -147,8 +147,8 @@ class XYDriveDevice : public AccessoryDevice {
   std::int32_t FocusCompensation() const { return GetLong("FocusCompensation"); }
   void PutFocusCompensation(std::int32_t code) const { Put("FocusCompensation", code); }
   // The side of the XY knob: 0 right, 1 left.
-  std::int32_t HandleMode() const { return GetLong("HandleMode"); }
-  void PutHandleMode(std::int32_t side) const { Put("HandleMode", side); }
+  std::int16_t HandleMode() const { return GetInteger("HandleMode"); }
+  void PutHandleMode(std::int16_t side) const { Put("HandleMode", side); }
 };
 
 }  // namespace mortane::controller

@@ -20,11 +20,11 @@ class FiberRemote : public Proxy {
  public:
   using Proxy::Proxy;
   // The remote's switch: 0 off, 1 on.
-  std::int32_t SwitchEnable() const { return GetLong("SwitchEnable"); }
-  void PutSwitchEnable(std::int32_t on) const { Put("SwitchEnable", on); }
+  std::int16_t SwitchEnable() const { return GetInteger("SwitchEnable"); }
+  void PutSwitchEnable(std::int16_t on) const { Put("SwitchEnable", on); }
   // 0 off, 1 dark, 2 bright.
-  std::int32_t LED() const { return GetLong("LED"); }
-  void PutLED(std::int32_t state) const { Put("LED", state); }
+  std::int16_t LED() const { return GetInteger("LED"); }
+  void PutLED(std::int16_t state) const { Put("LED", state); }
 };
 
 }  // namespace mortane::controller

@@ -12,6 +12,7 @@ namespace mortane::controller {
 // Lines, in order:
 //   a value read          NosepieceDevice.Positions(3).Code -> 12
 //   a value written       NosepieceDevice.Positions(3).Code = 14
+//   one of 16 bits        XYDriveDevice.HandleMode = int16(1)
 //   a call                ControllerSettings.SetInterlock(4, 1)
 //   a call with a result  QueryCommand("rONR1") -> "ONR1210FA0C63B63"
 //   a failure             the left side of these, then " ! LIB:80004005"

@@ -1,5 +1,7 @@
 #include "controller/Proxy.h"
 
+#include <limits>
+
 #include "common/Numbers.h"
 
 namespace mortane::controller {
@@ -20,6 +22,7 @@ Value Plain(const Value& value) {
 std::int32_t ToLong(const Value& value) {
   const Value plain = Plain(value);
   if (const auto* number = std::get_if<std::int32_t>(&plain)) return *number;
+  if (const auto* integer = std::get_if<std::int16_t>(&plain)) return *integer;
   if (const auto* flag = std::get_if<bool>(&plain)) return *flag ? -1 : 0;
   if (const auto* real = std::get_if<double>(&plain)) {
     if (const auto rounded = RoundToLong(*real)) return *rounded;
@@ -28,9 +31,19 @@ std::int32_t ToLong(const Value& value) {
   RaiseConversion("a whole number");
 }
 
+std::int16_t ToInteger(const Value& value) {
+  const std::int32_t number = ToLong(value);
+  if (number < std::numeric_limits<std::int16_t>::min() ||
+      number > std::numeric_limits<std::int16_t>::max()) {
+    RaiseOwnFailure(kOverflowError, "The controller's answer does not fit 16 bits.");
+  }
+  return static_cast<std::int16_t>(number);
+}
+
 double ToDouble(const Value& value) {
   const Value plain = Plain(value);
   if (const auto* real = std::get_if<double>(&plain)) return *real;
+  if (const auto* integer = std::get_if<std::int16_t>(&plain)) return *integer;
   if (const auto* number = std::get_if<std::int32_t>(&plain)) return *number;
   RaiseConversion("a number");
 }
@@ -38,6 +51,7 @@ double ToDouble(const Value& value) {
 bool ToBoolean(const Value& value) {
   const Value plain = Plain(value);
   if (const auto* flag = std::get_if<bool>(&plain)) return *flag;
+  if (const auto* integer = std::get_if<std::int16_t>(&plain)) return *integer != 0;
   if (const auto* number = std::get_if<std::int32_t>(&plain)) return *number != 0;
   RaiseConversion("true or false");
 }
@@ -74,6 +88,10 @@ Value Proxy::Call(std::string_view member, Args args) const {
 
 std::int32_t Proxy::GetLong(std::string_view member, Args args) const {
   return ToLong(Get(member, args));
+}
+
+std::int16_t Proxy::GetInteger(std::string_view member, Args args) const {
+  return ToInteger(Get(member, args));
 }
 
 double Proxy::GetDouble(std::string_view member, Args args) const {

@@ -13,6 +13,8 @@ namespace mortane::controller {
 // Conversions of what a library answered. A value of another kind raises a conversion failure.
 // A state value gives its number through its default member.
 std::int32_t ToLong(const Value& value);
+// A number that does not fit 16 bits raises an overflow failure.
+std::int16_t ToInteger(const Value& value);
 double ToDouble(const Value& value);
 bool ToBoolean(const Value& value);
 std::string ToText(const Value& value);
@@ -33,6 +35,7 @@ class Proxy {
   Value Call(std::string_view member, Args args = {}) const;
 
   std::int32_t GetLong(std::string_view member, Args args = {}) const;
+  std::int16_t GetInteger(std::string_view member, Args args = {}) const;
   double GetDouble(std::string_view member, Args args = {}) const;
   bool GetBoolean(std::string_view member, Args args = {}) const;
   std::string GetText(std::string_view member, Args args = {}) const;

@@ -13,8 +13,11 @@ namespace mortane::controller {
 class ControllerObject;
 using ObjectRef = std::shared_ptr<ControllerObject>;
 
-// Nothing, a boolean, a 32-bit integer, a double, UTF-8 text, or a further object.
-using Value = std::variant<std::monostate, bool, std::int32_t, double, std::string, ObjectRef>;
+// Nothing, a boolean, a 16-bit or a 32-bit integer, a double, UTF-8 text, or a further object. The
+// two integers are told apart because a library may refuse the wrong one: pass std::int16_t where
+// a member is of 16 bits.
+using Value =
+    std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, std::string, ObjectRef>;
 
 // Arguments of one call, borrowed for its duration.
 class Args {

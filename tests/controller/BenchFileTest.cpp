@@ -129,6 +129,8 @@ constexpr BadRow kBad[] = {
      "<Unit>: attribute \"Present\" is \"1.0\", which is no whole number of 32 bits."},
     {"<I><Unit At=\"2\" Present=\"2147483648\"/></I>",
      "<Unit>: attribute \"Present\" is \"2147483648\", which is no whole number of 32 bits."},
+    {"<I><XYDrive HandleMode=\"32768\"/></I>",
+     "<XYDrive>: attribute \"HandleMode\" is \"32768\", which is no whole number of 16 bits."},
     {"<I><Unit At=\"2\"><Board/></Unit></I>", "<Unit>: unknown element <Board>."},
     {"<I><Buzzers/><Buzzers/></I>", "<Buzzers>: Buzzers stands twice."},
     {"<I><Switches Led=\"1\"/></I>", "<Switches>: unknown attribute \"Led\"."},

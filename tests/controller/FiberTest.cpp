@@ -39,9 +39,10 @@ TEST(Fiber, AnswersAndKeepsAnyValueWhileItIsOpen) {
   const FiberRemote remote(library.Create("FiberRemote"));
   EXPECT_EQ(remote.SwitchEnable(), 1);
   EXPECT_EQ(remote.LED(), 2);
-  for (const std::int32_t value : {0, 1, 3, 5}) {
+  for (const std::int16_t value :
+       {std::int16_t{0}, std::int16_t{1}, std::int16_t{3}, std::int16_t{5}}) {
     remote.PutSwitchEnable(value);
-    remote.PutLED(value + 1);
+    remote.PutLED(static_cast<std::int16_t>(value + 1));
     EXPECT_EQ(remote.SwitchEnable(), value);
     EXPECT_EQ(library.bench().fiber.led, value + 1);
   }

@@ -51,8 +51,8 @@ struct FiberData {
   bool open = false;
   bool opens = true;  // whether Open finds its device
   std::int32_t status = 0;
-  std::int32_t switchEnable = 0;
-  std::int32_t led = 0;
+  std::int16_t switchEnable = 0;
+  std::int16_t led = 0;
 
   bool operator==(const FiberData&) const = default;
 };

@@ -33,6 +33,10 @@ void RaiseAt(const DomNode& node, const std::string& problem) {
   RaiseOwnFailure(kConversionError, "<" + node.Name() + ">: " + problem + ".");
 }
 
+void ReadText(const DomNode& node, const DomAttribute& attribute, std::int16_t& value) {
+  if (!ParseWhole(attribute.value, value)) RaiseValue(node, attribute, "whole number of 16 bits");
+}
+
 void ReadText(const DomNode& node, const DomAttribute& attribute, std::int32_t& value) {
   if (!ParseWhole(attribute.value, value)) RaiseValue(node, attribute, "whole number of 32 bits");
 }

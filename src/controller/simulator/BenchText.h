@@ -21,6 +21,7 @@ inline constexpr std::string_view kFunction = "Function";
 [[noreturn]] void RaiseAt(const DomNode& node, const std::string& problem);
 
 // Take the value of an attribute of that element; a text of another kind raises a failure.
+void ReadText(const DomNode& node, const DomAttribute& attribute, std::int16_t& value);
 void ReadText(const DomNode& node, const DomAttribute& attribute, std::int32_t& value);
 void ReadText(const DomNode& node, const DomAttribute& attribute, bool& value);
 void ReadText(const DomNode& node, const DomAttribute& attribute, double& value);

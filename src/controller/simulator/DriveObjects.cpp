@@ -17,6 +17,14 @@ struct FieldRow {
   Access access;
 };
 
+void Store(const DeviceLink& link, std::int32_t& field, const Value& value) {
+  link.Assign(field, LongArgument(value));
+}
+
+void Store(const DeviceLink& link, std::int16_t& field, const Value& value) {
+  link.Assign(field, IntegerArgument(value));
+}
+
 constexpr std::array kZFields{
     FieldRow<ZDriveData>{"KnobSensitivity", &ZDriveData::knobSensitivity, Access::Read},
     FieldRow<ZDriveData>{"KnobAuto", &ZDriveData::knobAuto, Access::Both},
@@ -32,24 +40,28 @@ constexpr std::array kXYFields{
     FieldRow<XYDriveData>{"KnobAuto", &XYDriveData::knobAuto, Access::Both},
     FieldRow<XYDriveData>{"MoveProfile", &XYDriveData::moveProfile, Access::Write},
     FieldRow<XYDriveData>{"FocusCompensation", &XYDriveData::focusCompensation, Access::Both},
-    FieldRow<XYDriveData>{"HandleMode", &XYDriveData::handleMode, Access::Both},
 };
+
+template <typename Drive, typename Number>
+void AddField(MemberObject& object, const DeviceLink& link, int number, Drive Instrument::*drive,
+              std::string_view member, Number Drive::*field, Access access) {
+  if (access != Access::Write) {
+    object.OnGet(member, 0, [link, number, drive, field](Args) -> Value {
+      return link.Fitted(number).*drive.*field;
+    });
+  }
+  if (access != Access::Read) {
+    object.OnPut(member, 0, [link, number, drive, field](const Value& value, Args) {
+      Store(link, link.Fitted(number).*drive.*field, value);
+    });
+  }
+}
 
 template <typename Drive, std::size_t Count>
 void AddFields(MemberObject& object, const DeviceLink& link, int number, Drive Instrument::*drive,
                const std::array<FieldRow<Drive>, Count>& rows) {
   for (const FieldRow<Drive>& row : rows) {
-    if (row.access != Access::Write) {
-      object.OnGet(row.member, 0, [link, number, drive, field = row.field](Args) -> Value {
-        return link.Fitted(number).*drive.*field;
-      });
-    }
-    if (row.access != Access::Read) {
-      object.OnPut(row.member, 0,
-                   [link, number, drive, field = row.field](const Value& value, Args) {
-                     link.Assign(link.Fitted(number).*drive.*field, LongArgument(value));
-                   });
-    }
+    AddField(object, link, number, drive, row.member, row.field, row.access);
   }
 }
 
@@ -107,6 +119,8 @@ ObjectRef MakeXYDrive(const DeviceLink& link) {
   auto drive = std::make_shared<MemberObject>();
   AddAccessoryState(*drive, link, accessory::kXYStage);
   AddFields(*drive, link, accessory::kXYStage, &Instrument::xyDrive, kXYFields);
+  AddField(*drive, link, accessory::kXYStage, &Instrument::xyDrive, "HandleMode",
+           &XYDriveData::handleMode, Access::Both);
   AddAxis(*drive, link, accessory::kXYStage, "PositionX", Axis::X);
   AddAxis(*drive, link, accessory::kXYStage, "PositionY", Axis::Y);
   return drive;

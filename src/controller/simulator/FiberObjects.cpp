@@ -15,10 +15,10 @@ FiberData& Opened(const SimulatorRef& state) {
 }
 
 void AddRemoteField(MemberObject& remote, const SimulatorRef& state, std::string_view member,
-                    std::int32_t FiberData::*field) {
+                    std::int16_t FiberData::*field) {
   remote.OnGet(member, 0, [state, field](Args) -> Value { return Opened(state).*field; })
       .OnPut(member, 0, [state, field](const Value& value, Args) {
-        state->Assign(Opened(state).*field, LongArgument(value));
+        state->Assign(Opened(state).*field, IntegerArgument(value));
       });
 }
 

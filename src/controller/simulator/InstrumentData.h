@@ -82,7 +82,7 @@ struct XYDriveData {
   std::int32_t knobSensitivity = 1;
   std::int32_t moveProfile = 0;
   std::int32_t focusCompensation = 1;
-  std::int32_t handleMode = 0;
+  std::int16_t handleMode = 0;
 
   bool operator==(const XYDriveData&) const = default;
 };

@@ -1,6 +1,7 @@
 #include "controller/simulator/MemberObject.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "common/Numbers.h"
 
@@ -17,16 +18,25 @@ void RaiseSimulated(const std::string& description) {
 
 std::int32_t LongArgument(const Value& value) {
   if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
+  if (const auto* integer = std::get_if<std::int16_t>(&value)) return *integer;
   if (const auto* real = std::get_if<double>(&value)) {
     if (const auto rounded = RoundToLong(*real)) return *rounded;
   }
   RaiseSimulated("A whole number is expected.");
 }
 
+std::int16_t IntegerArgument(const Value& value) {
+  const std::int32_t number = LongArgument(value);
+  if (number < std::numeric_limits<std::int16_t>::min() ||
+      number > std::numeric_limits<std::int16_t>::max()) {
+    RaiseSimulated("A whole number of 16 bits is expected.");
+  }
+  return static_cast<std::int16_t>(number);
+}
+
 double DoubleArgument(const Value& value) {
   if (const auto* real = std::get_if<double>(&value)) return *real;
-  if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
-  RaiseSimulated("A number is expected.");
+  return LongArgument(value);
 }
 
 std::string TextArgument(const Value& value) {

@@ -15,6 +15,7 @@ namespace mortane::controller {
 
 // Conversions of what a caller handed in; a value of another kind raises a failure.
 std::int32_t LongArgument(const Value& value);
+std::int16_t IntegerArgument(const Value& value);
 double DoubleArgument(const Value& value);
 std::string TextArgument(const Value& value);
 bool BooleanArgument(const Value& value);
