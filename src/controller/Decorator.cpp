@@ -1,5 +1,7 @@
 #include "controller/Decorator.h"
 
+#include <algorithm>
+#include <array>
 #include <vector>
 
 #include "common/Numbers.h"
@@ -21,18 +23,19 @@ class DecoratedObject : public ControllerObject {
   const std::string& Path() const { return path_; }
 
  private:
-  std::string PathOf(std::string_view member, Args args, bool brackets) const;
-  Value Wrap(const Value& value, std::string path, Role role) const;
+  // Makes a call with the arguments as the inner library knows them.
+  template <typename Make>
+  Value Pass(const CallSite& site, Make&& make);
   // The caller's objects are ours; the inner library must see its own.
   Value Unwrap(const Value& value) const;
-  std::vector<Value> Unwrap(Args args) const;
+  Value Wrap(Value result, const CallSite& site) const;
   Value Next();
 
   DecoratedLibrary& library_;
   ObjectRef inner_;
   std::string path_;
   Role role_;
-  int turns_ = 0;
+  std::int32_t turns_ = 0;
 };
 
 namespace {
@@ -40,13 +43,17 @@ namespace {
 constexpr std::string_view kEnumeratorMember = "_NewEnum";
 constexpr std::string_view kNextMember = "Next";
 
-std::string DescribeArguments(Args args) {
-  std::string text;
-  for (const Value& value : args) {
-    if (!text.empty()) text += ", ";
-    text += DescribeValue(value);
+bool IsObject(const Value& value) {
+  return std::holds_alternative<ObjectRef>(value);
+}
+
+void AppendArguments(std::string& text, Args args) {
+  text += '(';
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (i > 0) text += ", ";
+    text += DescribeValue(args[i]);
   }
-  return "(" + text + ")";
+  text += ')';
 }
 
 }  // namespace
@@ -66,16 +73,19 @@ std::string DescribeValue(const Value& value) {
   return object == nullptr ? "object" : object->Path();
 }
 
-std::string DecoratedObject::PathOf(std::string_view member, Args args, bool brackets) const {
-  std::string path = path_.empty() ? std::string(member) : path_ + "." + std::string(member);
-  if (brackets || !args.empty()) path += DescribeArguments(args);
+std::string CallSite::Path() const {
+  // Room for the longest paths there are, so that a text is made once.
+  constexpr std::size_t kUsualLength = 64;
+  std::string path;
+  path.reserve(std::max(object.size() + member.size() + 2, kUsualLength));
+  if (kind == CallKind::Create) return path.append("Create(").append(member) += ')';
+  path.append(object);
+  if (kind != CallKind::EnumeratorNext) {
+    if (!path.empty()) path += '.';
+    path.append(member);
+  }
+  if (kind == CallKind::Call || !args.empty()) AppendArguments(path, args);
   return path;
-}
-
-Value DecoratedObject::Wrap(const Value& value, std::string path, Role role) const {
-  const auto* object = std::get_if<ObjectRef>(&value);
-  if (object == nullptr || *object == nullptr) return value;
-  return std::make_shared<DecoratedObject>(library_, *object, std::move(path), role);
 }
 
 Value DecoratedObject::Unwrap(const Value& value) const {
@@ -85,19 +95,31 @@ Value DecoratedObject::Unwrap(const Value& value) const {
   return ours != nullptr && &ours->library_ == &library_ ? ours->inner_ : value;
 }
 
-std::vector<Value> DecoratedObject::Unwrap(Args args) const {
+Value DecoratedObject::Wrap(Value result, const CallSite& site) const {
+  const auto* object = std::get_if<ObjectRef>(&result);
+  if (object == nullptr || *object == nullptr) return result;
+  const bool enumerator = site.kind == CallKind::Get && site.member == kEnumeratorMember;
+  return std::make_shared<DecoratedObject>(library_, *object, enumerator ? path_ : site.Path(),
+                                           enumerator ? Role::Enumerator : Role::Plain);
+}
+
+template <typename Make>
+Value DecoratedObject::Pass(const CallSite& site, Make&& make) {
+  // Only the rare call with an object among its arguments needs a copy of them.
+  if (std::none_of(site.args.begin(), site.args.end(), IsObject)) {
+    return Wrap(library_.Around(site, Proceed([&] { return make(site.args); })), site);
+  }
   std::vector<Value> values;
-  values.reserve(args.size());
-  for (const Value& value : args) values.push_back(Unwrap(value));
-  return values;
+  for (const Value& value : site.args) values.push_back(Unwrap(value));
+  return Wrap(library_.Around(site, Proceed([&] { return make(Args(values)); })), site);
 }
 
 Value DecoratedObject::Next() {
-  const std::string path = path_ + "(" + std::to_string(turns_ + 1) + ")";
-  const Value item = library_.Around({CallKind::EnumeratorNext, path, kNextMember},
-                                     [&] { return inner_->Call(kNextMember, {}); });
+  const std::array<Value, 1> turn{turns_ + 1};
+  const CallSite site{CallKind::EnumeratorNext, path_, kNextMember, Args(turn)};
+  Value item = library_.Around(site, Proceed([&] { return inner_->Call(kNextMember, {}); }));
   ++turns_;
-  return Wrap(item, path, Role::Plain);
+  return Wrap(std::move(item), site);
 }
 
 Value DecoratedObject::Get(std::string_view member, Args args) {
@@ -106,35 +128,26 @@ Value DecoratedObject::Get(std::string_view member, Args args) {
     library_.TookNumber(path_, number);
     return number;
   }
-  const std::vector<Value> values = Unwrap(args);
-  const std::string path = PathOf(member, args, false);
-  const Value result = library_.Around({CallKind::Get, path, member},
-                                       [&] { return inner_->Get(member, Args(values)); });
-  if (member == kEnumeratorMember) return Wrap(result, path_, Role::Enumerator);
-  return Wrap(result, path, Role::Plain);
+  return Pass({CallKind::Get, path_, member, args},
+              [&](Args unwrapped) { return inner_->Get(member, unwrapped); });
 }
 
 void DecoratedObject::Put(std::string_view member, const Value& value, Args args) {
-  const std::vector<Value> values = Unwrap(args);
-  library_.Around({CallKind::Put, PathOf(member, args, false), member, &value}, [&]() -> Value {
-    inner_->Put(member, Unwrap(value), Args(values));
+  Pass({CallKind::Put, path_, member, args, &value}, [&](Args unwrapped) -> Value {
+    inner_->Put(member, IsObject(value) ? Unwrap(value) : value, unwrapped);
     return {};
   });
 }
 
 Value DecoratedObject::Call(std::string_view member, Args args) {
   if (role_ == Role::Enumerator && member == kNextMember && args.empty()) return Next();
-  const std::vector<Value> values = Unwrap(args);
-  const std::string path = PathOf(member, args, true);
-  const Value result = library_.Around({CallKind::Call, path, member},
-                                       [&] { return inner_->Call(member, Args(values)); });
-  return Wrap(result, path, Role::Plain);
+  return Pass({CallKind::Call, path_, member, args},
+              [&](Args unwrapped) { return inner_->Call(member, unwrapped); });
 }
 
 ObjectRef DecoratedLibrary::Create(std::string_view className) {
-  const std::string path = "Create(" + std::string(className) + ")";
-  const Value root = Around({CallKind::Create, path, className},
-                            [&]() -> Value { return inner_.Create(className); });
+  const CallSite site{CallKind::Create, "", className, {}};
+  const Value root = Around(site, Proceed([&]() -> Value { return inner_.Create(className); }));
   return std::make_shared<DecoratedObject>(*this, ToObject(root), "", DecoratedObject::Role::Plain);
 }
 

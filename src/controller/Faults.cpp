@@ -46,13 +46,13 @@ bool NextMatches(std::string_view pattern, std::string_view path) {
          PathMatches(pattern, std::string(collection) + ".Next");
 }
 
-bool Matches(std::string_view pattern, const CallSite& site) {
-  for (const auto& [prefix, kind] : kKinds) {
+bool Matches(std::string_view pattern, CallKind kind, std::string_view path) {
+  for (const auto& [prefix, wanted] : kKinds) {
     if (!pattern.starts_with(prefix)) continue;
-    return site.kind == kind && PathMatches(pattern.substr(prefix.size()), site.path);
+    return kind == wanted && PathMatches(pattern.substr(prefix.size()), path);
   }
-  if (site.kind == CallKind::EnumeratorNext) return NextMatches(pattern, site.path);
-  return PathMatches(pattern, site.path);
+  if (kind == CallKind::EnumeratorNext) return NextMatches(pattern, path);
+  return PathMatches(pattern, path);
 }
 
 }  // namespace
@@ -77,9 +77,11 @@ void FaultPlan::Fail(const FaultRule& rule) {
 
 void FaultPlan::Check(const CallSite& site) {
   if (callsLeft_ > 0 && --callsLeft_ == 0) Fail(*countedRule_);
+  if (entries_.empty()) return;
+  const std::string path = site.Path();
   const Entry* due = nullptr;
   for (Entry& entry : entries_) {
-    if (!Matches(entry.rule.call, site)) continue;
+    if (!Matches(entry.rule.call, site.kind, path)) continue;
     ++entry.seen;
     const bool now = entry.rule.occurrence == 0 || entry.rule.occurrence == entry.seen;
     if (now && due == nullptr) due = &entry;
@@ -87,7 +89,7 @@ void FaultPlan::Check(const CallSite& site) {
   if (due != nullptr) Fail(due->rule);
 }
 
-Value FaultyLibrary::Around(const CallSite& site, const std::function<Value()>& proceed) {
+Value FaultyLibrary::Around(const CallSite& site, const Proceed& proceed) {
   plan_.Check(site);
   return proceed();
 }

@@ -56,7 +56,7 @@ class FaultyLibrary : public DecoratedLibrary {
   FaultyLibrary(ControllerLibrary& inner, FaultPlan& plan) : DecoratedLibrary(inner), plan_(plan) {}
 
  protected:
-  Value Around(const CallSite& site, const std::function<Value()>& proceed) override;
+  Value Around(const CallSite& site, const Proceed& proceed) override;
 
  private:
   FaultPlan& plan_;

@@ -19,8 +19,9 @@ bool IsCommand(const CallSite& site) {
 }
 
 std::string LeftSide(const CallSite& site) {
-  if (site.written == nullptr) return site.path;
-  return site.path + " = " + DescribeValue(*site.written);
+  std::string text = site.Path();
+  if (site.written != nullptr) text.append(" = ").append(DescribeValue(*site.written));
+  return text;
 }
 
 bool IsNavigation(const CallSite& site, const Value& result) {
@@ -34,28 +35,31 @@ void Journal::Clear() {
   *this = Journal();
 }
 
-void Journal::Add(const CallSite& site, const std::string& rest) {
-  lines_.push_back(LeftSide(site) + rest);
-  if (IsCommand(site)) writes_.push_back(lines_.back());
+void Journal::Add(std::string line, bool command) {
+  lines_.push_back(std::move(line));
+  if (command) writes_.push_back(lines_.back());
 }
 
-Value JournalLibrary::Around(const CallSite& site, const std::function<Value()>& proceed) {
+Value JournalLibrary::Around(const CallSite& site, const Proceed& proceed) {
   ++journal_.callCount_;
   try {
     Value result = proceed();
     if (IsNavigation(site, result)) return result;
+    std::string line = LeftSide(site);
     const bool silent =
         site.kind != CallKind::Get && std::holds_alternative<std::monostate>(result);
-    journal_.Add(site, silent ? "" : " -> " + DescribeValue(result));
+    if (!silent) line.append(" -> ").append(DescribeValue(result));
+    journal_.Add(std::move(line), IsCommand(site));
     return result;
   } catch (const Failure& failure) {
-    journal_.Add(site, " ! " + failure.Source() + ":" + Hex(failure.Number()));
+    journal_.Add(LeftSide(site) + " ! " + failure.Source() + ":" + Hex(failure.Number()),
+                 IsCommand(site));
     throw;
   }
 }
 
 void JournalLibrary::TookNumber(const std::string& path, const Value& number) {
-  journal_.Add({CallKind::Get, path, ""}, " -> " + DescribeValue(number));
+  journal_.Add(path + " -> " + DescribeValue(number), false);
 }
 
 }  // namespace mortane::controller

@@ -30,7 +30,7 @@ class Journal {
 
  private:
   friend class JournalLibrary;
-  void Add(const CallSite& site, const std::string& rest);
+  void Add(std::string line, bool command);
 
   std::vector<std::string> lines_;
   std::vector<std::string> writes_;
@@ -43,7 +43,7 @@ class JournalLibrary : public DecoratedLibrary {
       : DecoratedLibrary(inner), journal_(journal) {}
 
  protected:
-  Value Around(const CallSite& site, const std::function<Value()>& proceed) override;
+  Value Around(const CallSite& site, const Proceed& proceed) override;
   void TookNumber(const std::string& path, const Value& number) override;
 
  private:

@@ -2,7 +2,7 @@
 
 namespace mortane::controller {
 
-Value LatencyLibrary::Around(const CallSite& /*site*/, const std::function<Value()>& proceed) {
+Value LatencyLibrary::Around(const CallSite& /*site*/, const Proceed& proceed) {
   beforeEachCall_();
   return proceed();
 }

@@ -15,7 +15,7 @@ class LatencyLibrary : public DecoratedLibrary {
       : DecoratedLibrary(inner), beforeEachCall_(std::move(beforeEachCall)) {}
 
  protected:
-  Value Around(const CallSite& site, const std::function<Value()>& proceed) override;
+  Value Around(const CallSite& site, const Proceed& proceed) override;
 
  private:
   std::function<void()> beforeEachCall_;

@@ -1,8 +1,8 @@
 #include "controller/simulator/AccessoryObjects.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 namespace mortane::controller {
 namespace {
@@ -43,107 +43,166 @@ Value WireNumber(double value) {
   return value;
 }
 
-void AddStateMember(MemberObject& object, const DeviceLink& link, const DeviceRow& row) {
-  object.OnGet(row.stateMember, 0, [link, number = row.number](Args) -> Value {
+void AddStateMember(MemberTable<DeviceLink>& table, const DeviceRow& row) {
+  table.OnGet(row.stateMember, 0, [number = row.number](const DeviceLink& link, Args) -> Value {
     return MakeStateValue(link, number, WireNumber(link.Fitted(number).Accessory(number).value));
   });
   if (!row.writable) return;
-  object.OnPut(row.stateMember, 0,
-               [link, number = row.number, places = row.places](const Value& value, Args) {
-                 Instrument& device = Commanded(link, number);
-                 const std::int32_t address = LongArgument(value);
-                 if (places != nullptr &&
-                     (address < 1 || static_cast<std::size_t>(address) > (device.*places).size())) {
-                   RaiseSimulated("The turret has no address " + std::to_string(address) + ".");
-                 }
-                 link.Assign(device.Accessory(number).value, static_cast<double>(address));
-               });
+  table.OnPut(
+      row.stateMember, 0,
+      [number = row.number, places = row.places](const DeviceLink& link, const Value& value, Args) {
+        Instrument& device = Commanded(link, number);
+        const std::int32_t address = LongArgument(value);
+        if (places != nullptr &&
+            (address < 1 || static_cast<std::size_t>(address) > (device.*places).size())) {
+          RaiseSimulated("The turret has no address " + std::to_string(address) + ".");
+        }
+        link.Assign(device.Accessory(number).value, static_cast<double>(address));
+      });
 }
 
-void AddOffset(MemberObject& object, const DeviceLink& link, int number) {
-  object.OnGet("OffsetCode", 0, [link, number](Args) -> Value {
-    return link.Fitted(number).Accessory(number).offsetCode;
-  });
-  object.OnPut("OffsetCode", 0, [link, number](const Value& value, Args) {
-    link.Assign(link.Fitted(number).Accessory(number).offsetCode, LongArgument(value));
-  });
+void AddOffset(MemberTable<DeviceLink>& table, int number) {
+  table
+      .OnGet("OffsetCode", 0,
+             [number](const DeviceLink& link, Args) -> Value {
+               return link.Fitted(number).Accessory(number).offsetCode;
+             })
+      .OnPut("OffsetCode", 0, [number](const DeviceLink& link, const Value& value, Args) {
+        link.Assign(link.Fitted(number).Accessory(number).offsetCode, LongArgument(value));
+      });
 }
 
-ObjectRef MakeTurretPosition(const DeviceLink& link, const DeviceRow& row, std::size_t index) {
-  const auto place = [link, number = row.number, places = row.places, index]() -> TurretPlace& {
-    TurretPlaces& all = link.Fitted(number).*places;
+// The places of one turret.
+struct TurretLink {
+  DeviceLink device;
+  const DeviceRow* row;
+
+  TurretPlaces& Places() const { return device.Fitted(row->number).*(row->places); }
+};
+
+// One of them, looked up anew at every use.
+struct PlaceLink {
+  TurretLink turret;
+  std::size_t index;
+
+  TurretPlace& Place() const {
+    TurretPlaces& all = turret.Places();
     if (index >= all.size()) RaiseSimulated("The turret has lost this address.");
     return all[index];
-  };
-  auto object = std::make_shared<MemberObject>();
-  object->OnGet("Position", 0, [place](Args) -> Value { return place().position; })
-      .OnGet("Code", 0, [place](Args) -> Value { return place().code; })
-      .OnPut("Code", 0, [place, link](const Value& value, Args) {
-        link.Assign(place().code, LongArgument(value));
+  }
+};
+
+ObjectRef MakeTurretPosition(const PlaceLink& link) {
+  static const MemberTable<PlaceLink> members =
+      MemberTable<PlaceLink>()
+          .OnGet("Position", 0,
+                 [](const PlaceLink& place, Args) -> Value { return place.Place().position; })
+          .OnGet("Code", 0,
+                 [](const PlaceLink& place, Args) -> Value { return place.Place().code; })
+          .OnPut("Code", 0, [](const PlaceLink& place, const Value& value, Args) {
+            place.turret.device.Assign(place.Place().code, LongArgument(value));
+          });
+  return MakeObject(members, link);
+}
+
+// The enumerator stands at the place that comes next.
+ObjectRef MakeTurretEnumerator(const TurretLink& link) {
+  static const MemberTable<PlaceLink> members =
+      MemberTable<PlaceLink>().OnCall("Next", 0, [](PlaceLink& next, Args) -> Value {
+        if (next.index >= next.turret.Places().size()) return {};
+        return MakeTurretPosition({next.turret, next.index++});
       });
-  return object;
+  return MakeObject(members, PlaceLink{link, 0});
 }
 
-ObjectRef MakeTurretEnumerator(const DeviceLink& link, const DeviceRow& row) {
-  auto enumerator = std::make_shared<MemberObject>();
-  const auto next = std::make_shared<std::size_t>(0);
-  enumerator->OnCall("Next", 0, [link, &row, next](Args) -> Value {
-    if (*next >= (link.Fitted(row.number).*(row.places)).size()) return {};
-    return MakeTurretPosition(link, row, (*next)++);
-  });
-  return enumerator;
+ObjectRef MakePositions(const TurretLink& link) {
+  static const MemberTable<TurretLink> members =
+      MemberTable<TurretLink>()
+          .OnGet("Count", 0,
+                 [](const TurretLink& turret, Args) -> Value {
+                   return static_cast<std::int32_t>(turret.Places().size());
+                 })
+          .OnGet("_NewEnum", 0, [](const TurretLink& turret, Args) -> Value {
+            return MakeTurretEnumerator(turret);
+          });
+  return MakeObject(members, link);
 }
 
-void AddPositions(MemberObject& object, const DeviceLink& link, const DeviceRow& row) {
-  object.OnGet("Positions", 0, [link, &row](Args) -> Value {
+void AddPositions(MemberTable<DeviceLink>& table, const DeviceRow& row) {
+  table.OnGet("Positions", 0, [&row](const DeviceLink& link, Args) -> Value {
     link.Connected();
-    auto positions = std::make_shared<MemberObject>();
-    positions
-        ->OnGet("Count", 0,
-                [link, &row](Args) -> Value {
-                  const TurretPlaces& places = link.Fitted(row.number).*(row.places);
-                  return static_cast<std::int32_t>(places.size());
-                })
-        .OnGet("_NewEnum", 0,
-               [link, &row](Args) -> Value { return MakeTurretEnumerator(link, row); });
-    return positions;
+    return MakePositions({link, &row});
   });
 }
 
 // The preparing calls change nothing that can be seen.
-void AddNosepieceMembers(MemberObject& object, const DeviceLink& link) {
-  const auto prepare = [link](Args) -> Value {
+void AddNosepieceMembers(MemberTable<DeviceLink>& table) {
+  const auto prepare = [](const DeviceLink& link, Args) -> Value {
     Commanded(link, accessory::kNosepiece);
     return {};
   };
-  object.OnCall("BeginZPositioning", 0, prepare)
+  table.OnCall("BeginZPositioning", 0, prepare)
       .OnCall("BeginPositioning", 0, prepare)
       .OnGet("Limitation", 0,
-             [link](Args) -> Value { return link.Fitted(accessory::kNosepiece).limitation; })
-      .OnPut("Limitation", 0, [link](const Value& value, Args) {
+             [](const DeviceLink& link, Args) -> Value {
+               return link.Fitted(accessory::kNosepiece).limitation;
+             })
+      .OnPut("Limitation", 0, [](const DeviceLink& link, const Value& value, Args) {
         link.Assign(link.Fitted(accessory::kNosepiece).limitation, LongArgument(value));
       });
 }
 
+MemberTable<DeviceLink> MembersOf(const DeviceRow& row) {
+  MemberTable<DeviceLink> table;
+  AddAccessoryState(table, row.number);
+  AddStateMember(table, row);
+  if (row.hasOffset) AddOffset(table, row.number);
+  if (row.places != nullptr) AddPositions(table, row);
+  if (row.number == accessory::kNosepiece) AddNosepieceMembers(table);
+  return table;
+}
+
+const MemberTable<DeviceLink>& DeviceMembers(std::size_t place) {
+  static const std::vector<MemberTable<DeviceLink>> tables = [] {
+    std::vector<MemberTable<DeviceLink>> all;
+    for (const DeviceRow& device : kDevices) all.push_back(MembersOf(device));
+    return all;
+  }();
+  return tables.at(place);
+}
+
+// A device and the number of one of its accessories.
+struct AccessoryLink {
+  DeviceLink device;
+  int number;
+};
+
+struct StateLink {
+  AccessoryLink accessory;
+  Value value;
+};
+
 }  // namespace
 
-void AddAccessoryState(MemberObject& object, const DeviceLink& link, int accessoryNumber) {
-  object.OnGet("AccessoryState", 0, [link, accessoryNumber](Args) -> Value {
-    auto facet = std::make_shared<MemberObject>();
-    facet->OnGet("State", 0, [link, accessoryNumber](Args) -> Value {
-      return link.Connected().Accessory(accessoryNumber).state;
-    });
-    return facet;
+void AddAccessoryState(MemberTable<DeviceLink>& table, int accessoryNumber) {
+  static const MemberTable<AccessoryLink> members =
+      MemberTable<AccessoryLink>().OnGet("State", 0, [](const AccessoryLink& link, Args) -> Value {
+        return link.device.Connected().Accessory(link.number).state;
+      });
+  table.OnGet("AccessoryState", 0, [accessoryNumber](const DeviceLink& link, Args) -> Value {
+    return MakeObject(members, AccessoryLink{link, accessoryNumber});
   });
 }
 
 ObjectRef MakeStateValue(const DeviceLink& link, int accessoryNumber, Value value) {
-  auto state = std::make_shared<MemberObject>();
-  state->OnGet("", 0, [value = std::move(value)](Args) { return value; })
-      .OnGet("IsReadOnly", 0, [link, accessoryNumber](Args) -> Value {
-        return link.Connected().Accessory(accessoryNumber).readOnly;
-      });
-  return state;
+  static const MemberTable<StateLink> members =
+      MemberTable<StateLink>()
+          .OnGet("", 0, [](const StateLink& state, Args) { return state.value; })
+          .OnGet("IsReadOnly", 0, [](const StateLink& state, Args) -> Value {
+            const auto& [device, number] = state.accessory;
+            return device.Connected().Accessory(number).readOnly;
+          });
+  return MakeObject(members, StateLink{{link, accessoryNumber}, std::move(value)});
 }
 
 Instrument& Commanded(const DeviceLink& link, int accessoryNumber) {
@@ -154,17 +213,14 @@ Instrument& Commanded(const DeviceLink& link, int accessoryNumber) {
   return device;
 }
 
-ObjectRef MakeAccessoryDevice(const DeviceLink& link, std::string_view member) {
-  const auto row = std::find_if(kDevices.begin(), kDevices.end(),
-                                [&](const DeviceRow& device) { return device.member == member; });
-  if (row == kDevices.end()) return nullptr;
-  auto object = std::make_shared<MemberObject>();
-  AddAccessoryState(*object, link, row->number);
-  AddStateMember(*object, link, *row);
-  if (row->hasOffset) AddOffset(*object, link, row->number);
-  if (row->places != nullptr) AddPositions(*object, link, *row);
-  if (row->number == accessory::kNosepiece) AddNosepieceMembers(*object, link);
-  return object;
+std::vector<std::string_view> AccessoryDeviceMembers() {
+  std::vector<std::string_view> names;
+  for (const DeviceRow& device : kDevices) names.push_back(device.member);
+  return names;
+}
+
+ObjectRef MakeAccessoryDevice(const DeviceLink& link, std::size_t place) {
+  return MakeObject(DeviceMembers(place), link);
 }
 
 }  // namespace mortane::controller

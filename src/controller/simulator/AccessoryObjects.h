@@ -1,18 +1,19 @@
-// The accessory devices of a simulated instrument.
+// The accessory devices of a simulated instrument, without its drives.
 #pragma once
 
-#include <optional>
 #include <string_view>
+#include <vector>
 
 #include "controller/simulator/SimulatorState.h"
 
 namespace mortane::controller {
 
-// The device that the root hands out under that member name; nothing for another name.
-ObjectRef MakeAccessoryDevice(const DeviceLink& link, std::string_view member);
+// The members under which the root hands them out, and the device of each by its place there.
+std::vector<std::string_view> AccessoryDeviceMembers();
+ObjectRef MakeAccessoryDevice(const DeviceLink& link, std::size_t place);
 
 // Members that every accessory has.
-void AddAccessoryState(MemberObject& object, const DeviceLink& link, int accessoryNumber);
+void AddAccessoryState(MemberTable<DeviceLink>& table, int accessoryNumber);
 
 // The number `value` as the state of that accessory.
 ObjectRef MakeStateValue(const DeviceLink& link, int accessoryNumber, Value value);

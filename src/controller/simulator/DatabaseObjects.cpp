@@ -28,126 +28,150 @@ struct RecordLink {
   }
 };
 
+template <typename Record>
+using RecordMembers = MemberTable<RecordLink<Record>>;
+
 template <typename Record, typename Field>
-void AddField(MemberObject& object, const RecordLink<Record>& link, std::string_view member,
-              Field Record::*field) {
-  object.OnGet(member, 0, [link, field](Args) -> Value { return link.Use().*field; });
+void AddField(RecordMembers<Record>& table, std::string_view member, Field Record::*field) {
+  table.OnGet(member, 0,
+              [field](const RecordLink<Record>& link, Args) -> Value { return link.Use().*field; });
 }
 
-void AddItemCode(MemberObject& object, const RecordLink<CubeData>& link, std::string_view member,
+void AddItemCode(RecordMembers<CubeData>& table, std::string_view member,
                  std::int32_t CubeData::*field) {
-  AddField(object, link, member, field);
-  object.OnPut(member, 0, [link, field](const Value& value, Args) {
+  AddField(table, member, field);
+  table.OnPut(member, 0, [field](const RecordLink<CubeData>& link, const Value& value, Args) {
     link.device.Assign(link.UseToWrite().*field, LongArgument(value));
   });
 }
 
+// What every record of the database has.
 template <typename Record>
-std::shared_ptr<MemberObject> MakeRecordBase(const RecordLink<Record>& link) {
-  auto object = std::make_shared<MemberObject>();
-  AddField(*object, link, "IsOption", &Record::option);
-  AddField(*object, link, "Name", &Record::name);
-  AddField(*object, link, "Code", &Record::code);
-  object->OnPut("Name", 0, [link](const Value& value, Args) {
+RecordMembers<Record> BaseMembers() {
+  RecordMembers<Record> table;
+  AddField(table, "IsOption", &Record::option);
+  AddField(table, "Name", &Record::name);
+  AddField(table, "Code", &Record::code);
+  table.OnPut("Name", 0, [](const RecordLink<Record>& link, const Value& value, Args) {
     link.device.Assign(link.UseToWrite().name, TextArgument(value));
   });
-  return object;
+  return table;
 }
 
-ObjectRef MakeRecord(const RecordLink<FilterData>& link) {
-  return MakeRecordBase(link);
+template <typename Record>
+RecordMembers<Record> MembersOf() {
+  return BaseMembers<Record>();
 }
 
-ObjectRef MakeRecord(const RecordLink<ObjectiveData>& link) {
-  auto object = MakeRecordBase(link);
-  AddField(*object, link, "Magnification", &ObjectiveData::magnification);
-  AddField(*object, link, "NumericalAperture", &ObjectiveData::numericalAperture);
-  AddField(*object, link, "WorkingDistance", &ObjectiveData::workingDistance);
-  AddField(*object, link, "TypeCode", &ObjectiveData::type);
-  AddField(*object, link, "SeriesCode", &ObjectiveData::series);
-  object->OnCall("SetProperties", 5, [link](Args args) -> Value {
-    ObjectiveData& record = link.UseToWrite();
-    ObjectiveData written = record;
-    written.series = LongArgument(args[0]);
-    written.type = LongArgument(args[1]);
-    written.magnification = DoubleArgument(args[2]);
-    written.workingDistance = DoubleArgument(args[3]);
-    written.numericalAperture = DoubleArgument(args[4]);
-    link.device.Assign(record, written);
-    return {};
-  });
-  return object;
+Value SetProperties(const RecordLink<ObjectiveData>& link, Args args) {
+  ObjectiveData& record = link.UseToWrite();
+  ObjectiveData written = record;
+  written.series = LongArgument(args[0]);
+  written.type = LongArgument(args[1]);
+  written.magnification = DoubleArgument(args[2]);
+  written.workingDistance = DoubleArgument(args[3]);
+  written.numericalAperture = DoubleArgument(args[4]);
+  link.device.Assign(record, written);
+  return {};
 }
 
-ObjectRef MakeRecord(const RecordLink<CondenserData>& link) {
-  auto object = MakeRecordBase(link);
-  object->OnGet("SuitsAddress", 1, [link](Args args) -> Value {
+template <>
+RecordMembers<ObjectiveData> MembersOf<ObjectiveData>() {
+  auto table = BaseMembers<ObjectiveData>();
+  AddField(table, "Magnification", &ObjectiveData::magnification);
+  AddField(table, "NumericalAperture", &ObjectiveData::numericalAperture);
+  AddField(table, "WorkingDistance", &ObjectiveData::workingDistance);
+  AddField(table, "TypeCode", &ObjectiveData::type);
+  AddField(table, "SeriesCode", &ObjectiveData::series);
+  table.OnCall("SetProperties", 5, SetProperties);
+  return table;
+}
+
+template <>
+RecordMembers<CondenserData> MembersOf<CondenserData>() {
+  auto table = BaseMembers<CondenserData>();
+  table.OnGet("SuitsAddress", 1, [](const RecordLink<CondenserData>& link, Args args) -> Value {
     const std::string& suits = link.Use().suits;
     const std::int32_t address = LongArgument(args[0]);
     const bool known = address >= 1 && static_cast<std::size_t>(address) <= suits.size();
     return std::int32_t{known && suits[static_cast<std::size_t>(address) - 1] == '1'};
   });
-  return object;
+  return table;
 }
 
-ObjectRef MakeRecord(const RecordLink<CubeData>& link) {
-  auto object = MakeRecordBase(link);
-  AddItemCode(*object, link, "ExciterCode", &CubeData::exciter);
-  AddItemCode(*object, link, "DichroicCode", &CubeData::dichroic);
-  AddItemCode(*object, link, "BarrierCode", &CubeData::barrier);
-  return object;
+template <>
+RecordMembers<CubeData> MembersOf<CubeData>() {
+  auto table = BaseMembers<CubeData>();
+  AddItemCode(table, "ExciterCode", &CubeData::exciter);
+  AddItemCode(table, "DichroicCode", &CubeData::dichroic);
+  AddItemCode(table, "BarrierCode", &CubeData::barrier);
+  return table;
 }
 
-ObjectRef MakeRecord(const RecordLink<ListedName>& link) {
-  auto object = std::make_shared<MemberObject>();
-  AddField(*object, link, "Name", &ListedName::name);
-  return object;
+template <>
+RecordMembers<ListedName> MembersOf<ListedName>() {
+  RecordMembers<ListedName> table;
+  AddField(table, "Name", &ListedName::name);
+  return table;
 }
 
 template <typename Record>
-std::shared_ptr<MemberObject> MakeList(const DeviceLink& link,
-                                       std::vector<Record> DatabaseData::*list) {
-  auto object = std::make_shared<MemberObject>();
-  object->OnGet("Item", 1, [link, list](Args args) -> Value {
-    const std::int32_t index = LongArgument(args[0]);
-    const auto count = (link.Connected().database.*list).size();
-    if (index < 1 || static_cast<std::size_t>(index) > count) {
-      RaiseSimulated("No item " + std::to_string(index) + " in the list.");
-    }
-    return MakeRecord(RecordLink<Record>{link, list, static_cast<std::size_t>(index) - 1});
-  });
-  return object;
+struct ListLink {
+  DeviceLink device;
+  std::vector<Record> DatabaseData::*list;
+
+  std::size_t Count() const { return (device.Connected().database.*list).size(); }
+};
+
+template <typename Record>
+Value ItemOf(const ListLink<Record>& link, Args args) {
+  static const RecordMembers<Record> members = MembersOf<Record>();
+  const std::int32_t index = LongArgument(args[0]);
+  if (index < 1 || static_cast<std::size_t>(index) > link.Count()) {
+    RaiseSimulated("No item " + std::to_string(index) + " in the list.");
+  }
+  return MakeObject(
+      members, RecordLink<Record>{link.device, link.list, static_cast<std::size_t>(index) - 1});
 }
+
+template <typename Record>
+Value CountOf(const ListLink<Record>& link, Args) {
+  return static_cast<std::int32_t>(link.Count());
+}
+
+using DatabaseMembers = MemberTable<DeviceLink>;
 
 // The lists of names have no count of their own: it is a member of the database.
-void AddNames(MemberObject& database, const DeviceLink& link, std::string_view listMember,
-              std::string_view countMember, std::vector<ListedName> DatabaseData::*list) {
-  database.OnGet(listMember, 0, [link, list](Args) -> Value {
+void AddNames(DatabaseMembers& table, std::string_view listMember, std::string_view countMember,
+              std::vector<ListedName> DatabaseData::*list) {
+  using Names = ListLink<ListedName>;
+  static const MemberTable<Names> members =
+      MemberTable<Names>().OnGet("Item", 1, ItemOf<ListedName>);
+  table.OnGet(listMember, 0, [list](const DeviceLink& link, Args) -> Value {
     link.Connected();
-    return MakeList(link, list);
+    return MakeObject(members, Names{link, list});
   });
-  database.OnGet(countMember, 0, [link, list](Args) -> Value {
-    return static_cast<std::int32_t>((link.Connected().database.*list).size());
+  table.OnGet(countMember, 0, [list](const DeviceLink& link, Args) -> Value {
+    return static_cast<std::int32_t>(Names{link, list}.Count());
   });
 }
 
 template <typename Record>
-void AddRecords(MemberObject& database, const DeviceLink& link, std::string_view listMember,
+void AddRecords(DatabaseMembers& table, std::string_view listMember,
                 std::vector<Record> DatabaseData::*list) {
-  database.OnGet(listMember, 0, [link, list](Args) -> Value {
+  using Records = ListLink<Record>;
+  static const MemberTable<Records> members =
+      MemberTable<Records>().OnGet("Item", 1, ItemOf<Record>).OnGet("Count", 0, CountOf<Record>);
+  table.OnGet(listMember, 0, [list](const DeviceLink& link, Args) -> Value {
     link.Connected();
-    auto object = MakeList(link, list);
-    object->OnGet("Count", 0, [link, list](Args) -> Value {
-      return static_cast<std::int32_t>((link.Connected().database.*list).size());
-    });
-    return object;
+    return MakeObject(members, Records{link, list});
   });
 }
 
 template <typename Record>
-void AddFixedCount(MemberObject& database, const DeviceLink& link, std::string_view member,
+void AddFixedCount(DatabaseMembers& table, std::string_view member,
                    std::vector<Record> DatabaseData::*list, std::int32_t firstOption) {
-  database.OnGet(member, 0, [link, list, firstOption](Args) -> Value {
+  table.OnGet(member, 0, [list, firstOption](const DeviceLink& link, Args) -> Value {
     const std::vector<Record>& records = link.Connected().database.*list;
     const auto count = std::count_if(records.begin(), records.end(), [&](const Record& record) {
       return record.code >= 1 && record.code < firstOption;
@@ -156,25 +180,30 @@ void AddFixedCount(MemberObject& database, const DeviceLink& link, std::string_v
   });
 }
 
+DatabaseMembers MakeMembers() {
+  using Data = DatabaseData;
+  DatabaseMembers table;
+  AddRecords(table, "Nosepieces", &Data::objectives);
+  AddRecords(table, "Condensers", &Data::condensers);
+  AddRecords(table, "Exciters", &Data::exciters);
+  AddRecords(table, "Barriers", &Data::barriers);
+  AddRecords(table, "Dichroics", &Data::dichroics);
+  AddRecords(table, "FilterCubes", &Data::cubes);
+  AddFixedCount(table, "CondenserCount", &Data::condensers, kFirstCondenserOption);
+  AddFixedCount(table, "ExciterCount", &Data::exciters, kFirstOption);
+  AddFixedCount(table, "DichroicCount", &Data::dichroics, kFirstOption);
+  AddFixedCount(table, "BarrierCount", &Data::barriers, kFirstOption);
+  AddFixedCount(table, "FilterCubeCount", &Data::cubes, kFirstOption);
+  AddNames(table, "ObjectiveSeries", "ObjectiveSeriesCount", &Data::series);
+  AddNames(table, "ObjectiveTypes", "ObjectiveTypeCount", &Data::types);
+  return table;
+}
+
 }  // namespace
 
 ObjectRef MakeDatabase(const DeviceLink& link) {
-  using Data = DatabaseData;
-  auto database = std::make_shared<MemberObject>();
-  AddRecords(*database, link, "Nosepieces", &Data::objectives);
-  AddRecords(*database, link, "Condensers", &Data::condensers);
-  AddRecords(*database, link, "Exciters", &Data::exciters);
-  AddRecords(*database, link, "Barriers", &Data::barriers);
-  AddRecords(*database, link, "Dichroics", &Data::dichroics);
-  AddRecords(*database, link, "FilterCubes", &Data::cubes);
-  AddFixedCount(*database, link, "CondenserCount", &Data::condensers, kFirstCondenserOption);
-  AddFixedCount(*database, link, "ExciterCount", &Data::exciters, kFirstOption);
-  AddFixedCount(*database, link, "DichroicCount", &Data::dichroics, kFirstOption);
-  AddFixedCount(*database, link, "BarrierCount", &Data::barriers, kFirstOption);
-  AddFixedCount(*database, link, "FilterCubeCount", &Data::cubes, kFirstOption);
-  AddNames(*database, link, "ObjectiveSeries", "ObjectiveSeriesCount", &Data::series);
-  AddNames(*database, link, "ObjectiveTypes", "ObjectiveTypeCount", &Data::types);
-  return database;
+  static const DatabaseMembers members = MakeMembers();
+  return MakeObject(members, link);
 }
 
 }  // namespace mortane::controller

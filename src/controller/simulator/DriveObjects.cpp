@@ -43,25 +43,26 @@ constexpr std::array kXYFields{
 };
 
 template <typename Drive, typename Number>
-void AddField(MemberObject& object, const DeviceLink& link, int number, Drive Instrument::*drive,
+void AddField(MemberTable<DeviceLink>& table, int number, Drive Instrument::*drive,
               std::string_view member, Number Drive::*field, Access access) {
   if (access != Access::Write) {
-    object.OnGet(member, 0, [link, number, drive, field](Args) -> Value {
+    table.OnGet(member, 0, [number, drive, field](const DeviceLink& link, Args) -> Value {
       return link.Fitted(number).*drive.*field;
     });
   }
   if (access != Access::Read) {
-    object.OnPut(member, 0, [link, number, drive, field](const Value& value, Args) {
-      Store(link, link.Fitted(number).*drive.*field, value);
-    });
+    table.OnPut(member, 0,
+                [number, drive, field](const DeviceLink& link, const Value& value, Args) {
+                  Store(link, link.Fitted(number).*drive.*field, value);
+                });
   }
 }
 
 template <typename Drive, std::size_t Count>
-void AddFields(MemberObject& object, const DeviceLink& link, int number, Drive Instrument::*drive,
+void AddFields(MemberTable<DeviceLink>& table, int number, Drive Instrument::*drive,
                const std::array<FieldRow<Drive>, Count>& rows) {
   for (const FieldRow<Drive>& row : rows) {
-    AddField(object, link, number, drive, row.member, row.field, row.access);
+    AddField(table, number, drive, row.member, row.field, row.access);
   }
 }
 
@@ -91,39 +92,48 @@ void MoveTo(const DeviceLink& link, Axis axis, std::int32_t target) {
   if (!link.Session().asynchronous) Arrive(link, axis);
 }
 
-void AddAxis(MemberObject& object, const DeviceLink& link, int number, std::string_view member,
-             Axis axis) {
-  object
+void AddAxis(MemberTable<DeviceLink>& table, int number, std::string_view member, Axis axis) {
+  table
       .OnGet(member, 0,
-             [link, number, axis](Args) -> Value {
+             [number, axis](const DeviceLink& link, Args) -> Value {
                link.Fitted(number);
                return MakeStateValue(link, number, CurrentPosition(link, axis));
              })
-      .OnPut(member, 0, [link, number, axis](const Value& value, Args) {
+      .OnPut(member, 0, [number, axis](const DeviceLink& link, const Value& value, Args) {
         Commanded(link, number);
         MoveTo(link, axis, LongArgument(value));
       });
 }
 
+MemberTable<DeviceLink> ZMembers() {
+  MemberTable<DeviceLink> table;
+  AddAccessoryState(table, accessory::kZFocusDrive);
+  AddFields(table, accessory::kZFocusDrive, &Instrument::zDrive, kZFields);
+  AddAxis(table, accessory::kZFocusDrive, "Position", Axis::Z);
+  return table;
+}
+
+MemberTable<DeviceLink> XYMembers() {
+  MemberTable<DeviceLink> table;
+  AddAccessoryState(table, accessory::kXYStage);
+  AddFields(table, accessory::kXYStage, &Instrument::xyDrive, kXYFields);
+  AddField(table, accessory::kXYStage, &Instrument::xyDrive, "HandleMode", &XYDriveData::handleMode,
+           Access::Both);
+  AddAxis(table, accessory::kXYStage, "PositionX", Axis::X);
+  AddAxis(table, accessory::kXYStage, "PositionY", Axis::Y);
+  return table;
+}
+
 }  // namespace
 
 ObjectRef MakeZDrive(const DeviceLink& link) {
-  auto drive = std::make_shared<MemberObject>();
-  AddAccessoryState(*drive, link, accessory::kZFocusDrive);
-  AddFields(*drive, link, accessory::kZFocusDrive, &Instrument::zDrive, kZFields);
-  AddAxis(*drive, link, accessory::kZFocusDrive, "Position", Axis::Z);
-  return drive;
+  static const MemberTable<DeviceLink> members = ZMembers();
+  return MakeObject(members, link);
 }
 
 ObjectRef MakeXYDrive(const DeviceLink& link) {
-  auto drive = std::make_shared<MemberObject>();
-  AddAccessoryState(*drive, link, accessory::kXYStage);
-  AddFields(*drive, link, accessory::kXYStage, &Instrument::xyDrive, kXYFields);
-  AddField(*drive, link, accessory::kXYStage, &Instrument::xyDrive, "HandleMode",
-           &XYDriveData::handleMode, Access::Both);
-  AddAxis(*drive, link, accessory::kXYStage, "PositionX", Axis::X);
-  AddAxis(*drive, link, accessory::kXYStage, "PositionY", Axis::Y);
-  return drive;
+  static const MemberTable<DeviceLink> members = XYMembers();
+  return MakeObject(members, link);
 }
 
 void FinishMoves(const DeviceLink& link) {

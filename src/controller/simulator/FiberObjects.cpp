@@ -14,42 +14,54 @@ FiberData& Opened(const SimulatorRef& state) {
   return fiber;
 }
 
-void AddRemoteField(MemberObject& remote, const SimulatorRef& state, std::string_view member,
+void AddRemoteField(MemberTable<SimulatorRef>& table, std::string_view member,
                     std::int16_t FiberData::*field) {
-  remote.OnGet(member, 0, [state, field](Args) -> Value { return Opened(state).*field; })
-      .OnPut(member, 0, [state, field](const Value& value, Args) {
+  table
+      .OnGet(member, 0,
+             [field](const SimulatorRef& state, Args) -> Value { return Opened(state).*field; })
+      .OnPut(member, 0, [field](const SimulatorRef& state, const Value& value, Args) {
         state->Assign(Opened(state).*field, IntegerArgument(value));
       });
+}
+
+MemberTable<SimulatorRef> RemoteMembers() {
+  MemberTable<SimulatorRef> table;
+  AddRemoteField(table, "SwitchEnable", &FiberData::switchEnable);
+  AddRemoteField(table, "LED", &FiberData::led);
+  return table;
 }
 
 }  // namespace
 
 ObjectRef MakeFiberServer(const SimulatorRef& state) {
+  static const MemberTable<SimulatorRef> members =
+      MemberTable<SimulatorRef>()
+          .OnGet("IsOpen", 0,
+                 [](const SimulatorRef& shared, Args) -> Value { return Installed(shared).open; })
+          .OnCall("Open", 1,
+                  [](const SimulatorRef& shared, Args args) -> Value {
+                    LongArgument(args[0]);
+                    FiberData& fiber = Installed(shared);
+                    if (!fiber.opens) RaiseSimulated("The fiber device does not answer.");
+                    fiber.open = true;
+                    return {};
+                  })
+          .OnCall("Close", 0,
+                  [](const SimulatorRef& shared, Args) -> Value {
+                    Installed(shared).open = false;
+                    return {};
+                  })
+          .OnGet("Status", 0, [](const SimulatorRef& shared, Args) -> Value {
+            return Installed(shared).status;
+          });
   Installed(state);
-  auto server = std::make_shared<MemberObject>();
-  server->OnGet("IsOpen", 0, [state](Args) -> Value { return Installed(state).open; })
-      .OnCall("Open", 1,
-              [state](Args args) -> Value {
-                LongArgument(args[0]);
-                if (!Installed(state).opens) RaiseSimulated("The fiber device does not answer.");
-                Installed(state).open = true;
-                return {};
-              })
-      .OnCall("Close", 0,
-              [state](Args) -> Value {
-                Installed(state).open = false;
-                return {};
-              })
-      .OnGet("Status", 0, [state](Args) -> Value { return Installed(state).status; });
-  return server;
+  return MakeObject(members, state);
 }
 
 ObjectRef MakeFiberRemote(const SimulatorRef& state) {
+  static const MemberTable<SimulatorRef> members = RemoteMembers();
   Installed(state);
-  auto remote = std::make_shared<MemberObject>();
-  AddRemoteField(*remote, state, "SwitchEnable", &FiberData::switchEnable);
-  AddRemoteField(*remote, state, "LED", &FiberData::led);
-  return remote;
+  return MakeObject(members, state);
 }
 
 }  // namespace mortane::controller

@@ -1,6 +1,5 @@
 #include "controller/simulator/MemberObject.h"
 
-#include <algorithm>
 #include <limits>
 
 #include "common/Numbers.h"
@@ -49,45 +48,13 @@ bool BooleanArgument(const Value& value) {
   return LongArgument(value) != 0;
 }
 
-template <typename Function>
-const Function& MemberObject::Find(const Members<Function>& members, std::string_view name,
-                                   Args args) {
-  const auto member = std::find_if(members.begin(), members.end(),
-                                   [&](const auto& candidate) { return candidate.name == name; });
-  if (member == members.end()) RaiseSimulated("Unknown member \"" + std::string(name) + "\".");
-  if (member->arguments != args.size()) {
-    RaiseSimulated("Member \"" + std::string(name) + "\" takes " +
-                   std::to_string(member->arguments) + " arguments, not " +
-                   std::to_string(args.size()) + ".");
-  }
-  return member->function;
+void RaiseUnknownMember(std::string_view name) {
+  RaiseSimulated("Unknown member \"" + std::string(name) + "\".");
 }
 
-MemberObject& MemberObject::OnGet(std::string_view member, std::size_t arguments, Reader reader) {
-  getters_.push_back({member, arguments, std::move(reader)});
-  return *this;
-}
-
-MemberObject& MemberObject::OnPut(std::string_view member, std::size_t arguments, Writer writer) {
-  putters_.push_back({member, arguments, std::move(writer)});
-  return *this;
-}
-
-MemberObject& MemberObject::OnCall(std::string_view member, std::size_t arguments, Reader caller) {
-  calls_.push_back({member, arguments, std::move(caller)});
-  return *this;
-}
-
-Value MemberObject::Get(std::string_view member, Args args) {
-  return Find(getters_, member, args)(args);
-}
-
-void MemberObject::Put(std::string_view member, const Value& value, Args args) {
-  Find(putters_, member, args)(value, args);
-}
-
-Value MemberObject::Call(std::string_view member, Args args) {
-  return Find(calls_, member, args)(args);
+void RaiseArgumentCount(std::string_view name, std::size_t wanted, std::size_t given) {
+  RaiseSimulated("Member \"" + std::string(name) + "\" takes " + std::to_string(wanted) +
+                 " arguments, not " + std::to_string(given) + ".");
 }
 
 }  // namespace mortane::controller

@@ -1,8 +1,11 @@
-// An object of the simulated library: members by name, each answered by a function.
+// An object of the simulated library: a table of members by name, and what they answer for.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "controller/ControllerError.h"
@@ -20,37 +23,91 @@ double DoubleArgument(const Value& value);
 std::string TextArgument(const Value& value);
 bool BooleanArgument(const Value& value);
 
-// Names are told apart by case. A call of an unknown member fails, and so does one with another
-// number of arguments than the member takes.
-class MemberObject : public ControllerObject {
+// The functions of one direction by name, which is told apart by case. A call of an unknown member
+// fails, and so does one with another number of arguments than the member takes.
+template <typename Function>
+class NamedFunctions {
  public:
-  using Reader = std::function<Value(Args)>;
-  using Writer = std::function<void(const Value&, Args)>;
-
-  MemberObject& OnGet(std::string_view member, std::size_t arguments, Reader reader);
-  MemberObject& OnPut(std::string_view member, std::size_t arguments, Writer writer);
-  MemberObject& OnCall(std::string_view member, std::size_t arguments, Reader caller);
-
-  Value Get(std::string_view member, Args args) override;
-  void Put(std::string_view member, const Value& value, Args args) override;
-  Value Call(std::string_view member, Args args) override;
+  // `name` is a literal.
+  void Add(std::string_view name, std::size_t arguments, Function function) {
+    entries_.push_back({name, arguments, std::move(function)});
+  }
+  const Function& Find(std::string_view name, Args args) const;
 
  private:
-  template <typename Function>
-  struct Member {
-    std::string_view name;  // a literal
+  struct Entry {
+    std::string_view name;
     std::size_t arguments;
     Function function;
   };
-  template <typename Function>
-  using Members = std::vector<Member<Function>>;
-
-  template <typename Function>
-  static const Function& Find(const Members<Function>& members, std::string_view name, Args args);
-
-  Members<Reader> getters_;
-  Members<Writer> putters_;
-  Members<Reader> calls_;
+  std::vector<Entry> entries_;
 };
+
+[[noreturn]] void RaiseUnknownMember(std::string_view name);
+[[noreturn]] void RaiseArgumentCount(std::string_view name, std::size_t wanted, std::size_t given);
+
+template <typename Function>
+const Function& NamedFunctions<Function>::Find(std::string_view name, Args args) const {
+  const auto entry = std::find_if(entries_.begin(), entries_.end(),
+                                  [&](const Entry& each) { return each.name == name; });
+  if (entry == entries_.end()) RaiseUnknownMember(name);
+  if (entry->arguments != args.size()) RaiseArgumentCount(name, entry->arguments, args.size());
+  return entry->function;
+}
+
+// The members of one kind of object, made once. Each function gets the `Self` of the object that
+// it is called on.
+template <typename Self>
+struct MemberTable {
+  using Reader = std::function<Value(Self&, Args)>;
+  using Writer = std::function<void(Self&, const Value&, Args)>;
+
+  MemberTable& OnGet(std::string_view member, std::size_t arguments, Reader reader) {
+    getters.Add(member, arguments, std::move(reader));
+    return *this;
+  }
+  MemberTable& OnPut(std::string_view member, std::size_t arguments, Writer writer) {
+    putters.Add(member, arguments, std::move(writer));
+    return *this;
+  }
+  MemberTable& OnCall(std::string_view member, std::size_t arguments, Reader caller) {
+    calls.Add(member, arguments, std::move(caller));
+    return *this;
+  }
+
+  NamedFunctions<Reader> getters;
+  NamedFunctions<Writer> putters;
+  NamedFunctions<Reader> calls;
+};
+
+// The table must live as long.
+template <typename Self>
+class MemberObject : public ControllerObject {
+ public:
+  template <typename... Parts>
+  explicit MemberObject(const MemberTable<Self>& members, Parts&&... parts)
+      : members_(members), self_(std::forward<Parts>(parts)...) {}
+
+  Value Get(std::string_view member, Args args) override {
+    return members_.getters.Find(member, args)(self_, args);
+  }
+  void Put(std::string_view member, const Value& value, Args args) override {
+    members_.putters.Find(member, args)(self_, value, args);
+  }
+  Value Call(std::string_view member, Args args) override {
+    return members_.calls.Find(member, args)(self_, args);
+  }
+
+  const Self& self() const { return self_; }
+
+ private:
+  const MemberTable<Self>& members_;
+  Self self_;
+};
+
+template <typename Self, typename... Parts>
+ObjectRef MakeObject(const MemberTable<Self>& members, Parts&&... parts) {
+  return std::make_shared<MemberObject<Self>>(members, std::forward<Parts>(parts)...);
+}
 
 }  // namespace mortane::controller

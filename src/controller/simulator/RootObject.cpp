@@ -29,210 +29,233 @@ constexpr std::array kSwitches{UnitRow{0, &SwitchData::body},
                                UnitRow{4, &SwitchData::handController},
                                UnitRow{kRemoteUnit, &SwitchData::remote}};
 
-class DeviceEntryObject : public MemberObject {
- public:
-  explicit DeviceEntryObject(const DeviceLink& link) : link_(link) {
-    OnGet("Name", 0, [link](Args) -> Value { return link.Device().name; });
-    OnCall("Connect", 0, [link](Args) -> Value {
-      if (link.Device().available == 0) RaiseSimulated("The device does not answer.");
-      link.Session().connected = true;
-      return {};
-    });
-    OnCall("Disconnect", 0, [link](Args) -> Value {
-      link.Device();
-      link.Session().connected = false;
-      return {};
-    });
-    OnPut("AsyncMode", 0, [link](const Value& value, Args) {
-      link.Connected();
-      link.Session().asynchronous = BooleanArgument(value);
-    });
-    OnCall("WaitMove", 1, [link](Args) -> Value {
-      link.Connected();
-      FinishMoves(link);
-      return std::int32_t{0};
-    });
-    OnGet("IsAvailable", 0, [link](Args) -> Value {
-      const Instrument& device = link.Device();
-      if (device.busyWhenConnected && link.Session().connected) return std::int32_t{0};
-      return device.available;
-    });
-  }
-
-  const DeviceLink& Link() const { return link_; }
-
- private:
-  DeviceLink link_;
+// A device as an entry of the list; its own type tells it from other objects of a device.
+struct DeviceEntryLink {
+  DeviceLink device;
 };
 
-ObjectRef MakeDeviceList(const SimulatorRef& state) {
-  auto list = std::make_shared<MemberObject>();
-  list->OnGet("Count", 0,
-              [state](Args) -> Value {
-                return static_cast<std::int32_t>(state->bench.instruments.size());
-              })
-      .OnGet("Item", 1, [state](Args args) -> Value {
-        const DeviceLink link(state, LongArgument(args[0]));
-        link.Device();
-        return std::make_shared<DeviceEntryObject>(link);
-      });
-  return list;
+Value ConnectEntry(const DeviceEntryLink& entry, Args) {
+  if (entry.device.Device().available == 0) RaiseSimulated("The device does not answer.");
+  entry.device.Session().connected = true;
+  return {};
 }
 
-class RootObject : public MemberObject {
- public:
-  explicit RootObject(SimulatorRef state) : state_(std::move(state)) {
-    ++state_->createdRoots;
-    AddDevices();
-    AddAreas();
-    AddControllerUnits();
-    AddBuzzers();
-    AddSwitches();
-    AddCommands();
-  }
-  ~RootObject() override { ++state_->releasedRoots; }
-  RootObject(const RootObject&) = delete;
-  RootObject& operator=(const RootObject&) = delete;
+Value DisconnectEntry(const DeviceEntryLink& entry, Args) {
+  entry.device.Device();
+  entry.device.Session().connected = false;
+  return {};
+}
 
-  Value Get(std::string_view member, Args args) override {
-    if (args.empty()) {
-      if (const ObjectRef device = MakeAccessoryDevice(DeviceLink(state_, current_), member)) {
-        Link().Connected();
-        return device;
-      }
+void PutAsyncMode(const DeviceEntryLink& entry, const Value& value, Args) {
+  entry.device.Connected();
+  entry.device.Session().asynchronous = BooleanArgument(value);
+}
+
+Value WaitMove(const DeviceEntryLink& entry, Args) {
+  entry.device.Connected();
+  FinishMoves(entry.device);
+  return std::int32_t{0};
+}
+
+Value AskAvailable(const DeviceEntryLink& entry, Args) {
+  const Instrument& device = entry.device.Device();
+  if (device.busyWhenConnected && entry.device.Session().connected) return std::int32_t{0};
+  return device.available;
+}
+
+Value DeviceItem(const SimulatorRef& state, Args args) {
+  static const MemberTable<DeviceEntryLink> members =
+      MemberTable<DeviceEntryLink>()
+          .OnGet("Name", 0,
+                 [](const DeviceEntryLink& entry, Args) -> Value {
+                   return entry.device.Device().name;
+                 })
+          .OnCall("Connect", 0, ConnectEntry)
+          .OnCall("Disconnect", 0, DisconnectEntry)
+          .OnPut("AsyncMode", 0, PutAsyncMode)
+          .OnCall("WaitMove", 1, WaitMove)
+          .OnGet("IsAvailable", 0, AskAvailable);
+  const DeviceLink device(state, LongArgument(args[0]));
+  device.Device();
+  return MakeObject(members, DeviceEntryLink{device});
+}
+
+ObjectRef MakeDeviceList(const SimulatorRef& state) {
+  static const MemberTable<SimulatorRef> members =
+      MemberTable<SimulatorRef>()
+          .OnGet("Count", 0,
+                 [](const SimulatorRef& shared, Args) -> Value {
+                   return static_cast<std::int32_t>(shared->bench.instruments.size());
+                 })
+          .OnGet("Item", 1, DeviceItem);
+  return MakeObject(members, state);
+}
+
+// One root: what it shares with the others, and the device that it talks to.
+class Root {
+ public:
+  explicit Root(SimulatorRef state) : state_(std::move(state)) { ++state_->createdRoots; }
+  ~Root() { ++state_->releasedRoots; }
+  Root(const Root&) = delete;
+  Root& operator=(const Root&) = delete;
+
+  const SimulatorRef& State() const { return state_; }
+
+  DeviceLink Link() const {
+    if (current_ < 0) RaiseSimulated("No current device.");
+    return {state_, current_};
+  }
+  Instrument& Connected() const { return Link().Connected(); }
+
+  void Choose(const Value& value) {
+    const auto* object = std::get_if<ObjectRef>(&value);
+    const auto* entry = object == nullptr
+                            ? nullptr
+                            : dynamic_cast<const MemberObject<DeviceEntryLink>*>(object->get());
+    if (entry == nullptr || &entry->self().device.State() != state_.get()) {
+      RaiseSimulated("The current device must be an entry of the device list.");
     }
-    return MemberObject::Get(member, args);
+    current_ = entry->self().device.Index();
   }
 
  private:
-  DeviceLink Link() const {
-    if (current_ < 0) RaiseSimulated("No current device.");
-    return DeviceLink(state_, current_);
-  }
-
-  void AddDevices();
-  void AddAreas();
-  void AddControllerUnits();
-  void AddBuzzers();
-  void AddSwitches();
-  void AddCommands();
-
   SimulatorRef state_;
   int current_ = -1;
 };
 
-void RootObject::AddDevices() {
-  OnGet("DeviceList", 0, [this](Args) -> Value { return MakeDeviceList(state_); });
-  OnPut("CurrentDevice", 0, [this](const Value& value, Args) {
-    const auto* object = std::get_if<ObjectRef>(&value);
-    const auto* entry =
-        object == nullptr ? nullptr : dynamic_cast<const DeviceEntryObject*>(object->get());
-    if (entry == nullptr || &entry->Link().State() != state_.get()) {
-      RaiseSimulated("The current device must be an entry of the device list.");
-    }
-    current_ = entry->Link().Index();
-  });
-  OnPut("SystemName", 0, [this](const Value& value, Args) {
-    const std::string name = TextArgument(value);
-    if (CharacterCount(name) > kSystemNameLength) {
-      RaiseSimulated("The system name is longer than 15 characters.");
-    }
-    state_->Assign(Link().Connected().name, name);
-  });
+using RootMembers = MemberTable<Root>;
+
+void PutSystemName(const Root& root, const Value& value, Args) {
+  const std::string name = TextArgument(value);
+  if (CharacterCount(name) > kSystemNameLength) {
+    RaiseSimulated("The system name is longer than 15 characters.");
+  }
+  root.State()->Assign(root.Connected().name, name);
 }
 
-void RootObject::AddAreas() {
-  const auto add = [this](std::string_view member, ObjectRef (*make)(const DeviceLink&)) {
-    OnGet(member, 0, [this, make](Args) -> Value {
-      Link().Connected();
-      return make(Link());
+void AddDevices(RootMembers& table) {
+  table
+      .OnGet("DeviceList", 0,
+             [](const Root& root, Args) -> Value { return MakeDeviceList(root.State()); })
+      .OnPut("CurrentDevice", 0, [](Root& root, const Value& value, Args) { root.Choose(value); })
+      .OnPut("SystemName", 0, PutSystemName);
+}
+
+void AddAreas(RootMembers& table) {
+  const auto add = [&](std::string_view member, auto make) {
+    table.OnGet(member, 0, [make](const Root& root, Args) -> Value {
+      root.Connected();
+      return make(root.Link());
     });
   };
   add("AccessoryDatabase", MakeDatabase);
   add("ZDriveDevice", MakeZDrive);
   add("XYDriveDevice", MakeXYDrive);
   add("ControllerSettings", MakeControllerSettings);
+  std::size_t place = 0;
+  for (const std::string_view member : AccessoryDeviceMembers()) {
+    add(member, [place](const DeviceLink& link) { return MakeAccessoryDevice(link, place); });
+    ++place;
+  }
 }
 
-void RootObject::AddControllerUnits() {
-  const auto unit = [this](Args args) -> const ControllerUnit& {
-    const std::int32_t number = LongArgument(args[0]);
-    Instrument& device = Link().Connected();
-    if (number < 1 || static_cast<std::size_t>(number) > device.units.size()) {
-      RaiseSimulated("No controller unit " + std::to_string(number) + ".");
+const ControllerUnit& UnitOf(const Root& root, Args args) {
+  const std::int32_t number = LongArgument(args[0]);
+  Instrument& device = root.Connected();
+  if (number < 1 || static_cast<std::size_t>(number) > device.units.size()) {
+    RaiseSimulated("No controller unit " + std::to_string(number) + ".");
+  }
+  return device.Unit(number);
+}
+
+void AddControllerUnits(RootMembers& table) {
+  table
+      .OnGet("ControllerPresent", 1,
+             [](const Root& root, Args args) -> Value { return UnitOf(root, args).present; })
+      .OnGet("ControllerVersion", 1, [](const Root& root, Args args) -> Value {
+        if (UnitOf(root, args).present == 0) RaiseSimulated("The controller unit does not answer.");
+        return UnitOf(root, args).version;
+      });
+}
+
+std::int32_t& BuzzerOf(const Root& root, Args args) {
+  const std::int32_t code = LongArgument(args[0]);
+  for (const CodeRow& row : kBuzzers) {
+    if (row.code == code) return root.Connected().buzzers.*row.field;
+  }
+  RaiseSimulated("No buzzer of code " + std::to_string(code) + ".");
+}
+
+std::int32_t& SwitchOf(const Root& root, Args args) {
+  const std::int32_t unit = LongArgument(args[0]);
+  for (const UnitRow& row : kSwitches) {
+    if (row.unit == unit && LongArgument(args[1]) == 0) {
+      return root.Connected().switches.*row.field;
     }
-    return device.Unit(number);
-  };
-  OnGet("ControllerPresent", 1, [unit](Args args) -> Value { return unit(args).present; });
-  OnGet("ControllerVersion", 1, [unit](Args args) -> Value {
-    if (unit(args).present == 0) RaiseSimulated("The controller unit does not answer.");
-    return unit(args).version;
-  });
+  }
+  RaiseSimulated("Unit " + std::to_string(unit) + " has no such switches.");
 }
 
-void RootObject::AddBuzzers() {
-  const auto buzzer = [this](Args args) -> std::int32_t& {
-    const std::int32_t code = LongArgument(args[0]);
-    for (const CodeRow& row : kBuzzers) {
-      if (row.code == code) return Link().Connected().buzzers.*row.field;
-    }
-    RaiseSimulated("No buzzer of code " + std::to_string(code) + ".");
-  };
-  const auto set = [this, buzzer](std::int32_t state) {
-    return [this, buzzer, state](Args args) -> Value {
-      state_->Assign(buzzer(args), state);
-      return {};
-    };
-  };
-  OnCall("BuzzerOn", 1, set(1));
-  OnCall("BuzzerOff", 1, set(0));
-  OnGet("BuzzerEnabled", 1, [buzzer](Args args) -> Value { return buzzer(args); });
+std::int32_t& LedOf(const Root& root, Args args) {
+  if (LongArgument(args[0]) != kRemoteUnit) RaiseSimulated("Only the remote has an LED.");
+  return root.Connected().switches.remoteLed;
 }
 
-void RootObject::AddSwitches() {
-  const auto unitSwitch = [this](Args args) -> std::int32_t& {
-    const std::int32_t unit = LongArgument(args[0]);
-    for (const UnitRow& row : kSwitches) {
-      if (row.unit == unit && LongArgument(args[1]) == 0) {
-        return Link().Connected().switches.*row.field;
-      }
-    }
-    RaiseSimulated("Unit " + std::to_string(unit) + " has no such switches.");
-  };
-  const auto set = [this, unitSwitch](std::int32_t state) {
-    return [this, unitSwitch, state](Args args) -> Value {
-      state_->Assign(unitSwitch(args), state);
-      return {};
-    };
-  };
-  OnCall("EnableSwitch", 2, set(1));
-  OnCall("DisableSwitch", 2, set(0));
-  OnGet("SwitchEnabled", 2, [unitSwitch](Args args) -> Value { return unitSwitch(args); });
+using FieldOf = std::int32_t& (*)(const Root&, Args);
 
-  const auto led = [this](Args args) -> std::int32_t& {
-    if (LongArgument(args[0]) != kRemoteUnit) RaiseSimulated("Only the remote has an LED.");
-    return Link().Connected().switches.remoteLed;
-  };
-  OnGet("RemoteLED", 1, [led](Args args) -> Value { return led(args); });
-  OnPut("RemoteLED", 1, [this, led](const Value& value, Args args) {
-    state_->Assign(led(args), LongArgument(value));
-  });
-}
-
-void RootObject::AddCommands() {
-  OnCall("SendCommand", 1, [this](Args args) -> Value {
-    if (ApplyCommand(Link().Connected().database, TextArgument(args[0]))) state_->Changed();
+RootMembers::Reader Setting(FieldOf field, std::int32_t value) {
+  return [field, value](const Root& root, Args args) -> Value {
+    root.State()->Assign(field(root, args), value);
     return {};
-  });
-  OnCall("QueryCommand", 1, [this](Args args) -> Value {
-    return AnswerQuery(Link().Connected().database, TextArgument(args[0]));
-  });
+  };
+}
+
+RootMembers::Reader Reading(FieldOf field) {
+  return [field](const Root& root, Args args) -> Value { return field(root, args); };
+}
+
+void AddBuzzersAndSwitches(RootMembers& table) {
+  table.OnCall("BuzzerOn", 1, Setting(BuzzerOf, 1))
+      .OnCall("BuzzerOff", 1, Setting(BuzzerOf, 0))
+      .OnGet("BuzzerEnabled", 1, Reading(BuzzerOf))
+      .OnCall("EnableSwitch", 2, Setting(SwitchOf, 1))
+      .OnCall("DisableSwitch", 2, Setting(SwitchOf, 0))
+      .OnGet("SwitchEnabled", 2, Reading(SwitchOf))
+      .OnGet("RemoteLED", 1, Reading(LedOf))
+      .OnPut("RemoteLED", 1, [](const Root& root, const Value& value, Args args) {
+        root.State()->Assign(LedOf(root, args), LongArgument(value));
+      });
+}
+
+void AddCommands(RootMembers& table) {
+  table
+      .OnCall("SendCommand", 1,
+              [](const Root& root, Args args) -> Value {
+                if (ApplyCommand(root.Connected().database, TextArgument(args[0]))) {
+                  root.State()->Changed();
+                }
+                return {};
+              })
+      .OnCall("QueryCommand", 1, [](const Root& root, Args args) -> Value {
+        return AnswerQuery(root.Connected().database, TextArgument(args[0]));
+      });
+}
+
+RootMembers MakeMembers() {
+  RootMembers table;
+  AddDevices(table);
+  AddAreas(table);
+  AddControllerUnits(table);
+  AddBuzzersAndSwitches(table);
+  AddCommands(table);
+  return table;
 }
 
 }  // namespace
 
 ObjectRef MakeRoot(const SimulatorRef& state) {
-  return std::make_shared<RootObject>(state);
+  static const RootMembers members = MakeMembers();
+  return MakeObject(members, state);
 }
 
 }  // namespace mortane::controller

@@ -37,28 +37,36 @@ std::string& SwitchOf(const DeviceLink& link, Args args) {
 }  // namespace
 
 ObjectRef MakeControllerSettings(const DeviceLink& link) {
-  auto settings = std::make_shared<MemberObject>();
-  const auto setInterlock = [link](std::int32_t state) {
-    return [link, state](Args args) -> Value {
-      link.Assign(InterlockOf(link, args), state);
+  const auto setInterlock = [](std::int32_t state) {
+    return [state](const DeviceLink& device, Args args) -> Value {
+      device.Assign(InterlockOf(device, args), state);
       return {};
     };
   };
-  settings->OnCall("SetInterlock", 2, setInterlock(1))
-      .OnCall("ClearInterlock", 2, setInterlock(0))
-      .OnGet("Interlock", 2, [link](Args args) -> Value { return InterlockOf(link, args); })
-      .OnGet("EscapeMode", 0, [link](Args) -> Value { return link.Connected().escapeMode; })
-      .OnPut("EscapeMode", 0,
-             [link](const Value& value, Args) {
-               link.Assign(link.Connected().escapeMode, LongArgument(value));
-             })
-      .OnCall("SetSwitchFunction", 3,
-              [link](Args args) -> Value {
-                link.Assign(SwitchOf(link, args), TextArgument(args[2]));
-                return {};
-              })
-      .OnGet("SwitchFunction", 2, [link](Args args) -> Value { return SwitchOf(link, args); });
-  return settings;
+  static const MemberTable<DeviceLink> members =
+      MemberTable<DeviceLink>()
+          .OnCall("SetInterlock", 2, setInterlock(1))
+          .OnCall("ClearInterlock", 2, setInterlock(0))
+          .OnGet("Interlock", 2,
+                 [](const DeviceLink& device, Args args) -> Value {
+                   return InterlockOf(device, args);
+                 })
+          .OnGet(
+              "EscapeMode", 0,
+              [](const DeviceLink& device, Args) -> Value { return device.Connected().escapeMode; })
+          .OnPut("EscapeMode", 0,
+                 [](const DeviceLink& device, const Value& value, Args) {
+                   device.Assign(device.Connected().escapeMode, LongArgument(value));
+                 })
+          .OnCall("SetSwitchFunction", 3,
+                  [](const DeviceLink& device, Args args) -> Value {
+                    device.Assign(SwitchOf(device, args), TextArgument(args[2]));
+                    return {};
+                  })
+          .OnGet("SwitchFunction", 2, [](const DeviceLink& device, Args args) -> Value {
+            return SwitchOf(device, args);
+          });
+  return MakeObject(members, link);
 }
 
 }  // namespace mortane::controller
