@@ -9,37 +9,64 @@ namespace {
 
 constexpr const char* kFailed = "LIB:80004005)";
 
-// How many controller calls an operation makes on a rig that is ready for it.
-template <typename Prepare, typename Operation>
-std::size_t CallsOf(const std::string& bench, Prepare&& prepare, Operation&& operation) {
-  Rig rig(bench);
-  rig.ConnectAndReceive();
-  prepare(rig.k70);
-  operation(rig.k70);
-  return rig.journal.CallCount();
-}
-
-// The same element as another hand might write it: attribute names in small letters, and an
-// attribute that nobody knows.
-std::string InOtherWriting(const DomNode& element) {
-  std::string xml = "<" + element.Name() + " colour=\"blue\"";
-  for (DomAttribute attribute : element.Attributes()) {
-    std::transform(attribute.name.begin(), attribute.name.end(), attribute.name.begin(),
-                   [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); });
-    xml += " " + attribute.name + "=\"" + attribute.value + "\"";
+// A rig that goes through many rounds. Each begins with the instrument and the unit as they were
+// at first; a new rig for each would connect and read all other units as well.
+class RoundRig : public Rig {
+ public:
+  RoundRig(const std::string& benchName, const UnitOperations& unit) : Rig(benchName), unit_(unit) {
+    ConnectAndReceive();
+    bench_ = simulated.bench();
+    text_ = unit_.fileText(k70);
   }
-  return xml + "/>";
-}
 
-std::string InOwnWriting(const DomNode& element) {
+  const std::string& TextAtFirst() const { return text_; }
+
+  void BeginRound() {
+    faults.Clear();
+    simulated.bench() = bench_;
+    ASSERT_EQ(unit_.read(k70), "");
+    ASSERT_EQ(unit_.fileText(k70), text_);
+    journal.Clear();
+  }
+
+ private:
+  const UnitOperations& unit_;
+  Bench bench_;
+  std::string text_;
+};
+
+enum class Hand { Own, Other };
+
+// An element as text. Another hand writes attribute names in small letters, and an attribute that
+// nobody knows.
+std::string Written(const DomNode& element, Hand hand) {
   std::string xml = "<" + element.Name();
-  for (const DomAttribute& attribute : element.Attributes()) {
+  if (hand == Hand::Other) xml += " colour=\"blue\"";
+  for (DomAttribute attribute : element.Attributes()) {
+    if (hand == Hand::Other) {
+      std::transform(attribute.name.begin(), attribute.name.end(), attribute.name.begin(),
+                     [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); });
+    }
     xml += " " + attribute.name + "=\"" + attribute.value + "\"";
   }
-  return xml + "/>";
+  xml += ">";
+  for (const DomNode& child : element.Children()) xml += Written(child, hand);
+  return xml + "</" + element.Name() + ">";
 }
 
 }  // namespace
+
+// A drill over an empty table would pass without a look at the unit.
+void UnitDrill::SetUp() {
+  const auto& edits = GetParam().edits;
+  ASSERT_TRUE(std::any_of(edits.begin(), edits.end(),
+                          [](const UnitEdit& edit) { return !edit.differences.empty(); }));
+  ASSERT_TRUE(std::any_of(edits.begin(), edits.end(),
+                          [](const UnitEdit& edit) { return !edit.writes.empty(); }));
+  ASSERT_FALSE(GetParam().readFailure.empty());
+  ASSERT_FALSE(GetParam().writeFailures.empty());
+  ASSERT_FALSE(GetParam().refused.empty());
+}
 
 void UnitDrill::MakeAllEdits(clsK70& k70) {
   for (const UnitEdit& edit : GetParam().edits) edit.change(k70);
@@ -85,15 +112,15 @@ TEST_P(UnitDrill, WritesNothingMoreThanAlwaysWhenEqual) {
 }
 
 TEST_P(UnitDrill, NamesEachDifferenceAndChangesNothing) {
+  RoundRig rig(GetParam().bench, GetParam().unit);
   for (const UnitEdit& edit : GetParam().edits) {
-    Rig rig(GetParam().bench);
-    rig.ConnectAndReceive();
+    rig.BeginRound();
     const Bench bench = rig.simulated.bench();
     edit.change(rig.k70);
     const std::string text = GetParam().unit.fileText(rig.k70);
     std::string list = "Before";
     EXPECT_EQ(GetParam().unit.modify(rig.k70, list), "") << edit.what;
-    EXPECT_EQ(list, "Before\r\n" + edit.differences) << edit.what;
+    EXPECT_EQ(list, AppendLine("Before", edit.differences)) << edit.what;
     EXPECT_TRUE(rig.journal.Writes().empty()) << edit.what;
     EXPECT_TRUE(rig.simulated.bench() == bench) << edit.what;
     EXPECT_EQ(GetParam().unit.fileText(rig.k70), text) << edit.what;
@@ -112,9 +139,9 @@ TEST_P(UnitDrill, NamesAllDifferencesInOrder) {
 }
 
 TEST_P(UnitDrill, WritesOnlyWhatDiffersAndTheControllerHoldsIt) {
+  RoundRig rig(GetParam().bench, GetParam().unit);
   for (const UnitEdit& edit : GetParam().edits) {
-    Rig rig(GetParam().bench);
-    rig.ConnectAndReceive();
+    rig.BeginRound();
     edit.change(rig.k70);
     const std::string wanted = GetParam().unit.fileText(rig.k70);
     EXPECT_EQ(GetParam().unit.write(rig.k70), "") << edit.what;
@@ -126,34 +153,36 @@ TEST_P(UnitDrill, WritesOnlyWhatDiffersAndTheControllerHoldsIt) {
 
 TEST_P(UnitDrill, EachCallOfAReadThatFailsIsTheUnitsLine) {
   const UnitOperations& unit = GetParam().unit;
-  const std::size_t calls = CallsOf(
-      GetParam().bench, [](clsK70&) {}, unit.read);
+  RoundRig rig(GetParam().bench, unit);
+  unit.read(rig.k70);
+  const std::size_t calls = rig.journal.CallCount();
   ASSERT_GT(calls, 0U);
   for (std::size_t k = 1; k <= calls; ++k) {
-    Rig rig(GetParam().bench);
-    rig.ConnectAndReceive();
-    const std::string before = unit.fileText(rig.k70);
+    rig.BeginRound();
     rig.faults.FailCall(k);
-    EXPECT_EQ(unit.read(rig.k70), GetParam().readFailure + kFailed) << "call " << k;
+    EXPECT_EQ(unit.read(rig.k70), GetParam().readFailure + GetParam().readFailed) << "call " << k;
+    EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
     EXPECT_EQ(unit.read(rig.k70), "") << "call " << k;
-    EXPECT_EQ(unit.fileText(rig.k70), before) << "call " << k;
+    EXPECT_EQ(unit.fileText(rig.k70), rig.TextAtFirst()) << "call " << k;
   }
 }
 
 TEST_P(UnitDrill, EachCallOfAComparisonThatFailsKeepsTheLinesBeforeIt) {
   const UnitOperations& unit = GetParam().unit;
+  RoundRig rig(GetParam().bench, unit);
+  MakeAllEdits(rig.k70);
   std::string all = "Before";
-  const std::size_t calls =
-      CallsOf(GetParam().bench, MakeAllEdits, [&](clsK70& k70) { unit.modify(k70, all); });
+  EXPECT_EQ(unit.modify(rig.k70, all), "");
+  const std::size_t calls = rig.journal.CallCount();
   ASSERT_EQ(calls == 0, GetParam().modifyFailure.empty());
   std::string longest;
   for (std::size_t k = 1; k <= calls; ++k) {
-    Rig rig(GetParam().bench);
-    rig.ConnectAndReceive();
+    rig.BeginRound();
     MakeAllEdits(rig.k70);
     rig.faults.FailCall(k);
     std::string list = "Before";
     EXPECT_EQ(unit.modify(rig.k70, list), GetParam().modifyFailure + kFailed) << "call " << k;
+    EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
     EXPECT_TRUE(all.starts_with(list)) << "call " << k << ": " << list;
     EXPECT_GE(list.size(), longest.size()) << "call " << k;
     longest = list;
@@ -163,13 +192,15 @@ TEST_P(UnitDrill, EachCallOfAComparisonThatFailsKeepsTheLinesBeforeIt) {
 
 TEST_P(UnitDrill, EachCallOfAWriteThatFailsIsALineAndASecondWriteMendsIt) {
   const UnitOperations& unit = GetParam().unit;
-  const std::size_t calls = CallsOf(GetParam().bench, MakeAllEdits, unit.write);
+  RoundRig rig(GetParam().bench, unit);
+  MakeAllEdits(rig.k70);
+  const std::string wanted = unit.fileText(rig.k70);
+  EXPECT_EQ(unit.write(rig.k70), "");
+  const std::size_t calls = rig.journal.CallCount();
   ASSERT_GT(calls, 0U);
   for (std::size_t k = 1; k <= calls; ++k) {
-    Rig rig(GetParam().bench);
-    rig.ConnectAndReceive();
+    rig.BeginRound();
     MakeAllEdits(rig.k70);
-    const std::string wanted = unit.fileText(rig.k70);
     rig.faults.FailCall(k);
     for (const std::string& line : LinesOf(unit.write(rig.k70))) {
       const auto& known = GetParam().writeFailures;
@@ -178,6 +209,7 @@ TEST_P(UnitDrill, EachCallOfAWriteThatFailsIsALineAndASecondWriteMendsIt) {
                               [&](const auto& opening) { return line.starts_with(opening); }))
           << "call " << k << ": \"" << line << '"';
     }
+    EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
     EXPECT_EQ(unit.write(rig.k70), "") << "call " << k;
     EXPECT_EQ(unit.read(rig.k70), "") << "call " << k;
     EXPECT_EQ(unit.fileText(rig.k70), wanted) << "call " << k;
@@ -186,7 +218,7 @@ TEST_P(UnitDrill, EachCallOfAWriteThatFailsIsALineAndASecondWriteMendsIt) {
 
 TEST_P(UnitDrill, GoesToAFileAndBackWithoutTheController) {
   const UnitOperations& unit = GetParam().unit;
-  for (const auto writing : {InOwnWriting, InOtherWriting}) {
+  for (const Hand hand : {Hand::Own, Hand::Other}) {
     Rig source(GetParam().bench);
     source.ConnectAndReceive();
     MakeAllEdits(source.k70);
@@ -196,8 +228,9 @@ TEST_P(UnitDrill, GoesToAFileAndBackWithoutTheController) {
 
     Rig target(GetParam().bench);
     target.ConnectAndReceive();
+    ASSERT_FALSE(document.Children().at(0).Children().empty());
     for (const DomNode& element : document.Children().at(0).Children()) {
-      EXPECT_EQ(unit.readElement(target.k70, writing(element)), "");
+      EXPECT_EQ(unit.readElement(target.k70, Written(element, hand)), "");
     }
     EXPECT_EQ(unit.fileText(target.k70), text);
     EXPECT_EQ(target.journal.CallCount(), 0U);
@@ -205,12 +238,11 @@ TEST_P(UnitDrill, GoesToAFileAndBackWithoutTheController) {
 }
 
 TEST_P(UnitDrill, ElementsThatAreRefusedGiveTheirLineAndChangeNothing) {
+  RoundRig rig(GetParam().bench, GetParam().unit);
   for (const RefusedElement& refused : GetParam().refused) {
-    Rig rig(GetParam().bench);
-    rig.ConnectAndReceive();
-    const std::string before = GetParam().unit.fileText(rig.k70);
+    rig.BeginRound();
     EXPECT_EQ(GetParam().unit.readElement(rig.k70, refused.xml), refused.line) << refused.xml;
-    EXPECT_EQ(GetParam().unit.fileText(rig.k70), before) << refused.xml;
+    EXPECT_EQ(GetParam().unit.fileText(rig.k70), rig.TextAtFirst()) << refused.xml;
   }
 }
 

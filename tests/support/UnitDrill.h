@@ -71,6 +71,7 @@ struct UnitDrillData {
   std::vector<UnitEdit> edits;
   std::vector<std::string> alwaysWritten;
   std::string readFailure;
+  std::string readFailed = "LIB:80004005)";  // what follows it
   std::string modifyFailure;
   std::vector<std::string> writeFailures;
   std::vector<RefusedElement> refused;
@@ -84,8 +85,10 @@ inline std::string DrillName(const testing::TestParamInfo<UnitDrillData>& info) 
   return info.param.name;
 }
 
+// No table may be empty, and reading and writing must each call the controller.
 class UnitDrill : public testing::TestWithParam<UnitDrillData> {
  protected:
+  void SetUp() override;
   static void MakeAllEdits(clsK70& k70);
   static std::vector<std::string> LinesOf(const std::string& report);
 };
