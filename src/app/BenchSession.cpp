@@ -6,13 +6,14 @@
 #include "common/Failure.h"
 #include "controller/simulator/BenchFile.h"
 #include "controller/simulator/Benches.h"
+#include "controller/simulator/RealClock.h"
 
 namespace mortane {
 
 BenchSession::BenchSession(const std::string& path)
     : path_(path),
-      library_(path.empty() ? controller::benches::Named("Quay") : controller::ReadBenchFile(path)),
-      timed_(library_, [this] { AdvanceClock(); }) {
+      library_(path.empty() ? controller::benches::Named("Quay") : controller::ReadBenchFile(path),
+               std::make_shared<controller::RealClock>()) {
   if (!path_.empty()) {
     library_.OnChange([this](const controller::Bench&) { changed_ = true; });
   }
@@ -20,13 +21,6 @@ BenchSession::BenchSession(const std::string& path)
 
 BenchSession::~BenchSession() {
   Keep();
-}
-
-void BenchSession::AdvanceClock() {
-  using std::chrono::milliseconds;
-  const auto passed = std::chrono::steady_clock::now() - started_;
-  const std::int64_t now = std::chrono::duration_cast<milliseconds>(passed).count();
-  library_.clock().Advance(now - library_.clock().Now());
 }
 
 void BenchSession::Keep() {

@@ -1,10 +1,8 @@
 // The simulated instruments that the program works on.
 #pragma once
 
-#include <chrono>
 #include <string>
 
-#include "controller/Latency.h"
 #include "controller/simulator/SimulatedLibrary.h"
 
 namespace mortane {
@@ -21,19 +19,15 @@ class BenchSession {
   BenchSession& operator=(const BenchSession&) = delete;
 
   // Drives move in real time.
-  controller::ControllerLibrary& Library() { return timed_; }
+  controller::ControllerLibrary& Library() { return library_; }
 
   // Writes what changed since the last time. A file that cannot be written keeps its old content;
   // one line on standard error tells it.
   void Keep();
 
  private:
-  void AdvanceClock();
-
   std::string path_;
   controller::SimulatedLibrary library_;
-  controller::LatencyLibrary timed_;
-  std::chrono::steady_clock::time_point started_ = std::chrono::steady_clock::now();
   bool changed_ = false;
 };
 

@@ -51,7 +51,7 @@ TEST_F(BenchFile, IsTheSameForTheSameBench) {
 }
 
 TEST_F(BenchFile, KeepsValuesOutOfRangeAndDifficultTexts) {
-  Bench bench{{benches::InstrumentNamed("Attic")}, {true, false, false, -7, 5, 3}};
+  Bench bench{{benches::InstrumentNamed("Attic")}, {true, false, false, -7, 5, 3, false}};
   Instrument& instrument = bench.instruments.front();
   instrument.name = " \"<&>'\t\n ";
   instrument.available = -3;
@@ -59,6 +59,13 @@ TEST_F(BenchFile, KeepsValuesOutOfRangeAndDifficultTexts) {
   instrument.Accessory(4).value = 0.1 + 0.2;
   instrument.Accessory(10).value = -1e300;
   instrument.zDrive.position = -2147483647 - 1;
+  instrument.zDrive.speed = 1;
+  instrument.zDrive.lowestPosition = -500000;
+  instrument.zDrive.highestPosition = 0;
+  instrument.xyDrive.lowestX = instrument.xyDrive.lowestY = -1;
+  instrument.xyDrive.highestX = 2147483647;
+  instrument.xyDrive.highestY = 5;
+  instrument.xyDrive.speed = 100;
   instrument.xyDrive.positionY = 2147483647;
   instrument.nosepiece.push_back({0, -1});
   instrument.handSwitches[14] = "\xC3\xA9";
@@ -129,6 +136,10 @@ constexpr BadRow kBad[] = {
      "<Unit>: attribute \"Present\" is \"1.0\", which is no whole number of 32 bits."},
     {"<I><Unit At=\"2\" Present=\"2147483648\"/></I>",
      "<Unit>: attribute \"Present\" is \"2147483648\", which is no whole number of 32 bits."},
+    {"<I><ZDrive Speed=\"0\"/></I>", "<ZDrive>: the speed 0 is below 1."},
+    {"<I><XYDrive Speed=\"-20\"/></I>", "<XYDrive>: the speed -20 is below 1."},
+    {"<I><ZDrive LowestPosition=\"\"/></I>",
+     "<ZDrive>: attribute \"LowestPosition\" is \"\", which is no whole number of 32 bits."},
     {"<I><XYDrive HandleMode=\"32768\"/></I>",
      "<XYDrive>: attribute \"HandleMode\" is \"32768\", which is no whole number of 16 bits."},
     {"<I><Unit At=\"2\"><Board/></Unit></I>", "<Unit>: unknown element <Board>."},

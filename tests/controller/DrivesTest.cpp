@@ -1,21 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <optional>
 
-#include "controller/SimulatedRig.h"
+#include "controller/DriveRig.h"
+#include "controller/simulator/RealClock.h"
 
 namespace mortane::controller::test {
 namespace {
 
 constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
-
-struct DriveRig : SimulatedRig {
-  DriveRig() : SimulatedRig("Harbour") {}
-  DeviceEntry Entry() const { return root.DeviceList().Item(0); }
-  ZDriveDevice Z() const { return root.ZDriveDevice(); }
-  XYDriveDevice XY() const { return root.XYDriveDevice(); }
-};
 
 TEST(Drives, ArriveAtOnceUnlessToldToReturn) {
   DriveRig rig;
@@ -104,47 +99,128 @@ TEST(Drives, CrossTheWholeRangeWithoutOverflow) {
   EXPECT_EQ(rig.Z().Position().Number(), kLargest);
 }
 
-TEST(ZDrive, KeepsItsSettings) {
+TEST(Drives, MoveWithTheSpeedOfTheirData) {
   DriveRig rig;
-  const ZDriveDevice drive = rig.Z();
-  drive.PutKnobAuto(1);
-  drive.PutFocusCompensation(2);
-  drive.PutLowerLimit(1);
-  drive.PutMoveProfile(9);
-  drive.PutMoveOption(4);
-  EXPECT_EQ(drive.KnobAuto(), 1);
-  EXPECT_EQ(drive.FocusCompensation(), 2);
-  EXPECT_EQ(drive.LowerLimit(), 1);
-  EXPECT_EQ(drive.UpperLimit(), 0);
-  EXPECT_EQ(drive.KnobSensitivity(), 1);
-  EXPECT_EQ(rig.instrument().zDrive, (ZDriveData{0, 1, 1, 9, 4, 2, 1, 0}));
+  rig.instrument().zDrive.speed = 7;
+  rig.instrument().xyDrive.speed = 1000;
+  rig.Entry().PutAsyncMode(true);
+  rig.Z().PutPosition(-70);
+  rig.XY().PutPositionX(2500);
+  rig.XY().PutPositionY(100);
+  rig.library.clock().Advance(1);
+  EXPECT_EQ(rig.Z().Position().Number(), -7);
+  EXPECT_EQ(rig.XY().PositionX().Number(), 1000);
+  EXPECT_EQ(rig.XY().PositionY().Number(), 100);
+  rig.Entry().WaitMove();
+  EXPECT_EQ(rig.library.clock().Now(), 10);
 }
 
-TEST(XYDrive, KeepsItsSettings) {
-  DriveRig rig;
-  const XYDriveDevice drive = rig.XY();
-  drive.PutKnobAuto(1);
-  drive.PutFocusCompensation(2);
-  drive.PutMoveProfile(9);
-  drive.PutHandleMode(1);
-  EXPECT_EQ(drive.KnobAuto(), 1);
-  EXPECT_EQ(drive.FocusCompensation(), 2);
-  EXPECT_EQ(drive.HandleMode(), 1);
-  EXPECT_EQ(drive.KnobSensitivity(), 1);
-  EXPECT_EQ(rig.instrument().xyDrive, (XYDriveData{0, 0, 1, 1, 9, 2, 1}));
+// The ends of the travel that a row has, and a target.
+struct TravelRow {
+  std::optional<std::int32_t> lowest;
+  std::optional<std::int32_t> highest;
+  std::int32_t target;
+  bool reached;
+};
+
+constexpr TravelRow kTravels[] = {
+    {{}, {}, kLargest, true},   {{}, {}, kSmallest, true},    {-300, 200, -300, true},
+    {-300, 200, 200, true},     {-300, 200, -301, false},     {-300, 200, 201, false},
+    {-300, {}, kLargest, true}, {-300, {}, kSmallest, false}, {{}, 200, 201, false},
+    {{}, 200, kSmallest, true}, {-300, 200, kLargest, false},
+};
+
+TEST(Drives, RefuseATargetOutsideTheirTravelAndStay) {
+  for (const TravelRow& row : kTravels) {
+    DriveRig rig;
+    ZDriveData& z = rig.instrument().zDrive;
+    z.lowestPosition = row.lowest;
+    z.highestPosition = row.highest;
+    XYDriveData& xy = rig.instrument().xyDrive;
+    xy.lowestX = xy.lowestY = row.lowest;
+    xy.highestX = xy.highestY = row.highest;
+    const auto move = [&] {
+      rig.Z().PutPosition(row.target);
+      rig.XY().PutPositionX(row.target);
+      rig.XY().PutPositionY(row.target);
+    };
+    if (row.reached) {
+      EXPECT_NO_THROW(move()) << row.target;
+    } else {
+      EXPECT_THROW(rig.Z().PutPosition(row.target), ControllerError) << row.target;
+      EXPECT_THROW(rig.XY().PutPositionX(row.target), ControllerError) << row.target;
+      EXPECT_THROW(rig.XY().PutPositionY(row.target), ControllerError) << row.target;
+    }
+    const std::int32_t expected = row.reached ? row.target : 0;
+    EXPECT_EQ(rig.Z().Position().Number(), expected);
+    EXPECT_EQ(rig.XY().PositionX().Number(), expected);
+    EXPECT_EQ(rig.XY().PositionY().Number(), expected);
+  }
 }
 
-TEST(Drives, HaveMembersThatCanOnlyBeReadOrOnlyWritten) {
+TEST(Drives, HaveATravelForEachAxis) {
   DriveRig rig;
-  const ObjectRef z = rig.Z().Object();
-  const ObjectRef xy = rig.XY().Object();
-  EXPECT_THROW(z->Put("KnobSensitivity", 2), ControllerError);
-  EXPECT_THROW(z->Put("UpperLimit", 1), ControllerError);
-  EXPECT_THROW(z->Get("MoveProfile"), ControllerError);
-  EXPECT_THROW(z->Get("MoveOption"), ControllerError);
-  EXPECT_THROW(xy->Put("KnobSensitivity", 2), ControllerError);
-  EXPECT_THROW(xy->Get("MoveProfile"), ControllerError);
-  EXPECT_THROW(xy->Put("MoveOption", 0), ControllerError);
+  rig.instrument().xyDrive.highestX = 10;
+  rig.instrument().xyDrive.lowestY = -10;
+  EXPECT_THROW(rig.XY().PutPositionX(11), ControllerError);
+  EXPECT_NO_THROW(rig.XY().PutPositionX(-11));
+  EXPECT_THROW(rig.XY().PutPositionY(-11), ControllerError);
+  EXPECT_NO_THROW(rig.XY().PutPositionY(11));
+  EXPECT_NO_THROW(rig.Z().PutPosition(11));
+}
+
+TEST(Drives, BlockAgainAfterANewConnection) {
+  DriveRig rig;
+  rig.Entry().PutAsyncMode(true);
+  rig.Entry().Disconnect();
+  rig.Entry().Connect();
+  rig.Z().PutPosition(1000);
+  EXPECT_EQ(rig.Z().Position().Number(), 1000);
+  rig.Entry().PutAsyncMode(true);
+  rig.Entry().Connect();
+  rig.Z().PutPosition(0);
+  EXPECT_EQ(rig.Z().Position().Number(), 0);
+}
+
+// Every wait is written down.
+struct WatchedClock : Clock {
+  std::int64_t Now() const override { return now; }
+  void WaitUntil(std::int64_t time) override {
+    waits.push_back(time);
+    now = time;
+  }
+  std::int64_t now = 1000;
+  std::vector<std::int64_t> waits;
+};
+
+TEST(Drives, GoByTheClockThatTheLibraryIsGiven) {
+  const auto clock = std::make_shared<WatchedClock>();
+  SimulatedLibrary library(benches::Named("Harbour"), clock);
+  const Microscope root = ConnectedRoot(library, 1);
+  root.DeviceList().Item(1).PutAsyncMode(true);
+  root.ZDriveDevice().PutPosition(2000);
+  clock->now += 40;
+  EXPECT_EQ(root.ZDriveDevice().Position().Number(), 800);
+  root.DeviceList().Item(1).WaitMove();
+  EXPECT_EQ(clock->waits, std::vector<std::int64_t>{1100});
+  EXPECT_EQ(root.ZDriveDevice().Position().Number(), 2000);
+}
+
+TEST(SimulatedClock, NeverGoesBack) {
+  SimulatedClock clock;
+  clock.Advance(50);
+  clock.WaitUntil(20);
+  EXPECT_EQ(clock.Now(), 50);
+  clock.WaitUntil(70);
+  EXPECT_EQ(clock.Now(), 70);
+}
+
+TEST(RealClock, ComesBackFromAWaitWhenItsTimeHasCome) {
+  RealClock clock;
+  const std::int64_t before = clock.Now();
+  clock.WaitUntil(before);
+  clock.WaitUntil(before + 3);
+  EXPECT_GE(clock.Now(), before + 3);
 }
 
 }  // namespace

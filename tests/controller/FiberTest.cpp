@@ -34,6 +34,19 @@ TEST(Fiber, StaysClosedWhenItsDeviceIsAway) {
   EXPECT_FALSE(server.IsOpen());
 }
 
+TEST(Fiber, MayReturnFromOpeningWithoutItsDevice) {
+  SimulatedLibrary library(benches::Named("Harbour"));
+  library.bench().fiber = kClosed;
+  library.bench().fiber.opens = false;
+  library.bench().fiber.openRaises = false;
+  const FiberServer server(library.Create("FiberServer"));
+  const FiberRemote remote(library.Create("FiberRemote"));
+  EXPECT_NO_THROW(server.Open(1000));
+  EXPECT_FALSE(server.IsOpen());
+  EXPECT_EQ(server.Status(), 4);
+  EXPECT_THROW(remote.LED(), ControllerError);
+}
+
 TEST(Fiber, AnswersAndKeepsAnyValueWhileItIsOpen) {
   SimulatedLibrary library(benches::Named("Quay"));
   const FiberRemote remote(library.Create("FiberRemote"));

@@ -5,13 +5,11 @@
 
 namespace mortane::controller {
 
-// 1 micrometre per millisecond, in steps of 0.05 micrometres.
-inline constexpr std::int64_t kStepsPerMillisecond = 20;
-
 class AxisMotion {
  public:
   bool IsMoving() const { return moving_; }
-  void Start(std::int32_t from, std::int32_t target, std::int64_t nowMs);
+  // The speed is 1 or more.
+  void Start(std::int32_t from, std::int32_t target, std::int64_t stepsPerMs, std::int64_t nowMs);
   void Stop() { moving_ = false; }
 
   std::int32_t Target() const { return target_; }
@@ -22,6 +20,7 @@ class AxisMotion {
   bool moving_ = false;
   std::int32_t from_ = 0;
   std::int32_t target_ = 0;
+  std::int64_t stepsPerMs_ = 1;
   std::int64_t startMs_ = 0;
 };
 

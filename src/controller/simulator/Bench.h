@@ -53,6 +53,8 @@ struct FiberData {
   std::int32_t status = 0;
   std::int16_t switchEnable = 0;
   std::int16_t led = 0;
+  // An Open that finds no device raises a failure; otherwise it returns and IsOpen stays false.
+  bool openRaises = true;
 
   bool operator==(const FiberData&) const = default;
 };

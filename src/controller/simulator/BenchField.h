@@ -13,7 +13,8 @@ template <typename Record>
 struct BenchField {
   std::string_view attribute;
   std::variant<std::int16_t Record::*, std::int32_t Record::*, bool Record::*, double Record::*,
-               std::string Record::*, std::optional<std::string> Record::*>
+               std::string Record::*, std::optional<std::int32_t> Record::*,
+               std::optional<std::string> Record::*>
       member;
 };
 

@@ -13,6 +13,7 @@ inline constexpr std::array kBenchFields<FiberData>{
     BenchField<FiberData>{"Installed", &FiberData::installed},
     BenchField<FiberData>{"Open", &FiberData::open},
     BenchField<FiberData>{"Opens", &FiberData::opens},
+    BenchField<FiberData>{"OpenRaises", &FiberData::openRaises},
     BenchField<FiberData>{"Status", &FiberData::status},
     BenchField<FiberData>{"SwitchEnable", &FiberData::switchEnable},
     BenchField<FiberData>{"LED", &FiberData::led},
@@ -73,6 +74,9 @@ inline constexpr std::array kBenchFields<ZDriveData>{
     BenchField<ZDriveData>{"FocusCompensation", &ZDriveData::focusCompensation},
     BenchField<ZDriveData>{"LowerLimit", &ZDriveData::lowerLimit},
     BenchField<ZDriveData>{"UpperLimit", &ZDriveData::upperLimit},
+    BenchField<ZDriveData>{"Speed", &ZDriveData::speed},
+    BenchField<ZDriveData>{"LowestPosition", &ZDriveData::lowestPosition},
+    BenchField<ZDriveData>{"HighestPosition", &ZDriveData::highestPosition},
 };
 
 template <>
@@ -84,6 +88,11 @@ inline constexpr std::array kBenchFields<XYDriveData>{
     BenchField<XYDriveData>{"MoveProfile", &XYDriveData::moveProfile},
     BenchField<XYDriveData>{"FocusCompensation", &XYDriveData::focusCompensation},
     BenchField<XYDriveData>{"HandleMode", &XYDriveData::handleMode},
+    BenchField<XYDriveData>{"Speed", &XYDriveData::speed},
+    BenchField<XYDriveData>{"LowestX", &XYDriveData::lowestX},
+    BenchField<XYDriveData>{"HighestX", &XYDriveData::highestX},
+    BenchField<XYDriveData>{"LowestY", &XYDriveData::lowestY},
+    BenchField<XYDriveData>{"HighestY", &XYDriveData::highestY},
 };
 
 template <>

@@ -27,6 +27,11 @@ bool ParseWhole(const std::string& text, Number& number) {
   return parsed.ec == std::errc() && parsed.ptr == end;
 }
 
+// A drive that does not move would never end a move.
+void CheckSpeed(const DomNode& node, std::int32_t speed) {
+  if (speed < 1) RaiseAt(node, "the speed " + std::to_string(speed) + " is below 1");
+}
+
 }  // namespace
 
 void RaiseAt(const DomNode& node, const std::string& problem) {
@@ -58,6 +63,11 @@ void ReadText(const DomNode& /*node*/, const DomAttribute& attribute, std::strin
   value = attribute.value;
 }
 
+void ReadText(const DomNode& node, const DomAttribute& attribute,
+              std::optional<std::int32_t>& value) {
+  ReadText(node, attribute, value.emplace());
+}
+
 void ReadText(const DomNode& /*node*/, const DomAttribute& attribute,
               std::optional<std::string>& value) {
   value = attribute.value;
@@ -80,6 +90,10 @@ std::string TextOf(double value) {
 
 std::string TextOf(const std::string& value) {
   return value;
+}
+
+std::string TextOf(const std::optional<std::int32_t>& value) {
+  return value ? TextOf(*value) : std::string();
 }
 
 std::string TextOf(const std::optional<std::string>& value) {
@@ -109,6 +123,14 @@ void CheckRecord(const DomNode& node, const CondenserData& condenser) {
     RaiseAt(node, "attribute \"Suits\" is \"" + condenser.suits +
                       "\", which is no list of up to ten \"0\" and \"1\"");
   }
+}
+
+void CheckRecord(const DomNode& node, const ZDriveData& drive) {
+  CheckSpeed(node, drive.speed);
+}
+
+void CheckRecord(const DomNode& node, const XYDriveData& drive) {
+  CheckSpeed(node, drive.speed);
 }
 
 std::size_t PlaceOf(const DomNode& node, std::span<const std::string_view> keys) {

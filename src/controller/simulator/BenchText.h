@@ -27,12 +27,15 @@ void ReadText(const DomNode& node, const DomAttribute& attribute, bool& value);
 void ReadText(const DomNode& node, const DomAttribute& attribute, double& value);
 void ReadText(const DomNode& node, const DomAttribute& attribute, std::string& value);
 void ReadText(const DomNode& node, const DomAttribute& attribute,
+              std::optional<std::int32_t>& value);
+void ReadText(const DomNode& node, const DomAttribute& attribute,
               std::optional<std::string>& value);
 
 std::string TextOf(std::int32_t value);
 std::string TextOf(bool value);
 std::string TextOf(double value);
 std::string TextOf(const std::string& value);
+std::string TextOf(const std::optional<std::int32_t>& value);
 std::string TextOf(const std::optional<std::string>& value);
 
 // The elements that were read already within one owner.
@@ -45,6 +48,8 @@ void CheckNoChildren(const DomNode& node);
 // Raises a failure when the fields do not fit together or not their device.
 void CheckRecord(const DomNode& node, const Instrument& instrument);
 void CheckRecord(const DomNode& node, const CondenserData& condenser);
+void CheckRecord(const DomNode& node, const ZDriveData& drive);
+void CheckRecord(const DomNode& node, const XYDriveData& drive);
 template <typename Record>
 void CheckRecord(const DomNode& /*node*/, const Record& /*record*/) {}
 

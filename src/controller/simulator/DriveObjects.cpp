@@ -1,6 +1,6 @@
 #include "controller/simulator/DriveObjects.h"
 
-#include <algorithm>
+#include <optional>
 #include <string_view>
 
 #include "controller/simulator/AccessoryObjects.h"
@@ -8,7 +8,8 @@
 namespace mortane::controller {
 namespace {
 
-enum class Access { Read, Write, Both };
+// Orders are written only, and only where the drive can be commanded.
+enum class Access { Read, Order, Both };
 
 template <typename Drive>
 struct FieldRow {
@@ -28,8 +29,8 @@ void Store(const DeviceLink& link, std::int16_t& field, const Value& value) {
 constexpr std::array kZFields{
     FieldRow<ZDriveData>{"KnobSensitivity", &ZDriveData::knobSensitivity, Access::Read},
     FieldRow<ZDriveData>{"KnobAuto", &ZDriveData::knobAuto, Access::Both},
-    FieldRow<ZDriveData>{"MoveProfile", &ZDriveData::moveProfile, Access::Write},
-    FieldRow<ZDriveData>{"MoveOption", &ZDriveData::moveOption, Access::Write},
+    FieldRow<ZDriveData>{"MoveProfile", &ZDriveData::moveProfile, Access::Order},
+    FieldRow<ZDriveData>{"MoveOption", &ZDriveData::moveOption, Access::Order},
     FieldRow<ZDriveData>{"FocusCompensation", &ZDriveData::focusCompensation, Access::Both},
     FieldRow<ZDriveData>{"LowerLimit", &ZDriveData::lowerLimit, Access::Both},
     FieldRow<ZDriveData>{"UpperLimit", &ZDriveData::upperLimit, Access::Read},
@@ -38,22 +39,24 @@ constexpr std::array kZFields{
 constexpr std::array kXYFields{
     FieldRow<XYDriveData>{"KnobSensitivity", &XYDriveData::knobSensitivity, Access::Read},
     FieldRow<XYDriveData>{"KnobAuto", &XYDriveData::knobAuto, Access::Both},
-    FieldRow<XYDriveData>{"MoveProfile", &XYDriveData::moveProfile, Access::Write},
+    FieldRow<XYDriveData>{"MoveProfile", &XYDriveData::moveProfile, Access::Order},
     FieldRow<XYDriveData>{"FocusCompensation", &XYDriveData::focusCompensation, Access::Both},
 };
 
 template <typename Drive, typename Number>
 void AddField(MemberTable<DeviceLink>& table, int number, Drive Instrument::*drive,
               std::string_view member, Number Drive::*field, Access access) {
-  if (access != Access::Write) {
+  if (access != Access::Order) {
     table.OnGet(member, 0, [number, drive, field](const DeviceLink& link, Args) -> Value {
       return link.Fitted(number).*drive.*field;
     });
   }
   if (access != Access::Read) {
     table.OnPut(member, 0,
-                [number, drive, field](const DeviceLink& link, const Value& value, Args) {
-                  Store(link, link.Fitted(number).*drive.*field, value);
+                [number, drive, field, access](const DeviceLink& link, const Value& value, Args) {
+                  Instrument& device =
+                      access == Access::Order ? Commanded(link, number) : link.Fitted(number);
+                  Store(link, device.*drive.*field, value);
                 });
   }
 }
@@ -66,29 +69,44 @@ void AddFields(MemberTable<DeviceLink>& table, int number, Drive Instrument::*dr
   }
 }
 
-std::int32_t& PositionField(Instrument& device, Axis axis) {
-  if (axis == Axis::Z) return device.zDrive.position;
-  return axis == Axis::X ? device.xyDrive.positionX : device.xyDrive.positionY;
+// What an axis needs of its drive.
+struct AxisField {
+  std::int32_t& position;
+  std::optional<std::int32_t> lowest;
+  std::optional<std::int32_t> highest;
+  std::int32_t speed;
+};
+
+AxisField FieldOf(Instrument& device, Axis axis) {
+  ZDriveData& z = device.zDrive;
+  XYDriveData& xy = device.xyDrive;
+  if (axis == Axis::Z) return {z.position, z.lowestPosition, z.highestPosition, z.speed};
+  if (axis == Axis::X) return {xy.positionX, xy.lowestX, xy.highestX, xy.speed};
+  return {xy.positionY, xy.lowestY, xy.highestY, xy.speed};
 }
 
 // The bench holds where an axis stands; it is brought up to date once a move has ended.
 void Arrive(const DeviceLink& link, Axis axis) {
   AxisMotion& motion = link.Session().Motion(axis);
   motion.Stop();
-  link.Assign(PositionField(link.Device(), axis), motion.Target());
+  link.Assign(FieldOf(link.Device(), axis).position, motion.Target());
 }
 
 std::int32_t CurrentPosition(const DeviceLink& link, Axis axis) {
   AxisMotion& motion = link.Session().Motion(axis);
-  const std::int64_t now = link.State().clock.Now();
+  const std::int64_t now = link.State().clock->Now();
   if (motion.IsMoving() && now < motion.EndMs()) return motion.PositionAt(now);
   if (motion.IsMoving()) Arrive(link, axis);
-  return PositionField(link.Device(), axis);
+  return FieldOf(link.Device(), axis).position;
 }
 
 void MoveTo(const DeviceLink& link, Axis axis, std::int32_t target) {
+  const AxisField field = FieldOf(link.Device(), axis);
+  if (target < field.lowest.value_or(target) || target > field.highest.value_or(target)) {
+    RaiseSimulated("The drive does not travel to " + std::to_string(target) + ".");
+  }
   AxisMotion& motion = link.Session().Motion(axis);
-  motion.Start(CurrentPosition(link, axis), target, link.State().clock.Now());
+  motion.Start(CurrentPosition(link, axis), target, field.speed, link.State().clock->Now());
   if (!link.Session().asynchronous) Arrive(link, axis);
 }
 
@@ -137,11 +155,10 @@ ObjectRef MakeXYDrive(const DeviceLink& link) {
 }
 
 void FinishMoves(const DeviceLink& link) {
-  SimulatedClock& clock = link.State().clock;
   for (const Axis axis : {Axis::Z, Axis::X, Axis::Y}) {
     const AxisMotion& motion = link.Session().Motion(axis);
     if (!motion.IsMoving()) continue;
-    clock.Advance(std::max<std::int64_t>(motion.EndMs() - clock.Now(), 0));
+    link.State().clock->WaitUntil(motion.EndMs());
     Arrive(link, axis);
   }
 }

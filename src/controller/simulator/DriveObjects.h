@@ -8,7 +8,7 @@ namespace mortane::controller {
 ObjectRef MakeZDrive(const DeviceLink& link);
 ObjectRef MakeXYDrive(const DeviceLink& link);
 
-// Lets every move of the device arrive, the clock going on to the end of the last one.
+// Waits on the clock until every move of the device has arrived.
 void FinishMoves(const DeviceLink& link);
 
 }  // namespace mortane::controller

@@ -42,8 +42,10 @@ ObjectRef MakeFiberServer(const SimulatorRef& state) {
                   [](const SimulatorRef& shared, Args args) -> Value {
                     LongArgument(args[0]);
                     FiberData& fiber = Installed(shared);
-                    if (!fiber.opens) RaiseSimulated("The fiber device does not answer.");
-                    fiber.open = true;
+                    if (!fiber.opens && fiber.openRaises) {
+                      RaiseSimulated("The fiber device does not answer.");
+                    }
+                    fiber.open = fiber.opens;
                     return {};
                   })
           .OnCall("Close", 0,

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,8 +60,12 @@ struct TurretPlace {
 
 using TurretPlaces = std::vector<TurretPlace>;
 
-// Positions in steps of 0.05 micrometres. Knob: 1 automatic, 0 manual; 1 coarse to 3 fine.
-// Compensation: 1 none, 2 absolute, 3 relative. Limits: 0 is 15 mm, 1 is 25 mm.
+// 1 micrometre per millisecond, which is what programs suppose when they wait for a move.
+inline constexpr std::int32_t kUsualSpeed = 20;
+
+// Positions in steps of 0.05 micrometres, the speed in steps per millisecond. Knob: 1 automatic, 0
+// manual; 1 coarse to 3 fine. Compensation: 1 none, 2 absolute, 3 relative. Limits: 0 is -15 mm, 1
+// is -25 mm. A target outside the travel, lowestPosition to highestPosition, is refused.
 struct ZDriveData {
   std::int32_t position = 0;
   std::int32_t knobAuto = 0;
@@ -70,6 +75,9 @@ struct ZDriveData {
   std::int32_t focusCompensation = 1;
   std::int32_t lowerLimit = 0;
   std::int32_t upperLimit = 0;
+  std::int32_t speed = kUsualSpeed;
+  std::optional<std::int32_t> lowestPosition;
+  std::optional<std::int32_t> highestPosition;
 
   bool operator==(const ZDriveData&) const = default;
 };
@@ -83,6 +91,11 @@ struct XYDriveData {
   std::int32_t moveProfile = 0;
   std::int32_t focusCompensation = 1;
   std::int16_t handleMode = 0;
+  std::int32_t speed = kUsualSpeed;
+  std::optional<std::int32_t> lowestX;
+  std::optional<std::int32_t> highestX;
+  std::optional<std::int32_t> lowestY;
+  std::optional<std::int32_t> highestY;
 
   bool operator==(const XYDriveData&) const = default;
 };

@@ -37,6 +37,7 @@ struct DeviceEntryLink {
 Value ConnectEntry(const DeviceEntryLink& entry, Args) {
   if (entry.device.Device().available == 0) RaiseSimulated("The device does not answer.");
   entry.device.Session().connected = true;
+  entry.device.Session().asynchronous = false;
   return {};
 }
 

@@ -1,12 +1,21 @@
 #include "controller/simulator/SimulatedLibrary.h"
 
+#include <cassert>
+
 #include "controller/simulator/FiberObjects.h"
 #include "controller/simulator/RootObject.h"
 
 namespace mortane::controller {
 
-SimulatedLibrary::SimulatedLibrary(Bench bench) : state_(std::make_shared<SimulatorState>()) {
+SimulatedLibrary::SimulatedLibrary(Bench bench, std::shared_ptr<Clock> clock)
+    : state_(std::make_shared<SimulatorState>()) {
   state_->bench = std::move(bench);
+  state_->clock = std::move(clock);
+}
+
+SimulatedLibrary::SimulatedLibrary(Bench bench)
+    : SimulatedLibrary(std::move(bench), std::make_shared<SimulatedClock>()) {
+  ownClock_ = std::static_pointer_cast<SimulatedClock>(state_->clock);
 }
 
 SimulatedLibrary::~SimulatedLibrary() = default;
@@ -23,7 +32,8 @@ Bench& SimulatedLibrary::bench() {
 }
 
 SimulatedClock& SimulatedLibrary::clock() {
-  return state_->clock;
+  assert(ownClock_ != nullptr);
+  return *ownClock_;
 }
 
 int SimulatedLibrary::CreatedRoots() const {

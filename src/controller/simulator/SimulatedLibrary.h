@@ -2,10 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "controller/ControllerObject.h"
 #include "controller/simulator/Bench.h"
-#include "controller/simulator/SimulatedClock.h"
+#include "controller/simulator/Clock.h"
 
 namespace mortane::controller {
 
@@ -16,7 +17,9 @@ struct SimulatorState;
 // call but those of the device list.
 class SimulatedLibrary : public ControllerLibrary {
  public:
+  // On a SimulatedClock of its own.
   explicit SimulatedLibrary(Bench bench);
+  SimulatedLibrary(Bench bench, std::shared_ptr<Clock> clock);
   ~SimulatedLibrary() override;
   SimulatedLibrary(const SimulatedLibrary&) = delete;
   SimulatedLibrary& operator=(const SimulatedLibrary&) = delete;
@@ -25,7 +28,7 @@ class SimulatedLibrary : public ControllerLibrary {
 
   // The live state: reads answer from it, writes go to it, and it may be changed at any time.
   Bench& bench();
-  // Drives move with this clock when they were told to return at once.
+  // The library's own clock. Drives move with it when they were told to return at once.
   SimulatedClock& clock();
 
   // Roots of the class "Microscope".
@@ -38,6 +41,7 @@ class SimulatedLibrary : public ControllerLibrary {
 
  private:
   std::shared_ptr<SimulatorState> state_;
+  std::shared_ptr<SimulatedClock> ownClock_;
 };
 
 }  // namespace mortane::controller

@@ -8,8 +8,8 @@
 
 #include "controller/simulator/AxisMotion.h"
 #include "controller/simulator/Bench.h"
+#include "controller/simulator/Clock.h"
 #include "controller/simulator/MemberObject.h"
-#include "controller/simulator/SimulatedClock.h"
 
 namespace mortane::controller {
 
@@ -26,7 +26,7 @@ struct DeviceSession {
 
 struct SimulatorState {
   Bench bench;
-  SimulatedClock clock;
+  std::shared_ptr<Clock> clock;
   std::map<int, DeviceSession> sessions;
   std::function<void(const Bench&)> onChange;
   int createdRoots = 0;
