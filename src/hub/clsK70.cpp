@@ -20,9 +20,10 @@ Instance& TheInstance() {
 
 }  // namespace
 
-clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts)
+clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts, NamedMutexMaker makeMutex)
     : ConnectedMicroscope(prompts),
       library_(library),
+      makeMutex_(std::move(makeMutex)),
       turrets_{
           {{accessory::kNosepiece,
             [](const controller::Microscope& mic) { return mic.NosepieceDevice().Positions(); },
@@ -130,7 +131,7 @@ void clsK70::FileItem(std::int16_t pos, std::int16_t value) {
 }
 
 bool clsK70::CreateConnectionName(const std::string& Name) {
-  if (!mutex_) mutex_ = std::make_unique<clsMutex>();
+  if (!mutex_) mutex_ = std::make_unique<clsMutex>(makeMutex_());
   mutex_->Delete();
   std::string name = "MortaneConnection-";
   for (const char c : Name) name += Hex(static_cast<unsigned char>(c));
@@ -141,8 +142,9 @@ void clsK70::DeleteConnectionName() {
   if (mutex_) mutex_->Delete();
 }
 
-clsK70& ProvideK70(controller::ControllerLibrary& library, Prompts& prompts) {
-  TheInstance() = {std::make_unique<clsK70>(library, prompts), false};
+clsK70& ProvideK70(controller::ControllerLibrary& library, Prompts& prompts,
+                   NamedMutexMaker makeMutex) {
+  TheInstance() = {std::make_unique<clsK70>(library, prompts, std::move(makeMutex)), false};
   return *TheInstance().k70;
 }
 

@@ -34,7 +34,8 @@ namespace mortane {
 class clsK70 : public ConnectedMicroscope {
  public:
   // Makes the units; the library is not asked for anything yet.
-  clsK70(controller::ControllerLibrary& library, Prompts& prompts);
+  clsK70(controller::ControllerLibrary& library, Prompts& prompts,
+         NamedMutexMaker makeMutex = MakeNamedMutex);
 
   // Creates the controller's root and lets it list its devices. A failure is shown, and every
   // later use of the controller fails in its own way.
@@ -131,6 +132,7 @@ class clsK70 : public ConnectedMicroscope {
 
   controller::ControllerLibrary& library_;
   std::array<std::int16_t, 10> fileItems_{};
+  NamedMutexMaker makeMutex_;
   std::unique_ptr<clsMutex> mutex_;
   TransferTable transfers_;
   FileTable fileTable_;
@@ -140,7 +142,8 @@ class clsK70 : public ConnectedMicroscope {
 // The one instance. ProvideK70 makes it without a call to the library, so that pages can be given
 // their units; the first GetK70 initialises it. ReleaseK70 destroys it: after the windows, whose
 // pages refer to it, and before the toolkit ends. Without an instance GetK70 raises error 91.
-clsK70& ProvideK70(controller::ControllerLibrary& library, Prompts& prompts);
+clsK70& ProvideK70(controller::ControllerLibrary& library, Prompts& prompts,
+                   NamedMutexMaker makeMutex = MakeNamedMutex);
 clsK70& GetK70();
 void ReleaseK70();
 

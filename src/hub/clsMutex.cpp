@@ -6,7 +6,7 @@ namespace mortane {
 
 bool clsMutex::Create(const std::string& name) {
   if (held_) RaiseOwnFailure(kAlreadyOpenError, "A device name is held already.");
-  const NamedMutex::Opened opened = handle_.Open(name);
+  const NamedMutex::Opened opened = handle_->Open(name);
   if (opened == NamedMutex::Opened::Failed) {
     RaiseOwnFailure(kBadFileNameError, "The system refuses the device name " + name + ".");
   }
@@ -15,16 +15,16 @@ bool clsMutex::Create(const std::string& name) {
 }
 
 void clsMutex::Delete() {
-  handle_.Close();
+  handle_->Close();
   held_ = false;
 }
 
 void clsMutex::LockMutex(int dwMilliseconds) {
-  handle_.Lock(dwMilliseconds);
+  handle_->Lock(dwMilliseconds);
 }
 
 void clsMutex::UnlockMutex() {
-  handle_.Unlock();
+  handle_->Unlock();
 }
 
 }  // namespace mortane

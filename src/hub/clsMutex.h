@@ -1,6 +1,7 @@
 // Exclusive use of a device among the processes of a machine.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "platform/NamedMutex.h"
@@ -11,6 +12,9 @@ namespace mortane {
 // and LockMutex and UnlockMutex serve those who want to wait for one another.
 class clsMutex {
  public:
+  explicit clsMutex(std::unique_ptr<NamedMutex> name = MakeNamedMutex())
+      : handle_(std::move(name)) {}
+
   // True for the first holder of the name, false when another holds it already. Raises error 55
   // while a name is held, error 52 when the system refuses the name.
   bool Create(const std::string& name);
@@ -19,7 +23,7 @@ class clsMutex {
   void UnlockMutex();
 
  private:
-  NamedMutex handle_;
+  std::unique_ptr<NamedMutex> handle_;
   bool held_ = false;
 };
 

@@ -1,4 +1,4 @@
-// What the operating system says of its first joystick.
+// What there is to know of the first joystick.
 #pragma once
 
 #include <cstdint>
@@ -8,6 +8,7 @@ namespace mortane {
 // Results of the joystick calls, with Windows' numbers; others may come as they are.
 inline constexpr std::int32_t kJoystickOk = 0;
 inline constexpr std::int32_t kJoystickNoDriver = 6;
+inline constexpr std::int32_t kJoystickBadParameters = 165;
 inline constexpr std::int32_t kJoystickUnplugged = 167;
 
 struct JoystickCapabilities {
@@ -15,9 +16,20 @@ struct JoystickCapabilities {
   std::int32_t buttonCount = 0;  // of use only when `result` is kJoystickOk
 };
 
-JoystickCapabilities ReadJoystickCapabilities();
+class Joystick {
+ public:
+  virtual ~Joystick() = default;
 
-// Asks for the axes and buttons once, to learn whether the joystick answers.
-std::int32_t ReadJoystickStatus();
+  virtual JoystickCapabilities ReadCapabilities() = 0;
+  // Asks for the axes and buttons once, to learn whether the joystick answers.
+  virtual std::int32_t ReadStatus() = 0;
+};
+
+// The operating system's.
+class SystemJoystick : public Joystick {
+ public:
+  JoystickCapabilities ReadCapabilities() override;
+  std::int32_t ReadStatus() override;
+};
 
 }  // namespace mortane

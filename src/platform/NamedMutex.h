@@ -1,6 +1,7 @@
 // A name that one holder on this machine can have at a time.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -20,12 +21,13 @@ class NamedMutex {
   static const std::string& Scope() { return scope_; }
 
   NamedMutex();
-  ~NamedMutex();  // closes
+  virtual ~NamedMutex();  // closes
   NamedMutex(const NamedMutex&) = delete;
   NamedMutex& operator=(const NamedMutex&) = delete;
 
-  // Closes first what is still open. After First and AlreadyExisted the object is open.
-  Opened Open(std::string_view name);
+  // Closes first what is still open. After First and AlreadyExisted the object is open. Virtual so
+  // that a test can put a system that refuses the name in its place.
+  virtual Opened Open(std::string_view name);
   void Close();
   bool IsOpen() const;
 
@@ -40,5 +42,11 @@ class NamedMutex {
   inline static std::string scope_;
   std::unique_ptr<Handle> handle_;
 };
+
+using NamedMutexMaker = std::function<std::unique_ptr<NamedMutex>()>;
+
+inline std::unique_ptr<NamedMutex> MakeNamedMutex() {
+  return std::make_unique<NamedMutex>();
+}
 
 }  // namespace mortane

@@ -1,6 +1,7 @@
 // The microscope object's own small members, its device name lock and its life.
 #include <gtest/gtest.h>
 
+#include "support/RefusedMutex.h"
 #include "support/Rig.h"
 
 namespace mortane::test {
@@ -139,6 +140,27 @@ TEST(DeviceLock, TheLoserHoldsItsHandleToo) {
   ASSERT_TRUE(winner.Create("MortaneConnection-393037"));
   EXPECT_FALSE(loser.Create("MortaneConnection-393037"));
   EXPECT_THROW(loser.Create("MortaneConnection-393037"), Failure);
+}
+
+TEST(DeviceLock, ANameThatTheSystemRefusesRaisesError52WithTheName) {
+  clsMutex mutex(MakeRefusedMutex());
+  for (int attempt = 0; attempt < 2; ++attempt) {  // nothing is held after the first one
+    try {
+      mutex.Create("MortaneConnection-31");
+      FAIL() << "nothing was raised";
+    } catch (const Failure& failure) {
+      EXPECT_EQ(failure.Source(), "Mortane");
+      EXPECT_EQ(failure.Number(), 52);
+      EXPECT_EQ(failure.Description(), "The system refuses the device name MortaneConnection-31.");
+    }
+  }
+}
+
+TEST(DeviceLock, ANameThatTheSystemRefusesGoesToTheCaller) {
+  RigLibrary library(benches::Named("Quay"));
+  clsK70 k70(library.library, library.prompts, MakeRefusedMutex);
+  EXPECT_THROW(k70.CreateConnectionName("1"), Failure);
+  EXPECT_NO_THROW(k70.DeleteConnectionName());
 }
 
 TEST(MicroscopeObject, DisconnectsInSilenceWhenItGoes) {

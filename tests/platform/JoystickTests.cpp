@@ -6,9 +6,10 @@ namespace mortane {
 namespace {
 
 // Whether the machine of the test has a joystick is not known; both calls must agree on it.
-TEST(Joystick, AnswersBothQuestionsAlike) {
-  const JoystickCapabilities capabilities = ReadJoystickCapabilities();
-  const std::int32_t status = ReadJoystickStatus();
+TEST(SystemJoystick, AnswersBothQuestionsAlike) {
+  SystemJoystick joystick;
+  const JoystickCapabilities capabilities = joystick.ReadCapabilities();
+  const std::int32_t status = joystick.ReadStatus();
   EXPECT_EQ(capabilities.result == kJoystickOk, status == kJoystickOk);
   EXPECT_GE(status, 0);
   if (capabilities.result == kJoystickOk) {

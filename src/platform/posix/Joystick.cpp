@@ -27,7 +27,7 @@ std::int32_t OpenError() {
 
 }  // namespace
 
-JoystickCapabilities ReadJoystickCapabilities() {
+JoystickCapabilities SystemJoystick::ReadCapabilities() {
   const Descriptor joystick = OpenJoystick();
   if (!joystick.IsOpen()) return {OpenError(), 0};
   unsigned char buttons = 0;
@@ -35,7 +35,7 @@ JoystickCapabilities ReadJoystickCapabilities() {
   return {kJoystickOk, buttons};
 }
 
-std::int32_t ReadJoystickStatus() {
+std::int32_t SystemJoystick::ReadStatus() {
   const Descriptor joystick = OpenJoystick();
   if (!joystick.IsOpen()) return OpenError();
   // The driver begins every stream with the present state of all axes and buttons.
