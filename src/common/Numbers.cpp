@@ -1,5 +1,6 @@
 #include "common/Numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -18,6 +19,11 @@ NumberFormat& MutableSystemFormat() {
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
+}
+
+// A zero with a sign equals zero but would be shown and stored as "-0".
+double WithoutSignOfZero(double value) {
+  return value == 0 ? 0 : value;
 }
 
 // Moves `text` past `prefix` when it begins so.
@@ -96,7 +102,7 @@ std::optional<double> ParseNumber(std::string_view text, const NumberFormat& for
   double value = 0;
   const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
   if (error != std::errc() || end != plain.data() + plain.size()) return std::nullopt;
-  return value;
+  return WithoutSignOfZero(value);
 }
 
 bool IsNumeric(std::string_view text, const NumberFormat& format) {
@@ -132,13 +138,13 @@ double LeadingNumber(std::string_view text) {
   if (start >= text.size() || !(IsDigit(text[start]) || text[start] == '.')) return 0;
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  return error == std::errc() ? value : 0;
+  return error == std::errc() ? WithoutSignOfZero(value) : 0;
 }
 
 std::string ShortestGeneral(double value, const NumberFormat& format) {
   std::array<char, 40> buffer{};
-  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                          std::chars_format::general, 15);
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                          WithoutSignOfZero(value), std::chars_format::general, 15);
   std::string text(buffer.data(), end);
   const std::size_t point = text.find('.');
   if (point != std::string::npos) text.replace(point, 1, format.decimalPoint);
@@ -150,13 +156,11 @@ std::string Hex(std::int32_t value) {
 }
 
 std::string HexPadded(std::int32_t value, int width) {
-  std::array<char, 40> buffer{};
-  const int length = std::snprintf(buffer.data(), buffer.size(), "%0*X",
-                                   width < 0    ? 0
-                                   : width < 32 ? width
-                                                : 32,
-                                   static_cast<unsigned>(value));
-  return std::string(buffer.data(), static_cast<std::size_t>(length));
+  std::array<char, 16> buffer{};
+  const int digits =
+      std::snprintf(buffer.data(), buffer.size(), "%X", static_cast<unsigned>(value));
+  std::string text(static_cast<std::size_t>(std::max(width - digits, 0)), '0');
+  return text.append(buffer.data());
 }
 
 }  // namespace mortane

@@ -23,6 +23,8 @@ const NumberFormat& PointFormat();
 const NumberFormat& SystemNumberFormat();
 void SetSystemNumberFormat(NumberFormat format);
 
+// No number is ever -0: it is read and shown as 0.
+
 // The value of the whole text, blanks around it allowed; nothing when it is no number.
 // Exponents are numbers; hexadecimal, "nan" and "inf" are not; groups only every three digits.
 std::optional<double> ParseNumber(std::string_view text,

@@ -127,6 +127,16 @@ TEST(ShortestGeneral, WritesNoZerosThatSayNothing) {
   for (const GeneralRow& row : rows) EXPECT_EQ(ShortestGeneral(row.value), row.text);
 }
 
+TEST(NegativeZero, IsZeroWhereverANumberIsReadOrShown) {
+  EXPECT_EQ(ShortestGeneral(-0.0), "0");
+  for (const char* text : {"-0", "-0.0", "-0e5", " -0 ", "-.0"}) {
+    EXPECT_FALSE(std::signbit(ToDouble(text))) << text;
+    EXPECT_FALSE(std::signbit(ParseNumber(text).value_or(-1))) << text;
+    EXPECT_FALSE(std::signbit(LeadingNumber(text))) << text;
+  }
+  EXPECT_TRUE(std::signbit(ToDouble("-0.1"))) << "other numbers keep their sign";
+}
+
 TEST(HexPadded, FillsWithZerosAndNeverCuts) {
   EXPECT_EQ(HexPadded(255, 4), "00FF");
   EXPECT_EQ(HexPadded(4096, 2), "1000");
@@ -134,6 +144,10 @@ TEST(HexPadded, FillsWithZerosAndNeverCuts) {
   EXPECT_EQ(HexPadded(0, 2), "00");
   EXPECT_EQ(HexPadded(-1, 2), "FFFFFFFF");
   EXPECT_EQ(HexPadded(10, -1), "A");
+  EXPECT_EQ(HexPadded(-1, 8), "FFFFFFFF");
+  EXPECT_EQ(HexPadded(-1, 9), "0FFFFFFFF");
+  EXPECT_EQ(HexPadded(10, 33), std::string(32, '0') + "A");
+  EXPECT_EQ(HexPadded(10, 32767).size(), 32767U);
 }
 
 TEST(Hex, IsUpperCaseTwosComplementWithoutPrefix) {

@@ -74,6 +74,15 @@ TEST_F(BenchFile, KeepsValuesOutOfRangeAndDifficultTexts) {
   EXPECT_EQ(ReadBenchFile(path_), bench);
 }
 
+TEST_F(BenchFile, HoldsNoNegativeZero) {
+  Bench bench{{benches::InstrumentNamed("Quay")}, {}};
+  bench.instruments[0].Accessory(accessory::kDiaLamp).value = -0.0;
+  bench.instruments[0].database.objectives[0].workingDistance = -0.0;
+  WriteBenchFile(path_, bench);
+  EXPECT_EQ(Stored().find("\"-0\""), std::string::npos);
+  EXPECT_EQ(ReadBenchFile(path_), bench);
+}
+
 TEST_F(BenchFile, NeedsOnlyWhatDiffersFromTheDefaults) {
   Store("<!-- ours --><Bench>\n  <Instrument Name=\"One\"/> \n <Instrument/></Bench>");
   Instrument one;

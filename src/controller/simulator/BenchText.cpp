@@ -84,7 +84,8 @@ std::string TextOf(bool value) {
 // The shortest text that reads back as the same number.
 std::string TextOf(double value) {
   std::array<char, 32> text{};
-  const auto written = std::to_chars(text.data(), text.data() + text.size(), value);
+  const auto written =
+      std::to_chars(text.data(), text.data() + text.size(), value == 0 ? 0 : value);
   return {text.data(), written.ptr};
 }
 
