@@ -77,13 +77,10 @@ std::string TruncateAtNul(std::string_view text) {
   return std::string(text.substr(0, text.find('\0')));
 }
 
-std::string AppendLine(std::string_view list, std::string_view line) {
-  if (line.empty()) return std::string(list);
-  if (list.empty()) return std::string(line);
-  std::string joined;
-  joined.reserve(list.size() + kLineBreak.size() + line.size());
-  joined.append(list).append(kLineBreak).append(line);
-  return joined;
+std::string AppendLine(std::string list, std::string_view line) {
+  if (!list.empty() && !line.empty()) list.append(kLineBreak);
+  list.append(line);
+  return list;
 }
 
 }  // namespace mortane

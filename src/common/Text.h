@@ -27,7 +27,8 @@ bool EqualsIgnoringCase(std::string_view left, std::string_view right);
 // The text up to its first NUL character; the whole text when it has none.
 std::string TruncateAtNul(std::string_view text);
 
-// Joins the lines of a report: an empty side gives the other, two texts get one line break.
-std::string AppendLine(std::string_view list, std::string_view line);
+// Joins the lines of a report: an empty side gives the other, two texts get one line break. A list
+// that is moved in grows where it stands, so a long report does not cost a copy for each line.
+std::string AppendLine(std::string list, std::string_view line);
 
 }  // namespace mortane

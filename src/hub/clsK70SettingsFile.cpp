@@ -46,7 +46,7 @@ void clsK70::ReadXML(const std::string& fname) {
     if (!child.IsElement()) continue;
     const auto fileItem = FileItemOf(child.Name());
     if (fileItem && fileItems_[*fileItem] != 0) {
-      failures = AppendLine(failures, ReadSection(*fileItem, child));
+      failures = AppendLine(std::move(failures), ReadSection(*fileItem, child));
     }
   }
   if (!failures.empty()) prompts().MsgBox(failures, box::kOk, "XML Read");
@@ -59,7 +59,7 @@ void clsK70::Tactor_ReadXML(const std::string& fname) {
   std::string failures;
   for (const DomNode& child : root->Children()) {
     if (child.IsElement() && FileItemOf(child.Name()) == fileitem::kTactor) {
-      failures = AppendLine(failures, ReadSection(fileitem::kTactor, child));
+      failures = AppendLine(std::move(failures), ReadSection(fileitem::kTactor, child));
     }
   }
   if (!failures.empty()) prompts().MsgBox(failures, box::kOk, "Tactor_XML Read");
@@ -93,7 +93,7 @@ std::string clsK70::ReadSection(std::size_t fileItem, const DomNode& section) {
     const std::string name = child.Name();
     for (const FileElement& row : fileTable_) {
       if (row.fileItem == fileItem && NameMatches(row, name)) {
-        failures = AppendLine(failures, row.read(child));
+        failures = AppendLine(std::move(failures), row.read(child));
       }
     }
   }
@@ -105,7 +105,7 @@ std::string clsK70::ReadSystemElement(const DomNode& element) {
   for (const DomAttribute& attribute : element.Attributes()) {
     if (!EqualsIgnoringCase(attribute.name, "NAME")) continue;
     if (CharacterCount(attribute.value) > kLongestNameInFile) {
-      failures = AppendLine(failures, "SystemName = " + attribute.value);
+      failures = AppendLine(std::move(failures), "SystemName = " + attribute.value);
     } else {
       SystemName = attribute.value;
     }
@@ -131,7 +131,7 @@ void clsK70::SaveSections(const std::string& fname, std::size_t first,
     document.Append(root);
     document.Save(fname);
   } catch (const Failure& failure) {
-    prompts().MsgBox(AppendLine(failureText, failure.Description()), box::kCritical);
+    prompts().MsgBox(AppendLine(std::string(failureText), failure.Description()), box::kCritical);
   }
 }
 

@@ -8,9 +8,9 @@ void clsK70::Receive() {
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
     Progress(i);
     const TransferStep& step = transfers_[i];
-    failures = AppendLine(failures, ReportOf(step.unit, step.read));
+    failures = AppendLine(std::move(failures), ReportOf(step.unit, step.read));
   }
-  failures = AppendLine(failures, ReadTurretCounts());
+  failures = AppendLine(std::move(failures), ReadTurretCounts());
   Progress(transfers_.size() + 1);
   if (!failures.empty()) prompts().MsgBox(failures, box::kCritical);
 }
@@ -20,7 +20,7 @@ void clsK70::Send() {
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
     Progress(i);
     const TransferStep& step = transfers_[i];
-    if (step.gate()) failures = AppendLine(failures, ReportOf(step.unit, step.write));
+    if (step.gate()) failures = AppendLine(std::move(failures), ReportOf(step.unit, step.write));
   }
   Progress(transfers_.size() + 1);
   if (!failures.empty()) prompts().MsgBox(failures, box::kCritical, "Send");
@@ -31,7 +31,7 @@ std::string clsK70::Modify() {
   std::string failures;
   if (Entry().Name() != SystemName) differences = "SystemName:" + SystemName;
   for (const TransferStep& step : transfers_) {
-    if (step.gate()) failures = AppendLine(failures, step.modify(differences));
+    if (step.gate()) failures = AppendLine(std::move(failures), step.modify(differences));
   }
   if (!failures.empty()) prompts().MsgBox(failures, box::kCritical, "Modify");
   return differences;
@@ -60,7 +60,7 @@ std::string clsK70::ReadTurretCounts() {
   for (const Turret& turret : turrets_) {
     std::int32_t count = 0;
     trap.Run([&] { count = TurretCount(turret); });
-    if (trap.TakeFailed()) failures = AppendLine(failures, turret.failureLabel);
+    if (trap.TakeFailed()) failures = AppendLine(std::move(failures), turret.failureLabel);
     for (std::int32_t* stored : turret.counts) *stored = count;
   }
   return failures;

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "common/Failure.h"
 #include "common/Text.h"
@@ -26,7 +27,7 @@ template <typename Collect>
 std::string CollectDifferences(std::string& list, std::string_view opening, Collect&& collect) {
   std::string lines;
   std::string failure = FailureOf(opening, [&] { std::forward<Collect>(collect)(lines); });
-  list = AppendLine(list, lines);
+  list = AppendLine(std::move(list), lines);
   return failure;
 }
 
@@ -36,7 +37,7 @@ class WriteReport {
   // `opening` begins the line of a failure that no item can be named for.
   explicit WriteReport(std::string_view opening) : opening_(opening) {}
 
-  void Add(std::string_view line) { lines_ = AppendLine(lines_, line); }
+  void Add(std::string_view line) { lines_ = AppendLine(std::move(lines_), line); }
 
   // Runs a step that adds the lines of its items itself. What else fails in it becomes one line,
   // however many steps fail so: a controller that went away would fill the screen.

@@ -26,6 +26,16 @@ TEST(AppendLine, OfTwoTextsHoldsExactlyOneLineBreak) {
   EXPECT_EQ(AppendLine("a\r\nb", "c"), "a\r\nb\r\nc");
 }
 
+TEST(AppendLine, GrowsAListThatItIsGivenForGoodWhereItStands) {
+  std::string list = "a";
+  list.reserve(100);
+  const char* const place = list.data();
+  list = AppendLine(std::move(list), "b");
+  list = AppendLine(std::move(list), "");
+  EXPECT_EQ(list, "a\r\nb");
+  EXPECT_EQ(list.data(), place) << "a report of many lines must not be copied for each of them";
+}
+
 TEST(TruncateAtNul, KeepsWhatStandsBeforeTheFirstNul) {
   EXPECT_EQ(TruncateAtNul("ab\0cd\0"s), "ab");
   EXPECT_EQ(TruncateAtNul("\0ab"s), "");

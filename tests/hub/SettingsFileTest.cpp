@@ -1,6 +1,7 @@
 // The frame of the settings file: its sections, its choice of sections, its failures.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 
 #include "support/Rig.h"
@@ -305,6 +306,26 @@ TEST_F(SettingsFile, AHugeFileIsReadWhole) {
   Open(folder.Write("huge.xml",
                     text + "</FILTER><SYSTEM><QHRMNAME NAME=\"Big\"/></SYSTEM></Setup>"));
   EXPECT_EQ(rig.k70.SystemName, "Big");
+}
+
+TEST_F(SettingsFile, AReportOfManyLinesTakesItsTimeOncePerLine) {
+  constexpr std::size_t kElements = 100000;
+  std::string text = "<Setup><FILTER>";
+  std::string report;
+  for (std::size_t i = 0; i < kElements; ++i) {
+    text += "<ITEM POSITION=\"0\"/>";
+    report += "Filter Cube[0]\r\n";
+  }
+  report.resize(report.size() - 2);
+  const std::string path = folder.Write("refused.xml", text + "</FILTER></Setup>");
+  rig.prompts.AcceptAnyBox();
+  const auto start = std::chrono::steady_clock::now();
+  Open(path);
+  // One or two seconds where everything is instrumented; with a copy of the report for each line
+  // it would be twenty.
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+  ASSERT_EQ(rig.prompts.Boxes().size(), 1U);
+  EXPECT_TRUE(rig.prompts.Boxes()[0].text == report) << "the whole report, in the file's order";
 }
 
 TEST_F(SettingsFile, ACharacterThatXmlCannotHoldMakesTheSaveFailAndKeepsTheOldFile) {
