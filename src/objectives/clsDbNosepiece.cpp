@@ -183,11 +183,12 @@ void clsDbNosepiece::ReadRecord(const controller::ObjectiveRecord& record) {
   }
 }
 
-// What stands before the last twelve characters of the answer is the controller's own affair.
+// Only the last twelve characters of the answer are the code; a prefix is ignored.
 clsDbNosepiece::CodeAnswer clsDbNosepiece::AskCode(std::int32_t position) const {
-  const std::string answer = LastCharacters(
+  std::string code = LastCharacters(
       Trim(parent.Mic.QueryCommand("rONR" + std::to_string(position))), kObjectiveCodeLength);
-  return {FirstCharacters(answer, kObjectiveCodeLength - 1), CondenserDigit(answer)};
+  const std::int32_t condenser = CondenserDigit(code);
+  return {std::move(code), condenser};
 }
 
 // All values are asked for, so that one that cannot be read keeps the record from being written.
@@ -266,7 +267,12 @@ void clsDbNosepiece::WriteCondenser(std::int32_t position) const {
   const std::int32_t condenser = AdoptiveCondenser(kOptionBase + position);
   const CodeAnswer held = AskCode(position);
   if (held.condenser == condenser) return;
-  parent.Mic.SendCommand("cONS" + std::to_string(position) + held.head + std::to_string(condenser));
+  if (CharacterCount(held.code) < kObjectiveCodeLength) {
+    RaiseOwnFailure(kConversionError, "The objective code \"" + held.code + "\" is too short.");
+  }
+  parent.Mic.SendCommand("cONS" + std::to_string(position) +
+                         FirstCharacters(held.code, kObjectiveCodeLength - 1) +
+                         std::to_string(condenser));
 }
 
 bool clsDbNosepiece::IsLegal(const ObjectiveValues& values) const {

@@ -106,9 +106,10 @@ class clsDbNosepiece {
 
   static constexpr std::size_t kCodes = 250;
 
-  // What the controller holds as a position's code text: eleven characters and the digit.
+  // What the controller holds as a position's code text, and the digit at its end. A text of less
+  // than twelve characters is no code: a write that repeats it would change the other values.
   struct CodeAnswer {
-    std::string head;
+    std::string code;
     std::int32_t condenser;
   };
 

@@ -358,6 +358,27 @@ TEST(ObjectiveWrite, AnAnswerWithoutADigitIsTheRecordsLine) {
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
+// Each answer has a digit at its end, and none of them the eleven characters that a write repeats.
+TEST(ObjectiveWrite, AnAnswerOfLessThanTwelveCharactersIsTheRecordsLineAndNothingIsSent) {
+  for (const char* answer : {"3", "8A3", "30FA0C63B63", "  0FA0C63B63  ", "é0FA0C63B63"}) {
+    Rig rig("Harbour");
+    rig.ConnectAndReceive();
+    Record(rig, 241).answer = answer;
+    rig.k70.DbNosepiece.Set_DbNosepiece(1, "Clinic 25x", 2, 3, "25", "1.98", "0.95", 4);
+    EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional[1]") << answer;
+    EXPECT_TRUE(rig.journal.Writes().empty()) << answer;
+  }
+}
+
+TEST(ObjectiveWrite, AShortAnswerThatNamesTheStoredCondenserIsNoLine) {
+  Rig rig("Harbour");
+  Record(rig, 241).answer = "8A3";
+  rig.ConnectAndReceive();
+  EXPECT_EQ(rig.k70.DbNosepiece.AdoptiveCondenser(241), 3);
+  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_TRUE(rig.journal.Writes().empty());
+}
+
 TEST(ObjectiveWrite, ACodeBeyondTheTableIsTheRecordsLineAndWritesNothing) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
