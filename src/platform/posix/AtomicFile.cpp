@@ -1,22 +1,25 @@
 #include "platform/AtomicFile.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <filesystem>
+#include <limits>
 #include <optional>
 #include <system_error>
 
 #include "common/Failure.h"
+#include "common/TemporaryName.h"
 #include "platform/posix/Descriptor.h"
 
 namespace mortane {
 namespace {
 
 constexpr int kLongestLinkChain = 40;
-constexpr int kTemporaryNames = 1000;
 
 [[noreturn]] void RaiseFileFailure(std::string_view attempt, const std::string& path,
                                    const std::string& reason, std::int32_t number = kFileError) {
@@ -55,17 +58,45 @@ std::optional<struct stat> CheckTarget(const std::string& target) {
   return status;
 }
 
+bool IsDead(std::int64_t process) {
+  if (process > std::numeric_limits<pid_t>::max()) return false;
+  return ::kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH;
+}
+
+// The numbers of processes are this machine's (this container's), while a folder may be shared:
+// whoever writes a temporary file holds a lock on it.
+void RemoveUnlessLocked(const std::string& path) {
+  constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+  const Descriptor file(::open(path.c_str(), kFlags));
+  struct stat status {};
+  if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return;
+  if (::flock(file.Get(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
+}
+
+// A process that was killed during its save could not remove its file. What cannot be removed
+// stays: it keeps no save from succeeding.
+void RemoveLeftTemporaries(const std::filesystem::path& folder) {
+  std::error_code error;
+  std::filesystem::directory_iterator entry(folder.empty() ? "." : folder, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    const auto process = ProcessOfTemporary(entry->path().filename().string());
+    if (process && IsDead(*process)) RemoveUnlessLocked(entry->path().string());
+  }
+}
+
 // A file of its own beside the target, removed again unless it was renamed.
 class Temporary {
  public:
   explicit Temporary(const std::string& target) : target_(target) {
     const std::filesystem::path folder = std::filesystem::path(target).parent_path();
     for (int number = 0; number < kTemporaryNames; ++number) {
-      const std::string name =
-          ".mortane-" + std::to_string(::getpid()) + "-" + std::to_string(number) + ".tmp";
-      path_ = (folder / name).string();
+      path_ = (folder / TemporaryName(::getpid(), number)).string();
       file_ = Descriptor(::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-      if (file_.IsOpen()) return;
+      if (file_.IsOpen()) {
+        // Tells a save on another machine that the file is in use; not all file systems can.
+        static_cast<void>(::flock(file_.Get(), LOCK_EX | LOCK_NB));
+        return;
+      }
       if (errno != EEXIST) break;
     }
     RaiseFileFailure("write", target_, errno);
@@ -150,6 +181,7 @@ std::string ReadWholeFile(const std::string& utf8Path, std::size_t limit) {
 void WriteFileAtomically(const std::string& utf8Path, std::string_view bytes) {
   const std::string target = FollowLinks(utf8Path);
   const std::optional<struct stat> existing = CheckTarget(target);
+  RemoveLeftTemporaries(std::filesystem::path(target).parent_path());
   Temporary temporary(target);
   if (existing) temporary.TakePermissions(*existing);
   temporary.Write(bytes);

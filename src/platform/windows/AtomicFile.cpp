@@ -3,15 +3,16 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <limits>
 
 #include "common/Failure.h"
+#include "common/TemporaryName.h"
 #include "platform/windows/Handle.h"
 #include "platform/windows/Wide.h"
 
 namespace mortane {
 namespace {
 
-constexpr int kTemporaryNames = 1000;
 constexpr std::size_t kLargestStep = std::size_t{1} << 24U;
 
 [[noreturn]] void RaiseFileFailure(std::string_view attempt, const std::string& path, DWORD error) {
@@ -49,17 +50,40 @@ std::string FollowLinks(const std::string& path) {
   return ToUtf8(name);
 }
 
+std::string FolderOf(const std::string& path) {
+  return path.substr(0, path.find_last_of("/\\:") + 1);
+}
+
+bool IsDead(std::int64_t process) {
+  if (process > std::numeric_limits<DWORD>::max()) return false;
+  const Handle handle(OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process)));
+  if (!handle.IsOpen()) return GetLastError() == ERROR_INVALID_PARAMETER;
+  return WaitForSingleObject(handle.Get(), 0) == WAIT_OBJECT_0;
+}
+
+// A process that was killed during its save could not remove its file. One that is still written,
+// by a process of another machine, cannot be deleted: it is open and shared with nobody.
+void RemoveLeftTemporaries(const std::string& folder) {
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW(ToWide(folder + ".mortane-*.tmp").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return;
+  do {
+    const std::string name = ToUtf8(found.cFileName);
+    const auto process = ProcessOfTemporary(name);
+    if (process && IsDead(*process)) DeleteFileW(ToWide(folder + name).c_str());
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+}
+
 // A file of its own beside the target, removed again unless it was renamed.
 class Temporary {
  public:
   Temporary(const std::string& shownPath, const std::string& target)
       : shownPath_(shownPath), target_(ToWide(target)) {
-    const std::size_t folderEnd = target.find_last_of("/\\:") + 1;
-    const std::string start =
-        target.substr(0, folderEnd) + ".mortane-" + std::to_string(GetCurrentProcessId()) + "-";
+    const std::string folder = FolderOf(target);
     DWORD error = ERROR_FILE_EXISTS;
     for (int number = 0; error == ERROR_FILE_EXISTS && number < kTemporaryNames; ++number) {
-      path_ = ToWide(start + std::to_string(number) + ".tmp");
+      path_ = ToWide(folder + TemporaryName(GetCurrentProcessId(), number));
       file_ = Handle(CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                  FILE_ATTRIBUTE_NORMAL, nullptr));
       if (file_.IsOpen()) return;
@@ -132,7 +156,9 @@ std::string ReadWholeFile(const std::string& utf8Path, std::size_t limit) {
 
 void WriteFileAtomically(const std::string& utf8Path, std::string_view bytes) {
   const bool exists = TargetExists(utf8Path);
-  Temporary temporary(utf8Path, exists ? FollowLinks(utf8Path) : utf8Path);
+  const std::string target = exists ? FollowLinks(utf8Path) : utf8Path;
+  RemoveLeftTemporaries(FolderOf(target));
+  Temporary temporary(utf8Path, target);
   temporary.Write(bytes);
   temporary.RenameToTarget(exists);
 }

@@ -1,7 +1,10 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/time.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -9,6 +12,7 @@
 #include <string>
 
 #include "common/Failure.h"
+#include "common/TemporaryName.h"
 #include "platform/AtomicFile.h"
 #include "platform/posix/ChildProcess.h"
 #include "support/TempFolder.h"
@@ -148,6 +152,80 @@ TEST(AtomicFileFaults, AKilledProcessLeavesTheOldContentOrTheNew) {
     kept += found == first ? 1 : 0;
   }
   EXPECT_GT(kept, 0) << "no process was killed before its save had ended";
+  WriteFileAtomically(path, first);
+  EXPECT_EQ(FilesIn(folder.Path("")), 1U) << "what the killed ones left beside is gone";
+}
+
+// The process of that number has ended and been waited for.
+pid_t DeadProcess() {
+  const pid_t child = ::fork();
+  if (child == 0) ::_exit(0);
+  EXPECT_EQ(::waitpid(child, nullptr, 0), child);
+  return child;
+}
+
+TEST(AtomicFileFaults, TheNextSaveRemovesWhatDeadProcessesLeftInItsFolder) {
+  const test::TempFolder folder;
+  const pid_t dead = DeadProcess();
+  fs::create_directory(folder.Path("inner"));
+  for (const int number : {0, 1, 999}) folder.Write(TemporaryName(dead, number), "left");
+  const std::string elsewhere = folder.Write("inner/" + TemporaryName(dead, 0), "left");
+  const std::string path = folder.Write("a.xml", "old");
+  WriteFileAtomically(path, "new");
+  EXPECT_EQ(FilesIn(folder.Path("")), 2U) << "the file and the folder";
+  EXPECT_TRUE(fs::exists(elsewhere)) << "no save was made there";
+}
+
+TEST(AtomicFileFaults, ASaveRemovesNothingButTemporariesOfDeadProcesses) {
+  const test::TempFolder folder;
+  const pid_t dead = DeadProcess();
+  const std::string form = TemporaryName(dead, 0);
+  folder.Write(form + ".bak", "x");
+  folder.Write("x" + form, "x");
+  folder.Write(".mortane-" + std::to_string(dead) + ".tmp", "x");
+  folder.Write(".mortane-0" + std::to_string(dead) + "-0.tmp", "x");
+  folder.Write(TemporaryName(1, 0), "of a process that lives");
+  fs::create_directory(folder.Path(TemporaryName(dead, 1)));
+  fs::create_symlink("a.xml", folder.Path(TemporaryName(dead, 2)));
+  WriteFileAtomically(folder.Path("a.xml"), "new");
+  EXPECT_EQ(FilesIn(folder.Path("")), 8U);
+}
+
+// The numbers of processes on another machine, or in another container, mean nothing here.
+TEST(AtomicFileFaults, ATemporaryThatSomeoneWritesStaysThoughItsProcessIsUnknownHere) {
+  const test::TempFolder folder;
+  const std::string path = folder.Write(TemporaryName(DeadProcess(), 0), "half");
+  const int file = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_EQ(::flock(file, LOCK_EX | LOCK_NB), 0);
+  WriteFileAtomically(folder.Path("a.xml"), "new");
+  EXPECT_TRUE(fs::exists(path));
+  ::close(file);
+  WriteFileAtomically(folder.Path("a.xml"), "newer");
+  EXPECT_FALSE(fs::exists(path));
+}
+
+TEST(AtomicFileFaults, ATemporaryIsLockedWhileItIsWritten) {
+  const test::TempFolder folder;
+  const std::string path = folder.Path("a.xml");
+  test::ChildProcess child([&](const test::ChildProcess::Side& parent) {
+    // A limit on the size of files stops the process in the middle of its write.
+    ::signal(SIGXFSZ, SIG_DFL);
+    ::signal(SIGXFSZ, [](int) { ::raise(SIGSTOP); });
+    const struct rlimit limit { 4096, 4096 };
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 3;
+    parent.Tell();
+    return Try(path, std::string(100000, 'x'), "File too large");
+  });
+  child.AwaitChild();
+  child.AwaitStop();
+  const std::string temporary = folder.Path(TemporaryName(child.Id(), 0));
+  const int file = ::open(temporary.c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_GE(file, 0);
+  EXPECT_NE(::flock(file, LOCK_EX | LOCK_NB), 0);
+  ::close(file);
+  child.Continue();
+  EXPECT_EQ(child.Wait(), kRefused);
+  EXPECT_EQ(FilesIn(folder.Path("")), 0U);
 }
 
 TEST(AtomicFileFaults, AProcessKilledAfterTheSaveLeavesTheNewContent) {

@@ -80,6 +80,15 @@ void ChildProcess::AwaitChild() const {
   ReceiveByte(in_);
 }
 
+void ChildProcess::AwaitStop() const {
+  int status = 0;
+  Check(::waitpid(child_, &status, WUNTRACED) == child_ && WIFSTOPPED(status), "not stopped");
+}
+
+void ChildProcess::Continue() const {
+  Check(::kill(child_, SIGCONT) == 0, "kill");
+}
+
 void ChildProcess::Tell() const {
   SendByte(out_);
 }

@@ -28,7 +28,11 @@ class ChildProcess {
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
 
+  pid_t Id() const { return child_; }
   void AwaitChild() const;
+  // Waits until a signal has stopped the child, and lets it go on.
+  void AwaitStop() const;
+  void Continue() const;
   void Tell() const;
   void Kill();
   // The exit code; minus the signal's number for a child that a signal ended.
