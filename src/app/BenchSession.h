@@ -1,15 +1,19 @@
 // The simulated instruments that the program works on.
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "controller/simulator/SharedBench.h"
 #include "controller/simulator/SimulatedLibrary.h"
 
 namespace mortane {
 
 // Instruments come from a bench file, or are the simulated microscope alone where no file is
 // named. What is written to the instruments goes back to the file, so that the next start finds
-// it there: as a whole, when the program comes to rest and at the latest when the session ends.
+// it there: when the program comes to rest, when a device is disconnected, and at the latest when
+// the session ends. Programs may share a file; an instrument that another one changed is up to
+// date once it is connected.
 class BenchSession {
  public:
   // An empty path names no file. Raises a Failure for a file that is wrong.
@@ -22,13 +26,16 @@ class BenchSession {
   controller::ControllerLibrary& Library() { return library_; }
 
   // Writes what changed since the last time. A file that cannot be written keeps its old content;
-  // one line on standard error tells it.
+  // one line on standard error tells it, and the next change or the end of the session tries again.
   void Keep();
 
  private:
-  std::string path_;
+  void Exchange();
+
+  std::optional<controller::SharedBench> file_;
   controller::SimulatedLibrary library_;
   bool changed_ = false;
+  bool failed_ = false;
 };
 
 }  // namespace mortane

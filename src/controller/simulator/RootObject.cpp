@@ -35,6 +35,7 @@ struct DeviceEntryLink {
 };
 
 Value ConnectEntry(const DeviceEntryLink& entry, Args) {
+  entry.device.State().ConnectionChanges();
   if (entry.device.Device().available == 0) RaiseSimulated("The device does not answer.");
   entry.device.Session().connected = true;
   entry.device.Session().asynchronous = false;
@@ -44,6 +45,7 @@ Value ConnectEntry(const DeviceEntryLink& entry, Args) {
 Value DisconnectEntry(const DeviceEntryLink& entry, Args) {
   entry.device.Device();
   entry.device.Session().connected = false;
+  entry.device.State().ConnectionChanges();
   return {};
 }
 

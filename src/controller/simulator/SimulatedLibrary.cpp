@@ -48,4 +48,8 @@ void SimulatedLibrary::OnChange(std::function<void(const Bench&)> listener) {
   state_->onChange = std::move(listener);
 }
 
+void SimulatedLibrary::OnConnection(std::function<void()> listener) {
+  state_->onConnection = std::move(listener);
+}
+
 }  // namespace mortane::controller

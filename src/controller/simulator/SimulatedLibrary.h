@@ -39,6 +39,10 @@ class SimulatedLibrary : public ControllerLibrary {
   // closes, connections and the fiber server's device, is no such change.
   void OnChange(std::function<void(const Bench&)> listener);
 
+  // Called before a device is connected and after one was disconnected, to bring the bench up to
+  // date with what others do to it.
+  void OnConnection(std::function<void()> listener);
+
  private:
   std::shared_ptr<SimulatorState> state_;
   std::shared_ptr<SimulatedClock> ownClock_;

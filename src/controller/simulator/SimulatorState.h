@@ -29,11 +29,16 @@ struct SimulatorState {
   std::shared_ptr<Clock> clock;
   std::map<int, DeviceSession> sessions;
   std::function<void(const Bench&)> onChange;
+  std::function<void()> onConnection;
   int createdRoots = 0;
   int releasedRoots = 0;
 
   void Changed() const {
     if (onChange) onChange(bench);
+  }
+
+  void ConnectionChanges() const {
+    if (onConnection) onConnection();
   }
 
   // Sets a field of the bench and tells the listener when that changed it.

@@ -1,0 +1,89 @@
+#include "controller/simulator/SharedBench.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "common/Failure.h"
+#include "common/Numbers.h"
+#include "controller/simulator/BenchFile.h"
+#include "platform/AtomicFile.h"
+#include "platform/NamedMutex.h"
+
+namespace mortane::controller {
+namespace {
+
+// An exchange takes some milliseconds. A program that holds the lock for longer hangs, and the
+// others go on without it.
+constexpr int kLongestWaitMs = 5000;
+
+class BenchLock {
+ public:
+  explicit BenchLock(const std::string& name) {
+    mutex_.Open(name);
+    mutex_.Lock(kLongestWaitMs);
+  }
+  ~BenchLock() { mutex_.Unlock(); }
+  BenchLock(const BenchLock&) = delete;
+  BenchLock& operator=(const BenchLock&) = delete;
+
+ private:
+  NamedMutex mutex_;
+};
+
+const Instrument* At(const Bench& bench, std::size_t place) {
+  return place < bench.instruments.size() ? &bench.instruments[place] : nullptr;
+}
+
+bool IsChanged(const Bench& ours, const Bench& known, std::size_t place) {
+  const Instrument* before = At(known, place);
+  return before == nullptr || !(*before == ours.instruments[place]);
+}
+
+}  // namespace
+
+SharedBench::SharedBench(const std::string& path)
+    : path_(path), lockName_(LockName(path)), known_(ReadBenchFile(path)) {}
+
+// Paths are longer than names may be.
+std::string SharedBench::LockName(const std::string& path) {
+  std::error_code error;
+  const std::filesystem::path absolute = std::filesystem::weakly_canonical(path, error);
+  std::uint64_t hash = 14695981039346656037U;  // FNV-1a
+  for (const char c : error ? path : absolute.string()) {
+    hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
+  }
+  return "MortaneBench-" + HexPadded(static_cast<std::int32_t>(hash >> 32U), 8) +
+         HexPadded(static_cast<std::int32_t>(hash & 0xFFFFFFFFU), 8);
+}
+
+Bench SharedBench::Merged(const Bench& ours, const Bench& theirs) const {
+  Bench merged = theirs;
+  if (!(ours.fiber == known_.fiber)) merged.fiber = ours.fiber;
+  for (std::size_t place = 0; place < ours.instruments.size(); ++place) {
+    if (!IsChanged(ours, known_, place)) continue;
+    // A changed instrument keeps its place also in a file that has become shorter.
+    while (merged.instruments.size() <= place) {
+      merged.instruments.push_back(ours.instruments[merged.instruments.size()]);
+    }
+    merged.instruments[place] = ours.instruments[place];
+  }
+  return merged;
+}
+
+void SharedBench::Exchange(Bench& bench) {
+  const BenchLock lock(lockName_);
+  Bench theirs = known_;
+  try {
+    theirs = ReadBenchFile(path_);
+  } catch (const Failure&) {
+    std::error_code error;
+    if (std::filesystem::exists(path_, error)) throw;
+  }
+  Bench merged = Merged(bench, theirs);
+  if (!(merged == theirs)) WriteBenchFile(path_, merged);
+  known_ = merged;
+  bench = std::move(merged);
+}
+
+}  // namespace mortane::controller
