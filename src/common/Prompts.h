@@ -31,15 +31,23 @@ enum class Answer {
 
 enum class Pointer { Default = 0, Hourglass = 11 };
 
-// What a file dialog is to ask. `flags` are the common dialog's: 4 hide read-only, 2 overwrite
-// prompt, 2048 path must exist, 4096 file must exist. `filter` is "label|pattern".
+// Flags of a file dialog, added up; the values are those of the platform's common dialog.
+namespace dialogflag {
+inline constexpr int kOverwritePrompt = 2;
+inline constexpr int kHideReadOnly = 4;
+inline constexpr int kPathMustExist = 2048;
+inline constexpr int kFileMustExist = 4096;
+}  // namespace dialogflag
+
+// What a file dialog is to ask. `filter` is "label|pattern".
 struct FileQuestion {
   int flags = 0;
   std::string filter;
   std::string defaultExtension;
 };
-inline constexpr int kFileOpenFlags = 6148;
-inline constexpr int kFileSaveFlags = 2050;
+inline constexpr int kFileOpenFlags =
+    dialogflag::kHideReadOnly + dialogflag::kPathMustExist + dialogflag::kFileMustExist;
+inline constexpr int kFileSaveFlags = dialogflag::kOverwritePrompt + dialogflag::kPathMustExist;
 
 // The program shows real boxes; tests use a double that fails on a question nobody scripted.
 // All calls come from the user-interface thread. An empty caption means the application's title.

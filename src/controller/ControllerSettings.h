@@ -5,9 +5,9 @@
 
 namespace mortane::controller {
 
-// item is an accessory number, 1 to 14; trigger 1 observation, 2 optical zoom, 3 nosepiece,
-// 4 light path. Switch functions: unit 0 body, 4 hand controller; key and value are
-// one-character codes; key "0" of the hand controller is its mode.
+// item is an accessory number, 1 to 14, trigger one of namespace trigger, unit one of switchunit.
+// Keys and values of switches are one-character codes; the key "0" of the hand controller is its
+// mode.
 class ControllerSettings : public Proxy {
  public:
   using Proxy::Proxy;

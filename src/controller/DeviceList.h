@@ -5,6 +5,9 @@
 
 namespace mortane::controller {
 
+// What a controller stores of its system name, in characters.
+inline constexpr std::size_t kSystemNameLength = 15;
+
 class DeviceEntry : public Proxy {
  public:
   using Proxy::Proxy;

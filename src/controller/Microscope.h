@@ -2,15 +2,15 @@
 #pragma once
 
 #include "controller/AccessoryDatabase.h"
+#include "controller/ControllerNumbers.h"
 #include "controller/ControllerSettings.h"
 #include "controller/DeviceList.h"
 #include "controller/Devices.h"
 
 namespace mortane::controller {
 
-// Units of BuzzerOn and its kin: 1 body, 2 hub, 5 hand controller, 6 fifth controller kind.
-// Units of EnableSwitch and its kin: 0 body, 4 hand controller, 7 remote.
-// Units of ControllerVersion and ControllerPresent: 1 to 7.
+// Codes of BuzzerOn and its kin are those of namespace buzzer, units of EnableSwitch and its kin
+// those of switchunit; units of ControllerVersion and ControllerPresent count from 1 to 7.
 class Microscope : public Proxy {
  public:
   using Proxy::Proxy;
@@ -73,9 +73,9 @@ class Microscope : public Proxy {
   std::string QueryCommand(const std::string& command) const {
     return ToText(Call("QueryCommand", {command}));
   }
-  // 0 off, 1 dark, 2 bright; the remote is unit 7.
-  std::int32_t RemoteLED() const { return GetLong("RemoteLED", {7}); }
-  void PutRemoteLED(std::int32_t state) const { Put("RemoteLED", state, {7}); }
+  // 0 off, 1 dark, 2 bright.
+  std::int32_t RemoteLED() const { return GetLong("RemoteLED", {switchunit::kRemote}); }
+  void PutRemoteLED(std::int32_t state) const { Put("RemoteLED", state, {switchunit::kRemote}); }
 
   // Any of the accessory devices above by its member's name, for tables of devices.
   AccessoryDevice Accessory(std::string_view member) const {

@@ -9,7 +9,7 @@ namespace {
 // Conditions on the flags of the controller units: 1 must answer, 0 must not, -1 either.
 struct TypeRow {
   std::int32_t type;
-  std::array<int, 7> units;
+  std::array<int, controllerunit::kCount> units;
 };
 
 constexpr std::array<TypeRow, 7> kTypeTable{{
@@ -22,7 +22,7 @@ constexpr std::array<TypeRow, 7> kTypeTable{{
     {6, {0, 0, 0, -1, -1, 1, 1}},
 }};
 
-bool Matches(const TypeRow& row, const std::array<bool, 7>& answering) {
+bool Matches(const TypeRow& row, const std::array<bool, controllerunit::kCount>& answering) {
   for (std::size_t i = 0; i < answering.size(); ++i) {
     if (row.units[i] >= 0 && (row.units[i] == 1) != answering[i]) return false;
   }
@@ -118,8 +118,9 @@ void clsK70::CheckAccessories() {
 }
 
 void clsK70::DetectControllers() {
-  for (std::size_t i = 0; i < controllers_.size(); ++i) {
-    controllers_[i] = Mic.ControllerPresent(static_cast<std::int32_t>(i) + 1) == 1;
+  for (std::int32_t unit = 0; unit < controllerunit::kCount; ++unit) {
+    controllers_[static_cast<std::size_t>(unit)] =
+        Mic.ControllerPresent(controllerunit::NumberInLibrary(unit)) == 1;
   }
   // Flags that no row knows leave the type of the device before.
   for (const TypeRow& row : kTypeTable) {

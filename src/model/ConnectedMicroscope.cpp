@@ -16,7 +16,7 @@ std::int32_t ConnectedMicroscope::IsMounted(std::int32_t index) const {
 
 double ConnectedMicroscope::ReadMicVer(std::int32_t index) const {
   if (!Controller(index)) return kNoVersion;
-  const std::string text = Mic.ControllerVersion(index + 1);
+  const std::string text = Mic.ControllerVersion(controllerunit::NumberInLibrary(index));
   if (text == "vDEMO") return kSimulatedVersion;
   const std::size_t letter = text.find('V');
   return LeadingNumber(letter == std::string::npos ? text : text.substr(letter + 1));

@@ -7,6 +7,7 @@
 
 #include "common/Prompts.h"
 #include "controller/AccessoryNumber.h"
+#include "controller/ControllerNumbers.h"
 #include "controller/Microscope.h"
 
 namespace mortane {
@@ -16,8 +17,7 @@ inline constexpr std::int32_t kNotMounted = 0;
 inline constexpr std::int32_t kSensorOnly = 1;
 inline constexpr std::int32_t kControllable = 2;
 
-// What a controller stores of its system name, in characters.
-inline constexpr std::size_t kSystemNameLength = 15;
+using controller::kSystemNameLength;
 
 // Versions that ReadMicVer answers for a unit that is absent and for the simulator.
 inline constexpr double kNoVersion = -1;
@@ -55,7 +55,7 @@ class ConnectedMicroscope {
   explicit ConnectedMicroscope(Prompts& prompts) : prompts_(prompts) {}
   ~ConnectedMicroscope() = default;
 
-  std::array<bool, 7> controllers_{};
+  std::array<bool, controllerunit::kCount> controllers_{};
   std::array<std::int32_t, accessory::kCount> mounted_{};
 
  private:

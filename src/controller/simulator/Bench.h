@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "controller/ControllerNumbers.h"
 #include "controller/simulator/DatabaseData.h"
 #include "controller/simulator/InstrumentData.h"
 
@@ -16,7 +17,7 @@ struct Instrument {
   std::int32_t available = 1;
   bool busyWhenConnected = false;  // not available while it is connected
 
-  std::array<ControllerUnit, 7> units;
+  std::array<ControllerUnit, controllerunit::kCount> units;
   BuzzerData buzzers;
   SwitchData switches;
   std::array<AccessoryData, accessory::kCount> accessories;

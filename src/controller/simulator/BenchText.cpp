@@ -7,11 +7,11 @@
 
 #include "common/Failure.h"
 #include "common/Text.h"
+#include "controller/DeviceList.h"
 
 namespace mortane::controller::bench_file {
 namespace {
 
-constexpr std::size_t kNameLength = 15;
 constexpr std::size_t kCassetteAddresses = 10;
 
 [[noreturn]] void RaiseValue(const DomNode& node, const DomAttribute& attribute,
@@ -112,8 +112,9 @@ void CheckNoChildren(const DomNode& node) {
 }
 
 void CheckRecord(const DomNode& node, const Instrument& instrument) {
-  if (CharacterCount(instrument.name) > kNameLength) {
-    RaiseAt(node, "the name \"" + instrument.name + "\" is longer than 15 characters");
+  if (CharacterCount(instrument.name) > kSystemNameLength) {
+    RaiseAt(node, "the name \"" + instrument.name + "\" is longer than " +
+                      std::to_string(kSystemNameLength) + " characters");
   }
 }
 

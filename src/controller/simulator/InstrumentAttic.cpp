@@ -124,8 +124,8 @@ Instrument Attic() {
                                accessory::kDiaApertureStop, accessory::kEpiFieldStop};
   Instrument attic;
   attic.name = "Attic";
-  AddUnit(attic, 1, "V1.30b");
-  AddUnit(attic, 5, "V1.30b");
+  AddUnit(attic, controllerunit::kBody, "V1.30b");
+  AddUnit(attic, controllerunit::kHandController, "V1.30b");
   FitAllAccessories(attic, Fit::Controllable);
   for (const int number : offsets) attic.Accessory(number).offsetCode = 12;
   attic.nosepiece = Places({7, 2, 4, 8, 9, 5, 240, 241, 247, 242});
@@ -134,7 +134,7 @@ Instrument Attic() {
   attic.limitation = 19;
   attic.escapeMode = -1;
   attic.zDrive.focusCompensation = 2;
-  attic.Interlock(accessory::kZFocusDrive, 3) = 1;
+  attic.Interlock(accessory::kZFocusDrive, trigger::kNosepiece) = 1;
   attic.xyDrive.handleMode = 3;
   attic.database = AwkwardDatabase();
   // On the dials: a second half of a pair and no function at all; on the switches: characters

@@ -17,8 +17,8 @@ void FitAllAccessories(Instrument& instrument, Fit fit) {
   }
 }
 
-void AddUnit(Instrument& instrument, int unit, std::string_view version) {
-  instrument.Unit(unit) = {1, std::string(version)};
+void AddUnit(Instrument& instrument, std::int32_t unit, std::string_view version) {
+  instrument.Unit(controllerunit::NumberInLibrary(unit)) = {1, std::string(version)};
 }
 
 TurretPlaces Places(std::initializer_list<std::int32_t> codes) {

@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "controller/ControllerNumbers.h"
 #include "controller/simulator/Bench.h"
 
 namespace mortane::controller::instruments {
@@ -28,7 +29,8 @@ enum class Fit { Sensed, Controllable };
 void FitAccessories(Instrument& instrument, std::initializer_list<int> numbers, Fit fit);
 void FitAllAccessories(Instrument& instrument, Fit fit);
 
-void AddUnit(Instrument& instrument, int unit, std::string_view version);
+// Makes a controller unit answer; `unit` is one of controllerunit.
+void AddUnit(Instrument& instrument, std::int32_t unit, std::string_view version);
 
 // Places from address 1, with these codes.
 TurretPlaces Places(std::initializer_list<std::int32_t> codes);

@@ -4,16 +4,6 @@
 namespace mortane::controller::instruments {
 namespace {
 
-constexpr int kBody = 1;
-constexpr int kHub = 2;
-constexpr int kThirdUnit = 3;
-constexpr int kHandController = 5;
-
-constexpr int kByObservation = 1;
-constexpr int kByZoom = 2;
-constexpr int kByNosepiece = 3;
-constexpr int kByLightPath = 4;
-
 // What leaves the works: the body's dials and switches, the hand controller in standard mode.
 constexpr std::string_view kBodyDefaults = "33406D5012BC9A78";
 constexpr std::string_view kHandDefaults = "0123P4Q5EF00000";
@@ -21,7 +11,7 @@ constexpr std::string_view kHandDefaults = "0123P4Q5EF00000";
 Instrument WithBody(std::string name, std::string_view version) {
   Instrument instrument;
   instrument.name = std::move(name);
-  AddUnit(instrument, kBody, version);
+  AddUnit(instrument, controllerunit::kBody, version);
   SetSwitches(instrument.bodySwitches, kBodyDefaults);
   instrument.database = OrdinaryDatabase();
   return instrument;
@@ -35,15 +25,15 @@ void SetOrdinaryOffsets(Instrument& instrument) {
 void SetRelativeCompensation(Instrument& instrument) {
   instrument.zDrive.focusCompensation = 3;
   instrument.xyDrive.focusCompensation = 3;
-  instrument.Interlock(accessory::kZFocusDrive, kByNosepiece) = 1;
-  instrument.Interlock(accessory::kXYStage, kByNosepiece) = 1;
-  instrument.Interlock(accessory::kDiaLamp, kByObservation) = 1;
-  instrument.Interlock(accessory::kFilterCube, kByObservation) = 1;
-  instrument.Interlock(accessory::kCondenser, kByObservation) = 1;
-  instrument.Interlock(accessory::kNDFilter, kByNosepiece) = 1;
-  instrument.Interlock(accessory::kDiaApertureStop, kByNosepiece) = 1;
-  instrument.Interlock(accessory::kEpiFieldStop, kByLightPath) = 1;
-  instrument.Interlock(accessory::kDiaFieldStop, kByZoom) = 1;
+  instrument.Interlock(accessory::kZFocusDrive, trigger::kNosepiece) = 1;
+  instrument.Interlock(accessory::kXYStage, trigger::kNosepiece) = 1;
+  instrument.Interlock(accessory::kDiaLamp, trigger::kObservation) = 1;
+  instrument.Interlock(accessory::kFilterCube, trigger::kObservation) = 1;
+  instrument.Interlock(accessory::kCondenser, trigger::kObservation) = 1;
+  instrument.Interlock(accessory::kNDFilter, trigger::kNosepiece) = 1;
+  instrument.Interlock(accessory::kDiaApertureStop, trigger::kNosepiece) = 1;
+  instrument.Interlock(accessory::kEpiFieldStop, trigger::kLightPath) = 1;
+  instrument.Interlock(accessory::kDiaFieldStop, trigger::kOpticalZoom) = 1;
 }
 
 }  // namespace
@@ -51,8 +41,8 @@ void SetRelativeCompensation(Instrument& instrument) {
 Instrument Quay() {
   constexpr std::string_view version = "vDEMO";
   Instrument quay = WithBody("Lab 2 East", version);
-  AddUnit(quay, kHub, version);
-  AddUnit(quay, kHandController, version);
+  AddUnit(quay, controllerunit::kHub, version);
+  AddUnit(quay, controllerunit::kHandController, version);
   FitAllAccessories(quay, Fit::Controllable);
   quay.Accessory(accessory::kDiaLamp).value = 9;
   quay.Accessory(accessory::kOpticalZoom).value = 1.5;
@@ -79,7 +69,7 @@ Instrument Quay() {
 
 Instrument Harbour() {
   Instrument harbour = WithBody("Harbour", "V1.31");
-  AddUnit(harbour, kHandController, "V1.30");
+  AddUnit(harbour, controllerunit::kHandController, "V1.30");
   FitAllAccessories(harbour, Fit::Controllable);
   harbour.nosepiece = Places({1, 4, 7, 10, 14, 18});
   harbour.filterCubes = Places({2, 3, 5, 7, 8, 1});
@@ -114,7 +104,7 @@ Instrument Lantern() {
 
 Instrument Pair() {
   Instrument pair = WithBody("Pair", "V1.30");
-  AddUnit(pair, kHub, "V1.30");
+  AddUnit(pair, controllerunit::kHub, "V1.30");
   FitAccessories(pair, {accessory::kNosepiece, accessory::kFilterCube, accessory::kXYStage},
                  Fit::Controllable);
   FitAccessories(pair, {accessory::kZFocusDrive, accessory::kCondenser}, Fit::Sensed);
@@ -128,8 +118,8 @@ Instrument Pair() {
 
 Instrument Relay() {
   Instrument relay = WithBody("Relay", "V1.3");
-  AddUnit(relay, kThirdUnit, "V1.3");
-  AddUnit(relay, kHandController, "V1.3");
+  AddUnit(relay, controllerunit::kThirdKind, "V1.3");
+  AddUnit(relay, controllerunit::kHandController, "V1.3");
   FitAccessories(relay, {accessory::kXYStage, accessory::kZFocusDrive}, Fit::Controllable);
   FitAccessories(relay, {accessory::kCondenser}, Fit::Sensed);
   relay.condensers = Places({1, 2, 3, 4, 5, 6, 7});

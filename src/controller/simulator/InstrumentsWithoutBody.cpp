@@ -4,13 +4,7 @@
 namespace mortane::controller::instruments {
 namespace {
 
-constexpr int kHub = 2;
-constexpr int kThirdUnit = 3;
-constexpr int kHandController = 5;
-constexpr int kSixthUnit = 6;
-constexpr int kRemote = 7;
-
-Instrument WithUnit(std::string name, int unit) {
+Instrument WithUnit(std::string name, std::int32_t unit) {
   Instrument instrument;
   instrument.name = std::move(name);
   AddUnit(instrument, unit, "V1.30");
@@ -21,8 +15,8 @@ Instrument WithUnit(std::string name, int unit) {
 }  // namespace
 
 Instrument Hub() {
-  Instrument hub = WithUnit("Hub", kHub);
-  AddUnit(hub, kHandController, "V1.30");
+  Instrument hub = WithUnit("Hub", controllerunit::kHub);
+  AddUnit(hub, controllerunit::kHandController, "V1.30");
   FitAccessories(hub,
                  {accessory::kFilterCube, accessory::kCondenser, accessory::kLightPath,
                   accessory::kOpticalZoom, accessory::kEpiFieldStop, accessory::kNDFilter,
@@ -36,7 +30,7 @@ Instrument Hub() {
 }
 
 Instrument Outpost() {
-  Instrument outpost = WithUnit("Outpost", kThirdUnit);
+  Instrument outpost = WithUnit("Outpost", controllerunit::kThirdKind);
   FitAccessories(outpost, {accessory::kNosepiece}, Fit::Sensed);
   FitAccessories(outpost, {accessory::kFilterCube, accessory::kZFocusDrive}, Fit::Controllable);
   outpost.nosepiece = Places({1, 4, 7, 10, 14, 18});
@@ -45,7 +39,7 @@ Instrument Outpost() {
 }
 
 Instrument Deck() {
-  Instrument deck = WithUnit("Deck", kSixthUnit);
+  Instrument deck = WithUnit("Deck", controllerunit::kFifthKind);
   FitAccessories(
       deck,
       {accessory::kNosepiece, accessory::kFilterCube, accessory::kEpiShutter, accessory::kDiaLamp},
@@ -59,7 +53,7 @@ Instrument Deck() {
 Instrument DeckRemote() {
   Instrument deck = Deck();
   deck.name = "DeckRemote";
-  AddUnit(deck, kRemote, "V1.30");
+  AddUnit(deck, controllerunit::kRemote, "V1.30");
   deck.switches.remote = 1;
   deck.switches.remoteLed = 2;
   return deck;

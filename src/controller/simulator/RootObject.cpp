@@ -1,6 +1,8 @@
 #include "controller/simulator/RootObject.h"
 
 #include "common/Text.h"
+#include "controller/ControllerNumbers.h"
+#include "controller/DeviceList.h"
 #include "controller/simulator/AccessoryObjects.h"
 #include "controller/simulator/DatabaseObjects.h"
 #include "controller/simulator/DriveObjects.h"
@@ -10,24 +12,22 @@
 namespace mortane::controller {
 namespace {
 
-constexpr std::size_t kSystemNameLength = 15;
-constexpr std::int32_t kRemoteUnit = 7;
-
 struct CodeRow {
   std::int32_t code;
   std::int32_t BuzzerData::*field;
 };
-constexpr std::array kBuzzers{CodeRow{1, &BuzzerData::body}, CodeRow{2, &BuzzerData::hub},
-                              CodeRow{5, &BuzzerData::handController},
-                              CodeRow{6, &BuzzerData::fifthUnit}};
+constexpr std::array kBuzzers{CodeRow{buzzer::kBody, &BuzzerData::body},
+                              CodeRow{buzzer::kHub, &BuzzerData::hub},
+                              CodeRow{buzzer::kHandController, &BuzzerData::handController},
+                              CodeRow{buzzer::kFifthKind, &BuzzerData::fifthUnit}};
 
 struct UnitRow {
   std::int32_t unit;
   std::int32_t SwitchData::*field;
 };
-constexpr std::array kSwitches{UnitRow{0, &SwitchData::body},
-                               UnitRow{4, &SwitchData::handController},
-                               UnitRow{kRemoteUnit, &SwitchData::remote}};
+constexpr std::array kSwitches{UnitRow{switchunit::kBody, &SwitchData::body},
+                               UnitRow{switchunit::kHandController, &SwitchData::handController},
+                               UnitRow{switchunit::kRemote, &SwitchData::remote}};
 
 // A device as an entry of the list; its own type tells it from other objects of a device.
 struct DeviceEntryLink {
@@ -131,7 +131,8 @@ using RootMembers = MemberTable<Root>;
 void PutSystemName(const Root& root, const Value& value, Args) {
   const std::string name = TextArgument(value);
   if (CharacterCount(name) > kSystemNameLength) {
-    RaiseSimulated("The system name is longer than 15 characters.");
+    RaiseSimulated("The system name is longer than " + std::to_string(kSystemNameLength) +
+                   " characters.");
   }
   root.State()->Assign(root.Connected().name, name);
 }
@@ -200,7 +201,7 @@ std::int32_t& SwitchOf(const Root& root, Args args) {
 }
 
 std::int32_t& LedOf(const Root& root, Args args) {
-  if (LongArgument(args[0]) != kRemoteUnit) RaiseSimulated("Only the remote has an LED.");
+  if (LongArgument(args[0]) != switchunit::kRemote) RaiseSimulated("Only the remote has an LED.");
   return root.Connected().switches.remoteLed;
 }
 

@@ -1,12 +1,10 @@
 #include "controller/simulator/SettingsObject.h"
 
 #include "common/DigitCode.h"
+#include "controller/ControllerNumbers.h"
 
 namespace mortane::controller {
 namespace {
-
-constexpr std::int32_t kBodyUnit = 0;
-constexpr std::int32_t kHandUnit = 4;
 
 std::int32_t& InterlockOf(const DeviceLink& link, Args args) {
   const std::int32_t item = LongArgument(args[0]);
@@ -25,10 +23,10 @@ std::string& SwitchOf(const DeviceLink& link, Args args) {
   const std::string key = TextArgument(args[1]);
   const std::int32_t digit = key.size() == 1 ? CharToDigit(key) : -1;
   Instrument& device = link.Connected();
-  if (unit == kBodyUnit && digit >= 1 && digit <= std::int32_t{kBodySwitches}) {
+  if (unit == switchunit::kBody && digit >= 1 && digit <= std::int32_t{kBodySwitches}) {
     return device.bodySwitches[static_cast<std::size_t>(digit) - 1];
   }
-  if (unit == kHandUnit && digit >= 0 && digit < std::int32_t{kHandSwitches}) {
+  if (unit == switchunit::kHandController && digit >= 0 && digit < std::int32_t{kHandSwitches}) {
     return device.handSwitches[static_cast<std::size_t>(digit)];
   }
   RaiseSimulated("Unit " + std::to_string(unit) + " has no switch \"" + key + "\".");

@@ -1,0 +1,48 @@
+// Numbers by which a controller names its units, their switches and buzzers, and what triggers an
+// interlock. The numbers of the accessories: AccessoryNumber.h.
+#pragma once
+
+#include <cstdint>
+
+namespace mortane {
+
+// The units as the model counts them. Unit 3 is only told by its number.
+namespace controllerunit {
+inline constexpr std::int32_t kBody = 0;
+inline constexpr std::int32_t kHub = 1;
+inline constexpr std::int32_t kThirdKind = 2;
+inline constexpr std::int32_t kHandController = 4;
+inline constexpr std::int32_t kFifthKind = 5;
+inline constexpr std::int32_t kRemote = 6;
+inline constexpr std::int32_t kCount = 7;
+
+// As ControllerPresent and ControllerVersion of the library count them.
+constexpr std::int32_t NumberInLibrary(std::int32_t unit) {
+  return unit + 1;
+}
+}  // namespace controllerunit
+
+// As EnableSwitch and its kin, SwitchFunction and the LED use them.
+namespace switchunit {
+inline constexpr std::int32_t kBody = 0;
+inline constexpr std::int32_t kHandController = 4;
+inline constexpr std::int32_t kRemote = 7;
+}  // namespace switchunit
+
+// As BuzzerOn and its kin use them.
+namespace buzzer {
+inline constexpr std::int32_t kBody = 1;
+inline constexpr std::int32_t kHub = 2;
+inline constexpr std::int32_t kHandController = 5;
+inline constexpr std::int32_t kFifthKind = 6;
+}  // namespace buzzer
+
+// As the interlocks use them.
+namespace trigger {
+inline constexpr std::int32_t kObservation = 1;
+inline constexpr std::int32_t kOpticalZoom = 2;
+inline constexpr std::int32_t kNosepiece = 3;
+inline constexpr std::int32_t kLightPath = 4;
+}  // namespace trigger
+
+}  // namespace mortane
