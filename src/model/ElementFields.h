@@ -18,6 +18,7 @@ class ElementFields {
 
   explicit ElementFields(const DomNode& node) : attributes_(node.Attributes()) {}
 
+  bool Has(std::string_view name) const { return Find(name) != nullptr; }
   // Empty when there is no such attribute.
   std::string Text(std::string_view name) const;
   // kAbsent when there is no such attribute, 0 when its text is no number.

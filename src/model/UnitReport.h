@@ -21,6 +21,13 @@ std::string FailureOf(std::string_view opening, Statement&& statement) {
   }
 }
 
+// Runs the writing of one item; answers the item's line when it fails, an empty text otherwise.
+template <typename Statement>
+std::string LineIfFailed(std::string_view line, Statement&& statement) {
+  ErrorTrap trap;
+  return trap.Run(std::forward<Statement>(statement)) ? std::string() : std::string(line);
+}
+
 // Runs `collect` with a text for its lines. What it has collected joins `list` also when it
 // fails; the failure's line is the answer.
 template <typename Collect>
