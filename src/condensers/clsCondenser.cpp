@@ -7,11 +7,8 @@ namespace {
 
 // Four labels, none spelled like another: as people know them from the reports.
 constexpr TurretKind kCassette{
-    accessory::kCondenser,
-    [](const controller::Microscope& mic) { return mic.CondenserDevice().Positions(); },
-    kCondenserOptionBase + kOptionPositions,
-    "Condenser Casset (",
-    "Condenser[",
+    accessory::kCondenser, kCondenserOptionBase + kOptionPositions,
+    "Condenser Casset (",  "Condenser[",
     "Condenser Casset[",
 };
 constexpr std::string_view kRefused = "Condenser Caset[";

@@ -77,6 +77,9 @@ class Microscope : public Proxy {
   std::int32_t RemoteLED() const { return GetLong("RemoteLED", {switchunit::kRemote}); }
   void PutRemoteLED(std::int32_t state) const { Put("RemoteLED", state, {switchunit::kRemote}); }
 
+  // One of the three turrets by its accessory number; another number raises a subscript failure.
+  TurretDevice Turret(std::int32_t accessoryNumber) const;
+
   // Any of the accessory devices above by its member's name, for tables of devices.
   AccessoryDevice Accessory(std::string_view member) const {
     return Device<AccessoryDevice>(member);

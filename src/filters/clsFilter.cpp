@@ -6,12 +6,7 @@ namespace mortane {
 namespace {
 
 constexpr TurretKind kFilterTurret{
-    accessory::kFilterCube,
-    [](const controller::Microscope& mic) { return mic.FilterCubeDevice().Positions(); },
-    kHighestCode,
-    "Filter Cube (",
-    "Filter Cube[",
-    "Filter Cube[",
+    accessory::kFilterCube, kHighestCode, "Filter Cube (", "Filter Cube[", "Filter Cube[",
 };
 
 }  // namespace

@@ -24,19 +24,9 @@ clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts, NamedMu
     : ConnectedMicroscope(prompts),
       library_(library),
       makeMutex_(std::move(makeMutex)),
-      turrets_{
-          {{accessory::kNosepiece,
-            [](const controller::Microscope& mic) { return mic.NosepieceDevice().Positions(); },
-            "Nosepiece Count",
-            {&curNosepiece.Count}},
-           {accessory::kFilterCube,
-            [](const controller::Microscope& mic) { return mic.FilterCubeDevice().Positions(); },
-            "Filter Cube Count",
-            {&curFilter.Count}},
-           {accessory::kCondenser,
-            [](const controller::Microscope& mic) { return mic.CondenserDevice().Positions(); },
-            "Condenser Count",
-            {&curCondenser.Count}}}} {
+      turrets_{{{accessory::kNosepiece, "Nosepiece Count", {&curNosepiece.Count}},
+                {accessory::kFilterCube, "Filter Cube Count", {&curFilter.Count}},
+                {accessory::kCondenser, "Condenser Count", {&curCondenser.Count}}}} {
   FillTables();
 }
 

@@ -47,7 +47,8 @@ class clsK70 : public ConnectedMicroscope {
   // The system name as last read or edited; a controller holds 15 characters of it.
   std::string SystemName;
 
-  // The configuration units.
+  // The configuration units. Their order is that in which callers know them. Some get a sibling
+  // that is made after them, so no unit uses its siblings while it is made.
   clsNosepiece curNosepiece{*this, DbNosepiece};
   clsDbNosepiece DbNosepiece{*this};
   clsLimitation curLimit{*this};
@@ -103,9 +104,9 @@ class clsK70 : public ConnectedMicroscope {
   // The count of a turret's addresses: 0 when the accessory is not mounted.
   struct Turret {
     std::int32_t accessory;
-    controller::TurretPositions (*positions)(const controller::Microscope&);
     std::string_view failureLabel;
-    std::vector<std::int32_t*> counts;  // members of units that keep it
+    // The members that keep it: of the turret's own unit, and of units that position by address.
+    std::vector<std::int32_t*> counts;
   };
 
   void CreateRoot();

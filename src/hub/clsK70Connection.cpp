@@ -94,7 +94,9 @@ void clsK70::Disconnect() {
 }
 
 std::int32_t clsK70::TurretCount(const Turret& turret) const {
-  return IsMounted(turret.accessory) == kNotMounted ? 0 : turret.positions(Mic).Count();
+  return IsMounted(turret.accessory) == kNotMounted
+             ? 0
+             : Mic.Turret(turret.accessory).Positions().Count();
 }
 
 // A turret without addresses counts as not mounted from here on.

@@ -1,8 +1,15 @@
 // Receive, Send and Modify: three walks over the one table of units.
 #include "common/Text.h"
 #include "hub/clsK70.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
+namespace {
+
+constexpr std::string_view kSystemNameLine = "System Name";
+
+}  // namespace
+
 void clsK70::Receive() {
   std::string failures = ReadSystemName();
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
@@ -38,29 +45,24 @@ std::string clsK70::Modify() {
 }
 
 std::string clsK70::ReadSystemName() {
-  ErrorTrap trap;
-  trap.Run([this] { SystemName = Entry().Name(); });
-  return trap.TakeFailed() ? "System Name" : "";
+  return LineIfFailed(kSystemNameLine, [this] { SystemName = Entry().Name(); });
 }
 
 std::string clsK70::WriteSystemName() {
-  ErrorTrap trap;
-  trap.Run([this] {
+  return LineIfFailed(kSystemNameLine, [this] {
     if (Entry().Name() != SystemName) {
       Mic.PutSystemName(FirstCharacters(SystemName, kSystemNameLength));
     }
   });
-  return trap.TakeFailed() ? "System Name" : "";
 }
 
 // Unlike Connect, a turret that lost its addresses stays mounted.
 std::string clsK70::ReadTurretCounts() {
   std::string failures;
-  ErrorTrap trap;
   for (const Turret& turret : turrets_) {
     std::int32_t count = 0;
-    trap.Run([&] { count = TurretCount(turret); });
-    if (trap.TakeFailed()) failures = AppendLine(std::move(failures), turret.failureLabel);
+    failures = AppendLine(std::move(failures),
+                          LineIfFailed(turret.failureLabel, [&] { count = TurretCount(turret); }));
     for (std::int32_t* stored : turret.counts) *stored = count;
   }
   return failures;

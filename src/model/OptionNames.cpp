@@ -68,13 +68,10 @@ std::string OptionNames::Write(const ConnectedMicroscope& microscope) const {
     WriteEachOption(report, kind_.records(microscope.Mic.AccessoryDatabase()),
                     [&](const controller::DatabaseRecord& record) {
                       const std::int32_t code = record.Code();
-                      ErrorTrap trap;
-                      trap.Run([&] {
+                      const std::string line = ItemLine(kind_.writeLabel, code - kind_.optionBase);
+                      report.Add(LineIfFailed(line, [&] {
                         if (Differs(record, code)) record.PutName(names_[IndexOf(code)]);
-                      });
-                      if (trap.TakeFailed()) {
-                        report.Add(ItemLine(kind_.writeLabel, code - kind_.optionBase));
-                      }
+                      }));
                     });
   });
   return report.Lines();

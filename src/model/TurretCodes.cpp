@@ -35,11 +35,12 @@ TurretCodes::Reading TurretCodes::Read(const ConnectedMicroscope& microscope) {
   if (microscope.IsMounted(kind_.accessory) == kNotMounted) return {};
   std::int32_t count = 0;
   std::string failure = FailureOf(kind_.failureLabel, [&] {
-    ForEachItem(kind_.positions(microscope.Mic), [&](const controller::TurretPosition& item) {
-      const std::size_t index = CheckedIndex(item.Position(), 1, codes_.size());
-      codes_[index] = item.Code();
-      ++count;
-    });
+    ForEachItem(microscope.Mic.Turret(kind_.accessory).Positions(),
+                [&](const controller::TurretPosition& item) {
+                  const std::size_t index = CheckedIndex(item.Position(), 1, codes_.size());
+                  codes_[index] = item.Code();
+                  ++count;
+                });
   });
   if (!failure.empty()) return {std::move(failure), std::nullopt};
   return {{}, count};
@@ -49,12 +50,14 @@ std::string TurretCodes::Modify(const ConnectedMicroscope& microscope, std::stri
                                 const NameOf& nameOf) const {
   if (microscope.IsMounted(kind_.accessory) == kNotMounted) return {};
   return CollectDifferences(list, kind_.failureLabel, [&](std::string& lines) {
-    ForEachItem(kind_.positions(microscope.Mic), [&](const controller::TurretPosition& item) {
-      const std::int32_t position = item.Position();
-      const std::int32_t stored = Stored(position);
-      if (item.Code() == stored) return;
-      lines = AppendLine(lines, ItemLine(kind_.differenceLabel, position) + " " + nameOf(stored));
-    });
+    ForEachItem(microscope.Mic.Turret(kind_.accessory).Positions(),
+                [&](const controller::TurretPosition& item) {
+                  const std::int32_t position = item.Position();
+                  const std::int32_t stored = Stored(position);
+                  if (item.Code() == stored) return;
+                  lines = AppendLine(
+                      lines, ItemLine(kind_.differenceLabel, position) + " " + nameOf(stored));
+                });
   });
 }
 
@@ -62,21 +65,20 @@ std::string TurretCodes::Write(const ConnectedMicroscope& microscope) const {
   if (microscope.IsMounted(kind_.accessory) == kNotMounted) return {};
   WriteReport report(kind_.failureLabel);
   report.Run([&] {
-    ForEachItem(kind_.positions(microscope.Mic), [&](const controller::TurretPosition& item) {
-      report.Run([&] { WriteItem(item, report); });
-    });
+    ForEachItem(microscope.Mic.Turret(kind_.accessory).Positions(),
+                [&](const controller::TurretPosition& item) {
+                  report.Run([&] { WriteItem(item, report); });
+                });
   });
   return report.Lines();
 }
 
 void TurretCodes::WriteItem(const controller::TurretPosition& item, WriteReport& report) const {
   const std::int32_t position = item.Position();
-  ErrorTrap trap;
-  trap.Run([&] {
+  report.Add(LineIfFailed(ItemLine(kind_.writeLabel, position), [&] {
     const std::int32_t stored = Stored(position);
     if (item.Code() != stored) item.PutCode(stored);
-  });
-  if (trap.TakeFailed()) report.Add(ItemLine(kind_.writeLabel, position));
+  }));
 }
 
 TurretCodes::FileItem TurretCodes::ReadDom(const DomNode& node) {

@@ -16,8 +16,7 @@ namespace mortane {
 
 // In what turrets differ. Labels end with the bracket that opens the number.
 struct TurretKind {
-  std::int32_t accessory;
-  controller::TurretPositions (*positions)(const controller::Microscope&);
+  std::int32_t accessory;  // one that controller::Microscope::Turret knows
   std::int32_t highestCode;
   std::string_view failureLabel;
   std::string_view differenceLabel;

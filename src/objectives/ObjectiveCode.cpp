@@ -22,7 +22,7 @@ std::string EncodeNumber(double value, double units) {
     RaiseOwnFailure(kOverflowError,
                     "An objective code cannot hold " + ShortestGeneral(value, PointFormat()) + ".");
   }
-  return Trim(HexPadded(*product, kNumberWidth));
+  return HexPadded(*product, kNumberWidth);
 }
 
 // Divided, because a product with a tenth is not the double that the controller gives.

@@ -241,8 +241,7 @@ void clsDbNosepiece::WriteRecord(const controller::ObjectiveRecord& record,
   WriteValues(record, code, trap);
   if (trap.TakeFailed()) report.Add(ItemLine(kItem, position));
   if (!IsOptionPosition(position)) return;
-  trap.Run([&] { WriteCondenser(position); });
-  if (trap.TakeFailed()) report.Add(ItemLine(kItem, position));
+  report.Add(LineIfFailed(ItemLine(kItem, position), [&] { WriteCondenser(position); }));
 }
 
 // The values are written also when the name could not be.

@@ -98,12 +98,10 @@ std::string clsLimitation::WriteSdk() const {
   }
   const auto* const found = std::find(kKeys.begin(), kKeys.end(), key);
   if (found == kKeys.end()) return {};
-  ErrorTrap trap;
-  trap.Run([&] {
+  return LineIfFailed(kRefused, [&] {
     const auto number = static_cast<std::int32_t>(found - kKeys.begin()) + 1;
     parent.Mic.NosepieceDevice().PutLimitation(number);
   });
-  return trap.TakeFailed() ? std::string(kRefused) : std::string();
 }
 
 std::string clsLimitation::ReadDom(const DomNode& node) {

@@ -7,12 +7,7 @@ namespace mortane {
 namespace {
 
 constexpr TurretKind kNosepiece{
-    accessory::kNosepiece,
-    [](const controller::Microscope& mic) { return mic.NosepieceDevice().Positions(); },
-    kHighestCode,
-    "Nosepiece (",
-    "Nosepiece[",
-    "Nosepiece[",
+    accessory::kNosepiece, kHighestCode, "Nosepiece (", "Nosepiece[", "Nosepiece[",
 };
 
 }  // namespace

@@ -101,6 +101,22 @@ TEST(Turrets, CountAndEnumerateTheirPlacesInOrder) {
   EXPECT_EQ(Enumerated(rig.root.CondenserDevice()), rig.instrument().condensers);
 }
 
+TEST(Turrets, AreKnownByTheirAccessoryNumbersToo) {
+  SimulatedRig rig("Harbour");
+  EXPECT_EQ(Enumerated(rig.root.Turret(accessory::kNosepiece)), rig.instrument().nosepiece);
+  EXPECT_EQ(Enumerated(rig.root.Turret(accessory::kFilterCube)), rig.instrument().filterCubes);
+  EXPECT_EQ(Enumerated(rig.root.Turret(accessory::kCondenser)), rig.instrument().condensers);
+  for (const std::int32_t number : {0, 1, 14, 15}) {
+    try {
+      rig.root.Turret(number);
+      FAIL() << number;
+    } catch (const Failure& failure) {
+      EXPECT_EQ(failure.Number(), kSubscriptError);
+      EXPECT_EQ(failure.Description(), "Accessory " + std::to_string(number) + " is no turret.");
+    }
+  }
+}
+
 TEST(Turrets, EnumeratePlacesThatAreNumberedOddly) {
   SimulatedRig rig("Harbour");
   const TurretPlaces odd{{0, 1}, {11, 250}, {1, -5}};

@@ -1,4 +1,6 @@
 // The code text in which a controller holds an optional objective, and its two raw commands.
+// Written apart from objectives/ObjectiveCode on purpose: the simulated controller is a second
+// opinion on the format, so a mistake in one of the two shows in every test that uses both.
 #pragma once
 
 #include <string>
