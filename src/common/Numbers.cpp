@@ -55,15 +55,16 @@ bool TakeWholePart(std::string_view& text, const NumberFormat& format, std::stri
   return true;
 }
 
-bool TakeExponent(std::string_view& text, std::string& plain) {
-  if (text.empty() || (text.front() != 'e' && text.front() != 'E')) return true;
+// An exponent without digits is found out when the whole of `plain` is converted.
+void TakeExponent(std::string_view& text, std::string& plain) {
+  if (text.empty() || (text.front() != 'e' && text.front() != 'E')) return;
   text.remove_prefix(1);
   plain += 'e';
   if (!text.empty() && (text.front() == '+' || text.front() == '-')) {
     plain += text.front();
     text.remove_prefix(1);
   }
-  return TakeDigits(text, plain) > 0;
+  TakeDigits(text, plain);
 }
 
 }  // namespace
@@ -97,7 +98,8 @@ std::optional<double> ParseNumber(std::string_view text, const NumberFormat& for
     fractionDigits = TakeDigits(rest, plain);
   }
   if (wholeDigits + fractionDigits == 0) return std::nullopt;
-  if (!TakeExponent(rest, plain) || !rest.empty()) return std::nullopt;
+  TakeExponent(rest, plain);
+  if (!rest.empty()) return std::nullopt;
 
   double value = 0;
   const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);

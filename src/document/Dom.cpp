@@ -8,6 +8,7 @@
 #include <new>
 
 #include "common/Failure.h"
+#include "common/Text.h"
 #include "document/DomParser.h"
 #include "platform/AtomicFile.h"
 
@@ -48,9 +49,10 @@ void CheckText(std::string_view text, std::string_view name) {
     const int length = XmlCharacterLength(text.substr(offset));
     if (length == 0) {
       const int byte = static_cast<unsigned char>(text[offset]);
-      RaiseOwnFailure(kConversionError,
-                      "XML cannot hold the character at position " + std::to_string(offset + 1) +
-                          " of " + std::string(name) + " (byte " + std::to_string(byte) + ")");
+      const std::size_t position = CharacterCount(text.substr(0, offset)) + 1;
+      RaiseOwnFailure(kConversionError, "XML cannot hold the character at position " +
+                                            std::to_string(position) + " of " + std::string(name) +
+                                            " (byte " + std::to_string(byte) + ")");
     }
     offset += static_cast<std::size_t>(length);
   }

@@ -63,18 +63,18 @@ void Refuse(void* parser, const char* reason) {
 }
 
 void RefuseEntity(void* parser, const xmlChar*, int, const xmlChar*, const xmlChar*, xmlChar*) {
-  Refuse(parser, "entities are not taken");
+  Refuse(parser, "entities are not allowed");
 }
 
 void RefuseUnparsedEntity(void* parser, const xmlChar*, const xmlChar*, const xmlChar*,
                           const xmlChar*) {
-  Refuse(parser, "entities are not taken");
+  Refuse(parser, "entities are not allowed");
 }
 
 // Asked for all but the five predefined ones. Without a declaration there is no text to put in
 // its place, and a value with a gap would be worse than none.
 xmlEntityPtr RefuseReference(void* parser, const xmlChar*) {
-  Refuse(parser, "entities are not taken");
+  Refuse(parser, "entities are not allowed");
   return nullptr;
 }
 
@@ -82,7 +82,7 @@ xmlEntityPtr RefuseReference(void* parser, const xmlChar*) {
 void RefuseAttributeDefault(void* parser, const xmlChar*, const xmlChar*, int, int, const xmlChar*,
                             xmlEnumerationPtr values) {
   xmlFreeEnumeration(values);
-  Refuse(parser, "attribute declarations are not taken");
+  Refuse(parser, "attribute declarations are not allowed");
 }
 
 // Bytes of a character in the encoding that the first bytes of a document show.

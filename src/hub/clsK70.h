@@ -123,7 +123,7 @@ class clsK70 : public ConnectedMicroscope {
   std::string ReadSystemName();
   std::string WriteSystemName();
   std::string ReadTurretCounts();
-  void Progress(std::size_t unitsDone) const;
+  void Progress(std::size_t stepsDone) const;
 
   std::optional<DomNode> LoadSettings(const std::string& fname, DomDocument& document);
   std::string ReadSection(std::size_t fileItem, const DomNode& section);

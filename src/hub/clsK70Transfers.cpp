@@ -11,9 +11,10 @@ constexpr std::string_view kSystemNameLine = "System Name";
 }  // namespace
 
 void clsK70::Receive() {
+  Progress(0);
   std::string failures = ReadSystemName();
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
-    Progress(i);
+    Progress(i + 1);
     const TransferStep& step = transfers_[i];
     failures = AppendLine(std::move(failures), ReportOf(step.unit, step.read));
   }
@@ -23,9 +24,10 @@ void clsK70::Receive() {
 }
 
 void clsK70::Send() {
+  Progress(0);
   std::string failures = WriteSystemName();
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
-    Progress(i);
+    Progress(i + 1);
     const TransferStep& step = transfers_[i];
     if (step.gate()) failures = AppendLine(std::move(failures), ReportOf(step.unit, step.write));
   }
@@ -68,9 +70,9 @@ std::string clsK70::ReadTurretCounts() {
   return failures;
 }
 
-// The system name counts as a step before the units.
-void clsK70::Progress(std::size_t unitsDone) const {
-  prompts().ShowProgress(static_cast<int>(unitsDone), static_cast<int>(transfers_.size()) + 1);
+// The system name is a step before those of the units.
+void clsK70::Progress(std::size_t stepsDone) const {
+  prompts().ShowProgress(static_cast<int>(stepsDone), static_cast<int>(transfers_.size()) + 1);
 }
 
 }  // namespace mortane

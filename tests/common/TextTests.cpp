@@ -64,6 +64,10 @@ TEST(CharacterCount, CountsCharactersAndNotBytes) {
       {"a sequence cut short", "a\xE9\xA1", 3},
       {"a longer form than needed", "\xC1\x81", 2},
       {"a lead byte before ASCII", "\xC3(", 2},
+      {"the first and the last of two bytes", "\xC2\x80\xDF\xBF", 2},
+      {"the first and the last of three bytes", "\xE0\xA0\x80\xEF\xBF\xBF", 2},
+      {"the first and the last of four bytes", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", 2},
+      {"a lead byte beyond Unicode", "\xF5\x80\x80\x80", 4},
   };
   for (const CountRow& row : rows) EXPECT_EQ(CharacterCount(row.text), row.count) << row.meaning;
 }
@@ -99,6 +103,7 @@ TEST(RightTrim, LeavesTheLeftSide) {
 
 TEST(EqualsIgnoringCase, FoldsAsciiOnly) {
   EXPECT_TRUE(EqualsIgnoringCase("SETUP", "setup"));
+  EXPECT_TRUE(EqualsIgnoringCase("ABYZ", "abyz"));
   EXPECT_TRUE(EqualsIgnoringCase("/SIM", "/sim"));
   EXPECT_TRUE(EqualsIgnoringCase("", ""));
   EXPECT_FALSE(EqualsIgnoringCase("setup", "setup "));

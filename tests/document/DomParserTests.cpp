@@ -184,6 +184,43 @@ TEST(LoadText, NamesTheLineOfTheFault) {
   EXPECT_TRUE(document.Problem().starts_with("line 3: ")) << document.Problem();
 }
 
+TEST(LoadText, SaysInWhichLineWhatIsNotAllowed) {
+  const Row rows[] = {
+      {"line 2: entities are not allowed", "<!DOCTYPE a [\n<!ENTITY b 'c'>]><a/>"},
+      {"line 4: entities are not allowed", "<a>\n\n\n<b c='&d;'/></a>"},
+      {"line 3: entities are not allowed",
+       "<!DOCTYPE a [<!NOTATION n SYSTEM 'n'>\n\n<!ENTITY b SYSTEM 'c' NDATA n>]><a/>"},
+      {"line 2: attribute declarations are not allowed",
+       "<!DOCTYPE a [\n<!ATTLIST b c CDATA 'd'>]><a/>"},
+  };
+  for (const Row& row : rows) {
+    DomDocument document;
+    EXPECT_FALSE(document.LoadText(row.bytes)) << row.meaning;
+    EXPECT_EQ(document.Problem(), row.meaning);
+  }
+}
+
+// A byte of 0 beside a byte of 0 of the next character is no NUL.
+TEST(LoadText, FindsNoNulBetweenTwoWideCharacters) {
+  const std::string little = Utf16("<a b='x") + "\0\x01"s + Utf16("'/>").substr(2);
+  const std::string big = Utf16("<a b='", true) + "\x01\0"s + Utf16("x'/>", true).substr(2);
+  for (const std::string& bytes : {little, big}) {
+    DomDocument document;
+    ASSERT_TRUE(document.LoadText(bytes)) << document.Problem();
+    const std::string value = document.Children().at(0).Attributes().at(0).value;
+    EXPECT_EQ(value.size(), 3U) << "x and the letter U+0100";
+    EXPECT_NE(value.find("\xC4\x80"), std::string::npos);
+  }
+}
+
+TEST(LoadText, FindsANulAmongWideCharacters) {
+  for (const bool bigEnd : {false, true}) {
+    DomDocument document;
+    EXPECT_FALSE(document.LoadText(Utf16("<a/>\0"s, bigEnd)));
+    EXPECT_EQ(document.Problem(), "the document holds a NUL character");
+  }
+}
+
 TEST(Load, NamesTheFileThatCannotBeRead) {
   const test::TempFolder folder;
   for (const std::string& path :

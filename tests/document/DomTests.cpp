@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -172,6 +173,30 @@ TEST(DomDocument, RaisesAFailureForWhatXmlCannotHold) {
     }
   }
   EXPECT_EQ(document.ToText(), "<a NAME=\"old\"/>");
+}
+
+std::string DescriptionOf(const std::function<void()>& act) {
+  try {
+    act();
+    return {};
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Number(), kConversionError);
+    return failure.Description();
+  }
+}
+
+TEST(DomDocument, SaysWhatItCannotHoldAndWhere) {
+  DomDocument document;
+  DomNode root = document.CreateElement("a");
+  EXPECT_EQ(DescriptionOf([&] { root.SetAttribute("NAME", "µ顕\x01"); }),
+            "XML cannot hold the character at position 3 of attribute NAME (byte 1)");
+  EXPECT_EQ(DescriptionOf([&] { root.SetAttribute("a\xFF", "v"); }),
+            "XML cannot hold the character at position 2 of a name (byte 255)");
+  EXPECT_EQ(DescriptionOf([&] { root.SetAttribute("a b", "v"); }),
+            "XML cannot hold the name \"a b\"");
+  EXPECT_EQ(DescriptionOf([&] { document.CreateElement("1"); }), "XML cannot hold the name \"1\"");
+  EXPECT_EQ(DescriptionOf([&] { document.CreateElement("\x02"); }),
+            "XML cannot hold the character at position 1 of a name (byte 2)");
 }
 
 TEST(DomDocument, RaisesAFailureForNamesThatAreNone) {

@@ -149,6 +149,7 @@ TEST(Connect, ATurretWithoutAddressesCountsAsNotMounted) {
 TEST(Connect, TheCountOfATurretThatIsNotFittedIsNotAsked) {
   Rig rig("Shell");
   EXPECT_TRUE(rig.k70.Connect(1));
+  ASSERT_FALSE(rig.journal.Lines().empty());
   for (const std::string& line : rig.journal.Lines()) {
     EXPECT_EQ(line.find("Positions"), std::string::npos) << line;
   }

@@ -30,6 +30,12 @@ class SettingsFile : public testing::Test {
     rig.k70.ReadXML(path);
   }
 
+  // All that the model would save.
+  std::string Model() {
+    rig.k70.WriteXML(folder.Path("model.xml"));
+    return TempFolder::Read(folder.Path("model.xml"));
+  }
+
   TempFolder folder;
   Rig rig{"Quay"};
 };
@@ -171,8 +177,9 @@ TEST_F(SettingsFile, UnknownElementsInSectionsArePassedOverInSilence) {
     text += "<" + std::string(section.element) + "><WHATEVER POSITION=\"1\"/>text</" +
             std::string(section.element) + ">";
   }
+  const std::string before = Model();
   Open(folder.Write("unknown.xml", text + "</Setup>"));
-  EXPECT_EQ(rig.k70.SystemName, "Before");
+  EXPECT_EQ(Model(), before);
 }
 
 TEST_F(SettingsFile, ASectionThatIsNotWantedIsNotRead) {
@@ -218,9 +225,17 @@ TEST_F(SettingsFile, TheTactorReaderLeavesTheOtherSectionsAndTheFlagsAlone) {
   EXPECT_EQ(rig.k70.FileItem(7), 0);
 }
 
-TEST_F(SettingsFile, ReadingReachesNoController) {
-  Open(folder.Write("quiet.xml", NameFile("Quiet")));
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
+TEST_F(SettingsFile, ReadingAndWritingReachNoController) {
+  Rig source("Harbour");
+  source.ConnectAndReceive();
+  const std::string path = folder.Path("full.xml");
+  source.k70.WriteXML(path);
+  EXPECT_EQ(source.journal.CallCount(), 0U);
+  source.k70.SystemName = "Other";
+  source.k70.ReadXMLItems(path);
+  source.k70.ReadXML(path);
+  EXPECT_EQ(source.k70.SystemName, "Harbour");
+  EXPECT_EQ(source.journal.CallCount(), 0U);
 }
 
 struct BadFile {
@@ -260,6 +275,7 @@ std::vector<BadFile> BadFiles() {
 }
 
 TEST_F(SettingsFile, WhatCannotBeParsedGivesItsBoxAndLeavesTheModel) {
+  const std::string before = Model();
   for (const BadFile& bad : BadFiles()) {
     const std::string path = folder.Write("bad.xml", bad.bytes);
     rig.prompts.ExpectBox("Can't Load Xml", box::kOk);
@@ -267,7 +283,7 @@ TEST_F(SettingsFile, WhatCannotBeParsedGivesItsBoxAndLeavesTheModel) {
     rig.prompts.ExpectBox("Can't Load Xml", box::kOk);
     rig.k70.FileItem(0, -1);
     rig.k70.ReadXML(path);
-    EXPECT_EQ(rig.k70.SystemName, "Before") << bad.what;
+    EXPECT_EQ(Model(), before) << bad.what;
     EXPECT_TRUE(rig.prompts.AllAnswersUsed()) << bad.what;
   }
 }

@@ -9,6 +9,15 @@ namespace {
 constexpr const char* kFifteen = "ABCDEFGHIJKLMNO";
 constexpr const char* kTwenty = "ABCDEFGHIJKLMNOPQRST";
 
+// "progress 0/n" to "progress n/n" and nothing else.
+void ExpectWholeProgress(const std::vector<std::string>& log) {
+  ASSERT_GE(log.size(), 2U);
+  const std::string total = std::to_string(log.size() - 1);
+  for (std::size_t done = 0; done < log.size(); ++done) {
+    EXPECT_EQ(log[done], "progress " + std::to_string(done) + "/" + total);
+  }
+}
+
 TEST(Receive, TakesTheSystemName) {
   Rig rig("Harbour");
   rig.Connect();
@@ -64,6 +73,7 @@ TEST(Receive, ATurretThatIsNotMountedIsNotAskedAndGivesNoLine) {
   Rig rig("Shell");
   rig.Connect();
   rig.k70.Receive();
+  ASSERT_FALSE(rig.journal.Lines().empty());
   for (const std::string& line : rig.journal.Lines()) {
     EXPECT_EQ(line.find("Positions"), std::string::npos) << line;
   }
@@ -88,17 +98,22 @@ TEST(Receive, ShowsItsProgressFromZeroToTheEnd) {
   Rig rig("Harbour");
   rig.Connect();
   rig.k70.Receive();
-  const std::vector<std::string>& log = rig.prompts.Log();
-  ASSERT_GE(log.size(), 1U);
-  const std::string last = log.back();
-  const std::size_t slash = last.find('/');
-  EXPECT_EQ(last, "progress " + last.substr(slash + 1) + "/" + last.substr(slash + 1));
+  ExpectWholeProgress(rig.prompts.Log());
+}
+
+TEST(Send, ShowsItsProgressFromZeroToTheEnd) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.prompts.ClearRecords();
+  rig.k70.Send();
+  ExpectWholeProgress(rig.prompts.Log());
 }
 
 TEST(Send, AnUnchangedNameIsNotWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.k70.Send();
+  ASSERT_FALSE(rig.journal.Lines().empty());
   for (const std::string& line : rig.journal.Writes()) {
     EXPECT_FALSE(line.starts_with("SystemName")) << line;
   }

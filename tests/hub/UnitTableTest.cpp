@@ -12,11 +12,16 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// Something to send in every unit of nosepiece, condenser and interlocks.
+// Something to send in every unit of turrets and interlocks.
 void ChangeAll(clsK70& k70) {
   k70.curNosepiece.code(1, 5);
   k70.DbNosepiece.Set_DbNosepiece(1, "Clinic 25x", 2, 3, "25", "1.98", "0.95", 4);
   k70.curLimit.curSkip = 1;
+  k70.curFilter.code(1, 9);
+  k70.dbFilter.Set_DbFilterOption(9, "Cube", 0, 0, 0);
+  k70.Exciter.Name(241, "Ex");
+  k70.Dichroic.Name(241, "Di");
+  k70.Barrier.Name(241, "Ba");
   k70.curCondenser.code(1, 9);
   k70.dbcon.Name(141, "Slot");
   k70.ILObservation.Status(accessory::kDiaLamp, 0);
@@ -27,13 +32,28 @@ void ChangeAll(clsK70& k70) {
 constexpr const char* kNosepieceWrite = "NosepieceDevice.Positions(1).Code = 5";
 constexpr const char* kDatabaseWrite = "SendCommand(\"cONS1230FA0C63B64\")";
 constexpr const char* kLimitWrite = "NosepieceDevice.Limitation = 2";
+constexpr const char* kFilterWrite = "FilterCubeDevice.Positions(1).Code = 9";
+constexpr const char* kCubeWrite = "AccessoryDatabase.FilterCubes.Item(19).Name = \"Cube\"";
+constexpr const char* kExciterWrite = "AccessoryDatabase.Exciters.Item(12).Name = \"Ex\"";
+constexpr const char* kDichroicWrite = "AccessoryDatabase.Dichroics.Item(10).Name = \"Di\"";
+constexpr const char* kBarrierWrite = "AccessoryDatabase.Barriers.Item(12).Name = \"Ba\"";
 constexpr const char* kCondenserWrite = "CondenserDevice.Positions(1).Code = 9";
 constexpr const char* kNamesWrite = "AccessoryDatabase.Condensers.Item(10).Name = \"Slot\"";
 constexpr const char* kObservationWrite = "ControllerSettings.ClearInterlock(4, 1)";
 constexpr const char* kOtherWrite = "ControllerSettings.ClearInterlock(1, 3)";
 constexpr const char* kOffsetWrite = "NDFilterDevice.OffsetCode = 2";
-const Lines kAllWrites{kNosepieceWrite, kDatabaseWrite,    kLimitWrite, kCondenserWrite,
-                       kNamesWrite,     kObservationWrite, kOtherWrite, kOffsetWrite};
+const Lines kAllWrites{kNosepieceWrite, kDatabaseWrite, kLimitWrite,       kFilterWrite,
+                       kCubeWrite,      kExciterWrite,  kDichroicWrite,    kBarrierWrite,
+                       kCondenserWrite, kNamesWrite,    kObservationWrite, kOtherWrite,
+                       kOffsetWrite};
+
+Lines Without(const Lines& left) {
+  Lines lines = kAllWrites;
+  std::erase_if(lines, [&](const std::string& line) {
+    return std::find(left.begin(), left.end(), line) != left.end();
+  });
+  return lines;
+}
 
 // Those of the lines above that are there, in the order in which they come.
 Lines Known(const Lines& writes) {
@@ -64,7 +84,11 @@ TEST(UnitTable, ModifyListsTheUnitsInTheSameOrder) {
   ChangeAll(rig.k70);
   EXPECT_EQ(rig.k70.Modify(),
             "Nosepiece[1] Plan A 20x\r\nNosepiece Optional[1] Clinic 25x\r\n"
-            "Nosepiece Limit[Skip]\r\nCondenser[1] Ph 3\r\nOptional Condenser[1] Slot\r\n"
+            "Nosepiece Limit[Skip]\r\nFilter Cube[1] Red\r\n"
+            "Filter Cube Optional Cube[9] Cube\r\nFilter Cube Optional Item Exciter[1] Ex\r\n"
+            "Filter Cube Optional Item Dichroic[1] Di\r\n"
+            "Filter Cube Optional Item Barrier[1] Ba\r\n"
+            "Condenser[1] Ph 3\r\nOptional Condenser[1] Slot\r\n"
             "InterLock Observation[Lamp]\r\nInterLock Other[ND]\r\nInterLock Offset[ND]");
 }
 
@@ -92,34 +116,37 @@ TEST(UnitTable, ASensorOnTheNosepieceGatesItsLimitsAlone) {
   rig.ConnectAndReceive();
   ChangeAll(rig.k70);
   rig.k70.Send();
-  EXPECT_EQ(Known(rig.journal.Writes()), (Lines{kNosepieceWrite, kDatabaseWrite, kCondenserWrite,
-                                                kNamesWrite, kObservationWrite, kOffsetWrite}));
+  EXPECT_EQ(Known(rig.journal.Writes()), Without({kLimitWrite, kOtherWrite}));
 }
 
 struct GateRow {
   std::int32_t absent;
-  Lines writes;
+  Lines gated;
+  std::string difference;  // opens the line of its database
 };
 
 // The databases are not even compared then, although they would answer.
 TEST(UnitTable, AnAbsentAccessoryGatesItsUnits) {
   for (const GateRow& row :
        {GateRow{accessory::kNosepiece,
-                {kCondenserWrite, kNamesWrite, kObservationWrite, kOffsetWrite}},
-        GateRow{accessory::kCondenser,
-                {kNosepieceWrite, kDatabaseWrite, kLimitWrite, kObservationWrite, kOtherWrite,
-                 kOffsetWrite}}}) {
+                {kNosepieceWrite, kDatabaseWrite, kLimitWrite, kOtherWrite},
+                "Nosepiece Optional"},
+        GateRow{accessory::kFilterCube,
+                {kFilterWrite, kCubeWrite, kExciterWrite, kDichroicWrite, kBarrierWrite},
+                "Filter Cube Optional"},
+        GateRow{accessory::kCondenser, {kCondenserWrite, kNamesWrite}, "Optional Condenser"}}) {
     Rig rig("Harbour");
     rig.instrument().Accessory(row.absent).state = 0;
     rig.ConnectAndReceive();
     ChangeAll(rig.k70);
-    const bool nosepiece = row.absent != accessory::kNosepiece;
     const std::string list = rig.k70.Modify();
-    EXPECT_EQ(Mentions(list, "Nosepiece Optional"), nosepiece);
-    EXPECT_EQ(Mentions(list, "Optional Condenser"), !nosepiece);
+    for (const char* database :
+         {"Nosepiece Optional", "Filter Cube Optional", "Optional Condenser"}) {
+      EXPECT_EQ(Mentions(list, database), row.difference != database) << database;
+    }
     rig.journal.Clear();
     rig.k70.Send();
-    EXPECT_EQ(Known(rig.journal.Writes()), row.writes);
+    EXPECT_EQ(Known(rig.journal.Writes()), Without(row.gated));
   }
 }
 
@@ -163,7 +190,7 @@ TEST(UnitTable, ReceiveGivesTheTurretsTheirCounts) {
   EXPECT_EQ(rig.k70.curNosepiece.Count, 5);
 }
 
-TEST(UnitTable, AFileCarriesEveryUnitToAnotherModel) {
+TEST(UnitTable, AFileCarriesTheseUnitsToAnotherModel) {
   const TempFolder folder;
   const std::string path = folder.Path("all.xml");
   Rig source("Harbour");
