@@ -1,5 +1,5 @@
-// The one kind of failure in the core, its text forms, and the trap that lets a sequence of
-// controller calls go on after one of them failed.
+// Failures of the core, their texts, and a trap that lets a sequence of calls go on after one
+// failed.
 #pragma once
 
 #include <cstdint>
@@ -27,7 +27,7 @@ class Failure : public std::exception {
   std::string description_;
 };
 
-// Faults of our own, with "Mortane" as their source.
+// Error numbers of failures that the program itself raises; their source is "Mortane".
 inline constexpr std::int32_t kOverflowError = 6;
 inline constexpr std::int32_t kSubscriptError = 9;
 inline constexpr std::int32_t kConversionError = 13;
@@ -37,7 +37,8 @@ inline constexpr std::int32_t kNoObjectError = 91;
 
 [[noreturn]] void RaiseOwnFailure(std::int32_t number, std::string description);
 
-// A checked index into a table of `count` entries that begins at `first`.
+// The index, from 0, of the entry numbered `index` in a table of `count` entries whose numbers
+// begin at `first`. Raises kSubscriptError for a number outside the table.
 std::size_t CheckedIndex(std::int32_t index, std::int32_t first, std::size_t count);
 
 // A unit's line: `opening`, which ends with its bracket, then source, colon, number in
@@ -47,11 +48,11 @@ std::string FailureLine(std::string_view opening, const Failure& failure);
 // The text of a failed operation of the microscope object: "*** Connect Error!!(37)".
 std::string OperationError(std::string_view operation, const Failure& failure);
 
-// Runs statements one by one and remembers that one of them failed until it is asked; a later
-// success does not clear the mark.
+// Runs statements one by one and remembers that one of them failed. A later success does not clear
+// the mark, only TakeFailed does.
 class ErrorTrap {
  public:
-  // Runs the statement; answers whether it succeeded.
+  // Runs the statement; true when it raised no Failure.
   template <typename Statement>
   bool Run(Statement&& statement) {
     try {
@@ -63,7 +64,7 @@ class ErrorTrap {
     }
   }
 
-  // Answers whether a statement failed since the last call, and clears the mark.
+  // True when a statement failed since the last call; clears the mark.
   bool TakeFailed() { return std::exchange(failed_, false); }
 
  private:

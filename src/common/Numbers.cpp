@@ -26,7 +26,7 @@ double WithoutSignOfZero(double value) {
   return value == 0 ? 0 : value;
 }
 
-// Moves `text` past `prefix` when it begins so.
+// Removes `prefix` from the front of `text`; false when it is not there.
 bool Take(std::string_view& text, std::string_view prefix) {
   if (prefix.empty() || !text.starts_with(prefix)) return false;
   text.remove_prefix(prefix.size());
@@ -55,7 +55,7 @@ bool TakeWholePart(std::string_view& text, const NumberFormat& format, std::stri
   return true;
 }
 
-// An exponent without digits is found out when the whole of `plain` is converted.
+// An exponent without digits makes the conversion of `plain` fail.
 void TakeExponent(std::string_view& text, std::string& plain) {
   if (text.empty() || (text.front() != 'e' && text.front() != 'E')) return;
   text.remove_prefix(1);
@@ -135,7 +135,7 @@ double LeadingNumber(std::string_view text) {
   if (first == std::string_view::npos) return 0;
   text.remove_prefix(first);
   if (text.starts_with('+')) text.remove_prefix(1);
-  // Letters that from_chars would take as a number ("inf", "nan") are none here.
+  // from_chars would also take "inf" and "nan".
   const std::size_t start = text.starts_with('-') ? 1 : 0;
   if (start >= text.size() || !(IsDigit(text[start]) || text[start] == '.')) return 0;
   double value = 0;

@@ -18,8 +18,8 @@ struct NumberFormat {
 // The format of files, devices and versions: a decimal point and no groups, on every system.
 const NumberFormat& PointFormat();
 
-// The format in which the user types and reads. It starts as PointFormat; the program sets it
-// once from the operating system, tests pin it.
+// The format in which the user types and reads. It starts as PointFormat; the program sets it once
+// from the operating system.
 const NumberFormat& SystemNumberFormat();
 void SetSystemNumberFormat(NumberFormat format);
 

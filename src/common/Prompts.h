@@ -1,4 +1,5 @@
-// The one way from the core to the person at the microscope.
+// How the core asks and informs the user: boxes, file dialogs, pointer, progress. Nothing else in
+// the core shows anything.
 #pragma once
 
 #include <cstdint>
@@ -57,13 +58,13 @@ class Prompts {
 
   virtual Answer MsgBox(const std::string& text, int style, const std::string& caption = {}) = 0;
 
-  // A box that closes itself after `milliseconds` and then answers TimedOut, also when the
-  // person was quicker than the closing. `helpFile` and `context` are taken and not used.
+  // A box that closes itself after `milliseconds`. Once that time is over the answer is TimedOut,
+  // even if a button was pressed before the box was gone. `helpFile` and `context` are not used.
   virtual Answer TimedMsgBox(int milliseconds, const std::string& prompt, int style,
                              const std::string& title, const std::string& helpFile = {},
                              int context = 0) = 0;
 
-  // The chosen path, or an empty text when the person gave none. Dialogs start with no name.
+  // The chosen path; an empty text when the user cancelled. Dialogs start with no name.
   virtual std::string AskFileToOpen(const FileQuestion& question) = 0;
   virtual std::string AskFileToSave(const FileQuestion& question) = 0;
 
@@ -74,7 +75,7 @@ class Prompts {
   // operation do not fire after it.
   virtual void FlushInput() = 0;
 
-  // A plain sleep; the program does not answer meanwhile.
+  // Blocks the thread; the program handles no input meanwhile.
   virtual void Wait(int milliseconds) = 0;
 
   // A transfer has finished `done` of `total` units; done == total ends the showing.

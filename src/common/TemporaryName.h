@@ -9,7 +9,7 @@
 
 namespace mortane {
 
-// How many a process may have in one folder.
+// The numbers that one process uses in a folder: 0 to 999.
 inline constexpr int kTemporaryNames = 1000;
 
 // ".mortane-1234-0.tmp": the process that writes it, and a number that no other file has yet.

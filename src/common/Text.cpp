@@ -9,7 +9,7 @@ bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-// Bytes that the sequence beginning with `lead` has; 1 for what begins none.
+// Length in bytes of the UTF-8 sequence that `lead` begins; 1 for a byte that begins none.
 std::size_t SequenceLength(char lead) {
   const auto byte = static_cast<unsigned char>(lead);
   if (byte >= 0xC2U && byte < 0xE0U) return 2;

@@ -7,7 +7,7 @@
 
 namespace mortane {
 
-// Reports and boxes break lines so on every platform; widgets convert when they show them.
+// The line break of reports and boxes on every platform; widgets convert it for display.
 inline constexpr std::string_view kLineBreak = "\r\n";
 
 // Number of characters. A byte that is no valid UTF-8 counts as one character.
@@ -17,11 +17,11 @@ std::size_t CharacterCount(std::string_view text);
 std::string FirstCharacters(std::string_view text, std::size_t count);
 std::string LastCharacters(std::string_view text, std::size_t count);
 
-// Blanks are the character 32 alone: tabs and line ends belong to a name.
+// These remove blanks (character 32) only: tabs and line ends can be part of a name.
 std::string Trim(std::string_view text);
 std::string RightTrim(std::string_view text);
 
-// ASCII folding, so that no locale (Turkish, for one) changes what a file means.
+// Folds ASCII letters only, so that the meaning of a file does not depend on the locale.
 bool EqualsIgnoringCase(std::string_view left, std::string_view right);
 
 // The text up to its first NUL character; the whole text when it has none.

@@ -5,7 +5,7 @@
 namespace mortane {
 namespace {
 
-// Four labels, none spelled like another: as people know them from the reports.
+// The four label spellings differ on purpose.
 constexpr TurretKind kCassette{
     accessory::kCondenser, kCondenserOptionBase + kOptionPositions,
     "Condenser Casset (",  "Condenser[",

@@ -1,4 +1,4 @@
-// What stands in the condenser cassette: the condenser code at each address.
+// The condenser code at each address of the cassette.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace mortane {
 
-// Owned by clsK70. What a code means is the database's affair.
+// Owned by clsK70. clsDbCondenser knows what a code means.
 class clsCondenser {
  public:
   clsCondenser(ConnectedMicroscope& microscope, const clsDbCondenser& database);
@@ -20,8 +20,8 @@ class clsCondenser {
 
   ConnectedMicroscope& parent;
 
-  // Addresses of the cassette; told by the controller on connecting and on each read. A read
-  // that fails makes it 0; one that finds no condenser leaves it.
+  // Number of addresses, set by clsK70 on connecting and by each read. A read that fails makes it
+  // 0; one that finds no condenser leaves it.
   std::int32_t Count = 0;
 
   // Condenser code 0 to 149 at address 1 to 10; for other addresses -1, and nothing is stored.

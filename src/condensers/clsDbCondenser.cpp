@@ -3,7 +3,7 @@
 namespace mortane {
 namespace {
 
-// The two labels of a record are as people know them from the reports.
+// The labels of a difference and of a failed write differ on purpose.
 constexpr NameListKind kCondensers{
     accessory::kCondenser,
     [](const controller::AccessoryDatabase& database) {
@@ -23,7 +23,7 @@ using Records = controller::RecordList<controller::CondenserRecord>;
 
 bool Suits(const Records& records, std::int32_t code, std::int32_t address) {
   try {
-    // A fixed record stands at the position of its code.
+    // The index of a fixed record is its code.
     return records.Item(code).SuitsAddress(address) == kSuits;
   } catch (const Failure&) {
     return false;

@@ -29,8 +29,8 @@ class clsDbCondenser {
   // Keeps the first ten characters; ignores another code.
   void Name(std::int32_t code, std::string_view name) { names_.Name(code, name); }
 
-  // The fixed condensers that fit an address of the cassette, which the controller alone knows;
-  // those that give no answer are left out.
+  // Asks the controller which fixed condensers fit an address of the cassette. A condenser for
+  // which it does not answer is left out.
   std::vector<std::int32_t> FixedCodesFor(std::int32_t address) const;
 
   std::string ReadSdk() { return names_.Read(parent); }

@@ -85,7 +85,7 @@ class AccessoryDatabase : public Proxy {
   std::int32_t FilterCubeCount() const { return GetLong("FilterCubeCount"); }
   std::int32_t ObjectiveSeriesCount() const { return GetLong("ObjectiveSeriesCount"); }
   std::int32_t ObjectiveTypeCount() const { return GetLong("ObjectiveTypeCount"); }
-  // The counts of these two are the members above.
+  // Their counts are ObjectiveSeriesCount and ObjectiveTypeCount.
   RecordList<NamedItem> ObjectiveSeries() const { return List<NamedItem>("ObjectiveSeries"); }
   RecordList<NamedItem> ObjectiveTypes() const { return List<NamedItem>("ObjectiveTypes"); }
 

@@ -6,7 +6,7 @@
 
 namespace mortane {
 
-// The units as the model counts them. Unit 3 is only told by its number.
+// The units as the model counts them. Nothing depends on unit 3, which has no name.
 namespace controllerunit {
 inline constexpr std::int32_t kBody = 0;
 inline constexpr std::int32_t kHub = 1;

@@ -23,10 +23,10 @@ class DecoratedObject : public ControllerObject {
   const std::string& Path() const { return path_; }
 
  private:
-  // Makes a call with the arguments as the inner library knows them.
+  // Makes a call with the arguments unwrapped, and wraps its result.
   template <typename Make>
   Value Pass(const CallSite& site, Make&& make);
-  // The caller's objects are ours; the inner library must see its own.
+  // The caller holds decorated objects; the inner library must get its own.
   Value Unwrap(const Value& value) const;
   Value Wrap(Value result, const CallSite& site) const;
   Value Next();
@@ -74,7 +74,7 @@ std::string DescribeValue(const Value& value) {
 }
 
 std::string CallSite::Path() const {
-  // Room for the longest paths there are, so that a text is made once.
+  // Enough for nearly every path, so that the text is allocated once.
   constexpr std::size_t kUsualLength = 64;
   std::string path;
   path.reserve(std::max(object.size() + member.size() + 2, kUsualLength));
@@ -105,7 +105,7 @@ Value DecoratedObject::Wrap(Value result, const CallSite& site) const {
 
 template <typename Make>
 Value DecoratedObject::Pass(const CallSite& site, Make&& make) {
-  // Only the rare call with an object among its arguments needs a copy of them.
+  // Few calls have an object among their arguments; the others pass them on without a copy.
   if (std::none_of(site.args.begin(), site.args.end(), IsObject)) {
     return Wrap(library_.Around(site, Proceed([&] { return make(site.args); })), site);
   }

@@ -1,4 +1,4 @@
-// A library around a library, which sees every call and where in the tree of objects it goes.
+// A library around another one. It sees every call and the path of the object called.
 #pragma once
 
 #include <string>
@@ -10,17 +10,17 @@ namespace mortane::controller {
 
 enum class CallKind { Create, Get, Put, Call, EnumeratorNext };
 
-// One call, borrowed for its duration.
+// One call. Its texts and values are borrowed for its duration.
 struct CallSite {
   CallKind kind;
-  std::string_view object;  // the path of the object called; empty for the root and for a creation
-  std::string_view member;  // of a creation the name of the class
-  Args args;                // of an enumerator's step its turn, from 1
-  const Value* written = nullptr;  // of a Put
+  std::string_view object;  // path of the object called; empty for the root and for a creation
+  std::string_view member;  // for a creation the name of the class
+  Args args;                // for a step of an enumerator its number, from 1
+  const Value* written = nullptr;  // for a Put
 
-  // Leads from the root, whose members stand without a prefix, arguments in brackets:
-  // "DeviceList.Item(1).Connect()". An item that an enumerator hands out is named after the
-  // collection and its turn: "NosepieceDevice.Positions(3)". Built at each call.
+  // The path from the root, whose own members have no prefix, with arguments in brackets:
+  // "DeviceList.Item(1).Connect()". The item of an enumerator's third step is called
+  // "NosepieceDevice.Positions(3)". The text is built by each call of Path.
   std::string Path() const;
 };
 
@@ -28,7 +28,7 @@ struct CallSite {
 // library as its path.
 std::string DescribeValue(const Value& value);
 
-// The call that a decorator stands around, borrowed from the caller; makes it each time.
+// The decorated call, borrowed for the duration of Around. Makes the call each time it is called.
 class Proceed {
  public:
   template <typename Function>
@@ -53,11 +53,10 @@ class DecoratedLibrary : public ControllerLibrary {
   ObjectRef Create(std::string_view className) override;
 
  protected:
-  // Called instead of each call; `proceed` makes it.
+  // Called in place of each call; `proceed` makes the call.
   virtual Value Around(const CallSite& site, const Proceed& proceed) = 0;
 
-  // The default member of a state value was read: its number, which came with the value and is no
-  // call of its own.
+  // Called when a state value's default member is read; not counted as a call.
   virtual void TookNumber(const std::string& /*path*/, const Value& /*number*/) {}
 
  private:

@@ -27,7 +27,7 @@ class DeviceEntry : public Proxy {
 class DeviceList : public Proxy {
  public:
   using Proxy::Proxy;
-  // Makes the library scan for devices when the root is new.
+  // On a new root the library scans for devices first.
   std::int32_t Count() const { return GetLong("Count"); }
   // index from 0; out of range raises a failure.
   DeviceEntry Item(std::int32_t index) const { return DeviceEntry(GetObject("Item", {index})); }

@@ -9,7 +9,7 @@
 
 namespace mortane::controller {
 
-// Facet of every accessory device. State() is 1 when the accessory is fitted.
+// A part of every accessory device. State() is 1 when the accessory is fitted.
 class AccessoryState : public Proxy {
  public:
   using Proxy::Proxy;
@@ -61,7 +61,7 @@ class OffsetDevice : public PositionDevice {
   void PutOffsetCode(std::int32_t code) const { Put("OffsetCode", code); }
 };
 
-// One address of a turret, from 1, and the database code of what stands there.
+// One address of a turret, from 1, and the database code of what is mounted there.
 class TurretPosition : public Proxy {
  public:
   using Proxy::Proxy;
@@ -70,11 +70,11 @@ class TurretPosition : public Proxy {
   void PutCode(std::int32_t code) const { Put("Code", code); }
 };
 
-// Enumerates the addresses; it asks the controller for each item when that is reached.
+// Enumerates the addresses. Each step asks the controller.
 class TurretEnumerator : public Proxy {
  public:
   using Proxy::Proxy;
-  // The following item, nothing at the end.
+  // The next item; nothing at the end.
   std::optional<TurretPosition> Next() const;
 };
 

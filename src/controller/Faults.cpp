@@ -12,7 +12,7 @@ constexpr std::array kKinds{std::pair{std::string_view("get "), CallKind::Get},
                             std::pair{std::string_view("put "), CallKind::Put},
                             std::pair{std::string_view("call "), CallKind::Call}};
 
-// The end of the bracket that begins at `path[open]`; brackets within texts do not count.
+// Offset behind the bracket that opens at `path[open]`; brackets in quoted texts do not count.
 std::size_t EndOfBracket(std::string_view path, std::size_t open) {
   bool quoted = false;
   for (std::size_t i = open; i < path.size(); ++i) {
@@ -22,7 +22,7 @@ std::size_t EndOfBracket(std::string_view path, std::size_t open) {
   return path.size();
 }
 
-// Equal but for brackets of the path that the pattern leaves out.
+// True when they are equal, brackets aside that the pattern leaves out.
 bool PathMatches(std::string_view pattern, std::string_view path) {
   std::size_t at = 0;
   for (std::size_t i = 0; i < path.size();) {
@@ -39,7 +39,7 @@ bool PathMatches(std::string_view pattern, std::string_view path) {
   return at == pattern.size();
 }
 
-// A collection's own path must not stand for the steps of a walk over it.
+// The pattern of a collection must not match the steps of its enumerator.
 bool NextMatches(std::string_view pattern, std::string_view path) {
   const std::string_view collection = path.substr(0, path.rfind('('));
   return (pattern.ends_with(')') && PathMatches(pattern, path)) ||

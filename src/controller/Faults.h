@@ -1,4 +1,4 @@
-// Failures on demand in front of any controller library.
+// Makes calls of any controller library fail on demand.
 #pragma once
 
 #include <cstddef>
@@ -11,14 +11,14 @@
 
 namespace mortane::controller {
 
-// `call` is the path of a call as the journal writes it. Each pair of brackets may be left out,
-// which then stands for any arguments: "DeviceList.Item(1).Connect", "DeviceList.Item.Connect".
-// "get ", "put " or "call " in front takes calls of that kind only. Also: "Create(Microscope)";
-// "NosepieceDevice.Positions(3)" for one step of an enumerator, "NosepieceDevice.Positions.Next"
-// for all.
+// `call` is the path of a call as the journal writes it. A pair of brackets may be left out; any
+// arguments match then: "DeviceList.Item(1).Connect", "DeviceList.Item.Connect". With "get ", "put
+// " or "call " in front only calls of that kind match. "Create(Microscope)" is a creation,
+// "NosepieceDevice.Positions(3)" one step of an enumerator, "NosepieceDevice.Positions.Next" all
+// its steps.
 struct FaultRule {
   std::string call;
-  int occurrence = 0;  // 0 every call that matches, n the n-th only
+  int occurrence = 0;  // 0: every call that matches; n: the n-th only
   std::string source = "LIB";
   std::int32_t number = -2147467259;
   std::string description = "Simulated failure.";
@@ -27,7 +27,7 @@ struct FaultRule {
 class FaultPlan {
  public:
   void Add(FaultRule rule);
-  // Fails the k-th call from now on, whatever it is; `rule.call` is not looked at.
+  // Fails the k-th call from now on, whatever it is; `rule.call` is ignored.
   void FailCall(std::size_t k, FaultRule rule = {});
   // Forgets all rules and hits.
   void Clear();
@@ -50,7 +50,7 @@ class FaultPlan {
   std::size_t hits_ = 0;
 };
 
-// A call that fails does not reach the inner library.
+// A call that is made to fail does not reach the inner library.
 class FaultyLibrary : public DecoratedLibrary {
  public:
   FaultyLibrary(ControllerLibrary& inner, FaultPlan& plan) : DecoratedLibrary(inner), plan_(plan) {}

@@ -1,4 +1,4 @@
-// The fiber illuminator's own server, members in its order.
+// The fiber illuminator's server, members in its order.
 #pragma once
 
 #include "controller/Proxy.h"
@@ -10,7 +10,7 @@ class FiberServer : public Proxy {
   using Proxy::Proxy;
   // Whether the server has its device.
   bool IsOpen() const { return GetBoolean("IsOpen"); }
-  // Connects, waiting so many milliseconds; Status() tells how it ended.
+  // Connects, waiting for so many milliseconds; Status() tells the result.
   void Open(std::int32_t timeoutMs) const { Call("Open", {timeoutMs}); }
   void Close() const { Call("Close"); }
   std::int32_t Status() const { return GetLong("Status"); }

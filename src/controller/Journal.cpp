@@ -9,7 +9,7 @@
 namespace mortane::controller {
 namespace {
 
-// Calls that ask and change nothing.
+// Calls that only ask.
 constexpr std::array<std::string_view, 2> kQuestions{"QueryCommand", "WaitMove"};
 
 bool IsCommand(const CallSite& site) {

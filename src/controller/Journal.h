@@ -1,4 +1,4 @@
-// A journal of what passes between the program and a controller library.
+// A journal of the calls to a controller library.
 #pragma once
 
 #include <cstddef>
@@ -16,15 +16,15 @@ namespace mortane::controller {
 //   a call                ControllerSettings.SetInterlock(4, 1)
 //   a call with a result  QueryCommand("rONR1") -> "ONR1210FA0C63B63"
 //   a failure             the left side of these, then " ! LIB:80004005"
-// Steps from object to object leave a line only when they fail. A state value leaves its line
-// when its number is taken, as often as that is done.
+// A call that gives an object, and a step of an enumerator, have a line only when they fail. A
+// state value has a line for each reading of its number.
 class Journal {
  public:
   const std::vector<std::string>& Lines() const { return lines_; }
-  // Only the lines of writes and of calls that command, whether they failed or not.
+  // Only the lines of writes and of commanding calls, whether they failed or not.
   const std::vector<std::string>& Writes() const { return writes_; }
-  // Calls of every kind, steps from object to object and creation included; taking the number
-  // of a state value is none.
+  // Calls of every kind, also creations, calls that give an object and steps of enumerators.
+  // Reading the number of a state value does not count.
   std::size_t CallCount() const { return callCount_; }
   void Clear();
 

@@ -8,7 +8,8 @@
 
 namespace mortane::controller {
 
-// Runs the given function before each call, creation included: a sleep, or a clock that goes on.
+// Runs the given function before each call, creations included: one that sleeps, or one that
+// advances a clock.
 class LatencyLibrary : public DecoratedLibrary {
  public:
   LatencyLibrary(ControllerLibrary& inner, std::function<void()> beforeEachCall)

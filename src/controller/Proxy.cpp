@@ -11,7 +11,7 @@ namespace {
   RaiseOwnFailure(kConversionError, "The controller's answer is not " + std::string(wanted) + ".");
 }
 
-// The number behind a state value, any other value unchanged.
+// The number of a state value; any other value unchanged.
 Value Plain(const Value& value) {
   const auto* object = std::get_if<ObjectRef>(&value);
   return object != nullptr && *object != nullptr ? (*object)->Get("") : value;

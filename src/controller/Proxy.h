@@ -1,4 +1,4 @@
-// Base of the typed facade: turns members by name into typed calls.
+// Base of the typed facade, which turns members by name into typed calls.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +20,7 @@ bool ToBoolean(const Value& value);
 std::string ToText(const Value& value);
 ObjectRef ToObject(const Value& value);
 
-// A typed view of one object; copies share it. Every call of an empty view raises a failure.
+// A typed view of one object, shared by its copies. Every call of an empty view raises a failure.
 class Proxy {
  public:
   Proxy() = default;

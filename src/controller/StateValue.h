@@ -5,17 +5,16 @@
 
 namespace mortane::controller {
 
-// Carries what the device answered. Number() is that answer; IsReadOnly() asks the controller,
-// and only when it is called.
+// Number() and Real() give what the device answered; IsReadOnly() asks the controller each time.
 class StateValue : private Proxy {
  public:
-  // A plain number has no object and cannot be asked.
+  // A plain number is no object: IsReadOnly() raises a failure then.
   explicit StateValue(Value value);
 
   std::int32_t Number() const { return ToLong(value_); }
   double Real() const { return ToDouble(value_); }
 
-  // True when the value can only be seen, not commanded.
+  // True when the value can be read but not commanded.
   bool IsReadOnly() const { return GetBoolean("IsReadOnly"); }
 
  private:

@@ -1,4 +1,4 @@
-// What passes between the program and a controller library.
+// The values that a controller library takes and gives.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ using ObjectRef = std::shared_ptr<ControllerObject>;
 using Value =
     std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, std::string, ObjectRef>;
 
-// Arguments of one call, borrowed for its duration.
+// The arguments of one call, borrowed for its duration.
 class Args {
  public:
   Args() = default;

@@ -34,12 +34,12 @@ T* Made(T* pointer) {
   return pointer;
 }
 
-// Decodes one character and answers the bytes that it takes; 0 for what XML 1.0 cannot hold.
+// Length in bytes of the first character; 0 for one that XML 1.0 cannot hold.
 int XmlCharacterLength(std::string_view text) {
   int length = text.size() < 4 ? static_cast<int>(text.size()) : 4;
   const int code = xmlGetUTF8Char(reinterpret_cast<const unsigned char*>(text.data()), &length);
   if (code <= 0 || !IS_CHAR(code)) return 0;
-  // The least code of each length: a longer form than needed is no UTF-8.
+  // The smallest code of each length: an overlong form is invalid UTF-8.
   constexpr std::array<int, 5> kLeast = {0, 0, 0x80, 0x800, 0x10000};
   return code < kLeast[static_cast<std::size_t>(length)] ? 0 : length;
 }
@@ -157,7 +157,7 @@ void DomDocument::Free::operator()(_xmlDoc* document) const {
   xmlFreeDoc(document);
 }
 
-// An element that was appended is freed with its parent, so the tops are told apart first.
+// Appended elements are freed with their parent; drop them from the list first.
 void DomDocument::FreeLoose() noexcept {
   std::erase_if(loose_, [](const _xmlNode* node) { return node->parent != nullptr; });
   for (_xmlNode* node : loose_) xmlFreeNode(node);

@@ -57,7 +57,7 @@ class DomDocument {
   bool Load(const std::string& path);
   bool LoadText(std::string_view bytes);
 
-  // Why the last Load answered false: one line for a person.
+  // Why the last Load returned false, in one line for the user.
   const std::string& Problem() const { return problem_; }
 
   // Raises a Failure for a name that is none in XML.
@@ -76,7 +76,7 @@ class DomDocument {
   void FreeLoose() noexcept;
 
   std::unique_ptr<_xmlDoc, Free> document_;
-  std::vector<_xmlNode*> loose_;  // all that CreateElement made; those with a parent belong to it
+  std::vector<_xmlNode*> loose_;  // made by CreateElement; freed here unless they got a parent
   std::string problem_;
 };
 

@@ -12,8 +12,8 @@
 namespace mortane {
 namespace {
 
-// No network, and nothing substituted; without XML_PARSE_HUGE the library's limits on depth and
-// on the length of a text hold.
+// No network access and no substitution of entities. Without XML_PARSE_HUGE, libxml2 limits the
+// depth of nesting and the length of a text.
 constexpr int kParseOptions =
     XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
 
@@ -21,8 +21,8 @@ struct FreeContext {
   void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
 };
 
-// Gathers the first thing that makes a document unusable, from the parser and from the
-// conversion of its encoding alike, and keeps all messages from libxml2's standard error.
+// Keeps the first error that makes a document unusable, from the parser or from the conversion of
+// its encoding, and stops libxml2 from printing to standard error.
 class ErrorCollector {
  public:
   ErrorCollector() : oldContext_(xmlStructuredErrorContext), oldHandler_(xmlStructuredError) {
@@ -39,7 +39,7 @@ class ErrorCollector {
   }
 
  private:
-  // A prefix that nobody declared is a fault of name spaces only: the document is well formed.
+  // An undeclared prefix is an error of namespaces only: the document is still well formed.
   static void Collect(void* self, xmlErrorPtr error) {
     const bool fatal = error->level == XML_ERR_FATAL ||
                        (error->level == XML_ERR_ERROR &&
@@ -71,21 +71,21 @@ void RefuseUnparsedEntity(void* parser, const xmlChar*, const xmlChar*, const xm
   Refuse(parser, "entities are not allowed");
 }
 
-// Asked for all but the five predefined ones. Without a declaration there is no text to put in
-// its place, and a value with a gap would be worse than none.
+// Called for every entity but the five predefined ones. Ignoring an undeclared one would leave a
+// gap in a value, so the document is refused.
 xmlEntityPtr RefuseReference(void* parser, const xmlChar*) {
   Refuse(parser, "entities are not allowed");
   return nullptr;
 }
 
-// Default values multiply with the elements, so that a small file can fill the memory with them.
+// A default value is copied into every element, so a small file could fill the memory.
 void RefuseAttributeDefault(void* parser, const xmlChar*, const xmlChar*, int, int, const xmlChar*,
                             xmlEnumerationPtr values) {
   xmlFreeEnumeration(values);
   Refuse(parser, "attribute declarations are not allowed");
 }
 
-// Bytes of a character in the encoding that the first bytes of a document show.
+// Width in bytes of a code unit, told by the byte-order mark or the first character.
 std::size_t UnitWidth(std::string_view bytes) {
   using namespace std::string_view_literals;
   for (const std::string_view mark : {"\xFF\xFE\0\0"sv, "\0\0\xFE\xFF"sv, "<\0\0\0"sv, "\0\0\0<"sv})
@@ -95,7 +95,7 @@ std::size_t UnitWidth(std::string_view bytes) {
   return 1;
 }
 
-// libxml2 takes a NUL after the root for the end of the document.
+// libxml2 would take a NUL after the root element for the end of the document.
 bool HoldsNul(std::string_view bytes) {
   const std::size_t width = UnitWidth(bytes);
   if (width == 1) return bytes.find('\0') != std::string_view::npos;
@@ -129,7 +129,7 @@ _xmlDoc* ParseXml(std::string_view bytes, std::string& problem) {
   xmlDoc* document = xmlCtxtReadMemory(context.get(), bytes.data(), static_cast<int>(bytes.size()),
                                        nullptr, nullptr, kParseOptions);
   problem = errors.Problem();
-  // Half a character at the end of the file never reaches the parser.
+  // An incomplete character at the end never reaches the parser, so it reports no error.
   const bool cut = document != nullptr && HoldsUnreadBytes(*context);
   if (cut && problem.empty()) problem = "the document ends within a character";
   if (document == nullptr && problem.empty()) problem = "the document is not well formed";

@@ -1,4 +1,4 @@
-// The way from bytes to a libxml2 document, with what a stranger's file may not do switched off.
+// Parses bytes into a libxml2 document. Refuses entities and attribute defaults; uses no network.
 #pragma once
 
 #include <string>

@@ -21,7 +21,7 @@ inline constexpr std::size_t kFilterItems = 3;
 inline constexpr std::array<std::string_view, kFilterItems> kFilterItemElements{
     "EXCITER", "DICHROIC", "BARRIER"};
 
-// In what the three lists differ.
+// The constants of one of the three lists.
 const NameListKind& FilterItemKind(FilterItem item);
 
 // One list of items: fixed ones and nine that the user names. Owned by clsK70. Codes are 0 to

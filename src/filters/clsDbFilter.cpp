@@ -14,7 +14,7 @@ using controller::FilterCubeRecord;
 
 constexpr std::size_t kCodes = kHighestCode + 1;
 
-// The comparison alone has no blank before its bracket.
+// Only ModifySdk's line has no blank before the bracket.
 constexpr std::string_view kFailure = "Filter Cube Optional Cube (";
 constexpr std::string_view kModifyFailure = "Filter Cube Optional Cube(";
 constexpr std::string_view kItem = "Filter Cube Optional Cube[";
@@ -48,7 +48,7 @@ std::size_t OptionIndex(std::int32_t position) {
   return static_cast<std::size_t>(kOptionBase) + static_cast<std::size_t>(position);
 }
 
-// The sign of a negative code takes the place of a zero, so that the text keeps its length.
+// The sign of a negative code replaces a zero, so that the text keeps its length.
 std::string ThreeDigits(std::int32_t code) {
   std::string text = std::to_string(code);
   const std::size_t sign = code < 0 ? 1U : 0U;
@@ -62,7 +62,7 @@ FilterCubeItems ReadItems(const FilterCubeRecord& record) {
   return items;
 }
 
-// The marks are not looked at: whoever wrote the file, the digits alone count.
+// The marks are ignored; only the digits count.
 FilterCubeItems DecodeItems(std::string_view text) {
   FilterCubeItems items;
   for (const ItemMember& item : kItemMembers) {
@@ -158,7 +158,7 @@ void clsDbFilter::ReadRecord(const FilterCubeRecord& record) {
   DropUnknownItems(code, cube.items);
 }
 
-// The cube stays usable with such an item missing.
+// Items beyond the table become 0 after a box; the cube keeps its other items.
 void clsDbFilter::DropUnknownItems(std::int32_t code, FilterCubeItems& items) const {
   const auto isBeyond = [&](const ItemMember& item) { return items.*item.code > kHighestCode; };
   if (std::none_of(kItemMembers.begin(), kItemMembers.end(), isBeyond)) return;
@@ -168,7 +168,7 @@ void clsDbFilter::DropUnknownItems(std::int32_t code, FilterCubeItems& items) co
   }
 }
 
-// All values are asked for, so that one that cannot be read keeps the record from being written.
+// Reads all values: when one of them cannot be read, the record is not written.
 bool clsDbFilter::Differs(const FilterCubeRecord& record, const Cube& stored) {
   const std::string name = record.Name();
   const FilterCubeItems items = ReadItems(record);
@@ -198,7 +198,7 @@ std::string clsDbFilter::WriteSdk() const {
   return report.Lines();
 }
 
-// Each value is written also when the one before it could not be.
+// Each value is written even if writing the one before it failed.
 void clsDbFilter::WriteRecord(const FilterCubeRecord& record, WriteReport& report) const {
   const std::int32_t code = record.Code();
   const Cube* stored = nullptr;

@@ -36,12 +36,12 @@ class clsDbFilter {
   // In full; empty for another code.
   std::string Name(std::int32_t code) const;
 
-  // The fixed cubes as the controller counts them, which is their highest code; 0 where it gives
-  // no answer.
+  // The controller's count of fixed cubes, which is also their highest code; 0 when the controller
+  // does not answer.
   std::int32_t FixedCount() const;
 
-  // The names of a cube and of its items, each cut to ten characters; an item that the cube has
-  // not is empty, and so are all four for another code.
+  // The names of a cube and of its items, each cut to ten characters. The name of a missing item is
+  // empty; all four are empty for a code outside the table.
   void Get_DbFilter(std::int32_t code, std::string& sName, std::string& sExciter,
                     std::string& sDichroic, std::string& sBarrier) const;
 
@@ -54,9 +54,9 @@ class clsDbFilter {
   void Set_DbFilterOption(std::int32_t npos, std::string_view sName, std::int32_t lExciter,
                           std::int32_t lDichroic, std::int32_t lBarrier);
 
-  // A cube that names an item beyond the lists is shown in a box and keeps the others.
+  // Item codes above 249 raise a box and become 0; the rest is kept.
   std::string ReadSdk();
-  // Comparing and writing walk over the controller's cubes whether a turret is mounted or not.
+  // Both go through the controller's cubes whether a turret is mounted or not.
   std::string ModifySdk(std::string& list) const;
   std::string WriteSdk() const;
 

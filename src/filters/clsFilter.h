@@ -1,4 +1,4 @@
-// What stands in the filter turret: the cube code at each address.
+// The cube code at each address of the filter turret.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace mortane {
 
-// Owned by clsK70. What a code means is the database's affair.
+// Owned by clsK70. clsDbFilter knows what a code means.
 class clsFilter {
  public:
   clsFilter(ConnectedMicroscope& microscope, const clsDbFilter& database);
@@ -20,8 +20,8 @@ class clsFilter {
 
   ConnectedMicroscope& parent;
 
-  // Positions of the turret; told by clsK70 on connecting and after each transfer from the
-  // controller. A read of this unit alone leaves it.
+  // Number of addresses, set by clsK70 on connecting and at the end of each Receive. ReadSdk leaves
+  // it.
   std::int32_t Count = 0;
 
   // Cube code 0 to 249 at address 1 to 10; for other addresses -1, and nothing is stored.

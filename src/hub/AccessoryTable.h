@@ -1,4 +1,4 @@
-// The fourteen accessories as detection asks for them.
+// The fourteen accessories in the order of their detection, and their labels in the report.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@ struct AccessoryRow {
   std::string_view device;       // member of the microscope
   std::string_view stateMember;  // member of the device that carries its state
   std::string_view controlLabel;
-  std::string_view sensorLabel;  // sensed only, or absent
+  std::string_view sensorLabel;  // for one that is sensed only or absent
 };
 
 // In the order of detection.
@@ -42,7 +42,7 @@ inline constexpr std::array<AccessoryRow, accessory::kCount> kAccessoryTable{{
     {accessory::kXYStage, "XYDriveDevice", "PositionX", "XY Stage Control", "XY Stage Sensor"},
 }};
 
-// The same rows in the order of the report, which puts the stage before the focus drive.
+// The rows in the order of the report, which has the stage before the focus drive.
 const std::array<const AccessoryRow*, accessory::kCount>& AccessoriesInReportOrder();
 
 // The label under which the report lists an accessory with that mounted value.

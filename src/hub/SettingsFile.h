@@ -1,4 +1,4 @@
-// The frame of the settings file: the sections, the elements in them, and who handles each.
+// The sections of the settings file, and the elements in them with their readers and writers.
 #pragma once
 
 #include <array>
@@ -13,10 +13,10 @@
 
 namespace mortane {
 
-// A section's place in this table is its file item.
+// A section's index in kFileSections is its file item.
 struct FileSection {
   std::string_view element;
-  std::string_view label;  // in the dialog that lets the user choose
+  std::string_view label;  // in the dialog where the user chooses sections
 };
 
 inline constexpr std::string_view kSettingsRoot = "Setup";
@@ -43,15 +43,16 @@ inline constexpr std::size_t kSwitch = 6;
 inline constexpr std::size_t kTactor = 7;
 }  // namespace fileitem
 
-// How an element's name in a file is compared with the table's.
+// How an element's name in a file is compared with the name in the table.
 enum class NameMatch { IgnoringCase, Exact };
 
-// An element of a section. Several rows may share one writer: only the first has it.
+// An element of a section. When one writer writes the elements of several rows, only the first row
+// has it.
 struct FileElement {
   std::size_t fileItem;
   std::string_view name;
   NameMatch match;
-  std::function<std::string(DomNode)> read;          // gives the lines of what was refused
+  std::function<std::string(DomNode)> read;          // returns the lines of what was refused
   std::function<void(DomDocument&, DomNode)> write;  // may be empty
 };
 

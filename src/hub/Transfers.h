@@ -1,4 +1,4 @@
-// The one table of configuration units, and the three walks over it.
+// Rows of the table of transfers.
 #pragma once
 
 #include <functional>
@@ -10,10 +10,10 @@
 
 namespace mortane {
 
-// One unit as the transfers see it. A unit's `gate` decides whether Send and Modify call it;
-// reading asks every unit.
+// One unit's operations. Receive reads every unit; Send and Modify call a unit only while its
+// `gate` is true.
 struct TransferStep {
-  std::string_view unit;  // its name, for what it did not catch itself
+  std::string_view unit;  // its name, for the line of a failure that it did not catch
   std::function<std::string()> read;
   std::function<std::string(std::string&)> modify;
   std::function<std::string()> write;
@@ -34,9 +34,8 @@ TransferStep MakeEnabledStep(std::string_view name, Unit& unit) {
   return MakeTransferStep(name, unit, [&unit] { return unit.IsEnable(); });
 }
 
-// The report of one operation of a unit. A failure that the unit let pass is a fault of the
-// program: it becomes the line "Unit ", the unit's name and what failed, so that it is seen and the
-// transfer goes on.
+// The report of one operation of a unit. A failure that the unit did not catch is an error of the
+// program: it becomes the line "Unit ", the unit's name and the failure, and the transfer goes on.
 std::string ReportOf(std::string_view unit, const std::function<std::string()>& operation);
 
 // Steps in the order of Send and Modify.

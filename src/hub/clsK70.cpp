@@ -33,7 +33,7 @@ clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts, NamedMu
 void clsK70::Initialize() {
   try {
     CreateRoot();
-    Mic.DeviceList().Count();  // a new root scans for devices when it is asked
+    Mic.DeviceList().Count();  // makes the library scan for devices
   } catch (const Failure& failure) {
     prompts().MsgBox(OperationError("clsK70_Initialize", failure), box::kOk);
   }
@@ -41,7 +41,7 @@ void clsK70::Initialize() {
 
 clsK70::~clsK70() {
   if (lConnectDevice >= 0 && !Mic.IsEmpty()) {
-    // Nobody is left to be told: a device that does not answer is let go all the same.
+    // A failure is ignored: nothing can be shown any more.
     ErrorTrap trap;
     trap.Run([this] { Entry().Disconnect(); });
     Mic = {};
@@ -54,8 +54,7 @@ void clsK70::CreateRoot() {
   Mic = controller::Microscope(library_.Create("Microscope"));
 }
 
-// The one table of units in each direction; a unit joins a transfer and the settings file by
-// its row here.
+// A unit joins the transfers and the settings file by one row in each of these tables.
 void clsK70::FillTables() {
   const auto mounted = [this](std::int32_t number) {
     return [this, number] { return IsMounted(number) != kNotMounted; };

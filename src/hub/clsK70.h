@@ -1,4 +1,4 @@
-// The one model of the microscope: its connection, what is fitted, and its configuration units.
+// The model of the microscope: its connection, the accessories, and the configuration units.
 #pragma once
 
 #include <array>
@@ -28,27 +28,27 @@
 
 namespace mortane {
 
-// A running program has one, reached through GetK70. Failures of the controller become boxes
-// and lines of reports; only ReadMicVer, the first step of Modify, and file readers whose data
-// make a conversion fail raise a Failure to the caller.
+// A running program has one, which GetK70 returns. Failures of the controller become boxes and
+// lines of reports. Only ReadMicVer, the first step of Modify, and readers of a file with data that
+// no conversion can take raise a Failure to the caller.
 class clsK70 : public ConnectedMicroscope {
  public:
-  // Makes the units; the library is not asked for anything yet.
+  // Makes the units; makes no call to the library.
   clsK70(controller::ControllerLibrary& library, Prompts& prompts,
          NamedMutexMaker makeMutex = MakeNamedMutex);
 
-  // Creates the controller's root and lets it list its devices. A failure is shown, and every
-  // later use of the controller fails in its own way.
+  // Creates the controller's root and lets it list its devices. A failure is shown; without a root
+  // every later use of the controller fails in its own way.
   void Initialize();
 
-  // Disconnects a connected device in silence and lets go of its name.
+  // Disconnects a connected device, without a box after a failure, and releases its name.
   ~clsK70();
 
   // The system name as last read or edited; a controller holds 15 characters of it.
   std::string SystemName;
 
-  // The configuration units. Their order is that in which callers know them. Some get a sibling
-  // that is made after them, so no unit uses its siblings while it is made.
+  // The configuration units. Some are declared before the sibling they refer to: a unit's
+  // constructor may keep such a reference but must not use it.
   clsNosepiece curNosepiece{*this, DbNosepiece};
   clsDbNosepiece DbNosepiece{*this};
   clsLimitation curLimit{*this};
@@ -68,7 +68,7 @@ class clsK70 : public ConnectedMicroscope {
   std::int16_t FileItem(std::int16_t pos) const;
   void FileItem(std::int16_t pos, std::int16_t value);
 
-  // Takes the exclusive use of device `Name`, letting go of the one held before. False when
+  // Takes the exclusive use of device `Name`, after releasing the one held before. False when
   // another process holds it. Raises error 52 when the system refuses the name.
   bool CreateConnectionName(const std::string& Name);
   void DeleteConnectionName();
@@ -78,26 +78,26 @@ class clsK70 : public ConnectedMicroscope {
   // Name of an entry; empty after a failure, which is shown.
   std::string DeviceName(std::int32_t index);
 
-  // Connects and detects what is fitted. A failure after the device answered leaves the answer
-  // true and lConnectDevice at -1.
+  // Connects, and detects controllers and accessories. After a failure behind the device's answer
+  // the result is true and lConnectDevice is -1.
   bool Connect(std::int32_t DeviceNo);
   void Disconnect();
 
-  // All units from the controller, all to the controller, and the list of what would change.
-  // Failures of units are shown once, at the end, and stop nothing.
+  // Read all units from the controller, write them to it, and list what a write would change.
+  // Failures of units are shown once, at the end; they end no transfer.
   void Receive();
   void Send();
   std::string Modify();
 
-  // Sections of a settings file: which are there, reading the wanted ones, writing all.
+  // Look up the sections of a settings file, read the wanted ones, write all.
   void ReadXMLItems(const std::string& fname);
   void ReadXML(const std::string& fname);
   void WriteXML(const std::string& fname);
-  // A file of the hand controller's settings alone.
+  // The same for a file with the hand controller's section only.
   void Tactor_ReadXML(const std::string& fname);
   void Tactor_WriteXML(const std::string& fname);
 
-  // The report of what is fitted and what is not, for the user.
+  // The report of mounted and not mounted accessories for the user.
   std::string GetAccessories();
 
  private:
@@ -105,7 +105,7 @@ class clsK70 : public ConnectedMicroscope {
   struct Turret {
     std::int32_t accessory;
     std::string_view failureLabel;
-    // The members that keep it: of the turret's own unit, and of units that position by address.
+    // Members of units that store the count: the drives, too, keep that of the nosepiece.
     std::vector<std::int32_t*> counts;
   };
 
@@ -140,9 +140,9 @@ class clsK70 : public ConnectedMicroscope {
   std::array<Turret, 3> turrets_;
 };
 
-// The one instance. ProvideK70 makes it without a call to the library, so that pages can be given
-// their units; the first GetK70 initialises it. ReleaseK70 destroys it: after the windows, whose
-// pages refer to it, and before the toolkit ends. Without an instance GetK70 raises error 91.
+// The program's instance. ProvideK70 makes it without a call to the library, so that pages can be
+// given their units; the first GetK70 initialises it. ReleaseK70 destroys it, after the windows,
+// whose pages refer to it, and before the toolkit ends. Without an instance GetK70 raises error 91.
 clsK70& ProvideK70(controller::ControllerLibrary& library, Prompts& prompts,
                    NamedMutexMaker makeMutex = MakeNamedMutex);
 clsK70& GetK70();

@@ -1,4 +1,4 @@
-// Connecting, and what is found out while connecting.
+// Connection, and detection of controllers and accessories.
 #include "common/Text.h"
 #include "hub/AccessoryTable.h"
 #include "hub/clsK70.h"
@@ -6,7 +6,7 @@
 namespace mortane {
 namespace {
 
-// Conditions on the flags of the controller units: 1 must answer, 0 must not, -1 either.
+// A condition for each controller unit: 1 must answer, 0 must not answer, -1 either.
 struct TypeRow {
   std::int32_t type;
   std::array<int, controllerunit::kCount> units;
@@ -29,8 +29,8 @@ bool Matches(const TypeRow& row, const std::array<bool, controllerunit::kCount>&
   return true;
 }
 
-// Which entry of a list of `count` a device index names. The index `count` itself is one too
-// many and stays so: asking for it fails.
+// Maps a device index to a list index: negative to 1, beyond `count` to 0; `count` passes through
+// and Item fails.
 std::int32_t EntryIndex(std::int32_t index, std::int32_t count) {
   if (count == 1 || index == 0 || index > count) return 0;
   return index < 0 ? 1 : index;
@@ -70,7 +70,7 @@ bool clsK70::Connect(std::int32_t DeviceNo) {
   try {
     const std::int32_t count = Mic.DeviceList().Count();
     lConnectDevice = count == 1 ? 0 : DeviceNo >= 0 ? DeviceNo : 1;
-    if (count >= 3) CreateRoot();  // with several microscopes each connection gets a fresh root
+    if (count >= 3) CreateRoot();  // with several microscopes each connection needs a new root
     Mic.PutCurrentDevice(Entry());
     Entry().Connect();
     connected = true;
@@ -99,7 +99,7 @@ std::int32_t clsK70::TurretCount(const Turret& turret) const {
              : Mic.Turret(turret.accessory).Positions().Count();
 }
 
-// A turret without addresses counts as not mounted from here on.
+// A turret without addresses counts as not mounted.
 void clsK70::FixTurretSizes() {
   for (const Turret& turret : turrets_) {
     const std::int32_t count = TurretCount(turret);
@@ -124,7 +124,7 @@ void clsK70::DetectControllers() {
     controllers_[static_cast<std::size_t>(unit)] =
         Mic.ControllerPresent(controllerunit::NumberInLibrary(unit)) == 1;
   }
-  // Flags that no row knows leave the type of the device before.
+  // If no row matches, curType keeps its previous value.
   for (const TypeRow& row : kTypeTable) {
     if (Matches(row, controllers_)) curType = row.type;
   }

@@ -1,4 +1,4 @@
-// The frame of the settings file.
+// Reading and writing the settings file, section by section.
 #include <algorithm>
 
 #include "common/Text.h"
@@ -7,7 +7,8 @@
 namespace mortane {
 namespace {
 
-// One less than the controller takes: a name of 15 characters is written and refused here.
+// Kept oddity: one less than the controller takes, so a name of 15 characters is written to a file
+// and refused when read.
 constexpr std::size_t kLongestNameInFile = kSystemNameLength - 1;
 
 constexpr std::int16_t kWanted = -1;
@@ -73,7 +74,7 @@ void clsK70::Tactor_WriteXML(const std::string& fname) {
   SaveSections(fname, fileitem::kTactor, "XML Tactor DataFile Write Error");
 }
 
-// The root of a file that could be read; otherwise the person has been told why not.
+// The root element; nothing when the file cannot be used, after a box that says so.
 std::optional<DomNode> clsK70::LoadSettings(const std::string& fname, DomDocument& document) {
   if (!document.Load(fname)) {
     prompts().MsgBox("Can't Load Xml", box::kOk);
@@ -121,7 +122,7 @@ void clsK70::WriteSection(std::size_t fileItem, DomDocument& document, DomNode& 
   root.Append(section);
 }
 
-// A settings file has all sections from the first on; a hand controller's file only the last.
+// Writes the sections from index `first` on: all, or only the hand controller's, which is the last.
 void clsK70::SaveSections(const std::string& fname, std::size_t first,
                           std::string_view failureText) {
   try {

@@ -1,4 +1,4 @@
-// Receive, Send and Modify: three walks over the one table of units.
+// Receive, Send and Modify: loops over the table of transfers.
 #include "common/Text.h"
 #include "hub/clsK70.h"
 #include "model/UnitReport.h"
@@ -58,7 +58,7 @@ std::string clsK70::WriteSystemName() {
   });
 }
 
-// Unlike Connect, a turret that lost its addresses stays mounted.
+// Unlike Connect, this changes no mounted value when a turret has lost its addresses.
 std::string clsK70::ReadTurretCounts() {
   std::string failures;
   for (const Turret& turret : turrets_) {

@@ -8,8 +8,8 @@
 
 namespace mortane {
 
-// Holds at most one name. The use is exclusive by the name's existence: nobody owns the mutex,
-// and LockMutex and UnlockMutex serve those who want to wait for one another.
+// Holds at most one name. The use is exclusive because the name exists; nobody owns the mutex.
+// LockMutex and UnlockMutex have no part in that.
 class clsMutex {
  public:
   explicit clsMutex(std::unique_ptr<NamedMutex> name = MakeNamedMutex())

@@ -1,5 +1,5 @@
-// The contract of a configuration unit: one area of the microscope's configuration, which travels
-// between the controller, the model and a settings file.
+// The contract of a configuration unit: one area of the microscope's configuration, which is
+// transferred between the controller, the model and a settings file.
 #pragma once
 
 #include <concepts>

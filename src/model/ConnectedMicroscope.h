@@ -12,19 +12,19 @@
 
 namespace mortane {
 
-// Answers of IsMounted.
+// Values of IsMounted.
 inline constexpr std::int32_t kNotMounted = 0;
 inline constexpr std::int32_t kSensorOnly = 1;
 inline constexpr std::int32_t kControllable = 2;
 
 using controller::kSystemNameLength;
 
-// Versions that ReadMicVer answers for a unit that is absent and for the simulator.
+// What ReadMicVer returns for an absent unit and for the simulator.
 inline constexpr double kNoVersion = -1;
 inline constexpr double kSimulatedVersion = -2;
 
-// Owned as clsK70, which fills what stands here. Units keep a reference to it as `parent`, ask
-// for the controller's objects anew at each use, and never keep one.
+// Base of clsK70, which fills these members. Units hold a reference, `parent`, and never store
+// controller objects.
 class ConnectedMicroscope {
  public:
   ConnectedMicroscope(const ConnectedMicroscope&) = delete;
@@ -36,7 +36,7 @@ class ConnectedMicroscope {
   // Index of the connected entry in the device list; -1 when nothing is connected.
   std::int32_t lConnectDevice = -1;
 
-  // Microscope type 0 to 6, told by which controller units answer.
+  // Microscope type 0 to 6, which depends on the controller units that answer.
   std::int32_t curType = 0;
 
   // Whether controller unit 0 to 6 answers; false for any other index.

@@ -1,4 +1,4 @@
-// The attributes of one element of a settings file, found without regard to case.
+// The attributes of one element of a settings file, by name without regard to case.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,10 @@
 
 namespace mortane {
 
-// Of attributes that differ in case alone the last one counts.
+// Of attributes whose names differ only in case the last one counts.
 class ElementFields {
  public:
-  // What Number answers for an attribute that is not there.
+  // What Number returns for a missing attribute.
   static constexpr std::int32_t kAbsent = -1;
 
   explicit ElementFields(const DomNode& node) : attributes_(node.Attributes()) {}

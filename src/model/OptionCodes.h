@@ -20,13 +20,13 @@ inline bool IsOptionPosition(std::int32_t position) {
 inline constexpr std::int32_t kOptionBase = 240;
 inline constexpr std::int32_t kHighestCode = kOptionBase + kOptionPositions;
 
-// What the user may give as the name of a cube, a filter or a condenser, in characters.
+// The longest name of a user's cube, filter or condenser, in characters.
 inline constexpr std::size_t kOptionNameLength = 10;
 
-// Shown in the place of a blank name of these.
+// Shown instead of a blank name of these.
 inline constexpr std::string_view kUnnamedMark = "----------";
 
-// A record whose name begins so stands for a place in the list that holds nothing.
+// A record whose name begins like this is an unused place of the list.
 inline bool IsVacant(std::string_view name) {
   return name.starts_with("-------");
 }

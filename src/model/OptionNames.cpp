@@ -12,7 +12,7 @@ bool OptionNames::Has(std::int32_t code) const {
   return code >= 0 && static_cast<std::size_t>(code) < names_.size();
 }
 
-// The place of a code that the controller named; one outside the list raises a failure.
+// Index of a code that the controller named. Raises a failure for a code outside the list.
 std::size_t OptionNames::IndexOf(std::int32_t code) const {
   return CheckedIndex(code, 0, names_.size());
 }

@@ -13,24 +13,24 @@
 
 namespace mortane {
 
-// In what lists differ. Labels end with the bracket that opens the number.
+// Constants of one list. Labels end with the bracket that opens the number.
 struct NameListKind {
-  std::int32_t accessory;  // nothing is read while it is not mounted
+  std::int32_t accessory;  // the list is read only while it is mounted
   controller::RecordList<controller::DatabaseRecord> (*records)(
       const controller::AccessoryDatabase&);
   std::int32_t optionBase;  // position n, 1 to 9, is code optionBase + n, the last one the highest
   std::string_view element;
   std::string_view failureLabel;
   std::string_view differenceLabel;
-  std::string_view writeLabel;  // also of an element that is refused
+  std::string_view writeLabel;  // also for an element that is refused
   std::int32_t (controller::AccessoryDatabase::*fixedCount)() const;
 };
 
-// Part of the unit of one list, which gives it the microscope for each operation. Comparing
-// and writing walk over the controller's list whether the accessory is mounted or not.
+// Part of the unit of one list. The unit passes the microscope to each operation. Modify and Write
+// go through the controller's list whether the accessory is mounted or not.
 class OptionNames {
  public:
-  // The kind must live as long.
+  // The kind must outlive the object.
   explicit OptionNames(const NameListKind& kind);
 
   // Empty for a code outside the list.
@@ -38,8 +38,8 @@ class OptionNames {
   // Keeps the first ten characters; ignores a code outside the list.
   void Name(std::int32_t code, std::string_view name);
 
-  // The fixed records as the controller counts them, which is their highest code; 0 where it gives
-  // no answer.
+  // The controller's count of fixed records, which is also their highest code; 0 when the
+  // controller does not answer.
   std::int32_t FixedCount(const ConnectedMicroscope& microscope) const;
 
   std::string Read(const ConnectedMicroscope& microscope);

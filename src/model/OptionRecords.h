@@ -1,4 +1,4 @@
-// Walks over the lists of the controller's accessory database.
+// Loops over the lists of the controller's accessory database.
 #pragma once
 
 #include "controller/AccessoryDatabase.h"
@@ -7,14 +7,14 @@
 
 namespace mortane {
 
-// In the controller's order. A failure ends the walk.
+// Visits all records in the controller's order. A failure ends the loop.
 template <typename Record, typename Visit>
 void ForEachRecord(const controller::RecordList<Record>& list, Visit&& visit) {
   const std::int32_t count = list.Count();
   for (std::int32_t i = 1; i <= count; ++i) visit(list.Item(i));
 }
 
-// Only the records that the user may define.
+// The same for the user's records only.
 template <typename Record, typename Visit>
 void ForEachOption(const controller::RecordList<Record>& list, Visit&& visit) {
   ForEachRecord(list, [&](const Record& record) {
@@ -22,7 +22,7 @@ void ForEachOption(const controller::RecordList<Record>& list, Visit&& visit) {
   });
 }
 
-// The same for a write: a record that fails does not stop the walk.
+// The same for a write: a record that fails does not end the loop.
 template <typename Record, typename Write>
 void WriteEachOption(WriteReport& report, const controller::RecordList<Record>& list,
                      Write&& write) {

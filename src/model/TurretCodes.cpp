@@ -25,7 +25,7 @@ void TurretCodes::Code(std::int32_t address, std::int32_t code) {
   if (IsAddress(address)) codes_[static_cast<std::size_t>(address - 1)] = code;
 }
 
-// The entry of an address that the controller named; one that is none raises a failure.
+// The code at an address that the controller named. Raises a failure for any other number.
 const std::int32_t& TurretCodes::Stored(std::int32_t address) const {
   return codes_[CheckedIndex(address, 1, codes_.size())];
 }

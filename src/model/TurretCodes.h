@@ -1,4 +1,4 @@
-// What stands on a turret: the database code at each of its addresses.
+// The database code at each address of a turret.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@
 
 namespace mortane {
 
-// In what turrets differ. Labels end with the bracket that opens the number.
+// Constants of one turret. Labels end with the bracket that opens the number.
 struct TurretKind {
   std::int32_t accessory;  // one that controller::Microscope::Turret knows
   std::int32_t highestCode;
@@ -23,42 +23,42 @@ struct TurretKind {
   std::string_view writeLabel;
 };
 
-// Part of the unit of one turret, which gives it the microscope for each operation. All codes
-// are 0 at first and after a read of a turret that is not mounted.
+// Part of the unit of one turret. The unit passes the microscope to each operation. All codes are 0
+// at first, and after a read of a turret that is not mounted.
 class TurretCodes {
  public:
   static constexpr std::int32_t kAddresses = 10;
   static constexpr std::string_view kElement = "ITEM";
 
-  // The kind must live as long.
+  // The kind must outlive the object.
   explicit TurretCodes(const TurretKind& kind) : kind_(kind) {}
 
   // Addresses count from 1; outside 1 to 10 the answer is -1 and nothing is stored.
   std::int32_t Code(std::int32_t address) const;
   void Code(std::int32_t address, std::int32_t code);
 
-  // `count` is the number of the turret's items, if it is mounted and all could be read. After
-  // a failure the codes read so far stay.
+  // `count` is the number of items, when the turret is mounted and all could be read. After a
+  // failure the codes read so far stay.
   struct Reading {
     std::string failure;
     std::optional<std::int32_t> count;
   };
   Reading Read(const ConnectedMicroscope& microscope);
 
-  // `nameOf` gives what follows the address in the line of a code that would be written.
+  // `nameOf` gives the text behind the address in the line of a difference.
   using NameOf = std::function<std::string(std::int32_t code)>;
   std::string Modify(const ConnectedMicroscope& microscope, std::string& list,
                      const NameOf& nameOf) const;
   std::string Write(const ConnectedMicroscope& microscope) const;
 
-  // An "ITEM" element of the settings file; `taken` tells whether it could be used.
+  // An "ITEM" element of the settings file; `taken` is true when its values are in range.
   struct FileItem {
     std::int32_t position;
     std::int32_t code;
     bool taken;
   };
   FileItem ReadDom(const DomNode& node);
-  // The addresses 1 to `count`.
+  // Appends one element for each address from 1 to `count`.
   void WriteDom(DomDocument& document, DomNode section, std::int32_t count) const;
 
  private:

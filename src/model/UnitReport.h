@@ -1,4 +1,4 @@
-// How the operations of a configuration unit turn failures into the lines of their result.
+// Turns the failures of a configuration unit's operations into the lines of their reports.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace mortane {
 
-// Runs the statement; answers the unit's line when it fails, an empty text otherwise.
+// Runs the statement. Returns the unit's line when it fails, an empty text otherwise.
 template <typename Statement>
 std::string FailureOf(std::string_view opening, Statement&& statement) {
   try {
@@ -21,15 +21,15 @@ std::string FailureOf(std::string_view opening, Statement&& statement) {
   }
 }
 
-// Runs the writing of one item; answers the item's line when it fails, an empty text otherwise.
+// Runs the writing of one item. Returns the item's line when it fails, an empty text otherwise.
 template <typename Statement>
 std::string LineIfFailed(std::string_view line, Statement&& statement) {
   ErrorTrap trap;
   return trap.Run(std::forward<Statement>(statement)) ? std::string() : std::string(line);
 }
 
-// Runs `collect` with a text for its lines. What it has collected joins `list` also when it
-// fails; the failure's line is the answer.
+// Runs `collect` with a text for its lines, and appends the lines to `list`, also after a failure.
+// Returns the failure's line.
 template <typename Collect>
 std::string CollectDifferences(std::string& list, std::string_view opening, Collect&& collect) {
   std::string lines;
@@ -41,13 +41,13 @@ std::string CollectDifferences(std::string& list, std::string_view opening, Coll
 // The lines of a write that goes on after a failure.
 class WriteReport {
  public:
-  // `opening` begins the line of a failure that no item can be named for.
+  // `opening` begins the line of a failure that belongs to no item.
   explicit WriteReport(std::string_view opening) : opening_(opening) {}
 
   void Add(std::string_view line) { lines_ = AppendLine(std::move(lines_), line); }
 
-  // Runs a step that adds the lines of its items itself. What else fails in it becomes one line,
-  // however many steps fail so: a controller that went away would fill the screen.
+  // Runs a step that adds the lines of its items itself. A failure that leaves the step becomes the
+  // unit's line, once for all steps: otherwise a lost controller would fill the screen.
   template <typename Step>
   void Run(Step&& step) {
     const std::string failure = FailureOf(opening_, std::forward<Step>(step));

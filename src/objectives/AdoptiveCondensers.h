@@ -1,4 +1,4 @@
-// The condensers that can be named as suiting an objective.
+// The condensers that the user can choose for an optional objective.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 namespace mortane {
 
 struct AdoptiveCondensers {
-  // A record's place in the controller's list is the code that an objective stores.
+  // The code that an objective stores is the record's index in the controller's list, from 1.
   struct Choice {
     std::int32_t code;
     std::string name;
@@ -23,7 +23,7 @@ struct AdoptiveCondensers {
 bool HasLiveCondenser(const ConnectedMicroscope& microscope);
 
 // The fixed records before the first blank or optional one, in the controller's order. After a
-// failure those that did answer.
+// failure those read so far.
 AdoptiveCondensers ReadAdoptiveCondensers(const ConnectedMicroscope& microscope);
 
 }  // namespace mortane

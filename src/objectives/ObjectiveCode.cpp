@@ -25,7 +25,7 @@ std::string EncodeNumber(double value, double units) {
   return HexPadded(*product, kNumberWidth);
 }
 
-// Divided, because a product with a tenth is not the double that the controller gives.
+// A division, because a multiplication by 0.1 gives another double than the controller's.
 double DecodeNumber(std::string_view text, double units) {
   const std::string digits = Trim(text);
   std::uint32_t number = 0;
@@ -33,7 +33,7 @@ double DecodeNumber(std::string_view text, double units) {
   return number / units;
 }
 
-// Takes characters off the front of a text.
+// Takes characters from the front of a text.
 class CharacterReader {
  public:
   explicit CharacterReader(std::string_view text) : rest_(text) {}

@@ -26,8 +26,8 @@ inline constexpr std::size_t kObjectiveCodeLength = 12;
 // bits raises a failure.
 std::string EncodeObjective(const ObjectiveValues& values, std::int32_t condenser);
 
-// The values in the first eleven characters. What is no hexadecimal digit ends a number; a
-// series or type that is none gives a negative one.
+// The values of the first eleven characters. A character that is no hexadecimal digit ends its
+// number. A series or type that is no digit of CharToDigit is negative.
 ObjectiveValues DecodeObjective(std::string_view code);
 
 // The last character; raises a conversion failure when it is no digit or there is none.

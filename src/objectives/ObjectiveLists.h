@@ -10,7 +10,7 @@
 
 namespace mortane {
 
-// Names count from 1 as in the controller; entry 0 is a row of dashes of our own.
+// Names count from 1 as in the controller; entry 0 is a row of dashes.
 class NameList {
  public:
   explicit NameList(std::string_view dashes) : dashes_(dashes), names_{std::string(dashes)} {}

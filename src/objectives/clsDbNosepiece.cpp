@@ -9,7 +9,7 @@
 namespace mortane {
 namespace {
 
-// The plural is the read's alone.
+// Only ReadSdk's line says "Nosepieces".
 constexpr std::string_view kReadFailure = "Nosepieces Optional (";
 constexpr std::string_view kFailure = "Nosepiece Optional (";
 constexpr std::string_view kItem = "Nosepiece Optional[";
@@ -149,7 +149,7 @@ void clsDbNosepiece::Set_DbNosepiece(std::int32_t npos, std::string_view sName,
 }
 
 std::string clsDbNosepiece::ReadSdk() {
-  // The condensers stay: only a controller with a nosepiece tells them anew.
+  // The condensers are not cleared; they change only when a record with a code is read.
   objectives_.assign(kCodes, {});
   if (!lists_.IsLoaded()) ReadDB();
   if (parent.IsMounted(accessory::kNosepiece) == kNotMounted) return {};
@@ -159,7 +159,7 @@ std::string clsDbNosepiece::ReadSdk() {
   });
 }
 
-// A failure after the lists were sized is not repaired by a later read: they are not empty then.
+// After a failure IsLoaded() can be true already, so no read retries.
 void clsDbNosepiece::ReadDB() {
   try {
     lists_.Load(parent.Mic.AccessoryDatabase());
@@ -191,7 +191,7 @@ clsDbNosepiece::CodeAnswer clsDbNosepiece::AskCode(std::int32_t position) const 
   return {std::move(code), condenser};
 }
 
-// All values are asked for, so that one that cannot be read keeps the record from being written.
+// Reads all values: when one of them cannot be read, the record is not written.
 bool clsDbNosepiece::Differs(const controller::ObjectiveRecord& record, const Objective& stored) {
   const std::string name = record.Name();
   ObjectiveValues values;
@@ -210,7 +210,7 @@ std::string clsDbNosepiece::ModifySdk(std::string& list) const {
   });
 }
 
-// A record that differs in its values and in its condenser appears twice.
+// A record that differs in its values and in its condenser gets two lines.
 void clsDbNosepiece::CompareRecord(const controller::ObjectiveRecord& record,
                                    std::string& lines) const {
   const std::int32_t code = record.Code();
@@ -244,7 +244,7 @@ void clsDbNosepiece::WriteRecord(const controller::ObjectiveRecord& record,
   report.Add(LineIfFailed(ItemLine(kItem, position), [&] { WriteCondenser(position); }));
 }
 
-// The values are written also when the name could not be.
+// The values are written even if writing the name failed.
 void clsDbNosepiece::WriteValues(const controller::ObjectiveRecord& record, std::int32_t code,
                                  ErrorTrap& trap) const {
   const Objective* stored = nullptr;

@@ -17,15 +17,15 @@
 
 namespace mortane {
 
-// Names of objectives hold 20 characters, of which the page of the user's objectives shows 15.
+// The longest name of an objective, and how much of it the page of the user's objectives shows.
 inline constexpr std::size_t kObjectiveNameLength = 20;
 inline constexpr std::size_t kShownObjectiveNameLength = 15;
 
-// Shown in the place of a blank name, and of a magnification of 0.
+// Shown instead of a blank name, and of a magnification of 0.
 inline constexpr std::string_view kUnnamedObjective = "---------------";
 inline constexpr std::string_view kNoMagnification = "----";
 
-// What the user and a settings file may give, both ends included; the distance in millimetres.
+// The highest values that the user and a settings file may give; the distance is in millimetres.
 inline constexpr double kHighestMagnification = 200;
 inline constexpr double kHighestDistance = 40;
 inline constexpr double kHighestAperture = 2;
@@ -45,14 +45,14 @@ class clsDbNosepiece {
 
   ConnectedMicroscope& parent;
 
-  // Code of the condenser that suits an objective; told for the user's objectives only.
+  // Code of the condenser that suits an objective; only the user's objectives have one.
   std::int32_t AdoptiveCondenser(std::int32_t code) const;
   std::string Name(std::int32_t code) const;
   double Magnification(std::int32_t code) const;
   std::int32_t SeriesCode(std::int32_t code) const;
 
-  // The lists count from 0, whose entry is a row of dashes; the counts are the highest indices.
-  // The controller gives them on the first read, and they stay for good.
+  // Entry 0 of both lists is a row of dashes; the counts are the highest indices. The lists are
+  // read from the controller once, by the first read.
   std::int32_t SeriesCount() const;
   std::string Series(std::int32_t index) const;
   std::int32_t TypesCount() const;
@@ -62,9 +62,9 @@ class clsDbNosepiece {
   std::int32_t MagCount() const;
   std::string Mag(std::int32_t index) const;
 
-  // The next objective of series `nSeri` after code `npos`, -1 to begin. Answers its code, which
-  // npos becomes too, or -1 and leaves npos alone. The texts are empty when there is none.
-  // A start below -1 raises a subscript failure.
+  // Finds the next objective of series `nSeri` after code `npos`, which is -1 to begin. Returns its
+  // code and stores it in npos; without one returns -1, leaves npos and empties the texts. A start
+  // below -1 raises a subscript failure.
   std::int32_t Get_DbNosepiecePocket(std::int32_t nSeri, std::int32_t& npos, std::string& sType,
                                      std::string& sMag, std::string& sWD, std::string& sNA,
                                      std::string& sName) const;
@@ -75,21 +75,21 @@ class clsDbNosepiece {
                              std::int32_t& nType, std::string& sMag, std::string& sWD,
                              std::string& sNA, std::int32_t& nCondenser) const;
 
-  // Stores at position 0 to 9, the name cut to 20 characters. A text that is no number is 0.
-  // Position 0 overwrites the fixed objective of code 240, as it always did.
+  // Stores at position 0 to 9, the name cut to 20 characters. A text that is no number is 0. Kept
+  // oddity: position 0 overwrites the fixed objective of code 240.
   void Set_DbNosepiece(std::int32_t npos, std::string_view sName, std::int32_t nSeries,
                        std::int32_t nType, std::string_view sMag, std::string_view sWD,
                        std::string_view sNA, std::int32_t nCondenser);
 
-  // Whether the controller has a condenser at this moment, also one without addresses; one that
-  // does not answer is not there.
+  // Asks the controller whether a condenser is fitted, also one without addresses; false when it
+  // does not answer.
   bool HasCondenser() const { return HasLiveCondenser(parent); }
   AdoptiveCondensers ListCondensers() const { return ReadAdoptiveCondensers(parent); }
 
   std::string ReadSdk();
   std::string ModifySdk(std::string& list) const;
-  // Goes on after a failure. The condenser is written as a code text of its own, which repeats
-  // the rest as the controller holds it, so it comes after the other values.
+  // Goes on after a failure. A condenser is written as part of the code text, whose other
+  // characters repeat what the controller holds; so it is written after the other values.
   std::string WriteSdk() const;
 
   // Takes an "OPTION" element. A code that ends with no digit raises a conversion failure, and

@@ -9,12 +9,13 @@ namespace mortane {
 namespace {
 
 constexpr std::string_view kReadFailure = "Nosepiece Limit (";
-// Spelled so in the reports that people know.
+// The misspelling is kept: users know it from the reports.
 constexpr std::string_view kModifyFailure = "Nosepiece Lmit (";
 constexpr std::string_view kRefused = "Nosepiece Limit";
 constexpr std::string_view kUnknownCode = "Unknown";
 
-// The controller's numbers from 1 on: hundreds increase, tens skip, ones immersion.
+// The rules of the controller's codes 1 to 18 as one number each: hundreds increase, tens skip,
+// ones immersion.
 constexpr std::array<std::int32_t, 18> kKeys{0,  10,  100, 110, 200, 210, 1,   11,  2,
                                              12, 101, 111, 102, 112, 201, 211, 202, 212};
 
@@ -23,7 +24,7 @@ struct FileCode {
   std::int16_t value;
 };
 
-// Whichever the rule: "On" is also a way to forbid rotation, "NotRotate" one to skip.
+// All texts are accepted for all rules: "On" also means no rotation, "NotRotate" also skip.
 constexpr std::array<FileCode, 4> kFileCodes{
     {{"Off", 0}, {"NotRotate", 1}, {"On", 1}, {"StageDown", 2}}};
 

@@ -10,8 +10,8 @@
 
 namespace mortane {
 
-// Owned by clsK70. -1 is unknown: the controller did not tell. The controller holds all three
-// as one number, so nothing is written while any of them is unknown.
+// Owned by clsK70. -1 means unknown. The controller holds all three as one number, so nothing is
+// written while any of them is unknown.
 class clsLimitation {
  public:
   explicit clsLimitation(ConnectedMicroscope& microscope) : parent(microscope) {}
@@ -32,9 +32,9 @@ class clsLimitation {
   bool IsEnable() const;
 
   std::string ReadSdk();
-  // Compares with what the last read found; asks the controller nothing.
+  // Compares with the values of the last read; makes no call to the controller.
   std::string ModifySdk(std::string& list) const;
-  // Writes whether the rules changed or not.
+  // Writes the rules even if they did not change.
   std::string WriteSdk() const;
 
   // A "LIMIT" element holds one rule.

@@ -1,4 +1,4 @@
-// What stands on the nosepiece: the objective code at each address.
+// The objective code at each address of the nosepiece.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace mortane {
 
-// Owned by clsK70. What a code means is the database's affair.
+// Owned by clsK70. clsDbNosepiece knows what a code means.
 class clsNosepiece {
  public:
   clsNosepiece(ConnectedMicroscope& microscope, const clsDbNosepiece& database);
@@ -20,8 +20,8 @@ class clsNosepiece {
 
   ConnectedMicroscope& parent;
 
-  // Positions of the nosepiece; told by the controller on connecting and on each read. It stays
-  // when a read finds no nosepiece or fails.
+  // Number of addresses, set by clsK70 on connecting and by each read. A read that fails or finds
+  // no nosepiece leaves it.
   std::int32_t Count = 0;
 
   // Objective code 0 to 249 at address 1 to 10; for other addresses -1, and nothing is stored.

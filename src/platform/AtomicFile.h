@@ -1,4 +1,4 @@
-// Whole files in one step: read into memory, and replaced so that a reader never meets a half.
+// Reads whole files, and replaces them in one step: a reader sees the old content or the new.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,7 @@ namespace mortane {
 inline constexpr std::int32_t kMissingFileError = 53;
 inline constexpr std::int32_t kFileError = 57;
 
-// No file of ours comes near this size; what does is refused before it fills the memory.
+// Far above the size of any settings or bench file. Larger files are refused unread.
 inline constexpr std::size_t kLargestFile = std::size_t{64} * 1024 * 1024;
 
 // Raises a Failure for what is missing, unreadable, larger than `limit`, or no regular file.

@@ -1,4 +1,4 @@
-// What there is to know of the first joystick.
+// The first joystick: its buttons, and whether it answers.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +25,7 @@ class Joystick {
   virtual std::int32_t ReadStatus() = 0;
 };
 
-// The operating system's.
+// The operating system's first joystick.
 class SystemJoystick : public Joystick {
  public:
   JoystickCapabilities ReadCapabilities() override;

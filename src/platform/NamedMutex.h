@@ -8,15 +8,15 @@
 
 namespace mortane {
 
-// Exclusive use rests on the name: whoever opens it first has it until it closes it or its
-// process ends, however it ends. Two objects in one process exclude each other too. Owning the
-// mutex (Lock, Unlock) is a thing apart and decides nothing about the name.
+// Exclusive use rests on the name: whoever opens it first has it until it closes it or its process
+// ends, however it ends. Two objects in one process exclude each other too. Owning the mutex (Lock,
+// Unlock) is independent of that.
 class NamedMutex {
  public:
   enum class Opened { First, AlreadyExisted, Failed };
 
-  // Names are the whole machine's. Test programs put a text of their own in front of all of them,
-  // so that two that run side by side do not find each other's devices in use.
+  // Names are shared by all processes of the machine. Test programs set a prefix of their own, so
+  // that two that run at the same time do not find each other's devices in use.
   static void SetScope(std::string_view scope) { scope_ = scope; }
   static const std::string& Scope() { return scope_; }
 
@@ -25,14 +25,14 @@ class NamedMutex {
   NamedMutex(const NamedMutex&) = delete;
   NamedMutex& operator=(const NamedMutex&) = delete;
 
-  // Closes first what is still open. After First and AlreadyExisted the object is open. Virtual so
-  // that a test can put a system that refuses the name in its place.
+  // Closes first what is still open. After First and AlreadyExisted the object is open. Virtual, so
+  // that a test can have a system that refuses the name.
   virtual Opened Open(std::string_view name);
   void Close();
   bool IsOpen() const;
 
-  // Waits to own the open mutex, for ever when `milliseconds` is negative; the outcome of the
-  // wait is not told. Both do nothing on a closed one.
+  // Waits to own the open mutex, without a limit when `milliseconds` is negative. Whether it was
+  // obtained is not reported. Both do nothing on a closed one.
   void Lock(int milliseconds);
   void Unlock();
 

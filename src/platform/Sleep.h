@@ -3,7 +3,7 @@
 
 namespace mortane {
 
-// Nothing or less returns at once.
+// Returns at once for 0 or a negative number.
 void SleepMilliseconds(int milliseconds);
 
 }  // namespace mortane

@@ -1,5 +1,5 @@
-// Feeds the corpus, cut and changed in a way that is the same on every run, to the fuzz target,
-// for the builds that have no fuzzer.
+// Runs the fuzz target on the corpus, and on cut and changed copies that are the same in every run,
+// in builds without a fuzzer.
 #include <cstdio>
 #include <filesystem>
 #include <random>

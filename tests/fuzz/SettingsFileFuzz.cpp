@@ -25,7 +25,7 @@ void Require(bool holds, const char* promise) {
   std::abort();
 }
 
-// Counts the boxes and lets everything else pass.
+// Counts the boxes and ignores everything else.
 class CountingPrompts : public Prompts {
  public:
   int boxes = 0;
@@ -56,7 +56,7 @@ std::size_t Walk(const DomNode& node) {
   return size;
 }
 
-// Answers whether the bytes are a document.
+// True when the bytes are a document.
 bool CheckDocument(std::string_view bytes) {
   DomDocument document;
   if (!document.LoadText(bytes)) {
@@ -70,7 +70,7 @@ bool CheckDocument(std::string_view bytes) {
   return true;
 }
 
-// Saving waits for the disk, so that a memory file system serves better.
+// A memory file system is used if there is one, because each save waits for the disk.
 std::filesystem::path FastFolder() {
   const std::filesystem::path memory = "/dev/shm";
   return std::filesystem::exists(memory) ? memory : std::filesystem::temp_directory_path();
@@ -90,7 +90,7 @@ struct Reader {
   }
   ~Reader() { std::filesystem::remove(path); }
 
-  // What is let through to the caller ends the reading; what was read stays.
+  // A failure that goes to the caller ends the reading; what was read stays.
   void Read(std::string_view bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
     k70.ReadXMLItems(path);

@@ -5,8 +5,9 @@
 
 namespace mortane::test {
 
-// The program's names of devices are the machine's, so two tests that start it would find each
-// other's devices in use. Held for the time of a test; the next one waits for it.
+// The program's device names are shared by the whole machine, so two tests that start it at the
+// same time would find each other's devices in use. A test holds the lock; the next one waits for
+// it.
 class DeviceNamesLock {
  public:
   DeviceNamesLock() {

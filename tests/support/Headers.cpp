@@ -1,4 +1,4 @@
-// Nothing of its own: the program exists for its precompiled headers.
+// An empty program, whose precompiled headers other targets reuse.
 int main() {
   return 0;
 }

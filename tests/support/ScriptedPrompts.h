@@ -34,8 +34,8 @@ class ScriptedPrompts : public Prompts {
                  Action during = {});
   void ExpectTimedBox(int milliseconds, std::string prompt, int style, std::string title,
                       Answer answer);
-  // From here on every box that nobody scripted is answered with Ok and only recorded, for
-  // walks over many faults that look at the boxes afterwards.
+  // From here on every box without a script is answered with Ok and only recorded, for tests that
+  // make many calls fail and check the boxes afterwards.
   void AcceptAnyBox() { acceptAnyBox_ = true; }
   // Scripts the next file dialog; an empty path is a person who cancels.
   void ExpectFileToOpen(std::string path);

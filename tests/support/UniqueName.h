@@ -8,8 +8,8 @@
 
 namespace mortane::test {
 
-// Takes away at its end the files that stand behind the name, and names that begin with it, on
-// systems that have them.
+// On systems where a file stands for a name, the destructor removes the files of this name and of
+// all names that begin with it.
 class UniqueName {
  public:
   UniqueName() {

@@ -9,8 +9,8 @@ namespace {
 
 constexpr const char* kFailed = "LIB:80004005)";
 
-// A rig that goes through many rounds. Each begins with the instrument and the unit as they were
-// at first; a new rig for each would connect and read all other units as well.
+// A rig for many rounds. Each round begins with the instrument and the unit as they were at first.
+// A new rig for each round would be slow: it connects and reads all other units, too.
 class RoundRig : public Rig {
  public:
   RoundRig(const std::string& benchName, const UnitOperations& unit) : Rig(benchName), unit_(unit) {
@@ -37,8 +37,8 @@ class RoundRig : public Rig {
 
 enum class Hand { Own, Other };
 
-// An element as text. Another hand writes attribute names in small letters, and an attribute that
-// nobody knows.
+// An element as text. Hand::Other writes attribute names in small letters, and an unknown
+// attribute.
 std::string Written(const DomNode& element, Hand hand) {
   std::string xml = "<" + element.Name();
   if (hand == Hand::Other) xml += " colour=\"blue\"";
@@ -56,7 +56,7 @@ std::string Written(const DomNode& element, Hand hand) {
 
 }  // namespace
 
-// A drill over an empty table would pass without a look at the unit.
+// A drill over an empty table would pass without checking anything.
 void UnitDrill::SetUp() {
   const auto& edits = GetParam().edits;
   ASSERT_TRUE(std::any_of(edits.begin(), edits.end(),

@@ -62,8 +62,8 @@ struct RefusedElement {
   std::string line;
 };
 
-// `edits` change different items, in the order in which the unit walks over them. Failures are
-// the openings of lines; no modifyFailure means that ModifySdk asks the controller nothing.
+// `edits` change different items, in the order in which the unit compares them. Failures are the
+// openings of lines; without a modifyFailure ModifySdk must make no call to the controller.
 struct UnitDrillData {
   std::string name;
   std::string bench;

@@ -34,7 +34,7 @@ constexpr std::array kDevices{
     DeviceRow{"ZoomDevice", accessory::kOpticalZoom, "Magnification", false, false, nullptr},
 };
 
-// Positions are whole numbers on the wire, voltages and magnifications need not be.
+// Positions are given as whole numbers; voltages and magnifications may have fractions.
 Value WireNumber(double value) {
   constexpr double kLargestLong = 2147483647.0;
   if (value == std::trunc(value) && std::abs(value) <= kLargestLong) {
@@ -80,7 +80,7 @@ struct TurretLink {
   TurretPlaces& Places() const { return device.Fitted(row->number).*(row->places); }
 };
 
-// One of them, looked up anew at every use.
+// One place of a turret, looked up at every use.
 struct PlaceLink {
   TurretLink turret;
   std::size_t index;
@@ -105,7 +105,7 @@ ObjectRef MakeTurretPosition(const PlaceLink& link) {
   return MakeObject(members, link);
 }
 
-// The enumerator stands at the place that comes next.
+// The object's place is that of the next item.
 ObjectRef MakeTurretEnumerator(const TurretLink& link) {
   static const MemberTable<PlaceLink> members =
       MemberTable<PlaceLink>().OnCall("Next", 0, [](PlaceLink& next, Args) -> Value {
@@ -135,7 +135,7 @@ void AddPositions(MemberTable<DeviceLink>& table, const DeviceRow& row) {
   });
 }
 
-// The preparing calls change nothing that can be seen.
+// The preparing calls change no data.
 void AddNosepieceMembers(MemberTable<DeviceLink>& table) {
   const auto prepare = [](const DeviceLink& link, Args) -> Value {
     Commanded(link, accessory::kNosepiece);

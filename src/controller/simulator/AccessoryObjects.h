@@ -8,14 +8,14 @@
 
 namespace mortane::controller {
 
-// The members under which the root hands them out, and the device of each by its place there.
+// The root's members for these devices, and the device of the member at `place` in that list.
 std::vector<std::string_view> AccessoryDeviceMembers();
 ObjectRef MakeAccessoryDevice(const DeviceLink& link, std::size_t place);
 
-// Members that every accessory has.
+// Adds the members that every accessory has.
 void AddAccessoryState(MemberTable<DeviceLink>& table, int accessoryNumber);
 
-// The number `value` as the state of that accessory.
+// The number `value` as the state value of that accessory.
 ObjectRef MakeStateValue(const DeviceLink& link, int accessoryNumber, Value value);
 
 // Fails unless the accessory is fitted and can be commanded.

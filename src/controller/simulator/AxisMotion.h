@@ -1,4 +1,4 @@
-// One axis of a simulated drive on its way.
+// The motion of one axis of a simulated drive.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// A bench: instruments as plain data, for the simulated controller library.
+// A bench: the instruments of the simulated controller library, as plain data.
 #pragma once
 
 #include <array>
@@ -33,7 +33,7 @@ struct Instrument {
   std::array<std::string, kHandSwitches> handSwitches;
   DatabaseData database;
 
-  // unit 1 to 7, accessory 1 to 14, trigger 1 to 4.
+  // Units are 1 to 7, accessories 1 to 14, triggers 1 to 4.
   ControllerUnit& Unit(int unit) { return units.at(Slot(unit)); }
   AccessoryData& Accessory(int number) { return accessories.at(Slot(number)); }
   std::int32_t& Interlock(int item, int trigger) {

@@ -1,4 +1,4 @@
-// How the attributes of an element and the fields of a record become each other.
+// Reads the fields of a record from the attributes of an element, and writes them back.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@
 
 namespace mortane::controller::bench_file {
 
-// Sets the fields that the attributes name. `key` is an attribute that is no field.
+// Sets the fields that the attributes name; the attribute `key` is skipped.
 template <typename Record>
 void ReadAttributes(const DomNode& node, Record& record, std::string_view key = {}) {
   for (const DomAttribute& attribute : node.Attributes()) {
@@ -41,7 +41,7 @@ void WriteAttributes(DomNode node, const Record& record) {
   }
 }
 
-// The code of a switch key is all that its element holds.
+// The element of a switch holds only the code of its function.
 inline void ReadAttributes(const DomNode& node, std::string& function, std::string_view key) {
   for (const DomAttribute& attribute : node.Attributes()) {
     if (attribute.name == key) continue;

@@ -1,4 +1,5 @@
-// Building blocks of a bench file: how an element and a part of the bench become each other.
+// Building blocks of a bench file. Each reads one kind of element into a part of the bench, and
+// writes it back.
 #pragma once
 
 #include <array>
@@ -13,7 +14,7 @@
 
 namespace mortane::controller::bench_file {
 
-// One kind of child element of an owner: a bench, an instrument, a database.
+// One kind of child element. Its owner is a bench, an instrument or a database.
 template <typename Owner>
 struct ElementRow {
   std::string_view name;
@@ -86,7 +87,7 @@ struct Listed {
   }
 };
 
-// One element for each place of a table that holds something; `Keys` names the places.
+// One element for each entry of a table that is not empty; `Keys` names the entries.
 template <auto Member, const auto& Keys>
 struct Keyed {
   using Owner = decltype(OwnerOf(Member));

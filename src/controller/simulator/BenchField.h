@@ -1,4 +1,4 @@
-// The attribute of a bench file that stands for a field of a record.
+// Which attribute of a bench file holds a field of a record.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ struct BenchField {
       member;
 };
 
-// The fields of each kind of record: one table for both directions.
+// The fields of each kind of record, for reading and for writing.
 template <typename Record>
 inline constexpr auto kBenchFields = nullptr;
 

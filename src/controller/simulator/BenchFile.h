@@ -1,4 +1,4 @@
-// Benches as files: what a device holds is there again at the next start.
+// Benches as files, so that the next start finds what the instruments hold.
 #pragma once
 
 #include <string>
@@ -7,14 +7,14 @@
 
 namespace mortane::controller {
 
-// An XML file of root "Bench"; what it does not name has its default, text between the elements
-// is passed over. Raises a Failure for anything wrong, its description naming the file, the
-// element and what is wrong there: unknown or repeated elements and attributes, texts that are
-// no numbers, values that do not fit their place, no instrument at all.
+// Reads an XML file with the root "Bench". What the file does not name has its default; text
+// between elements is ignored. Raises a Failure whose description names the file, the element and
+// the error: an unknown or repeated element or attribute, a text that is no number, a value out of
+// range, no instrument at all.
 Bench ReadBenchFile(const std::string& path);
 
-// Writes what differs from the defaults, so that reading gives an equal bench. Replaces the file
-// in one step; a Failure leaves it as it was.
+// Writes what differs from the defaults; reading gives an equal bench. Replaces the file in one
+// step; after a Failure it is unchanged.
 void WriteBenchFile(const std::string& path, const Bench& bench);
 
 }  // namespace mortane::controller

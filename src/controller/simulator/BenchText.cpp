@@ -27,7 +27,7 @@ bool ParseWhole(const std::string& text, Number& number) {
   return parsed.ec == std::errc() && parsed.ptr == end;
 }
 
-// A drive that does not move would never end a move.
+// A move at speed 0 would never end.
 void CheckSpeed(const DomNode& node, std::int32_t speed) {
   if (speed < 1) RaiseAt(node, "the speed " + std::to_string(speed) + " is below 1");
 }

@@ -1,4 +1,4 @@
-// Texts of a bench file and the checks of what it holds.
+// The texts of a bench file, and the checks of its records.
 #pragma once
 
 #include <optional>
@@ -12,15 +12,15 @@
 
 namespace mortane::controller::bench_file {
 
-// Names the place of an element within a table.
+// The attribute that names an element's entry in a table.
 inline constexpr std::string_view kKey = "At";
-// What a switch does.
+// The attribute that holds the function of a switch.
 inline constexpr std::string_view kFunction = "Function";
 
 // Raises a Failure that names the element and what is wrong with it.
 [[noreturn]] void RaiseAt(const DomNode& node, const std::string& problem);
 
-// Take the value of an attribute of that element; a text of another kind raises a failure.
+// Convert the attribute's text; raise a failure for a text of another kind.
 void ReadText(const DomNode& node, const DomAttribute& attribute, std::int16_t& value);
 void ReadText(const DomNode& node, const DomAttribute& attribute, std::int32_t& value);
 void ReadText(const DomNode& node, const DomAttribute& attribute, bool& value);
@@ -38,14 +38,14 @@ std::string TextOf(const std::string& value);
 std::string TextOf(const std::optional<std::int32_t>& value);
 std::string TextOf(const std::optional<std::string>& value);
 
-// The elements that were read already within one owner.
+// Names of the elements that were read within one owner.
 using Seen = std::set<std::string, std::less<>>;
 
 // Raises a failure when `what` was seen before.
 void CheckFirst(const DomNode& node, Seen& seen, const std::string& what);
 void CheckNoChildren(const DomNode& node);
 
-// Raises a failure when the fields do not fit together or not their device.
+// Raises a failure when a record's fields are outside their range.
 void CheckRecord(const DomNode& node, const Instrument& instrument);
 void CheckRecord(const DomNode& node, const CondenserData& condenser);
 void CheckRecord(const DomNode& node, const ZDriveData& drive);
@@ -53,7 +53,7 @@ void CheckRecord(const DomNode& node, const XYDriveData& drive);
 template <typename Record>
 void CheckRecord(const DomNode& /*node*/, const Record& /*record*/) {}
 
-// The place that the element's key names; raises a failure when it names none.
+// Index of the entry that the element's key names; raises a failure for an unknown key.
 std::size_t PlaceOf(const DomNode& node, std::span<const std::string_view> keys);
 
 }  // namespace mortane::controller::bench_file

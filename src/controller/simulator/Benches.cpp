@@ -37,7 +37,7 @@ Instrument Renamed(Instrument instrument, std::string name) {
   return instrument;
 }
 
-// Names as a list may hold them: plain, of a device that is away, blank, with blanks around.
+// The names are plain, of a device that is not available, blank, and with blanks around.
 std::vector<Instrument> Crowd() {
   std::vector<Instrument> devices{instruments::Quay(), Renamed(instruments::Harbour(), "Alpha"),
                                   Renamed(instruments::Harbour(), "Beta"),
@@ -47,7 +47,7 @@ std::vector<Instrument> Crowd() {
   return devices;
 }
 
-// The only bench with a fiber illuminator: the simulator shows all that there is.
+// Only the simulator's bench has a fiber illuminator, so that it shows every device.
 FiberData QuayFiber() {
   FiberData fiber;
   fiber.installed = true;

@@ -1,4 +1,4 @@
-// The named benches: instruments that together reach every branch of a set-up program.
+// The named benches. Together they reach every branch of a set-up program.
 #pragma once
 
 #include <string>
@@ -9,14 +9,14 @@
 
 namespace mortane::controller::benches {
 
-// "Quay" is the simulator alone; every other instrument stands at index 1 above it; "Crowd" is
-// the simulator and four more, one of them not available.
+// "Quay" is the simulator alone. Every other bench has the simulator at index 0 and its instrument
+// at index 1. "Crowd" is the simulator and four more, one of them not available.
 std::vector<std::string> Names();
 
 // Raises a failure for a name that is none of Names().
 Bench Named(std::string_view name);
 
-// One of the instruments alone: every name but "Crowd".
+// One instrument by its name; any name but "Crowd".
 Instrument InstrumentNamed(std::string_view name);
 
 }  // namespace mortane::controller::benches

@@ -1,4 +1,4 @@
-// The time that a simulated controller library goes by.
+// The clock of a simulated controller library.
 #pragma once
 
 #include <algorithm>
@@ -6,17 +6,17 @@
 
 namespace mortane::controller {
 
-// Milliseconds since the clock's own beginning.
+// Times are milliseconds since the clock was made.
 class Clock {
  public:
   virtual ~Clock() = default;
 
   virtual std::int64_t Now() const = 0;
-  // Comes back at that time or later, at once when it is past.
+  // Returns at that time or later; at once for a time in the past.
   virtual void WaitUntil(std::int64_t time) = 0;
 };
 
-// Stands still until someone advances it or waits for a later time.
+// Advances only by Advance and by waiting.
 class SimulatedClock : public Clock {
  public:
   std::int64_t Now() const override { return now_; }

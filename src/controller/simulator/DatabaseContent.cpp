@@ -24,7 +24,7 @@ struct ObjectiveRow {
   double numericalAperture;
 };
 
-// Values fit the code text: magnification in tenths, distance in hundredths.
+// The values fit the code text: magnifications in tenths, distances in hundredths.
 constexpr std::array kObjectives{
     ObjectiveRow{"Plan A 2x", 1, 7, 2, 8.5, 0.06},
     ObjectiveRow{"Plan A 4x", 1, 1, 4, 30, 0.1},
@@ -54,7 +54,7 @@ constexpr std::array kObjectives{
     ObjectiveRow{"Epi 150x", 6, 1, 150, 0.42, 0.9},
 };
 
-// The addresses at which a turret piece of that size fits.
+// `suits` has one character for each address: "1" where the condenser fits.
 struct CondenserRow {
   std::string_view name;
   std::string_view suits;

@@ -1,15 +1,15 @@
-// What stands in the databases of the named benches.
+// The content of the databases of the named benches.
 #pragma once
 
 #include "controller/simulator/DatabaseData.h"
 
 namespace mortane::controller {
 
-// Names and numbers within all limits, the fixed records of every list numbered from 1; a few
-// options in use and the others marked with dashes, as a set-up program leaves them.
+// Names and numbers are within all limits, and the fixed records of each list are numbered from 1.
+// A few options are in use; the others are marked with dashes, as a set-up program leaves them.
 DatabaseData OrdinaryDatabase();
 
-// Long names, unnamed and doubled records, codes out of place, and answers that are no codes.
+// Has long names, unnamed and equal records, codes out of range, and answers that are no codes.
 DatabaseData AwkwardDatabase();
 
 // Options 241 (141 among condensers) to 249 (149): the first ones named, the others dashes.

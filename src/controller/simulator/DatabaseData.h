@@ -8,7 +8,7 @@
 
 namespace mortane::controller {
 
-// The first code that the user may define, in the condenser list and in all others.
+// The first code of the user's records, in the list of condensers and in all others.
 inline constexpr std::int32_t kFirstCondenserOption = 141;
 inline constexpr std::int32_t kFirstOption = 241;
 
@@ -21,8 +21,8 @@ struct FilterData {
   bool operator==(const FilterData&) const = default;
 };
 
-// `adoptive` is the condenser digit of an option. `answer`, when there is one, is what the
-// controller answers when asked for the option's code text, whatever the record holds.
+// `adoptive` is the condenser digit of an option. `answer`, when set, is what the controller
+// answers to a query of the option's code text, whatever the record holds.
 struct ObjectiveData {
   std::int32_t code = 0;
   bool option = false;

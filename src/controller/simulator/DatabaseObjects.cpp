@@ -6,7 +6,7 @@
 namespace mortane::controller {
 namespace {
 
-// One record by its place in the database; the record is looked up anew at every use.
+// One record of a list, looked up at every use.
 template <typename Record>
 struct RecordLink {
   DeviceLink device;

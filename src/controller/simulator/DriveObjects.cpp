@@ -8,7 +8,7 @@
 namespace mortane::controller {
 namespace {
 
-// Orders are written only, and only where the drive can be commanded.
+// An Order can be written only, and only to a drive that can be commanded.
 enum class Access { Read, Order, Both };
 
 template <typename Drive>
@@ -69,7 +69,7 @@ void AddFields(MemberTable<DeviceLink>& table, int number, Drive Instrument::*dr
   }
 }
 
-// What an axis needs of its drive.
+// The fields of a drive that one axis uses.
 struct AxisField {
   std::int32_t& position;
   std::optional<std::int32_t> lowest;
@@ -85,7 +85,7 @@ AxisField FieldOf(Instrument& device, Axis axis) {
   return {xy.positionY, xy.lowestY, xy.highestY, xy.speed};
 }
 
-// The bench holds where an axis stands; it is brought up to date once a move has ended.
+// The bench holds the position of an axis at rest, so it is set when a move has ended.
 void Arrive(const DeviceLink& link, Axis axis) {
   AxisMotion& motion = link.Session().Motion(axis);
   motion.Stop();

@@ -10,7 +10,7 @@ constexpr std::int32_t kSeriesCount = 12;
 constexpr std::int32_t kTypeCount = 9;
 constexpr std::size_t kCassetteAddresses = 10;
 
-// Some lists number their entries, some name them.
+// Every fourth entry is a number.
 std::vector<ListedName> Names(std::string_view opening, std::int32_t count) {
   std::vector<ListedName> names;
   for (std::int32_t i = 1; i <= count; ++i) {
@@ -20,8 +20,8 @@ std::vector<ListedName> Names(std::string_view opening, std::int32_t count) {
   return names;
 }
 
-// Codes 6 and 7 cannot be told apart in a list; 8 names a series that does not exist and 9
-// none; 30 is an option among the fixed ones; series 11 and 12 are empty.
+// Codes 6 and 7 look the same in a list. Code 8 has a series that does not exist, code 9 has none.
+// Code 30 is an option among the fixed codes. Series 11 and 12 are empty.
 void AddFixedObjectives(std::vector<ObjectiveData>& records) {
   records.push_back({3, false, "Series 1 40x", 1, 2, 40, 0.6, 0.65, 0, {}});
   records.push_back({1, false, "Series 1 4x", 1, 1, 4, 30, 0.1, 0, {}});
@@ -50,13 +50,12 @@ void AddOptionalObjectives(std::vector<ObjectiveData>& records) {
   records.push_back(
       {247, true, "Sixteen letters.", 3, 1, 40, 0.6, 0.65, 3, "  ONR731190 03C28A3  "});
   records.push_back({248, true, "Short answer", 3, 1, 40, 0.6, 0.65, 3, "8A3"});
-  // A reader that takes the last character as a number stops here, behind all the others.
+  // The last character is no digit, which ends a read; therefore the record is the last one.
   records.push_back({249, true, "Bad answer", 3, 1, 40, 0.6, 0.65, 3, "ONR93119003C28Ax"});
 }
 
-// Twelve fixed ones, more than a code text's digit can name; the third looks unused and the
-// fifth claims to be an option. Each fits the addresses that its own number divides, and all
-// fit the first.
+// Twelve fixed condensers are more than the digit of a code text can name. The third looks unused,
+// the fifth is marked as an option. Each fits address 1 and the multiples of its number.
 std::vector<CondenserData> Condensers() {
   std::vector<CondenserData> records;
   for (std::int32_t code = 1; code <= 12; ++code) {
@@ -96,7 +95,7 @@ std::vector<CubeData> Cubes() {
       {244, true, "Odd items", 243, 242, 30},
   };
   for (std::int32_t code = 245; code <= 249; ++code) records.push_back({code, true, "", 0, 0, 0});
-  // Beyond every table, and therefore last.
+  // Beyond the table, which ends a read; therefore the record is the last one.
   records.push_back({250, false, "Beyond", 1, 1, 1});
   return records;
 }
@@ -137,8 +136,8 @@ Instrument Attic() {
   attic.Interlock(accessory::kZFocusDrive, trigger::kNosepiece) = 1;
   attic.xyDrive.handleMode = 3;
   attic.database = AwkwardDatabase();
-  // On the dials: a second half of a pair and no function at all; on the switches: characters
-  // that are no digits.
+  // The dials have the second half of a pair and no function; switches have characters that are no
+  // digits.
   SetSwitches(attic.bodySwitches, "_ {q0z08 812AB");
   attic.bodySwitches[5] = "";
   attic.bodySwitches[6] = "\xC3\xA9";

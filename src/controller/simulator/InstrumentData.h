@@ -11,8 +11,7 @@
 
 namespace mortane::controller {
 
-// A controller unit, number 1 to 7. It answers when `present` is 1; other numbers than 0 and 1
-// are handed out as they stand.
+// A controller unit. It answers when `present` is 1; any number is given as it is.
 struct ControllerUnit {
   std::int32_t present = 0;
   std::string version;
@@ -40,8 +39,8 @@ struct SwitchData {
   bool operator==(const SwitchData&) const = default;
 };
 
-// `state` is 1 when the accessory is fitted; one of state 0 answers nothing but that.
-// `value` is its position, voltage, path or magnification; the drives have their own.
+// `state` is 1 when the accessory is fitted. With state 0 every access but `state` fails. `value`
+// is its position, voltage, path or magnification; the drives have their own fields.
 struct AccessoryData {
   std::int32_t state = 0;
   bool readOnly = false;
@@ -60,7 +59,7 @@ struct TurretPlace {
 
 using TurretPlaces = std::vector<TurretPlace>;
 
-// 1 micrometre per millisecond, which is what programs suppose when they wait for a move.
+// 1 micrometre per millisecond, which programs assume when they wait for a move.
 inline constexpr std::int32_t kUsualSpeed = 20;
 
 // Positions in steps of 0.05 micrometres, the speed in steps per millisecond. Knob: 1 automatic, 0
@@ -110,7 +109,7 @@ struct InterlockData {
   bool operator==(const InterlockData&) const = default;
 };
 
-// In the order of the triggers, from 1.
+// In the order of the trigger numbers, from 1.
 inline constexpr std::array kTriggers{&InterlockData::byObservation, &InterlockData::byZoom,
                                       &InterlockData::byNosepiece, &InterlockData::byLightPath};
 

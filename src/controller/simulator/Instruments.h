@@ -1,4 +1,4 @@
-// The instruments of the named benches, and what builds them.
+// The instruments of the named benches, and functions that build them.
 #pragma once
 
 #include <initializer_list>
@@ -14,14 +14,14 @@ Instrument Harbour();     // body and hand controller, everything fitted and con
 Instrument Lantern();     // old body, no condenser, some accessories only sensed
 Instrument Hub();         // hub and hand controller without a body
 Instrument Pair();        // body and hub that disagree on the buzzer
-Instrument Outpost();     // the third unit alone
-Instrument Relay();       // body and third unit, a stage without a nosepiece
-Instrument Deck();        // the sixth unit alone
+Instrument Outpost();     // the third kind of unit alone
+Instrument Relay();       // body and third kind of unit, a stage without a nosepiece
+Instrument Deck();        // the fifth kind of unit alone
 Instrument DeckRemote();  // the same with the remote
 Instrument Watch();       // everything only sensed
 Instrument Shell();       // nothing answers
 Instrument Hollow();      // turrets without addresses
-Instrument Attic();       // odd values wherever a controller can hold one
+Instrument Attic();       // odd values wherever a controller can hold them
 
 enum class Fit { Sensed, Controllable };
 
@@ -32,7 +32,7 @@ void FitAllAccessories(Instrument& instrument, Fit fit);
 // Makes a controller unit answer; `unit` is one of controllerunit.
 void AddUnit(Instrument& instrument, std::int32_t unit, std::string_view version);
 
-// Places from address 1, with these codes.
+// Addresses 1, 2, ... with these codes.
 TurretPlaces Places(std::initializer_list<std::int32_t> codes);
 
 // One character for each key, from the first.

@@ -4,7 +4,8 @@
 namespace mortane::controller::instruments {
 namespace {
 
-// What leaves the works: the body's dials and switches, the hand controller in standard mode.
+// The factory settings of the body's dials and switches, and of the hand controller in standard
+// mode.
 constexpr std::string_view kBodyDefaults = "33406D5012BC9A78";
 constexpr std::string_view kHandDefaults = "0123P4Q5EF00000";
 
@@ -61,7 +62,7 @@ Instrument Quay() {
   quay.xyDrive.positionX = 41500;
   quay.xyDrive.positionY = -26800;
   quay.xyDrive.knobSensitivity = 3;
-  // The knobs and the speed-change functions agree: only the stage knob has one.
+  // The speed-change functions agree with the knobs: only the stage knob has one.
   SetSwitches(quay.bodySwitches, "OP406D5012BC9A78");
   SetSwitches(quay.handSwitches, "1124PQ5DBCfghij");
   return quay;

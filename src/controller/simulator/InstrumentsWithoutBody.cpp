@@ -24,7 +24,7 @@ Instrument Hub() {
                  Fit::Controllable);
   hub.filterCubes = Places({2, 3, 4, 5, 6, 7, 8, 9, 10, 1});
   hub.condensers = Places({1, 2, 3, 4, 5, 6, 7});
-  // Objectives do not turn here: the dials drive cubes, zoom and field stop.
+  // There is no nosepiece: the dials drive cubes, zoom and field stop.
   SetSwitches(hub.handSwitches, "0BCKL6ODMN00000");
   return hub;
 }

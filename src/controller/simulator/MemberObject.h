@@ -1,4 +1,4 @@
-// An object of the simulated library: a table of members by name, and what they answer for.
+// An object of the simulated library: a table of members by name, and the data they work on.
 #pragma once
 
 #include <algorithm>
@@ -13,7 +13,7 @@
 
 namespace mortane::controller {
 
-// Every failure of the simulated library.
+// Raises a failure; all failures of the simulated library come from here.
 [[noreturn]] void RaiseSimulated(const std::string& description);
 
 // Conversions of what a caller handed in; a value of another kind raises a failure.
@@ -23,8 +23,8 @@ double DoubleArgument(const Value& value);
 std::string TextArgument(const Value& value);
 bool BooleanArgument(const Value& value);
 
-// The functions of one direction by name, which is told apart by case. A call of an unknown member
-// fails, and so does one with another number of arguments than the member takes.
+// Functions by the names of members; case matters. Find raises a failure for an unknown member and
+// for a wrong number of arguments.
 template <typename Function>
 class NamedFunctions {
  public:
@@ -55,8 +55,7 @@ const Function& NamedFunctions<Function>::Find(std::string_view name, Args args)
   return entry->function;
 }
 
-// The members of one kind of object, made once. Each function gets the `Self` of the object that
-// it is called on.
+// The members of one kind of object. Each function gets the `Self` of the object it is called on.
 template <typename Self>
 struct MemberTable {
   using Reader = std::function<Value(Self&, Args)>;
@@ -80,7 +79,7 @@ struct MemberTable {
   NamedFunctions<Reader> calls;
 };
 
-// The table must live as long.
+// The table must outlive the object.
 template <typename Self>
 class MemberObject : public ControllerObject {
  public:

@@ -33,7 +33,7 @@ bool IsDigit(char character) {
   return character >= '0' && character <= '9';
 }
 
-// The option that a command names: its opening, then one digit from 1 to 9.
+// The option that a command names by one digit from 1 to 9 behind its opening.
 template <typename Objectives>
 auto& OptionOf(Objectives& objectives, std::string_view opening, std::string_view command) {
   const bool named = command.starts_with(opening) && command.size() > opening.size() &&

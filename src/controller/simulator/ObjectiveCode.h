@@ -20,7 +20,7 @@ bool ApplyObjectiveCode(ObjectiveData& objective, std::string_view code);
 // "rONR" and a position from 1 to 9; raises a failure for any other text.
 std::string AnswerQuery(const DatabaseData& database, std::string_view command);
 
-// "cONS", a position and a code text. Answers whether the database changed.
+// "cONS", a position and a code text. True when the database changed.
 bool ApplyCommand(DatabaseData& database, std::string_view command);
 
 }  // namespace mortane::controller

@@ -1,4 +1,4 @@
-// The time as it passes.
+// A clock of real time.
 #pragma once
 
 #include <chrono>

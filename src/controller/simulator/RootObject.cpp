@@ -29,7 +29,7 @@ constexpr std::array kSwitches{UnitRow{switchunit::kBody, &SwitchData::body},
                                UnitRow{switchunit::kHandController, &SwitchData::handController},
                                UnitRow{switchunit::kRemote, &SwitchData::remote}};
 
-// A device as an entry of the list; its own type tells it from other objects of a device.
+// A device as an entry of the list. A type of its own, by which CurrentDevice knows an entry.
 struct DeviceEntryLink {
   DeviceLink device;
 };
@@ -94,7 +94,7 @@ ObjectRef MakeDeviceList(const SimulatorRef& state) {
   return MakeObject(members, state);
 }
 
-// One root: what it shares with the others, and the device that it talks to.
+// One root: the state that all roots share, and the device that this one talks to.
 class Root {
  public:
   explicit Root(SimulatorRef state) : state_(std::move(state)) { ++state_->createdRoots; }

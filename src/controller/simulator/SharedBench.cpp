@@ -13,8 +13,8 @@
 namespace mortane::controller {
 namespace {
 
-// An exchange takes some milliseconds. A program that holds the lock for longer hangs, and the
-// others go on without it.
+// An exchange takes some milliseconds. A program that holds the lock for longer hangs; the others
+// go on without the lock.
 constexpr int kLongestWaitMs = 5000;
 
 class BenchLock {
@@ -45,7 +45,7 @@ bool IsChanged(const Bench& ours, const Bench& known, std::size_t place) {
 SharedBench::SharedBench(const std::string& path)
     : path_(path), lockName_(LockName(path)), known_(ReadBenchFile(path)) {}
 
-// Paths are longer than names may be.
+// A hash, because a path can be longer than a name may be.
 std::string SharedBench::LockName(const std::string& path) {
   std::error_code error;
   const std::filesystem::path absolute = std::filesystem::weakly_canonical(path, error);
@@ -62,7 +62,7 @@ Bench SharedBench::Merged(const Bench& ours, const Bench& theirs) const {
   if (!(ours.fiber == known_.fiber)) merged.fiber = ours.fiber;
   for (std::size_t place = 0; place < ours.instruments.size(); ++place) {
     if (!IsChanged(ours, known_, place)) continue;
-    // A changed instrument keeps its place also in a file that has become shorter.
+    // A changed instrument keeps its index, also when the file has fewer instruments now.
     while (merged.instruments.size() <= place) {
       merged.instruments.push_back(ours.instruments[merged.instruments.size()]);
     }

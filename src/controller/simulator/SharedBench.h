@@ -7,24 +7,24 @@
 
 namespace mortane::controller {
 
-// A bench has parts: each instrument, by its place, and the fiber server. Programs that run side by
-// side use different instruments, so a part that this program changed since the last exchange goes
-// to the file, and every other part comes from it. Only when both changed one part, the file's
-// change is lost.
+// The parts of a bench are its instruments, by index, and the fiber server. Programs that run at
+// the same time use different instruments. So a part that this program changed since the last
+// exchange is written to the file, and every other part is taken from it. When both changed the
+// same part, the file's change is lost.
 class SharedBench {
  public:
   // Reads the file; raises a Failure for one that is wrong.
   explicit SharedBench(const std::string& path);
 
-  // The bench as of the last exchange.
+  // The bench at the last exchange.
   const Bench& Known() const { return known_; }
 
-  // Makes file and `bench` equal, under a lock that the programs of this machine share. A file that
-  // went away is made anew, unless nothing changed here. Raises a Failure when the file is wrong or
-  // cannot be written; both are then as they were, and the next exchange takes everything along.
+  // Makes file and `bench` equal, under a lock that the programs of this machine share. A missing
+  // file is created if anything changed here. Raises a Failure when the file is wrong or cannot be
+  // written; both are unchanged then, and the next exchange includes these changes.
   void Exchange(Bench& bench);
 
-  // The lock's name, a NamedMutex: the same for all ways to write the path of one file.
+  // Name of the lock, a NamedMutex. Different paths of one file have the same name.
   static std::string LockName(const std::string& path);
 
  private:

@@ -12,12 +12,11 @@ namespace mortane::controller {
 
 struct SimulatorState;
 
-// Any number of roots may live at once over the same instruments; objects keep what they need
-// alive when they outlast the library. A root without a current, connected device fails every
-// call but those of the device list.
+// Any number of roots may exist over the same instruments. Objects may outlive the library. A root
+// without a current, connected device fails every call but those of the device list.
 class SimulatedLibrary : public ControllerLibrary {
  public:
-  // On a SimulatedClock of its own.
+  // With a SimulatedClock of its own.
   explicit SimulatedLibrary(Bench bench);
   SimulatedLibrary(Bench bench, std::shared_ptr<Clock> clock);
   ~SimulatedLibrary() override;
@@ -26,21 +25,21 @@ class SimulatedLibrary : public ControllerLibrary {
 
   ObjectRef Create(std::string_view className) override;
 
-  // The live state: reads answer from it, writes go to it, and it may be changed at any time.
+  // The data that all calls read and write. It may be changed at any time.
   Bench& bench();
-  // The library's own clock. Drives move with it when they were told to return at once.
+  // The library's own clock; not for a library that was given one. Asynchronous moves follow it.
   SimulatedClock& clock();
 
-  // Roots of the class "Microscope".
+  // Numbers of roots, objects of the class "Microscope".
   int CreatedRoots() const;
   int ReleasedRoots() const;
 
-  // Called after every write that changed the bench, and when a move has ended. What opens and
-  // closes, connections and the fiber server's device, is no such change.
+  // Called after every write that changed the bench, and when a move has ended. Opening or closing
+  // connections, or the fiber server's device, is not a change.
   void OnChange(std::function<void(const Bench&)> listener);
 
-  // Called before a device is connected and after one was disconnected, to bring the bench up to
-  // date with what others do to it.
+  // Called before a device is connected and after one was disconnected. The listener may replace
+  // the bench, for instance by what other programs wrote.
   void OnConnection(std::function<void()> listener);
 
  private:

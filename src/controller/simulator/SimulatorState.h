@@ -1,4 +1,4 @@
-// What all objects of one simulated library share: the bench and what goes on on it.
+// What all objects of one simulated library share: the bench, the clock and the connections.
 #pragma once
 
 #include <array>
@@ -15,7 +15,7 @@ namespace mortane::controller {
 
 enum class Axis { Z, X, Y };
 
-// One device as it is used now; nothing of this is bench data.
+// The connection to one device and its moves, which are not part of the bench.
 struct DeviceSession {
   bool connected = false;
   bool asynchronous = false;
@@ -41,7 +41,7 @@ struct SimulatorState {
     if (onConnection) onConnection();
   }
 
-  // Sets a field of the bench and tells the listener when that changed it.
+  // Sets a field of the bench; calls the listener when the value differs.
   template <typename Field>
   void Assign(Field& field, const Field& value) const {
     if (field == value) return;
@@ -52,7 +52,7 @@ struct SimulatorState {
 
 using SimulatorRef = std::shared_ptr<SimulatorState>;
 
-// The way of an object to its device. The bench may be changed under it at any time.
+// An object's reference to its device, by index: the bench may be changed at any time.
 class DeviceLink {
  public:
   DeviceLink(SimulatorRef state, int index) : state_(std::move(state)), index_(index) {}
@@ -61,11 +61,11 @@ class DeviceLink {
   int Index() const { return index_; }
   DeviceSession& Session() const { return state_->sessions[index_]; }
 
-  // Fails when the bench has no such device (any more).
+  // Raises a failure when the bench has no such device.
   Instrument& Device() const;
-  // Fails unless the device is connected.
+  // Raises a failure unless the device is connected.
   Instrument& Connected() const;
-  // Fails unless that accessory is fitted as well.
+  // Raises a failure unless that accessory is fitted as well.
   Instrument& Fitted(int accessoryNumber) const;
 
   template <typename Field>

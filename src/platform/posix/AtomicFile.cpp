@@ -31,7 +31,7 @@ constexpr int kLongestLinkChain = 40;
                    error == ENOENT ? kMissingFileError : kFileError);
 }
 
-// The file that a write to `path` ends in; also when the last link dangles.
+// Resolves symbolic links, also a last one whose target does not exist.
 std::string FollowLinks(const std::string& path) {
   std::filesystem::path target = path;
   std::error_code error;
@@ -44,8 +44,8 @@ std::string FollowLinks(const std::string& path) {
   return target.string();
 }
 
-// What stands at the target now; nothing when the save makes a new file. A device or a folder
-// must not be renamed over, and a file that may not be written must not be replaced either.
+// The status of the file to be replaced; nothing when there is none. Refuses folders, devices and
+// files without write permission, which a rename would replace all the same.
 std::optional<struct stat> CheckTarget(const std::string& target) {
   struct stat status {};
   if (::stat(target.c_str(), &status) != 0) {
@@ -63,8 +63,8 @@ bool IsDead(std::int64_t process) {
   return ::kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH;
 }
 
-// The numbers of processes are this machine's (this container's), while a folder may be shared:
-// whoever writes a temporary file holds a lock on it.
+// Process numbers are local to a machine or container, while a folder may be shared: a file whose
+// writer still holds its lock is left alone.
 void RemoveUnlessLocked(const std::string& path) {
   constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
   const Descriptor file(::open(path.c_str(), kFlags));
@@ -73,8 +73,8 @@ void RemoveUnlessLocked(const std::string& path) {
   if (::flock(file.Get(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
 }
 
-// A process that was killed during its save could not remove its file. What cannot be removed
-// stays: it keeps no save from succeeding.
+// A process that was killed during a save could not remove its temporary file. One that cannot be
+// removed now is left; it does not keep a save from succeeding.
 void RemoveLeftTemporaries(const std::filesystem::path& folder) {
   std::error_code error;
   std::filesystem::directory_iterator entry(folder.empty() ? "." : folder, error);
@@ -84,7 +84,7 @@ void RemoveLeftTemporaries(const std::filesystem::path& folder) {
   }
 }
 
-// A file of its own beside the target, removed again unless it was renamed.
+// A temporary file beside the target, removed unless it was renamed.
 class Temporary {
  public:
   explicit Temporary(const std::string& target) : target_(target) {
@@ -93,7 +93,7 @@ class Temporary {
       path_ = (folder / TemporaryName(::getpid(), number)).string();
       file_ = Descriptor(::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
       if (file_.IsOpen()) {
-        // Tells a save on another machine that the file is in use; not all file systems can.
+        // Marks the file as in use for saves on other machines; not every file system supports it.
         static_cast<void>(::flock(file_.Get(), LOCK_EX | LOCK_NB));
         return;
       }
@@ -108,7 +108,7 @@ class Temporary {
   Temporary& operator=(const Temporary&) = delete;
 
   void TakePermissions(const struct stat& status) {
-    // Only a privileged user can give a file away; for others it stays their own, as any editor's.
+    // Only a privileged user can change the owner; the new file of another user is his own.
     if (::fchown(file_.Get(), status.st_uid, status.st_gid) != 0 && errno != EPERM) Raise();
     if (::fchmod(file_.Get(), status.st_mode & 07777U) != 0) Raise();
   }
@@ -162,7 +162,7 @@ std::string ReadWholeFile(const std::string& utf8Path, std::size_t limit) {
   std::string bytes;
   const auto expected = static_cast<std::size_t>(status.st_size);
   if (expected > limit) RaiseFileFailure("read", utf8Path, EFBIG);
-  // One byte more than expected, so that the end shows without a second growth.
+  // One spare byte, so that the read that finds the end needs no larger buffer.
   bytes.resize(expected + 1);
   std::size_t size = 0;
   for (;;) {

@@ -18,8 +18,7 @@ Descriptor OpenJoystick() {
   return Descriptor(::open(kDevice, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
 }
 
-// The device file comes and goes with the joystick; a file that cannot be used is the system's
-// fault and not the plug's.
+// The device file exists only while a joystick is plugged in; any other error is the driver's.
 std::int32_t OpenError() {
   return errno == ENOENT || errno == ENODEV || errno == ENXIO ? kJoystickUnplugged
                                                               : kJoystickNoDriver;

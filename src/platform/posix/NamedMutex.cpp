@@ -23,8 +23,8 @@ namespace {
 constexpr int kPollMilliseconds = 10;
 constexpr std::array<const char*, 2> kLockFolders = {"/run/lock", "/tmp"};
 
-// The first folder in which every user may make files, and only their owner remove them. Asking
-// for the mode and not for access makes all users of the machine choose the same.
+// The first folder in which every user can create files and only owners can remove them. The mode
+// is checked, not this user's access, so that all users choose the same folder.
 std::string LockFolder() {
   for (const char* folder : kLockFolders) {
     struct stat status {};
@@ -51,8 +51,8 @@ std::string LockPath(std::string_view name) {
   return path + ".lock";
 }
 
-// Opening and making are two steps because Linux refuses O_CREAT on another user's file in a
-// shared folder. A link in the file's place is not followed.
+// Two steps, because Linux refuses O_CREAT on another user's file in a shared folder. Symbolic
+// links are not followed.
 Descriptor OpenLockFile(const std::string& path) {
   constexpr int kFlags = O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
   for (;;) {
@@ -60,7 +60,7 @@ Descriptor OpenLockFile(const std::string& path) {
     if (existing.IsOpen() || errno != ENOENT) return existing;
     Descriptor created(::open(path.c_str(), kFlags | O_CREAT | O_EXCL, 0666));
     if (created.IsOpen()) {
-      // Other users must be able to open it, whatever this one's umask is.
+      // Other users must be able to open it whatever the umask is.
       static_cast<void>(::fchmod(created.Get(), 0666));
       return created;
     }
@@ -81,8 +81,8 @@ NamedMutex::NamedMutex() = default;
 
 NamedMutex::~NamedMutex() = default;
 
-// The file's existence means nothing, so it is never removed: the lock on it, which ends with
-// the last descriptor, is the name. A loser keeps its descriptor without a lock.
+// The lock on the file is the name; the file itself is never removed. The lock ends with the last
+// descriptor that has it. An object that comes second keeps its descriptor without the lock.
 NamedMutex::Opened NamedMutex::Open(std::string_view name) {
   Close();
   Descriptor file = OpenLockFile(LockPath(scope_ + std::string(name)));

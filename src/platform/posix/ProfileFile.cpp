@@ -51,8 +51,8 @@ struct Line {
 
 using Lines = std::vector<Line>;
 
-// Everything but a missing file counts as a fault, which a writer must not answer with a new
-// file that lacks all that the old one held.
+// Nothing when an existing file cannot be read: a writer must not replace it then, since its
+// content would be lost.
 std::optional<Lines> ReadLines(const std::string& path) {
   std::string bytes;
   try {

@@ -21,7 +21,7 @@ constexpr std::size_t kLargestStep = std::size_t{1} << 24U;
                   "Cannot " + std::string(attempt) + " " + path + ": " + SystemMessage(error));
 }
 
-// A folder must not be renamed over, and a file that is read-only must not be replaced either.
+// Refuses folders and read-only files, which a rename would replace all the same.
 bool TargetExists(const std::string& path) {
   const DWORD attributes = GetFileAttributesW(ToWide(path).c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) {
@@ -35,8 +35,7 @@ bool TargetExists(const std::string& path) {
   return true;
 }
 
-// The file that a write to `path` ends in: the name behind all links, or the path itself when
-// there is no file yet.
+// Resolves links; the path itself when there is no file yet.
 std::string FollowLinks(const std::string& path) {
   const Handle file(CreateFileW(ToWide(path).c_str(), 0,
                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -61,8 +60,8 @@ bool IsDead(std::int64_t process) {
   return WaitForSingleObject(handle.Get(), 0) == WAIT_OBJECT_0;
 }
 
-// A process that was killed during its save could not remove its file. One that is still written,
-// by a process of another machine, cannot be deleted: it is open and shared with nobody.
+// A process that was killed during a save could not remove its temporary file. A file that a
+// process of another machine still writes is open without sharing, so it cannot be deleted.
 void RemoveLeftTemporaries(const std::string& folder) {
   WIN32_FIND_DATAW found{};
   const HANDLE search = FindFirstFileW(ToWide(folder + ".mortane-*.tmp").c_str(), &found);
@@ -75,7 +74,7 @@ void RemoveLeftTemporaries(const std::string& folder) {
   FindClose(search);
 }
 
-// A file of its own beside the target, removed again unless it was renamed.
+// A temporary file beside the target, removed unless it was renamed.
 class Temporary {
  public:
   Temporary(const std::string& shownPath, const std::string& target)
@@ -108,7 +107,7 @@ class Temporary {
     if (!FlushFileBuffers(file_.Get()) || !file_.Close()) Raise();
   }
 
-  // ReplaceFile gives the new file the access rights of the old one, but needs an old one.
+  // ReplaceFile keeps the access rights of the old file, but needs one.
   void RenameToTarget(bool targetExists) {
     const BOOL renamed =
         targetExists ? ReplaceFileW(target_.c_str(), path_.c_str(), nullptr, 0, nullptr, nullptr)

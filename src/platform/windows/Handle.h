@@ -18,7 +18,7 @@ class Handle {
   }
   ~Handle() { Close(); }
 
-  // CreateFile's failures are another value than those of the other calls.
+  // CreateFile reports a failure by another value than the other calls.
   bool IsOpen() const { return handle_ != nullptr && handle_ != INVALID_HANDLE_VALUE; }
   HANDLE Get() const { return handle_; }
 

@@ -13,7 +13,7 @@ NamedMutex::NamedMutex() = default;
 
 NamedMutex::~NamedMutex() = default;
 
-// The kernel object lives as long as any handle to it, a loser's too.
+// The kernel object lives as long as any handle to it, also that of an object that came second.
 NamedMutex::Opened NamedMutex::Open(std::string_view name) {
   Close();
   SetLastError(ERROR_SUCCESS);

@@ -26,7 +26,7 @@ bool Write(const std::string& path, std::string_view section, const wchar_t* key
   return WritePrivateProfileStringW(ToWide(section).c_str(), key, value, ToWide(path).c_str()) != 0;
 }
 
-// Such a text would end its line and begin another.
+// A line break in a text would begin another line of the file.
 bool FitsInLine(std::string_view text) {
   return text.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
 }
