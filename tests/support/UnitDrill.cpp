@@ -200,6 +200,7 @@ TEST_P(UnitDrill, EachCallOfAWriteThatFailsIsALineAndASecondWriteMendsIt) {
   ASSERT_GT(calls, 0U);
   for (std::size_t k = 1; k <= calls; ++k) {
     rig.BeginRound();
+    rig.prompts.AcceptAnyBox();
     MakeAllEdits(rig.k70);
     rig.faults.FailCall(k);
     for (const std::string& line : LinesOf(unit.write(rig.k70))) {
