@@ -24,7 +24,9 @@ clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts, NamedMu
     : ConnectedMicroscope(prompts),
       library_(library),
       makeMutex_(std::move(makeMutex)),
-      turrets_{{{accessory::kNosepiece, "Nosepiece Count", {&curNosepiece.Count}},
+      turrets_{{{accessory::kNosepiece,
+                 "Nosepiece Count",
+                 {&curNosepiece.Count, &CXYDrive.NoseCount, &CZDrive.NoseCount}},
                 {accessory::kFilterCube, "Filter Cube Count", {&curFilter.Count}},
                 {accessory::kCondenser, "Condenser Count", {&curCondenser.Count}}}} {
   FillTables();
@@ -74,6 +76,9 @@ void clsK70::FillTables() {
       MakeEnabledStep("ILObservation", ILObservation),
       MakeEnabledStep("ILOther", ILOther),
       MakeEnabledStep("ILOffset", ILOffset),
+      MakeEnabledStep("CZDrive", CZDrive),
+      MakeEnabledStep("CXYDrive", CXYDrive),
+      MakeEnabledStep("COther", COther),
   };
   fileTable_ = {
       {fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
@@ -106,6 +111,9 @@ void clsK70::FillTables() {
        [this](const DomNode& element) { return ILOther.ReadZMDom(element); },
        {}},
       MakeFileElement(fileitem::kInterlock, ILOffset),
+      MakeFileElement(fileitem::kControl, CZDrive),
+      MakeFileElement(fileitem::kControl, CXYDrive),
+      MakeFileElement(fileitem::kControl, COther),
   };
 }
 

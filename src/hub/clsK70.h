@@ -12,6 +12,9 @@
 
 #include "condensers/clsCondenser.h"
 #include "condensers/clsDbCondenser.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
 #include "filters/FilterItemNames.h"
 #include "filters/clsDbFilter.h"
 #include "filters/clsFilter.h"
@@ -62,6 +65,9 @@ class clsK70 : public ConnectedMicroscope {
   clsInterLockObservation ILObservation{*this};
   clsInterLockOther ILOther{*this};
   clsInterLockOffset ILOffset{*this};
+  clsControlZDrive CZDrive{*this};
+  clsControlXYDrive CXYDrive{*this};
+  clsControlOther COther{*this};
 
   // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;
   // others read 0 and store nothing.
