@@ -4,6 +4,7 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "controller/ControllerNumbers.h"
 
 namespace mortane {
 namespace {
@@ -61,6 +62,9 @@ void clsK70::FillTables() {
   const auto mounted = [this](std::int32_t number) {
     return [this, number] { return IsMounted(number) != kNotMounted; };
   };
+  const auto present = [this](std::int32_t unit) {
+    return [this, unit] { return Controller(unit); };
+  };
   transfers_ = {
       MakeTransferStep("curNosepiece", curNosepiece, mounted(accessory::kNosepiece)),
       MakeTransferStep("DbNosepiece", DbNosepiece, mounted(accessory::kNosepiece)),
@@ -79,6 +83,8 @@ void clsK70::FillTables() {
       MakeEnabledStep("CZDrive", CZDrive),
       MakeEnabledStep("CXYDrive", CXYDrive),
       MakeEnabledStep("COther", COther),
+      MakeTransferStep("curSwitch", curSwitch, present(controllerunit::kBody)),
+      MakeTransferStep("curTactor", curTactor, present(controllerunit::kHandController)),
   };
   fileTable_ = {
       {fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
@@ -114,6 +120,8 @@ void clsK70::FillTables() {
       MakeFileElement(fileitem::kControl, CZDrive),
       MakeFileElement(fileitem::kControl, CXYDrive),
       MakeFileElement(fileitem::kControl, COther),
+      MakeFileElement(fileitem::kSwitch, curSwitch),
+      MakeFileElement(fileitem::kTactor, curTactor),
   };
 }
 

@@ -28,6 +28,8 @@
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsLimitation.h"
 #include "objectives/clsNosepiece.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane {
 
@@ -68,6 +70,8 @@ class clsK70 : public ConnectedMicroscope {
   clsControlZDrive CZDrive{*this};
   clsControlXYDrive CXYDrive{*this};
   clsControlOther COther{*this};
+  clsControlTactor curTactor{*this};
+  clsDbSwitch curSwitch{*this};
 
   // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;
   // others read 0 and store nothing.

@@ -1,0 +1,177 @@
+#include "switches/clsControlTactor.h"
+
+#include <array>
+#include <limits>
+
+#include "common/Numbers.h"
+#include "model/ElementFields.h"
+#include "switches/SwitchFunctions.h"
+
+namespace mortane {
+namespace {
+
+constexpr std::int32_t kHandController = 4;
+// Where the positions' keys begin with "1", this one holds the mode.
+constexpr const char* kModeKey = "0";
+
+constexpr std::string_view kFailure = "TactorController SW Function (";
+constexpr std::string_view kRefused = "Tactor[";
+constexpr std::string_view kSettingElement = "SETTING";
+
+// One more than the last function: the controller takes it as it takes the others.
+constexpr std::int32_t kHighestCodeInFile = 52;
+
+std::string Label(std::int16_t position) {
+  return ItemLine("TactorSwitch Function[", position);
+}
+
+constexpr SwitchUnit kSwitches{
+    kHandController, clsControlTactor::SwitchCount, Label,
+    [](std::int16_t position, std::int16_t /*code*/) { return Label(position); }};
+
+// Of the two values of a mode one is 0.
+std::string_view NameOf(std::int16_t mode, std::string_view zero, std::string_view other) {
+  return mode == 0 ? zero : other;
+}
+
+bool IsMode(std::int32_t value) {
+  return value == 0 || value == 1;
+}
+
+// Appends the line of an item that could not be written.
+template <typename Statement>
+void TryItem(std::string& failures, std::string_view label, std::int16_t value,
+             Statement&& statement) {
+  ErrorTrap trap;
+  if (trap.Run(std::forward<Statement>(statement))) return;
+  failures = AppendLine(std::move(failures), ItemLine(label, value));
+}
+
+}  // namespace
+
+clsControlTactor::clsControlTactor(ConnectedMicroscope& microscope)
+    : parent(microscope), codes_(kSwitches) {}
+
+bool clsControlTactor::IsPresent() const {
+  return parent.Controller(kHandController);
+}
+
+bool clsControlTactor::HasKnob() const {
+  return parent.IsMounted(accessory::kXYStage) == kControllable;
+}
+
+// Unlike the switches' codes the mode is a number in full; a text that holds none of 16 bits is 0.
+std::int16_t clsControlTactor::HeldMode() const {
+  using Limits = std::numeric_limits<std::int16_t>;
+  const std::string text =
+      parent.Mic.ControllerSettings().SwitchFunction(kHandController, kModeKey);
+  const std::int32_t number = ToLong(text, PointFormat());
+  const bool fits = number >= Limits::min() && number <= Limits::max();
+  return fits ? static_cast<std::int16_t>(number) : std::int16_t{0};
+}
+
+std::string clsControlTactor::ReadSdk() {
+  codes_.Clear();
+  if (!IsPresent()) return {};
+  return FailureOf(kFailure, [this] { ReadAll(); });
+}
+
+void clsControlTactor::ReadAll() {
+  ControlMode = HeldMode();
+  if (HasKnob()) HandleMode = static_cast<std::int16_t>(parent.Mic.XYDriveDevice().HandleMode());
+  codes_.Read(parent);
+}
+
+std::string clsControlTactor::ModifySdk(std::string& list) const {
+  if (!IsPresent()) return {};
+  return CollectUnlessFailed(list, kFailure,
+                             [this](std::string& lines) { ListDifferences(lines); });
+}
+
+void clsControlTactor::ListDifferences(std::string& lines) const {
+  if (ControlMode != HeldMode()) {
+    lines = "TactorSwitch Function[Mode] : ";
+    lines += NameOf(ControlMode, "Standard", "Extend");
+  }
+  if (HasKnob() && HandleMode != parent.Mic.XYDriveDevice().HandleMode()) {
+    std::string line = "TactorSwitch Function[XY Knob] : ";
+    line += NameOf(HandleMode, "Right", "Left");
+    lines = AppendLine(std::move(lines), line);
+  }
+  codes_.ListDifferences(parent, lines);
+}
+
+std::string clsControlTactor::WriteSdk() const {
+  if (!IsPresent()) return {};
+  std::string failures;
+  TryItem(failures, "TactorSwitch Control Mode[", ControlMode, [this] {
+    if (ControlMode == HeldMode()) return;
+    parent.Mic.ControllerSettings().SetSwitchFunction(kHandController, kModeKey,
+                                                      std::to_string(ControlMode));
+  });
+  if (HasKnob()) {
+    TryItem(failures, "TactorSwitch Handle Mode[", HandleMode, [this] {
+      const controller::XYDriveDevice stage = parent.Mic.XYDriveDevice();
+      if (stage.HandleMode() != HandleMode) stage.PutHandleMode(HandleMode);
+    });
+  }
+  codes_.Write(parent, failures);
+  return failures;
+}
+
+std::string clsControlTactor::ReadDom(const DomNode& node) {
+  std::string refused;
+  for (const DomNode& child : node.Children()) {
+    if (!child.IsElement()) continue;
+    const std::string name = child.Name();
+    if (EqualsIgnoringCase(name, kSettingElement)) refused += ReadSetting(child);
+    if (EqualsIgnoringCase(name, kElement)) refused += ReadSwitch(child);
+  }
+  return refused;
+}
+
+std::string clsControlTactor::ReadSetting(const DomNode& node) {
+  struct Row {
+    std::string_view attribute;
+    std::int16_t clsControlTactor::*mode;
+    std::string_view refused;
+  };
+  constexpr std::array<Row, 2> kRows{
+      {{"MODE", &clsControlTactor::ControlMode, "Tactor[ Mode ]"},
+       {"HANDLE", &clsControlTactor::HandleMode, "Tactor[ Handle ]"}}};
+  const ElementFields fields(node);
+  std::string refused;
+  for (const Row& row : kRows) {
+    // An attribute that is not there counts as 0 here.
+    const std::int32_t value = ToLong(fields.Text(row.attribute), PointFormat());
+    if (IsMode(value)) {
+      this->*row.mode = static_cast<std::int16_t>(value);
+    } else {
+      refused += row.refused;
+    }
+  }
+  return refused;
+}
+
+std::string clsControlTactor::ReadSwitch(const DomNode& node) {
+  const ElementFields fields(node);
+  const std::int32_t position = fields.Number("POSITION");
+  const std::int32_t code = fields.Number("FUNCTION");
+  if (position < 1 || position > SwitchCount || code < 0 || code > kHighestCodeInFile) {
+    return ItemLine(kRefused, position);
+  }
+  codes_.StoreChecked(position, static_cast<std::int16_t>(code));
+  return {};
+}
+
+void clsControlTactor::WriteDom(DomDocument& document, DomNode section) const {
+  DomNode element = document.CreateElement(kElement);
+  DomNode setting = document.CreateElement(kSettingElement);
+  setting.SetAttribute("MODE", std::to_string(ControlMode));
+  setting.SetAttribute("HANDLE", std::to_string(HandleMode));
+  element.Append(setting);
+  codes_.WriteDom(document, element);
+  section.Append(element);
+}
+
+}  // namespace mortane
