@@ -8,10 +8,16 @@
 
 namespace mortane {
 
+struct ProfileValue {
+  std::string key;
+  std::string value;
+};
+
 // Sections and keys are found without regard to case, blanks around them ignored; the first of
 // equal names counts. A line that begins with a semicolon is a comment. A missing file reads as
 // an empty one. The writers keep all other lines as they are, create a missing file (but no
-// folder) and answer false when nothing could be written.
+// folder) and answer false when nothing could be written. Each replaces the file in one step: a
+// process killed at any moment leaves the old file or the new one.
 class ProfileFile {
  public:
   explicit ProfileFile(std::string utf8Path) : path_(std::move(utf8Path)) {}
@@ -28,6 +34,8 @@ class ProfileFile {
   std::vector<std::string> KeyNames(std::string_view section) const;
 
   bool WriteText(std::string_view section, std::string_view key, std::string_view value) const;
+  // All of them or none, in one step; each as WriteText would write it.
+  bool WriteTexts(std::string_view section, const std::vector<ProfileValue>& values) const;
   bool DeleteKey(std::string_view section, std::string_view key) const;
   bool DeleteSection(std::string_view section) const;
 

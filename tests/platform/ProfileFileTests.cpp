@@ -150,6 +150,24 @@ TEST_F(ProfileFileTest, RefusesTextsThatWouldBreakTheLines) {
   }
 }
 
+TEST_F(ProfileFileTest, WritesSeveralValuesAtOnceAndKeepsAllOthers) {
+  const ProfileFile file = With("[a]\nx=1\n[joypad]\nright=3\nButton9=4\n");
+  EXPECT_TRUE(file.WriteTexts("JoyPad", {{"Right", "7"}, {"Left", "8"}}));
+  EXPECT_EQ(file.Text("JoyPad", "Right", "?"), "7");
+  EXPECT_EQ(file.Text("JoyPad", "Left", "?"), "8");
+  EXPECT_EQ(file.Text("JoyPad", "Button9", "?"), "4");
+  EXPECT_EQ(file.Text("a", "x", "?"), "1");
+}
+
+TEST_F(ProfileFileTest, WritesAllOfSeveralValuesOrNone) {
+  const std::string before = "[JoyPad]\nRight=1\n";
+  const ProfileFile file = With(before);
+  EXPECT_FALSE(file.WriteTexts("JoyPad", {{"Right", "2"}, {"Left", "1\n2"}}));
+  EXPECT_FALSE(file.WriteTexts("JoyPad", {{"Right", "2"}, {"Le\rft", "1"}}));
+  EXPECT_FALSE(file.WriteTexts("Joy\nPad", {{"Right", "2"}}));
+  EXPECT_EQ(Content(), before);
+}
+
 TEST_F(ProfileFileTest, DeletesOneKey) {
   const ProfileFile file = With("[JoyPad]\nLeft=1\nright=2\n[B]\nRight=3\n");
   EXPECT_TRUE(file.DeleteKey("JOYPAD", "Right"));

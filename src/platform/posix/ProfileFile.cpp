@@ -141,6 +141,12 @@ bool FitsInLine(std::string_view text) {
   return text.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
 }
 
+bool FitInLines(const std::vector<ProfileValue>& values) {
+  return std::all_of(values.begin(), values.end(), [](const ProfileValue& row) {
+    return FitsInLine(row.key) && FitsInLine(row.value);
+  });
+}
+
 int DigitValue(char c) {
   if (c >= '0' && c <= '9') return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
@@ -210,10 +216,15 @@ std::vector<std::string> ProfileFile::KeyNames(std::string_view section) const {
 
 bool ProfileFile::WriteText(std::string_view section, std::string_view key,
                             std::string_view value) const {
-  if (!FitsInLine(section) || !FitsInLine(key) || !FitsInLine(value)) return false;
+  return WriteTexts(section, {{std::string(key), std::string(value)}});
+}
+
+bool ProfileFile::WriteTexts(std::string_view section,
+                             const std::vector<ProfileValue>& values) const {
+  if (!FitsInLine(section) || !FitInLines(values)) return false;
   std::optional<Lines> lines = ReadLines(path_);
   if (!lines) return false;
-  SetValue(*lines, section, key, value);
+  for (const ProfileValue& row : values) SetValue(*lines, section, row.key, row.value);
   return WriteLines(path_, *lines);
 }
 

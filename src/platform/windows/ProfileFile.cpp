@@ -2,6 +2,11 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <array>
+
+#include "common/Failure.h"
+#include "platform/AtomicFile.h"
 #include "platform/windows/Wide.h"
 
 namespace mortane {
@@ -21,14 +26,72 @@ std::vector<std::string> SplitNames(std::wstring_view names) {
   return split;
 }
 
-bool Write(const std::string& path, std::string_view section, const wchar_t* key,
-           const wchar_t* value) {
-  return WritePrivateProfileStringW(ToWide(section).c_str(), key, value, ToWide(path).c_str()) != 0;
-}
-
 // A line break in a text would begin another line of the file.
 bool FitsInLine(std::string_view text) {
   return text.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
+}
+
+bool FitInLines(const std::vector<ProfileValue>& values) {
+  return std::all_of(values.begin(), values.end(), [](const ProfileValue& row) {
+    return FitsInLine(row.key) && FitsInLine(row.value);
+  });
+}
+
+// A file of the system's folder for temporary files, gone with its owner.
+class TemporaryFile {
+ public:
+  TemporaryFile() {
+    std::array<wchar_t, MAX_PATH + 1> folder{};
+    std::array<wchar_t, MAX_PATH + 1> name{};
+    if (GetTempPathW(MAX_PATH, folder.data()) == 0 ||
+        GetTempFileNameW(folder.data(), L"ini", 0, name.data()) == 0) {
+      RaiseOwnFailure(kFileError, "No temporary file: " + SystemMessage(GetLastError()));
+    }
+    path_ = name.data();
+  }
+  ~TemporaryFile() { DeleteFileW(path_.c_str()); }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  const std::wstring& Path() const { return path_; }
+
+ private:
+  std::wstring path_;
+};
+
+std::string ContentOf(const std::string& path) {
+  try {
+    return ReadWholeFile(path);
+  } catch (const Failure& failure) {
+    if (failure.Number() != kMissingFileError) throw;
+    return {};
+  }
+}
+
+// The system's calls write into the file that stands there, and a process killed meanwhile would
+// leave a part of it. They get a copy, which then takes the file's place.
+template <typename Edit>
+bool EditCopy(const std::string& path, Edit&& edit) {
+  try {
+    const std::string before = ContentOf(path);
+    const TemporaryFile copy;
+    const std::string copyPath = ToUtf8(copy.Path());
+    WriteFileAtomically(copyPath, before);
+    if (!edit(copy.Path().c_str())) return false;
+    WritePrivateProfileStringW(nullptr, nullptr, nullptr, copy.Path().c_str());  // nothing cached
+    const std::string after = ReadWholeFile(copyPath);
+    if (after != before) WriteFileAtomically(path, after);
+    return true;
+  } catch (const Failure&) {
+    return false;
+  }
+}
+
+// Deletes a key; without one the section.
+bool Delete(const std::string& path, std::string_view section, const wchar_t* key) {
+  return EditCopy(path, [&](const wchar_t* copy) {
+    return WritePrivateProfileStringW(ToWide(section).c_str(), key, nullptr, copy) != 0;
+  });
 }
 
 std::wstring Read(const std::string& path, std::string_view section, const wchar_t* key,
@@ -67,16 +130,26 @@ std::vector<std::string> ProfileFile::KeyNames(std::string_view section) const {
 
 bool ProfileFile::WriteText(std::string_view section, std::string_view key,
                             std::string_view value) const {
-  if (!FitsInLine(section) || !FitsInLine(key) || !FitsInLine(value)) return false;
-  return Write(path_, section, ToWide(key).c_str(), ToWide(value).c_str());
+  return WriteTexts(section, {{std::string(key), std::string(value)}});
+}
+
+bool ProfileFile::WriteTexts(std::string_view section,
+                             const std::vector<ProfileValue>& values) const {
+  if (!FitsInLine(section) || !FitInLines(values)) return false;
+  return EditCopy(path_, [&](const wchar_t* copy) {
+    return std::all_of(values.begin(), values.end(), [&](const ProfileValue& row) {
+      return WritePrivateProfileStringW(ToWide(section).c_str(), ToWide(row.key).c_str(),
+                                        ToWide(row.value).c_str(), copy) != 0;
+    });
+  });
 }
 
 bool ProfileFile::DeleteKey(std::string_view section, std::string_view key) const {
-  return Write(path_, section, ToWide(key).c_str(), nullptr);
+  return Delete(path_, section, ToWide(key).c_str());
 }
 
 bool ProfileFile::DeleteSection(std::string_view section) const {
-  return Write(path_, section, nullptr, nullptr);
+  return Delete(path_, section, nullptr);
 }
 
 }  // namespace mortane

@@ -42,6 +42,12 @@ TEST_F(ProfileFileBytes, WritesAValueAndLeavesAllElseAlone) {
   }
 }
 
+TEST_F(ProfileFileBytes, WritesSeveralValuesInTheirOrder) {
+  const ProfileFile file = With("; pad\n[JoyPad]\nLeft = 2 \n\n[B]\n");
+  EXPECT_TRUE(file.WriteTexts("JoyPad", {{"Right", "7"}, {"Left", "8"}, {"Up", "9"}}));
+  EXPECT_EQ(Content(), "; pad\n[JoyPad]\nLeft=8\nRight=7\nUp=9\n\n[B]\n");
+}
+
 TEST_F(ProfileFileBytes, DeletesALineAndNoOther) {
   EXPECT_TRUE(With("; c\n[JoyPad]\n x = 1\nright=2\n\n[B]\n").DeleteKey("JoyPad", "Right"));
   EXPECT_EQ(Content(), "; c\n[JoyPad]\n x = 1\n\n[B]\n");
