@@ -1,11 +1,10 @@
 #include "switches/clsControlTactor.h"
 
 #include <array>
-#include <limits>
 
 #include "common/Numbers.h"
 #include "model/ElementFields.h"
-#include "switches/SwitchFunctions.h"
+#include "switches/ShortNumber.h"
 
 namespace mortane {
 namespace {
@@ -62,12 +61,9 @@ bool clsControlTactor::HasKnob() const {
 
 // Unlike the switches' codes the mode is a number in full; a text that holds none of 16 bits is 0.
 std::int16_t clsControlTactor::HeldMode() const {
-  using Limits = std::numeric_limits<std::int16_t>;
   const std::string text =
       parent.Mic.ControllerSettings().SwitchFunction(kHandController, kModeKey);
-  const std::int32_t number = ToLong(text, PointFormat());
-  const bool fits = number >= Limits::min() && number <= Limits::max();
-  return fits ? static_cast<std::int16_t>(number) : std::int16_t{0};
+  return ShortOrZero(ToLong(text, PointFormat()));
 }
 
 std::string clsControlTactor::ReadSdk() {
