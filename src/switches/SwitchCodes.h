@@ -15,7 +15,7 @@ namespace mortane {
 
 // In what the controller units with switches differ.
 struct SwitchUnit {
-  std::int32_t number;  // of ConnectedMicroscope::Controller and of the controller's settings
+  std::int32_t number;  // by which the controller's switch functions know it
   std::int16_t count;   // of positions, from 1; at most 16
   // Names a position in the list of differences; the line of one that could not be written.
   std::string (*label)(std::int16_t position);
