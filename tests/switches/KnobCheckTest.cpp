@@ -62,31 +62,31 @@ struct CheckRow {
 constexpr CheckRow kCheckRows[] = {{0, false, 1},  {0, true, 0},    {1, false, 1}, {1, true, 0},
                                    {-1, true, -1}, {-1, false, -1}, {2, true, 2},  {2, false, 2}};
 
-TEST(KnobCheck, MakesTheFocusKnobAgreeWithTheSwitches) {
-  for (const CheckRow& row : kCheckRows) {
-    KnobRig rig("Harbour");
-    if (row.found) rig.k70.curSwitch.Func(16, kFocusSpeed);
-    rig.curAutoZ = row.mode;
-    Texts expected;
-    if (row.after != row.mode) expected = {row.after == 1 ? kFocusAuto : kFocusManual};
-    EXPECT_EQ(rig.Run(), expected) << row.mode << row.found;
-    EXPECT_EQ(rig.curAutoZ, row.after) << row.mode << row.found;
-    EXPECT_EQ(rig.curAutoXY, -1);
-    EXPECT_EQ(rig.Run(), Texts{}) << "a second check has nothing to tell";
-  }
-}
+struct KnobRow {
+  std::int16_t code;
+  std::int32_t KnobRig::*mode;
+  std::int32_t KnobRig::*otherMode;
+  const char* nowAuto;
+  const char* nowManual;
+};
 
-TEST(KnobCheck, MakesTheStageKnobAgreeWithTheSwitches) {
-  for (const CheckRow& row : kCheckRows) {
-    KnobRig rig("Harbour");
-    if (row.found) rig.k70.curSwitch.Func(1, kStageSpeed);
-    rig.curAutoXY = row.mode;
-    Texts expected;
-    if (row.after != row.mode) expected = {row.after == 1 ? kStageAuto : kStageManual};
-    EXPECT_EQ(rig.Run(), expected) << row.mode << row.found;
-    EXPECT_EQ(rig.curAutoXY, row.after) << row.mode << row.found;
-    EXPECT_EQ(rig.curAutoZ, -1);
-    EXPECT_EQ(rig.Run(), Texts{}) << "a second check has nothing to tell";
+constexpr KnobRow kKnobRows[] = {
+    {kFocusSpeed, &KnobRig::curAutoZ, &KnobRig::curAutoXY, kFocusAuto, kFocusManual},
+    {kStageSpeed, &KnobRig::curAutoXY, &KnobRig::curAutoZ, kStageAuto, kStageManual}};
+
+TEST(KnobCheck, MakesEachKnobAgreeWithTheSwitches) {
+  for (const KnobRow& knob : kKnobRows) {
+    for (const CheckRow& row : kCheckRows) {
+      KnobRig rig("Harbour");
+      if (row.found) rig.k70.curSwitch.Func(16, knob.code);
+      rig.*knob.mode = row.mode;
+      Texts expected;
+      if (row.after != row.mode) expected = {row.after == 1 ? knob.nowAuto : knob.nowManual};
+      EXPECT_EQ(rig.Run(), expected) << row.mode << row.found;
+      EXPECT_EQ(rig.*knob.mode, row.after) << row.mode << row.found;
+      EXPECT_EQ(rig.*knob.otherMode, -1);
+      EXPECT_EQ(rig.Run(), Texts{}) << "a second check has nothing to tell";
+    }
   }
 }
 

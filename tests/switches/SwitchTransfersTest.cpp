@@ -1,6 +1,8 @@
 // The switch units in the transfers, and on every bench.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/Rig.h"
 
 namespace mortane::test {
@@ -52,12 +54,15 @@ TEST(SwitchTransfers, SendTheBodyAndThenTheHandControllerAsTheLastUnits) {
   EXPECT_EQ(Lines(writes.end() - 3, writes.end()), (Lines{kBodyWrite, kModeWrite, kHandWrite}));
 }
 
-TEST(SwitchTransfers, ReceiveReadsTheBodyAndThenTheHandController) {
+TEST(SwitchTransfers, ReceiveReadsTheBodyAndThenTheHandControllerAsTheLastUnits) {
   Rig rig("Harbour");
   rig.Connect();
   rig.k70.Receive();
   const Lines lines = OfSwitches(rig.journal.Lines());
   ASSERT_EQ(lines.size(), 16U + 1U + 1U + 14U);
+  // Three turrets are asked for their counts at the end.
+  ASSERT_GT(rig.journal.Lines().size(), lines.size() + 3);
+  EXPECT_TRUE(std::equal(lines.begin(), lines.end(), rig.journal.Lines().end() - 3 - 32));
   EXPECT_EQ(lines[0], R"(ControllerSettings.SwitchFunction(0, "1") -> "3")");
   EXPECT_EQ(lines[15], R"(ControllerSettings.SwitchFunction(0, "G") -> "8")");
   EXPECT_EQ(lines[16], R"(ControllerSettings.SwitchFunction(4, "0") -> "0")");
