@@ -59,8 +59,7 @@ SystemNameCtl::SystemNameCtl(clsK70& k70, QWidget* parent)
   rows->addWidget(BuildNameCard());
   rows->addWidget(BuildReportCard(), 1);
 
-  connect(TextSystemName, &TextField::entered, this, [this] { SaveData(); });
-  connect(TextSystemName, &TextField::left, this, [this] { SaveData(); });
+  connect(TextSystemName, &TextField::committed, this, &SystemNameCtl::SaveData);
 }
 
 QWidget* SystemNameCtl::BuildNameCard() {

@@ -51,11 +51,7 @@ QWidget* CondenserOptionCtl::BuildRow(int row) {
   cells->setSpacing(grid::kBetweenGroups);
   cells->addWidget(Label11[i]);
   cells->addWidget(field);
-  field->setValidation([this, row] {
-    Store(row);
-    return true;
-  });
-  connect(field, &TextField::entered, field, [field] { field->validate(); });
+  connect(field, &TextField::committed, this, [this, row] { Store(row); });
   return line;
 }
 

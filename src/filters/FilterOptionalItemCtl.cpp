@@ -76,11 +76,7 @@ TextField* FilterOptionalItemCtl::BuildField(const Column& column, int row) {
   field->SetLimit(static_cast<int>(kOptionNameLength));
   field->SetWidthFor(kFieldCharacters);
   field->SetMark(ToQString(kUnnamedMark));
-  field->setValidation([this, &column, row] {
-    Store(column, row);
-    return true;
-  });
-  connect(field, &TextField::entered, field, &TextField::validate);
+  connect(field, &TextField::committed, this, [this, &column, row] { Store(column, row); });
   (this->*column.fields)[static_cast<std::size_t>(row)] = field;
   return field;
 }

@@ -82,11 +82,7 @@ QWidget* FilterOptionalQubeCtl::BuildName() {
   TextName->SetLimit(static_cast<int>(kOptionNameLength));
   TextName->SetWidthFor(kNameWidthCharacters);
   TextName->SetMark(ToQString(kUnnamedMark), TextField::LeftBlank::StaysBlank);
-  TextName->setValidation([this] {
-    Store();
-    return true;
-  });
-  connect(TextName, &TextField::entered, TextName, &TextField::validate);
+  connect(TextName, &TextField::committed, this, &FilterOptionalQubeCtl::Store);
   Label1->setBuddy(TextName);
   auto* row = new QHBoxLayout(ground);
   row->setContentsMargins({});

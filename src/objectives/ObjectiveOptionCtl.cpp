@@ -64,32 +64,23 @@ void ObjectiveOptionCtl::Connect() {
     Store();
   });
   TextName->SetMark(ToQString(kUnnamedObjective));
-  TextName->setValidation([this] {
-    Store();
-    return true;
-  });
-  connect(TextName, &TextField::entered, this, &ObjectiveOptionCtl::Store);
+  connect(TextName, &TextField::committed, this, &ObjectiveOptionCtl::Store);
   for (const Number& number : kNumbers) ConnectNumber(number);
 }
 
 void ObjectiveOptionCtl::ConnectNumber(const Number& number) {
   TextField* field = this->*number.field;
-  field->setValidation(
-      [this, &number] {
-        const bool good = IsGood(number);
-        if (good) Store();
-        return good;
-      },
+  field->SetCheck(
+      [&number](const QString& text) { return IsGood(number, text); },
       [this] { objectives_.parent.prompts().MsgBox("Please Input right value.", box::kOk); });
-  connect(field, &TextField::entered, field, &TextField::validate);
+  connect(field, &TextField::committed, this, &ObjectiveOptionCtl::Store);
   if (!number.zeroForBlank) return;
   connect(field, &TextField::textChanged, field, [field](const QString& text) {
     if (Trim(text.toStdString()).empty()) field->setText(ToQString(kZero));
   });
 }
 
-bool ObjectiveOptionCtl::IsGood(const Number& number) const {
-  const QString text = (this->*number.field)->text();
+bool ObjectiveOptionCtl::IsGood(const Number& number, const QString& text) {
   if (text.isEmpty() || (number.mayBeDashes && text == ToQString(kNoMagnification))) return true;
   return IsNumberWithin(text.toStdString(), number.highest);
 }

@@ -80,7 +80,7 @@ class ObjectiveOptionCtl : public CardPage {
   void FillLists();
   void RebuildCondensers();
   void SelectCondenser();
-  bool IsGood(const Number& number) const;
+  static bool IsGood(const Number& number, const QString& text);
   void Store();
   void StoreNumbers(const std::array<std::string, 3>& numbers);
 

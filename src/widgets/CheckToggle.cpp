@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "widgets/ClickFocus.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -25,7 +26,7 @@ QString Off() {
 
 CheckToggle::CheckToggle(QWidget* parent) : QAbstractButton(parent) {
   setCheckable(true);
-  setFocusPolicy(Qt::StrongFocus);
+  TakeFocusByClicks(*this);
   setAttribute(Qt::WA_Hover);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   UpdateCaption();

@@ -2,15 +2,17 @@
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "widgets/ClickFocus.h"
 #include "widgets/RowDelegate.h"
 
 namespace mortane {
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::TabFocus);
   setItemDelegate(new RowDelegate(this));
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   setMaxVisibleItems(16);
@@ -39,11 +41,13 @@ void ComboBox::setIndex(int row) {
   if (currentIndex() >= 0 && currentIndex() != before) emit clicked(currentIndex());
 }
 
+void ComboBox::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && TakeFocus(*this)) QComboBox::mousePressEvent(event);
+}
+
+// Turning the wheel over a combo scrolls the page. The open list has a wheel of its own.
 void ComboBox::wheelEvent(QWheelEvent* event) {
-  if (hasFocus())
-    QComboBox::wheelEvent(event);
-  else
-    event->ignore();
+  event->ignore();
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event) {

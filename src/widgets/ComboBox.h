@@ -7,8 +7,8 @@
 namespace mortane {
 
 // Filling leaves nothing selected. chosen() is raised for every choice of the user, also of the
-// entry on show; clicked() for that and for a new entry set by the program. The wheel works only
-// with the focus.
+// entry on show; clicked() for that and for a new entry set by the program. The wheel changes
+// nothing unless the list is open.
 class ComboBox : public QComboBox {
   Q_OBJECT
 
@@ -27,6 +27,7 @@ class ComboBox : public QComboBox {
   void clicked(int row);
 
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 };

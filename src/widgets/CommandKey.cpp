@@ -35,7 +35,7 @@ CommandKey::CommandKey(IconName icon, const QString& text, QWidget* parent)
   setText(text);
   setFont(FrameCaptionFont());
   setAccessibleName(text);
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_Hover);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   connect(this, &QAbstractButton::clicked, this, [this] {

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include "widgets/ClickFocus.h"
 #include "widgets/RowDelegate.h"
 #include "widgets/Theme.h"
 
@@ -27,6 +28,7 @@ ListBox::ListBox(QWidget* parent) : QTreeWidget(parent) {
   setItemDelegate(new RowDelegate(this));
   setRootIsDecorated(false);
   setUniformRowHeights(true);
+  setFocusPolicy(Qt::TabFocus);
   setSelectionMode(SingleSelection);
   setSelectionBehavior(SelectRows);
   setEditTriggers(NoEditTriggers);
@@ -167,7 +169,7 @@ int ListBox::RowAt(const QMouseEvent& event) const {
 // The click is raised after the view has done with the event, so that a handler may rebuild the
 // list or ask a question.
 void ListBox::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
+  if (event->button() != Qt::LeftButton || !TakeFocus(*this)) return;
   const int row = RowAt(*event);
   if (row < 0) return;
   QTreeWidget::mousePressEvent(event);

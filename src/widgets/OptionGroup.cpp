@@ -4,6 +4,8 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include "widgets/ClickFocus.h"
+
 namespace mortane {
 
 OptionGroup::OptionGroup(QObject* parent) : QObject(parent) {
@@ -23,6 +25,7 @@ void OptionGroup::add(QAbstractButton* button, int index) {
   buttons_.append(button);
   group_.addButton(button, index);
   button->installEventFilter(this);
+  TakeFocusByClicks(*button);
   UpdateTabStop();
 }
 
@@ -64,7 +67,7 @@ void OptionGroup::UpdateTabStop() {
   if (checked < 0 || !usable(buttons_[checked]))
     stop = std::find_if(buttons_.begin(), buttons_.end(), usable) - buttons_.begin();
   for (qsizetype i = 0; i < buttons_.size(); ++i)
-    buttons_[i]->setFocusPolicy(i == stop ? Qt::StrongFocus : Qt::ClickFocus);
+    buttons_[i]->setFocusPolicy(i == stop ? Qt::TabFocus : Qt::NoFocus);
 }
 
 }  // namespace mortane

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "widgets/ClickFocus.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -21,7 +22,7 @@ PageButton::PageButton(IconName icon, const QString& text, QWidget* parent)
   setText(text);
   setFont(RailFont());
   setAccessibleName(text);
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_Hover);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -45,7 +46,7 @@ QSize PageButton::sizeHint() const {
 }
 
 void PageButton::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier)
+  if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && TakeFocus(*this))
     emit selectRequested();
   event->accept();
 }

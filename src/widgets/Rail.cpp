@@ -76,7 +76,7 @@ void Rail::UpdateTabStop() {
     while (stop < count() && !buttons_[stop]->isEnabled()) ++stop;
   }
   for (int i = 0; i < count(); ++i)
-    buttons_[i]->setFocusPolicy(i == stop ? Qt::StrongFocus : Qt::ClickFocus);
+    buttons_[i]->setFocusPolicy(i == stop ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void Rail::paintEvent(QPaintEvent*) {

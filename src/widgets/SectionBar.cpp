@@ -28,7 +28,6 @@ QPainterPath OptionShape(const QRectF& area, bool first, bool last) {
 SectionOption::SectionOption(const QString& text, QWidget* parent) : QAbstractButton(parent) {
   setText(text);
   setCheckable(true);
-  setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_Hover);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }

@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "widgets/ClickFocus.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -19,7 +20,7 @@ constexpr int kUnderline = 3;
 }  // namespace
 
 TabStrip::TabStrip(QWidget* parent) : QTabBar(parent) {
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::TabFocus);
   setDrawBase(false);
   setExpanding(false);
   setUsesScrollButtons(false);
@@ -52,7 +53,7 @@ void TabStrip::setIndex(int index) {
 void TabStrip::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const int index = tabAt(event->position().toPoint());
-  if (index < 0 || !isTabEnabled(index)) return;
+  if (index < 0 || !isTabEnabled(index) || !TakeFocus(*this)) return;
   setIndex(index);
   emit clicked(index);
 }

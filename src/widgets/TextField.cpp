@@ -1,13 +1,14 @@
 #include "widgets/TextField.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
-#include <QPointer>
-#include <QStyle>
-#include <QTimer>
+#include <QMimeData>
+#include <QScopedValueRollback>
 #include <algorithm>
+#include <utility>
 
+#include "widgets/FocusVeto.h"
 #include "widgets/Style.h"
 #include "widgets/TextValidator.h"
 #include "widgets/Theme.h"
@@ -16,72 +17,6 @@ namespace mortane {
 namespace {
 
 constexpr int kTextMargin = 6;
-
-// Undoes a move of the focus that a refused text forbids. The press that moved it is delivered
-// after the focus, so it is swallowed until the focus is back.
-class FocusVeto : public QObject {
- public:
-  static bool IsRunning() { return running != nullptr; }
-
-  static void Start(TextField* field) {
-    if (running == nullptr) running = new FocusVeto(field);
-  }
-
-  FocusVeto(const FocusVeto&) = delete;
-  FocusVeto& operator=(const FocusVeto&) = delete;
-  FocusVeto(FocusVeto&&) = delete;
-  FocusVeto& operator=(FocusVeto&&) = delete;
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::MouseButtonPress:
-      case QEvent::MouseButtonRelease:
-      case QEvent::MouseButtonDblClick:
-      case QEvent::Wheel:
-      case QEvent::KeyPress:
-        return watched->isWidgetType();
-      default:
-        return false;
-    }
-  }
-
- private:
-  explicit FocusVeto(TextField* field) : QObject(qApp), field_(field) {
-    qApp->installEventFilter(this);
-    QTimer::singleShot(0, this, [this] { Finish(); });
-  }
-
-  ~FocusVeto() override { running = nullptr; }
-
-  void Finish() {
-    qApp->removeEventFilter(this);
-    if (field_ != nullptr) {
-      field_->setFocus(Qt::OtherFocusReason);
-      field_->selectAll();
-    }
-    delete this;
-  }
-
-  inline static FocusVeto* running = nullptr;
-  QPointer<TextField> field_;
-};
-
-// Shift, arrows, Tab and Delete make no character, and neither does a command key combination.
-bool MakesCharacter(const QKeyEvent& event) {
-  switch (event.key()) {
-    case Qt::Key_Backspace:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Escape:
-      return true;
-    default:
-      break;
-  }
-  const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-  if (held == Qt::ControlModifier || held == Qt::AltModifier) return false;
-  return !event.text().isEmpty() && event.text().at(0).isPrint();
-}
 
 bool IsBlank(const QString& text) {
   return std::all_of(text.begin(), text.end(), [](QChar c) { return c == QLatin1Char(' '); });
@@ -92,7 +27,9 @@ bool IsBlank(const QString& text) {
 TextField::TextField(QWidget* parent) : QLineEdit(parent) {
   setTextMargins(kTextMargin, 0, kTextMargin, 0);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  connect(this, &QLineEdit::textChanged, this, [this] { ColourText(); });
+  connect(this, &QLineEdit::textChanged, this, &TextField::ColourText);
+  connect(this, &QLineEdit::selectionChanged, this, &TextField::SelectMark);
+  connect(this, &QLineEdit::cursorPositionChanged, this, &TextField::SelectMark);
 }
 
 void TextField::SetLimit(int characters) {
@@ -111,23 +48,31 @@ void TextField::setText(const QString& text) {
   QLineEdit::setText(limit != nullptr ? FirstCharacters(text, limit->limit()) : text);
 }
 
-void TextField::setValidation(std::function<bool()> accepts, std::function<void()> complain) {
+void TextField::SetCheck(std::function<bool(const QString& text)> accepts,
+                         std::function<void()> complain) {
   accepts_ = std::move(accepts);
   complain_ = std::move(complain);
 }
 
-bool TextField::validate() {
-  if (!accepts_) return true;
-  if (validating_) return false;
-  validating_ = true;
-  const bool accepted = accepts_();
-  if (!accepted) {
+bool TextField::Commit() {
+  // A message box about the text moves the focus, too.
+  if (checking_) return false;
+  const QScopedValueRollback<bool> checking(checking_, true);
+  if (accepts_ && !accepts_(text())) {
     SetRefused(true);
     selectAll();
     if (complain_) complain_();
+    return false;
   }
-  validating_ = false;
-  return accepted;
+  emit committed(text());
+  return true;
+}
+
+bool TextField::Leave() {
+  if (FocusVeto::IsRunning() || !Commit()) return false;
+  const bool marked = leftBlank_ == LeftBlank::GetsMark && !mark_.isEmpty();
+  if (marked && IsBlank(text())) setText(mark_);
+  return true;
 }
 
 bool TextField::isRefused() const {
@@ -139,40 +84,56 @@ void TextField::SetWidthFor(int characters) {
   setFixedWidth(text + 2 * kTextMargin + 2 * grid::kBetweenControls);
 }
 
-void TextField::keyPressEvent(QKeyEvent* event) {
-  SetRefused(false);
-  if (!isReadOnly() && MakesCharacter(*event)) WipeMark();
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    event->accept();
-    if (!event->isAutoRepeat()) emit entered();
-    return;
-  }
-  QLineEdit::keyPressEvent(event);
+bool TextField::event(QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QLineEdit::event(event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  const QScopedValueRollback<bool> pressed(tabKeyPressed_,
+                                           key == Qt::Key_Tab || key == Qt::Key_Backtab);
+  return QLineEdit::event(event);
 }
 
-void TextField::inputMethodEvent(QInputMethodEvent* event) {
-  if (!isReadOnly() && !event->commitString().isEmpty()) WipeMark();
-  QLineEdit::inputMethodEvent(event);
+void TextField::keyPressEvent(QKeyEvent* event) {
+  SetRefused(false);
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if ((enter || event->key() == Qt::Key_Escape) && ShowsMark() && !isReadOnly()) clear();
+  if (!enter) {
+    QLineEdit::keyPressEvent(event);
+    return;
+  }
+  event->accept();
+  if (!event->isAutoRepeat()) Commit();
+}
+
+void TextField::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  SelectMark();
 }
 
 void TextField::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  if (!IsLeaving(event->reason())) return;
-  if (!validate()) {
-    FocusVeto::Start(this);
-    return;
-  }
-  const bool marked = leftBlank_ == LeftBlank::GetsMark && !mark_.isEmpty();
-  if (marked && IsBlank(text())) setText(mark_);
-  emit left();
+  if (!IsMovedByPerson(event->reason()) || checking_ || FocusVeto::IsRunning()) return;
+  if (!Leave()) FocusVeto::Start(this);
 }
 
-bool TextField::IsLeaving(Qt::FocusReason reason) const {
-  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-      reason == Qt::MenuBarFocusReason)
-    return false;
-  if (!isEnabled() || validating_ || FocusVeto::IsRunning()) return false;
-  return QApplication::focusWidget() != nullptr;
+// A text that is dropped belongs to the field as one that is typed: the field is left afterwards.
+void TextField::dropEvent(QDropEvent* event) {
+  setFocus(Qt::MouseFocusReason);
+  if (event->mimeData()->hasText() && ShowsMark()) clear();
+  QLineEdit::dropEvent(event);
+}
+
+// The toolkit names the Tab key as the reason also when the focused control is hidden or disabled.
+bool TextField::IsMovedByPerson(Qt::FocusReason reason) const {
+  switch (reason) {
+    case Qt::MouseFocusReason:
+    case Qt::ShortcutFocusReason:
+      return true;
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+      return tabKeyPressed_;
+    default:
+      return false;
+  }
 }
 
 void TextField::SetRefused(bool refused) {
@@ -181,8 +142,9 @@ void TextField::SetRefused(bool refused) {
   update();
 }
 
-void TextField::WipeMark() {
-  if (ShowsMark()) clear();
+// Selected as a whole the mark is replaced as a whole, by whatever kind of edit.
+void TextField::SelectMark() {
+  if (hasFocus() && ShowsMark() && selectedText() != mark_) selectAll();
 }
 
 void TextField::ColourText() {

@@ -1,4 +1,4 @@
-// A text box: Enter commits, leaving is told, and a refused text keeps the focus.
+// A text box whose text counts once the person has done with it.
 #pragma once
 
 #include <QLineEdit>
@@ -6,9 +6,10 @@
 
 namespace mortane {
 
-// Leaving runs the validation, then may put the mark back into a blank box, then raises left().
-// Leaving means moving to another control of the window, edited or not: another window, a popup
-// and the disabling of the window are none.
+// The text is committed by the Enter key and when the field is left, edited or not. The field is
+// left when the person moves the focus to another control of the window, or changes page, section
+// or tab. A load, a hiding, a disabling or a destruction by the program, another window and a menu
+// are no leaving.
 class TextField : public QLineEdit {
   Q_OBJECT
 
@@ -18,41 +19,50 @@ class TextField : public QLineEdit {
   // At most that many characters, typed, pasted or set.
   void SetLimit(int characters);
   void setText(const QString& text);
+
   enum class LeftBlank { GetsMark, StaysBlank };
-  // The dashes that stand for an unnamed item: wiped by the first key that makes a character,
-  // and in most boxes back when the box is left blank. They show in the colour of captions.
+  // Dashes that stand for an unnamed item, in the colour of captions. Every edit replaces them as
+  // a whole, and the Enter key clears them before it commits. With GetsMark they return to a box
+  // that is left blank, after its text is committed.
   void SetMark(const QString& dashes, LeftBlank leftBlank = LeftBlank::GetsMark);
-  // Decides whether the text may stay (and stores it if so). A text that may not is shown refused
-  // while complain runs and until the next key; focus and text stay, and what the user clicked
-  // does not act.
-  void setValidation(std::function<bool()> accepts, std::function<void()> complain = {});
-  // Runs the validation now, as the Enter key of some fields does; true without one.
-  bool validate();
+
+  // Decides whether a text may be committed. One that may not is shown refused while `complain`
+  // runs and until the next key; text and focus stay, and what the person clicked does not act.
+  void SetCheck(std::function<bool(const QString& text)> accepts,
+                std::function<void()> complain = {});
+
+  // Checks the text and raises committed(); false when it is refused.
+  bool Commit();
+  // What leaving does, whether the focus moves or not; false when the text is refused.
+  bool Leave();
   [[nodiscard]] bool isRefused() const;
+
   // Wide enough for that many characters of text, at the height of the grid.
   void SetWidthFor(int characters);
 
  signals:
-  void entered();
-  void left();
+  void committed(const QString& text);
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void inputMethodEvent(QInputMethodEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
-  [[nodiscard]] bool IsLeaving(Qt::FocusReason reason) const;
+  [[nodiscard]] bool IsMovedByPerson(Qt::FocusReason reason) const;
   void SetRefused(bool refused);
   [[nodiscard]] bool ShowsMark() const { return !mark_.isEmpty() && text() == mark_; }
-  void WipeMark();
+  void SelectMark();
   void ColourText();
 
   QString mark_;
   LeftBlank leftBlank_ = LeftBlank::GetsMark;
-  std::function<bool()> accepts_;
+  std::function<bool(const QString& text)> accepts_;
   std::function<void()> complain_;
-  bool validating_ = false;
+  bool checking_ = false;
+  bool tabKeyPressed_ = false;
 };
 
 }  // namespace mortane

@@ -63,7 +63,6 @@ Tone RingTone(double magnification) {
 TurretButton::TurretButton(PlaceKind kind, int address, QWidget* parent)
     : QAbstractButton(parent), kind_(kind), address_(address) {
   setCheckable(true);
-  setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_Hover);
 }
 

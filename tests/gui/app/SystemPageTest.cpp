@@ -137,7 +137,7 @@ TEST_F(SystemPage, LeavingTheFieldTakesTheNameAlsoUntouched) {
   page->LoadData();
   name().setFocus();
   EXPECT_EQ(k70().SystemName, "  ");
-  elsewhere->setFocus();
+  QTest::mouseClick(elsewhere, Qt::LeftButton);
   EXPECT_EQ(k70().SystemName, "NoName");
 }
 
@@ -145,7 +145,7 @@ TEST_F(SystemPage, AnEmptyTextIsTakenAsEmpty) {
   page->LoadData();
   name().setFocus();
   name().clear();
-  elsewhere->setFocus();
+  QTest::mouseClick(elsewhere, Qt::LeftButton);
   EXPECT_EQ(k70().SystemName, "");
 }
 

@@ -106,14 +106,14 @@ TEST_F(CondenserNamesPage, TheNextStoreTakesTheDashesForTheName) {
   Enter(field(1), "");
   EXPECT_EQ(name(1), "");
   field(1).setFocus();
-  rig.elsewhere().setFocus();
+  QTest::mouseClick(&rig.elsewhere(), Qt::LeftButton);
   EXPECT_EQ(name(1), kDashes);
 }
 
 TEST_F(CondenserNamesPage, LeavingStoresTheTextEditedOrNot) {
   field(1).setFocus();
   name(1, "Other");
-  rig.elsewhere().setFocus();
+  QTest::mouseClick(&rig.elsewhere(), Qt::LeftButton);
   EXPECT_EQ(name(1), "Slit");
 }
 

@@ -163,9 +163,9 @@ Card* Fields() {
   row->addWidget(Shown(Picture(MakeField("41.5"),
                                [](QWidget* w) {
                                  auto* field = static_cast<TextField*>(w);
-                                 field->setValidation([] { return false; });
+                                 field->SetCheck([](const QString&) { return false; });
                                  field->setFocus();
-                                 field->validate();
+                                 field->Commit();
                                }),
                        "refused"));
   row->addWidget(Shown(Picture(MakeField("Lab 2 East"),

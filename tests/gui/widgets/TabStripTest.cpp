@@ -59,7 +59,7 @@ TEST_F(TabStripTest, ArrowsChooseAndStopAtTheEnds) {
 
 TEST_F(TabStripTest, TheFieldIsLeftBeforeTheTabChanges) {
   int tabWhenLeft = -1;
-  QObject::connect(field, &TextField::left, field, [&] { tabWhenLeft = tabs->index(); });
+  QObject::connect(field, &TextField::committed, field, [&] { tabWhenLeft = tabs->index(); });
   QTest::keyClicks(field, "new");
   ClickTab(2);
   EXPECT_EQ(tabWhenLeft, 0);
@@ -68,7 +68,7 @@ TEST_F(TabStripTest, TheFieldIsLeftBeforeTheTabChanges) {
 }
 
 TEST_F(TabStripTest, ARefusedTextKeepsTheTab) {
-  field->setValidation([] { return false; });
+  field->SetCheck([](const QString&) { return false; });
   QSignalSpy clicks(tabs, &TabStrip::clicked);
   ClickTab(2);
   QApplication::processEvents();

@@ -35,11 +35,13 @@ class TestWindow {
   QVBoxLayout* column_ = new QVBoxLayout(&window_);
 };
 
-inline void TurnWheel(QWidget* widget) {
+// Two notches towards the person; true when the widget took them for its own.
+inline bool TurnWheel(QWidget* widget) {
   const QPointF at(5, 5);
-  QWheelEvent turn(at, widget->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+  QWheelEvent turn(at, widget->mapToGlobal(at), {}, {0, -240}, Qt::NoButton, Qt::NoModifier,
                    Qt::NoScrollPhase, false);
   QApplication::sendEvent(widget, &turn);
+  return turn.isAccepted();
 }
 
 // The numbers that a signal with one int argument carried, in order.

@@ -1,7 +1,10 @@
 #include "widgets/TextField.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 
 #include "gui/widgets/TestWindow.h"
@@ -25,14 +28,22 @@ class TextFieldTest : public ::testing::Test {
   QLineEdit* other = nullptr;
 };
 
-TEST_F(TextFieldTest, BothEnterKeysAreSwallowedAndTold) {
-  QSignalSpy entered(field, &TextField::entered);
-  QSignalSpy left(field, &TextField::left);
+TEST_F(TextFieldTest, BothEnterKeysCommitAndKeepTheFocus) {
+  field->setText("text");
+  QSignalSpy committed(field, &TextField::committed);
   QTest::keyClick(field, Qt::Key_Return);
   QTest::keyClick(field, Qt::Key_Enter);
-  EXPECT_EQ(entered.count(), 2);
-  EXPECT_EQ(left.count(), 0);
+  ASSERT_EQ(committed.count(), 2);
+  EXPECT_EQ(committed.at(1).at(0).toString(), "text");
   EXPECT_TRUE(field->hasFocus());
+}
+
+TEST_F(TextFieldTest, AHeldEnterKeyCommitsOnce) {
+  QSignalSpy committed(field, &TextField::committed);
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QApplication::sendEvent(field, &repeated);
+  EXPECT_EQ(committed.count(), 0);
+  EXPECT_TRUE(repeated.isAccepted());
 }
 
 TEST_F(TextFieldTest, EnterDoesNotReachTheDefaultButton) {
@@ -53,37 +64,6 @@ TEST_F(TextFieldTest, EnterDoesNotReachTheDefaultButton) {
   EXPECT_TRUE(dialog.isVisible());
 }
 
-TEST_F(TextFieldTest, LeavingIsToldEditedOrNot) {
-  QSignalSpy left(field, &TextField::left);
-  QTest::keyClick(field, Qt::Key_Tab);
-  EXPECT_EQ(left.count(), 1);
-  field->setFocus();
-  QTest::keyClicks(field, "a");
-  other->setFocus();
-  EXPECT_EQ(left.count(), 2);
-}
-
-TEST_F(TextFieldTest, AnotherWindowAMenuOrADisabledWindowIsNoLeaving) {
-  QSignalSpy left(field, &TextField::left);
-  QDialog dialog;
-  dialog.show();
-  dialog.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  EXPECT_FALSE(field->hasFocus());
-  dialog.hide();
-  window.Show();
-  EXPECT_TRUE(field->hasFocus());
-  QMenu menu(&window.widget());
-  menu.addAction("entry");
-  menu.popup({0, 0});
-  menu.hide();
-  window.Show();
-  window.widget().setEnabled(false);
-  EXPECT_FALSE(field->hasFocus());
-  window.widget().setEnabled(true);
-  EXPECT_EQ(left.count(), 0);
-}
-
 struct KeyRow {
   const char* what;
   Qt::Key key;
@@ -91,9 +71,12 @@ struct KeyRow {
   const char* after;
 };
 
+// A microscope, one character of two code units.
+const QString kGlass = QString::fromUtf8("\xF0\x9F\x94\xAC");
+
 class MarkKeys : public TextFieldTest, public ::testing::WithParamInterface<KeyRow> {};
 
-TEST_P(MarkKeys, OnlyAKeyThatMakesACharacterWipesTheMark) {
+TEST_P(MarkKeys, OnlyAnEditReplacesTheMarkAndThenAsAWhole) {
   field->SetMark(kDashes);
   field->setText(kDashes);
   field->setCursorPosition(0);
@@ -113,43 +96,155 @@ INSTANTIATE_TEST_SUITE_P(
                       KeyRow{"arrow", Qt::Key_Right, Qt::NoModifier, kDashes},
                       KeyRow{"tab", Qt::Key_Tab, Qt::NoModifier, kDashes},
                       KeyRow{"copy", Qt::Key_C, Qt::ControlModifier, kDashes},
-                      KeyRow{"delete", Qt::Key_Delete, Qt::NoModifier, "---------"}),
+                      KeyRow{"delete", Qt::Key_Delete, Qt::NoModifier, ""},
+                      KeyRow{"word", Qt::Key_Backspace, Qt::ControlModifier, ""},
+                      KeyRow{"cut", Qt::Key_X, Qt::ControlModifier, ""},
+                      KeyRow{"minus", Qt::Key_Minus, Qt::NoModifier, "-"}),
     [](const auto& row) { return std::string(row.param.what); });
 
-TEST_F(TextFieldTest, OtherTextIsNotWiped) {
+// A full box, so that a character that does not replace the mark finds no room.
+class MarkedBox : public TextFieldTest {
+ protected:
+  void SetUp() override {
+    TextFieldTest::SetUp();
+    field->SetLimit(10);
+    field->SetMark(kDashes);
+    field->setText(kDashes);
+    field->deselect();
+    field->setCursorPosition(4);
+  }
+};
+
+TEST_F(MarkedBox, ACharacterOutsideTheBasicPlaneReplacesTheMark) {
+  QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, kGlass);
+  QApplication::sendEvent(field, &key);
+  EXPECT_EQ(field->text(), kGlass);
+}
+
+TEST_F(MarkedBox, ACharacterOfAnInputMethodReplacesTheMark) {
+  QInputMethodEvent composing;
+  composing.setCommitString(kGlass);
+  QApplication::sendEvent(field, &composing);
+  EXPECT_EQ(field->text(), kGlass);
+}
+
+TEST_F(MarkedBox, PastingByKeyReplacesTheMark) {
+  QGuiApplication::clipboard()->setText("-5 pasted");
+  QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(field->text(), "-5 pasted");
+}
+
+TEST_F(MarkedBox, PastingByTheContextMenuReplacesTheMark) {
+  QGuiApplication::clipboard()->setText("-5 pasted");
+  QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5}, field->mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(field, &asked);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  for (QAction* entry : menu->actions())
+    if (entry->text().startsWith("&Paste")) entry->trigger();
+  menu->close();
+  EXPECT_EQ(field->text(), "-5 pasted");
+}
+
+void Drop(QWidget* target, const QString& text) {
+  QMimeData data;
+  data.setText(text);
+  QDragEnterEvent enter({30, 8}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(target, &enter);
+  QDropEvent drop({30, 8}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(target, &drop);
+}
+
+TEST_F(MarkedBox, ADroppedTextReplacesTheMarkAndBringsTheFocus) {
+  other->setFocus();
+  Drop(field, "-5 dropped");
+  EXPECT_EQ(field->text(), "-5 dropped");
+  EXPECT_TRUE(field->hasFocus());
+}
+
+TEST_F(MarkedBox, ADroppedTextReplacesTheMarkAlsoInAWindowThatIsNotActive) {
+  QDialog dialog;
+  dialog.show();
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  Drop(field, "dropped");
+  EXPECT_EQ(field->text(), "dropped");
+}
+
+TEST_F(TextFieldTest, ADroppedTextJoinsAnyOtherText) {
+  field->setText("name");
+  other->setFocus();
+  Drop(field, "s");
+  EXPECT_EQ(field->text().size(), 5);
+}
+
+TEST_F(MarkedBox, TheMouseSelectsTheMarkAsAWhole) {
+  QTest::mousePress(field, Qt::LeftButton, {}, QPoint(12, field->height() / 2));
+  EXPECT_EQ(field->selectedText(), kDashes);
+  QTest::mouseMove(field, QPoint(25, field->height() / 2));
+  QTest::mouseRelease(field, Qt::LeftButton, {}, QPoint(25, field->height() / 2));
+  EXPECT_EQ(field->selectedText(), kDashes);
+}
+
+TEST_F(MarkedBox, TheMarkComesBackSelectedWhenTheProgramSetsIt) {
+  QTest::keyClicks(field, "a");
+  field->setText(kDashes);
+  QTest::keyClicks(field, "b");
+  EXPECT_EQ(field->text(), "b");
+}
+
+TEST_F(TextFieldTest, OtherTextIsNotReplaced) {
   field->SetMark(kDashes);
   field->setText("name");
   QTest::keyClicks(field, "s");
   EXPECT_EQ(field->text(), "names");
+  field->deselect();
+  EXPECT_EQ(field->selectedText(), "");
 }
 
-TEST_F(TextFieldTest, TheMarkIsGoneBeforeEnterIsTold) {
+TEST_F(TextFieldTest, TheMarkIsGoneBeforeEnterCommits) {
   field->SetMark(kDashes);
   field->setText(kDashes);
   QString stored = "unset";
-  QObject::connect(field, &TextField::entered, field, [&] { stored = field->text(); });
+  QObject::connect(field, &TextField::committed, field,
+                   [&](const QString& text) { stored = text; });
   QTest::keyClick(field, Qt::Key_Return);
   EXPECT_EQ(stored, "");
+  EXPECT_EQ(field->text(), "");
 }
 
-TEST_F(TextFieldTest, ABlankBoxIsValidatedFirstAndThenGetsItsMarkBack) {
+TEST_F(TextFieldTest, ABlankBoxCommitsItsTextAndThenGetsItsMarkBack) {
   field->SetMark(kDashes);
   field->setText("  ");
-  QString validated = "unset";
-  QString atLeaving = "unset";
-  field->setValidation([&] {
-    validated = field->text();
-    return true;
-  });
-  QObject::connect(field, &TextField::left, field, [&] { atLeaving = field->text(); });
+  QString stored = "unset";
+  QObject::connect(field, &TextField::committed, field,
+                   [&](const QString& text) { stored = text; });
+  QTest::keyClick(field, Qt::Key_Tab);
+  EXPECT_EQ(stored, "  ");
+  EXPECT_EQ(field->text(), kDashes);
+}
+
+TEST_F(TextFieldTest, ABoxThatIsToStayBlankDoes) {
+  field->SetMark(kDashes, TextField::LeftBlank::StaysBlank);
+  field->setText("");
+  QTest::keyClick(field, Qt::Key_Tab);
+  EXPECT_EQ(field->text(), "");
+}
+
+TEST_F(TextFieldTest, TheTabKeySelectsTheTextAndTheNextOneShowsItPlainAgain) {
+  field->setText("text");
   other->setFocus();
-  EXPECT_EQ(validated, "  ");
-  EXPECT_EQ(atLeaving, kDashes);
+  QTest::keyClick(other, Qt::Key_Tab);
+  ASSERT_TRUE(field->hasFocus());
+  EXPECT_EQ(field->selectedText(), "text");
+  QTest::keyClick(field, Qt::Key_Tab);
+  EXPECT_FALSE(field->hasFocus());
+  EXPECT_EQ(field->selectedText(), "");
 }
 
 TEST_F(TextFieldTest, WithoutAMarkABlankBoxStaysBlank) {
   field->setText("");
-  other->setFocus();
+  QTest::keyClick(field, Qt::Key_Tab);
   EXPECT_EQ(field->text(), "");
 }
 
@@ -158,6 +253,7 @@ TEST_F(TextFieldTest, AReadOnlyFieldKeepsItsMark) {
   field->setText(kDashes);
   field->setReadOnly(true);
   QTest::keyClicks(field, "a");
+  QTest::keyClick(field, Qt::Key_Return);
   EXPECT_EQ(field->text(), kDashes);
 }
 

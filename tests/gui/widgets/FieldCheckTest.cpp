@@ -10,7 +10,7 @@
 namespace mortane {
 namespace {
 
-class FieldValidation : public ::testing::Test {
+class FieldCheck : public ::testing::Test {
  protected:
   void SetUp() override {
     field = window.Add<TextField>();
@@ -21,10 +21,10 @@ class FieldValidation : public ::testing::Test {
     page = new PageButton(IconName::System, "System", &window.widget());
     window.widget().layout()->addWidget(page);
     window.Show();
-    field->setValidation(
-        [this] {
+    field->SetCheck(
+        [this](const QString& text) {
           ++asked;
-          return field->text() != "bad";
+          return text != "bad";
         },
         [this] { ++complaints; });
     field->setText("bad");
@@ -48,44 +48,44 @@ class FieldValidation : public ::testing::Test {
   int complaints = 0;
 };
 
-TEST_F(FieldValidation, AGoodTextLetsTheFocusGo) {
+TEST_F(FieldCheck, AGoodTextLetsTheFocusGo) {
   field->setText("good");
-  QSignalSpy left(field, &TextField::left);
+  QSignalSpy committed(field, &TextField::committed);
   QTest::keyClick(field, Qt::Key_Tab);
   EXPECT_EQ(asked, 1);
   EXPECT_EQ(complaints, 0);
-  EXPECT_EQ(left.count(), 1);
+  EXPECT_EQ(committed.count(), 1);
   EXPECT_TRUE(second->hasFocus());
   EXPECT_FALSE(field->isRefused());
 }
 
-TEST_F(FieldValidation, ABadTextKeepsTheFocusAndIsAllSelected) {
-  QSignalSpy left(field, &TextField::left);
+TEST_F(FieldCheck, ABadTextKeepsTheFocusAndIsAllSelected) {
+  QSignalSpy committed(field, &TextField::committed);
   QTest::keyClick(field, Qt::Key_Tab);
   QApplication::processEvents();
   EXPECT_EQ(asked, 1);
   EXPECT_EQ(complaints, 1);
-  EXPECT_EQ(left.count(), 0);
+  EXPECT_EQ(committed.count(), 0);
   EXPECT_TRUE(field->hasFocus());
   EXPECT_TRUE(field->isRefused());
   EXPECT_EQ(field->selectedText(), "bad");
 }
 
-TEST_F(FieldValidation, TheFieldThatHadTheFocusForAMomentIsNotLeft) {
+TEST_F(FieldCheck, TheFieldThatHadTheFocusForAMomentIsNotLeft) {
   int secondAsked = 0;
-  second->setValidation([&] {
+  second->SetCheck([&](const QString&) {
     ++secondAsked;
     return false;
   });
-  QSignalSpy left(second, &TextField::left);
+  QSignalSpy committed(second, &TextField::committed);
   QTest::keyClick(field, Qt::Key_Tab);
   QApplication::processEvents();
   EXPECT_EQ(secondAsked, 0);
-  EXPECT_EQ(left.count(), 0);
+  EXPECT_EQ(committed.count(), 0);
   EXPECT_TRUE(field->hasFocus());
 }
 
-TEST_F(FieldValidation, TheClickThatWouldHaveLeftDoesNotAct) {
+TEST_F(FieldCheck, TheClickThatWouldHaveLeftDoesNotAct) {
   QSignalSpy pressed(button, &QPushButton::clicked);
   QSignalSpy selected(list, &ListBox::clicked);
   QSignalSpy turned(page, &PageButton::selectRequested);
@@ -99,7 +99,7 @@ TEST_F(FieldValidation, TheClickThatWouldHaveLeftDoesNotAct) {
   EXPECT_TRUE(field->hasFocus());
 }
 
-TEST_F(FieldValidation, AfterAGoodTextTheSameClicksAct) {
+TEST_F(FieldCheck, AfterAGoodTextTheSameClicksAct) {
   field->setText("good");
   QSignalSpy pressed(button, &QPushButton::clicked);
   QSignalSpy turned(page, &PageButton::selectRequested);
@@ -109,22 +109,22 @@ TEST_F(FieldValidation, AfterAGoodTextTheSameClicksAct) {
   EXPECT_EQ(turned.count(), 1);
 }
 
-TEST_F(FieldValidation, AMessageBoxIsShownOnceAndTheLookStandsMeanwhile) {
+TEST_F(FieldCheck, AMessageBoxIsShownOnceAndTheLookStandsMeanwhile) {
   int boxes = 0;
   bool refusedMeanwhile = false;
-  field->setValidation(
-      [] { return false; },
-      [&] {
-        QTimer::singleShot(0, field, [&] {
-          auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-          ASSERT_NE(box, nullptr);
-          refusedMeanwhile = field->isRefused();
-          box->accept();
-        });
-        ++boxes;
-        QMessageBox(QMessageBox::NoIcon, "Mortane", "Please", QMessageBox::Ok, &window.widget())
-            .exec();
-      });
+  field->SetCheck([](const QString&) { return false; },
+                  [&] {
+                    QTimer::singleShot(0, field, [&] {
+                      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                      ASSERT_NE(box, nullptr);
+                      refusedMeanwhile = field->isRefused();
+                      box->accept();
+                    });
+                    ++boxes;
+                    QMessageBox(QMessageBox::NoIcon, "Mortane", "Please", QMessageBox::Ok,
+                                &window.widget())
+                        .exec();
+                  });
   QSignalSpy pressed(button, &QPushButton::clicked);
   Click(button);
   window.Show();
@@ -135,40 +135,42 @@ TEST_F(FieldValidation, AMessageBoxIsShownOnceAndTheLookStandsMeanwhile) {
   EXPECT_TRUE(field->hasFocus());
 }
 
-TEST_F(FieldValidation, TheNextKeyEndsTheRefusedLook) {
-  field->validate();
+TEST_F(FieldCheck, TheNextKeyEndsTheRefusedLook) {
+  field->Commit();
   ASSERT_TRUE(field->isRefused());
   QTest::keyClicks(field, "4");
   EXPECT_FALSE(field->isRefused());
   EXPECT_EQ(field->text(), "4");
 }
 
-TEST_F(FieldValidation, TheProgramsTextEndsTheRefusedLook) {
-  field->validate();
+TEST_F(FieldCheck, TheProgramsTextEndsTheRefusedLook) {
+  field->Commit();
   field->setText("bad");
   EXPECT_FALSE(field->isRefused());
 }
 
-TEST_F(FieldValidation, EnterRunsTheValidationOnlyIfThePageSaysSo) {
-  QTest::keyClick(field, Qt::Key_Return);
-  EXPECT_EQ(asked, 0);
-  QObject::connect(field, &TextField::entered, field, [this] { field->validate(); });
+TEST_F(FieldCheck, EnterAsksAndARefusedTextIsNotCommitted) {
+  QSignalSpy committed(field, &TextField::committed);
   QTest::keyClick(field, Qt::Key_Return);
   EXPECT_EQ(asked, 1);
   EXPECT_EQ(complaints, 1);
+  EXPECT_EQ(committed.count(), 0);
   EXPECT_TRUE(field->hasFocus());
+  field->setText("good");
+  QTest::keyClick(field, Qt::Key_Return);
+  EXPECT_EQ(committed.count(), 1);
 }
 
-TEST_F(FieldValidation, DisablingTheFieldItselfAsksNothing) {
-  QSignalSpy left(field, &TextField::left);
+TEST_F(FieldCheck, DisablingTheFieldItselfAsksNothing) {
+  QSignalSpy committed(field, &TextField::committed);
   field->setEnabled(false);
   QApplication::processEvents();
   EXPECT_FALSE(field->hasFocus());
   EXPECT_EQ(asked, 0);
-  EXPECT_EQ(left.count(), 0);
+  EXPECT_EQ(committed.count(), 0);
 }
 
-TEST_F(FieldValidation, DisablingTheWindowAsksNothing) {
+TEST_F(FieldCheck, DisablingTheWindowAsksNothing) {
   window.widget().setEnabled(false);
   QApplication::processEvents();
   EXPECT_EQ(asked, 0);
