@@ -69,7 +69,7 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterIte
   rows->addLayout(cells, 1);
   FrameBase->body()->addWidget(TabOption);
   FrameBase->body()->addWidget(frm2, 1);
-  connect(TabOption, &TabStrip::clicked, this, [this] {
+  connect(TabOption, &TabStrip::chosen, this, [this] {
     ReadCube();
     for (const Item& item : kItems) SelectItem(item);
   });
@@ -106,7 +106,7 @@ void FilterOptionalQubeCtl::BuildList(const Item& item, int column, QGridLayout&
   this->*item.label = label;
   this->*item.value = value;
   this->*item.list = list;
-  connect(list, &ListBox::clicked, this, [this, &item, list, value](int row) {
+  connect(list, &ListBox::selectionChanged, this, [this, &item, list, value](int row) {
     value->setText(list->text(row));
     codeOf(item) = list->data(row).toInt();
     Store();

@@ -79,9 +79,9 @@ FilterQubeCtl::FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidge
   FrameBase->body()->addWidget(BuildList(FrameBase), 1);
   FrameBase->body()->addWidget(BuildPlate(FrameBase));
 
-  connect(TabPocket, &TabStrip::clicked, this, &FilterQubeCtl::ClickTab);
-  connect(List1, &ListBox::clicked, this, &FilterQubeCtl::ClickList);
-  connect(turret_, &TurretDrawing::clicked, this, [this](int index) {
+  connect(TabPocket, &TabStrip::chosen, this, &FilterQubeCtl::ClickTab);
+  connect(List1, &ListBox::selectionChanged, this, &FilterQubeCtl::ClickList);
+  connect(turret_, &TurretDrawing::chosen, this, [this](int index) {
     TabPocket->setIndex(index);
     ClickTab();
   });

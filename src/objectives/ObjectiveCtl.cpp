@@ -88,10 +88,10 @@ ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& object
   FrameBase->body()->addWidget(BuildLists(FrameBase), 1);
   FrameBase->body()->addWidget(BuildPlate(FrameBase));
 
-  connect(TabNosepiece, &TabStrip::clicked, this, &ObjectiveCtl::ClickTab);
-  connect(ListSeries, &ListBox::clicked, this, &ObjectiveCtl::ClickSeries);
-  connect(ListItem, &ListBox::clicked, this, &ObjectiveCtl::ClickItem);
-  connect(turret_, &TurretDrawing::clicked, this, [this](int index) {
+  connect(TabNosepiece, &TabStrip::chosen, this, &ObjectiveCtl::ClickTab);
+  connect(ListSeries, &ListBox::selectionChanged, this, &ObjectiveCtl::ClickSeries);
+  connect(ListItem, &ListBox::selectionChanged, this, &ObjectiveCtl::ClickItem);
+  connect(turret_, &TurretDrawing::chosen, this, [this](int index) {
     TabNosepiece->setIndex(index);
     ClickTab();
   });

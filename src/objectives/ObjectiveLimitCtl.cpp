@@ -117,7 +117,7 @@ void ObjectiveLimitCtl::AddRule(const Rule& rule) {
   this->*rule.frame = frame;
   this->*rule.group = group;
   this->*rule.label = label;
-  connect(group, &OptionGroup::clicked, this,
+  connect(group, &OptionGroup::selectionChanged, this,
           [this, &rule](int index) { limits_.*rule.value = static_cast<std::int16_t>(index); });
 }
 

@@ -42,24 +42,24 @@ ObjectiveOptionCtl::ObjectiveOptionCtl(clsDbNosepiece& objectives, QWidget* pare
 }
 
 void ObjectiveOptionCtl::Connect() {
-  connect(TabStrip1, &TabStrip::clicked, this, [this] { ShowObjective(Condensers::AsListed); });
-  connect(ListSeries, &ListBox::clicked, this, [this](int row) {
+  connect(TabStrip1, &TabStrip::chosen, this, [this] { ShowObjective(Condensers::AsListed); });
+  connect(ListSeries, &ListBox::selectionChanged, this, [this](int row) {
     LabelSeries->setText(ListSeries->text(row));
     series_ = row;
     Store();
   });
-  connect(ListType, &ListBox::clicked, this, [this](int row) {
+  connect(ListType, &ListBox::selectionChanged, this, [this](int row) {
     LabelType->setText(ListType->text(row));
     type_ = row;
     Store();
   });
-  connect(ListMag, &ListBox::clicked, this, [this](int row) {
+  connect(ListMag, &ListBox::selectionChanged, this, [this](int row) {
     QString text = ListMag->text(row);
     if (text.endsWith(u'x')) text.chop(1);
     TextMag->setText(text);
     Store();
   });
-  connect(ComboCondenser, &ComboBox::clicked, this, [this](int row) {
+  connect(ComboCondenser, &ComboBox::selectionChanged, this, [this](int row) {
     condenser_ = ComboCondenser->data(row).toInt();
     Store();
   });

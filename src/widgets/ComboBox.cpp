@@ -18,7 +18,7 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
   setMaxVisibleItems(16);
   connect(this, &QComboBox::activated, this, [this](int row) {
     emit chosen(row);
-    emit clicked(row);
+    emit selectionChanged(row);
   });
 }
 
@@ -38,7 +38,7 @@ void ComboBox::clearRows() {
 void ComboBox::setIndex(int row) {
   const int before = currentIndex();
   setCurrentIndex(row >= 0 && row < count() ? row : -1);
-  if (currentIndex() >= 0 && currentIndex() != before) emit clicked(currentIndex());
+  if (currentIndex() >= 0 && currentIndex() != before) emit selectionChanged(currentIndex());
 }
 
 void ComboBox::mousePressEvent(QMouseEvent* event) {

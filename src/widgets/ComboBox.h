@@ -6,9 +6,9 @@
 
 namespace mortane {
 
-// Filling leaves nothing selected. chosen() is raised for every choice of the user, also of the
-// entry on show; clicked() for that and for a new entry set by the program. The wheel changes
-// nothing unless the list is open.
+// Filling leaves nothing selected. chosen() is raised for every choice of the person, also of the
+// entry on show; selectionChanged() for that and for a new entry that the program sets. The wheel
+// changes nothing unless the list is open.
 class ComboBox : public QComboBox {
   Q_OBJECT
 
@@ -24,7 +24,7 @@ class ComboBox : public QComboBox {
 
  signals:
   void chosen(int row);
-  void clicked(int row);
+  void selectionChanged(int row);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

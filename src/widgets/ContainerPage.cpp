@@ -11,7 +11,7 @@ namespace mortane {
 ContainerPage::ContainerPage(IconName icon, const QString& title, int sectionStart, QWidget* parent)
     : Page(parent), header_(new PageHeader(icon, title, this)) {
   header_->AddSectionBar(sectionStart);
-  connect(sections(), &SectionBar::clicked, this, &ContainerPage::ShowSubPage);
+  connect(sections(), &SectionBar::selectionChanged, this, &ContainerPage::ShowSubPage);
   QVBoxLayout* column = MakePageLayout(this, header_);
   auto* scroll = new QScrollArea(this);
   scroll->setFrameShape(QFrame::NoFrame);

@@ -147,7 +147,7 @@ int ListBox::index() const {
 void ListBox::setIndex(int row) {
   const int before = index();
   SelectQuietly(row);
-  if (index() >= 0 && index() != before) emit clicked(index());
+  if (index() >= 0 && index() != before) emit selectionChanged(index());
 }
 
 void ListBox::SelectQuietly(int row) {
@@ -174,13 +174,13 @@ void ListBox::mousePressEvent(QMouseEvent* event) {
   if (row < 0) return;
   QTreeWidget::mousePressEvent(event);
   SelectQuietly(row);
-  emit clicked(row);
+  emit selectionChanged(row);
 }
 
 void ListBox::mouseMoveEvent(QMouseEvent* event) {
   const int before = index();
   QTreeWidget::mouseMoveEvent(event);
-  if (index() >= 0 && index() != before) emit clicked(index());
+  if (index() >= 0 && index() != before) emit selectionChanged(index());
 }
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -194,7 +194,7 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
 void ListBox::keyPressEvent(QKeyEvent* event) {
   const int before = index();
   QTreeWidget::keyPressEvent(event);
-  if (index() >= 0 && index() != before) emit clicked(index());
+  if (index() >= 0 && index() != before) emit selectionChanged(index());
 }
 
 // A view that gets the focus with no current row would make the first one current.

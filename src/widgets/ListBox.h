@@ -14,8 +14,9 @@ struct ListColumn {
   Qt::Alignment alignment = Qt::AlignLeft;
 };
 
-// clicked() is raised once for each new row, by the program or the user, and for every click of
-// the user, also on the row already selected. Filling, clearing and focus raise nothing.
+// selectionChanged() is raised once for each new row, whether the person or the program selects
+// it, and for every click of the person, also on the selected row. Filling, clearing and focus
+// raise nothing.
 class ListBox : public QTreeWidget {
   Q_OBJECT
 
@@ -46,7 +47,11 @@ class ListBox : public QTreeWidget {
   void setIndex(int row);           // an index that is no row clears the selection
 
  signals:
-  void clicked(int row);
+  // Hides a handler of the view, which the view alone calls.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Woverloaded-virtual"
+  void selectionChanged(int row);
+#pragma GCC diagnostic pop
   // For every change of a row's check mark, by the program or the user.
   void rowChecked(int row, bool checked);
 

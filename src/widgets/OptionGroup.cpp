@@ -10,7 +10,7 @@ namespace mortane {
 
 OptionGroup::OptionGroup(QObject* parent) : QObject(parent) {
   connect(&group_, &QButtonGroup::idToggled, this, [this] { UpdateTabStop(); });
-  connect(&group_, &QButtonGroup::idClicked, this, &OptionGroup::clicked);
+  connect(&group_, &QButtonGroup::idClicked, this, &OptionGroup::selectionChanged);
 }
 
 QRadioButton* OptionGroup::addOption(const QString& text, const QString& arrayName,
@@ -33,7 +33,7 @@ void OptionGroup::select(int index) {
   QAbstractButton* wanted = group_.button(index);
   if (wanted == nullptr || wanted->isChecked()) return;
   wanted->setChecked(true);
-  emit clicked(index);
+  emit selectionChanged(index);
 }
 
 void OptionGroup::clear() {

@@ -10,8 +10,8 @@ class QRadioButton;
 
 namespace mortane {
 
-// Selecting from the program raises clicked() for a new selection only; a user's click raises it
-// always; clearing raises nothing. The buttons form one Tab stop with arrows inside.
+// selectionChanged() is raised for every click of the person, and for a new selection that the
+// program makes; clearing raises nothing. The buttons form one Tab stop with arrows inside.
 class OptionGroup : public QObject {
   Q_OBJECT
 
@@ -29,7 +29,7 @@ class OptionGroup : public QObject {
   void clear();
 
  signals:
-  void clicked(int index);
+  void selectionChanged(int index);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

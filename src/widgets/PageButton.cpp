@@ -47,7 +47,7 @@ QSize PageButton::sizeHint() const {
 
 void PageButton::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && TakeFocus(*this))
-    emit selectRequested();
+    emit chosen();
   event->accept();
 }
 
@@ -57,7 +57,7 @@ void PageButton::mouseReleaseEvent(QMouseEvent* event) {
 
 void PageButton::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
-    emit selectRequested();
+    emit chosen();
     return;
   }
   event->ignore();

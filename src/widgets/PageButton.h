@@ -22,7 +22,7 @@ class PageButton : public QAbstractButton {
   [[nodiscard]] QSize sizeHint() const override;
 
  signals:
-  void selectRequested();
+  void chosen();
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

@@ -24,7 +24,7 @@ int Rail::AddPage(IconName icon, const QString& text) {
   button->installEventFilter(this);
   buttons_.append(button);
   static_cast<QVBoxLayout*>(layout())->insertWidget(index, button);
-  connect(button, &PageButton::selectRequested, this, [this, index] { select(index); });
+  connect(button, &PageButton::chosen, this, [this, index] { select(index); });
   UpdateTabStop();
   return index;
 }

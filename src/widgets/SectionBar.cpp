@@ -73,7 +73,7 @@ SectionBar::SectionBar(QWidget* parent) : QWidget(parent), group_(new OptionGrou
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  connect(group_, &OptionGroup::clicked, this, &SectionBar::clicked);
+  connect(group_, &OptionGroup::selectionChanged, this, &SectionBar::selectionChanged);
 }
 
 int SectionBar::AddOption(const QString& text) {

@@ -44,8 +44,8 @@ class SectionBar : public QWidget {
   void SetOptionVisible(int index, bool visible);
 
  signals:
-  // For a program's new selection, and for a user's click always.
-  void clicked(int index);
+  // For every click of the person, and for a new selection that the program makes.
+  void selectionChanged(int index);
 
  private:
   void MarkEnds();

@@ -55,7 +55,7 @@ void TabStrip::mousePressEvent(QMouseEvent* event) {
   const int index = tabAt(event->position().toPoint());
   if (index < 0 || !isTabEnabled(index) || !TakeFocus(*this)) return;
   setIndex(index);
-  emit clicked(index);
+  emit chosen(index);
 }
 
 void TabStrip::keyPressEvent(QKeyEvent* event) {
@@ -64,7 +64,7 @@ void TabStrip::keyPressEvent(QKeyEvent* event) {
     const QSignalBlocker quiet(this);
     QTabBar::keyPressEvent(event);
   }
-  if (currentIndex() != before) emit clicked(currentIndex());
+  if (currentIndex() != before) emit chosen(currentIndex());
 }
 
 // Turning the wheel over a strip is scrolling the page, not choosing.

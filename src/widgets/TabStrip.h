@@ -6,9 +6,8 @@
 
 namespace mortane {
 
-// Building and setting are silent; clicked() is raised for a user's click or arrow only. A click
-// takes the focus first, so that the field being left is stored for the old tab, and a refused
-// text keeps the old tab.
+// Building and setting are silent. A click takes the focus first, so that the field that is left
+// is stored for the old tab, and a refused text keeps the old tab.
 class TabStrip : public QTabBar {
   Q_OBJECT
 
@@ -25,7 +24,8 @@ class TabStrip : public QTabBar {
   [[nodiscard]] QString caption() const { return tabText(currentIndex()); }
 
  signals:
-  void clicked(int index);
+  // For a click or a key of the person only.
+  void chosen(int index);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

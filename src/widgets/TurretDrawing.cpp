@@ -58,7 +58,7 @@ TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   // All at once, so that they stand at the drawing's place in the order of the Tab key.
   for (int i = 0; i < kMostPlaces; ++i) MakeButton(i);
-  connect(group_, &OptionGroup::clicked, this, &TurretDrawing::clicked);
+  connect(group_, &OptionGroup::selectionChanged, this, &TurretDrawing::chosen);
 }
 
 void TurretDrawing::MakeButton(int index) {

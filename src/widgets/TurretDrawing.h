@@ -52,8 +52,8 @@ class TurretDrawing : public QWidget {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  signals:
-  // For a user's click or arrow only.
-  void clicked(int index);
+  // For a click or a key of the person only.
+  void chosen(int index);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -107,7 +107,7 @@ TEST_F(Turret, PlacesTellAddressMagnificationAndName) {
 }
 
 TEST_F(Turret, AClickChoosesOnePlaceAndIsTold) {
-  QSignalSpy clicks(turret, &TurretDrawing::clicked);
+  QSignalSpy clicks(turret, &TurretDrawing::chosen);
   QTest::mouseClick(turret->place(2), Qt::LeftButton);
   ASSERT_EQ(clicks.size(), 1);
   EXPECT_EQ(clicks[0][0].toInt(), 2);
@@ -120,13 +120,13 @@ TEST_F(Turret, AClickChoosesOnePlaceAndIsTold) {
 }
 
 TEST_F(Turret, TheCornersOfARoundPlaceAreNotPartOfIt) {
-  QSignalSpy clicks(turret, &TurretDrawing::clicked);
+  QSignalSpy clicks(turret, &TurretDrawing::chosen);
   QTest::mouseClick(turret->place(1), Qt::LeftButton, {}, QPoint(2, 2));
   EXPECT_EQ(clicks.size(), 0);
 }
 
 TEST_F(Turret, SettingIsSilentAndAnIndexThatIsNoneClears) {
-  QSignalSpy clicks(turret, &TurretDrawing::clicked);
+  QSignalSpy clicks(turret, &TurretDrawing::chosen);
   turret->setIndex(4);
   EXPECT_EQ(turret->index(), 4);
   turret->setIndex(6);
@@ -156,7 +156,7 @@ TEST_F(Turret, ArrowsGoAlongTheTurret) {
         KeyRow{3, Qt::Key_End, 5}}) {
     turret->setIndex(row.from);
     turret->place(row.from)->setFocus();
-    QSignalSpy clicks(turret, &TurretDrawing::clicked);
+    QSignalSpy clicks(turret, &TurretDrawing::chosen);
     QTest::keyClick(turret->place(row.from), row.key);
     EXPECT_EQ(turret->index(), row.to) << row.from;
     EXPECT_TRUE(turret->place(row.to)->hasFocus()) << row.from;

@@ -87,8 +87,8 @@ TEST_F(FieldCheck, TheFieldThatHadTheFocusForAMomentIsNotLeft) {
 
 TEST_F(FieldCheck, TheClickThatWouldHaveLeftDoesNotAct) {
   QSignalSpy pressed(button, &QPushButton::clicked);
-  QSignalSpy selected(list, &ListBox::clicked);
-  QSignalSpy turned(page, &PageButton::selectRequested);
+  QSignalSpy selected(list, &ListBox::selectionChanged);
+  QSignalSpy turned(page, &PageButton::chosen);
   Click(button);
   Click(list->viewport());
   Click(page);
@@ -102,7 +102,7 @@ TEST_F(FieldCheck, TheClickThatWouldHaveLeftDoesNotAct) {
 TEST_F(FieldCheck, AfterAGoodTextTheSameClicksAct) {
   field->setText("good");
   QSignalSpy pressed(button, &QPushButton::clicked);
-  QSignalSpy turned(page, &PageButton::selectRequested);
+  QSignalSpy turned(page, &PageButton::chosen);
   Click(button);
   Click(page);
   EXPECT_EQ(pressed.count(), 1);

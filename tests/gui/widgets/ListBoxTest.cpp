@@ -28,7 +28,7 @@ class ListBoxTest : public ::testing::Test {
 };
 
 TEST_F(ListBoxTest, FillingAndClearingRaiseNothingAndSelectNothing) {
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   list->addRow("four");
   EXPECT_EQ(list->index(), -1);
   list->setIndex(1);
@@ -40,7 +40,7 @@ TEST_F(ListBoxTest, FillingAndClearingRaiseNothingAndSelectNothing) {
 }
 
 TEST_F(ListBoxTest, ProgramRaisesAClickForANewValidIndexOnly) {
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   list->setIndex(1);
   list->setIndex(1);
   list->setIndex(-1);
@@ -56,7 +56,7 @@ TEST_F(ListBoxTest, AnIndexThatIsNoRowClearsTheSelection) {
 }
 
 TEST_F(ListBoxTest, AUsersClickIsRaisedOnceAlsoOnTheCurrentRow) {
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   ClickRow(2);
   ClickRow(2);
   ClickRow(0);
@@ -65,7 +65,7 @@ TEST_F(ListBoxTest, AUsersClickIsRaisedOnceAlsoOnTheCurrentRow) {
 }
 
 TEST_F(ListBoxTest, OtherButtonsSelectNothing) {
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   ClickRow(1, Qt::RightButton);
   ClickRow(1, Qt::MiddleButton);
   EXPECT_EQ(list->index(), -1);
@@ -74,7 +74,7 @@ TEST_F(ListBoxTest, OtherButtonsSelectNothing) {
 
 TEST_F(ListBoxTest, AClickBelowTheRowsChangesNothing) {
   list->setIndex(1);
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   const QRect last = list->visualItemRect(list->topLevelItem(2));
   QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                     last.center() + QPoint(0, last.height()));
@@ -83,7 +83,7 @@ TEST_F(ListBoxTest, AClickBelowTheRowsChangesNothing) {
 }
 
 TEST_F(ListBoxTest, TheSecondPressOfADoubleClickIsNoSecondClick) {
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   const QPoint at = list->visualItemRect(list->topLevelItem(1)).center();
   QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
   QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
@@ -92,7 +92,7 @@ TEST_F(ListBoxTest, TheSecondPressOfADoubleClickIsNoSecondClick) {
 
 TEST_F(ListBoxTest, AFastClickOnAnotherRowIsAClick) {
   ClickRow(1);
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                      list->visualItemRect(list->topLevelItem(2)).center());
   EXPECT_EQ(Indices(clicks), (Rows{2}));
@@ -101,14 +101,14 @@ TEST_F(ListBoxTest, AFastClickOnAnotherRowIsAClick) {
 TEST_F(ListBoxTest, ArrowsRaiseAClickForEachNewRowAndNoneAtTheEnd) {
   list->setIndex(0);
   list->setFocus();
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   for (int i = 0; i < 4; ++i) QTest::keyClick(list, Qt::Key_Down);
   QTest::keyClick(list, Qt::Key_Up);
   EXPECT_EQ(Indices(clicks), (Rows{1, 2, 1}));
 }
 
 TEST_F(ListBoxTest, FocusAloneSelectsNothing) {
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   QTest::keyClick(other, Qt::Key_Tab);
   ASSERT_TRUE(list->hasFocus());
   EXPECT_EQ(list->index(), -1);
@@ -118,7 +118,7 @@ TEST_F(ListBoxTest, FocusAloneSelectsNothing) {
 }
 
 TEST_F(ListBoxTest, AHandlerMayRebuildTheList) {
-  QObject::connect(list, &ListBox::clicked, list, [this](int) {
+  QObject::connect(list, &ListBox::selectionChanged, list, [this](int) {
     list->clearRows();
     list->addRow("new");
   });
@@ -129,7 +129,7 @@ TEST_F(ListBoxTest, AHandlerMayRebuildTheList) {
 
 TEST_F(ListBoxTest, AHandlerMayGoBackToAnotherRow) {
   Rows seen;
-  QObject::connect(list, &ListBox::clicked, list, [&](int row) {
+  QObject::connect(list, &ListBox::selectionChanged, list, [&](int row) {
     seen.push_back(row);
     if (row == 2) list->setIndex(0);
   });
@@ -161,7 +161,7 @@ TEST_F(ListBoxTest, TabSeparatedTextFillsTheColumns) {
 
 TEST_F(ListBoxTest, DimmedRowsCanStillBeSelected) {
   list->SetRowDimmed(1, true);
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   ClickRow(1);
   EXPECT_EQ(Indices(clicks), (Rows{1}));
 }

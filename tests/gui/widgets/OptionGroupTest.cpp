@@ -34,7 +34,7 @@ TEST_F(OptionGroupTest, NothingIsSelectedAtFirst) {
 }
 
 TEST_F(OptionGroupTest, ProgramRaisesAClickForANewSelectionOnly) {
-  QSignalSpy clicks(group, &OptionGroup::clicked);
+  QSignalSpy clicks(group, &OptionGroup::selectionChanged);
   group->select(1);
   group->select(1);
   group->select(2);
@@ -45,7 +45,7 @@ TEST_F(OptionGroupTest, ProgramRaisesAClickForANewSelectionOnly) {
 
 TEST_F(OptionGroupTest, ClearingLeavesNothingSelectedAndRaisesNothing) {
   group->select(1);
-  QSignalSpy clicks(group, &OptionGroup::clicked);
+  QSignalSpy clicks(group, &OptionGroup::selectionChanged);
   group->clear();
   EXPECT_EQ(group->selected(), -1);
   EXPECT_FALSE(group->button(1)->isChecked());
@@ -56,7 +56,7 @@ TEST_F(OptionGroupTest, ClearingLeavesNothingSelectedAndRaisesNothing) {
 }
 
 TEST_F(OptionGroupTest, AUsersClickIsRaisedAlwaysAndOnce) {
-  QSignalSpy clicks(group, &OptionGroup::clicked);
+  QSignalSpy clicks(group, &OptionGroup::selectionChanged);
   Click(1);
   Click(1);
   EXPECT_EQ(Indices(clicks), (Rows{1, 1}));
@@ -65,7 +65,7 @@ TEST_F(OptionGroupTest, AUsersClickIsRaisedAlwaysAndOnce) {
 TEST_F(OptionGroupTest, ArrowsMoveInsideAndTabLeaves) {
   group->select(0);
   group->button(0)->setFocus();
-  QSignalSpy clicks(group, &OptionGroup::clicked);
+  QSignalSpy clicks(group, &OptionGroup::selectionChanged);
   QTest::keyClick(group->button(0), Qt::Key_Down);
   EXPECT_EQ(Indices(clicks), (Rows{1}));
   QTest::keyClick(group->button(1), Qt::Key_Tab);

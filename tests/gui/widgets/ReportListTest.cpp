@@ -36,7 +36,7 @@ TEST_F(ReportListTest, OneRowAtATimeIsBold) {
 
 TEST_F(ReportListTest, ACellChangesInPlaceWithoutAClick) {
   list->setIndex(1);
-  QSignalSpy clicks(list, &ListBox::clicked);
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
   list->SetCell(1, 1, "Z Escape");
   EXPECT_EQ(list->cell(1, 1), "Z Escape");
   EXPECT_EQ(list->cell(1, 0), "R (A)");

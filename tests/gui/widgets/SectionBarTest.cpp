@@ -30,7 +30,7 @@ class SectionBarTest : public ::testing::Test {
 };
 
 TEST_F(SectionBarTest, ProgramRaisesAClickForANewSelectionOnlyAndAUserAlways) {
-  QSignalSpy clicks(bar, &SectionBar::clicked);
+  QSignalSpy clicks(bar, &SectionBar::selectionChanged);
   bar->select(0);
   bar->select(0);
   QTest::mouseClick(bar->option(0), Qt::LeftButton);
@@ -48,7 +48,7 @@ TEST_F(SectionBarTest, TheChosenOptionIsAmberAndTheOthersAreNot) {
 TEST_F(SectionBarTest, ADisabledOptionCannotBeChosen) {
   bar->select(0);
   bar->SetOptionEnabled(2, false);
-  QSignalSpy clicks(bar, &SectionBar::clicked);
+  QSignalSpy clicks(bar, &SectionBar::selectionChanged);
   QTest::mouseClick(bar->option(2), Qt::LeftButton);
   EXPECT_EQ(bar->selected(), 0);
   EXPECT_EQ(clicks.count(), 0);
@@ -67,7 +67,7 @@ TEST_F(SectionBarTest, IsOneTabStopWithArrowsInside) {
   before->setFocus();
   QTest::keyClick(before, Qt::Key_Tab);
   ASSERT_TRUE(bar->option(1)->hasFocus());
-  QSignalSpy clicks(bar, &SectionBar::clicked);
+  QSignalSpy clicks(bar, &SectionBar::selectionChanged);
   QTest::keyClick(bar->option(1), Qt::Key_Right);
   EXPECT_EQ(Indices(clicks), (Rows{2}));
   EXPECT_TRUE(bar->option(2)->hasFocus());

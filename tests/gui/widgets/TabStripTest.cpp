@@ -30,7 +30,7 @@ class TabStripTest : public ::testing::Test {
 };
 
 TEST_F(TabStripTest, BuildingAndSettingAreSilent) {
-  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  QSignalSpy clicks(tabs, &TabStrip::chosen);
   QSignalSpy changes(tabs, &QTabBar::currentChanged);
   tabs->setIndex(2);
   tabs->SetTabs({"a", "b"});
@@ -43,7 +43,7 @@ TEST_F(TabStripTest, BuildingAndSettingAreSilent) {
 }
 
 TEST_F(TabStripTest, AUsersClickIsRaisedOnceAlsoOnTheSelectedTab) {
-  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  QSignalSpy clicks(tabs, &TabStrip::chosen);
   ClickTab(1);
   ClickTab(1);
   ClickTab(2, Qt::RightButton);
@@ -52,7 +52,7 @@ TEST_F(TabStripTest, AUsersClickIsRaisedOnceAlsoOnTheSelectedTab) {
 
 TEST_F(TabStripTest, ArrowsChooseAndStopAtTheEnds) {
   tabs->setFocus();
-  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  QSignalSpy clicks(tabs, &TabStrip::chosen);
   for (int i = 0; i < 3; ++i) QTest::keyClick(tabs, Qt::Key_Right);
   EXPECT_EQ(Indices(clicks), (Rows{1, 2}));
 }
@@ -69,7 +69,7 @@ TEST_F(TabStripTest, TheFieldIsLeftBeforeTheTabChanges) {
 
 TEST_F(TabStripTest, ARefusedTextKeepsTheTab) {
   field->SetCheck([](const QString&) { return false; });
-  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  QSignalSpy clicks(tabs, &TabStrip::chosen);
   ClickTab(2);
   QApplication::processEvents();
   EXPECT_EQ(tabs->index(), 0);
@@ -78,7 +78,7 @@ TEST_F(TabStripTest, ARefusedTextKeepsTheTab) {
 }
 
 TEST_F(TabStripTest, TheWheelChoosesNothing) {
-  QSignalSpy clicks(tabs, &TabStrip::clicked);
+  QSignalSpy clicks(tabs, &TabStrip::chosen);
   TurnWheel(tabs);
   tabs->setFocus();
   TurnWheel(tabs);
