@@ -43,14 +43,14 @@ FilterOptionalItemCtl::FilterOptionalItemCtl(const FilterItemLists& items, QWidg
   auto* cells = new QGridLayout;
   cells->setHorizontalSpacing(grid::kBetweenColumns);
   cells->setVerticalSpacing(grid::kUnit);
-  BuildHeads(*cells);
+  BuildHeaders(*cells);
   for (int row = 0; row < kOptionPositions; ++row) BuildRow(row, *cells);
   cells->setColumnStretch(static_cast<int>(kFilterItems) + 1, 1);
   FrameBase->body()->addLayout(cells);
   FrameBase->body()->addStretch();
 }
 
-void FilterOptionalItemCtl::BuildHeads(QGridLayout& cells) {
+void FilterOptionalItemCtl::BuildHeaders(QGridLayout& cells) {
   int place = 1;
   for (const Column& column : kColumns) {
     QLabel* label = Named(CaptionLabel(QLatin1String(column.caption), FrameBase), column.labelName);

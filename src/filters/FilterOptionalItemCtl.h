@@ -38,7 +38,7 @@ class FilterOptionalItemCtl : public CardPage {
   struct Column;
   static const std::array<Column, kFilterItems> kColumns;
 
-  void BuildHeads(QGridLayout& cells);
+  void BuildHeaders(QGridLayout& cells);
   void BuildRow(int row, QGridLayout& cells);
   TextField* BuildField(const Column& column, int row);
   void Store(const Column& column, int row);

@@ -76,21 +76,21 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterIte
 }
 
 QWidget* FilterOptionalQubeCtl::BuildName() {
-  auto* ground = new QWidget(frm2);
-  Label1 = Named(new QLabel(QStringLiteral("Name"), ground), "Label1");
-  TextName = Named(new TextField(ground), "TextName");
+  auto* panel = new QWidget(frm2);
+  Label1 = Named(new QLabel(QStringLiteral("Name"), panel), "Label1");
+  TextName = Named(new TextField(panel), "TextName");
   TextName->SetLimit(static_cast<int>(kOptionNameLength));
   TextName->SetWidthFor(kNameWidthCharacters);
   TextName->SetMark(ToQString(kUnnamedMark), TextField::LeftBlank::StaysBlank);
   connect(TextName, &TextField::committed, this, &FilterOptionalQubeCtl::Store);
   Label1->setBuddy(TextName);
-  auto* row = new QHBoxLayout(ground);
+  auto* row = new QHBoxLayout(panel);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenGroups);
   row->addWidget(Label1);
   row->addWidget(TextName);
   row->addStretch();
-  return ground;
+  return panel;
 }
 
 void FilterOptionalQubeCtl::BuildList(const Item& item, int column, QGridLayout& cells) {

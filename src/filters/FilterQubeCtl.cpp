@@ -13,8 +13,8 @@
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/TurretDrawing.h"
+#include "widgets/ValueBox.h"
 #include "widgets/ValueLabel.h"
-#include "widgets/ValuePlate.h"
 
 namespace mortane {
 namespace {
@@ -77,7 +77,7 @@ FilterQubeCtl::FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidge
   TabPocket->setAccessibleName(QStringLiteral("Address"));
   FrameBase->body()->addWidget(TabPocket);
   FrameBase->body()->addWidget(BuildList(FrameBase), 1);
-  FrameBase->body()->addWidget(BuildPlate(FrameBase));
+  FrameBase->body()->addWidget(BuildValueBox(FrameBase));
 
   connect(TabPocket, &TabStrip::chosen, this, &FilterQubeCtl::ClickTab);
   connect(List1, &ListBox::selectionChanged, this, &FilterQubeCtl::ClickList);
@@ -88,32 +88,32 @@ FilterQubeCtl::FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidge
 }
 
 QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
-  auto* ground = new QWidget(parent);
-  auto* row = new QHBoxLayout(ground);
+  auto* panel = new QWidget(parent);
+  auto* row = new QHBoxLayout(panel);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
-  turret_ = Named(new TurretDrawing(PlaceKind::Cubes, ground), "turret");
-  List1 = Named(new ListBox(ground), "List1");
+  turret_ = Named(new TurretDrawing(PlaceKind::Cubes, panel), "turret");
+  List1 = Named(new ListBox(panel), "List1");
   List1->setAccessibleName(QStringLiteral("Filter Cubes"));
   QVector<ListColumn> columns;
   for (const Value& value : kValues) columns.append({QLatin1String(value.caption)});
   List1->SetColumns(columns);
   row->addWidget(turret_);
   row->addWidget(List1, 1);
-  return ground;
+  return panel;
 }
 
-QFrame* FilterQubeCtl::BuildPlate(QWidget* parent) {
-  auto* plate = new ValuePlate(parent);
-  Frm1 = Named(plate, "Frm1");
+QFrame* FilterQubeCtl::BuildValueBox(QWidget* parent) {
+  auto* values = new ValueBox(parent);
+  Frm1 = Named(values, "Frm1");
   for (const Value& value : kValues) {
-    const ValuePlate::Value added =
-        plate->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
-                        QLatin1String(value.valueName), kCharacters, 1);
+    const ValueBox::Value added =
+        values->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
+                         QLatin1String(value.valueName), kCharacters, 1);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }
-  return plate;
+  return values;
 }
 
 void FilterQubeCtl::showEvent(QShowEvent* event) {

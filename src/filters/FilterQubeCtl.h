@@ -51,7 +51,7 @@ class FilterQubeCtl : public CardPage {
   static const std::array<Value, 4> kValues;
 
   QWidget* BuildList(QWidget* parent);
-  QFrame* BuildPlate(QWidget* parent);
+  QFrame* BuildValueBox(QWidget* parent);
   // The row to select for a mounted code; -1 when there is none.
   int FillList(std::int32_t mounted);
   void AddCube(std::int32_t code);

@@ -15,8 +15,8 @@
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/TurretDrawing.h"
+#include "widgets/ValueBox.h"
 #include "widgets/ValueLabel.h"
-#include "widgets/ValuePlate.h"
 
 namespace mortane {
 namespace {
@@ -86,7 +86,7 @@ ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& object
   TabNosepiece->setAccessibleName(QStringLiteral("Address"));
   FrameBase->body()->addWidget(TabNosepiece);
   FrameBase->body()->addWidget(BuildLists(FrameBase), 1);
-  FrameBase->body()->addWidget(BuildPlate(FrameBase));
+  FrameBase->body()->addWidget(BuildValueBox(FrameBase));
 
   connect(TabNosepiece, &TabStrip::chosen, this, &ObjectiveCtl::ClickTab);
   connect(ListSeries, &ListBox::selectionChanged, this, &ObjectiveCtl::ClickSeries);
@@ -98,15 +98,15 @@ ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& object
 }
 
 QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
-  auto* ground = new QWidget(parent);
-  auto* row = new QHBoxLayout(ground);
+  auto* panel = new QWidget(parent);
+  auto* row = new QHBoxLayout(panel);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
-  turret_ = Named(new TurretDrawing(PlaceKind::Objectives, ground), "turret");
-  ListSeries = Named(new ListBox(ground), "ListSeries");
+  turret_ = Named(new TurretDrawing(PlaceKind::Objectives, panel), "turret");
+  ListSeries = Named(new ListBox(panel), "ListSeries");
   ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
   ListSeries->setFixedWidth(kSeriesWidth);
-  ListItem = Named(new ListBox(ground), "ListItem");
+  ListItem = Named(new ListBox(panel), "ListItem");
   ListItem->setAccessibleName(QStringLiteral("Objectives"));
   ListItem->SetColumns({{QStringLiteral("Type")},
                         {QStringLiteral("Mag."), Qt::AlignRight},
@@ -116,20 +116,20 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
   row->addWidget(turret_);
   row->addWidget(ListSeries);
   row->addWidget(ListItem, 1);
-  return ground;
+  return panel;
 }
 
-QFrame* ObjectiveCtl::BuildPlate(QWidget* parent) {
-  auto* plate = new ValuePlate(parent);
-  Frame1 = Named(plate, "Frame1");
+QFrame* ObjectiveCtl::BuildValueBox(QWidget* parent) {
+  auto* values = new ValueBox(parent);
+  Frame1 = Named(values, "Frame1");
   for (const Value& value : kValues) {
-    const ValuePlate::Value added =
-        plate->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
-                        QLatin1String(value.valueName), value.characters, value.characters);
+    const ValueBox::Value added =
+        values->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
+                         QLatin1String(value.valueName), value.characters, value.characters);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }
-  return plate;
+  return values;
 }
 
 void ObjectiveCtl::showEvent(QShowEvent* event) {

@@ -67,7 +67,7 @@ class ObjectiveCtl : public CardPage {
   };
 
   QWidget* BuildLists(QWidget* parent);
-  QFrame* BuildPlate(QWidget* parent);
+  QFrame* BuildValueBox(QWidget* parent);
   void ShowParts(const QString& row);
   void FillSeries();
   // The row to select for the mounted code; -1 when the series does not list it.

@@ -41,53 +41,53 @@ void ObjectiveOptionCtl::Build() {
 }
 
 QWidget* ObjectiveOptionCtl::BuildName(QWidget* parent) {
-  auto* ground = new QWidget(parent);
-  Label1 = Named(new QLabel(QStringLiteral("Name"), ground), "Label1");
-  TextName = Named(new TextField(ground), "TextName");
+  auto* panel = new QWidget(parent);
+  Label1 = Named(new QLabel(QStringLiteral("Name"), panel), "Label1");
+  TextName = Named(new TextField(panel), "TextName");
   TextName->SetLimit(static_cast<int>(kShownObjectiveNameLength));
   TextName->SetWidthFor(kNameWidthCharacters);
   Label1->setBuddy(TextName);
-  auto* row = new QHBoxLayout(ground);
+  auto* row = new QHBoxLayout(panel);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenGroups);
   row->addWidget(Label1);
   row->addWidget(TextName);
   row->addStretch();
-  return ground;
+  return panel;
 }
 
 QWidget* ObjectiveOptionCtl::BuildLists(QWidget* parent) {
-  auto* ground = new QWidget(parent);
-  auto* cells = new QGridLayout(ground);
+  auto* panel = new QWidget(parent);
+  auto* cells = new QGridLayout(panel);
   cells->setContentsMargins({});
   cells->setHorizontalSpacing(grid::kBetweenColumns);
   cells->setVerticalSpacing(grid::kUnit);
   const auto list = [&](const char* name, int column, int stretch) {
-    auto* made = Named(new ListBox(ground), name);
+    auto* made = Named(new ListBox(panel), name);
     cells->addWidget(made, 2, column);
     cells->setColumnStretch(column, stretch);
     return made;
   };
-  const auto head = [&](const char* name, const char* caption, QWidget* buddy, int column) {
-    QLabel* label = Named(CaptionLabel(QLatin1String(caption), ground), name);
+  const auto header = [&](const char* name, const char* caption, QWidget* buddy, int column) {
+    QLabel* label = Named(CaptionLabel(QLatin1String(caption), panel), name);
     label->setBuddy(buddy);
     buddy->setAccessibleName(label->text());
     cells->addWidget(label, 0, column);
     return label;
   };
   const auto value = [&](const char* name, int column) {
-    auto* shown = Named(new ValueLabel(ground), name);
+    auto* shown = Named(new ValueLabel(panel), name);
     cells->addWidget(shown, 1, column);
     return shown;
   };
   LabelSeries = value("LabelSeries", 0);
   ListSeries = list("ListSeries", 0, 3);
-  Label2 = head("Label2", "Series", ListSeries, 0);
+  Label2 = header("Label2", "Series", ListSeries, 0);
   LabelType = value("LabelType", 1);
   ListType = list("ListType", 1, 2);
-  Label3 = head("Label3", "Type", ListType, 1);
-  MakeNumber(kNumbers[0], ground);
-  Label7 = Named(new QLabel(QStringLiteral("x"), ground), "Label7");
+  Label3 = header("Label3", "Type", ListType, 1);
+  MakeNumber(kNumbers[0], panel);
+  Label7 = Named(new QLabel(QStringLiteral("x"), panel), "Label7");
   auto* magnification = new QHBoxLayout;
   magnification->setSpacing(grid::kBetweenControls);
   magnification->addWidget(TextMag);
@@ -99,9 +99,9 @@ QWidget* ObjectiveOptionCtl::BuildLists(QWidget* parent) {
   cells->addLayout(magnification, 1, 2);
   ListMag = list("ListMag", 2, 2);
   ListMag->setAccessibleName(Label4->text());
-  cells->addWidget(BuildValues(ground), 1, 3, 2, 1);
+  cells->addWidget(BuildValues(panel), 1, 3, 2, 1);
   cells->setColumnStretch(3, 3);
-  return ground;
+  return panel;
 }
 
 void ObjectiveOptionCtl::MakeNumber(const Number& number, QWidget* parent) {

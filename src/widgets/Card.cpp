@@ -36,8 +36,8 @@ QString Card::caption() const {
 
 void Card::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  DrawPlate(painter, rect(), palette().color(QPalette::Active, QPalette::Base),
-            {palette().color(QPalette::Mid), 1, grid::kCardCorner});
+  DrawBox(painter, rect(), palette().color(QPalette::Active, QPalette::Base),
+          {palette().color(QPalette::Mid), 1, grid::kCardCorner});
 }
 
 InnerFrame::InnerFrame(const QString& caption, QWidget* parent) : QFrame(parent) {
@@ -57,9 +57,9 @@ void InnerFrame::paintEvent(QPaintEvent*) {
   // While the window as a whole is disabled the frame keeps its fill: only what is not fitted
   // loses it.
   const bool fitted = isEnabledTo(window());
-  DrawPlate(painter, rect(),
-            fitted ? palette().color(QPalette::AlternateBase) : QColor(Qt::transparent),
-            {palette().color(QPalette::Mid), 1, grid::kInnerCorner, !fitted});
+  DrawBox(painter, rect(),
+          fitted ? palette().color(QPalette::AlternateBase) : QColor(Qt::transparent),
+          {palette().color(QPalette::Mid), 1, grid::kInnerCorner, !fitted});
 }
 
 void InnerFrame::changeEvent(QEvent* event) {

@@ -9,7 +9,8 @@ class QVBoxLayout;
 
 namespace mortane {
 
-// A light sheet on the window's ground, its caption as the first line. Children go into body().
+// A light sheet on the background of the window, its caption as the first line. Children go into
+// body().
 class Card : public QFrame {
   Q_OBJECT
 

@@ -72,7 +72,7 @@ void CheckToggle::paintEvent(QPaintEvent*) {
     fill = QColor();
     knob = palette().color(QPalette::Mid);
   }
-  DrawPlate(painter, track, fill, {line, 1.2, kTrackHeight / 2.0, !fitted});
+  DrawBox(painter, track, fill, {line, 1.2, kTrackHeight / 2.0, !fitted});
   const double side = kTrackHeight - 2 * kKnobInset - (on && fitted ? 0 : 1);
   const double x = on ? track.right() - kKnobInset - side : track.left() + kKnobInset;
   painter.setPen(Qt::NoPen);
@@ -83,7 +83,7 @@ void CheckToggle::paintEvent(QPaintEvent*) {
   painter.drawText(QRectF(track.right() + kGap, 0, width() - track.right() - kGap, height()),
                    Qt::AlignLeft | Qt::AlignVCenter, text());
   if (hasFocus())
-    DrawPlate(painter, rect(), {}, {palette().color(QPalette::Highlight), 2, grid::kFieldCorner});
+    DrawBox(painter, rect(), {}, {palette().color(QPalette::Highlight), 2, grid::kFieldCorner});
 }
 
 }  // namespace mortane

@@ -113,26 +113,26 @@ void CommandKey::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const Look look = CurrentLook();
   const bool sunk = isPressedLook() && isEnabled();
-  QRectF plate = QRectF(rect()).adjusted(0, 0, 0, -kLip);
-  if (sunk) plate.translate(0, kLip);
+  QRectF box = QRectF(rect()).adjusted(0, 0, 0, -kLip);
+  if (sunk) box.translate(0, kLip);
   if (look.lip) {
     const QColor lip = main_ ? look.fill.darker(140) : palette().color(QPalette::Mid);
-    DrawPlate(painter, plate.translated(0, kLip), lip, {{}, 0, grid::kKeyCorner});
+    DrawBox(painter, box.translated(0, kLip), lip, {{}, 0, grid::kKeyCorner});
   }
-  DrawPlate(painter, plate, look.fill, {look.line, 1, grid::kKeyCorner});
+  DrawBox(painter, box, look.fill, {look.line, 1, grid::kKeyCorner});
   if (hasFocus() && isEnabled()) {
     const bool onDark = main_ || sunk;
     const QColor line = palette().color(onDark ? QPalette::BrightText : QPalette::Highlight);
-    DrawPlate(painter, onDark ? plate.adjusted(2, 2, -2, -2) : plate, {},
-              {line, 2, onDark ? grid::kKeyCorner - 2 : grid::kKeyCorner});
+    DrawBox(painter, onDark ? box.adjusted(2, 2, -2, -2) : box, {},
+            {line, 2, onDark ? grid::kKeyCorner - 2 : grid::kKeyCorner});
   }
   const int textWidth = fontMetrics().horizontalAdvance(text());
-  const double left = plate.left() + (plate.width() - kIconSize - kIconGap - textWidth) / 2;
+  const double left = box.left() + (box.width() - kIconSize - kIconGap - textWidth) / 2;
   DrawIcon(painter, icon_,
-           QRectF(qRound(left), qRound(plate.center().y() - kIconSize / 2.0), kIconSize, kIconSize),
+           QRectF(qRound(left), qRound(box.center().y() - kIconSize / 2.0), kIconSize, kIconSize),
            {look.icon, look.accent});
   painter.setPen(look.text);
-  painter.drawText(QRectF(left + kIconSize + kIconGap, plate.top(), textWidth + 2, plate.height()),
+  painter.drawText(QRectF(left + kIconSize + kIconGap, box.top(), textWidth + 2, box.height()),
                    Qt::AlignLeft | Qt::AlignVCenter, text());
 }
 

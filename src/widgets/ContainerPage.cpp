@@ -17,10 +17,10 @@ ContainerPage::ContainerPage(IconName icon, const QString& title, int sectionSta
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setWidgetResizable(true);
   scroll->setFocusPolicy(Qt::NoFocus);
-  auto* ground = new QWidget;
-  stack_ = new QVBoxLayout(ground);
+  auto* panel = new QWidget;
+  stack_ = new QVBoxLayout(panel);
   stack_->setContentsMargins(0, 0, 0, 0);
-  scroll->setWidget(ground);
+  scroll->setWidget(panel);
   column->addWidget(scroll, 1);
 }
 

@@ -54,14 +54,14 @@ void ListBox::SetColumns(const QVector<ListColumn>& columns) {
   columns_ = columns;
   const int count = static_cast<int>(columns.size());
   setColumnCount(count);
-  QStringList heads;
+  QStringList headers;
   bool named = false;
   for (int i = 0; i < count; ++i) {
-    heads.append(columns[i].header);
+    headers.append(columns[i].header);
     named = named || !columns[i].header.isEmpty();
     headerItem()->setTextAlignment(i, columns[i].alignment | Qt::AlignVCenter);
   }
-  setHeaderLabels(heads);
+  setHeaderLabels(headers);
   setHeaderHidden(!named);
   header()->setFont(CaptionFont());
   header()->setStretchLastSection(true);

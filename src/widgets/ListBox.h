@@ -23,7 +23,7 @@ class ListBox : public QTreeWidget {
  public:
   explicit ListBox(QWidget* parent = nullptr);
 
-  // Columns before rows. Heads are shown if one of them has a text; the last column stretches.
+  // Columns before rows. Headers are shown if one of them has a text; the last column stretches.
   void SetColumns(const QVector<ListColumn>& columns);
   // Columns after the first begin no further left than these stops, which are given in dialog
   // units: quarters of a character's average width.

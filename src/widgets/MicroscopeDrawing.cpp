@@ -57,7 +57,7 @@ constexpr std::array kInks{
     Ink{"#5db1e6", Tone::RingBlue},     Ink{"#ffdf66", Tone::LightCone},
 };
 
-// The drawing in the colours of the scheme. White and the dark plate come from the palette.
+// The drawing in the colours of the scheme. White and the dark parts come from the palette.
 QByteArray InkedDrawing(const QPalette& palette) {
   QFile source(QStringLiteral(":/mortane/microscope.svg"));
   if (!source.open(QIODevice::ReadOnly)) return {};
@@ -83,10 +83,10 @@ double ExtraOnSide(const QVector<DrawnAccessory>& accessories, Side side, double
 }
 
 void DrawDot(QPainter& painter, QPointF at, int mounted, const QPalette& palette) {
-  const QColor ground = palette.color(QPalette::Base);
+  const QColor background = palette.color(QPalette::Base);
   const QColor mark = palette.color(QPalette::Active, QPalette::Highlight);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(ground);
+  painter.setBrush(background);
   painter.drawEllipse(at, kDotRadius + 1.6, kDotRadius + 1.6);
   if (mounted == 0) {
     QPen dashed(palette.color(QPalette::Disabled, QPalette::Text), 1.1);

@@ -67,7 +67,7 @@ void PageButton::keyReleaseEvent(QKeyEvent* event) {
   event->ignore();
 }
 
-QColor PageButton::Ground() const {
+QColor PageButton::Background() const {
   if (selected_) return ToneColor(Tone::RailSelected);
   return ToneColor(isEnabled() && underMouse() ? Tone::RailHover : Tone::Rail);
 }
@@ -79,7 +79,7 @@ QColor PageButton::Foreground() const {
 
 void PageButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), Ground());
+  painter.fillRect(rect(), Background());
   if (selected_) painter.fillRect(0, 0, kBarWidth, height(), ToneColor(Tone::Amber));
   const QColor foreground = Foreground();
   const QRectF iconArea((width() - kIconSize) / 2.0, kIconTop, kIconSize, kIconSize);
@@ -91,10 +91,10 @@ void PageButton::paintEvent(QPaintEvent*) {
                    Qt::AlignHCenter | Qt::AlignVCenter, text());
   if (pending_ && isEnabled())
     DrawPendingDot(painter, {iconArea.right() + 4, iconArea.top() + 3},
-                   ToneColor(Tone::RailPending), Ground());
+                   ToneColor(Tone::RailPending), Background());
   if (hasFocus())
-    DrawPlate(painter, QRectF(rect()).adjusted(3, 3, -3, -3), {},
-              {palette().color(QPalette::BrightText), 2, grid::kFieldCorner});
+    DrawBox(painter, QRectF(rect()).adjusted(3, 3, -3, -3), {},
+            {palette().color(QPalette::BrightText), 2, grid::kFieldCorner});
 }
 
 }  // namespace mortane

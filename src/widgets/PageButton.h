@@ -32,7 +32,7 @@ class PageButton : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  [[nodiscard]] QColor Ground() const;
+  [[nodiscard]] QColor Background() const;
   [[nodiscard]] QColor Foreground() const;
 
   IconName icon_;

@@ -15,7 +15,7 @@ QPen RoundPen(const QColor& line, double width) {
 
 }  // namespace
 
-void DrawPlate(QPainter& painter, const QRectF& area, const QColor& fill, const Outline& outline) {
+void DrawBox(QPainter& painter, const QRectF& area, const QColor& fill, const Outline& outline) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
@@ -55,11 +55,12 @@ void DrawTick(QPainter& painter, const QRectF& area, const QColor& line) {
   painter.restore();
 }
 
-void DrawPendingDot(QPainter& painter, QPointF center, const QColor& fill, const QColor& ground) {
+void DrawPendingDot(QPainter& painter, QPointF center, const QColor& fill,
+                    const QColor& background) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(ground);
+  painter.setBrush(background);
   painter.drawEllipse(center, kPendingDiameter / 2 + 1.5, kPendingDiameter / 2 + 1.5);
   painter.setBrush(fill);
   painter.drawEllipse(center, kPendingDiameter / 2, kPendingDiameter / 2);

@@ -16,7 +16,7 @@ struct Outline {
 };
 
 // A filled rounded rectangle whose line lies wholly inside it, sharp at every scale.
-void DrawPlate(QPainter& painter, const QRectF& area, const QColor& fill, const Outline& outline);
+void DrawBox(QPainter& painter, const QRectF& area, const QColor& fill, const Outline& outline);
 
 // The downward chevron of a combo, standing in the middle of the area.
 void DrawChevronDown(QPainter& painter, const QRectF& area, const QColor& line);
@@ -25,6 +25,7 @@ void DrawChevronDown(QPainter& painter, const QRectF& area, const QColor& line);
 void DrawTick(QPainter& painter, const QRectF& area, const QColor& line);
 
 // The round dot of a pending change.
-void DrawPendingDot(QPainter& painter, QPointF center, const QColor& fill, const QColor& ground);
+void DrawPendingDot(QPainter& painter, QPointF center, const QColor& fill,
+                    const QColor& background);
 
 }  // namespace mortane

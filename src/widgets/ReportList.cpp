@@ -5,16 +5,16 @@
 namespace mortane {
 namespace {
 
-QVector<ListColumn> ColumnsNamed(const QStringList& heads) {
+QVector<ListColumn> ColumnsNamed(const QStringList& headers) {
   QVector<ListColumn> columns;
-  for (const QString& head : heads) columns.append({head, Qt::AlignLeft});
+  for (const QString& header : headers) columns.append({header, Qt::AlignLeft});
   return columns;
 }
 
 }  // namespace
 
-ReportList::ReportList(const QStringList& heads, QWidget* parent) : ListBox(parent) {
-  SetColumns(ColumnsNamed(heads));
+ReportList::ReportList(const QStringList& headers, QWidget* parent) : ListBox(parent) {
+  SetColumns(ColumnsNamed(headers));
 }
 
 QString ReportList::cell(int row, int column) const {

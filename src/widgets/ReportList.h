@@ -9,7 +9,7 @@ class ReportList : public ListBox {
   Q_OBJECT
 
  public:
-  explicit ReportList(const QStringList& heads, QWidget* parent = nullptr);
+  explicit ReportList(const QStringList& headers, QWidget* parent = nullptr);
 
   [[nodiscard]] QString cell(int row, int column) const;
   void SetCell(int row, int column, const QString& text);

@@ -137,7 +137,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_PanelLineEdit: {
       const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
       if (frame != nullptr && frame->lineWidth <= 0) return;
-      return DrawFieldPlate(*option, *painter, widget);
+      return DrawFieldBox(*option, *painter, widget);
     }
     case PE_FrameLineEdit:
       return;
@@ -150,11 +150,11 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_IndicatorRadioButton:
       return DrawRadioIndicator(*option, *painter);
     case PE_PanelButtonCommand:
-      return DrawButtonPlate(*option, *painter, widget);
+      return DrawButtonBox(*option, *painter, widget);
     case PE_PanelButtonTool:
-      return DrawToolButtonPlate(*option, *painter);
+      return DrawToolButtonBox(*option, *painter);
     case PE_PanelItemViewItem:
-      return DrawRowGround(*option, *painter);
+      return DrawRowBackground(*option, *painter);
     case PE_FrameFocusRect:
       if (qobject_cast<const QAbstractItemView*>(widget) != nullptr ||
           (widget != nullptr && widget->inherits("QPushButton")))
@@ -257,7 +257,7 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
 }
 
 void Style::DrawComboBox(const QStyleOptionComplex& option, QPainter& painter) const {
-  DrawFieldPlate(option, painter, nullptr);
+  DrawFieldBox(option, painter, nullptr);
   const QRect arrow = subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, nullptr);
   DrawChevronDown(painter, arrow, option.palette.color(QPalette::Text));
 }
@@ -270,7 +270,7 @@ void Style::DrawScrollBar(const QStyleOptionComplex& option, QPainter& painter,
   const bool held =
       bar->activeSubControls.testFlag(SC_ScrollBarSlider) && bar->state.testFlag(State_MouseOver);
   const QColor fill = option.palette.color(held ? QPalette::Dark : QPalette::Mid);
-  DrawPlate(painter, handle.adjusted(2, 2, -2, -2), fill, {{}, 0, 4});
+  DrawBox(painter, handle.adjusted(2, 2, -2, -2), fill, {{}, 0, 4});
 }
 
 }  // namespace mortane

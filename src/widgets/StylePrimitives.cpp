@@ -34,10 +34,10 @@ bool IsMainButton(const QStyleOption& option, const QWidget* widget) {
 
 }  // namespace
 
-void DrawFieldPlate(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+void DrawFieldBox(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
   if (IsRefused(widget)) {
-    DrawPlate(painter, option.rect, ToneColor(Tone::RefusedGround),
-              {ToneColor(Tone::RefusedLine), 2, grid::kFieldCorner});
+    DrawBox(painter, option.rect, ToneColor(Tone::RefusedBackground),
+            {ToneColor(Tone::RefusedLine), 2, grid::kFieldCorner});
     return;
   }
   const bool readOnly = Has(option, QStyle::State_ReadOnly);
@@ -45,7 +45,7 @@ void DrawFieldPlate(const QStyleOption& option, QPainter& painter, const QWidget
   const QColor fill = option.palette.color(readOnly ? QPalette::AlternateBase : QPalette::Base);
   const QColor line =
       readOnly && !focused ? option.palette.color(QPalette::Mid) : FieldLine(option);
-  DrawPlate(painter, option.rect, fill, {line, focused ? 2.0 : 1.0, grid::kFieldCorner});
+  DrawBox(painter, option.rect, fill, {line, focused ? 2.0 : 1.0, grid::kFieldCorner});
 }
 
 void DrawListFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
@@ -53,7 +53,7 @@ void DrawListFrame(const QStyleOption& option, QPainter& painter, const QWidget*
   if (frame != nullptr && frame->lineWidth <= 0) return;
   const bool focused = widget != nullptr && widget->hasFocus();
   const QColor line = option.palette.color(focused ? QPalette::Highlight : QPalette::Mid);
-  DrawPlate(painter, option.rect, {}, {line, focused ? 2.0 : 1.0, grid::kFieldCorner});
+  DrawBox(painter, option.rect, {}, {line, focused ? 2.0 : 1.0, grid::kFieldCorner});
 }
 
 void DrawCheckBoxIndicator(const QStyleOption& option, QPainter& painter) {
@@ -65,7 +65,7 @@ void DrawCheckBoxIndicator(const QStyleOption& option, QPainter& painter) {
   if (on && enabled) fill = line = palette.color(QPalette::Highlight);
   if (!on && enabled && Has(option, QStyle::State_MouseOver))
     line = palette.color(QPalette::Shadow);
-  DrawPlate(painter, option.rect, fill, {line, enabled && !on ? 1.2 : 1.0, 4, !enabled});
+  DrawBox(painter, option.rect, fill, {line, enabled && !on ? 1.2 : 1.0, 4, !enabled});
   if (on)
     DrawTick(painter, option.rect,
              enabled ? palette.color(QPalette::BrightText) : palette.color(QPalette::Text));
@@ -81,7 +81,7 @@ void DrawRadioIndicator(const QStyleOption& option, QPainter& painter) {
   QColor line = palette.color(enabled ? QPalette::Dark : QPalette::Mid);
   QColor fill = palette.color(QPalette::Base);
   if (on && enabled) fill = line = palette.color(QPalette::Highlight);
-  DrawPlate(painter, circle, fill, {line, 1.2, side / 2, !enabled});
+  DrawBox(painter, circle, fill, {line, 1.2, side / 2, !enabled});
   if (!on) return;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
@@ -91,7 +91,7 @@ void DrawRadioIndicator(const QStyleOption& option, QPainter& painter) {
   painter.restore();
 }
 
-void DrawButtonPlate(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+void DrawButtonBox(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
   const QPalette& palette = option.palette;
   const bool enabled = Has(option, QStyle::State_Enabled);
   const bool main = enabled && IsMainButton(option, widget);
@@ -106,33 +106,32 @@ void DrawButtonPlate(const QStyleOption& option, QPainter& painter, const QWidge
     else
       line = palette.color(QPalette::Dark);
   }
-  DrawPlate(painter, option.rect, fill, {line, 1, grid::kFieldCorner});
+  DrawBox(painter, option.rect, fill, {line, 1, grid::kFieldCorner});
   if (!Has(option, QStyle::State_HasFocus)) return;
   if (main)
-    DrawPlate(painter, QRectF(option.rect).adjusted(2, 2, -2, -2), {},
-              {palette.color(QPalette::BrightText), 1.5, grid::kFieldCorner - 1.5});
+    DrawBox(painter, QRectF(option.rect).adjusted(2, 2, -2, -2), {},
+            {palette.color(QPalette::BrightText), 1.5, grid::kFieldCorner - 1.5});
   else
-    DrawPlate(painter, option.rect, {},
-              {palette.color(QPalette::Highlight), 2, grid::kFieldCorner});
+    DrawBox(painter, option.rect, {}, {palette.color(QPalette::Highlight), 2, grid::kFieldCorner});
 }
 
-void DrawRowGround(const QStyleOption& option, QPainter& painter) {
+void DrawRowBackground(const QStyleOption& option, QPainter& painter) {
   if (Has(option, QStyle::State_Selected))
     painter.fillRect(option.rect, option.palette.color(QPalette::Highlight));
 }
 
 void DrawFocusLine(const QStyleOption& option, QPainter& painter) {
-  DrawPlate(painter, option.rect, {},
-            {option.palette.color(QPalette::Highlight), 2, grid::kFieldCorner});
+  DrawBox(painter, option.rect, {},
+          {option.palette.color(QPalette::Highlight), 2, grid::kFieldCorner});
 }
 
-void DrawToolButtonPlate(const QStyleOption& option, QPainter& painter) {
+void DrawToolButtonBox(const QStyleOption& option, QPainter& painter) {
   const bool enabled = Has(option, QStyle::State_Enabled);
   const bool pressed = Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On);
   const bool hover = Has(option, QStyle::State_MouseOver);
   if (enabled && (pressed || hover)) {
     const QColor fill = option.palette.color(pressed ? QPalette::Mid : QPalette::Button);
-    DrawPlate(painter, option.rect, fill, {{}, 0, grid::kFieldCorner});
+    DrawBox(painter, option.rect, fill, {{}, 0, grid::kFieldCorner});
   }
   if (Has(option, QStyle::State_HasFocus)) DrawFocusLine(option, painter);
 }
@@ -147,8 +146,8 @@ void DrawMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter) {
   painter.fillRect(option.rect, option.palette.color(QPalette::Window));
   const bool active = Has(option, QStyle::State_Selected) && Has(option, QStyle::State_Enabled);
   if (active)
-    DrawPlate(painter, QRectF(option.rect).adjusted(2, 2, -2, -2),
-              option.palette.color(QPalette::Highlight), {{}, 0, grid::kFieldCorner});
+    DrawBox(painter, QRectF(option.rect).adjusted(2, 2, -2, -2),
+            option.palette.color(QPalette::Highlight), {{}, 0, grid::kFieldCorner});
   painter.setPen(option.palette.color(active ? QPalette::HighlightedText : QPalette::ButtonText));
   painter.drawText(option.rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
                    option.text);

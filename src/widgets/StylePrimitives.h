@@ -1,4 +1,4 @@
-// The plates, frames and indicators that Style draws.
+// The boxes, frames and indicators that Style draws.
 #pragma once
 
 #include <QRect>
@@ -12,20 +12,20 @@ class QWidget;
 
 namespace mortane {
 
-void DrawFieldPlate(const QStyleOption& option, QPainter& painter, const QWidget* widget);
+void DrawFieldBox(const QStyleOption& option, QPainter& painter, const QWidget* widget);
 void DrawListFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget);
 void DrawCheckBoxIndicator(const QStyleOption& option, QPainter& painter);
 void DrawRadioIndicator(const QStyleOption& option, QPainter& painter);
-void DrawButtonPlate(const QStyleOption& option, QPainter& painter, const QWidget* widget);
-void DrawRowGround(const QStyleOption& option, QPainter& painter);
+void DrawButtonBox(const QStyleOption& option, QPainter& painter, const QWidget* widget);
+void DrawRowBackground(const QStyleOption& option, QPainter& painter);
 void DrawFocusLine(const QStyleOption& option, QPainter& painter);
-void DrawToolButtonPlate(const QStyleOption& option, QPainter& painter);
+void DrawToolButtonBox(const QStyleOption& option, QPainter& painter);
 inline constexpr int kScrollBarLeastHandle = 28;
 // A bar without end buttons: the handle may use its whole length.
 QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
 void DrawHeaderSection(const QStyleOption& option, QPainter& painter);
 void DrawMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter);
-// Tool bar and status bar: the window's ground with a line towards the middle of the window.
+// Tool bar and status bar: the window's background with a line towards the middle of the window.
 void DrawBar(const QStyleOption& option, QPainter& painter, Qt::Edge line);
 
 }  // namespace mortane

@@ -96,8 +96,8 @@ void TabStrip::paintEvent(QPaintEvent*) {
       painter.fillRect(QRect(area.left(), area.bottom() - kUnderline + 1, area.width(), kUnderline),
                        palette().color(QPalette::Highlight));
     if (chosen && hasFocus())
-      DrawPlate(painter, QRectF(area).adjusted(1, 1, -1, -kUnderline - 2), {},
-                {palette().color(QPalette::Highlight), 2, grid::kFieldCorner});
+      DrawBox(painter, QRectF(area).adjusted(1, 1, -1, -kUnderline - 2), {},
+              {palette().color(QPalette::Highlight), 2, grid::kFieldCorner});
   }
 }
 

@@ -70,7 +70,7 @@ constexpr std::array<ToneRow, kToneCount> kTones{{
     {Tone::RailSelected, 0xFF263367, 0xFF22306A}, {Tone::RailText, 0xFFF2F4F8, 0xFFF2F4F8},
     {Tone::RailResting, 0xFFA9B4D0, 0xFF98A5C6},  {Tone::RailDisabled, 0xFF4D5878, 0xFF465170},
     {Tone::RailAccent, 0xFF8FB6F7, 0xFF8FB6F7},   {Tone::RailPending, 0xFF8FB6F7, 0xFF8FB6F7},
-    {Tone::RefusedLine, 0xFFB3261E, 0xFFFF8F84},  {Tone::RefusedGround, 0xFFFDF0EE, 0xFF35191A},
+    {Tone::RefusedLine, 0xFFB3261E, 0xFFFF8F84},  {Tone::RefusedBackground, 0xFFFDF0EE, 0xFF35191A},
     {Tone::DrawingLine, 0xFF33415C, 0xFFA7B4CC},  {Tone::DrawingFill, 0xFFE9EDF3, 0xFF262D3A},
     {Tone::DrawingShade, 0xFFD5DCE6, 0xFF323B4B}, {Tone::DrawingDeep, 0xFFBFC9D6, 0xFF434E62},
     {Tone::HelpLine, 0xFFE8EEF8, 0xFF1B2740},     {Tone::IconAccent, 0xFF25519C, 0xFF8FB6F7},

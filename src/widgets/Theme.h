@@ -26,7 +26,7 @@ enum class Tone {
   RailAccent,
   RailPending,
   RefusedLine,
-  RefusedGround,
+  RefusedBackground,
   DrawingLine,
   DrawingFill,
   DrawingShade,
@@ -57,7 +57,7 @@ QFont TitleFont();         // 1.5, semibold
 QFont FrameCaptionFont();  // 1.0, semibold
 QFont BoldFont();          // 1.0, bold: what is chosen
 QFont RailFont();          // 0.94, semibold
-QFont CaptionFont();       // 0.92: captions over values, column heads
+QFont CaptionFont();       // 0.92: captions over values, column headers
 QFont MarkFont();          // 0.86, bold: numbers on marks
 QFont FixedFont();         // values that came out of a list or the controller
 

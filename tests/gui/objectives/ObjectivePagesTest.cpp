@@ -98,9 +98,9 @@ TEST(ObjectivePages, TheSelectedOptionAloneIsAmber) {
   page.optSettings[0]->setFocus();
   for (std::size_t i = 0; i < page.optSettings.size(); ++i) {
     QAbstractButton& option = *page.optSettings[i];
-    const QColor ground = option.grab().toImage().pixelColor(8, option.height() / 2);
-    EXPECT_EQ(ground == QColor(255, 204, 0), i == 2) << i;
-    EXPECT_EQ(ground == option.palette().color(QPalette::Button), i != 2) << i;
+    const QColor background = option.grab().toImage().pixelColor(8, option.height() / 2);
+    EXPECT_EQ(background == QColor(255, 204, 0), i == 2) << i;
+    EXPECT_EQ(background == option.palette().color(QPalette::Button), i != 2) << i;
   }
 }
 

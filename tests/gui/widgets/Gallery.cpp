@@ -288,9 +288,9 @@ class SystemPage : public QWidget {
                              {10, "Optical Zoom Sensor", 0},
                              {14, "XY Stage Control", 2},
                              {12, "Z Focus Drive Control", 2}});
-    auto* ground = new InnerFrame;
-    ground->body()->addWidget(drawing);
-    side->addWidget(ground, 1);
+    auto* frame = new InnerFrame;
+    frame->body()->addWidget(drawing);
+    side->addWidget(frame, 1);
     column->addWidget(bottom, 1);
   }
 };

@@ -17,7 +17,7 @@ class ReportListTest : public ::testing::Test {
   ReportList* list = nullptr;
 };
 
-TEST_F(ReportListTest, ShowsItsHeads) {
+TEST_F(ReportListTest, ShowsItsHeaders) {
   EXPECT_FALSE(list->isHeaderHidden());
   EXPECT_EQ(list->headerItem()->text(0), "Switch");
   EXPECT_EQ(list->headerItem()->text(1), "Function");

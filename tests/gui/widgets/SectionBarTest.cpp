@@ -18,7 +18,7 @@ class SectionBarTest : public ::testing::Test {
     window.Show();
   }
 
-  QColor GroundOf(int index) {
+  QColor BackgroundOf(int index) {
     const QImage picture = bar->option(index)->grab().toImage();
     return picture.pixelColor(12, 5);
   }
@@ -40,9 +40,9 @@ TEST_F(SectionBarTest, ProgramRaisesAClickForANewSelectionOnlyAndAUserAlways) {
 
 TEST_F(SectionBarTest, TheChosenOptionIsAmberAndTheOthersAreNot) {
   bar->select(1);
-  EXPECT_EQ(GroundOf(1), ToneColor(Tone::Amber));
-  EXPECT_EQ(GroundOf(0), bar->palette().color(QPalette::Button));
-  EXPECT_EQ(GroundOf(2), bar->palette().color(QPalette::Button));
+  EXPECT_EQ(BackgroundOf(1), ToneColor(Tone::Amber));
+  EXPECT_EQ(BackgroundOf(0), bar->palette().color(QPalette::Button));
+  EXPECT_EQ(BackgroundOf(2), bar->palette().color(QPalette::Button));
 }
 
 TEST_F(SectionBarTest, ADisabledOptionCannotBeChosen) {

@@ -34,28 +34,29 @@ class ThemeIn : public ::testing::TestWithParam<Scheme> {
   void TearDown() override { ApplyTheme(Application(), Scheme::Light); }
 };
 
-TEST_P(ThemeIn, TextCanBeReadOnEveryGround) {
+TEST_P(ThemeIn, TextCanBeReadOnEveryBackground) {
   const QPalette palette = QApplication::palette();
-  for (const auto ground :
+  for (const auto background :
        {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button})
-    EXPECT_GE(Contrast(palette.color(QPalette::Text), palette.color(ground)), 4.5) << ground;
-  for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::AlternateBase})
-    EXPECT_GE(Contrast(palette.color(QPalette::PlaceholderText), palette.color(ground)), 4.5)
-        << ground;
+    EXPECT_GE(Contrast(palette.color(QPalette::Text), palette.color(background)), 4.5)
+        << background;
+  for (const auto background : {QPalette::Window, QPalette::Base, QPalette::AlternateBase})
+    EXPECT_GE(Contrast(palette.color(QPalette::PlaceholderText), palette.color(background)), 4.5)
+        << background;
   EXPECT_GE(Contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)),
             4.5);
   EXPECT_GE(Contrast(ToneColor(Tone::OnAmber), ToneColor(Tone::Amber)), 4.5);
-  for (const auto ground : {Tone::Rail, Tone::RailHover, Tone::RailSelected})
-    EXPECT_GE(Contrast(ToneColor(Tone::RailText), ToneColor(ground)), 4.5);
+  for (const auto background : {Tone::Rail, Tone::RailHover, Tone::RailSelected})
+    EXPECT_GE(Contrast(ToneColor(Tone::RailText), ToneColor(background)), 4.5);
   EXPECT_GE(Contrast(ToneColor(Tone::RailResting), ToneColor(Tone::Rail)), 4.5);
-  EXPECT_GE(Contrast(palette.color(QPalette::Text), ToneColor(Tone::RefusedGround)), 4.5);
+  EXPECT_GE(Contrast(palette.color(QPalette::Text), ToneColor(Tone::RefusedBackground)), 4.5);
 }
 
 TEST_P(ThemeIn, LinesOfFieldsAndFocusStandOut) {
   const QPalette palette = QApplication::palette();
   EXPECT_GE(Contrast(palette.color(QPalette::Dark), palette.color(QPalette::Base)), 3.0);
   EXPECT_GE(Contrast(palette.color(QPalette::Highlight), palette.color(QPalette::Base)), 3.0);
-  EXPECT_GE(Contrast(ToneColor(Tone::RefusedLine), ToneColor(Tone::RefusedGround)), 3.0);
+  EXPECT_GE(Contrast(ToneColor(Tone::RefusedLine), ToneColor(Tone::RefusedBackground)), 3.0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Schemes, ThemeIn, ::testing::Values(Scheme::Light, Scheme::Dark),

@@ -1,4 +1,4 @@
-#include "widgets/ValuePlate.h"
+#include "widgets/ValueBox.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -8,14 +8,14 @@
 
 namespace mortane {
 
-ValuePlate::ValuePlate(QWidget* parent) : InnerFrame({}, parent), cells_(new QGridLayout) {
+ValueBox::ValueBox(QWidget* parent) : InnerFrame({}, parent), cells_(new QGridLayout) {
   cells_->setHorizontalSpacing(grid::kBetweenColumns);
   cells_->setVerticalSpacing(grid::kUnit);
   body()->addLayout(cells_);
 }
 
-ValuePlate::Value ValuePlate::AddValue(const QString& caption, const QString& captionName,
-                                       const QString& valueName, int characters, int stretch) {
+ValueBox::Value ValueBox::AddValue(const QString& caption, const QString& captionName,
+                                   const QString& valueName, int characters, int stretch) {
   const int column = cells_->count() / 2;
   const Value added{CaptionLabel(caption, this), new ValueLabel(this)};
   added.caption->setObjectName(captionName);

@@ -10,7 +10,7 @@ namespace mortane {
 
 class ValueLabel;
 
-class ValuePlate : public InnerFrame {
+class ValueBox : public InnerFrame {
  public:
   // The two labels of one value, with their object names.
   struct Value {
@@ -18,7 +18,7 @@ class ValuePlate : public InnerFrame {
     ValueLabel* value;
   };
 
-  explicit ValuePlate(QWidget* parent = nullptr);
+  explicit ValueBox(QWidget* parent = nullptr);
 
   // Adds a column that asks for room for that many characters and takes `stretch` shares of what
   // is left over.
