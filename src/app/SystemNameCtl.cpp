@@ -12,6 +12,7 @@
 #include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/MicroscopeDrawing.h"
+#include "widgets/Named.h"
 #include "widgets/TextField.h"
 
 namespace mortane {
@@ -41,7 +42,7 @@ QFont ReportFont() {
 
 SystemNameCtl::SystemNameCtl(clsK70& k70, QWidget* parent)
     : Page(parent),
-      FrameBase(new QFrame(this)),
+      FrameBase(Named(new QFrame(this), "FrameBase")),
       Frame1(nullptr),
       Label1(nullptr),
       TextSystemName(nullptr),
@@ -49,7 +50,6 @@ SystemNameCtl::SystemNameCtl(clsK70& k70, QWidget* parent)
       k70_(k70),
       drawing_(nullptr),
       drawingFrame_(nullptr) {
-  FrameBase->setObjectName("FrameBase");
   auto* panel = new QVBoxLayout(this);
   panel->setContentsMargins({});
   panel->addWidget(FrameBase);
@@ -63,13 +63,10 @@ SystemNameCtl::SystemNameCtl(clsK70& k70, QWidget* parent)
 }
 
 QWidget* SystemNameCtl::BuildNameCard() {
-  auto* card = new Card({}, FrameBase);
+  auto* card = Named(new Card({}, FrameBase), "Frame1");
   Frame1 = card;
-  Frame1->setObjectName("Frame1");
-  Label1 = new QLabel(QStringLiteral("System Name:"), Frame1);
-  Label1->setObjectName("Label1");
-  TextSystemName = new TextField(Frame1);
-  TextSystemName->setObjectName("TextSystemName");
+  Label1 = Named(new QLabel(QStringLiteral("System Name:"), Frame1), "Label1");
+  TextSystemName = Named(new TextField(Frame1), "TextSystemName");
   TextSystemName->SetLimit(kNameLength);
   TextSystemName->SetWidthFor(kNameWidthCharacters);
   Label1->setBuddy(TextSystemName);
@@ -85,8 +82,7 @@ QWidget* SystemNameCtl::BuildNameCard() {
 
 QWidget* SystemNameCtl::BuildReportCard() {
   auto* card = new Card({}, FrameBase);
-  TextAccessories = new QPlainTextEdit(card);
-  TextAccessories->setObjectName("TextAccessories");
+  TextAccessories = Named(new QPlainTextEdit(card), "TextAccessories");
   TextAccessories->setAccessibleName(QStringLiteral("Accessories"));
   TextAccessories->setReadOnly(true);
   TextAccessories->setTabChangesFocus(true);

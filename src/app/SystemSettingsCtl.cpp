@@ -3,16 +3,15 @@
 #include <QVBoxLayout>
 
 #include "app/SystemNameCtl.h"
+#include "widgets/Named.h"
 #include "widgets/PageHeader.h"
 
 namespace mortane {
 
 SystemSettingsCtl::SystemSettingsCtl(clsK70& k70, QWidget* parent)
     : Page(parent),
-      Header(new PageHeader(IconName::System, QStringLiteral("System"), this)),
-      SystemNameCtl1(new SystemNameCtl(k70, this)) {
-  Header->setObjectName("Header");
-  SystemNameCtl1->setObjectName("SystemNameCtl1");
+      Header(Named(new PageHeader(IconName::System, QStringLiteral("System"), this), "Header")),
+      SystemNameCtl1(Named(new SystemNameCtl(k70, this), "SystemNameCtl1")) {
   MakePageLayout(this, Header)->addWidget(SystemNameCtl1, 1);
 }
 

@@ -10,24 +10,17 @@ class CondenserOptionCtl;
 class clsCondenser;
 class clsDbCondenser;
 
-// The cassette can be seen only where a condenser is mounted; the user's names always.
+// Opens on the cassette where a condenser is mounted, otherwise on the user's names.
 class CondenserSettingsCtl : public ContainerPage {
+  Q_OBJECT
+
  public:
   CondenserSettingsCtl(clsCondenser& cassette, clsDbCondenser& condensers,
                        QWidget* parent = nullptr);
 
-  void LoadData() override;
-  void SaveData() override;
-
-  PageHeader* Header;
   SectionBar* optCondenserSetting;
   CondenserCassetteCtl* CondenserCassetteCtl1;
   CondenserOptionCtl* CondenserOptionCtl1;
-
- private:
-  bool HasCondenser() const;
-
-  clsCondenser& cassette_;
 };
 
 }  // namespace mortane

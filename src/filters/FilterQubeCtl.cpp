@@ -108,8 +108,7 @@ QFrame* FilterQubeCtl::BuildValueBox(QWidget* parent) {
   Frm1 = Named(values, "Frm1");
   for (const Value& value : kValues) {
     const ValueBox::Value added =
-        values->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
-                         QLatin1String(value.valueName), kCharacters, 1);
+        values->AddValue(value.caption, value.labelName, value.valueName, kCharacters, 1);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }

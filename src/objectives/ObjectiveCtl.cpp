@@ -123,9 +123,8 @@ QFrame* ObjectiveCtl::BuildValueBox(QWidget* parent) {
   auto* values = new ValueBox(parent);
   Frame1 = Named(values, "Frame1");
   for (const Value& value : kValues) {
-    const ValueBox::Value added =
-        values->AddValue(QLatin1String(value.caption), QLatin1String(value.labelName),
-                         QLatin1String(value.valueName), value.characters, value.characters);
+    const ValueBox::Value added = values->AddValue(value.caption, value.labelName, value.valueName,
+                                                   value.characters, value.characters);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }

@@ -104,8 +104,7 @@ void ObjectiveLimitCtl::AddRule(const Rule& rule) {
   row->setSpacing(grid::kBetweenColumns);
   for (const char* text : rule.options) {
     if (text == nullptr) continue;
-    QRadioButton* option =
-        group->addOption(QLatin1String(text), QLatin1String(rule.arrayName), frame);
+    QRadioButton* option = group->addOption(QLatin1String(text), rule.arrayName, frame);
     option->setMinimumWidth(kOptionColumn);
     row->addWidget(option);
   }

@@ -127,11 +127,9 @@ QFrame* ObjectiveOptionCtl::BuildValues(QWidget* parent) {
   }
   fields->setColumnStretch(2, 1);
   frame->body()->addLayout(fields);
-  auto* condenser = new InnerFrame(QStringLiteral("Adoptive"), frame);
+  auto* condenser = Named(new InnerFrame(QStringLiteral("Adoptive"), frame), "FrmCondenser");
   FrmCondenser = condenser;
-  FrmCondenser->setObjectName("FrmCondenser");
-  Label8 = CaptionLabel(QStringLiteral("DIC / Ph Condenser"), condenser);
-  Label8->setObjectName("Label8");
+  Label8 = Named(CaptionLabel(QStringLiteral("DIC / Ph Condenser"), condenser), "Label8");
   ComboCondenser = Named(new ComboBox(condenser), "ComboCondenser");
   ComboCondenser->setAccessibleName(Label8->text());
   Label8->setBuddy(ComboCondenser);

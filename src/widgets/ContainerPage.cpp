@@ -2,17 +2,23 @@
 
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
 
+#include "widgets/Named.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 
 namespace mortane {
 
-ContainerPage::ContainerPage(IconName icon, const QString& title, int sectionStart, QWidget* parent)
-    : Page(parent), header_(new PageHeader(icon, title, this)) {
-  header_->AddSectionBar(sectionStart);
-  connect(sections(), &SectionBar::selectionChanged, this, &ContainerPage::ShowSubPage);
-  QVBoxLayout* column = MakePageLayout(this, header_);
+ContainerPage::ContainerPage(IconName icon, const QString& title, const char* arrayName,
+                             QWidget* parent, NotOffered notOffered)
+    : Page(parent),
+      Header(Named(new PageHeader(icon, title, this), "Header")),
+      notOffered_(notOffered) {
+  Header->AddSectionBar(arrayName);
+  connect(sections(), &SectionBar::selectionChanged, this, &ContainerPage::Open);
+  QVBoxLayout* column = MakePageLayout(this, Header);
   auto* scroll = new QScrollArea(this);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setWidgetResizable(true);
@@ -24,28 +30,78 @@ ContainerPage::ContainerPage(IconName icon, const QString& title, int sectionSta
   column->addWidget(scroll, 1);
 }
 
-int ContainerPage::AddSubPage(const QString& caption, Page* page) {
-  // The option comes first, so that the Tab key reaches it before the sub-page.
-  const int index = sections()->AddOption(caption);
-  page->hide();
-  stack_->addWidget(page);
-  subPages_.append(page);
-  return index;
+void ContainerPage::SetSections(std::vector<Section> sections, std::vector<int> loaded) {
+  sections_ = std::move(sections);
+  loaded_ = std::move(loaded);
+  offered_.assign(sections_.size(), true);
+  for (const Section& section : sections_) {
+    // The option comes first, so that the Tab key reaches it before the sub-page.
+    this->sections()->AddOption(section.caption);
+    section.page->hide();
+    stack_->addWidget(Named(section.page, section.name));
+  }
 }
 
-SectionBar* ContainerPage::sections() const {
-  return header_->sectionBar();
+// All sections are asked before a sub-page is loaded, since loading may change the model.
+void ContainerPage::LoadData() {
+  for (int i = 0; i < sections()->count(); ++i) {
+    const bool offered = AskOffered(i);
+    offered_[static_cast<std::size_t>(i)] = offered;
+    if (notOffered_ == NotOffered::Hidden) {
+      sections()->SetOptionVisible(i, offered);
+    } else {
+      sections()->SetOptionEnabled(i, offered);
+    }
+  }
+  for (const int index : loaded_) {
+    if (IsOffered(index)) section(index).page->LoadData();
+  }
+  sections()->select(FirstSection());
+}
+
+void ContainerPage::SaveData() {
+  for (const int index : loaded_) {
+    if (AskOffered(index)) section(index).page->SaveData();
+  }
 }
 
 int ContainerPage::CurrentItem() const {
   return sections()->selected();
 }
 
-void ContainerPage::ShowSubPage(int index) {
+SectionBar* ContainerPage::sections() const {
+  return Header->sectionBar();
+}
+
+int ContainerPage::FirstSection() const {
+  const auto first = std::find(offered_.begin(), offered_.end(), true);
+  return first == offered_.end() ? 0 : static_cast<int>(first - offered_.begin());
+}
+
+bool ContainerPage::IsOffered(int index) const {
+  return offered_[static_cast<std::size_t>(index)];
+}
+
+void ContainerPage::Open(int index) {
   if (shown_ != nullptr) shown_->hide();
-  shown_ = subPages_[index];
-  shown_->LoadData();
+  const Section& opened = section(index);
+  shown_ = opened.page;
+  if (opened.open) {
+    opened.open();
+  } else {
+    shown_->LoadData();
+  }
   shown_->show();
+  emit Change(index);
+}
+
+const Section& ContainerPage::section(int index) const {
+  return sections_[static_cast<std::size_t>(index)];
+}
+
+bool ContainerPage::AskOffered(int index) const {
+  const Section& asked = section(index);
+  return !asked.isOffered || asked.isOffered();
 }
 
 }  // namespace mortane

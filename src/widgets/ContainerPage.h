@@ -1,13 +1,12 @@
 // A page that shows one of several sub-pages under the option buttons of its header.
 #pragma once
 
-#include <QVector>
+#include <functional>
+#include <vector>
 
 #include "widgets/Icons.h"
 #include "widgets/Page.h"
-#include "widgets/Theme.h"
 
-class QScrollArea;
 class QVBoxLayout;
 
 namespace mortane {
@@ -15,31 +14,67 @@ namespace mortane {
 class PageHeader;
 class SectionBar;
 
-// A click on an option hides the sub-page on show, loads the one of that option and shows it: its
-// data comes from the model each time that it is opened. LoadData and SaveData, which differ from
-// area to area, are left to the area's own page.
+// A sub-page and its option.
+struct Section {
+  QString caption;
+  const char* name;  // of the sub-page
+  Page* page;
+  // Whether there is something to show on the connected microscope; always, when empty.
+  std::function<bool()> isOffered = {};
+  // What happens before the sub-page is shown; it is loaded, when empty.
+  std::function<void()> open = {};
+};
+
+// For Section::open: the sub-page keeps what it shows.
+inline void KeepAsLoaded() {}
+
+// A selected section, by the person or the program, hides the sub-page on show, opens its own and
+// shows it. The one on show is opened again by a click of the person alone.
 class ContainerPage : public Page {
   Q_OBJECT
 
  public:
-  ContainerPage(IconName icon, const QString& title, int sectionStart = grid::kSectionStart,
-                QWidget* parent = nullptr);
+  // What becomes of the option of a section that is not offered.
+  enum class NotOffered { Disabled, Hidden };
 
-  // Takes the sub-page over; its option is optSettings_<index>.
-  int AddSubPage(const QString& caption, Page* page);
-  [[nodiscard]] SectionBar* sections() const;
-  [[nodiscard]] PageHeader* header() const { return header_; }
-  [[nodiscard]] Page* subPage(int index) const { return subPages_[index]; }
-  [[nodiscard]] Page* shownSubPage() const { return shown_; }
+  // `arrayName` is that of the options.
+  ContainerPage(IconName icon, const QString& title, const char* arrayName,
+                QWidget* parent = nullptr, NotOffered notOffered = NotOffered::Disabled);
+
+  // Asks which sections are offered, loads the sub-pages of those and selects the first section.
+  void LoadData() override;
+  void SaveData() override;
+
   [[nodiscard]] int CurrentItem() const;  // -1 before the first selection
+  [[nodiscard]] SectionBar* sections() const;
+  [[nodiscard]] Page* shownSubPage() const { return shown_; }
+
+  PageHeader* Header;
+
+ signals:
+  // At the end of every selection, when the sub-page is shown.
+  void Change(int index);
 
  protected:
-  virtual void ShowSubPage(int index);
+  // Takes the sub-pages over, from left to right. LoadData loads, and SaveData saves, those of
+  // `loaded` as far as they are offered, in this order.
+  void SetSections(std::vector<Section> sections, std::vector<int> loaded);
+
+  // The section that LoadData selects: the lowest one that is offered, or else 0.
+  [[nodiscard]] virtual int FirstSection() const;
+  // As LoadData found it.
+  [[nodiscard]] bool IsOffered(int index) const;
 
  private:
-  PageHeader* header_ = nullptr;
+  void Open(int index);
+  [[nodiscard]] const Section& section(int index) const;
+  [[nodiscard]] bool AskOffered(int index) const;
+
+  NotOffered notOffered_;
   QVBoxLayout* stack_ = nullptr;
-  QVector<Page*> subPages_;
+  std::vector<Section> sections_;
+  std::vector<int> loaded_;
+  std::vector<bool> offered_;
   Page* shown_ = nullptr;
 };
 

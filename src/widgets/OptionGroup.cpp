@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "widgets/ClickFocus.h"
+#include "widgets/Named.h"
 
 namespace mortane {
 
@@ -13,10 +14,8 @@ OptionGroup::OptionGroup(QObject* parent) : QObject(parent) {
   connect(&group_, &QButtonGroup::idClicked, this, &OptionGroup::selectionChanged);
 }
 
-QRadioButton* OptionGroup::addOption(const QString& text, const QString& arrayName,
-                                     QWidget* parent) {
-  auto* option = new QRadioButton(text, parent);
-  option->setObjectName(arrayName + QLatin1Char('_') + QString::number(count()));
+QRadioButton* OptionGroup::addOption(const QString& text, const char* arrayName, QWidget* parent) {
+  auto* option = Named(new QRadioButton(text, parent), arrayName, count());
   add(option, count());
   return option;
 }

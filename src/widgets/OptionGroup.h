@@ -19,7 +19,7 @@ class OptionGroup : public QObject {
   explicit OptionGroup(QObject* parent);
 
   // Adds an option of the next index, named arrayName_index.
-  QRadioButton* addOption(const QString& text, const QString& arrayName, QWidget* parent);
+  QRadioButton* addOption(const QString& text, const char* arrayName, QWidget* parent);
   void add(QAbstractButton* button, int index);
 
   [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }

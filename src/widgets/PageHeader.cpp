@@ -15,6 +15,15 @@ constexpr int kIconSize = 28;
 constexpr int kTitleLeft = 38;
 constexpr int kAboveLine = 12;
 
+// The longest one of all pages.
+constexpr char kLongestTitle[] = "Filter Cubes";
+
+// What a title takes before a section bar: the room of the design, or more in a wider font.
+int TitleRoom() {
+  const int designed = grid::kSectionStart - grid::kPageMargin - kTitleLeft - grid::kBetweenColumns;
+  return qMax(designed, QFontMetrics(TitleFont()).horizontalAdvance(QLatin1String(kLongestTitle)));
+}
+
 }  // namespace
 
 PageHeader::PageHeader(IconName icon, const QString& title, QWidget* parent)
@@ -28,10 +37,9 @@ PageHeader::PageHeader(IconName icon, const QString& title, QWidget* parent)
   setFixedHeight(qMax(grid::kHeaderHeight, title_->sizeHint().height() + 2 * kAboveLine));
 }
 
-SectionBar* PageHeader::AddSectionBar(int start) {
-  sectionBar_ = new SectionBar(this);
-  const int before = start - grid::kPageMargin - kTitleLeft - grid::kBetweenColumns;
-  title_->setMinimumWidth(qMax(before, title_->sizeHint().width()));
+SectionBar* PageHeader::AddSectionBar(const char* arrayName) {
+  sectionBar_ = new SectionBar(arrayName, this);
+  title_->setMinimumWidth(qMax(TitleRoom(), title_->sizeHint().width()));
   auto* row = static_cast<QHBoxLayout*>(layout());
   row->insertWidget(1, sectionBar_);
   return sectionBar_;

@@ -18,9 +18,9 @@ class PageHeader : public QWidget {
  public:
   PageHeader(IconName icon, const QString& title, QWidget* parent = nullptr);
 
-  // The bar begins at the same place on every section of a page: start, measured from the left
-  // edge of the page, or behind a title that is wider.
-  SectionBar* AddSectionBar(int start);
+  // The bar begins at the same place on all pages of the program. `arrayName` is that of its
+  // options.
+  SectionBar* AddSectionBar(const char* arrayName);
   [[nodiscard]] SectionBar* sectionBar() const { return sectionBar_; }
   [[nodiscard]] QString title() const;
 

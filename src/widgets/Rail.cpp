@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "widgets/Named.h"
 #include "widgets/PageButton.h"
 #include "widgets/Theme.h"
 
@@ -19,8 +20,7 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
 
 int Rail::AddPage(IconName icon, const QString& text) {
   const int index = count();
-  auto* button = new PageButton(icon, text, this);
-  button->setObjectName(QStringLiteral("ImageButton_%1").arg(index));
+  auto* button = Named(new PageButton(icon, text, this), "ImageButton", index);
   button->installEventFilter(this);
   buttons_.append(button);
   static_cast<QVBoxLayout*>(layout())->insertWidget(index, button);

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 
@@ -68,7 +69,8 @@ void SectionOption::paintEvent(QPaintEvent*) {
   painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }
 
-SectionBar::SectionBar(QWidget* parent) : QWidget(parent), group_(new OptionGroup(this)) {
+SectionBar::SectionBar(const char* arrayName, QWidget* parent)
+    : QWidget(parent), arrayName_(arrayName), group_(new OptionGroup(this)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
@@ -78,8 +80,7 @@ SectionBar::SectionBar(QWidget* parent) : QWidget(parent), group_(new OptionGrou
 
 int SectionBar::AddOption(const QString& text) {
   const int index = count();
-  auto* option = new SectionOption(text, this);
-  option->setObjectName(arrayName_ + QLatin1Char('_') + QString::number(index));
+  auto* option = Named(new SectionOption(text, this), arrayName_, index);
   option->setAccessibleName(text);
   options_.append(option);
   group_->add(option, index);

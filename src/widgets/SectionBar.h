@@ -31,10 +31,9 @@ class SectionBar : public QWidget {
   Q_OBJECT
 
  public:
-  explicit SectionBar(QWidget* parent = nullptr);
+  // Options are named after their array: optSettings_0, optSettings_1 ...
+  explicit SectionBar(const char* arrayName, QWidget* parent = nullptr);
 
-  // Options are named optSettings_0, optSettings_1 ... unless another array name is set before.
-  void SetArrayName(const QString& name) { arrayName_ = name; }
   int AddOption(const QString& text);
   [[nodiscard]] QAbstractButton* option(int index) const;
   [[nodiscard]] int count() const;
@@ -50,9 +49,9 @@ class SectionBar : public QWidget {
  private:
   void MarkEnds();
 
+  const char* arrayName_;
   QVector<SectionOption*> options_;
   OptionGroup* group_ = nullptr;
-  QString arrayName_ = QStringLiteral("optSettings");
 };
 
 }  // namespace mortane

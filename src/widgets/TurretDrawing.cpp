@@ -6,6 +6,7 @@
 #include <QtMath>
 #include <cmath>
 
+#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 #include "widgets/TurretButton.h"
@@ -62,8 +63,7 @@ TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
 }
 
 void TurretDrawing::MakeButton(int index) {
-  auto* button = new TurretButton(kind_, index + 1, this);
-  button->setObjectName(QStringLiteral("place_%1").arg(index + 1));
+  auto* button = Named(new TurretButton(kind_, index + 1, this), "place", index + 1);
   button->hide();
   group_->add(button, index);
   connect(button, &TurretButton::toggled, this,

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "widgets/Named.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueLabel.h"
 
@@ -14,13 +15,12 @@ ValueBox::ValueBox(QWidget* parent) : InnerFrame({}, parent), cells_(new QGridLa
   body()->addLayout(cells_);
 }
 
-ValueBox::Value ValueBox::AddValue(const QString& caption, const QString& captionName,
-                                   const QString& valueName, int characters, int stretch) {
+ValueBox::Value ValueBox::AddValue(const char* caption, const char* captionName,
+                                   const char* valueName, int characters, int stretch) {
   const int column = cells_->count() / 2;
-  const Value added{CaptionLabel(caption, this), new ValueLabel(this)};
-  added.caption->setObjectName(captionName);
-  added.value->setObjectName(valueName);
-  added.value->setAccessibleName(caption);
+  const Value added{Named(CaptionLabel(QLatin1String(caption), this), captionName),
+                    Named(new ValueLabel(this), valueName)};
+  added.value->setAccessibleName(added.caption->text());
   added.value->SetCharacters(characters);
   cells_->addWidget(added.caption, 0, column);
   cells_->addWidget(added.value, 1, column);

@@ -22,7 +22,7 @@ class ValueBox : public InnerFrame {
 
   // Adds a column that asks for room for that many characters and takes `stretch` shares of what
   // is left over.
-  Value AddValue(const QString& caption, const QString& captionName, const QString& valueName,
+  Value AddValue(const char* caption, const char* captionName, const char* valueName,
                  int characters, int stretch);
 
  private:

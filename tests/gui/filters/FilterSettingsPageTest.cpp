@@ -9,6 +9,7 @@
 #include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
 #include "widgets/PageHeader.h"
+#include "widgets/SectionBar.h"
 #include "widgets/TextField.h"
 #include "widgets/ValueLabel.h"
 
@@ -26,7 +27,7 @@ Bench Unfitted() {
 class FilterPage : public testing::Test {
  protected:
   FilterPage() { rig.Show(&page); }
-  void Click(std::size_t option) { ClickButton(*page.optFilterSetting[option]); }
+  void Click(int option) { ClickButton(*page.optFilterSetting->option(option)); }
 
   PageRig rig{"Harbour"};
   FilterQubeSettingsCtl& page = *MakeFilterQubeSettingsCtl(rig.k70());
@@ -43,10 +44,10 @@ TEST_F(FilterPage, OpensOnTheTurret) {
 TEST_F(FilterPage, AClickShowsOneSubPageAtATime) {
   const QWidget* subPages[] = {page.FilterQubeCtl1, page.FilterOptionalQubeCtl1,
                                page.FilterOptionalItemCtl1};
-  for (const std::size_t option : {1U, 2U, 0U}) {
+  for (const int option : {1, 2, 0}) {
     Click(option);
-    EXPECT_EQ(page.CurrentItem(), static_cast<int>(option));
-    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(subPages[i]->isVisible(), i == option);
+    EXPECT_EQ(page.CurrentItem(), option);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(subPages[i]->isVisible(), i == option);
   }
 }
 
@@ -87,10 +88,10 @@ TEST_F(FilterPage, LoadingLeadsBackToTheTurretAndFillsTheItems) {
 TEST(FilterPageAlone, OpensOnTheOptionalCubesWithoutATurret) {
   PageRig rig(Unfitted());
   auto& page = rig.Show(MakeFilterQubeSettingsCtl(rig.k70()));
-  EXPECT_FALSE(page.optFilterSetting[0]->isEnabled());
+  EXPECT_FALSE(page.optFilterSetting->option(0)->isEnabled());
   EXPECT_EQ(page.CurrentItem(), 1);
   EXPECT_TRUE(page.FilterOptionalQubeCtl1->isVisible());
-  ClickButton(*page.optFilterSetting[0]);
+  ClickButton(*page.optFilterSetting->option(0));
   EXPECT_EQ(page.CurrentItem(), 1);
 }
 

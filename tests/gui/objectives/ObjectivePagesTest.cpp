@@ -9,6 +9,7 @@
 #include "widgets/ListBox.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/PageHeader.h"
+#include "widgets/SectionBar.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
@@ -63,7 +64,7 @@ TEST(ObjectivePages, OpenOnTheOptionalObjectivesWithoutANosepiece) {
   PageRig rig("Hub");
   auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   EXPECT_EQ(page.CurrentItem(), 1);
-  EXPECT_FALSE(page.optSettings[0]->isEnabled());
+  EXPECT_FALSE(page.optSettings->option(0)->isEnabled());
   EXPECT_EQ(VisibleOf(page), page.ObjectiveOptionCtl1);
 }
 
@@ -75,18 +76,17 @@ TEST(ObjectivePages, TheNosepieceComesBackWithAnotherMicroscope) {
     rig.k70().Receive();
     page.LoadData();
     EXPECT_EQ(page.CurrentItem(), fitted ? 0 : 1);
-    EXPECT_EQ(page.optSettings[0]->isEnabled(), fitted);
+    EXPECT_EQ(page.optSettings->option(0)->isEnabled(), fitted);
   }
 }
 
 TEST(ObjectivePages, AClickShowsItsSubPageAlone) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
-  const std::array<const Page*, 3> subPages{page.ObjectiveCtl1, page.ObjectiveOptionCtl1,
-                                            page.ObjectiveLimitCtl1};
-  for (const std::size_t index : {2U, 1U, 0U}) {
-    ClickButton(*page.optSettings[index]);
-    EXPECT_EQ(page.CurrentItem(), static_cast<int>(index));
+  const Page* subPages[] = {page.ObjectiveCtl1, page.ObjectiveOptionCtl1, page.ObjectiveLimitCtl1};
+  for (const int index : {2, 1, 0}) {
+    ClickButton(*page.optSettings->option(index));
+    EXPECT_EQ(page.CurrentItem(), index);
     EXPECT_EQ(VisibleOf(page), subPages[index]);
   }
 }
@@ -94,10 +94,10 @@ TEST(ObjectivePages, AClickShowsItsSubPageAlone) {
 TEST(ObjectivePages, TheSelectedOptionAloneIsAmber) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
-  ClickButton(*page.optSettings[2]);
-  page.optSettings[0]->setFocus();
-  for (std::size_t i = 0; i < page.optSettings.size(); ++i) {
-    QAbstractButton& option = *page.optSettings[i];
+  ClickButton(*page.optSettings->option(2));
+  page.optSettings->option(0)->setFocus();
+  for (int i = 0; i < page.optSettings->count(); ++i) {
+    QAbstractButton& option = *page.optSettings->option(i);
     const QColor background = option.grab().toImage().pixelColor(8, option.height() / 2);
     EXPECT_EQ(background == QColor(255, 204, 0), i == 2) << i;
     EXPECT_EQ(background == option.palette().color(QPalette::Button), i != 2) << i;
@@ -108,13 +108,13 @@ TEST(ObjectivePages, ASubPageIsLoadedEachTimeThatItIsOpened) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   ClickTab(*page.ObjectiveCtl1->TabNosepiece, 3);
-  ClickButton(*page.optSettings[2]);
+  ClickButton(*page.optSettings->option(2));
   rig.k70().curLimit.curSkip = 1;
   rig.k70().curNosepiece.code(1, 12);
-  ClickButton(*page.optSettings[0]);
+  ClickButton(*page.optSettings->option(0));
   EXPECT_EQ(page.ObjectiveCtl1->TabNosepiece->caption(), "1");
   EXPECT_EQ(Shown(rig.Find("LabelName")), "Plan F 100x Oil");
-  ClickButton(*page.optSettings[2]);
+  ClickButton(*page.optSettings->option(2));
   EXPECT_EQ(page.ObjectiveLimitCtl1->optSkipEmpty->selected(), 1);
 }
 
@@ -122,14 +122,14 @@ TEST(ObjectivePages, AClickOnTheOptionOnShowLoadsAgain) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
   ClickTab(*page.ObjectiveCtl1->TabNosepiece, 3);
-  ClickButton(*page.optSettings[0]);
+  ClickButton(*page.optSettings->option(0));
   EXPECT_EQ(page.ObjectiveCtl1->TabNosepiece->caption(), "1");
 }
 
 TEST(ObjectivePages, LoadingOpensTheNosepieceAgainAndLoadsTheOthersUnseen) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
-  ClickButton(*page.optSettings[2]);
+  ClickButton(*page.optSettings->option(2));
   rig.k70().DbNosepiece.Set_DbNosepiece(1, "Renamed", 1, 1, "5", "1", "0.1", 0);
   rig.k70().curLimit.curImmersion = 2;
   page.LoadData();

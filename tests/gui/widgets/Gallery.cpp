@@ -112,12 +112,12 @@ Card* PageButtons() {
 Card* Sections() {
   auto* card = new Card("Section options");
   auto* row = Row(card);
-  auto* bar = new SectionBar;
+  auto* bar = new SectionBar("optSettings");
   for (const char* text : {"Nosepiece", "Optional Obj.", "Limit Control"}) bar->AddOption(text);
   bar->select(0);
   bar->SetOptionEnabled(2, false);
   row->addWidget(Shown(Picture(bar), "selected, resting, disabled"));
-  auto* focused = new SectionBar;
+  auto* focused = new SectionBar("optSettings");
   for (const char* text : {"Nosepiece", "Optional Obj.", "Limit Control"}) focused->AddOption(text);
   focused->SetOptionVisible(0, false);
   focused->select(1);
@@ -355,14 +355,13 @@ class ListsPage : public Page {
 
 class ObjectivesPage : public ContainerPage {
  public:
-  ObjectivesPage() : ContainerPage(IconName::Objective, "Objectives", 200) {
-    AddSubPage("Nosepiece", new ListsPage);
-    AddSubPage("Optional Obj.", new ListsPage);
-    AddSubPage("Limit Control", new ListsPage);
-    sections()->select(0);
+  ObjectivesPage() : ContainerPage(IconName::Objective, "Objectives", "optSettings") {
+    SetSections({{"Nosepiece", "ObjectiveCtl1", new ListsPage},
+                 {"Optional Obj.", "ObjectiveOptionCtl1", new ListsPage},
+                 {"Limit Control", "ObjectiveLimitCtl1", new ListsPage}},
+                {});
+    LoadData();
   }
-  void LoadData() override {}
-  void SaveData() override {}
 };
 
 QWidget* Window(QWidget* page, int selected) {

@@ -39,7 +39,7 @@ struct Controls {
     combo->addRow("entry");
     tabs = window.Add<TabStrip>();
     tabs->SetNumberedTabs(3);
-    sections = window.Add<SectionBar>();
+    sections = window.Add<SectionBar>("optSettings");
     for (const char* text : {"Left", "Middle", "Right"}) sections->AddOption(text);
     sections->select(0);
     options = new OptionGroup(&window.widget());

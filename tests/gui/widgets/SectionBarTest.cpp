@@ -12,7 +12,7 @@ class SectionBarTest : public ::testing::Test {
  protected:
   void SetUp() override {
     before = window.Add<QLineEdit>();
-    bar = window.Add<SectionBar>();
+    bar = window.Add<SectionBar>("optSettings");
     for (const char* text : {"Nosepiece", "Optional Obj.", "Limit Control"}) bar->AddOption(text);
     after = window.Add<QLineEdit>();
     window.Show();
