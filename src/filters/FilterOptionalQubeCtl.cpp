@@ -1,20 +1,14 @@
 #include "filters/FilterOptionalQubeCtl.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QVBoxLayout>
-
 #include "common/Text.h"
 #include "filters/clsDbFilter.h"
 #include "model/OptionCodes.h"
-#include "widgets/Card.h"
 #include "widgets/ListBox.h"
 #include "widgets/Named.h"
+#include "widgets/RecordForm.h"
 #include "widgets/ShownName.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
-#include "widgets/Theme.h"
 #include "widgets/ValueLabel.h"
 
 namespace mortane {
@@ -27,24 +21,31 @@ constexpr int kNameWidthCharacters = 16;
 
 struct FilterOptionalQubeCtl::Item {
   FilterItem item;
-  const char* captionName;
-  const char* caption;
+  RecordForm::ColumnNames names;
   const char* valueName;
-  const char* listName;
   QLabel* FilterOptionalQubeCtl::*label;
   ValueLabel* FilterOptionalQubeCtl::*value;
   ListBox* FilterOptionalQubeCtl::*list;
 };
 
 const std::array<FilterOptionalQubeCtl::Item, kFilterItems> FilterOptionalQubeCtl::kItems{{
-    {FilterItem::Exciter, "Label2", "Exciter", "LabelExciter", "ListExciter",
-     &FilterOptionalQubeCtl::Label2, &FilterOptionalQubeCtl::LabelExciter,
+    {FilterItem::Exciter,
+     {"Label2", "Exciter", "ListExciter"},
+     "LabelExciter",
+     &FilterOptionalQubeCtl::Label2,
+     &FilterOptionalQubeCtl::LabelExciter,
      &FilterOptionalQubeCtl::ListExciter},
-    {FilterItem::Dichroic, "Label3", "Dichroic", "LabelDichroic", "ListDichroic",
-     &FilterOptionalQubeCtl::Label3, &FilterOptionalQubeCtl::LabelDichroic,
+    {FilterItem::Dichroic,
+     {"Label3", "Dichroic", "ListDichroic"},
+     "LabelDichroic",
+     &FilterOptionalQubeCtl::Label3,
+     &FilterOptionalQubeCtl::LabelDichroic,
      &FilterOptionalQubeCtl::ListDichroic},
-    {FilterItem::Barrier, "Label4", "Barrier", "LabelBarrier", "ListBarrier",
-     &FilterOptionalQubeCtl::Label4, &FilterOptionalQubeCtl::LabelBarrier,
+    {FilterItem::Barrier,
+     {"Label4", "Barrier", "ListBarrier"},
+     "LabelBarrier",
+     &FilterOptionalQubeCtl::Label4,
+     &FilterOptionalQubeCtl::LabelBarrier,
      &FilterOptionalQubeCtl::ListBarrier},
 }};
 
@@ -53,64 +54,34 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterIte
     : CardPage(QStringLiteral("Add Optional Filter Cube Data to the List"), parent),
       cubes_(cubes),
       items_(items) {
-  TabOption = Named(new TabStrip(FrameBase), "TabOption");
-  TabOption->setAccessibleName(QStringLiteral("Position"));
-  TabOption->SetNumberedTabs(kOptionPositions);
-  frm2 = Named(new QFrame(FrameBase), "frm2");
-  auto* rows = new QVBoxLayout(frm2);
-  rows->setContentsMargins({});
-  rows->setSpacing(grid::kBetweenGroups);
-  rows->addWidget(BuildName());
-  auto* cells = new QGridLayout;
-  cells->setHorizontalSpacing(grid::kBetweenColumns);
-  cells->setVerticalSpacing(grid::kUnit);
-  int column = 0;
-  for (const Item& item : kItems) BuildList(item, column++, *cells);
-  rows->addLayout(cells, 1);
-  FrameBase->body()->addWidget(TabOption);
-  FrameBase->body()->addWidget(frm2, 1);
+  RecordForm form(*FrameBase, kOptionPositions, "TabOption", "frm2");
+  TabOption = form.tabs();
+  frm2 = form.frame();
+  const RecordForm::Name name =
+      form.AddName("Label1", "TextName", static_cast<int>(kOptionNameLength), kNameWidthCharacters);
+  Label1 = name.label;
+  TextName = name.field;
+  TextName->SetMark(ToQString(kUnnamedMark), TextField::LeftBlank::StaysBlank);
+  for (const Item& item : kItems) BuildColumn(item, form);
+  connect(TextName, &TextField::committed, this, &FilterOptionalQubeCtl::Store);
   connect(TabOption, &TabStrip::chosen, this, [this] {
     ReadCube();
     for (const Item& item : kItems) SelectItem(item);
   });
 }
 
-QWidget* FilterOptionalQubeCtl::BuildName() {
-  auto* panel = new QWidget(frm2);
-  Label1 = Named(new QLabel(QStringLiteral("Name"), panel), "Label1");
-  TextName = Named(new TextField(panel), "TextName");
-  TextName->SetLimit(static_cast<int>(kOptionNameLength));
-  TextName->SetWidthFor(kNameWidthCharacters);
-  TextName->SetMark(ToQString(kUnnamedMark), TextField::LeftBlank::StaysBlank);
-  connect(TextName, &TextField::committed, this, &FilterOptionalQubeCtl::Store);
-  Label1->setBuddy(TextName);
-  auto* row = new QHBoxLayout(panel);
-  row->setContentsMargins({});
-  row->setSpacing(grid::kBetweenGroups);
-  row->addWidget(Label1);
-  row->addWidget(TextName);
-  row->addStretch();
-  return panel;
-}
-
-void FilterOptionalQubeCtl::BuildList(const Item& item, int column, QGridLayout& cells) {
-  QLabel* label = Named(CaptionLabel(QLatin1String(item.caption), frm2), item.captionName);
+void FilterOptionalQubeCtl::BuildColumn(const Item& item, RecordForm& form) {
   auto* value = Named(new ValueLabel(frm2), item.valueName);
-  auto* list = Named(new ListBox(frm2), item.listName);
-  list->setAccessibleName(label->text());
-  label->setBuddy(list);
-  cells.addWidget(label, 0, column);
-  cells.addWidget(value, 1, column);
-  cells.addWidget(list, 2, column);
-  cells.setColumnStretch(column, 1);
-  this->*item.label = label;
+  const RecordForm::Column column = form.AddColumn(item.names, value, 1);
+  this->*item.label = column.caption;
   this->*item.value = value;
-  this->*item.list = list;
-  connect(list, &ListBox::selectionChanged, this, [this, &item, list, value](int row) {
-    value->setText(list->text(row));
-    codeOf(item) = list->data(row).toInt();
-    Store();
-  });
+  this->*item.list = column.list;
+  connect(column.list, &ListBox::selectionChanged, this,
+          [this, &item, list = column.list, value](int row) {
+            value->setText(list->text(row));
+            codeOf(item) = list->data(row).toInt();
+            Store();
+          });
 }
 
 std::int32_t& FilterOptionalQubeCtl::codeOf(const Item& item) {

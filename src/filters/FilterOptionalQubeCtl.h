@@ -8,12 +8,12 @@
 #include "widgets/CardPage.h"
 
 class QFrame;
-class QGridLayout;
 class QLabel;
 
 namespace mortane {
 
 class ListBox;
+class RecordForm;
 class TabStrip;
 class TextField;
 class ValueLabel;
@@ -49,8 +49,7 @@ class FilterOptionalQubeCtl : public CardPage {
   struct Item;
   static const std::array<Item, kFilterItems> kItems;
 
-  QWidget* BuildName();
-  void BuildList(const Item& item, int column, QGridLayout& cells);
+  void BuildColumn(const Item& item, RecordForm& form);
   // Takes over name and codes; they must be complete before a row is selected, which stores.
   void ReadCube();
   void FillList(const Item& item);

@@ -14,6 +14,7 @@ namespace mortane {
 
 class ComboBox;
 class ListBox;
+class RecordForm;
 class TabStrip;
 class TextField;
 class ValueLabel;
@@ -69,10 +70,9 @@ class ObjectiveOptionCtl : public CardPage {
   enum class Condensers { AsListed, Anew };
 
   void Build();
-  QWidget* BuildName(QWidget* parent);
-  QWidget* BuildLists(QWidget* parent);
+  void BuildMagnification(RecordForm& form);
   QFrame* BuildValues(QWidget* parent);
-  void MakeNumber(const Number& number, QWidget* parent);
+  static TextField* MakeField(const Number& number, QWidget* parent);
   void Connect();
   void ConnectNumber(const Number& number);
 

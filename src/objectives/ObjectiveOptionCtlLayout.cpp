@@ -11,6 +11,7 @@
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
 #include "widgets/Named.h"
+#include "widgets/RecordForm.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
@@ -27,92 +28,49 @@ constexpr int kNumberWidthCharacters = 7;
 }  // namespace
 
 void ObjectiveOptionCtl::Build() {
-  TabStrip1 = Named(new TabStrip(FrameBase), "TabStrip1");
-  TabStrip1->setAccessibleName(QStringLiteral("Position"));
-  TabStrip1->SetNumberedTabs(kOptionPositions);
-  NosepieceOptionItemFrm = Named(new QFrame(FrameBase), "NosepieceOptionItemFrm");
-  auto* rows = new QVBoxLayout(NosepieceOptionItemFrm);
-  rows->setContentsMargins({});
-  rows->setSpacing(grid::kBetweenGroups);
-  rows->addWidget(BuildName(NosepieceOptionItemFrm));
-  rows->addWidget(BuildLists(NosepieceOptionItemFrm), 1);
-  FrameBase->body()->addWidget(TabStrip1);
-  FrameBase->body()->addWidget(NosepieceOptionItemFrm, 1);
+  RecordForm form(*FrameBase, kOptionPositions, "TabStrip1", "NosepieceOptionItemFrm");
+  TabStrip1 = form.tabs();
+  NosepieceOptionItemFrm = form.frame();
+  const RecordForm::Name name = form.AddName(
+      "Label1", "TextName", static_cast<int>(kShownObjectiveNameLength), kNameWidthCharacters);
+  Label1 = name.label;
+  TextName = name.field;
+  LabelSeries = Named(new ValueLabel(NosepieceOptionItemFrm), "LabelSeries");
+  const RecordForm::Column series =
+      form.AddColumn({"Label2", "Series", "ListSeries"}, LabelSeries, 3);
+  Label2 = series.caption;
+  ListSeries = series.list;
+  LabelType = Named(new ValueLabel(NosepieceOptionItemFrm), "LabelType");
+  const RecordForm::Column type = form.AddColumn({"Label3", "Type", "ListType"}, LabelType, 2);
+  Label3 = type.caption;
+  ListType = type.list;
+  BuildMagnification(form);
+  form.AddPanel(BuildValues(NosepieceOptionItemFrm), 3);
 }
 
-QWidget* ObjectiveOptionCtl::BuildName(QWidget* parent) {
-  auto* panel = new QWidget(parent);
-  Label1 = Named(new QLabel(QStringLiteral("Name"), panel), "Label1");
-  TextName = Named(new TextField(panel), "TextName");
-  TextName->SetLimit(static_cast<int>(kShownObjectiveNameLength));
-  TextName->SetWidthFor(kNameWidthCharacters);
-  Label1->setBuddy(TextName);
-  auto* row = new QHBoxLayout(panel);
+void ObjectiveOptionCtl::BuildMagnification(RecordForm& form) {
+  auto* value = new QWidget(NosepieceOptionItemFrm);
+  TextMag = MakeField(kNumbers[0], value);
+  Label7 = Named(new QLabel(QStringLiteral("x"), value), "Label7");
+  auto* row = new QHBoxLayout(value);
   row->setContentsMargins({});
-  row->setSpacing(grid::kBetweenGroups);
-  row->addWidget(Label1);
-  row->addWidget(TextName);
+  row->setSpacing(grid::kBetweenControls);
+  row->addWidget(TextMag);
+  row->addWidget(Label7);
   row->addStretch();
-  return panel;
+  const RecordForm::Column magnification =
+      form.AddColumn({kNumbers[0].labelName, kNumbers[0].caption, "ListMag"}, value, 2);
+  Label4 = magnification.caption;
+  Label4->setBuddy(TextMag);
+  ListMag = magnification.list;
 }
 
-QWidget* ObjectiveOptionCtl::BuildLists(QWidget* parent) {
-  auto* panel = new QWidget(parent);
-  auto* cells = new QGridLayout(panel);
-  cells->setContentsMargins({});
-  cells->setHorizontalSpacing(grid::kBetweenColumns);
-  cells->setVerticalSpacing(grid::kUnit);
-  const auto list = [&](const char* name, int column, int stretch) {
-    auto* made = Named(new ListBox(panel), name);
-    cells->addWidget(made, 2, column);
-    cells->setColumnStretch(column, stretch);
-    return made;
-  };
-  const auto header = [&](const char* name, const char* caption, QWidget* buddy, int column) {
-    QLabel* label = Named(CaptionLabel(QLatin1String(caption), panel), name);
-    label->setBuddy(buddy);
-    buddy->setAccessibleName(label->text());
-    cells->addWidget(label, 0, column);
-    return label;
-  };
-  const auto value = [&](const char* name, int column) {
-    auto* shown = Named(new ValueLabel(panel), name);
-    cells->addWidget(shown, 1, column);
-    return shown;
-  };
-  LabelSeries = value("LabelSeries", 0);
-  ListSeries = list("ListSeries", 0, 3);
-  Label2 = header("Label2", "Series", ListSeries, 0);
-  LabelType = value("LabelType", 1);
-  ListType = list("ListType", 1, 2);
-  Label3 = header("Label3", "Type", ListType, 1);
-  MakeNumber(kNumbers[0], panel);
-  Label7 = Named(new QLabel(QStringLiteral("x"), panel), "Label7");
-  auto* magnification = new QHBoxLayout;
-  magnification->setSpacing(grid::kBetweenControls);
-  magnification->addWidget(TextMag);
-  magnification->addWidget(Label7);
-  magnification->addStretch();
-  Label4->setFont(CaptionFont());
-  Label4->setForegroundRole(QPalette::PlaceholderText);
-  cells->addWidget(Label4, 0, 2);
-  cells->addLayout(magnification, 1, 2);
-  ListMag = list("ListMag", 2, 2);
-  ListMag->setAccessibleName(Label4->text());
-  cells->addWidget(BuildValues(panel), 1, 3, 2, 1);
-  cells->setColumnStretch(3, 3);
-  return panel;
-}
-
-void ObjectiveOptionCtl::MakeNumber(const Number& number, QWidget* parent) {
-  auto* label = Named(new QLabel(QLatin1String(number.caption), parent), number.labelName);
+TextField* ObjectiveOptionCtl::MakeField(const Number& number, QWidget* parent) {
   auto* field = Named(new TextField(parent), number.fieldName);
   field->SetLimit(kNumberLength);
   field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   field->SetWidthFor(kNumberWidthCharacters);
-  label->setBuddy(field);
-  this->*number.label = label;
-  this->*number.field = field;
+  return field;
 }
 
 QFrame* ObjectiveOptionCtl::BuildValues(QWidget* parent) {
@@ -121,9 +79,14 @@ QFrame* ObjectiveOptionCtl::BuildValues(QWidget* parent) {
   fields->setHorizontalSpacing(grid::kBetweenControls);
   fields->setVerticalSpacing(grid::kBetweenControls);
   for (std::size_t i = 1; i < kNumbers.size(); ++i) {
-    MakeNumber(kNumbers[i], frame);
-    fields->addWidget(this->*kNumbers[i].label, static_cast<int>(i), 0);
-    fields->addWidget(this->*kNumbers[i].field, static_cast<int>(i), 1);
+    const Number& number = kNumbers[i];
+    auto* label = Named(new QLabel(QLatin1String(number.caption), frame), number.labelName);
+    TextField* field = MakeField(number, frame);
+    label->setBuddy(field);
+    this->*number.label = label;
+    this->*number.field = field;
+    fields->addWidget(label, static_cast<int>(i), 0);
+    fields->addWidget(field, static_cast<int>(i), 1);
   }
   fields->setColumnStretch(2, 1);
   frame->body()->addLayout(fields);

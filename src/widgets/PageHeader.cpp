@@ -20,8 +20,11 @@ constexpr char kLongestTitle[] = "Filter Cubes";
 
 // What a title takes before a section bar: the room of the design, or more in a wider font.
 int TitleRoom() {
-  const int designed = grid::kSectionStart - grid::kPageMargin - kTitleLeft - grid::kBetweenColumns;
-  return qMax(designed, QFontMetrics(TitleFont()).horizontalAdvance(QLatin1String(kLongestTitle)));
+  constexpr int kDesigned =
+      grid::kSectionStart - grid::kPageMargin - kTitleLeft - grid::kBetweenColumns;
+  QLabel longest(QLatin1String(kLongestTitle), nullptr);
+  longest.setFont(TitleFont());
+  return qMax(kDesigned, longest.sizeHint().width());
 }
 
 }  // namespace

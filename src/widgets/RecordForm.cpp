@@ -1,0 +1,75 @@
+#include "widgets/RecordForm.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "widgets/Card.h"
+#include "widgets/ListBox.h"
+#include "widgets/Named.h"
+#include "widgets/TabStrip.h"
+#include "widgets/TextField.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+enum Row { kCaptionRow, kValueRow, kListRow };
+
+}  // namespace
+
+RecordForm::RecordForm(Card& card, int records, const char* tabsName, const char* frameName)
+    : tabs_(Named(new TabStrip(&card), tabsName)),
+      frame_(Named(new QFrame(&card), frameName)),
+      columns_(new QGridLayout) {
+  tabs_->setAccessibleName(QStringLiteral("Position"));
+  tabs_->SetNumberedTabs(records);
+  auto* rows = new QVBoxLayout(frame_);
+  rows->setContentsMargins({});
+  rows->setSpacing(grid::kBetweenGroups);
+  rows->addLayout(columns_, 1);
+  columns_->setHorizontalSpacing(grid::kBetweenColumns);
+  columns_->setVerticalSpacing(grid::kUnit);
+  // As high as a field, whatever shows the value.
+  columns_->setRowMinimumHeight(kValueRow, GridHeight(grid::kFieldHeight, *frame_));
+  columns_->setRowStretch(kListRow, 1);
+  card.body()->addWidget(tabs_);
+  card.body()->addWidget(frame_, 1);
+}
+
+RecordForm::Name RecordForm::AddName(const char* labelName, const char* fieldName, int limit,
+                                     int shown) {
+  const Name name{Named(new QLabel(QStringLiteral("Name"), frame_), labelName),
+                  Named(new TextField(frame_), fieldName)};
+  name.field->SetLimit(limit);
+  name.field->SetWidthFor(shown);
+  name.label->setBuddy(name.field);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(grid::kBetweenGroups);
+  row->addWidget(name.label);
+  row->addWidget(name.field);
+  row->addStretch();
+  static_cast<QVBoxLayout*>(frame_->layout())->insertLayout(0, row);
+  return name;
+}
+
+RecordForm::Column RecordForm::AddColumn(const ColumnNames& names, QWidget* value, int stretch) {
+  const int place = columnCount_++;
+  const Column column{Named(CaptionLabel(QLatin1String(names.caption), frame_), names.label),
+                      Named(new ListBox(frame_), names.list)};
+  column.caption->setBuddy(column.list);
+  column.list->setAccessibleName(column.caption->text());
+  columns_->addWidget(column.caption, kCaptionRow, place);
+  columns_->addWidget(value, kValueRow, place);
+  columns_->addWidget(column.list, kListRow, place);
+  columns_->setColumnStretch(place, stretch);
+  return column;
+}
+
+void RecordForm::AddPanel(QWidget* panel, int stretch) {
+  const int place = columnCount_++;
+  columns_->addWidget(panel, kValueRow, place, 2, 1);
+  columns_->setColumnStretch(place, stretch);
+}
+
+}  // namespace mortane

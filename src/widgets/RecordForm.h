@@ -1,0 +1,54 @@
+// The body of a page for the user's records: numbered tabs, and a frame for the record of one tab.
+#pragma once
+
+class QFrame;
+class QGridLayout;
+class QLabel;
+class QWidget;
+
+namespace mortane {
+
+class Card;
+class ListBox;
+class TabStrip;
+class TextField;
+
+// Fills a card from the top: the tabs, a row with the name, and columns side by side. What it
+// makes belongs to the card; the Tab key goes by the order of the calls.
+class RecordForm {
+ public:
+  RecordForm(Card& card, int records, const char* tabsName, const char* frameName);
+
+  [[nodiscard]] TabStrip* tabs() const { return tabs_; }
+  [[nodiscard]] QFrame* frame() const { return frame_; }
+
+  struct Name {
+    QLabel* label;
+    TextField* field;
+  };
+  // The label says "Name". The field takes `limit` characters and is wide enough for `shown`.
+  Name AddName(const char* labelName, const char* fieldName, int limit, int shown);
+
+  struct ColumnNames {
+    const char* label;
+    const char* caption;
+    const char* list;
+  };
+  struct Column {
+    QLabel* caption;
+    ListBox* list;
+  };
+  // Caption, value and list below each other. The value is a child of frame() and stands halfway
+  // between the two. The column takes `stretch` shares of the width.
+  Column AddColumn(const ColumnNames& names, QWidget* value, int stretch);
+  // A panel as high as value and list together.
+  void AddPanel(QWidget* panel, int stretch);
+
+ private:
+  TabStrip* tabs_;
+  QFrame* frame_;
+  QGridLayout* columns_;
+  int columnCount_ = 0;
+};
+
+}  // namespace mortane
