@@ -19,7 +19,6 @@
 namespace mortane {
 namespace {
 
-constexpr QChar kSeparator = u'\t';
 constexpr int kCharacters = 10;
 
 // Where the list's columns begin at least, in quarters of a character.
@@ -34,15 +33,14 @@ constexpr char kAddressOfSecondCube[] = "6";
 constexpr char kQuestion[] =
     "This position is related with Observation Method.\r\nIs Change data on this position?";
 
-QString RowText(const clsDbFilter& cubes, std::int32_t code) {
+QStringList CellsOf(const clsDbFilter& cubes, std::int32_t code) {
   std::string name;
   std::string exciter;
   std::string dichroic;
   std::string barrier;
   cubes.Get_DbFilter(code, name, exciter, dichroic, barrier);
-  const QStringList parts{QString::fromStdString(name), QString::fromStdString(exciter),
-                          QString::fromStdString(dichroic), QString::fromStdString(barrier)};
-  return parts.join(kSeparator);
+  return {QString::fromStdString(name), QString::fromStdString(exciter),
+          QString::fromStdString(dichroic), QString::fromStdString(barrier)};
 }
 
 TurretItem TurretItemOf(const clsDbFilter& cubes, std::int32_t code) {
@@ -157,7 +155,7 @@ int FilterQubeCtl::FillList(std::int32_t mounted) {
 }
 
 void FilterQubeCtl::AddCube(std::int32_t code) {
-  List1->addRow(RowText(cubes_, code), code);
+  List1->addCells(CellsOf(cubes_, code), code);
 }
 
 int FilterQubeCtl::RowOf(std::int32_t code) const {
@@ -198,9 +196,9 @@ void FilterQubeCtl::ShowAndStore(int row) {
 }
 
 void FilterQubeCtl::ShowParts(int row) {
-  const QStringList parts = List1->text(row).split(kSeparator);
+  const QStringList cells = List1->cells(row);
   int part = 0;
-  for (const Value& value : kValues) (this->*value.value)->setText(parts.value(part++));
+  for (const Value& value : kValues) (this->*value.value)->setText(cells.value(part++));
 }
 
 void FilterQubeCtl::UpdateTurret() {

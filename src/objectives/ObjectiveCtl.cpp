@@ -10,6 +10,7 @@
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsNosepiece.h"
 #include "widgets/Card.h"
+#include "widgets/FillNames.h"
 #include "widgets/ListBox.h"
 #include "widgets/Named.h"
 #include "widgets/TabStrip.h"
@@ -21,9 +22,9 @@
 namespace mortane {
 namespace {
 
-constexpr QChar kSeparator = u'\t';
 constexpr int kSeriesWidth = 150;
 constexpr int kSeriesList = -1;
+constexpr int kNameColumn = 4;
 
 // Where the list's columns begin at least, in quarters of a character.
 constexpr std::array kTabStops{30, 60, 90, 120, 180};
@@ -47,12 +48,11 @@ Objective NextOf(const clsDbNosepiece& objectives, std::int32_t series, std::int
   return next;
 }
 
-QString RowText(const Objective& objective) {
-  const QStringList parts{
-      QString::fromStdString(objective.type), QString::fromStdString(objective.magnification),
-      QString::fromStdString(objective.workingDistance),
-      QString::fromStdString(objective.numericalAperture), QString::fromStdString(objective.name)};
-  return parts.join(kSeparator);
+QStringList CellsOf(const Objective& objective) {
+  return {QString::fromStdString(objective.type), QString::fromStdString(objective.magnification),
+          QString::fromStdString(objective.workingDistance),
+          QString::fromStdString(objective.numericalAperture),
+          QString::fromStdString(objective.name)};
 }
 
 }  // namespace
@@ -74,7 +74,8 @@ const ObjectiveCtl::Value ObjectiveCtl::kValues[6]{
     {"Label3", "Mag.", "LabelMag", 1, 10, &ObjectiveCtl::Label3, &ObjectiveCtl::LabelMag},
     {"Label4", "W.D.", "LabelWD", 2, 10, &ObjectiveCtl::Label4, &ObjectiveCtl::LabelWD},
     {"Label5", "N.A.", "LabelNA", 3, 10, &ObjectiveCtl::Label5, &ObjectiveCtl::LabelNA},
-    {"Label6", "Name", "LabelName", 4, 20, &ObjectiveCtl::Label6, &ObjectiveCtl::LabelName},
+    {"Label6", "Name", "LabelName", kNameColumn, 20, &ObjectiveCtl::Label6,
+     &ObjectiveCtl::LabelName},
 };
 
 ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& objectives,
@@ -113,6 +114,7 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
                         {QStringLiteral("W.D."), Qt::AlignRight},
                         {QStringLiteral("N.A."), Qt::AlignRight},
                         {QStringLiteral("Name")}});
+  ListItem->SetNameColumn(kNameColumn);
   row->addWidget(turret_);
   row->addWidget(ListSeries);
   row->addWidget(ListItem, 1);
@@ -154,10 +156,8 @@ void ObjectiveCtl::LoadData() {
 }
 
 void ObjectiveCtl::FillSeries() {
-  if (ListSeries->rowCount() > 0) return;
-  for (std::int32_t i = 0; i <= objectives_.SeriesCount(); ++i) {
-    ListSeries->addRow(QString::fromStdString(objectives_.Series(i)));
-  }
+  FillNames(*ListSeries, objectives_.SeriesCount(),
+            [this](std::int32_t index) { return objectives_.Series(index); });
 }
 
 // The new index of the series list mounts an objective of its own where the mounted one is not
@@ -183,7 +183,7 @@ void ObjectiveCtl::ClickSeries(int row) {
 }
 
 void ObjectiveCtl::ClickItem(int row) {
-  ShowParts(ListItem->text(row));
+  ShowParts(ListItem->cells(row));
   if (address() == 0) return;
   nosepiece_.code(address(), ListItem->data(row).toInt());
   turret_->SetItem(TabNosepiece->index(), ItemAt(address()));
@@ -196,8 +196,8 @@ int ObjectiveCtl::BuildList(std::int32_t series, std::int32_t mounted) {
   for (Objective next = NextOf(objectives_, series, -1); next.code >= 0;
        next = NextOf(objectives_, series, next.code)) {
     if (IsVacant(next.name)) continue;
-    QString text = RowText(next);
-    if (rows.empty() || rows.back().text != text) rows.push_back({std::move(text), next.code});
+    QStringList cells = CellsOf(next);
+    if (rows.empty() || rows.back().cells != cells) rows.push_back({std::move(cells), next.code});
     if (next.code != mounted) continue;
     rows.back().code = mounted;
     found = static_cast<int>(rows.size()) - 1;
@@ -211,7 +211,7 @@ int ObjectiveCtl::BuildList(std::int32_t series, std::int32_t mounted) {
 void ObjectiveCtl::ShowRows(std::vector<Row> rows) {
   const bool same =
       std::equal(rows.begin(), rows.end(), rows_.begin(), rows_.end(),
-                 [](const Row& left, const Row& right) { return left.text == right.text; });
+                 [](const Row& left, const Row& right) { return left.cells == right.cells; });
   rows_ = std::move(rows);
   if (same) {
     ListItem->setIndex(-1);
@@ -221,7 +221,7 @@ void ObjectiveCtl::ShowRows(std::vector<Row> rows) {
     return;
   }
   ListItem->clearRows();
-  for (const Row& row : rows_) ListItem->addRow(row.text, row.code);
+  for (const Row& row : rows_) ListItem->addCells(row.cells, row.code);
 }
 
 void ObjectiveCtl::SelectOrBlank(int row) {
@@ -229,10 +229,9 @@ void ObjectiveCtl::SelectOrBlank(int row) {
   if (row < 0) ShowParts({});
 }
 
-void ObjectiveCtl::ShowParts(const QString& row) {
-  const QStringList parts = row.split(kSeparator);
+void ObjectiveCtl::ShowParts(const QStringList& cells) {
   for (const Value& value : kValues) {
-    if (value.part != kSeriesList) (this->*value.value)->setText(parts.value(value.part));
+    if (value.part != kSeriesList) (this->*value.value)->setText(cells.value(value.part));
   }
 }
 

@@ -1,7 +1,7 @@
 // The panel that assigns an objective to each address of the nosepiece.
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -56,7 +56,7 @@ class ObjectiveCtl : public CardPage {
   struct Value;
   static const Value kValues[6];
   struct Row {
-    QString text;
+    QStringList cells;
     std::int32_t code;
   };
 
@@ -68,7 +68,7 @@ class ObjectiveCtl : public CardPage {
 
   QWidget* BuildLists(QWidget* parent);
   QFrame* BuildValueBox(QWidget* parent);
-  void ShowParts(const QString& row);
+  void ShowParts(const QStringList& cells);
   void FillSeries();
   // The row to select for the mounted code; -1 when the series does not list it.
   int BuildList(std::int32_t series, std::int32_t mounted);

@@ -6,6 +6,7 @@
 #include "common/Text.h"
 #include "objectives/clsDbNosepiece.h"
 #include "widgets/ComboBox.h"
+#include "widgets/FillNames.h"
 #include "widgets/ListBox.h"
 #include "widgets/ShownName.h"
 #include "widgets/TabStrip.h"
@@ -90,18 +91,13 @@ void ObjectiveOptionCtl::LoadData() {
   ShowObjective(Condensers::Anew);
 }
 
-// The names of the first microscope stay, as those of the model do.
 void ObjectiveOptionCtl::FillLists() {
-  if (ListSeries->rowCount() > 0) return;
-  for (std::int32_t i = 0; i <= objectives_.SeriesCount(); ++i) {
-    ListSeries->addRow(QString::fromStdString(objectives_.Series(i)));
-  }
-  for (std::int32_t i = 0; i <= objectives_.TypesCount(); ++i) {
-    ListType->addRow(QString::fromStdString(objectives_.Types(i)));
-  }
-  for (std::int32_t i = 0; i <= objectives_.MagCount(); ++i) {
-    ListMag->addRow(QString::fromStdString(objectives_.Mag(i)));
-  }
+  FillNames(*ListSeries, objectives_.SeriesCount(),
+            [this](std::int32_t index) { return objectives_.Series(index); });
+  FillNames(*ListType, objectives_.TypesCount(),
+            [this](std::int32_t index) { return objectives_.Types(index); });
+  FillNames(*ListMag, objectives_.MagCount(),
+            [this](std::int32_t index) { return objectives_.Mag(index); });
 }
 
 // All values are taken over before a row is selected, since a new row stores what is shown.

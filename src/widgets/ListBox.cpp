@@ -1,11 +1,15 @@
 #include "widgets/ListBox.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOption>
 
 #include "widgets/ClickFocus.h"
 #include "widgets/RowDelegate.h"
+#include "widgets/StylePrimitives.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -14,6 +18,17 @@ namespace {
 constexpr int kIconSide = 22;
 constexpr int kRowsAskedFor = 6;
 constexpr int kDialogUnits = 4;  // of a character's average width
+
+// Carries the header on above the scroll bar.
+class HeaderCorner : public QWidget {
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+    DrawHeaderSection(option, painter);
+  }
+};
 
 double AverageCharacter(const QFontMetrics& metrics) {
   static const QString kLetters =
@@ -24,7 +39,7 @@ double AverageCharacter(const QFontMetrics& metrics) {
 
 }  // namespace
 
-ListBox::ListBox(QWidget* parent) : QTreeWidget(parent) {
+ListBox::ListBox(QWidget* parent) : QTreeWidget(parent), headerCorner_(new HeaderCorner) {
   setItemDelegate(new RowDelegate(this));
   setRootIsDecorated(false);
   setUniformRowHeights(true);
@@ -32,13 +47,14 @@ ListBox::ListBox(QWidget* parent) : QTreeWidget(parent) {
   setSelectionMode(SingleSelection);
   setSelectionBehavior(SelectRows);
   setEditTriggers(NoEditTriggers);
-  setVerticalScrollMode(ScrollPerPixel);
+  setVerticalScrollMode(ScrollPerItem);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideRight);
   setIndentation(0);
   header()->setSectionsClickable(false);
   header()->setSectionsMovable(false);
   header()->setMinimumSectionSize(16);
+  addScrollBarWidget(headerCorner_, Qt::AlignTop);
   SetColumns({{}});
   connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
     const int row = indexOfTopLevelItem(item);
@@ -88,13 +104,15 @@ void ListBox::SetIconRows(bool iconRows) {
 }
 
 int ListBox::addRow(const QString& text, const QVariant& data) {
+  return addCells({text}, data);
+}
+
+int ListBox::addCells(const QStringList& cells, const QVariant& data) {
   // Complete before the view sees it, which would otherwise look at it at every step.
   auto* item = new QTreeWidgetItem;
-  // A tab that no column asks for belongs to the text.
-  const QStringList parts = columnCount() > 1 ? text.split(QLatin1Char('\t')) : QStringList(text);
-  const int count = qMin(static_cast<int>(parts.size()), columnCount());
+  const int count = qMin(static_cast<int>(cells.size()), columnCount());
   for (int i = 0; i < count; ++i) {
-    item->setText(i, parts[i]);
+    item->setText(i, cells[i]);
     item->setTextAlignment(i, columns_[i].alignment | Qt::AlignVCenter);
   }
   item->setData(0, Qt::UserRole, data);
@@ -123,11 +141,14 @@ void ListBox::clearRows() {
 }
 
 QString ListBox::text(int row) const {
+  return cells(row).join(QLatin1Char('\t'));
+}
+
+QStringList ListBox::cells(int row) const {
   const QTreeWidgetItem* item = topLevelItem(row);
-  if (item == nullptr) return {};
-  QStringList parts;
-  for (int i = 0; i < columnCount(); ++i) parts.append(item->text(i));
-  return parts.join(QLatin1Char('\t'));
+  QStringList cells;
+  for (int i = 0; item != nullptr && i < columnCount(); ++i) cells.append(item->text(i));
+  return cells;
 }
 
 QVariant ListBox::data(int row) const {
@@ -163,7 +184,41 @@ void ListBox::SelectQuietly(int row) {
 
 int ListBox::RowAt(const QMouseEvent& event) const {
   QTreeWidgetItem* item = itemAt(event.position().toPoint());
-  return item == nullptr ? -1 : indexOfTopLevelItem(item);
+  if (item == nullptr || !IsShownWhole(visualItemRect(item))) return -1;
+  return indexOfTopLevelItem(item);
+}
+
+// The first row on show counts as whole in a list that is lower than a row.
+bool ListBox::IsShownWhole(const QRect& row) const {
+  return row.top() <= 0 || row.bottom() <= viewport()->rect().bottom();
+}
+
+void ListBox::updateGeometries() {
+  QTreeWidget::updateGeometries();
+  headerCorner_->setFixedHeight(isHeaderHidden() ? 0 : header()->height());
+}
+
+void ListBox::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                      const QModelIndex& index) const {
+  if (IsShownWhole(option.rect)) QTreeWidget::drawRow(painter, option, index);
+}
+
+// Letters in quick succession are one search; one letter repeated goes from row to row.
+void ListBox::keyboardSearch(const QString& typed) {
+  if (typed.isEmpty()) return;
+  const bool goesOn =
+      sinceKey_.isValid() && sinceKey_.elapsed() <= QApplication::keyboardInputInterval();
+  sinceKey_.start();
+  typed_ = goesOn ? typed_ + typed : typed;
+  const bool repeated = typed_ == QString(typed_.size(), typed_.front());
+  const QString wanted = repeated ? typed_.left(1) : typed_;
+  const int from = repeated ? index() + 1 : qMax(index(), 0);
+  for (int i = 0; i < rowCount(); ++i) {
+    const int row = (from + i) % rowCount();
+    if (!topLevelItem(row)->text(nameColumn_).startsWith(wanted, Qt::CaseInsensitive)) continue;
+    SelectQuietly(row);
+    return;
+  }
 }
 
 // The click is raised after the view has done with the event, so that a handler may rebuild the
@@ -220,8 +275,9 @@ QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex&
 }
 
 QSize ListBox::sizeHint() const {
+  const int header = isHeaderHidden() ? 0 : this->header()->sizeHint().height();
   const int row = GridHeight(grid::kRowHeight, *this);
-  return {QTreeWidget::sizeHint().width(), row * kRowsAskedFor};
+  return {QTreeWidget::sizeHint().width(), 2 * frameWidth() + header + row * kRowsAskedFor};
 }
 
 }  // namespace mortane

@@ -1,6 +1,8 @@
-// A list with item data and, where asked, columns: its rows are tab-separated texts.
+// A list with item data and, where asked, columns.
 #pragma once
 
+#include <QElapsedTimer>
+#include <QStringList>
 #include <QTreeWidget>
 #include <QVariant>
 #include <QVector>
@@ -16,7 +18,7 @@ struct ListColumn {
 
 // selectionChanged() is raised once for each new row, whether the person or the program selects
 // it, and for every click of the person, also on the selected row. Filling, clearing and focus
-// raise nothing.
+// raise nothing. The list scrolls by rows and shows whole rows only.
 class ListBox : public QTreeWidget {
   Q_OBJECT
 
@@ -29,8 +31,13 @@ class ListBox : public QTreeWidget {
   // units: quarters of a character's average width.
   void SetTabStops(const QVector<int>& dialogUnits);
   void SetIconRows(bool iconRows);
+  // Typed letters look for a row by the text of this column; the first one, when not set.
+  void SetNameColumn(int column) { nameColumn_ = column; }
 
+  // One text in the first column.
   int addRow(const QString& text, const QVariant& data = {});
+  // One text in each column; those that are missing stay empty.
+  int addCells(const QStringList& cells, const QVariant& data = {});
   void SetRowIcon(int row, IconName icon);
   // Grey, but as selectable as the others.
   void SetRowDimmed(int row, bool dimmed);
@@ -39,12 +46,16 @@ class ListBox : public QTreeWidget {
   void clearRows();
 
   [[nodiscard]] int rowCount() const { return topLevelItemCount(); }
-  [[nodiscard]] QString text(int row) const;  // columns joined by tabs
+  [[nodiscard]] QString text(int row) const;  // cells joined by tabs
+  [[nodiscard]] QStringList cells(int row) const;
   [[nodiscard]] QVariant data(int row) const;
   void setData(int row, const QVariant& data);
 
   [[nodiscard]] int index() const;  // -1: none
   void setIndex(int row);           // an index that is no row clears the selection
+
+  void keyboardSearch(const QString& typed) override;
+  [[nodiscard]] QSize sizeHint() const override;
 
  signals:
   // Hides a handler of the view, which the view alone calls.
@@ -62,18 +73,25 @@ class ListBox : public QTreeWidget {
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  [[nodiscard]] QSize sizeHint() const override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
   [[nodiscard]] int sizeHintForColumn(int column) const override;
+  void updateGeometries() override;
+  void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
 
   void SelectQuietly(int row);
 
  private:
   [[nodiscard]] int RowAt(const QMouseEvent& event) const;
+  [[nodiscard]] bool IsShownWhole(const QRect& row) const;
 
+  QWidget* headerCorner_;
   QVector<ListColumn> columns_;
   QVector<int> tabStops_;
+  int nameColumn_ = 0;
+  QString typed_;
+  QElapsedTimer sinceKey_;
 };
 
 }  // namespace mortane

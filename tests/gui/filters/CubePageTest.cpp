@@ -54,6 +54,20 @@ TEST_F(CubePage, ListsTheFixedCubesFromCodeNoughtAndTheNamedOptions) {
   EXPECT_EQ(page.List1->data(11).toInt(), 241);
 }
 
+TEST_F(CubePage, ATabInsideANameShiftsNoColumn) {
+  rig.k70().dbFilter.Set_DbFilterOption(1, "Lent\tout", 241, 4, 5);
+  page.LoadData();
+  page.List1->setIndex(11);
+  EXPECT_EQ(parts(), (Texts{"Lent\tout", "387/11", "DM 495", "525/50"}));
+}
+
+TEST_F(CubePage, TypedLettersMountTheCubeOfThatName) {
+  page.List1->setFocus();
+  QTest::keyClicks(page.List1, "ora");
+  EXPECT_EQ(page.LabelName->text(), "Orange");
+  EXPECT_EQ(codeAt(1), selectedCode());
+}
+
 TEST_F(CubePage, OptionalCubesWithoutANameAreNotListed) {
   rig.k70().dbFilter.Set_DbFilterOption(2, "", 1, 1, 1);
   rig.k70().dbFilter.Set_DbFilterOption(3, "   ", 1, 1, 1);

@@ -322,12 +322,13 @@ class ListsPage : public Page {
                        {"N.A.", Qt::AlignRight},
                        {"Name", Qt::AlignLeft}});
     for (int i = 0; i < 20; ++i)
-      items->addRow(QStringLiteral("DIC\t%1x\t0.66\t0.75\tPlan SA %1x DIC").arg((i + 1) * 5));
+      items->addCells({"DIC", QStringLiteral("%1x").arg((i + 1) * 5), "0.66", "0.75",
+                       QStringLiteral("Plan SA %1x DIC").arg((i + 1) * 5)});
     items->setIndex(5);
     row->addWidget(items, 1);
     auto* report = new ReportList({"Switch", "Function"});
-    report->addRow("L (A)\tZ Focus Knob Speed Change");
-    report->addRow("R (A)\tXYstage Knob Speed Change");
+    report->addCells({"L (A)", "Z Focus Knob Speed Change"});
+    report->addCells({"R (A)", "XYstage Knob Speed Change"});
     report->setIndex(0);
     report->SetBoldRow(0);
     report->SetIconRows(true);

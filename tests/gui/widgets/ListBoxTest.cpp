@@ -1,5 +1,9 @@
 #include "widgets/ListBox.h"
 
+#include <QHeaderView>
+#include <QScrollBar>
+#include <utility>
+
 #include "gui/widgets/TestWindow.h"
 
 namespace mortane {
@@ -147,16 +151,21 @@ TEST_F(ListBoxTest, RowsKeepTextAndData) {
   EXPECT_FALSE(list->data(-1).isValid());
 }
 
-TEST_F(ListBoxTest, TabSeparatedTextFillsTheColumns) {
+TEST_F(ListBoxTest, CellsFillTheColumns) {
   list->clearRows();
   list->SetColumns({{"Type", Qt::AlignLeft}, {"Mag.", Qt::AlignRight}, {"Name", Qt::AlignLeft}});
-  list->addRow("DIC\t40x\tPlan");
-  list->addRow("Ph1\t10x");
+  list->addCells({"DIC", "40x", "Plan"});
+  list->addCells({"Ph1", "10x"});
+  list->addCells({"a\tb", "c", "d", "too many"});
+  list->addRow("e\tf");
   EXPECT_FALSE(list->isHeaderHidden());
   EXPECT_EQ(list->topLevelItem(0)->text(1), "40x");
   EXPECT_TRUE(Qt::Alignment(list->topLevelItem(0)->textAlignment(1)).testFlag(Qt::AlignRight));
   EXPECT_EQ(list->text(0), "DIC\t40x\tPlan");
   EXPECT_EQ(list->text(1), "Ph1\t10x\t");
+  EXPECT_EQ(list->cells(2), QStringList({"a\tb", "c", "d"})) << "a tab is part of its cell";
+  EXPECT_EQ(list->cells(3), QStringList({"e\tf", "", ""}));
+  EXPECT_EQ(list->cells(4), QStringList());
 }
 
 TEST_F(ListBoxTest, DimmedRowsCanStillBeSelected) {
@@ -197,6 +206,141 @@ TEST_F(ListBoxTest, RowsAreNeverLowerThanTheGrid) {
   list->SetIconRows(true);
   list->doItemsLayout();
   EXPECT_GE(list->visualItemRect(list->topLevelItem(0)).height(), 36);
+}
+
+class ListBoxSearch : public ListBoxTest {
+ protected:
+  void SetUp() override {
+    ListBoxTest::SetUp();
+    list->clearRows();
+    list->SetColumns({{"Type"}, {"Name"}});
+    list->SetNameColumn(1);
+    for (const auto& [type, name] : {std::pair{"Phase", "Epi 5x"},
+                                     {"Dry", "Plan 10x"},
+                                     {"Oil", "Plan 40x"},
+                                     {"Phase", "Super"},
+                                     {"Dry", "plaster"}})
+      list->addCells({type, name});
+    list->setFocus();
+  }
+};
+
+TEST_F(ListBoxSearch, TypedLettersLookForTheNameAndNotForTheFirstColumn) {
+  QSignalSpy selections(list, &ListBox::selectionChanged);
+  QTest::keyClicks(list, "plan");
+  EXPECT_EQ(list->index(), 1);
+  EXPECT_EQ(Indices(selections), (Rows{1})) << "the row that fits already stays";
+  QTest::keyClicks(list, " 4");
+  EXPECT_EQ(list->index(), 2);
+}
+
+TEST_F(ListBoxSearch, OneLetterRepeatedGoesFromRowToRowAndRoundAgain) {
+  Rows seen;
+  QObject::connect(list, &ListBox::selectionChanged, list, [&](int row) { seen.push_back(row); });
+  QTest::keyClicks(list, "pppp");
+  EXPECT_EQ(seen, (Rows{1, 2, 4, 1}));
+}
+
+TEST_F(ListBoxSearch, AfterAPauseANewSearchBeginsBelow) {
+  const int usual = QApplication::keyboardInputInterval();
+  QApplication::setKeyboardInputInterval(1);
+  QTest::keyClicks(list, "p");
+  QTest::qWait(5);
+  QTest::keyClicks(list, "p");
+  EXPECT_EQ(list->index(), 2);
+  QTest::qWait(5);
+  QTest::keyClicks(list, "s");
+  EXPECT_EQ(list->index(), 3);
+  QApplication::setKeyboardInputInterval(usual);
+}
+
+TEST_F(ListBoxSearch, WhatNoNameBeginsWithSelectsNothing) {
+  QTest::keyClicks(list, "dry");
+  EXPECT_EQ(list->index(), -1);
+  list->keyboardSearch({});
+  EXPECT_EQ(list->index(), -1);
+}
+
+TEST_F(ListBoxTest, TypedLettersInAnEmptyListDoNothing) {
+  list->clearRows();
+  list->setFocus();
+  QTest::keyClicks(list, "a");
+  EXPECT_EQ(list->index(), -1);
+}
+
+// Twenty rows in a list that has room for three and a half.
+class ListBoxRows : public ListBoxTest {
+ protected:
+  void SetUp() override {
+    ListBoxTest::SetUp();
+    for (int i = list->rowCount(); i < 20; ++i) list->addRow(QString::number(i));
+    rowHeight = list->visualItemRect(list->topLevelItem(0)).height();
+    list->setFixedHeight(7 * rowHeight / 2 + 2 * list->frameWidth());
+    QApplication::processEvents();
+  }
+
+  int rowHeight = 0;
+};
+
+TEST_F(ListBoxRows, ARowThatIsCutAtTheBottomIsNotDrawnAndCannotBeClicked) {
+  const QImage picture = list->viewport()->grab().toImage();
+  for (int y = 3 * rowHeight; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      ASSERT_EQ(picture.pixelColor(x, y), list->palette().color(QPalette::Base)) << x << " " << y;
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(8, 3 * rowHeight + 5));
+  EXPECT_EQ(list->index(), -1);
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(8, 3 * rowHeight - 5));
+  EXPECT_EQ(list->index(), 2);
+}
+
+TEST_F(ListBoxRows, ScrollingStopsAtWholeRows) {
+  TurnWheel(list->viewport());
+  EXPECT_GT(list->verticalScrollBar()->value(), 0);
+  EXPECT_EQ(list->visualItemRect(list->topLevelItem(list->verticalScrollBar()->value())).top(), 0);
+  list->setIndex(19);
+  const QRect last = list->visualItemRect(list->topLevelItem(19));
+  EXPECT_EQ(last.bottom(), 3 * rowHeight - 1);
+}
+
+TEST_F(ListBoxRows, AListLowerThanARowShowsItAllTheSame) {
+  list->setFixedHeight(rowHeight / 2 + 2 * list->frameWidth());
+  QApplication::processEvents();
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(8, 4));
+  EXPECT_EQ(list->index(), 0);
+}
+
+TEST_F(ListBoxRows, TheHeaderGoesOnAboveTheScrollBar) {
+  list->SetColumns({{"Name"}});
+  list->setFixedHeight(200);
+  QApplication::processEvents();
+  ASSERT_TRUE(list->verticalScrollBar()->isVisible());
+  const QImage picture = list->grab().toImage();
+  const int y = list->header()->height() / 2;
+  const int beside = list->verticalScrollBar()->mapTo(list, QPoint(5, 0)).x();
+  EXPECT_EQ(picture.pixelColor(beside, y), list->palette().color(QPalette::AlternateBase));
+  EXPECT_GE(list->verticalScrollBar()->mapTo(list, QPoint(0, 0)).y(), list->header()->height());
+}
+
+TEST_F(ListBoxRows, WithoutAHeaderTheScrollBarGoesToTheTop) {
+  EXPECT_LE(list->verticalScrollBar()->mapTo(list, QPoint(0, 0)).y(), list->frameWidth());
+}
+
+TEST_F(ListBoxTest, AsksForRoomForSixRowsUnderItsHeader) {
+  const int row = list->visualItemRect(list->topLevelItem(0)).height();
+  EXPECT_EQ(list->sizeHint().height(), 6 * row + 2 * list->frameWidth());
+  list->SetColumns({{"Name"}});
+  EXPECT_EQ(list->sizeHint().height(),
+            6 * row + 2 * list->frameWidth() + list->header()->sizeHint().height());
+}
+
+TEST_F(ListBoxTest, TurningTheWheelOverAListDoesNotBringTheFocus) {
+  for (int i = 0; i < 20; ++i) list->addRow("more");
+  const QPoint at(8, 8);
+  QWheelEvent turn(at, list->viewport()->mapToGlobal(at), {}, {0, -120}, Qt::NoButton,
+                   Qt::NoModifier, Qt::NoScrollPhase, false);
+  QSpontaneKeyEvent::setSpontaneous(&turn);
+  qApp->notify(list->viewport(), &turn);
+  EXPECT_TRUE(other->hasFocus());
 }
 
 }  // namespace

@@ -9,8 +9,8 @@ class ReportListTest : public ::testing::Test {
  protected:
   void SetUp() override {
     list = window.Add<ReportList>(QStringList{"Switch", "Function"});
-    list->addRow("L (A)\tZ Escape");
-    list->addRow("R (A)\tDIA Lamp Preset");
+    list->addCells({"L (A)", "Z Escape"});
+    list->addCells({"R (A)", "DIA Lamp Preset"});
   }
 
   TestWindow window;

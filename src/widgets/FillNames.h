@@ -1,0 +1,20 @@
+// Fills a list with the names that a unit knows by their index.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+#include "widgets/ListBox.h"
+
+namespace mortane {
+
+// Names 0 to `highest`. A list that holds as many keeps its rows: the names of the first microscope
+// stay as long as the program runs, but those that came later than the page are taken.
+template <typename NameOf>
+void FillNames(ListBox& list, std::int32_t highest, NameOf nameOf) {
+  if (list.rowCount() == highest + 1) return;
+  list.clearRows();
+  for (std::int32_t i = 0; i <= highest; ++i) list.addRow(QString::fromStdString(nameOf(i)));
+}
+
+}  // namespace mortane
