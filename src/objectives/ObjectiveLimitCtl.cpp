@@ -20,9 +20,14 @@ constexpr int kStageDown = 2;
 constexpr std::int32_t kControllerWithoutStageDown = 5;
 constexpr int kOptionColumn = 200;
 
+// A blank that the given text begins with stands before the edge, in line with the other captions.
 QLabel* NamedCaption(const char* name, const char* text, QWidget* parent) {
   QLabel* label = Named(CaptionLabel(QLatin1String(text), parent), name);
   label->setWordWrap(true);
+  if (text[0] == ' ') {
+    label->setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);  // that allows none below 0
+    label->setContentsMargins(-label->fontMetrics().horizontalAdvance(u' '), 0, 0, 0);
+  }
   return label;
 }
 

@@ -17,6 +17,7 @@ constexpr double kMostScale = 1.5;
 constexpr double kTextGap = 7;
 constexpr double kElbow = 26;
 constexpr double kDotRadius = 5;
+constexpr double kDisabledOpacity = 0.4;  // of the body; labels and dots have the disabled colours
 
 enum class Side { Left, Right };
 
@@ -82,9 +83,10 @@ double ExtraOnSide(const QVector<DrawnAccessory>& accessories, Side side, double
   return extra;
 }
 
-void DrawDot(QPainter& painter, QPointF at, int mounted, const QPalette& palette) {
+void DrawDot(QPainter& painter, QPointF at, int mounted, const QPalette& palette, bool enabled) {
   const QColor background = palette.color(QPalette::Base);
-  const QColor mark = palette.color(QPalette::Active, QPalette::Highlight);
+  const QColor mark = enabled ? palette.color(QPalette::Active, QPalette::Highlight)
+                              : palette.color(QPalette::Disabled, QPalette::Text);
   painter.setPen(Qt::NoPen);
   painter.setBrush(background);
   painter.drawEllipse(at, kDotRadius + 1.6, kDotRadius + 1.6);
@@ -148,7 +150,9 @@ void MicroscopeDrawing::paintEvent(QPaintEvent*) {
   const QPointF origin((width() - whole) / 2 + left * scale,
                        (height() - kDesign.height() * scale) / 2);
   QSvgRenderer body(InkedDrawing(palette()));
+  if (!isEnabled()) painter.setOpacity(kDisabledOpacity);
   body.render(&painter, QRectF(origin, kDesign * scale));
+  painter.setOpacity(1);
 
   const auto place = [&](double x, double y) { return origin + QPointF(x, y) * scale; };
   const double labelLeft = (width() - whole) / 2;
@@ -161,20 +165,18 @@ void MicroscopeDrawing::paintEvent(QPaintEvent*) {
     const double y = place(0, anchor->labelY).y();
     const double advance = fontMetrics().horizontalAdvance(accessory.label);
     const double textLeft = onLeft ? labelLeft : labelRight - advance;
-    const QColor line =
-        palette().color(accessory.mounted == 0 ? QPalette::Disabled : QPalette::Active,
-                        accessory.mounted == 0 ? QPalette::Text : QPalette::Dark);
-    QPen pen(line, 1);
+    const bool live = accessory.mounted != 0 && isEnabled();
+    const QPalette::ColorGroup group = live ? QPalette::Active : QPalette::Disabled;
+    QPen pen(palette().color(group, live ? QPalette::Dark : QPalette::Text), 1);
     if (accessory.mounted == 0) pen.setDashPattern({4, 3});
     painter.setPen(pen);
     const double from = onLeft ? textLeft + advance + kTextGap : textLeft - kTextGap;
     const double elbow = dot.x() + (onLeft ? -kElbow : kElbow) * scale;
     painter.drawPolyline(QPolygonF{{from, y}, {elbow, y}, dot});
-    painter.setPen(palette().color(accessory.mounted == 0 ? QPalette::Disabled : QPalette::Active,
-                                   QPalette::WindowText));
+    painter.setPen(palette().color(group, QPalette::WindowText));
     painter.drawText(QRectF(textLeft, y - 20, advance + 2, 40), Qt::AlignLeft | Qt::AlignVCenter,
                      accessory.label);
-    DrawDot(painter, dot, accessory.mounted, palette());
+    DrawDot(painter, dot, accessory.mounted, palette(), isEnabled());
   }
 }
 

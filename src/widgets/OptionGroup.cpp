@@ -1,6 +1,6 @@
 #include "widgets/OptionGroup.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QRadioButton>
 #include <algorithm>
 
@@ -8,6 +8,14 @@
 #include "widgets/Named.h"
 
 namespace mortane {
+namespace {
+
+bool IsUsable(const QAbstractButton* button) {
+  const bool hidden = button->isHidden() && button->testAttribute(Qt::WA_WState_ExplicitShowHide);
+  return button->isEnabled() && !hidden;
+}
+
+}  // namespace
 
 OptionGroup::OptionGroup(QObject* parent) : QObject(parent) {
   connect(&group_, &QButtonGroup::idToggled, this, [this] { UpdateTabStop(); });
@@ -44,6 +52,9 @@ void OptionGroup::clear() {
 
 bool OptionGroup::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
+    case QEvent::KeyPress:
+      if (ChooseEnd(static_cast<const QKeyEvent&>(*event).key())) return true;
+      break;
     case QEvent::EnabledChange:
     case QEvent::ShowToParent:
     case QEvent::HideToParent:
@@ -55,16 +66,26 @@ bool OptionGroup::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
+// Home and End; at the end itself they change nothing.
+bool OptionGroup::ChooseEnd(int key) {
+  if (key != Qt::Key_Home && key != Qt::Key_End) return false;
+  QAbstractButton* end = nullptr;
+  for (QAbstractButton* button : buttons_) {
+    if (end != nullptr && key == Qt::Key_Home) break;
+    if (IsUsable(button)) end = button;
+  }
+  if (end == nullptr || end->hasFocus()) return true;
+  end->setFocus();
+  end->click();
+  return true;
+}
+
 // Tab comes to the selected option, or to the first that can be used.
 void OptionGroup::UpdateTabStop() {
-  const auto usable = [](const QAbstractButton* button) {
-    const bool hidden = button->isHidden() && button->testAttribute(Qt::WA_WState_ExplicitShowHide);
-    return button->isEnabled() && !hidden;
-  };
   const auto checked = buttons_.indexOf(group_.checkedButton());
   auto stop = checked;
-  if (checked < 0 || !usable(buttons_[checked]))
-    stop = std::find_if(buttons_.begin(), buttons_.end(), usable) - buttons_.begin();
+  if (checked < 0 || !IsUsable(buttons_[checked]))
+    stop = std::find_if(buttons_.begin(), buttons_.end(), IsUsable) - buttons_.begin();
   for (qsizetype i = 0; i < buttons_.size(); ++i)
     buttons_[i]->setFocusPolicy(i == stop ? Qt::TabFocus : Qt::NoFocus);
 }

@@ -11,7 +11,8 @@ class QRadioButton;
 namespace mortane {
 
 // selectionChanged() is raised for every click of the person, and for a new selection that the
-// program makes; clearing raises nothing. The buttons form one Tab stop with arrows inside.
+// program makes; clearing raises nothing. The buttons form one Tab stop; arrows, Home and End
+// choose inside.
 class OptionGroup : public QObject {
   Q_OBJECT
 
@@ -35,6 +36,7 @@ class OptionGroup : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool ChooseEnd(int key);
   void UpdateTabStop();
 
   QButtonGroup group_;

@@ -56,7 +56,8 @@ void PageHeader::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const double top = kAboveLine + (height() - kAboveLine - kIconSize) / 2.0;
   DrawIcon(painter, icon_, QRectF(0, top, kIconSize, kIconSize),
-           {palette().color(QPalette::WindowText), ToneColor(Tone::IconAccent)});
+           {palette().color(QPalette::WindowText),
+            isEnabled() ? ToneColor(Tone::IconAccent) : QColor()});
 }
 
 QVBoxLayout* MakePageLayout(QWidget* page, PageHeader* header) {

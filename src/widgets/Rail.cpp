@@ -44,25 +44,38 @@ void Rail::SetPageEnabled(int index, bool enabled) {
 }
 
 bool Rail::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Up || key == Qt::Key_Down) {
-      MoveFocus(key == Qt::Key_Up ? -1 : 1);
-      return true;
-    }
-  }
+  if (event->type() == QEvent::KeyPress && MoveFocus(static_cast<QKeyEvent*>(event)->key()))
+    return true;
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) UpdateTabStop();
   return QWidget::eventFilter(watched, event);
 }
 
-void Rail::MoveFocus(int step) {
+// To the next button that can be used, in the direction of the key; false for another key.
+bool Rail::MoveFocus(int key) {
+  int focused = 0;
+  while (focused < count() && !buttons_[focused]->hasFocus()) ++focused;
   int index = 0;
-  while (index < count() && !buttons_[index]->hasFocus()) ++index;
-  for (index += step; index >= 0 && index < count(); index += step) {
-    if (!buttons_[index]->isEnabled()) continue;
-    buttons_[index]->setFocus(step < 0 ? Qt::BacktabFocusReason : Qt::TabFocusReason);
-    return;
+  int step = 1;
+  switch (key) {
+    case Qt::Key_Up:
+      index = focused - 1;
+      step = -1;
+      break;
+    case Qt::Key_Down:
+      index = focused + 1;
+      break;
+    case Qt::Key_Home:
+      break;
+    case Qt::Key_End:
+      index = count() - 1;
+      step = -1;
+      break;
+    default:
+      return false;
   }
+  while (index >= 0 && index < count() && !buttons_[index]->isEnabled()) index += step;
+  if (index >= 0 && index < count()) buttons_[index]->setFocus();
+  return true;
 }
 
 // Tab comes to the button of the page on show, or to the first that can be used, and leaves the

@@ -10,7 +10,7 @@ namespace mortane {
 
 class PageButton;
 
-// One Tab stop. Up and Down only move the focus, Space selects.
+// One Tab stop. Up, Down, Home and End only move the focus, Space selects.
 class Rail : public QWidget {
   Q_OBJECT
 
@@ -34,7 +34,7 @@ class Rail : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void MoveFocus(int step);
+  bool MoveFocus(int key);
   void UpdateTabStop();
 
   QVector<PageButton*> buttons_;

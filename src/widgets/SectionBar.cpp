@@ -49,13 +49,14 @@ void SectionOption::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool chosen = isChecked();
+  // A window that is busy is disabled as a whole, and still shows which section is chosen.
+  const bool amber = chosen && isEnabledTo(window());
   // Neighbours share their line: each but the first begins on the last pixel of the one before.
   const QRectF area = QRectF(rect()).adjusted(first_ ? 0.5 : -0.5, 0.5, -0.5, -0.5);
   QColor fill = palette().color(QPalette::Button);
   if (isEnabled() && underMouse()) fill = palette().color(QPalette::Midlight);
-  if (chosen && isEnabled()) fill = ToneColor(Tone::Amber);
-  painter.setPen(chosen && isEnabled() ? ToneColor(Tone::Amber).darker(118)
-                                       : palette().color(QPalette::Mid));
+  if (amber) fill = ToneColor(Tone::Amber);
+  painter.setPen(amber ? ToneColor(Tone::Amber).darker(118) : palette().color(QPalette::Mid));
   painter.setBrush(fill);
   painter.drawPath(OptionShape(area, first_, last_));
   if (hasFocus()) {
@@ -64,8 +65,7 @@ void SectionOption::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 4, 4);
   }
   painter.setFont(chosen ? BoldFont() : font());
-  painter.setPen(chosen && isEnabled() ? ToneColor(Tone::OnAmber)
-                                       : palette().color(QPalette::ButtonText));
+  painter.setPen(amber ? ToneColor(Tone::OnAmber) : palette().color(QPalette::ButtonText));
   painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }
 

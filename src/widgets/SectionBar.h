@@ -26,7 +26,7 @@ class SectionOption : public QAbstractButton {
   bool last_ = false;
 };
 
-// One Tab stop; arrows move and choose. A hidden option closes up, and the ends stay round.
+// One Tab stop; arrows, Home and End choose. A hidden option closes up, and the ends stay round.
 class SectionBar : public QWidget {
   Q_OBJECT
 

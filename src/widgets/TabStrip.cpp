@@ -62,9 +62,19 @@ void TabStrip::keyPressEvent(QKeyEvent* event) {
   const int before = currentIndex();
   {
     const QSignalBlocker quiet(this);
-    QTabBar::keyPressEvent(event);
+    if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End) {
+      GoToEnd(event->key() == Qt::Key_End);
+    } else {
+      QTabBar::keyPressEvent(event);
+    }
   }
   if (currentIndex() != before) emit chosen(currentIndex());
+}
+
+void TabStrip::GoToEnd(bool last) {
+  int index = last ? count() - 1 : 0;
+  while (index >= 0 && index < count() && !isTabEnabled(index)) index += last ? -1 : 1;
+  setCurrentIndex(index);
 }
 
 // Turning the wheel over a strip is scrolling the page, not choosing.

@@ -34,6 +34,9 @@ class TabStrip : public QTabBar {
   void paintEvent(QPaintEvent* event) override;
   [[nodiscard]] QSize tabSizeHint(int index) const override;
   [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
+
+ private:
+  void GoToEnd(bool last);
 };
 
 }  // namespace mortane

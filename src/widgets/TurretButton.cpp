@@ -15,7 +15,9 @@ constexpr double kHaloOutside = 5.5;
 constexpr double kFocusOutside = 7;
 constexpr double kTileCorner = 4;
 constexpr double kTextMargin = 4;
-constexpr double kCubeIcon = 20;
+constexpr double kGlyphMargin = 3;
+constexpr double kLargestGlyph = 34;
+constexpr double kShareOfGlyph = 0.5;  // of the height of a tile
 constexpr double kShareOfRing = 0.18;
 constexpr double kLeastRing = 3;
 constexpr double kMostRing = 5;
@@ -93,10 +95,6 @@ void TurretButton::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Up:
       emit stepped(-1);
       return;
-    case Qt::Key_Home:
-    case Qt::Key_End:
-      emit jumped(event->key() == Qt::Key_End);
-      return;
     default:
       QAbstractButton::keyPressEvent(event);
   }
@@ -152,12 +150,12 @@ void TurretButton::PaintCube(QPainter& painter, const QRectF& place) const {
   const QFont font = FontThatFits(item_.mark, place.width() - 2 * kTextMargin);
   painter.setFont(font);
   painter.setPen(palette().color(QPalette::WindowText));
-  const QRectF upper = place.adjusted(kTextMargin, 1, -kTextMargin, -place.height() * 0.42);
+  const double side = qMin(kLargestGlyph, place.height() * kShareOfGlyph);
+  const QRectF upper = place.adjusted(kTextMargin, 1, -kTextMargin, -side - kGlyphMargin);
   painter.drawText(upper, Qt::AlignCenter,
                    QFontMetricsF(font).elidedText(item_.mark, Qt::ElideRight, upper.width()));
-  const double side = qMin(kCubeIcon, place.height() * 0.4);
   DrawIcon(painter, IconName::Cube,
-           QRectF(place.center().x() - side / 2, place.bottom() - side - 3, side, side),
+           QRectF(place.center().x() - side / 2, place.bottom() - side - kGlyphMargin, side, side),
            {palette().color(QPalette::WindowText), ToneColor(Tone::IconAccent)});
 }
 

@@ -11,7 +11,7 @@ namespace mortane {
 // Ring colours as objectives bear them; the drawing's line for a magnification without one.
 Tone RingTone(double magnification);
 
-// Keys go on along the turret: Right and Down clockwise, Left and Up back, Home and End.
+// Keys go on along the turret: Right and Down clockwise, Left and Up back.
 class TurretButton : public QAbstractButton {
   Q_OBJECT
 
@@ -27,7 +27,6 @@ class TurretButton : public QAbstractButton {
 
  signals:
   void stepped(int steps);  // clockwise
-  void jumped(bool toLast);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

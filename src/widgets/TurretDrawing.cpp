@@ -70,8 +70,6 @@ void TurretDrawing::MakeButton(int index) {
           [this, index] { update(NumberArea(index).toAlignedRect()); });
   connect(button, &TurretButton::stepped, this,
           [this, index](int steps) { Choose((index + steps + count_) % count_); });
-  connect(button, &TurretButton::jumped, this,
-          [this](bool toLast) { Choose(toLast ? count_ - 1 : 0); });
   buttons_.append(button);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QFrame>
+#include <QLabel>
 #include <QTest>
 
 #include "gui/objectives/ObjectivePages.h"
@@ -183,6 +184,20 @@ TEST(LimitPage, ArrowsMoveInsideAGroupAndStore) {
   QTest::keyClick(page.optPreventIncrease->button(0), Qt::Key_Right);
   EXPECT_EQ(rig.k70().curLimit.curIncrease, 1);
   EXPECT_TRUE(page.optPreventIncrease->button(1)->hasFocus());
+}
+
+// Where the first letter of a label stands, from the left edge of the page.
+int TextStart(const QLabel& label, const QWidget& page) {
+  const QString text = label.text();
+  const int blank = text.startsWith(' ') ? label.fontMetrics().horizontalAdvance(' ') : 0;
+  return label.mapTo(&page, QPoint(label.contentsMargins().left() + blank, 0)).x();
+}
+
+TEST(LimitPage, ExplanationsBeginAtOneEdgeWhateverTheirTextBeginsWith) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
+  EXPECT_EQ(TextStart(*page.Label8, page), TextStart(*page.Label9, page));
+  EXPECT_EQ(TextStart(*page.Label10, page), TextStart(*page.Label9, page));
 }
 
 }  // namespace

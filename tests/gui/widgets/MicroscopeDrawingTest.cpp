@@ -46,6 +46,46 @@ TEST(MicroscopeDrawing, AnUnknownAccessoryIsLeftOut) {
   EXPECT_EQ(Picture(more), Picture(All(2)));
 }
 
+// The strongest colour of a picture; greys have none.
+int HighestSaturation(const QImage& picture) {
+  int highest = 0;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      highest = qMax(highest, picture.pixelColor(x, y).hsvSaturation());
+  return highest;
+}
+
+TEST(MicroscopeDrawing, LooksDisabledWithItsWindow) {
+  QWidget window;
+  MicroscopeDrawing drawing(&window);
+  drawing.resize(620, 400);
+  drawing.SetAccessories(All(2));
+  const QImage live = drawing.grab().toImage();
+  const QColor dot = drawing.palette().color(QPalette::Highlight);
+  window.setEnabled(false);
+  const QImage disabled = drawing.grab().toImage();
+  EXPECT_LT(HighestSaturation(disabled), HighestSaturation(live) * 2 / 3);
+  int dots = 0;
+  for (int y = 0; y < disabled.height(); ++y)
+    for (int x = 0; x < disabled.width(); ++x) dots += disabled.pixelColor(x, y) == dot ? 1 : 0;
+  EXPECT_EQ(dots, 0);
+  QVector<DrawnAccessory> none = All(2);
+  for (DrawnAccessory& accessory : none) accessory.label.clear();
+  drawing.SetAccessories(none);
+  EXPECT_NE(drawing.grab().toImage(), disabled) << "the labels are still there";
+}
+
+TEST(MicroscopeDrawing, LabelsOfADisabledDrawingAreGrey) {
+  MicroscopeDrawing drawing;
+  drawing.resize(620, 400);
+  drawing.setEnabled(false);
+  drawing.SetAccessories(All(2));
+  const QColor text = drawing.palette().color(QPalette::Active, QPalette::WindowText);
+  const QImage picture = drawing.grab().toImage();
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) ASSERT_NE(picture.pixelColor(x, y), text);
+}
+
 struct ScaleRow {
   QSize size;
   double scale;

@@ -72,6 +72,19 @@ TEST_F(OptionGroupTest, ArrowsMoveInsideAndTabLeaves) {
   EXPECT_TRUE(after->hasFocus());
 }
 
+TEST_F(OptionGroupTest, HomeAndEndChooseTheFirstAndTheLast) {
+  group->select(1);
+  group->button(1)->setFocus();
+  QSignalSpy selections(group, &OptionGroup::selectionChanged);
+  QTest::keyClick(group->button(1), Qt::Key_End);
+  QTest::keyClick(group->button(2), Qt::Key_Home);
+  QTest::keyClick(group->button(0), Qt::Key_Home);
+  EXPECT_EQ(Indices(selections), (Rows{2, 0}));
+  for (int i = 0; i < group->count(); ++i) group->button(i)->setEnabled(false);
+  QTest::keyClick(group->button(0), Qt::Key_End);
+  EXPECT_EQ(group->selected(), 0);
+}
+
 TEST_F(OptionGroupTest, TabComesToTheSelectedOptionOrToTheFirstThatCanBeUsed) {
   const auto stops = [this] {
     Rows found;

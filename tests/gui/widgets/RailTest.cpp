@@ -90,6 +90,20 @@ TEST_F(RailTest, UpAndDownOnlyMoveTheFocusAndSpaceSelects) {
   EXPECT_EQ(Indices(changes), (Rows{2}));
 }
 
+TEST_F(RailTest, HomeAndEndMoveTheFocusToTheEndsThatCanBeUsed) {
+  rail->select(0);
+  rail->SetPageEnabled(3, false);
+  rail->button(0)->setFocus();
+  QSignalSpy changes(rail, &Rail::selectionChanged);
+  QTest::keyClick(rail->button(0), Qt::Key_End);
+  EXPECT_TRUE(rail->button(2)->hasFocus());
+  QTest::keyClick(rail->button(2), Qt::Key_Down);
+  EXPECT_TRUE(rail->button(2)->hasFocus()) << "nothing below can be used";
+  QTest::keyClick(rail->button(2), Qt::Key_Home);
+  EXPECT_TRUE(rail->button(0)->hasFocus());
+  EXPECT_EQ(changes.count(), 0);
+}
+
 TEST_F(RailTest, IsOneTabStopAtTheSelectedPage) {
   rail->select(2);
   before->setFocus();

@@ -45,6 +45,30 @@ TEST_F(SectionBarTest, TheChosenOptionIsAmberAndTheOthersAreNot) {
   EXPECT_EQ(BackgroundOf(2), bar->palette().color(QPalette::Button));
 }
 
+TEST_F(SectionBarTest, TheChosenOptionStaysAmberWhileTheWindowIsDisabled) {
+  bar->select(1);
+  window.widget().setEnabled(false);
+  EXPECT_EQ(BackgroundOf(1), ToneColor(Tone::Amber));
+  EXPECT_NE(BackgroundOf(0), ToneColor(Tone::Amber));
+  window.widget().setEnabled(true);
+  bar->SetOptionEnabled(1, false);
+  EXPECT_NE(BackgroundOf(1), ToneColor(Tone::Amber)) << "an option that is not offered";
+}
+
+TEST_F(SectionBarTest, HomeAndEndChooseTheEndsThatCanBeUsed) {
+  bar->select(1);
+  bar->option(1)->setFocus();
+  QSignalSpy selections(bar, &SectionBar::selectionChanged);
+  QTest::keyClick(bar->option(1), Qt::Key_End);
+  QTest::keyClick(bar->option(2), Qt::Key_End);
+  bar->SetOptionVisible(0, false);
+  QTest::keyClick(bar->option(2), Qt::Key_Home);
+  EXPECT_TRUE(bar->option(1)->hasFocus());
+  bar->SetOptionEnabled(2, false);
+  QTest::keyClick(bar->option(1), Qt::Key_End);
+  EXPECT_EQ(Indices(selections), (Rows{2, 1}));
+}
+
 TEST_F(SectionBarTest, ADisabledOptionCannotBeChosen) {
   bar->select(0);
   bar->SetOptionEnabled(2, false);

@@ -57,6 +57,17 @@ TEST_F(TabStripTest, ArrowsChooseAndStopAtTheEnds) {
   EXPECT_EQ(Indices(clicks), (Rows{1, 2}));
 }
 
+TEST_F(TabStripTest, HomeAndEndChooseTheEndsThatCanBeUsed) {
+  tabs->setTabEnabled(0, false);
+  tabs->setIndex(1);
+  tabs->setFocus();
+  QSignalSpy choices(tabs, &TabStrip::chosen);
+  QTest::keyClick(tabs, Qt::Key_End);
+  QTest::keyClick(tabs, Qt::Key_End);
+  QTest::keyClick(tabs, Qt::Key_Home);
+  EXPECT_EQ(Indices(choices), (Rows{2, 1}));
+}
+
 TEST_F(TabStripTest, TheFieldIsLeftBeforeTheTabChanges) {
   int tabWhenLeft = -1;
   QObject::connect(field, &TextField::committed, field, [&] { tabWhenLeft = tabs->index(); });
