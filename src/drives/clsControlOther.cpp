@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "controller/ControllerNumbers.h"
 #include "model/UnitReport.h"
 
 namespace mortane {
@@ -12,13 +13,6 @@ using controller::Microscope;
 
 constexpr std::string_view kFailure = "Control Other (";
 constexpr std::int32_t kUnknown = -1;
-
-// Controller units.
-constexpr std::int32_t kBody = 0;
-constexpr std::int32_t kHub = 1;
-constexpr std::int32_t kHandController = 4;
-constexpr std::int32_t kFifthKind = 5;
-constexpr std::int32_t kRemote = 6;
 
 struct Knob {
   std::int32_t accessory;
@@ -48,11 +42,6 @@ constexpr std::array<Knob, 2> kKnobs{{
 enum Slot : std::size_t { kBodySlot, kHubSlot, kHandSlot, kSlots };
 using BuzzerStates = std::array<std::int32_t, kSlots>;
 
-constexpr std::int32_t kBodyBuzzer = 1;
-constexpr std::int32_t kHubBuzzer = 2;
-constexpr std::int32_t kHandBuzzer = 5;
-constexpr std::int32_t kFifthBuzzer = 6;
-
 struct ReadBuzzer {
   std::int32_t unit;
   std::int32_t code;
@@ -62,10 +51,10 @@ struct ReadBuzzer {
 // In this order: the fifth kind of controller takes the place of the hub. The hand controller's
 // buzzer is asked, and its answer not used.
 constexpr std::array<ReadBuzzer, 4> kReadBuzzers{{
-    {kBody, kBodyBuzzer, kBodySlot},
-    {kHub, kHubBuzzer, kHubSlot},
-    {kHandController, kHandBuzzer, kHandSlot},
-    {kFifthKind, kFifthBuzzer, kHubSlot},
+    {controllerunit::kBody, buzzer::kBody, kBodySlot},
+    {controllerunit::kHub, buzzer::kHub, kHubSlot},
+    {controllerunit::kHandController, buzzer::kHandController, kHandSlot},
+    {controllerunit::kFifthKind, buzzer::kFifthKind, kHubSlot},
 }};
 
 struct WrittenBuzzer {
@@ -75,12 +64,18 @@ struct WrittenBuzzer {
 };
 
 constexpr std::array<WrittenBuzzer, 3> kWrittenBuzzers{{
-    {kBody, kBodyBuzzer, "Control Other Buzzer K70"},
-    {kHub, kHubBuzzer, "Control Other Buzzer QH_R"},
-    {kHandController, kHandBuzzer, "Control Other Buzzer Tactor"},
+    {controllerunit::kBody, buzzer::kBody, "Control Other Buzzer K70"},
+    {controllerunit::kHub, buzzer::kHub, "Control Other Buzzer QH_R"},
+    {controllerunit::kHandController, buzzer::kHandController, "Control Other Buzzer Tactor"},
 }};
 // The remote's buzzer answers to the hub's code.
-constexpr WrittenBuzzer kRemoteBuzzer{kRemote, kHubBuzzer, "Control Other Buzzer QH_R"};
+constexpr WrittenBuzzer kRemoteBuzzer{controllerunit::kRemote, buzzer::kHub,
+                                      "Control Other Buzzer QH_R"};
+
+// Their buzzer is compared: more units than WriteSdk commands.
+constexpr std::initializer_list<std::int32_t> kBuzzerUnits{
+    controllerunit::kBody, controllerunit::kHub, controllerunit::kFifthKind,
+    controllerunit::kRemote};
 
 constexpr std::int32_t kBuzzersDiffer = 2;
 
@@ -97,13 +92,15 @@ struct SwitchGroup {
   std::string_view refused;
 };
 
-constexpr SwitchGroup kBodySwitches{kBody, 0, &clsControlOther::curSwEnable,
-                                    "Control Other[Switch]", "Control Other Switch"};
-constexpr SwitchGroup kHandSwitches{kHandController, 4, &clsControlOther::curTactorSwEnable,
+constexpr SwitchGroup kBodySwitches{controllerunit::kBody, switchunit::kBody,
+                                    &clsControlOther::curSwEnable, "Control Other[Switch]",
+                                    "Control Other Switch"};
+constexpr SwitchGroup kHandSwitches{controllerunit::kHandController, switchunit::kHandController,
+                                    &clsControlOther::curTactorSwEnable,
                                     "Control Other[Tactor Switch]", "Control Other TactorSwitch"};
-constexpr SwitchGroup kRemoteSwitches{kRemote, 7, &clsControlOther::curR_TLPOSwEnable,
-                                      "Control Other[B_KM_R Switch]",
-                                      "Control Other B_KM_R Switch"};
+constexpr SwitchGroup kRemoteSwitches{
+    controllerunit::kRemote, switchunit::kRemote, &clsControlOther::curR_TLPOSwEnable,
+    "Control Other[B_KM_R Switch]", "Control Other B_KM_R Switch"};
 constexpr std::array kSwitchGroups{kBodySwitches, kHandSwitches, kRemoteSwitches};
 
 bool HasAnyOf(const ConnectedMicroscope& microscope, std::initializer_list<std::int32_t> units) {
@@ -183,7 +180,8 @@ bool clsControlOther::IsEnable() const {
     return parent.Controller(group.unit) && this->*group.enabled != kUnknown;
   };
   return std::any_of(kKnobs.begin(), kKnobs.end(), knobKnown) ||
-         (HasAnyOf(parent, {kBody, kHub}) && curBuzzer >= 0) || parent.Controller(kFifthKind) ||
+         (HasAnyOf(parent, {controllerunit::kBody, controllerunit::kHub}) && curBuzzer >= 0) ||
+         parent.Controller(controllerunit::kFifthKind) ||
          std::any_of(kSwitchGroups.begin(), kSwitchGroups.end(), switchKnown);
 }
 
@@ -210,7 +208,7 @@ void clsControlOther::ReadControls() {
       this->*group.enabled = parent.Mic.SwitchEnabled(group.switches);
     }
   }
-  if (parent.Controller(kRemote)) curR_TLPOLED = parent.Mic.RemoteLED();
+  if (parent.Controller(controllerunit::kRemote)) curR_TLPOLED = parent.Mic.RemoteLED();
   curBuzzer = readBuzzer_ = BuzzerOfType(parent.curType, states);
 }
 
@@ -231,14 +229,13 @@ void clsControlOther::ListDifferences(std::string& lines) const {
              enabled != parent.Mic.SwitchEnabled(group.switches),
          group.difference);
   }
-  list(parent.Controller(kRemote) && LedDiffers() && IsLed(curR_TLPOLED),
+  list(parent.Controller(controllerunit::kRemote) && LedDiffers() && IsLed(curR_TLPOLED),
        "Control Other[B_KM_R SwitchLED]");
 }
 
-// More controllers than those that WriteSdk commands.
 bool clsControlOther::BuzzerDiffers() const {
-  return HasAnyOf(parent, {kBody, kHub, kFifthKind, kRemote}) && readBuzzer_ != kUnknown &&
-         curBuzzer != kUnknown && curBuzzer != readBuzzer_;
+  return HasAnyOf(parent, kBuzzerUnits) && readBuzzer_ != kUnknown && curBuzzer != kUnknown &&
+         curBuzzer != readBuzzer_;
 }
 
 bool clsControlOther::LedDiffers() const {
@@ -248,7 +245,7 @@ bool clsControlOther::LedDiffers() const {
 std::string clsControlOther::WriteSdk() const {
   std::string report;
   for (const Knob& knob : kKnobs) report = AppendLine(report, WriteKnob(*this, knob));
-  if (HasAnyOf(parent, {kBody, kHub})) {
+  if (HasAnyOf(parent, {controllerunit::kBody, controllerunit::kHub})) {
     for (const WrittenBuzzer& row : kWrittenBuzzers) {
       report = AppendLine(report, WriteBuzzer(*this, row));
     }
@@ -260,7 +257,7 @@ std::string clsControlOther::WriteSdk() const {
 }
 
 std::string clsControlOther::WriteRemote() const {
-  if (!parent.Controller(kRemote)) return {};
+  if (!parent.Controller(controllerunit::kRemote)) return {};
   std::string report = WriteBuzzer(*this, kRemoteBuzzer);
   report = AppendLine(report, WriteSwitches(*this, kRemoteSwitches));
   return AppendLine(report, LineIfFailed("Control Other B_KM_R SwitchLED", [this] {

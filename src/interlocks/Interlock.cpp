@@ -26,18 +26,17 @@ std::string_view WordOf(std::int32_t state) {
 }  // namespace
 
 std::int32_t ReadInterlock(const ConnectedMicroscope& microscope, std::int32_t item,
-                           InterlockTrigger trigger) {
-  return microscope.Mic.ControllerSettings().Interlock(item, static_cast<std::int32_t>(trigger));
+                           std::int32_t cause) {
+  return microscope.Mic.ControllerSettings().Interlock(item, cause);
 }
 
-void WriteInterlock(const ConnectedMicroscope& microscope, std::int32_t item,
-                    InterlockTrigger trigger, std::int32_t state) {
+void WriteInterlock(const ConnectedMicroscope& microscope, std::int32_t item, std::int32_t cause,
+                    std::int32_t state) {
   const controller::ControllerSettings settings = microscope.Mic.ControllerSettings();
-  const auto number = static_cast<std::int32_t>(trigger);
   if (state == kInterlockOn) {
-    settings.SetInterlock(item, number);
+    settings.SetInterlock(item, cause);
   } else {
-    settings.ClearInterlock(item, number);
+    settings.ClearInterlock(item, cause);
   }
 }
 

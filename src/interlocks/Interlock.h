@@ -15,14 +15,6 @@
 
 namespace mortane {
 
-// The change that accessories follow, in the controller's numbers.
-enum class InterlockTrigger : std::int32_t {
-  Observation = 1,
-  OpticalZoom = 2,
-  Nosepiece = 3,
-  LightPath = 4,
-};
-
 // Whether an accessory follows. Unknown was not read, or the accessory takes no part.
 inline constexpr std::int32_t kInterlockUnknown = -1;
 inline constexpr std::int32_t kInterlockOff = 0;
@@ -50,11 +42,12 @@ class InterlockStates {
   std::array<std::int32_t, kCount> states_;
 };
 
-// The controller's interlock of accessory `item`. Both raise what the library raises.
+// The controller's interlock of accessory `item`; `cause` is one of namespace trigger. Both raise
+// what the library raises.
 std::int32_t ReadInterlock(const ConnectedMicroscope& microscope, std::int32_t item,
-                           InterlockTrigger trigger);
-void WriteInterlock(const ConnectedMicroscope& microscope, std::int32_t item,
-                    InterlockTrigger trigger, std::int32_t state);
+                           std::int32_t cause);
+void WriteInterlock(const ConnectedMicroscope& microscope, std::int32_t item, std::int32_t cause,
+                    std::int32_t state);
 
 // An element of a settings file; `state` is nothing when its CODE is none of the three words.
 struct InterlockElement {

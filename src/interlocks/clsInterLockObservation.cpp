@@ -2,19 +2,22 @@
 
 #include <algorithm>
 
+#include "controller/ControllerNumbers.h"
+
 namespace mortane {
 namespace {
 
 constexpr std::string_view kFailure = "InterLock Observation (";
 constexpr std::string_view kRefused = "InterLock Observation[";
-constexpr InterlockTrigger kTrigger = InterlockTrigger::Observation;
+constexpr std::int32_t kCause = trigger::kObservation;
 
 bool HasBody(const ConnectedMicroscope& microscope) {
-  return microscope.Controller(0);
+  return microscope.Controller(controllerunit::kBody);
 }
 
 bool HasUnit5Or6(const ConnectedMicroscope& microscope) {
-  return microscope.Controller(5) || microscope.Controller(6);
+  return microscope.Controller(controllerunit::kFifthKind) ||
+         microscope.Controller(controllerunit::kRemote);
 }
 
 template <typename Visit>
@@ -53,7 +56,7 @@ std::string clsInterLockObservation::ReadSdk() {
   if (!HasBody(parent) && !HasUnit5Or6(parent)) return {};
   return FailureOf(kFailure, [this] {
     ForEachMounted(parent, [this](const ObservationAccessory& row) {
-      states_.Set(row.number, ReadInterlock(parent, row.number, kTrigger));
+      states_.Set(row.number, ReadInterlock(parent, row.number, kCause));
     });
   });
 }
@@ -63,7 +66,7 @@ std::string clsInterLockObservation::ModifySdk(std::string& list) const {
     ForEachWalk(parent, [&](const ObservationAccessory& row, bool named) {
       const std::int32_t state = Status(row.number);
       if (state == kInterlockUnknown) return;
-      if (state == ReadInterlock(parent, row.number, kTrigger) || !named) return;
+      if (state == ReadInterlock(parent, row.number, kCause) || !named) return;
       lines = AppendLine(lines, row.line);
     });
   });
@@ -75,10 +78,10 @@ std::string clsInterLockObservation::WriteSdk() const {
     ErrorTrap trap;
     trap.Run([&] {
       // Read for an unknown state too: a controller that gives no answer is reported.
-      const std::int32_t present = ReadInterlock(parent, row.number, kTrigger);
+      const std::int32_t present = ReadInterlock(parent, row.number, kCause);
       const std::int32_t state = Status(row.number);
       if (state == kInterlockUnknown || state == present) return;
-      WriteInterlock(parent, row.number, kTrigger, state);
+      WriteInterlock(parent, row.number, kCause, state);
     });
     if (trap.TakeFailed() && named) lines = AppendLine(lines, row.line);
   });

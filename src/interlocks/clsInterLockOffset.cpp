@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controller/ControllerNumbers.h"
 #include "interlocks/Interlock.h"
 #include "interlocks/OffsetAccessories.h"
 #include "model/ElementFields.h"
@@ -19,7 +20,7 @@ controller::OffsetDevice DeviceOf(const clsInterLockOffset& unit, const OffsetAc
 // The body alone compensates.
 template <typename Visit>
 void ForEachMounted(const ConnectedMicroscope& microscope, Visit&& visit) {
-  if (!microscope.Controller(0)) return;
+  if (!microscope.Controller(controllerunit::kBody)) return;
   for (const OffsetAccessory& row : kOffsetAccessories) {
     if (IsControllable(microscope, row.number)) visit(row);
   }

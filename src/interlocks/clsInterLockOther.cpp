@@ -3,16 +3,13 @@
 #include <algorithm>
 
 #include "common/Numbers.h"
+#include "controller/ControllerNumbers.h"
 #include "interlocks/OtherAccessories.h"
 
 namespace mortane {
 namespace {
 
 constexpr std::string_view kFailure = "InterLock Other (";
-
-constexpr std::int32_t kBody = 0;
-constexpr std::int32_t kHub = 1;
-constexpr std::int32_t kVersionOfBody = 1;
 
 // From this version on a body also lets ND filter and field stop follow light path and zoom.
 constexpr double kFirstVersionWithStops = 1.3;
@@ -40,7 +37,7 @@ bool HasPathEntry(const OtherAccessory& row) {
 struct clsInterLockOther::Change {
   std::int32_t accessory;     // that changes
   std::int32_t leastMounted;  // of it, for others to follow
-  InterlockTrigger trigger;
+  std::int32_t cause;         // one of namespace trigger
   States clsInterLockOther::*states;
   bool (OtherAccessory::*isFollowed)() const;
   bool (*hasEntry)(const OtherAccessory&);  // that is taken from a settings file
@@ -62,7 +59,7 @@ struct clsInterLockOther::Change {
 constexpr clsInterLockOther::Change clsInterLockOther::kNosepiece{
     accessory::kNosepiece,
     kControllable,
-    InterlockTrigger::Nosepiece,
+    trigger::kNosepiece,
     &clsInterLockOther::status_,
     &OtherAccessory::FollowsNosepiece,
     HasNosepieceEntry,
@@ -75,7 +72,7 @@ constexpr clsInterLockOther::Change clsInterLockOther::kNosepiece{
 constexpr clsInterLockOther::Change clsInterLockOther::kLightPath{
     accessory::kLightPath,
     kSensorOnly,
-    InterlockTrigger::LightPath,
+    trigger::kLightPath,
     &clsInterLockOther::lightPathStatus_,
     &OtherAccessory::FollowsPath,
     HasPathEntry,
@@ -87,7 +84,7 @@ constexpr clsInterLockOther::Change clsInterLockOther::kLightPath{
 
 constexpr clsInterLockOther::Change clsInterLockOther::kZoom{
     accessory::kOpticalZoom,         kSensorOnly,
-    InterlockTrigger::OpticalZoom,   &clsInterLockOther::zoomStatus_,
+    trigger::kOpticalZoom,           &clsInterLockOther::zoomStatus_,
     &OtherAccessory::FollowsPath,    HasPathEntry,
     clsInterLockOther::kZoomElement, "InterLock Zoom[",
     "InterLock Optical Zoom [",      "InterLock Other [Optical Zoom : ",
@@ -103,7 +100,7 @@ bool clsInterLockOther::TakesPart(const Change& change, const OtherAccessory& fo
 bool clsInterLockOther::Differs(const Change& change, const OtherAccessory& follower) const {
   const std::int32_t state = (this->*change.states).Get(follower.number);
   return state != kInterlockUnknown &&
-         state != ReadInterlock(parent, follower.number, change.trigger);
+         state != ReadInterlock(parent, follower.number, change.cause);
 }
 
 // Stricter than reading and writing: a zoom or a light path that is only sensed does not enable,
@@ -127,7 +124,8 @@ bool clsInterLockOther::LacksStageInterlock() const {
   double version = 0;
   ErrorTrap trap;
   trap.Run([&] {
-    const std::string text = parent.Mic.ControllerVersion(kVersionOfBody);
+    const std::string text =
+        parent.Mic.ControllerVersion(controllerunit::NumberInLibrary(controllerunit::kBody));
     const std::size_t length = CharacterCount(text);
     if (length > 0) version = ToDouble(LastCharacters(text, length - 1), PointFormat());
   });
@@ -135,16 +133,16 @@ bool clsInterLockOther::LacksStageInterlock() const {
 }
 
 void clsInterLockOther::ReadFollower(const Change& change, std::int32_t follower) {
-  (this->*change.states).Set(follower, ReadInterlock(parent, follower, change.trigger));
+  (this->*change.states).Set(follower, ReadInterlock(parent, follower, change.cause));
 }
 
 // Whether the followers are mounted is not asked.
 void clsInterLockOther::ReadPath(const Change& change) {
   if (!IsPresent(parent, change.accessory)) return;
-  if (!parent.Controller(kBody) && !parent.Controller(kHub)) return;
+  if (!parent.Controller(controllerunit::kBody) && !parent.Controller(controllerunit::kHub)) return;
   ReadFollower(change, accessory::kEpiFieldStop);
-  status_.Set(change.accessory, ReadInterlock(parent, accessory::kEpiFieldStop, change.trigger));
-  if (parent.ReadMicVer(kBody) < kFirstVersionWithStops) return;
+  status_.Set(change.accessory, ReadInterlock(parent, accessory::kEpiFieldStop, change.cause));
+  if (parent.ReadMicVer(controllerunit::kBody) < kFirstVersionWithStops) return;
   ReadFollower(change, accessory::kNDFilter);
   ReadFollower(change, accessory::kDiaFieldStop);
 }
@@ -190,7 +188,7 @@ void clsInterLockOther::WriteFollowers(const Change& change, std::string& lines)
     ErrorTrap trap;
     trap.Run([&] {
       if (!Differs(change, row)) return;
-      WriteInterlock(parent, row.number, change.trigger, (this->*change.states).Get(row.number));
+      WriteInterlock(parent, row.number, change.cause, (this->*change.states).Get(row.number));
     });
     if (trap.TakeFailed()) lines = AppendLine(lines, change.FailedLine(row));
   }

@@ -3,13 +3,13 @@
 #include <array>
 
 #include "common/Numbers.h"
+#include "controller/ControllerNumbers.h"
 #include "model/ElementFields.h"
 #include "switches/ShortNumber.h"
 
 namespace mortane {
 namespace {
 
-constexpr std::int32_t kHandController = 4;
 // Where the positions' keys begin with "1", this one holds the mode.
 constexpr const char* kModeKey = "0";
 
@@ -25,7 +25,7 @@ std::string Label(std::int16_t position) {
 }
 
 constexpr SwitchUnit kSwitches{
-    kHandController, clsControlTactor::SwitchCount, Label,
+    switchunit::kHandController, clsControlTactor::SwitchCount, Label,
     [](std::int16_t position, std::int16_t /*code*/) { return Label(position); }};
 
 // Of the two values of a mode one is 0.
@@ -52,7 +52,7 @@ clsControlTactor::clsControlTactor(ConnectedMicroscope& microscope)
     : parent(microscope), codes_(kSwitches) {}
 
 bool clsControlTactor::IsPresent() const {
-  return parent.Controller(kHandController);
+  return parent.Controller(controllerunit::kHandController);
 }
 
 bool clsControlTactor::HasKnob() const {
@@ -62,7 +62,7 @@ bool clsControlTactor::HasKnob() const {
 // Unlike the switches' codes the mode is a number in full; a text that holds none of 16 bits is 0.
 std::int16_t clsControlTactor::HeldMode() const {
   const std::string text =
-      parent.Mic.ControllerSettings().SwitchFunction(kHandController, kModeKey);
+      parent.Mic.ControllerSettings().SwitchFunction(switchunit::kHandController, kModeKey);
   return ShortOrZero(ToLong(text, PointFormat()));
 }
 
@@ -102,7 +102,7 @@ std::string clsControlTactor::WriteSdk() const {
   std::string failures;
   TryItem(failures, "TactorSwitch Control Mode[", ControlMode, [this] {
     if (ControlMode == HeldMode()) return;
-    parent.Mic.ControllerSettings().SetSwitchFunction(kHandController, kModeKey,
+    parent.Mic.ControllerSettings().SetSwitchFunction(switchunit::kHandController, kModeKey,
                                                       std::to_string(ControlMode));
   });
   if (HasKnob()) {

@@ -1,13 +1,13 @@
 #include "switches/clsDbSwitch.h"
 
 #include "common/DigitCode.h"
+#include "controller/ControllerNumbers.h"
 #include "model/ElementFields.h"
 #include "switches/SwitchFunctions.h"
 
 namespace mortane {
 namespace {
 
-constexpr std::int32_t kBody = 0;
 constexpr std::string_view kFailure = "Switch Function (";
 // The hand controller's word; people know it from the reports of both.
 constexpr std::string_view kRefused = "Tactor[";
@@ -18,7 +18,7 @@ std::string Label(std::int16_t position) {
   return "Switch Function[" + DigitToChar(position) + "]";
 }
 
-constexpr SwitchUnit kSwitches{kBody, clsDbSwitch::SwitchCount, Label,
+constexpr SwitchUnit kSwitches{switchunit::kBody, clsDbSwitch::SwitchCount, Label,
                                [](std::int16_t position, std::int16_t code) {
                                  return Label(position) + " " + DigitToChar(code);
                                }};
@@ -29,18 +29,18 @@ clsDbSwitch::clsDbSwitch(ConnectedMicroscope& microscope) : parent(microscope), 
 
 std::string clsDbSwitch::ReadSdk() {
   codes_.Clear();
-  if (!parent.Controller(kBody)) return {};
+  if (!parent.Controller(controllerunit::kBody)) return {};
   return FailureOf(kFailure, [this] { codes_.Read(parent); });
 }
 
 std::string clsDbSwitch::ModifySdk(std::string& list) const {
-  if (!parent.Controller(kBody)) return {};
+  if (!parent.Controller(controllerunit::kBody)) return {};
   return CollectUnlessFailed(list, kFailure,
                              [this](std::string& lines) { codes_.ListDifferences(parent, lines); });
 }
 
 std::string clsDbSwitch::WriteSdk() const {
-  if (!parent.Controller(kBody)) return {};
+  if (!parent.Controller(controllerunit::kBody)) return {};
   std::string failures;
   codes_.Write(parent, failures);
   return failures;
