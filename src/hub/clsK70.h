@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -103,6 +102,11 @@ class clsK70 : public ConnectedMicroscope {
   void ReadXMLItems(const std::string& fname);
   void ReadXML(const std::string& fname);
   void WriteXML(const std::string& fname);
+  // The same on a document in memory; `name` is the file's in a box. Writing raises a Failure for
+  // a text that XML cannot hold.
+  void ReadItems(const DomDocument& document, const std::string& name);
+  void ReadSections(const DomDocument& document, const std::string& name);
+  void WriteSections(DomDocument& document, std::size_t first = fileitem::kSystem) const;
   // The same for a file with the hand controller's section only.
   void Tactor_ReadXML(const std::string& fname);
   void Tactor_WriteXML(const std::string& fname);
@@ -135,7 +139,8 @@ class clsK70 : public ConnectedMicroscope {
   std::string ReadTurretCounts();
   void Progress(std::size_t stepsDone) const;
 
-  std::optional<DomNode> LoadSettings(const std::string& fname, DomDocument& document);
+  bool Load(const std::string& fname, DomDocument& document);
+  std::vector<DomNode> SectionsOf(const DomDocument& document, const std::string& name);
   std::string ReadSection(std::size_t fileItem, const DomNode& section);
   std::string ReadSystemElement(const DomNode& element);
   void WriteSection(std::size_t fileItem, DomDocument& document, DomNode& root) const;

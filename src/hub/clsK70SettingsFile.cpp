@@ -1,5 +1,6 @@
 // Reading and writing the settings file, section by section.
 #include <algorithm>
+#include <optional>
 
 #include "common/Text.h"
 #include "hub/clsK70.h"
@@ -30,21 +31,24 @@ bool NameMatches(const FileElement& row, const std::string& name) {
 void clsK70::ReadXMLItems(const std::string& fname) {
   fileItems_.fill(0);
   DomDocument document;
-  const std::optional<DomNode> root = LoadSettings(fname, document);
-  if (!root) return;
-  for (const DomNode& child : root->Children()) {
-    if (!child.IsElement()) continue;
-    if (const auto fileItem = FileItemOf(child.Name())) fileItems_[*fileItem] = kWanted;
-  }
+  if (Load(fname, document)) ReadItems(document, fname);
 }
 
 void clsK70::ReadXML(const std::string& fname) {
   DomDocument document;
-  const std::optional<DomNode> root = LoadSettings(fname, document);
-  if (!root) return;
+  if (Load(fname, document)) ReadSections(document, fname);
+}
+
+void clsK70::ReadItems(const DomDocument& document, const std::string& name) {
+  fileItems_.fill(0);
+  for (const DomNode& child : SectionsOf(document, name)) {
+    if (const auto fileItem = FileItemOf(child.Name())) fileItems_[*fileItem] = kWanted;
+  }
+}
+
+void clsK70::ReadSections(const DomDocument& document, const std::string& name) {
   std::string failures;
-  for (const DomNode& child : root->Children()) {
-    if (!child.IsElement()) continue;
+  for (const DomNode& child : SectionsOf(document, name)) {
     const auto fileItem = FileItemOf(child.Name());
     if (fileItem && fileItems_[*fileItem] != 0) {
       failures = AppendLine(std::move(failures), ReadSection(*fileItem, child));
@@ -55,11 +59,10 @@ void clsK70::ReadXML(const std::string& fname) {
 
 void clsK70::Tactor_ReadXML(const std::string& fname) {
   DomDocument document;
-  const std::optional<DomNode> root = LoadSettings(fname, document);
-  if (!root) return;
+  if (!Load(fname, document)) return;
   std::string failures;
-  for (const DomNode& child : root->Children()) {
-    if (child.IsElement() && FileItemOf(child.Name()) == fileitem::kTactor) {
+  for (const DomNode& child : SectionsOf(document, fname)) {
+    if (FileItemOf(child.Name()) == fileitem::kTactor) {
       failures = AppendLine(std::move(failures), ReadSection(fileitem::kTactor, child));
     }
   }
@@ -74,17 +77,22 @@ void clsK70::Tactor_WriteXML(const std::string& fname) {
   SaveSections(fname, fileitem::kTactor, "XML Tactor DataFile Write Error");
 }
 
-// The root element; nothing when the file cannot be used, after a box that says so.
-std::optional<DomNode> clsK70::LoadSettings(const std::string& fname, DomDocument& document) {
-  if (!document.Load(fname)) {
-    prompts().MsgBox("Can't Load Xml", box::kOk);
-    return std::nullopt;
+bool clsK70::Load(const std::string& fname, DomDocument& document) {
+  if (document.Load(fname)) return true;
+  prompts().MsgBox("Can't Load Xml", box::kOk);
+  return false;
+}
+
+// The elements below the root; none for another root, after a box that says so.
+std::vector<DomNode> clsK70::SectionsOf(const DomDocument& document, const std::string& name) {
+  for (const DomNode& root : document.Children()) {
+    if (!root.IsElement() || !EqualsIgnoringCase(root.Name(), kSettingsRoot)) continue;
+    std::vector<DomNode> sections = root.Children();
+    std::erase_if(sections, [](const DomNode& child) { return !child.IsElement(); });
+    return sections;
   }
-  for (const DomNode& child : document.Children()) {
-    if (child.IsElement() && EqualsIgnoringCase(child.Name(), kSettingsRoot)) return child;
-  }
-  prompts().MsgBox(fname + " Other Format", box::kOk);
-  return std::nullopt;
+  prompts().MsgBox(name + " Other Format", box::kOk);
+  return {};
 }
 
 std::string clsK70::ReadSection(std::size_t fileItem, const DomNode& section) {
@@ -122,14 +130,18 @@ void clsK70::WriteSection(std::size_t fileItem, DomDocument& document, DomNode& 
   root.Append(section);
 }
 
-// Writes the sections from index `first` on: all, or only the hand controller's, which is the last.
+// The sections from index `first` on: all, or only the hand controller's, which is the last.
+void clsK70::WriteSections(DomDocument& document, std::size_t first) const {
+  DomNode root = document.CreateElement(kSettingsRoot);
+  for (std::size_t i = first; i < kFileSections.size(); ++i) WriteSection(i, document, root);
+  document.Append(root);
+}
+
 void clsK70::SaveSections(const std::string& fname, std::size_t first,
                           std::string_view failureText) {
   try {
     DomDocument document;
-    DomNode root = document.CreateElement(kSettingsRoot);
-    for (std::size_t i = first; i < kFileSections.size(); ++i) WriteSection(i, document, root);
-    document.Append(root);
+    WriteSections(document, first);
     document.Save(fname);
   } catch (const Failure& failure) {
     prompts().MsgBox(AppendLine(std::string(failureText), failure.Description()), box::kCritical);
