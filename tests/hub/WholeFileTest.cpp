@@ -1,0 +1,114 @@
+// The settings file with the sections of all units.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "platform/AtomicFile.h"
+#include "support/RandomModel.h"
+#include "support/Rig.h"
+
+namespace mortane::test {
+namespace {
+
+constexpr int kRandomModels = 10000;
+
+std::string TextOf(const clsK70& k70) {
+  DomDocument document;
+  k70.WriteSections(document);
+  return document.ToText();
+}
+
+void Read(clsK70& k70, const std::string& text) {
+  DomDocument document;
+  ASSERT_TRUE(document.LoadText(text)) << document.Problem();
+  k70.ReadItems(document, "test.xml");
+  k70.ReadSections(document, "test.xml");
+}
+
+// An element on each line, so that a difference can be seen.
+std::string Split(const std::string& text) {
+  std::string lines;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (i > 0 && text[i] == '<' && text[i - 1] == '>') lines += '\n';
+    lines += text[i];
+  }
+  return lines + '\n';
+}
+
+// This bench's instrument holds values that no settings file may hold.
+constexpr std::string_view kOddValues = "Attic";
+constexpr const char* kRefused =
+    "Nosepiece Optional[3]\r\nFilter Cube Optional Item Exciter[1]\r\n"
+    "Filter Cube Optional Item Dichroic[1]\r\nFilter Cube Optional Item Barrier[1]\r\n"
+    "Condenser Option[2]\r\nTactor[2]\r\nTactor[3]\r\nTactor[4]\r\nTactor[7]\r\nTactor[9]\r\n"
+    "Tactor[ Mode ]Tactor[ Handle ]Tactor[2]Tactor[3]";
+
+// Names lose the blanks at their ends when they are read.
+std::string WithoutBlanksAtEnds(std::string text) {
+  for (std::size_t end = text.find(" \""); end != std::string::npos; end = text.find(" \"")) {
+    text.erase(end, 1);
+  }
+  return text;
+}
+
+// A receive from the instrument with odd values tells of them.
+void ConnectAndReceive(Rig& rig, const std::string& bench) {
+  if (bench == kOddValues) rig.prompts.AcceptAnyBox();
+  rig.ConnectAndReceive();
+  rig.prompts.ClearRecords();
+}
+
+class WholeFile : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(WholeFile, HasTheseBytes) {
+  Rig rig(GetParam());
+  ConnectAndReceive(rig, GetParam());
+  const std::string golden = std::string(MORTANE_GOLDEN_FILES) + "/" + GetParam() + ".xml";
+  // After a change that is meant: MORTANE_WRITE_GOLDEN=1 writes the files anew, for review.
+  if (std::getenv("MORTANE_WRITE_GOLDEN") != nullptr) {
+    WriteFileAtomically(golden, Split(TextOf(rig.k70)));
+  }
+  EXPECT_EQ(Split(TextOf(rig.k70)), ReadWholeFile(golden));
+}
+
+TEST_P(WholeFile, SaysTheSameAgainAfterTheModelThatWroteItHasReadIt) {
+  Rig rig(GetParam());
+  ConnectAndReceive(rig, GetParam());
+  rig.k70.COther.curR_TLPOLED = -1;
+  std::string text = TextOf(rig.k70);
+  Read(rig.k70, text);
+  if (GetParam() == kOddValues) {
+    ASSERT_EQ(rig.prompts.Boxes().size(), 1U);
+    EXPECT_EQ(rig.prompts.Boxes()[0].text, kRefused);
+    text = WithoutBlanksAtEnds(text);
+  }
+  EXPECT_EQ(Split(TextOf(rig.k70)), Split(text));
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Benches, WholeFile, ::testing::ValuesIn(benches::Names()),
+                         [](const auto& row) { return row.param; });
+
+TEST(RandomModels, AreEqualAfterAFile) {
+  const std::vector<std::string> names = benches::Names();
+  for (std::size_t bench = 0; bench < names.size(); ++bench) {
+    Rig source(names[bench]);
+    ConnectAndReceive(source, names[bench]);
+    Rig target(names[bench]);
+    ConnectAndReceive(target, names[bench]);
+    source.k70.COther.curR_TLPOLED = target.k70.COther.curR_TLPOLED = -1;
+    std::mt19937 random(static_cast<std::uint32_t>(bench));
+    const auto count = static_cast<std::size_t>(kRandomModels) / names.size() + 1;
+    for (std::size_t i = 0; i < count; ++i) {
+      MakeRandom(source.k70, random);
+      const std::string text = TextOf(source.k70);
+      Read(target.k70, text);
+      ASSERT_EQ(TextOf(target.k70), text) << names[bench] << " " << i;
+    }
+    EXPECT_TRUE(target.prompts.Boxes().empty()) << names[bench];
+  }
+}
+
+}  // namespace
+}  // namespace mortane::test
