@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "common/Text.h"
 #include "platform/AtomicFile.h"
 #include "support/RandomModel.h"
 #include "support/Rig.h"
@@ -88,6 +89,127 @@ TEST_P(WholeFile, SaysTheSameAgainAfterTheModelThatWroteItHasReadIt) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Benches, WholeFile, ::testing::ValuesIn(benches::Names()),
+                         [](const auto& row) { return row.param; });
+
+// A file cannot hold odd values.
+std::vector<std::string> BenchesWithLegalValues() {
+  std::vector<std::string> names = benches::Names();
+  std::erase(names, std::string(kOddValues));
+  return names;
+}
+
+class LegalFile : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(LegalFile, BringsBackWhatWasChanged) {
+  Rig untouched(GetParam());
+  ConnectAndReceive(untouched, GetParam());
+  untouched.k70.Send();
+
+  Rig rig(GetParam());
+  ConnectAndReceive(rig, GetParam());
+  const std::string text = TextOf(rig.k70);
+  const std::int32_t led = rig.k70.COther.curR_TLPOLED;
+  const std::int32_t buzzer = rig.k70.COther.curBuzzer;
+  std::mt19937 random(1);
+  MakeRandom(rig.k70, random);
+  Read(rig.k70, text);
+  // The LED's words change their meaning on the way, and there is none for buzzers that differ.
+  rig.k70.COther.curR_TLPOLED = led;
+  if (buzzer == 2) rig.k70.COther.curBuzzer = buzzer;
+  EXPECT_EQ(rig.k70.Modify(), "");
+  rig.journal.Clear();
+  rig.k70.Send();
+  EXPECT_EQ(rig.journal.Writes(), untouched.journal.Writes());
+}
+
+INSTANTIATE_TEST_SUITE_P(Benches, LegalFile, ::testing::ValuesIn(BenchesWithLegalValues()),
+                         [](const auto& row) { return row.param; });
+
+// What a file of one instrument leaves to say on another. Rows in the order of looking; an empty
+// list of benches is all of them.
+struct OtherFileRow {
+  std::vector<std::string_view> from;
+  std::vector<std::string_view> to;
+  std::string text;
+};
+
+std::string Find(const std::vector<OtherFileRow>& rows, const std::string& from,
+                 const std::string& to) {
+  const auto holds = [](const std::vector<std::string_view>& names, const std::string& name) {
+    return names.empty() || std::find(names.begin(), names.end(), name) != names.end();
+  };
+  const auto row = std::find_if(rows.begin(), rows.end(), [&](const OtherFileRow& known) {
+    return holds(known.from, from) && holds(known.to, to);
+  });
+  return row == rows.end() ? std::string() : row->text;
+}
+
+// The shell knows no series, so an objective of one is refused.
+const std::string kNoSeries = "Nosepiece Optional[1]\r\nNosepiece Optional[2]";
+const std::vector<OtherFileRow> kReading{
+    {{"Attic"},
+     {"Shell"},
+     kNoSeries +
+         "\r\nNosepiece Optional[3]\r\nNosepiece Optional[7]\r\nNosepiece Optional[8]\r\n"
+         "Nosepiece Optional[9]" +
+         std::string(kRefused).substr(std::string_view("Nosepiece Optional[3]").size())},
+    {{"Attic"}, {}, kRefused},
+    {{"Quay", "Harbour", "Lantern", "Pair", "Outpost", "Deck", "DeckRemote", "Watch"},
+     {"Shell"},
+     kNoSeries}};
+
+// Three records of the attic refuse to be written.
+const std::vector<OtherFileRow> kSending{
+    {{"Attic"}, {"Attic"}, "Nosepiece Optional[9]"},
+    {{}, {"Attic"}, "Nosepiece Optional[7]\r\nNosepiece Optional[8]\r\nNosepiece Optional[9]"},
+    {{"Lantern"}, {"Outpost", "Hollow"}, "Upper Limit lower than Lower Limit."}};
+
+// No buzzer command goes to the fifth kind of controller.
+const std::vector<OtherFileRow> kRemaining{
+    {{"Attic"}, {"Attic"}, "Control FocusDrive[EscapeMode]Z:OFF XY:OFF"},
+    {{"Hub", "Relay", "Shell", "Hollow", "Crowd"},
+     {"Attic"},
+     "Nosepiece Optional[7] \r\nNosepiece Optional[8] "},
+    {{},
+     {"Attic"},
+     "Nosepiece Optional[7] ---------------\r\nNosepiece Optional[8] ---------------"},
+    {{"Lantern", "Hub", "Relay", "Watch", "Hollow", "Attic", "Crowd"},
+     {"Deck", "DeckRemote"},
+     "Control Other[Buzzer]"}};
+
+// The texts of all boxes since the last look.
+std::string Boxes(Rig& rig) {
+  std::string texts;
+  for (const auto& box : rig.prompts.Boxes()) texts = AppendLine(texts, box.text);
+  rig.prompts.ClearRecords();
+  return texts;
+}
+
+class FileOfOther : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(FileOfOther, GoesIntoEveryInstrumentAsFarAsThatHoldsIt) {
+  const std::string& from = GetParam();
+  Rig source(from);
+  ConnectAndReceive(source, from);
+  const std::string text = TextOf(source.k70);
+  for (const std::string& to : benches::Names()) {
+    Rig target(to);
+    target.prompts.AcceptAnyBox();
+    target.ConnectAndReceive();
+    target.prompts.ClearRecords();
+    Read(target.k70, text);
+    EXPECT_EQ(target.journal.CallCount(), 0U) << to;
+    EXPECT_EQ(Boxes(target), Find(kReading, from, to)) << to;
+    target.k70.Send();
+    EXPECT_EQ(Boxes(target), Find(kSending, from, to)) << to;
+    // What was sent stays: after a new receive the same file changes nothing more.
+    target.k70.Receive();
+    Read(target.k70, text);
+    EXPECT_EQ(target.k70.Modify(), Find(kRemaining, from, to)) << to;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Benches, FileOfOther, ::testing::ValuesIn(benches::Names()),
                          [](const auto& row) { return row.param; });
 
 TEST(RandomModels, AreEqualAfterAFile) {
