@@ -1,5 +1,6 @@
 #include "document/DomParser.h"
 
+#include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/xmlerror.h>
 
@@ -21,6 +22,10 @@ struct FreeContext {
   void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
 };
 
+// Each node takes about 120 bytes, whatever it takes in the file: this many are 120 MB, and read in
+// a third of a second. A settings file has some hundred.
+constexpr int kMostNodes = 1000000;
+
 // Keeps the first error that makes a document unusable, from the parser or from the conversion of
 // its encoding, and stops libxml2 from printing to standard error.
 class ErrorCollector {
@@ -33,6 +38,11 @@ class ErrorCollector {
   ErrorCollector& operator=(const ErrorCollector&) = delete;
 
   const std::string& Problem() const { return problem_; }
+
+  bool AddNodes(int count) {
+    nodes_ += count;
+    return nodes_ <= kMostNodes;
+  }
 
   void Refuse(int line, const std::string& reason) {
     if (problem_.empty()) problem_ = "line " + std::to_string(line) + ": " + reason;
@@ -53,12 +63,17 @@ class ErrorCollector {
   void* oldContext_;
   xmlStructuredErrorFunc oldHandler_;
   std::string problem_;
+  int nodes_ = 0;
 };
+
+ErrorCollector& ErrorsOf(const xmlParserCtxt& context) {
+  return *static_cast<ErrorCollector*>(context._private);
+}
 
 void Refuse(void* parser, const char* reason) {
   auto* context = static_cast<xmlParserCtxt*>(parser);
   const int line = context->input == nullptr ? 0 : context->input->line;
-  static_cast<ErrorCollector*>(context->_private)->Refuse(line, reason);
+  ErrorsOf(*context).Refuse(line, reason);
   xmlStopParser(context);
 }
 
@@ -83,6 +98,33 @@ void RefuseAttributeDefault(void* parser, const xmlChar*, const xmlChar*, int, i
                             xmlEnumerationPtr values) {
   xmlFreeEnumeration(values);
   Refuse(parser, "attribute declarations are not allowed");
+}
+
+bool HasRoomFor(void* parser, int nodes) {
+  if (ErrorsOf(*static_cast<xmlParserCtxt*>(parser)).AddNodes(nodes)) return true;
+  Refuse(parser, "too many elements");
+  return false;
+}
+
+// An element and an attribute may each have a text, which is a node of its own.
+void StartElement(void* parser, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri,
+                  int namespaceCount, const xmlChar** namespaces, int attributeCount,
+                  int defaultedCount, const xmlChar** attributes) {
+  if (!HasRoomFor(parser, 2 * (1 + namespaceCount + attributeCount))) return;
+  xmlSAX2StartElementNs(parser, name, prefix, uri, namespaceCount, namespaces, attributeCount,
+                        defaultedCount, attributes);
+}
+
+void AddComment(void* parser, const xmlChar* text) {
+  if (HasRoomFor(parser, 2)) xmlSAX2Comment(parser, text);
+}
+
+void AddInstruction(void* parser, const xmlChar* target, const xmlChar* data) {
+  if (HasRoomFor(parser, 2)) xmlSAX2ProcessingInstruction(parser, target, data);
+}
+
+void AddCharacterData(void* parser, const xmlChar* text, int length) {
+  if (HasRoomFor(parser, 2)) xmlSAX2CDataBlock(parser, text, length);
 }
 
 // Width in bytes of a code unit, told by the byte-order mark or the first character.
@@ -122,6 +164,10 @@ _xmlDoc* ParseXml(std::string_view bytes, std::string& problem) {
   const std::unique_ptr<xmlParserCtxt, FreeContext> context(xmlNewParserCtxt());
   if (context == nullptr) throw std::bad_alloc();
   context->_private = &errors;
+  context->sax->startElementNs = &StartElement;
+  context->sax->comment = &AddComment;
+  context->sax->processingInstruction = &AddInstruction;
+  context->sax->cdataBlock = &AddCharacterData;
   context->sax->getEntity = &RefuseReference;
   context->sax->entityDecl = &RefuseEntity;
   context->sax->unparsedEntityDecl = &RefuseUnparsedEntity;

@@ -221,6 +221,29 @@ TEST(LoadText, FindsANulAmongWideCharacters) {
   }
 }
 
+// The memory that a small file may take is bounded by its nodes.
+TEST(LoadText, RefusesAMillionNodes) {
+  constexpr std::size_t kMost = 499'999;  // with the root, each counted with its text
+  for (const std::string& node : {"<a/>"s, "<!---->"s, "<?a?>"s, "<![CDATA[]]>"s}) {
+    std::string text = "<a>\n";
+    for (std::size_t i = 0; i < kMost; ++i) text += node;
+    DomDocument document;
+    EXPECT_TRUE(document.LoadText(text + "</a>")) << node << document.Problem();
+    EXPECT_FALSE(document.LoadText(text + node + "</a>")) << node;
+    EXPECT_EQ(document.Problem(), "line 2: too many elements") << node;
+    EXPECT_TRUE(document.Children().empty()) << node;
+  }
+}
+
+TEST(LoadText, CountsAttributesAndNamespacesAmongTheNodes) {
+  for (const std::string& attribute : {" b=''"s, " xmlns='n'"s}) {
+    std::string text = "<a>";
+    for (std::size_t i = 0; i < 250'000; ++i) text += "<a" + attribute + "/>";
+    DomDocument document;
+    EXPECT_FALSE(document.LoadText(text + "</a>")) << attribute;
+  }
+}
+
 TEST(Load, NamesTheFileThatCannotBeRead) {
   const test::TempFolder folder;
   for (const std::string& path :
