@@ -2,12 +2,10 @@
 #include <QAction>
 #include <QButtonGroup>
 #include <QGridLayout>
-#include <QLabel>
 #include <QMenuBar>
 #include <QPainter>
 #include <QRadioButton>
 #include <QScreen>
-#include <QStatusBar>
 #include <QToolBar>
 #include <algorithm>
 
@@ -16,7 +14,6 @@
 #include "widgets/CommandKey.h"
 #include "widgets/Page.h"
 #include "widgets/PageButton.h"
-#include "widgets/ProgressLine.h"
 #include "widgets/Rail.h"
 #include "widgets/Theme.h"
 
@@ -51,20 +48,14 @@ QString ElementName(const char* array, std::size_t index) {
 }  // namespace
 
 MortaneMainForm::MortaneMainForm(const FormServices& services, const PageTable& pages)
-    : CommonDialog1{0, "XML File (*.xml)|*.xml", ".xml"},
-      library_(services.library),
-      prompts_(services.prompts),
-      arguments_(services.arguments) {
+    : ProgramForm(services, QLatin1String(kMainTitle)) {
   setObjectName("MortaneMainForm");
-  setWindowTitle(QLatin1String(kMainTitle));
-  setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
   BuildMenus();
   BuildToolbar();
   // The Tab key goes by the order of making: page buttons, page, command keys.
   BuildRail(pages);
   BuildPages(pages, services.k70);
   BuildCommandBar();
-  BuildStatusBar();
   Arrange();
 }
 
@@ -72,7 +63,7 @@ QAction* MortaneMainForm::AddMenuItem(QMenu& menu, const char* name, const QStri
                                       Command command) {
   QAction* item = menu.addAction(text);
   item->setObjectName(QLatin1String(name));
-  connect(item, &QAction::triggered, this, [this, command] { RunCommand(command); });
+  connect(item, &QAction::triggered, this, [this, command] { Run(command); });
   return item;
 }
 
@@ -149,7 +140,7 @@ void MortaneMainForm::BuildCommandBar() {
     if (i == 2) keys->addStretch();
     ImageCommand[i] = new CommandKey(row.icon, row.text, Picture2);
     ImageCommand[i]->setObjectName(ElementName("ImageCommand", i));
-    connect(ImageCommand[i], &CommandKey::commanded, this, [this, &row] { RunCommand(row.run); });
+    connect(ImageCommand[i], &CommandKey::commanded, this, [this, &row] { Run(row.run); });
     keys->addWidget(ImageCommand[i]);
   }
   ImageCommand[2]->setMain(true);
@@ -165,20 +156,6 @@ void MortaneMainForm::BuildPages(const PageTable& pages, clsK70& k70) {
   }
 }
 
-void MortaneMainForm::BuildStatusBar() {
-  StatusBar1 = statusBar();
-  StatusBar1->setObjectName("StatusBar1");
-  StatusBar1->setSizeGripEnabled(false);
-  StatusBar1->setContentsMargins(0, 0, grid::kBetweenColumns, 0);
-  // Panels 1 to 4 stay empty and take no room.
-  versionPanel_ = new QLabel(StatusBar1);
-  versionPanel_->setObjectName("StatusBar1_5");
-  versionPanel_->setFont(CaptionFont());
-  versionPanel_->setForegroundRole(QPalette::PlaceholderText);
-  StatusBar1->addPermanentWidget(versionPanel_);
-  progress_ = new ProgressLine(this);
-}
-
 // The pages lie on top of each other, and one of them is visible.
 void MortaneMainForm::StackPages() {
   auto* stack = new QGridLayout(FrameControl);
@@ -189,18 +166,16 @@ void MortaneMainForm::StackPages() {
 }
 
 void MortaneMainForm::Arrange() {
-  auto* center = new QWidget(this);
-  auto* cells = new QGridLayout(center);
+  auto* content = new QWidget(this);
+  auto* cells = new QGridLayout(content);
   cells->setContentsMargins({});
   cells->setSpacing(0);
   cells->addWidget(PictureMenu, 0, 0, 2, 1);
   cells->addWidget(FrameControl, 0, 1);
   cells->addWidget(Picture2, 1, 1);
-  cells->addWidget(progress_, 1, 0, 1, 2, Qt::AlignBottom);
-  progress_->raise();
   cells->setRowStretch(0, 1);
   cells->setColumnStretch(1, 1);
-  setCentralWidget(center);
+  SetContent(content);
   resize(kDesignSize.boundedTo(screen()->availableSize() * kLargestShareOfScreen));
 }
 

@@ -3,12 +3,12 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLocale>
-#include <QWidget>
 #include <cstdlib>
 #include <iostream>
 #include <optional>
 
 #include "app/BenchSession.h"
+#include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
 #include "common/Failure.h"
 #include "common/Numbers.h"
@@ -42,8 +42,9 @@ int ShowForm(QApplication& application, BenchSession& bench,
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                    &application, [&bench] { bench.Keep(); });
 
-  std::unique_ptr<QWidget> form =
-      kind.makeForm({k70, bench.Library(), prompts, arguments}, prompts);
+  std::unique_ptr<ProgramForm> form = kind.makeForm({k70, bench.Library(), prompts, arguments});
+  prompts.ShowProgressOn(form->Progress());
+  form->Load();
   form->show();
   const int result = QApplication::exec();
   // Pages refer to the model to their end, and the model may have something to say at its own.

@@ -6,17 +6,14 @@
 
 #include "app/FormServices.h"
 
-class QWidget;
-
 namespace mortane {
 
-class QtPrompts;
+class ProgramForm;
 
 // In what one program differs from another.
 struct ProgramKind {
   const char* title;
-  // Makes the window and brings it to its first state; it is shown and destroyed by RunProgram.
-  std::function<std::unique_ptr<QWidget>(const FormServices&, QtPrompts&)> makeForm;
+  std::function<std::unique_ptr<ProgramForm>(const FormServices&)> makeForm;
 };
 
 // The program's exit code: 2 for a bench file that is wrong, told in one line on standard error.

@@ -109,8 +109,7 @@ class BasicAppRig : public RigLibrary {
   void Start() {
     form->Load();
     form->show();
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return !form->isVisible() || form->ImageButton[0]->isEnabled(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form->IsStarted(); }));
     prompts.ClearRecords();
     journal.Clear();
   }

@@ -317,10 +317,7 @@ TEST(Start, SurvivesAFailureOfEachControllerCallInTurn) {
     if (failing > 0) rig.faults.FailCall(failing);
     rig.form->Load();
     rig.form->show();
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-      return !rig.form->isVisible() || rig.form->ImageButton[0]->isEnabled();
-    })) << "call "
-        << failing;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rig.form->IsStarted(); })) << "call " << failing;
     EXPECT_EQ(rig.prompts.PointerBalance(), 0) << "call " << failing;
     return rig.journal.CallCount();
   };

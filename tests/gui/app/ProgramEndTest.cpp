@@ -3,9 +3,9 @@
 
 #include <QApplication>
 #include <QTimer>
-#include <QWidget>
 
 #include "app/Program.h"
+#include "app/ProgramForm.h"
 #include "common/Failure.h"
 #include "hub/clsK70.h"
 
@@ -13,14 +13,19 @@ namespace mortane::test {
 namespace {
 
 // A window whose page looks at the model to the end.
-class LastLook : public QWidget {
+class LastLook : public ProgramForm {
  public:
-  explicit LastLook(clsK70& k70) : k70_(k70) {
+  explicit LastLook(const FormServices& services)
+      : ProgramForm(services, "Mortane"), k70_(services.k70) {}
+  void Load() override {
     QTimer::singleShot(0, this, [] { QCoreApplication::quit(); });
   }
   ~LastLook() override {
     std::fprintf(stderr, "%s\n", &GetK70() == &k70_ ? "the same model" : "another model");
   }
+
+ protected:
+  void OnConnected() override {}
 
  private:
   clsK70& k70_;
@@ -34,10 +39,9 @@ TEST(ProgramEndDeathTest, DestroysTheWindowBeforeTheModel) {
     char simulator[] = "/SIM";
     char* arguments[] = {name, simulator, nullptr};
     qApp->~QApplication();  // it stands on the stack of main, to which this process never returns
-    const int result =
-        RunProgram(2, arguments, {"Mortane", [](const FormServices& services, auto&) {
-                                    return std::make_unique<LastLook>(services.k70);
-                                  }});
+    const int result = RunProgram(2, arguments, {"Mortane", [](const FormServices& services) {
+                                                   return std::make_unique<LastLook>(services);
+                                                 }});
     try {
       GetK70();
       std::fprintf(stderr, "a model is left\n");

@@ -1,0 +1,127 @@
+#include "app/ProgramForm.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QStatusBar>
+#include <QTimer>
+#include <utility>
+
+#include "app/CommandBoundary.h"
+#include "app/ConnectMicroscope.h"
+#include "app/SelScopeDlg.h"
+#include "app/SettingsFiles.h"
+#include "hub/clsK70.h"
+#include "widgets/ProgressLine.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+
+ProgramForm::ProgramForm(const FormServices& services, const QString& title)
+    : StatusBar1(statusBar()), CommonDialog1(SettingsFileQuestion()), services_(services) {
+  setWindowTitle(title);
+  setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
+  BuildStatusBar();
+}
+
+// Panels 1 to 4 stay empty and take no room.
+void ProgramForm::BuildStatusBar() {
+  StatusBar1->setObjectName("StatusBar1");
+  StatusBar1->setSizeGripEnabled(false);
+  StatusBar1->setContentsMargins(0, 0, grid::kBetweenColumns, 0);
+  versionPanel_ = new QLabel(StatusBar1);
+  versionPanel_->setObjectName("StatusBar1_5");
+  versionPanel_->setFont(CaptionFont());
+  versionPanel_->setForegroundRole(QPalette::PlaceholderText);
+  StatusBar1->addPermanentWidget(versionPanel_);
+}
+
+void ProgramForm::SetContent(QWidget* content) {
+  auto* center = new QWidget(this);
+  auto* cell = new QGridLayout(center);
+  cell->setContentsMargins({});
+  cell->addWidget(content, 0, 0);
+  progress_ = new ProgressLine(center);
+  cell->addWidget(progress_, 0, 0, Qt::AlignBottom);
+  progress_->raise();
+  setCentralWidget(center);
+}
+
+void ProgramForm::ShowVersion() {
+  versionPanel_->setText(QStringLiteral(MORTANE_VERSION));
+}
+
+bool ProgramForm::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) Start();
+  return QMainWindow::event(event);
+}
+
+// Some platforms never tell a window that it is active; the first painting stands in for it.
+void ProgramForm::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  Start();
+}
+
+// The start path opens dialogs, so it runs from the event loop and not inside an event.
+void ProgramForm::Start() {
+  if (std::exchange(startBegun_, true)) return;
+  QTimer::singleShot(0, this, [this] {
+    FirstActivation();
+    startEnded_ = true;
+  });
+}
+
+void ProgramForm::FirstActivation() {
+  bool connected = false;
+  RunStep(prompts(), [&] {
+    connected = ConnectMicroscope({GetK70(), services_.library, prompts(), services_.arguments,
+                                   [this] { return std::int32_t{AskDevice()}; }});
+  });
+  if (connected) {
+    OnConnected();
+  } else {
+    Unload();
+  }
+}
+
+void ProgramForm::RunCommand(const std::function<void()>& command) {
+  if (std::exchange(commandRunning_, true)) return;
+  RunStep(prompts(), command);
+  commandRunning_ = false;
+}
+
+std::int16_t ProgramForm::AskDevice() {
+  SelScopeDlg dialog(
+      GetK70(), prompts(),
+      [this](std::int32_t n) { return IsDeviceAvailable(services_.library, n); }, this);
+  dialog.exec();
+  return dialog.Selected;
+}
+
+Answer ProgramForm::AskExit() {
+  return prompts().MsgBox("Exit Setup?\r\nPush OK to Exit.", box::kOkCancel + box::kQuestion,
+                          windowTitle().toStdString());
+}
+
+void ProgramForm::AskAndUnload() {
+  if (AskExit() == Answer::Ok) Unload();
+}
+
+void ProgramForm::Unload() {
+  close();
+}
+
+// Only a person who closes the window is asked: the program's own close and the end of the
+// session come without a question. A request that arrives while a command ends waits for it.
+void ProgramForm::closeEvent(QCloseEvent* event) {
+  if (!event->spontaneous() || qGuiApp->isSavingSession()) return;
+  if (commandRunning_) {
+    event->ignore();
+    QTimer::singleShot(0, this, [this] { RunCommand([this] { AskAndUnload(); }); });
+  } else if (AskExit() != Answer::Ok) {
+    event->ignore();
+  }
+}
+
+}  // namespace mortane

@@ -1,0 +1,77 @@
+// What the windows of the programs do alike: the start path at the first activation, one command
+// at a time, and the question before closing.
+#pragma once
+
+#include <QMainWindow>
+#include <cstdint>
+#include <functional>
+
+#include "app/FormServices.h"
+#include "common/Prompts.h"
+
+class QLabel;
+class QStatusBar;
+
+namespace mortane {
+
+class ProgressLine;
+
+// Made once by the program, which calls Load and shows it. The first activation connects a
+// microscope; when there is none to be had, the window closes itself.
+class ProgramForm : public QMainWindow {
+ public:
+  ProgramForm(const FormServices& services, const QString& title);
+
+  // Brings the controls to their first state.
+  virtual void Load() = 0;
+
+  // Asks nothing, other than the close box.
+  void Unload();
+
+  // Whether the start path has come to its end.
+  bool IsStarted() const { return startEnded_; }
+
+  QStatusBar* StatusBar1;
+  FileQuestion CommonDialog1;
+
+  // The line that shows how far a transfer is.
+  ProgressLine* Progress() const { return progress_; }
+
+ protected:
+  // A microscope is connected, and the model filled from it.
+  virtual void OnConnected() = 0;
+
+  // Everything between tool bar and status bar.
+  void SetContent(QWidget* content);
+  // Writes the program's version into panel 5 of the status bar.
+  void ShowVersion();
+
+  // A command that is asked for while another runs is dropped.
+  void RunCommand(const std::function<void()>& command);
+
+  // The device chosen in the selection dialog, -1 for none.
+  std::int16_t AskDevice();
+  // Closes the window if the person agrees.
+  void AskAndUnload();
+
+  Prompts& prompts() const { return services_.prompts; }
+
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildStatusBar();
+  void Start();
+  void FirstActivation();
+  Answer AskExit();
+
+  FormServices services_;
+  QLabel* versionPanel_ = nullptr;
+  ProgressLine* progress_ = nullptr;
+  bool startBegun_ = false;
+  bool startEnded_ = false;
+  bool commandRunning_ = false;
+};
+
+}  // namespace mortane
