@@ -64,13 +64,20 @@ void MortaneMainForm::OnConnected() {
 void MortaneMainForm::RefreshPages() {
   for (std::size_t i = 0; i < pages_.size(); ++i) {
     Page* page = pages_[i];
-    const bool enabled = page != nullptr && isPageEnabled_[i](GetK70());
-    PictureMenu->SetPageEnabled(static_cast<int>(i), enabled);
+    const bool enabled = page != nullptr && (!isPageEnabled_[i] || isPageEnabled_[i](GetK70()));
+    EnablePage(i, enabled);
     if (!enabled) continue;
     RunStep(prompts(), [page] { page->LoadData(); });
     RunStep(prompts(), [page] { page->SetNosePostiton(); });
     if (i == 0) optMenu[0]->setChecked(true);
   }
+}
+
+// The toolkit would hand the focus of a button that gets disabled to the next control, which is a
+// field that nobody went to.
+void MortaneMainForm::EnablePage(std::size_t index, bool enabled) {
+  if (!enabled && focusWidget() == ImageButton[index]) ImageButton[0]->setFocus();
+  PictureMenu->SetPageEnabled(static_cast<int>(index), enabled);
 }
 
 void MortaneMainForm::OnMenuChanged(std::size_t index) {

@@ -73,6 +73,7 @@ class MortaneMainForm : public ProgramForm {
   void Arrange();
 
   void RefreshPages();
+  void EnablePage(std::size_t index, bool enabled);
   void OnMenuChanged(std::size_t index);
   void ShowPage(Page* page);
   void SaveCurrentPage();

@@ -57,6 +57,8 @@ MortaneMainForm::MortaneMainForm(const FormServices& services, const PageTable& 
   BuildPages(pages, services.k70);
   BuildCommandBar();
   Arrange();
+  // A window that is activated without a focus gives it to the first field, which is then left.
+  ImageButton[0]->setFocus();
 }
 
 QAction* MortaneMainForm::AddMenuItem(QMenu& menu, const char* name, const QString& text,
@@ -113,7 +115,7 @@ void MortaneMainForm::BuildRail(const PageTable& pages) {
     optMenu[i] = new QRadioButton(FrameOptionButton);
     optMenu[i]->setObjectName(ElementName("optMenu", i));
     ImageButton[i] = PictureMenu->button(PictureMenu->AddPage(pages[i].icon, pages[i].title));
-    PictureMenu->SetPageEnabled(static_cast<int>(i), false);
+    PictureMenu->SetPageEnabled(static_cast<int>(i), i == 0);
     connect(optMenu[i], &QRadioButton::toggled, this, [this, i](bool checked) {
       if (checked) OnMenuChanged(i);
     });

@@ -26,8 +26,7 @@ PageTable MainPages() {
        [](MortaneMainForm& form, clsK70& k70) -> Page* {
          return form.SystemSettingsCtl1 =
                     Named(new SystemSettingsCtl(k70, form.FrameControl), "SystemSettingsCtl1");
-       },
-       [](const clsK70&) { return true; }},
+       }},
       {"Objectives", IconName::Objective,
        [](MortaneMainForm& form, clsK70& k70) -> Page* {
          return form.ObjectiveSettingsCtl1 =

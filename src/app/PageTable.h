@@ -19,7 +19,8 @@ struct PageRow {
   IconName icon;
   // The new page, a child of the window's frame of pages.
   std::function<Page*(MortaneMainForm&, clsK70&)> make = {};
-  // Whether the connected microscope has something for the page to show.
+  // Whether the connected microscope has something for the page to show; always, where there is no
+  // rule.
   std::function<bool(const clsK70&)> isEnabled = {};
 };
 
