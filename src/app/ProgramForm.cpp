@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QStatusBar>
 #include <QTimer>
@@ -67,7 +66,7 @@ void ProgramForm::paintEvent(QPaintEvent* event) {
 void ProgramForm::Start() {
   if (std::exchange(startBegun_, true)) return;
   QTimer::singleShot(0, this, [this] {
-    FirstActivation();
+    RunCommand([this] { FirstActivation(); });
     startEnded_ = true;
   });
 }
@@ -89,6 +88,8 @@ void ProgramForm::RunCommand(const std::function<void()>& command) {
   if (std::exchange(commandRunning_, true)) return;
   RunStep(prompts(), command);
   commandRunning_ = false;
+  const bool asked = std::exchange(closeRequested_, false);
+  if (asked && isVisible()) RunCommand([this] { AskAndUnload(); });
 }
 
 std::int16_t ProgramForm::AskDevice() {
@@ -112,13 +113,14 @@ void ProgramForm::Unload() {
   close();
 }
 
-// Only a person who closes the window is asked: the program's own close and the end of the
-// session come without a question. A request that arrives while a command ends waits for it.
+// Only a person who closes the window is asked: the program's own close and the end of the session,
+// which lets the program close its windows, come without a question. A request that comes in while
+// a command runs waits for its end.
 void ProgramForm::closeEvent(QCloseEvent* event) {
-  if (!event->spontaneous() || qGuiApp->isSavingSession()) return;
+  if (!event->spontaneous()) return;
   if (commandRunning_) {
+    closeRequested_ = true;
     event->ignore();
-    QTimer::singleShot(0, this, [this] { RunCommand([this] { AskAndUnload(); }); });
   } else if (AskExit() != Answer::Ok) {
     event->ignore();
   }

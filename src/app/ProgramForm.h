@@ -72,6 +72,7 @@ class ProgramForm : public QMainWindow {
   bool startBegun_ = false;
   bool startEnded_ = false;
   bool commandRunning_ = false;
+  bool closeRequested_ = false;
 };
 
 }  // namespace mortane

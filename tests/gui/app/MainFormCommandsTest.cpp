@@ -324,54 +324,6 @@ TEST(Send, FromThePageOfANamelessControllerWritesNoName) {
   EXPECT_EQ(rig.instrument().name, "NoName");
 }
 
-TEST(Exit, AsksAndStaysWhenCancelled) {
-  CommandRig rig;
-  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Cancel, kMainCaption);
-  rig.Key(3);
-  EXPECT_TRUE(rig.form().isVisible());
-  EXPECT_EQ(Calls(rig.app.prompts).back(), "flush");
-}
-
-TEST(Exit, WithOkClosesWithoutASecondQuestionAndSendsNothing) {
-  CommandRig rig;
-  GetK70().SystemName = "unsent";
-  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption);
-  rig.form().FileMenuExit->trigger();
-  EXPECT_FALSE(rig.form().isVisible());
-  EXPECT_TRUE(rig.app.journal.Writes().empty());
-  EXPECT_TRUE(rig.fakes.calls.empty()) << "nothing is saved";
-}
-
-TEST(CloseBox, AsksTheSameAndIsCancelledUnlessOk) {
-  CommandRig rig;
-  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Cancel, kMainCaption);
-  EXPECT_FALSE(rig.app.RequestClose());
-  rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption);
-  EXPECT_TRUE(rig.app.RequestClose());
-}
-
-TEST(CloseBox, IsNotAskedByTheProgramItself) {
-  CommandRig rig;
-  rig.form().Unload();
-  EXPECT_FALSE(rig.form().isVisible());
-  EXPECT_TRUE(rig.app.prompts.Log().empty());
-}
-
-TEST(CloseBox, UsedDuringACommandWaitsForItsEnd) {
-  CommandRig rig;
-  rig.app.prompts.onCall = [&] {
-    if (rig.app.prompts.Log().back() != "flush") return;
-    EXPECT_FALSE(rig.app.RequestClose());
-    EXPECT_TRUE(rig.app.prompts.Boxes().empty());
-    rig.app.prompts.onCall = {};
-    rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption);
-  };
-  rig.form().MenuConnectReceive->trigger();
-  EXPECT_TRUE(rig.form().isVisible());
-  QTest::qWait(1);
-  EXPECT_FALSE(rig.form().isVisible());
-}
-
 TEST(Commands, DoNotRunWithinEachOther) {
   CommandRig rig;
   rig.app.prompts.onCall = [&] {

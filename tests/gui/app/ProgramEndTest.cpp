@@ -1,13 +1,16 @@
-// The end of a program, in its own process: the window goes before the model that its pages use.
+// The end of a program, in its own process: by the session's end, and in which order things go.
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QTimer>
 
+#include "app/MortaneMainForm.h"
 #include "app/Program.h"
-#include "app/ProgramForm.h"
 #include "common/Failure.h"
+#include "controller/simulator/BenchFile.h"
+#include "controller/simulator/Benches.h"
 #include "hub/clsK70.h"
+#include "support/TempFolder.h"
 
 namespace mortane::test {
 namespace {
@@ -31,17 +34,30 @@ class LastLook : public ProgramForm {
   clsK70& k70_;
 };
 
-// RunProgram makes an application, of which a process has one; so a child runs it.
+constexpr int kAsked = 3;
+
+// RunProgram makes an application, of which a process has one; so a child runs it. A box, which
+// nobody would answer, ends it.
+template <typename Form>
+int RunInChild() {
+  char name[] = "mortane";
+  char* arguments[] = {name, nullptr};
+  qApp->~QApplication();  // it stands on the stack of main, to which this process never returns
+  return RunProgram(1, arguments, {"Mortane", [](const FormServices& services) {
+                                     auto form = std::make_unique<Form>(services);
+                                     auto* watch = new QTimer(form.get());
+                                     QObject::connect(watch, &QTimer::timeout, watch, [] {
+                                       if (QApplication::activeModalWidget()) std::_Exit(kAsked);
+                                     });
+                                     watch->start(0);
+                                     return form;
+                                   }});
+}
+
 TEST(ProgramEndDeathTest, DestroysTheWindowBeforeTheModel) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   const auto run = [] {
-    char name[] = "mortane";
-    char simulator[] = "/SIM";
-    char* arguments[] = {name, simulator, nullptr};
-    qApp->~QApplication();  // it stands on the stack of main, to which this process never returns
-    const int result = RunProgram(2, arguments, {"Mortane", [](const FormServices& services) {
-                                                   return std::make_unique<LastLook>(services);
-                                                 }});
+    const int result = RunInChild<LastLook>();
     try {
       GetK70();
       std::fprintf(stderr, "a model is left\n");
@@ -51,6 +67,35 @@ TEST(ProgramEndDeathTest, DestroysTheWindowBeforeTheModel) {
     std::_Exit(result);
   };
   EXPECT_EXIT(run(), testing::ExitedWithCode(0), "the same model\nno model is left");
+}
+
+// The window of a session that ends as soon as the microscope is connected.
+class LoggedOut : public MortaneMainForm {
+ public:
+  explicit LoggedOut(const FormServices& services) : MortaneMainForm(services) {}
+
+ protected:
+  void OnConnected() override {
+    MortaneMainForm::OnConnected();
+    QTimer::singleShot(0, this, [this] {
+      QEvent end(QEvent::Quit);  // what the session's manager brings about
+      QCoreApplication::sendEvent(qApp, &end);
+      std::fprintf(stderr, isVisible() ? "still there\n" : "closed\n");
+    });
+  }
+};
+
+TEST(ProgramEndDeathTest, BySessionEndClosesTheWindowAndAsksNothing) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto run = [] {
+    auto folder = std::make_unique<TempFolder>();
+    controller::WriteBenchFile(folder->Path("bench.xml"), controller::benches::Named("Harbour"));
+    qputenv("MORTANE_BENCH", folder->Path("bench.xml").c_str());
+    const int result = RunInChild<LoggedOut>();
+    folder.reset();
+    std::_Exit(result);
+  };
+  EXPECT_EXIT(run(), testing::ExitedWithCode(0), "closed");
 }
 
 }  // namespace
