@@ -4,18 +4,16 @@
 #include <QEvent>
 
 namespace mortane {
-namespace {
 
-// Enough for any queue of clicks; only a program that makes events without end gets there.
-constexpr int kLongestFlushMs = 200;
-
-}  // namespace
-
+// Other events may come without end; a round that meets no input has emptied the queue of it.
 void InputFlush::Run() {
   if (running_) return;
   running_ = true;
   QCoreApplication::instance()->installEventFilter(this);
-  QCoreApplication::processEvents(QEventLoop::AllEvents, kLongestFlushMs);
+  do {
+    dropped_ = false;
+    QCoreApplication::processEvents();
+  } while (dropped_);
   QCoreApplication::instance()->removeEventFilter(this);
   running_ = false;
 }
@@ -30,6 +28,7 @@ bool InputFlush::eventFilter(QObject*, QEvent* event) {
     case QEvent::KeyRelease:
     case QEvent::ShortcutOverride:
     case QEvent::Shortcut:
+      dropped_ = true;
       return true;
     default:
       return false;

@@ -6,7 +6,7 @@
 namespace mortane {
 
 // Delivers what is pending into a filter that drops presses, releases, double clicks, moves
-// and keys. The wheel, painting, timers and posted events pass.
+// and keys, until none of these is left. The wheel, painting, timers and posted events pass.
 class InputFlush : public QObject {
  public:
   // A call from within the events that it delivers does nothing.
@@ -17,6 +17,7 @@ class InputFlush : public QObject {
 
  private:
   bool running_ = false;
+  bool dropped_ = false;  // in the present round
 };
 
 }  // namespace mortane

@@ -77,6 +77,7 @@ void MortaneMainForm::DoSend() {
     if (Page* control = pages_[kControlPage]) {
       RunStep(prompts(), [control] { control->SendData(); });
     }
+    repaint();  // over what a box of failures leaves on the display
     prompts().Wait(kWaitAfterSendMs);
   }
   setEnabled(true);

@@ -79,6 +79,7 @@ void QtPrompts::SetPointer(Pointer pointer) {
   } else {
     QApplication::restoreOverrideCursor();
   }
+  ClearEndedProgress();
 }
 
 void QtPrompts::FlushInput() {
@@ -91,11 +92,16 @@ void QtPrompts::Wait(int milliseconds) {
 
 void QtPrompts::ShowProgress(int done, int total) {
   if (!progress_) return;
-  if (done < total) {
-    progress_->setProgress(done, total);
-  } else {
-    progress_->clear();
-  }
+  progress_->setProgress(done, total);
+  progressEnded_ = done >= total;
+  ClearEndedProgress();
+}
+
+// A command may go on working, or wait, after its transfer.
+void QtPrompts::ClearEndedProgress() {
+  if (!progressEnded_ || QApplication::overrideCursor() != nullptr) return;
+  progressEnded_ = false;
+  if (progress_) progress_->clear();
 }
 
 }  // namespace mortane

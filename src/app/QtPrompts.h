@@ -22,7 +22,8 @@ class QtPrompts : public Prompts {
   // `sleep` is the wait of Wait; the program sleeps for real.
   explicit QtPrompts(Sleeper sleep);
 
-  // Where ShowProgress draws; nowhere before a window gives its line.
+  // Where ShowProgress draws; nowhere before a window gives its line. The line of a transfer that
+  // has ended stays whole while the hourglass does.
   void ShowProgressOn(ProgressLine* line);
 
   Answer MsgBox(const std::string& text, int style, const std::string& caption = {}) override;
@@ -37,8 +38,11 @@ class QtPrompts : public Prompts {
   void ShowProgress(int done, int total) override;
 
  private:
+  void ClearEndedProgress();
+
   Sleeper sleep_;
   QPointer<ProgressLine> progress_;
+  bool progressEnded_ = false;
   InputFlush flush_;
 };
 

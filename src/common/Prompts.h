@@ -78,7 +78,8 @@ class Prompts {
   // Blocks the thread; the program handles no input meanwhile.
   virtual void Wait(int milliseconds) = 0;
 
-  // A transfer has finished `done` of `total` units; done == total ends the showing.
+  // A transfer has finished `done` of `total` units; with done == total it has ended, and is shown
+  // no longer than the hourglass.
   virtual void ShowProgress(int done, int total) = 0;
 };
 

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QWheelEvent>
 
 #include "AppRig.h"
 #include "support/TempFolder.h"
@@ -219,84 +218,39 @@ TEST(Wait, SleepsForTheGivenTime) {
   EXPECT_EQ(waits, std::vector<int>{3000});
 }
 
-TEST(Progress, ShowsOnTheLineAndGoesAwayAtTheEnd) {
+// The line of a window, on which the prompts show progress.
+class Progress : public testing::Test {
+ protected:
+  Progress() { prompts.ShowProgressOn(&line); }
+
   QtPrompts prompts = MakePrompts();
-  prompts.ShowProgress(1, 4);  // nowhere yet
   ProgressLine line;
-  prompts.ShowProgressOn(&line);
+};
+
+TEST_F(Progress, ShowsOnTheLineAndGoesAwayAtTheEnd) {
   prompts.ShowProgress(1, 4);
   EXPECT_DOUBLE_EQ(line.fraction(), 0.25);
   prompts.ShowProgress(4, 4);
   EXPECT_DOUBLE_EQ(line.fraction(), 0);
 }
 
-// Counts what reaches it.
-class Target : public QWidget {
- public:
-  int input = 0;
-  int wheels = 0;
-  int posted = 0;
-
- protected:
-  void mousePressEvent(QMouseEvent*) override { ++input; }
-  void mouseReleaseEvent(QMouseEvent*) override { ++input; }
-  void mouseDoubleClickEvent(QMouseEvent*) override { ++input; }
-  void mouseMoveEvent(QMouseEvent*) override { ++input; }
-  void keyPressEvent(QKeyEvent*) override { ++input; }
-  void keyReleaseEvent(QKeyEvent*) override { ++input; }
-  void wheelEvent(QWheelEvent*) override { ++wheels; }
-  void customEvent(QEvent*) override { ++posted; }
-};
-
-void PostMouse(QWidget& target, QEvent::Type type) {
-  QApplication::postEvent(&target, new QMouseEvent(type, QPointF(1, 1), QPointF(1, 1),
-                                                   Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+TEST_F(Progress, UnderTheHourglassStaysUntilTheLastOneIsTakenBack) {
+  prompts.SetPointer(Pointer::Hourglass);
+  prompts.SetPointer(Pointer::Hourglass);
+  prompts.ShowProgress(4, 4);
+  EXPECT_DOUBLE_EQ(line.fraction(), 1);
+  prompts.SetPointer(Pointer::Default);
+  EXPECT_DOUBLE_EQ(line.fraction(), 1);
+  prompts.SetPointer(Pointer::Default);
+  EXPECT_DOUBLE_EQ(line.fraction(), 0);
 }
 
-TEST(FlushInput, DropsMouseAndKeysAndNothingElse) {
+TEST(ProgressWithoutALine, IsShownNowhere) {
   QtPrompts prompts = MakePrompts();
-  Target target;
-  for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                  QEvent::MouseButtonDblClick, QEvent::MouseMove}) {
-    PostMouse(target, type);
-  }
-  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-    QApplication::postEvent(&target, new QKeyEvent(type, Qt::Key_A, Qt::NoModifier, "a"));
-  }
-  QApplication::postEvent(&target,
-                          new QWheelEvent(QPointF(1, 1), QPointF(1, 1), {}, {0, 120}, Qt::NoButton,
-                                          Qt::NoModifier, Qt::NoScrollPhase, false));
-  QApplication::postEvent(&target, new QEvent(QEvent::User));
-  int ticks = 0;
-  QTimer::singleShot(0, [&] { ++ticks; });
-
-  prompts.FlushInput();
-  QApplication::processEvents();
-  EXPECT_EQ(target.input, 0);
-  EXPECT_EQ(target.wheels, 1);
-  EXPECT_EQ(target.posted, 1);
-  EXPECT_EQ(ticks, 1);
-}
-
-TEST(FlushInput, LeavesLaterInputAlone) {
-  QtPrompts prompts = MakePrompts();
-  Target target;
-  prompts.FlushInput();
-  PostMouse(target, QEvent::MouseButtonPress);
-  QApplication::processEvents();
-  EXPECT_EQ(target.input, 1);
-}
-
-TEST(FlushInput, WithinItselfDoesNothing) {
-  QtPrompts prompts = MakePrompts();
-  Target target;
-  QTimer::singleShot(0, [&] {
-    prompts.FlushInput();
-    PostMouse(target, QEvent::MouseButtonPress);
-  });
-  prompts.FlushInput();
-  QApplication::processEvents();
-  EXPECT_EQ(target.input, 0) << "the outer one was still at work";
+  prompts.ShowProgress(1, 4);
+  prompts.SetPointer(Pointer::Hourglass);
+  prompts.ShowProgress(4, 4);
+  prompts.SetPointer(Pointer::Default);
 }
 
 }  // namespace

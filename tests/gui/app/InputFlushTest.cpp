@@ -1,0 +1,117 @@
+// Dropping the input that has queued up, and nothing else.
+#include "app/InputFlush.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+#include <QWidget>
+#include <functional>
+
+namespace mortane::test {
+namespace {
+
+// Counts what reaches it.
+class Target : public QWidget {
+ public:
+  int input = 0;
+  int wheels = 0;
+  int posted = 0;
+
+ protected:
+  void mousePressEvent(QMouseEvent*) override { ++input; }
+  void mouseReleaseEvent(QMouseEvent*) override { ++input; }
+  void mouseDoubleClickEvent(QMouseEvent*) override { ++input; }
+  void mouseMoveEvent(QMouseEvent*) override { ++input; }
+  void keyPressEvent(QKeyEvent*) override { ++input; }
+  void keyReleaseEvent(QKeyEvent*) override { ++input; }
+  void wheelEvent(QWheelEvent*) override { ++wheels; }
+  void customEvent(QEvent*) override { ++posted; }
+};
+
+void PostMouse(QWidget& target, QEvent::Type type) {
+  QApplication::postEvent(&target, new QMouseEvent(type, QPointF(1, 1), QPointF(1, 1),
+                                                   Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+}
+
+TEST(FlushInput, DropsMouseAndKeysAndNothingElse) {
+  InputFlush flush;
+  Target target;
+  for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                  QEvent::MouseButtonDblClick, QEvent::MouseMove}) {
+    PostMouse(target, type);
+  }
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QApplication::postEvent(&target, new QKeyEvent(type, Qt::Key_A, Qt::NoModifier, "a"));
+  }
+  QApplication::postEvent(&target,
+                          new QWheelEvent(QPointF(1, 1), QPointF(1, 1), {}, {0, 120}, Qt::NoButton,
+                                          Qt::NoModifier, Qt::NoScrollPhase, false));
+  QApplication::postEvent(&target, new QEvent(QEvent::User));
+  int ticks = 0;
+  QTimer::singleShot(0, [&] { ++ticks; });
+
+  flush.Run();
+  QApplication::processEvents();
+  EXPECT_EQ(target.input, 0);
+  EXPECT_EQ(target.wheels, 1);
+  EXPECT_EQ(target.posted, 1);
+  EXPECT_EQ(ticks, 1);
+}
+
+TEST(FlushInput, LeavesLaterInputAlone) {
+  InputFlush flush;
+  Target target;
+  flush.Run();
+  PostMouse(target, QEvent::MouseButtonPress);
+  QApplication::processEvents();
+  EXPECT_EQ(target.input, 1);
+}
+
+TEST(FlushInput, WithinItselfDoesNothing) {
+  InputFlush flush;
+  Target target;
+  PostMouse(target, QEvent::MouseButtonPress);
+  QTimer::singleShot(0, [&] {
+    flush.Run();
+    PostMouse(target, QEvent::MouseButtonRelease);
+  });
+  flush.Run();
+  QApplication::processEvents();
+  EXPECT_EQ(target.input, 0) << "the outer one was still at work";
+}
+
+TEST(FlushInput, EndsWhenNoInputIsLeftHoweverMuchElseThereIsToDo) {
+  InputFlush flush;
+  Target target;
+  PostMouse(target, QEvent::MouseButtonPress);
+  int ticks = 0;
+  QTimer busy;  // always due
+  QObject::connect(&busy, &QTimer::timeout, &busy, [&] { ++ticks; });
+  busy.start(0);
+  flush.Run();
+  EXPECT_EQ(target.input, 0);
+  EXPECT_LT(ticks, 10);
+}
+
+TEST(FlushInput, DropsInputHoweverLongTheDroppingTakes) {
+  InputFlush flush;
+  Target target;
+  PostMouse(target, QEvent::MouseButtonPress);
+  // More input becomes known only after a painting that takes its time.
+  QTimer::singleShot(0, [&] {
+    QTest::qSleep(250);
+    PostMouse(target, QEvent::MouseButtonRelease);
+  });
+  flush.Run();
+  QApplication::processEvents();
+  EXPECT_EQ(target.input, 0);
+}
+
+}  // namespace
+}  // namespace mortane::test
