@@ -69,7 +69,9 @@ void AddButtons(QMessageBox& box, int style) {
   }
 }
 
-// What the box stands over. Without a window manager no window is ever active.
+}  // namespace
+
+// Without a window manager no window is ever active.
 QWidget* ParentOfBoxes() {
   if (QWidget* active = QApplication::activeWindow()) return active;
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
@@ -78,8 +80,6 @@ QWidget* ParentOfBoxes() {
   }
   return nullptr;
 }
-
-}  // namespace
 
 PromptBox::PromptBox(const std::string& text, int style, const std::string& caption)
     : box_(IconOf(style),

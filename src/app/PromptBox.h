@@ -8,6 +8,9 @@
 
 namespace mortane {
 
+// What a box or dialog of the program stands over; nullptr before there is a window.
+QWidget* ParentOfBoxes();
+
 // Plain text whatever it holds: names of devices and files are no markup. An empty caption
 // means the application's title.
 class PromptBox {

@@ -1,44 +1,25 @@
 #include "app/QtPrompts.h"
 
 #include <QApplication>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QTimer>
 #include <utility>
 
+#include "app/FileDialog.h"
 #include "app/PromptBox.h"
 #include "widgets/ProgressLine.h"
 
 namespace mortane {
 namespace {
 
-constexpr int kOverwritePrompt = 2;
-constexpr int kFileMustExist = 4096;
-
-// "XML File (*.xml)|*.xml" as the toolkit spells it: "XML File (*.xml)".
-QString NameFilter(const std::string& filter) {
-  const QStringList parts = QString::fromStdString(filter).split(u'|');
-  const QString label = parts.front().section(u'(', 0, 0).trimmed();
-  const QString patterns = parts.back().split(u';').join(u' ');
-  return QStringLiteral("%1 (%2)").arg(label, patterns);
-}
-
-std::string AskFile(QFileDialog::AcceptMode mode, const FileQuestion& question) {
-  QFileDialog dialog(QApplication::activeWindow());
-  dialog.setAcceptMode(mode);
-  dialog.setNameFilter(NameFilter(question.filter));
-  dialog.setFileMode((question.flags & kFileMustExist) != 0 ? QFileDialog::ExistingFile
-                                                            : QFileDialog::AnyFile);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite, (question.flags & kOverwritePrompt) == 0);
-  // The extension is given with its dot, which the toolkit adds by itself.
-  QString suffix = QString::fromStdString(question.defaultExtension);
-  if (suffix.startsWith(u'.')) suffix.remove(0, 1);
-  dialog.setDefaultSuffix(suffix);
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  return dialog.selectedFiles().front().toStdString();
+// Begins in the folder, which becomes that of the answer.
+std::string AskFile(QFileDialog::AcceptMode mode, const FileQuestion& question, QString& folder) {
+  const QString path = FileDialog(mode, question, folder).Ask();
+  if (!path.isEmpty()) folder = QFileInfo(path).path();
+  return path.toStdString();
 }
 
 }  // namespace
-
 QtPrompts::QtPrompts(Sleeper sleep) : sleep_(std::move(sleep)) {}
 
 void QtPrompts::ShowProgressOn(ProgressLine* line) {
@@ -66,11 +47,11 @@ Answer QtPrompts::TimedMsgBox(int milliseconds, const std::string& prompt, int s
 }
 
 std::string QtPrompts::AskFileToOpen(const FileQuestion& question) {
-  return AskFile(QFileDialog::AcceptOpen, question);
+  return AskFile(QFileDialog::AcceptOpen, question, folder_);
 }
 
 std::string QtPrompts::AskFileToSave(const FileQuestion& question) {
-  return AskFile(QFileDialog::AcceptSave, question);
+  return AskFile(QFileDialog::AcceptSave, question, folder_);
 }
 
 void QtPrompts::SetPointer(Pointer pointer) {

@@ -2,19 +2,18 @@
 #pragma once
 
 #include <QPointer>
+#include <QString>
 #include <functional>
 
 #include "app/InputFlush.h"
 #include "common/Prompts.h"
-
-class QWidget;
 
 namespace mortane {
 
 class ProgressLine;
 
 // Made by the program after its QApplication and before the model. Boxes stand over the active
-// window, also while that window is disabled.
+// window, also while that window is disabled. File dialogs begin in the folder that was used last.
 class QtPrompts : public Prompts {
  public:
   using Sleeper = std::function<void(int milliseconds)>;
@@ -43,6 +42,7 @@ class QtPrompts : public Prompts {
   Sleeper sleep_;
   QPointer<ProgressLine> progress_;
   bool progressEnded_ = false;
+  QString folder_;  // of the file dialog answered last
   InputFlush flush_;
 };
 

@@ -1,16 +1,13 @@
-// Boxes, file dialogs, pointer, flushing and waiting, as a person meets them.
+// Boxes, pointer, progress and waiting, as a person meets them.
 #include "app/QtPrompts.h"
 
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include "AppRig.h"
-#include "support/TempFolder.h"
 #include "widgets/ProgressLine.h"
 
 namespace mortane::test {
@@ -149,56 +146,6 @@ TEST(TimedMsgBox, AnAnswerAfterTheTimeIsStillZero) {
   });
   EXPECT_EQ(prompts.TimedMsgBox(1, "Move Stop?", 0, "Title"), Answer::TimedOut);
 }
-
-constexpr char kFilter[] = "XML File (*.xml)|*.xml";
-
-TEST(FileToOpen, MustExistAndStartsWithNoName) {
-  QtPrompts prompts = MakePrompts();
-  const TempFolder folder;
-  const std::string path = folder.Write("settings.xml", "<Setup/>");
-  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
-    EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
-    EXPECT_EQ(dialog.nameFilters(), QStringList{"XML File (*.xml)"});
-    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-    EXPECT_EQ(name->text(), "");
-    name->setText(QString::fromStdString(path));
-    QTest::keyClick(name, Qt::Key_Return);
-  });
-  EXPECT_EQ(prompts.AskFileToOpen({kFileOpenFlags, kFilter, ".xml"}), path);
-}
-
-TEST(FileToOpen, CancelledIsNoName) {
-  QtPrompts prompts = MakePrompts();
-  const WhenShown<QFileDialog> person([](QFileDialog& dialog) { dialog.reject(); });
-  EXPECT_EQ(prompts.AskFileToOpen({kFileOpenFlags, kFilter, ".xml"}), "");
-}
-
-struct NameCase {
-  const char* typed;
-  const char* saved;
-};
-
-class FileToSave : public testing::TestWithParam<NameCase> {};
-
-TEST_P(FileToSave, GetsItsExtensionOnce) {
-  QtPrompts prompts = MakePrompts();
-  const TempFolder folder;
-  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-    EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
-    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-    EXPECT_EQ(name->text(), "");
-    name->setText(QString::fromStdString(folder.Path(GetParam().typed)));
-    QTest::keyClick(name, Qt::Key_Return);
-  });
-  EXPECT_EQ(prompts.AskFileToSave({kFileSaveFlags, kFilter, ".xml"}),
-            folder.Path(GetParam().saved));
-}
-
-INSTANTIATE_TEST_SUITE_P(Names, FileToSave,
-                         testing::Values(NameCase{"lab", "lab.xml"}, NameCase{"lab.xml", "lab.xml"},
-                                         NameCase{"lab 2 \xC3\xA9.xml", "lab 2 \xC3\xA9.xml"}));
 
 TEST(Pointer, IsTheHourglassUntilEachOneIsTakenBack) {
   QtPrompts prompts = MakePrompts();
