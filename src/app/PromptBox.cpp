@@ -5,6 +5,7 @@
 #include <array>
 #include <span>
 
+#include "app/LongText.h"
 #include "app/ShownText.h"
 
 namespace mortane {
@@ -84,9 +85,10 @@ QWidget* ParentOfBoxes() {
 PromptBox::PromptBox(const std::string& text, int style, const std::string& caption)
     : box_(IconOf(style),
            caption.empty() ? QApplication::applicationName() : QString::fromStdString(caption),
-           ShownText(text), QMessageBox::NoButton, ParentOfBoxes()) {
+           FirstLines(ShownText(text)), QMessageBox::NoButton, ParentOfBoxes()) {
   box_.setTextFormat(Qt::PlainText);
   AddButtons(box_, style);
+  ScrollLongText(box_);
 }
 
 Answer PromptBox::Ask() {

@@ -11,8 +11,8 @@ namespace mortane {
 // What a box or dialog of the program stands over; nullptr before there is a window.
 QWidget* ParentOfBoxes();
 
-// Plain text whatever it holds: names of devices and files are no markup. An empty caption
-// means the application's title.
+// Plain text whatever it holds: names of devices and files are no markup. A text that would not
+// fit the screen scrolls. An empty caption means the application's title.
 class PromptBox {
  public:
   PromptBox(const std::string& text, int style, const std::string& caption);

@@ -20,6 +20,7 @@ std::string AskFile(QFileDialog::AcceptMode mode, const FileQuestion& question, 
 }
 
 }  // namespace
+
 QtPrompts::QtPrompts(Sleeper sleep) : sleep_(std::move(sleep)) {}
 
 void QtPrompts::ShowProgressOn(ProgressLine* line) {

@@ -1,0 +1,62 @@
+#include "app/LongText.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace mortane {
+namespace {
+
+constexpr qsizetype kMostLines = 1000;
+// Of the screen, for the text; the rest is for the title, the buttons and the system's own bars.
+constexpr double kShareOfHeight = 0.7;
+constexpr double kShareOfWidth = 0.6;
+// Where the toolkit's box breaks lines.
+constexpr int kWidthOfLines = 500;
+
+// The field in the place of the box's label.
+void PutInPlaceOfLabel(QMessageBox& box, QPlainTextEdit* field) {
+  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  auto* grid = static_cast<QGridLayout*>(box.layout());
+  int row = 0;
+  int column = 0;
+  int rows = 0;
+  int columns = 0;
+  grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
+  label->hide();
+  grid->addWidget(field, row, column, rows, columns);
+}
+
+}  // namespace
+
+QString FirstLines(const QString& text) {
+  const qsizetype lines = text.count(u'\n') + 1;
+  if (lines <= kMostLines) return text;
+  const qsizetype more = lines - kMostLines;
+  const QString remark =
+      more == 1 ? QStringLiteral("(1 more line)") : QStringLiteral("(%1 more lines)").arg(more);
+  return text.section(u'\n', 0, kMostLines - 1) + u'\n' + remark;
+}
+
+void ScrollLongText(QMessageBox& box) {
+  const QSize screen = box.screen()->availableSize();
+  const QFontMetrics metrics = box.fontMetrics();
+  const QRect broken = metrics.boundingRect(QRect(0, 0, kWidthOfLines, QWIDGETSIZE_MAX),
+                                            Qt::TextWordWrap | Qt::TextExpandTabs, box.text());
+  const int mostHeight = static_cast<int>(screen.height() * kShareOfHeight);
+  if (broken.height() <= mostHeight) return;
+
+  auto* field = new QPlainTextEdit(box.text(), &box);
+  field->setReadOnly(true);
+  field->setTabChangesFocus(true);
+  field->setAccessibleName(box.windowTitle());
+  const int mostWidth = static_cast<int>(screen.width() * kShareOfWidth);
+  field->setFixedSize(std::min(mostWidth, kWidthOfLines), mostHeight);
+  PutInPlaceOfLabel(box, field);
+}
+
+}  // namespace mortane
