@@ -93,19 +93,21 @@ class clsK70 : public ConnectedMicroscope {
   void Disconnect();
 
   // Read all units from the controller, write them to it, and list what a write would change.
-  // Failures of units are shown once, at the end; they end no transfer.
-  void Receive();
-  void Send();
+  // Failures of units are shown once, at the end; they end no transfer. Receive and Send answer
+  // whether there were none.
+  bool Receive();
+  bool Send();
   std::string Modify();
 
-  // Look up the sections of a settings file, read the wanted ones, write all.
+  // Look up the sections of a settings file, read the wanted ones, write all. What went wrong is
+  // shown; reading and writing answer whether nothing did.
   void ReadXMLItems(const std::string& fname);
-  void ReadXML(const std::string& fname);
-  void WriteXML(const std::string& fname);
+  bool ReadXML(const std::string& fname);
+  bool WriteXML(const std::string& fname);
   // The same on a document in memory; `name` is the file's in a box. Writing raises a Failure for
   // a text that XML cannot hold.
   void ReadItems(const DomDocument& document, const std::string& name);
-  void ReadSections(const DomDocument& document, const std::string& name);
+  bool ReadSections(const DomDocument& document, const std::string& name);
   void WriteSections(DomDocument& document, std::size_t first = fileitem::kSystem) const;
   // The same for a file with the hand controller's section only.
   void Tactor_ReadXML(const std::string& fname);
@@ -140,11 +142,12 @@ class clsK70 : public ConnectedMicroscope {
   void Progress(std::size_t stepsDone) const;
 
   bool Load(const std::string& fname, DomDocument& document);
-  std::vector<DomNode> SectionsOf(const DomDocument& document, const std::string& name);
+  std::optional<std::vector<DomNode>> SectionsOf(const DomDocument& document,
+                                                 const std::string& name);
   std::string ReadSection(std::size_t fileItem, const DomNode& section);
   std::string ReadSystemElement(const DomNode& element);
   void WriteSection(std::size_t fileItem, DomDocument& document, DomNode& root) const;
-  void SaveSections(const std::string& fname, std::size_t first, std::string_view failureText);
+  bool SaveSections(const std::string& fname, std::size_t first, std::string_view failureText);
 
   controller::ControllerLibrary& library_;
   std::array<std::int16_t, 10> fileItems_{};

@@ -34,34 +34,41 @@ void clsK70::ReadXMLItems(const std::string& fname) {
   if (Load(fname, document)) ReadItems(document, fname);
 }
 
-void clsK70::ReadXML(const std::string& fname) {
+bool clsK70::ReadXML(const std::string& fname) {
   DomDocument document;
-  if (Load(fname, document)) ReadSections(document, fname);
+  return Load(fname, document) && ReadSections(document, fname);
 }
 
 void clsK70::ReadItems(const DomDocument& document, const std::string& name) {
   fileItems_.fill(0);
-  for (const DomNode& child : SectionsOf(document, name)) {
+  const auto sections = SectionsOf(document, name);
+  if (!sections) return;
+  for (const DomNode& child : *sections) {
     if (const auto fileItem = FileItemOf(child.Name())) fileItems_[*fileItem] = kWanted;
   }
 }
 
-void clsK70::ReadSections(const DomDocument& document, const std::string& name) {
+bool clsK70::ReadSections(const DomDocument& document, const std::string& name) {
+  const auto sections = SectionsOf(document, name);
+  if (!sections) return false;
   std::string failures;
-  for (const DomNode& child : SectionsOf(document, name)) {
+  for (const DomNode& child : *sections) {
     const auto fileItem = FileItemOf(child.Name());
     if (fileItem && fileItems_[*fileItem] != 0) {
       failures = AppendLine(std::move(failures), ReadSection(*fileItem, child));
     }
   }
   if (!failures.empty()) prompts().MsgBox(failures, box::kOk, "XML Read");
+  return failures.empty();
 }
 
 void clsK70::Tactor_ReadXML(const std::string& fname) {
   DomDocument document;
   if (!Load(fname, document)) return;
+  const auto sections = SectionsOf(document, fname);
+  if (!sections) return;
   std::string failures;
-  for (const DomNode& child : SectionsOf(document, fname)) {
+  for (const DomNode& child : *sections) {
     if (FileItemOf(child.Name()) == fileitem::kTactor) {
       failures = AppendLine(std::move(failures), ReadSection(fileitem::kTactor, child));
     }
@@ -69,8 +76,8 @@ void clsK70::Tactor_ReadXML(const std::string& fname) {
   if (!failures.empty()) prompts().MsgBox(failures, box::kOk, "Tactor_XML Read");
 }
 
-void clsK70::WriteXML(const std::string& fname) {
-  SaveSections(fname, fileitem::kSystem, "XML File Write Error");
+bool clsK70::WriteXML(const std::string& fname) {
+  return SaveSections(fname, fileitem::kSystem, "XML File Write Error");
 }
 
 void clsK70::Tactor_WriteXML(const std::string& fname) {
@@ -83,8 +90,9 @@ bool clsK70::Load(const std::string& fname, DomDocument& document) {
   return false;
 }
 
-// The elements below the root; none for another root, after a box that says so.
-std::vector<DomNode> clsK70::SectionsOf(const DomDocument& document, const std::string& name) {
+// The elements below the root; nothing for another root, after a box that says so.
+std::optional<std::vector<DomNode>> clsK70::SectionsOf(const DomDocument& document,
+                                                       const std::string& name) {
   for (const DomNode& root : document.Children()) {
     if (!root.IsElement() || !EqualsIgnoringCase(root.Name(), kSettingsRoot)) continue;
     std::vector<DomNode> sections = root.Children();
@@ -92,7 +100,7 @@ std::vector<DomNode> clsK70::SectionsOf(const DomDocument& document, const std::
     return sections;
   }
   prompts().MsgBox(name + " Other Format", box::kOk);
-  return {};
+  return std::nullopt;
 }
 
 std::string clsK70::ReadSection(std::size_t fileItem, const DomNode& section) {
@@ -137,14 +145,16 @@ void clsK70::WriteSections(DomDocument& document, std::size_t first) const {
   document.Append(root);
 }
 
-void clsK70::SaveSections(const std::string& fname, std::size_t first,
+bool clsK70::SaveSections(const std::string& fname, std::size_t first,
                           std::string_view failureText) {
   try {
     DomDocument document;
     WriteSections(document, first);
     document.Save(fname);
+    return true;
   } catch (const Failure& failure) {
     prompts().MsgBox(AppendLine(std::string(failureText), failure.Description()), box::kCritical);
+    return false;
   }
 }
 

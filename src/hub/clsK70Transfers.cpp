@@ -10,7 +10,7 @@ constexpr std::string_view kSystemNameLine = "System Name";
 
 }  // namespace
 
-void clsK70::Receive() {
+bool clsK70::Receive() {
   Progress(0);
   std::string failures = ReadSystemName();
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
@@ -21,9 +21,10 @@ void clsK70::Receive() {
   failures = AppendLine(std::move(failures), ReadTurretCounts());
   Progress(transfers_.size() + 1);
   if (!failures.empty()) prompts().MsgBox(failures, box::kCritical);
+  return failures.empty();
 }
 
-void clsK70::Send() {
+bool clsK70::Send() {
   Progress(0);
   std::string failures = WriteSystemName();
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
@@ -33,6 +34,7 @@ void clsK70::Send() {
   }
   Progress(transfers_.size() + 1);
   if (!failures.empty()) prompts().MsgBox(failures, box::kCritical, "Send");
+  return failures.empty();
 }
 
 std::string clsK70::Modify() {
