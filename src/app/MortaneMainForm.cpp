@@ -64,8 +64,9 @@ void MortaneMainForm::OnConnected() {
 void MortaneMainForm::RefreshPages() {
   for (std::size_t i = 0; i < pages_.size(); ++i) {
     Page* page = pages_[i];
-    const bool enabled = page != nullptr && (!isPageEnabled_[i] || isPageEnabled_[i](GetK70()));
-    EnablePage(i, enabled);
+    const PageRow& row = table_[i];
+    const bool enabled = page != nullptr && (!row.isEnabled || row.isEnabled(GetK70()));
+    EnablePage(i, enabled, row.whyDisabled);
     if (!enabled) continue;
     RunStep(prompts(), [page] { page->LoadData(); });
     RunStep(prompts(), [page] { page->SetNosePostiton(); });
@@ -75,9 +76,10 @@ void MortaneMainForm::RefreshPages() {
 
 // The toolkit would hand the focus of a button that gets disabled to the next control, which is a
 // field that nobody went to.
-void MortaneMainForm::EnablePage(std::size_t index, bool enabled) {
+void MortaneMainForm::EnablePage(std::size_t index, bool enabled, const QString& whyDisabled) {
   if (!enabled && focusWidget() == ImageButton[index]) ImageButton[0]->setFocus();
   PictureMenu->SetPageEnabled(static_cast<int>(index), enabled);
+  ImageButton[index]->setToolTip(enabled ? QString() : whyDisabled);
 }
 
 void MortaneMainForm::OnMenuChanged(std::size_t index) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <functional>
 
 #include "app/PageTable.h"
 #include "app/ProgramForm.h"
@@ -22,8 +21,8 @@ class ObjectiveSettingsCtl;
 class PageButton;
 class Rail;
 class Page;
-class clsK70;
 class SystemSettingsCtl;
+class clsK70;
 
 class MortaneMainForm : public ProgramForm {
  public:
@@ -66,14 +65,14 @@ class MortaneMainForm : public ProgramForm {
   QAction* AddMenuItem(QMenu& menu, const char* name, const QString& text, Command command);
   void BuildMenus();
   void BuildToolbar();
-  void BuildRail(const PageTable& pages);
+  void BuildRail();
   void BuildCommandBar();
-  void BuildPages(const PageTable& pages, clsK70& k70);
+  void BuildPages(clsK70& k70);
   void StackPages();
   void Arrange();
 
   void RefreshPages();
-  void EnablePage(std::size_t index, bool enabled);
+  void EnablePage(std::size_t index, bool enabled, const QString& whyDisabled);
   void OnMenuChanged(std::size_t index);
   void ShowPage(Page* page);
   void SaveCurrentPage();
@@ -89,8 +88,8 @@ class MortaneMainForm : public ProgramForm {
   void DoSend();
   void EnableTransfers(bool enabled);
 
+  PageTable table_;
   std::array<Page*, kPageCount> pages_{};
-  std::array<std::function<bool(const clsK70&)>, kPageCount> isPageEnabled_;
   Page* currentPage_ = nullptr;
 };
 

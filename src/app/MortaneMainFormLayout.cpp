@@ -12,6 +12,7 @@
 #include "app/GetAppIcon.h"
 #include "app/MortaneMainForm.h"
 #include "widgets/CommandKey.h"
+#include "widgets/Named.h"
 #include "widgets/Page.h"
 #include "widgets/PageButton.h"
 #include "widgets/Rail.h"
@@ -41,20 +42,16 @@ class CommandBar : public QWidget {
   }
 };
 
-QString ElementName(const char* array, std::size_t index) {
-  return QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(index);
-}
-
 }  // namespace
 
 MortaneMainForm::MortaneMainForm(const FormServices& services, const PageTable& pages)
-    : ProgramForm(services, QLatin1String(kMainTitle)) {
+    : ProgramForm(services, QLatin1String(kMainTitle)), table_(pages) {
   setObjectName("MortaneMainForm");
   BuildMenus();
   BuildToolbar();
   // The Tab key goes by the order of making: page buttons, page, command keys.
-  BuildRail(pages);
-  BuildPages(pages, services.k70);
+  BuildRail();
+  BuildPages(services.k70);
   BuildCommandBar();
   Arrange();
   // A window that is activated without a focus gives it to the first field, which is then left.
@@ -105,17 +102,16 @@ void MortaneMainForm::BuildToolbar() {
   });
 }
 
-void MortaneMainForm::BuildRail(const PageTable& pages) {
+void MortaneMainForm::BuildRail() {
   PictureMenu = new Rail(this);
   PictureMenu->setObjectName("PictureMenu");
   FrameOptionButton = new QFrame(this);
   FrameOptionButton->setObjectName("FrameOptionButton");
   FrameOptionButton->hide();
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    optMenu[i] = new QRadioButton(FrameOptionButton);
-    optMenu[i]->setObjectName(ElementName("optMenu", i));
-    ImageButton[i] = PictureMenu->button(PictureMenu->AddPage(pages[i].icon, pages[i].title));
-    PictureMenu->SetPageEnabled(static_cast<int>(i), i == 0);
+  for (std::size_t i = 0; i < table_.size(); ++i) {
+    optMenu[i] = Named(new QRadioButton(FrameOptionButton), "optMenu", static_cast<int>(i));
+    ImageButton[i] = PictureMenu->button(PictureMenu->AddPage(table_[i].icon, table_[i].title));
+    EnablePage(i, i == 0, QStringLiteral("No microscope is connected."));
     connect(optMenu[i], &QRadioButton::toggled, this, [this, i](bool checked) {
       if (checked) OnMenuChanged(i);
     });
@@ -140,21 +136,18 @@ void MortaneMainForm::BuildCommandBar() {
   for (std::size_t i = 0; i < kCommands.size(); ++i) {
     const CommandRow& row = kCommands[i];
     if (i == 2) keys->addStretch();
-    ImageCommand[i] = new CommandKey(row.icon, row.text, Picture2);
-    ImageCommand[i]->setObjectName(ElementName("ImageCommand", i));
+    ImageCommand[i] =
+        Named(new CommandKey(row.icon, row.text, Picture2), "ImageCommand", static_cast<int>(i));
     connect(ImageCommand[i], &CommandKey::commanded, this, [this, &row] { Run(row.run); });
     keys->addWidget(ImageCommand[i]);
   }
   ImageCommand[2]->setMain(true);
 }
 
-void MortaneMainForm::BuildPages(const PageTable& pages, clsK70& k70) {
-  FrameControl = new QFrame(this);
-  FrameControl->setObjectName("FrameControl");
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    if (!pages[i].make) continue;
-    pages_[i] = pages[i].make(*this, k70);
-    isPageEnabled_[i] = pages[i].isEnabled;
+void MortaneMainForm::BuildPages(clsK70& k70) {
+  FrameControl = Named(new QFrame(this), "FrameControl");
+  for (std::size_t i = 0; i < table_.size(); ++i) {
+    if (table_[i].make) pages_[i] = table_[i].make(*this, k70);
   }
 }
 

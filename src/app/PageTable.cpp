@@ -34,7 +34,8 @@ PageTable MainPages() {
                                                    form.FrameControl),
                           "ObjectiveSettingsCtl1");
        },
-       [](const clsK70& k70) { return IsFitted(k70, accessory::kNosepiece); }},
+       [](const clsK70& k70) { return IsFitted(k70, accessory::kNosepiece); },
+       "No nosepiece is mounted."},
       {"Filter Cubes", IconName::Cube,
        [](MortaneMainForm& form, clsK70& k70) -> Page* {
          const FilterItemLists items{k70.Exciter, k70.Dichroic, k70.Barrier};
@@ -43,14 +44,16 @@ PageTable MainPages() {
                                                     form.FrameControl),
                           "FilterQubeSettingsCtl1");
        },
-       [](const clsK70& k70) { return IsFitted(k70, accessory::kFilterCube); }},
+       [](const clsK70& k70) { return IsFitted(k70, accessory::kFilterCube); },
+       "No filter cube turret is mounted."},
       {"Condensers", IconName::Condenser,
        [](MortaneMainForm& form, clsK70& k70) -> Page* {
          return form.CondenserSettingsCtl1 =
                     Named(new CondenserSettingsCtl(k70.curCondenser, k70.dbcon, form.FrameControl),
                           "CondenserSettingsCtl1");
        },
-       [](const clsK70& k70) { return k70.Controller(0) && IsFitted(k70, accessory::kCondenser); }},
+       [](const clsK70& k70) { return k70.Controller(0) && IsFitted(k70, accessory::kCondenser); },
+       "No condenser is mounted, or the body of the microscope is not connected."},
       {"Interlocks", IconName::Interlock},
       {"Controls", IconName::Control},
   }};

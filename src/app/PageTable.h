@@ -22,6 +22,8 @@ struct PageRow {
   // Whether the connected microscope has something for the page to show; always, where there is no
   // rule.
   std::function<bool(const clsK70&)> isEnabled = {};
+  // Said in a tool tip where it has not.
+  QString whyDisabled = {};
 };
 
 inline constexpr std::size_t kPageCount = 6;

@@ -16,7 +16,12 @@ CondenserSettingsCtl::CondenserSettingsCtl(clsCondenser& cassette, clsDbCondense
   const auto hasCondenser = [&cassette] {
     return cassette.parent.IsMounted(accessory::kCondenser) != kNotMounted;
   };
-  SetSections({{"Condenser", "CondenserCassetteCtl1", CondenserCassetteCtl1, hasCondenser},
+  SetSections({{"Condenser",
+                "CondenserCassetteCtl1",
+                CondenserCassetteCtl1,
+                hasCondenser,
+                {},
+                "No condenser is mounted."},
                {"Optional", "CondenserOptionCtl1", CondenserOptionCtl1}},
               {1, 0});
 }

@@ -18,7 +18,12 @@ FilterQubeSettingsCtl::FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cub
   const auto hasTurret = [&turret] {
     return turret.parent.IsMounted(accessory::kFilterCube) != kNotMounted;
   };
-  SetSections({{"Filter Cube", "FilterQubeCtl1", FilterQubeCtl1, hasTurret},
+  SetSections({{"Filter Cube",
+                "FilterQubeCtl1",
+                FilterQubeCtl1,
+                hasTurret,
+                {},
+                "No filter cube turret is mounted."},
                {"Optional Cube", "FilterOptionalQubeCtl1", FilterOptionalQubeCtl1},
                {"Optional Item", "FilterOptionalItemCtl1", FilterOptionalItemCtl1}},
               {2, 0});

@@ -19,10 +19,16 @@ ObjectiveSettingsCtl::ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepie
     return limits.parent.IsMounted(accessory::kNosepiece) != kNotMounted;
   };
   const auto isLimited = [&limits] { return limits.IsEnable(); };
-  SetSections({{"Nosepiece", "ObjectiveCtl1", ObjectiveCtl1, hasNosepiece},
-               {"Optional Obj.", "ObjectiveOptionCtl1", ObjectiveOptionCtl1},
-               {"Limit Control", "ObjectiveLimitCtl1", ObjectiveLimitCtl1, isLimited}},
-              {1, 2, 0});
+  SetSections(
+      {{"Nosepiece", "ObjectiveCtl1", ObjectiveCtl1, hasNosepiece, {}, "No nosepiece is mounted."},
+       {"Optional Obj.", "ObjectiveOptionCtl1", ObjectiveOptionCtl1},
+       {"Limit Control",
+        "ObjectiveLimitCtl1",
+        ObjectiveLimitCtl1,
+        isLimited,
+        {},
+        "No motorised nosepiece with limits is mounted."}},
+      {1, 2, 0});
 }
 
 }  // namespace mortane

@@ -50,7 +50,7 @@ void ContainerPage::LoadData() {
     if (notOffered_ == NotOffered::Hidden) {
       sections()->SetOptionVisible(i, offered);
     } else {
-      sections()->SetOptionEnabled(i, offered);
+      sections()->SetOptionEnabled(i, offered, section(i).whyNotOffered);
     }
   }
   for (const int index : loaded_) {

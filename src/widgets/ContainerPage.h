@@ -23,6 +23,8 @@ struct Section {
   std::function<bool()> isOffered = {};
   // What happens before the sub-page is shown; it is loaded, when empty.
   std::function<void()> open = {};
+  // Said in a tool tip of the disabled option while the section is not offered.
+  QString whyNotOffered = {};
 };
 
 // For Section::open: the sub-page keeps what it shows.

@@ -105,8 +105,9 @@ void SectionBar::select(int index) {
   group_->select(index);
 }
 
-void SectionBar::SetOptionEnabled(int index, bool enabled) {
+void SectionBar::SetOptionEnabled(int index, bool enabled, const QString& whyDisabled) {
   options_[index]->setEnabled(enabled);
+  options_[index]->setToolTip(enabled ? QString() : whyDisabled);
 }
 
 void SectionBar::SetOptionVisible(int index, bool visible) {

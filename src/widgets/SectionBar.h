@@ -39,7 +39,8 @@ class SectionBar : public QWidget {
   [[nodiscard]] int count() const;
   [[nodiscard]] int selected() const;  // -1: none
   void select(int index);
-  void SetOptionEnabled(int index, bool enabled);
+  // A tool tip says why an option is disabled.
+  void SetOptionEnabled(int index, bool enabled, const QString& whyDisabled = {});
   void SetOptionVisible(int index, bool visible);
 
  signals:
