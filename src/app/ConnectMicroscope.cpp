@@ -87,7 +87,7 @@ bool ConnectMicroscope(const StartPath& start) {
                          box::kCritical + box::kCancelTryContinue);
     return false;
   }
-  start.k70.Receive();
+  start.received(start.k70.Receive());
   return true;
 }
 

@@ -20,6 +20,8 @@ struct StartPath {
   std::vector<std::string> arguments;
   // Shows the device selection and answers its Selected.
   std::function<std::int32_t()> selectDevice;
+  // Told whether the first Receive was without failures.
+  std::function<void(bool)> received = [](bool) {};
 };
 
 // Chooses a device, takes its exclusive use, connects and receives. True when the model is

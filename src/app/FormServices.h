@@ -1,6 +1,8 @@
 // What a program's window works with.
 #pragma once
 
+#include <QTime>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,6 +21,7 @@ struct FormServices {
   Prompts& prompts;
   // The program's path, then the command line's arguments.
   std::vector<std::string> arguments;
+  std::function<QTime()> now = [] { return QTime::currentTime(); };
 };
 
 }  // namespace mortane

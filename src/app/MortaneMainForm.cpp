@@ -57,7 +57,9 @@ void MortaneMainForm::LoadStep(int step) {
   }
 }
 
-void MortaneMainForm::OnConnected() {
+void MortaneMainForm::OnConnected(bool whole) {
+  NoteConnection();
+  NoteTransfer(SessionNote::Act::Received, whole);
   RefreshPages();
 }
 

@@ -5,6 +5,7 @@
 
 #include "app/PageTable.h"
 #include "app/ProgramForm.h"
+#include "app/SessionNote.h"
 
 class QAction;
 class QFrame;
@@ -23,6 +24,7 @@ class Rail;
 class Page;
 class SystemSettingsCtl;
 class clsK70;
+struct FileResult;
 
 class MortaneMainForm : public ProgramForm {
  public:
@@ -57,7 +59,7 @@ class MortaneMainForm : public ProgramForm {
   // One step of Load; `step` counts from 0 to 6.
   virtual void LoadStep(int step);
 
-  void OnConnected() override;
+  void OnConnected(bool whole) override;
 
  private:
   using Command = void (MortaneMainForm::*)();
@@ -88,8 +90,13 @@ class MortaneMainForm : public ProgramForm {
   void DoSend();
   void EnableTransfers(bool enabled);
 
+  void NoteConnection();
+  void NoteTransfer(SessionNote::Act act, bool whole);
+  void NoteFile(SessionNote::Act act, const FileResult& file);
+
   PageTable table_;
   std::array<Page*, kPageCount> pages_{};
+  SessionNote* note_ = nullptr;
   Page* currentPage_ = nullptr;
 };
 

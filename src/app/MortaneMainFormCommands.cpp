@@ -1,10 +1,12 @@
 // The commands of the main window.
 #include <QAction>
+#include <QFileInfo>
 #include <QPointer>
 
 #include "app/CommandBoundary.h"
 #include "app/MortaneMainForm.h"
 #include "app/SettingsFiles.h"
+#include "common/Text.h"
 #include "hub/clsK70.h"
 #include "widgets/CommandKey.h"
 #include "widgets/Page.h"
@@ -44,21 +46,25 @@ void MortaneMainForm::OnToolbarButton(int position) {
 }
 
 void MortaneMainForm::DoOpen() {
-  if (OpenSettings(prompts(), CommonDialog1, this)) LoadAllPages();
+  const FileResult file = OpenSettings(prompts(), CommonDialog1, this);
+  if (!file.path.empty()) LoadAllPages();
+  NoteFile(SessionNote::Act::Opened, file);
   prompts().FlushInput();
 }
 
 void MortaneMainForm::DoSave() {
   SaveCurrentPage();
-  SaveSettings(prompts(), CommonDialog1);
+  NoteFile(SessionNote::Act::Saved, SaveSettings(prompts(), CommonDialog1));
   prompts().FlushInput();
 }
 
 void MortaneMainForm::DoReceive() {
   {
     const HourglassScope hourglass(prompts());
-    RunStep(prompts(), [] { GetK70().Receive(); });
+    bool whole = false;
+    RunStep(prompts(), [&] { whole = GetK70().Receive(); });
     LoadAllPages();
+    NoteTransfer(SessionNote::Act::Received, whole);
   }
   prompts().FlushInput();
 }
@@ -73,10 +79,12 @@ void MortaneMainForm::DoSend() {
     RunStep(prompts(), [] {
       if (ModifyBeforeSend()) static_cast<void>(GetK70().Modify());
     });
-    RunStep(prompts(), [] { GetK70().Send(); });
+    bool whole = false;
+    RunStep(prompts(), [&] { whole = GetK70().Send(); });
     if (Page* control = pages_[kControlPage]) {
       RunStep(prompts(), [control] { control->SendData(); });
     }
+    NoteTransfer(SessionNote::Act::Sent, whole);
     repaint();  // over what a box of failures leaves on the display
     prompts().Wait(kWaitAfterSendMs);
   }
@@ -97,12 +105,15 @@ void MortaneMainForm::DoSelect() {
     return;
   }
   GetK70().Disconnect();
+  NoteConnection();
   if (!GetK70().CreateConnectionName(std::to_string(device))) {
     prompts().MsgBox("Other Application has already used this Microscope.", box::kOk);
     EnableTransfers(false);
     return;
   }
-  if (!GetK70().Connect(device)) {
+  const bool connected = GetK70().Connect(device);
+  NoteConnection();
+  if (!connected) {
     prompts().MsgBox("Device Connect Error.", box::kCritical);
     return;
   }
@@ -118,6 +129,24 @@ void MortaneMainForm::EnableTransfers(bool enabled) {
   ImageCommand[2]->setEnabled(enabled);
   MenuConnectReceive->setEnabled(enabled);
   MenuConnectSend->setEnabled(enabled);
+}
+
+// The name that the controller is known to hold: as it was connected, received or sent.
+void MortaneMainForm::NoteConnection() {
+  const clsK70& k70 = GetK70();
+  if (k70.lConnectDevice < 0) return note_->ShowNoMicroscope();
+  note_->ShowMicroscope(QString::fromStdString(FirstCharacters(k70.SystemName, kSystemNameLength)),
+                        k70.lConnectDevice == 0);
+}
+
+void MortaneMainForm::NoteTransfer(SessionNote::Act act, bool whole) {
+  if (whole) NoteConnection();
+  note_->ShowDone(act, whole, Now().toString(QStringLiteral("HH:mm")));
+}
+
+void MortaneMainForm::NoteFile(SessionNote::Act act, const FileResult& file) {
+  if (!file.whole) return;
+  note_->ShowDone(act, *file.whole, QFileInfo(QString::fromStdString(file.path)).fileName());
 }
 
 }  // namespace mortane

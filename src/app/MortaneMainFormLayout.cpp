@@ -86,7 +86,7 @@ void MortaneMainForm::BuildMenus() {
 }
 
 void MortaneMainForm::BuildToolbar() {
-  Toolbar1 = addToolBar("Toolbar1");
+  Toolbar1 = addToolBar("Commands");  // by which screen readers call it
   Toolbar1->setObjectName("Toolbar1");
   Toolbar1->setMovable(false);
   Toolbar1->setIconSize({kToolbarIcon, kToolbarIcon});
@@ -100,6 +100,7 @@ void MortaneMainForm::BuildToolbar() {
   connect(Toolbar1, &QToolBar::actionTriggered, this, [this](QAction* button) {
     OnToolbarButton(static_cast<int>(Toolbar1->actions().indexOf(button)) + 1);
   });
+  note_ = Named(new SessionNote(*Toolbar1), "SessionNote");
 }
 
 void MortaneMainForm::BuildRail() {

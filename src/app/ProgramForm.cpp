@@ -73,12 +73,14 @@ void ProgramForm::Start() {
 
 void ProgramForm::FirstActivation() {
   bool connected = false;
+  bool whole = false;
   RunStep(prompts(), [&] {
     connected = ConnectMicroscope({GetK70(), services_.library, prompts(), services_.arguments,
-                                   [this] { return std::int32_t{AskDevice()}; }});
+                                   [this] { return std::int32_t{AskDevice()}; },
+                                   [&whole](bool received) { whole = received; }});
   });
   if (connected) {
-    OnConnected();
+    OnConnected(whole);
   } else {
     Unload();
   }

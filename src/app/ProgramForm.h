@@ -38,8 +38,8 @@ class ProgramForm : public QMainWindow {
   ProgressLine* Progress() const { return progress_; }
 
  protected:
-  // A microscope is connected, and the model filled from it.
-  virtual void OnConnected() = 0;
+  // A microscope is connected, and the model filled from it; `whole` tells without failures.
+  virtual void OnConnected(bool whole) = 0;
 
   // Everything between tool bar and status bar.
   void SetContent(QWidget* content);
@@ -55,6 +55,8 @@ class ProgramForm : public QMainWindow {
   void AskAndUnload();
 
   Prompts& prompts() const { return services_.prompts; }
+  // The time of day.
+  QTime Now() const { return services_.now(); }
 
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

@@ -10,20 +10,25 @@ FileQuestion SettingsFileQuestion() {
   return {0, "XML File (*.xml)|*.xml", ".xml"};
 }
 
-bool OpenSettings(Prompts& prompts, FileQuestion& question, QWidget* parent) {
+FileResult OpenSettings(Prompts& prompts, FileQuestion& question, QWidget* parent) {
   question.flags = kFileOpenFlags;
-  const std::string name = prompts.AskFileToOpen(question);
-  if (name.empty()) return false;
-  RunStep(prompts, [&] { GetK70().ReadXMLItems(name); });
-  SelFileItemDlg(GetK70(), parent).exec();
-  RunStep(prompts, [&] { GetK70().ReadXML(name); });
-  return true;
+  FileResult result{prompts.AskFileToOpen(question), std::nullopt};
+  if (result.path.empty()) return result;
+  RunStep(prompts, [&] { GetK70().ReadXMLItems(result.path); });
+  const bool wanted = SelFileItemDlg(GetK70(), parent).exec() == QDialog::Accepted;
+  bool whole = false;
+  RunStep(prompts, [&] { whole = GetK70().ReadXML(result.path); });
+  if (wanted) result.whole = whole;
+  return result;
 }
 
-void SaveSettings(Prompts& prompts, FileQuestion& question) {
+FileResult SaveSettings(Prompts& prompts, FileQuestion& question) {
   question.flags = kFileSaveFlags;
-  const std::string name = prompts.AskFileToSave(question);
-  if (!name.empty()) RunStep(prompts, [&] { GetK70().WriteXML(name); });
+  FileResult result{prompts.AskFileToSave(question), std::nullopt};
+  if (result.path.empty()) return result;
+  result.whole = false;
+  RunStep(prompts, [&] { result.whole = GetK70().WriteXML(result.path); });
+  return result;
 }
 
 }  // namespace mortane

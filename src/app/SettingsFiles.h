@@ -1,6 +1,7 @@
 // Opening and saving a settings file, with the questions that a person answers on the way.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "common/Prompts.h"
@@ -12,11 +13,16 @@ namespace mortane {
 // The filter and the extension of settings files.
 FileQuestion SettingsFileQuestion();
 
+// What came of the question for a file. All that went wrong was shown.
+struct FileResult {
+  std::string path;           // empty when the person gave none
+  std::optional<bool> whole;  // whether nothing went wrong; none when nothing was read or written
+};
+
 // Asks for a file, lets the person choose among its sections and reads those into the model.
-// False when the person named no file. A file that cannot be read goes the same way: it was told.
-bool OpenSettings(Prompts& prompts, FileQuestion& question, QWidget* parent);
+FileResult OpenSettings(Prompts& prompts, FileQuestion& question, QWidget* parent);
 
 // Asks for a file and writes the model into it.
-void SaveSettings(Prompts& prompts, FileQuestion& question);
+FileResult SaveSettings(Prompts& prompts, FileQuestion& question);
 
 }  // namespace mortane

@@ -28,7 +28,7 @@ class LastLook : public ProgramForm {
   }
 
  protected:
-  void OnConnected() override {}
+  void OnConnected(bool) override {}
 
  private:
   clsK70& k70_;
@@ -40,6 +40,9 @@ constexpr int kAsked = 3;
 // nobody would answer, ends it.
 template <typename Form>
 int RunInChild() {
+  const TempFolder folder;
+  controller::WriteBenchFile(folder.Path("bench.xml"), controller::benches::Named("Harbour"));
+  qputenv("MORTANE_BENCH", folder.Path("bench.xml").c_str());
   char name[] = "mortane";
   char* arguments[] = {name, nullptr};
   qApp->~QApplication();  // it stands on the stack of main, to which this process never returns
@@ -75,8 +78,8 @@ class LoggedOut : public MortaneMainForm {
   explicit LoggedOut(const FormServices& services) : MortaneMainForm(services) {}
 
  protected:
-  void OnConnected() override {
-    MortaneMainForm::OnConnected();
+  void OnConnected(bool whole) override {
+    MortaneMainForm::OnConnected(whole);
     QTimer::singleShot(0, this, [this] {
       QEvent end(QEvent::Quit);  // what the session's manager brings about
       QCoreApplication::sendEvent(qApp, &end);
@@ -87,15 +90,7 @@ class LoggedOut : public MortaneMainForm {
 
 TEST(ProgramEndDeathTest, BySessionEndClosesTheWindowAndAsksNothing) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  const auto run = [] {
-    auto folder = std::make_unique<TempFolder>();
-    controller::WriteBenchFile(folder->Path("bench.xml"), controller::benches::Named("Harbour"));
-    qputenv("MORTANE_BENCH", folder->Path("bench.xml").c_str());
-    const int result = RunInChild<LoggedOut>();
-    folder.reset();
-    std::_Exit(result);
-  };
-  EXPECT_EXIT(run(), testing::ExitedWithCode(0), "closed");
+  EXPECT_EXIT(std::_Exit(RunInChild<LoggedOut>()), testing::ExitedWithCode(0), "closed");
 }
 
 }  // namespace
