@@ -17,6 +17,8 @@ fail() {
 }
 
 work="$(mktemp -d)"
+# Where no session has left the place of its window.
+export XDG_CONFIG_HOME="$work/config"
 server=
 guest=
 cleanup() {

@@ -22,6 +22,8 @@ struct FormServices {
   // The program's path, then the command line's arguments.
   std::vector<std::string> arguments;
   std::function<QTime()> now = [] { return QTime::currentTime(); };
+  // Where the place of the window is remembered; empty: nowhere.
+  std::string placeFile = {};
 };
 
 }  // namespace mortane

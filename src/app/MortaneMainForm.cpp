@@ -1,6 +1,8 @@
 #include "app/MortaneMainForm.h"
 
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "app/CommandBoundary.h"
 #include "app/GetAppIcon.h"
@@ -93,6 +95,8 @@ void MortaneMainForm::ShowPage(Page* page) {
   if (currentPage_ != nullptr) currentPage_->hide();
   currentPage_ = page;
   if (currentPage_ != nullptr) currentPage_->show();
+  scroll_->verticalScrollBar()->setValue(0);
+  scroll_->horizontalScrollBar()->setValue(0);
 }
 
 // A page that is not visible wrote its edits to the model when they were made.

@@ -11,6 +11,7 @@ class QAction;
 class QFrame;
 class QMenu;
 class QRadioButton;
+class QScrollArea;
 class QToolBar;
 
 namespace mortane {
@@ -97,6 +98,7 @@ class MortaneMainForm : public ProgramForm {
   PageTable table_;
   std::array<Page*, kPageCount> pages_{};
   SessionNote* note_ = nullptr;
+  QScrollArea* scroll_ = nullptr;
   Page* currentPage_ = nullptr;
 };
 

@@ -5,7 +5,7 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QRadioButton>
-#include <QScreen>
+#include <QScrollArea>
 #include <QToolBar>
 #include <algorithm>
 
@@ -21,8 +21,6 @@
 namespace mortane {
 namespace {
 
-constexpr QSize kDesignSize{1152, 740};
-constexpr double kLargestShareOfScreen = 0.9;
 constexpr int kToolbarIcon = 20;
 
 struct CommandRow {
@@ -162,17 +160,21 @@ void MortaneMainForm::StackPages() {
 }
 
 void MortaneMainForm::Arrange() {
+  scroll_ = Named(new QScrollArea(this), "ScrollControl");
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidget(FrameControl);
   auto* content = new QWidget(this);
   auto* cells = new QGridLayout(content);
   cells->setContentsMargins({});
   cells->setSpacing(0);
   cells->addWidget(PictureMenu, 0, 0, 2, 1);
-  cells->addWidget(FrameControl, 0, 1);
+  cells->addWidget(scroll_, 0, 1);
   cells->addWidget(Picture2, 1, 1);
   cells->setRowStretch(0, 1);
   cells->setColumnStretch(1, 1);
   SetContent(content);
-  resize(kDesignSize.boundedTo(screen()->availableSize() * kLargestShareOfScreen));
 }
 
 }  // namespace mortane

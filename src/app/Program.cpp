@@ -10,6 +10,7 @@
 #include "app/BenchSession.h"
 #include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
+#include "app/WindowPlace.h"
 #include "common/Failure.h"
 #include "common/Numbers.h"
 #include "hub/clsK70.h"
@@ -42,7 +43,11 @@ int ShowForm(QApplication& application, BenchSession& bench,
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                    &application, [&bench] { bench.Keep(); });
 
-  std::unique_ptr<ProgramForm> form = kind.makeForm({k70, bench.Library(), prompts, arguments});
+  std::unique_ptr<ProgramForm> form = kind.makeForm({.k70 = k70,
+                                                     .library = bench.Library(),
+                                                     .prompts = prompts,
+                                                     .arguments = arguments,
+                                                     .placeFile = UsersPlaceFile()});
   prompts.ShowProgressOn(form->Progress());
   form->Load();
   form->show();

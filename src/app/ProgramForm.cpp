@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <utility>
@@ -18,7 +19,10 @@
 namespace mortane {
 
 ProgramForm::ProgramForm(const FormServices& services, const QString& title)
-    : StatusBar1(statusBar()), CommonDialog1(SettingsFileQuestion()), services_(services) {
+    : StatusBar1(statusBar()),
+      CommonDialog1(SettingsFileQuestion()),
+      services_(services),
+      place_(services.placeFile) {
   setWindowTitle(title);
   setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
   BuildStatusBar();
@@ -45,6 +49,7 @@ void ProgramForm::SetContent(QWidget* content) {
   cell->addWidget(progress_, 0, 0, Qt::AlignBottom);
   progress_->raise();
   setCentralWidget(center);
+  if (!place_.Restore(*this)) resize(OpeningSize(screen()->availableSize()));
 }
 
 void ProgramForm::ShowVersion() {
@@ -119,12 +124,13 @@ void ProgramForm::Unload() {
 // which lets the program close its windows, come without a question. A request that comes in while
 // a command runs waits for its end.
 void ProgramForm::closeEvent(QCloseEvent* event) {
-  if (!event->spontaneous()) return;
-  if (commandRunning_) {
+  if (event->spontaneous() && commandRunning_) {
     closeRequested_ = true;
     event->ignore();
-  } else if (AskExit() != Answer::Ok) {
+  } else if (event->spontaneous() && AskExit() != Answer::Ok) {
     event->ignore();
+  } else {
+    place_.Keep(*this);
   }
 }
 

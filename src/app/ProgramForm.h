@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "app/FormServices.h"
+#include "app/WindowPlace.h"
 #include "common/Prompts.h"
 
 class QLabel;
@@ -41,7 +42,7 @@ class ProgramForm : public QMainWindow {
   // A microscope is connected, and the model filled from it; `whole` tells without failures.
   virtual void OnConnected(bool whole) = 0;
 
-  // Everything between tool bar and status bar.
+  // Everything between tool bar and status bar. The window gets its size and place.
   void SetContent(QWidget* content);
   // Writes the program's version into panel 5 of the status bar.
   void ShowVersion();
@@ -69,6 +70,7 @@ class ProgramForm : public QMainWindow {
   Answer AskExit();
 
   FormServices services_;
+  WindowPlace place_;
   QLabel* versionPanel_ = nullptr;
   ProgressLine* progress_ = nullptr;
   bool startBegun_ = false;

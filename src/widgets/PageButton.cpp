@@ -24,7 +24,7 @@ PageButton::PageButton(IconName icon, const QString& text, QWidget* parent)
   setAccessibleName(text);
   setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_Hover);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
 }
 
 void PageButton::SetSelected(bool selected) {
@@ -43,6 +43,15 @@ QSize PageButton::sizeHint() const {
   const int text = fontMetrics().height();
   return {qMax(grid::kRailWidth, fontMetrics().horizontalAdvance(this->text()) + 16),
           qMax(grid::kRailButtonHeight, kIconTop + kIconSize + 2 * grid::kUnit + text + 10)};
+}
+
+QSize PageButton::minimumSizeHint() const {
+  return {sizeHint().width(), kIconSize + fontMetrics().height() + 3 * grid::kUnit};
+}
+
+// What a low button lacks goes off above and below alike.
+int PageButton::IconTop() const {
+  return qMax(grid::kUnit, kIconTop - (sizeHint().height() - height()) / 2);
 }
 
 void PageButton::mousePressEvent(QMouseEvent* event) {
@@ -82,10 +91,11 @@ void PageButton::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), Background());
   if (selected_) painter.fillRect(0, 0, kBarWidth, height(), ToneColor(Tone::Amber));
   const QColor foreground = Foreground();
-  const QRectF iconArea((width() - kIconSize) / 2.0, kIconTop, kIconSize, kIconSize);
+  const int iconTop = IconTop();
+  const QRectF iconArea((width() - kIconSize) / 2.0, iconTop, kIconSize, kIconSize);
   DrawIcon(painter, icon_, iconArea,
            {foreground, selected_ && isEnabled() ? ToneColor(Tone::Amber) : foreground});
-  const int textTop = kIconTop + kIconSize + grid::kUnit;
+  const int textTop = iconTop + kIconSize + grid::kUnit;
   painter.setPen(foreground);
   painter.drawText(QRect(0, textTop, width(), height() - textTop - grid::kUnit),
                    Qt::AlignHCenter | Qt::AlignVCenter, text());

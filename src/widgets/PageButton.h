@@ -20,6 +20,8 @@ class PageButton : public QAbstractButton {
   void SetPending(bool pending);
   [[nodiscard]] bool isPending() const { return pending_; }
   [[nodiscard]] QSize sizeHint() const override;
+  // In a low window the buttons stand closer.
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  signals:
   void chosen();
@@ -32,6 +34,7 @@ class PageButton : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] int IconTop() const;
   [[nodiscard]] QColor Background() const;
   [[nodiscard]] QColor Foreground() const;
 

@@ -43,6 +43,7 @@ int RunInChild() {
   const TempFolder folder;
   controller::WriteBenchFile(folder.Path("bench.xml"), controller::benches::Named("Harbour"));
   qputenv("MORTANE_BENCH", folder.Path("bench.xml").c_str());
+  qputenv("XDG_CONFIG_HOME", folder.Path("config").c_str());
   char name[] = "mortane";
   char* arguments[] = {name, nullptr};
   qApp->~QApplication();  // it stands on the stack of main, to which this process never returns

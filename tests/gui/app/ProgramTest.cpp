@@ -52,6 +52,8 @@ class Program : public testing::Test {
     environment.insert("DISPLAY", display_.Name());
     environment.insert("QT_QPA_PLATFORM", "xcb");
     environment.insert("MORTANE_BENCH", QString::fromStdString(bench));
+    // Where no session before has left the place of its window.
+    environment.insert("XDG_CONFIG_HOME", QString::fromStdString(config_.Path("config")));
     environment.insert("LSAN_OPTIONS", "suppressions=" MORTANE_KNOWN_LEAKS ":print_suppressions=0");
     program.setProcessEnvironment(environment);
     program.start(MORTANE_PROGRAM, arguments);
@@ -99,6 +101,7 @@ class Program : public testing::Test {
     EXPECT_EQ(program_.exitCode(), 0);
   }
 
+  TempFolder config_;
   DeviceNamesLock lock_;
   Display display_;
   QProcess program_;

@@ -1,0 +1,146 @@
+// Size and place of the window from one session to the next.
+#include <gtest/gtest.h>
+
+#include <QRadioButton>
+#include <QScreen>
+
+#include "AppRig.h"
+#include "app/WindowPlace.h"
+#include "support/TempFolder.h"
+
+namespace mortane::test {
+namespace {
+
+// A window as one session has it.
+struct Session {
+  explicit Session(const std::string& placeFile) {
+    clsK70& k70 = ProvideK70(rig.library, rig.prompts);
+    form = std::make_unique<MortaneMainForm>(FormServices{.k70 = k70,
+                                                          .library = rig.library,
+                                                          .prompts = rig.prompts,
+                                                          .arguments = {"mortane"},
+                                                          .placeFile = placeFile},
+                                             fakes.Table());
+    form->Load();
+    form->show();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form->IsStarted(); }));
+  }
+  ~Session() {
+    form->Unload();
+    form.reset();
+    ReleaseK70();
+  }
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  RigLibrary rig{benches::Named("Harbour")};
+  FakePages fakes;
+  std::unique_ptr<MortaneMainForm> form;
+};
+
+class Place : public testing::Test {
+ protected:
+  // Ends a session whose window stands at that place.
+  void Leave(const QRect& place) {
+    Session session(file);
+    session.form->setGeometry(place);
+    QApplication::processEvents();
+  }
+  static QRect Screen() { return QGuiApplication::primaryScreen()->availableGeometry(); }
+
+  TempFolder folder;
+  std::string file = folder.Path("not/yet/there/Window.ini");
+};
+
+TEST_F(Place, IsTheOneOfTheLastSession) {
+  Leave({20, 30, 700, 520});
+  Session next(file);
+  EXPECT_EQ(next.form->geometry(), QRect(20, 30, 700, 520));
+}
+
+TEST_F(Place, AtTheEdgesOfTheScreenStaysThere) {
+  const QRect half(Screen().topLeft(), QSize(Screen().width() - 50, Screen().height()));
+  folder.Write("Window.ini", "[MortaneMainForm]\nPlace=" + std::to_string(half.x()) + "," +
+                                 std::to_string(half.y()) + "," + std::to_string(half.width()) +
+                                 "," + std::to_string(half.height()) + ",0\n");
+  Session session(folder.Path("Window.ini"));
+  EXPECT_EQ(session.form->size(), half.size());
+}
+
+TEST_F(Place, OfTheFirstSessionIsTheOpeningSize) {
+  Session first(file);
+  EXPECT_EQ(first.form->size(), OpeningSize(Screen().size()));
+}
+
+TEST_F(Place, ThatWasMaximisedIsMaximisedAgainWithItsFormerSizeBehind) {
+  {
+    Session session(file);
+    session.form->setGeometry({20, 30, 700, 520});
+    session.form->showMaximized();
+    QApplication::processEvents();
+  }
+  Session next(file);
+  EXPECT_TRUE(next.form->isMaximized());
+  EXPECT_EQ(next.form->normalGeometry().size(), QSize(700, 520));
+}
+
+TEST_F(Place, OnAScreenThatIsGoneComesBackToOneThatIsThere) {
+  for (const QRect& place : {QRect(5000, 30, 700, 520), QRect(20, -4000, 700, 520),
+                             QRect(-3000, 9000, 700, 520), QRect(0, 0, 3000, 2000)}) {
+    Leave(place);
+    Session next(file);
+    EXPECT_TRUE(Screen().contains(next.form->frameGeometry())) << place.x() << "," << place.y();
+    EXPECT_EQ(next.form->size(),
+              place.width() < 1000 ? place.size() : OpeningSize(Screen().size()));
+  }
+}
+
+TEST_F(Place, ThatCannotBeReadIsTheOpeningSize) {
+  for (const char* content :
+       {"", "[MortaneMainForm]\nPlace=", "[MortaneMainForm]\nPlace=20,30,700,520",
+        "[MortaneMainForm]\nPlace=20,30,700,520,0,0", "[MortaneMainForm]\nPlace=20,30,x,520,0",
+        "[MortaneMainForm]\nPlace=20,30,0,520,0", "[MortaneMainForm]\nPlace=20,30,700,-1,0",
+        "[OtherForm]\nPlace=20,30,700,520,0"}) {
+    Session session(folder.Write("Window.ini", content));
+    EXPECT_EQ(session.form->size(), OpeningSize(Screen().size())) << content;
+  }
+}
+
+TEST_F(Place, ThatCannotBeKeptCostsNothingElse) {
+  folder.Write("taken", "");
+  file = folder.Path("taken/Window.ini");
+  Leave({20, 30, 700, 520});
+  Session next(file);
+  EXPECT_EQ(next.form->size(), OpeningSize(Screen().size()));
+}
+
+TEST_F(Place, IsNotKeptWhereThereIsNoFile) {
+  file.clear();
+  Leave({20, 30, 700, 520});
+  Session next(file);
+  EXPECT_EQ(next.form->size(), OpeningSize(Screen().size()));
+}
+
+TEST_F(Place, DoesNotRememberThePage) {
+  {
+    Session session(file);
+    session.form->optMenu[2]->setChecked(true);
+  }
+  Session next(file);
+  EXPECT_TRUE(next.form->optMenu[0]->isChecked());
+}
+
+TEST(UsersPlaceFile, StandsInTheFolderOfApplicationData) {
+  const TempFolder folder;
+  const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+  qputenv("XDG_CONFIG_HOME", folder.Path("config").c_str());
+  EXPECT_EQ(UsersPlaceFile(), folder.Path("config") + "/Mortane/Window.ini");
+  if (before.isNull()) {
+    qunsetenv("XDG_CONFIG_HOME");
+  } else {
+    qputenv("XDG_CONFIG_HOME", before);
+  }
+}
+
+}  // namespace
+}  // namespace mortane::test
