@@ -1,13 +1,14 @@
 // From the start of a process to its first painted window: the full window with the simulated
-// microscope loaded, beside a bare window of the toolkit.
+// microscope loaded, beside a window of the toolkit with one label and an empty one.
 //
-// The program starts itself anew for each measurement, as one of the two children.
+// The program starts itself anew for each measurement, as one of the children.
 #include <benchmark/benchmark.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QMainWindow>
 #include <QPlainTextEdit>
 #include <QTimer>
@@ -31,6 +32,7 @@ namespace mortane {
 namespace {
 
 constexpr char kFullChild[] = "--full";
+constexpr char kLabelChild[] = "--label";
 constexpr char kBareChild[] = "--bare";
 constexpr int kPainted = 0;
 
@@ -82,13 +84,25 @@ int RunFullChild(int argc, char** argv) {
   return QApplication::exec() == 0 ? 1 : 2;
 }
 
-int RunBareChild(int argc, char** argv) {
-  QApplication application(argc, argv);
-  QMainWindow window;
+int ShowToolkitWindow(QMainWindow& window) {
   window.resize(1152, 740);
   EndWhenPainted watcher(window, [] { return true; });
   window.show();
   return QApplication::exec() == 0 ? 1 : 2;
+}
+
+// The floor of any window that shows text.
+int RunLabelChild(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QMainWindow window;
+  window.setCentralWidget(new QLabel("Mortane"));
+  return ShowToolkitWindow(window);
+}
+
+int RunBareChild(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QMainWindow window;
+  return ShowToolkitWindow(window);
 }
 
 // Seconds until the child has painted; it ends at once then.
@@ -129,9 +143,11 @@ int main(int argc, char** argv) {
   using namespace mortane;
   if (std::getenv("DISPLAY") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 0);
   if (argc > 1 && std::strcmp(argv[1], kFullChild) == 0) return RunFullChild(argc, argv);
+  if (argc > 1 && std::strcmp(argv[1], kLabelChild) == 0) return RunLabelChild(argc, argv);
   if (argc > 1 && std::strcmp(argv[1], kBareChild) == 0) return RunBareChild(argc, argv);
   const std::string program = GetCommandLineArray(argc, argv)[0];
   Register("FullWindow", program, kFullChild);
+  Register("OneLabelWindow", program, kLabelChild);
   Register("BareWindow", program, kBareChild);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
