@@ -3,6 +3,8 @@
 
 #include <QRadioButton>
 #include <QScreen>
+#include <QSettings>
+#include <filesystem>
 
 #include "AppRig.h"
 #include "app/WindowPlace.h"
@@ -128,6 +130,13 @@ TEST_F(Place, DoesNotRememberThePage) {
   }
   Session next(file);
   EXPECT_TRUE(next.form->optMenu[0]->isChecked());
+}
+
+TEST(UsersPlaceFile, IsNotTheUsersInTests) {
+  const std::string temporary = std::filesystem::temp_directory_path().string();
+  EXPECT_TRUE(UsersPlaceFile().starts_with(temporary)) << UsersPlaceFile();
+  const std::string toolkit = QSettings(QSettings::UserScope, "QtProject").fileName().toStdString();
+  EXPECT_TRUE(toolkit.starts_with(temporary)) << toolkit;
 }
 
 TEST(UsersPlaceFile, StandsInTheFolderOfApplicationData) {

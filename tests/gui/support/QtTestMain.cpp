@@ -2,14 +2,35 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <optional>
 
 #include "platform/NamedMutex.h"
+#include "support/TempFolder.h"
 #include "support/TestWatch.h"
 #include "support/UniqueName.h"
 #include "widgets/Theme.h"
 
+namespace {
+
+// The user's own settings are neither read nor written, the toolkit's among them. The child of a
+// death test has the folder of its parent, which removes it.
+class PrivateSettings {
+ public:
+  PrivateSettings() {
+    if (!GTEST_FLAG_GET(internal_run_death_test).empty()) return;
+    folder_.emplace();
+    qputenv("XDG_CONFIG_HOME", folder_->Path("config").c_str());
+  }
+
+ private:
+  std::optional<mortane::test::TempFolder> folder_;
+};
+
+}  // namespace
+
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  const PrivateSettings settings;
   const mortane::test::UniqueName deviceNames;
   mortane::NamedMutex::SetScope(deviceNames.Text() + "-");
   testing::UnitTest::GetInstance()->listeners().Append(mortane::test::MakeTestWatch().release());
