@@ -28,7 +28,7 @@ constexpr int kReportMargin = 8;
 // The report's lines are indented by one tab.
 constexpr int kTabWidthCharacters = 3;
 // The report keeps its lines whole beside the drawing.
-constexpr int kReportWidthCharacters = 40;
+constexpr int kReportWidthCharacters = 32;
 // The drawing needs its room for the labels; a narrower window shows the report alone.
 constexpr int kNarrowestWindowWithDrawing = 1100;
 

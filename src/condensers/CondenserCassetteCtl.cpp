@@ -1,9 +1,11 @@
 #include "condensers/CondenserCassetteCtl.h"
 
+#include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
-#include <vector>
+#include <algorithm>
 
 #include "common/Text.h"
 #include "condensers/clsCondenser.h"
@@ -13,12 +15,15 @@
 #include "widgets/ComboBox.h"
 #include "widgets/Named.h"
 #include "widgets/Theme.h"
+#include "widgets/TurretDrawing.h"
 
 namespace mortane {
 namespace {
 
 constexpr int kComboWidth = 280;
+constexpr int kBesideTurret = 32;
 constexpr std::int32_t kNoCondenser = 0;
+
 // The user's condensers fit every address; only the named ones can be told apart.
 std::vector<std::int32_t> NamedOptions(const clsDbCondenser& condensers) {
   std::vector<std::int32_t> codes;
@@ -38,19 +43,32 @@ CondenserCassetteCtl::CondenserCassetteCtl(clsCondenser& cassette, const clsDbCo
       Label1{},
       Combo1{},
       cassette_(cassette),
-      condensers_(condensers) {
+      condensers_(condensers),
+      turret_(Named(new TurretDrawing(PlaceKind::Condensers, FrameBase), "turret")) {
+  auto* columns = new QHBoxLayout;
+  columns->setSpacing(kBesideTurret);
+  columns->addWidget(turret_);
   auto* rows = new QGridLayout;
   rows->setHorizontalSpacing(grid::kBetweenGroups);
   rows->setVerticalSpacing(grid::kBetweenControls);
-  rows->setColumnStretch(2, 1);
-  FrameBase->body()->addLayout(rows);
-  FrameBase->body()->addStretch();
+  rows->setRowStretch(kRowCount, 1);
   for (int row = 0; row < kRowCount; ++row) {
     BuildRow(row);
     const auto i = static_cast<std::size_t>(row);
     rows->addWidget(Label1[i], row, 0);
     rows->addWidget(Combo1[i], row, 1);
   }
+  columns->addLayout(rows);
+  columns->addStretch();
+  FrameBase->body()->addLayout(columns, 1);
+
+  turret_->setAccessibleName(QStringLiteral("Condenser Turret"));
+  const auto rowAt = [this](int place) { return ShownRows()[static_cast<std::size_t>(place)]; };
+  connect(turret_, &TurretDrawing::chosen, this, [=, this](int place) { ChooseRow(rowAt(place)); });
+  // Arrows go on along the turret; in the list they would put another condenser there.
+  connect(turret_, &TurretDrawing::activated, this, [=, this](int place) {
+    Combo1[static_cast<std::size_t>(rowAt(place))]->setFocus(Qt::OtherFocusReason);
+  });
 }
 
 void CondenserCassetteCtl::BuildRow(int row) {
@@ -58,16 +76,60 @@ void CondenserCassetteCtl::BuildRow(int row) {
   const QString number = QString::number(row + 1);
   Label1[i] = Named(new QLabel(number, FrameBase), "Label1", row);
   Label1[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  Label1[i]->setMinimumWidth(QFontMetrics(BoldFont()).horizontalAdvance(number));
   ComboBox* combo = Combo1[i] = Named(new ComboBox(FrameBase), "Combo1", row);
   combo->setAccessibleName(QStringLiteral("Address ") + number);
   combo->setFixedWidth(kComboWidth);
   Label1[i]->setBuddy(combo);
-  connect(combo, &ComboBox::chosen, this,
-          [this, combo, row](int index) { cassette_.code(row + 1, combo->data(index).toInt()); });
+  combo->installEventFilter(this);
+  connect(combo, &ComboBox::chosen, this, [this, combo, row](int index) {
+    cassette_.code(row + 1, combo->data(index).toInt());
+    UpdateTurret();
+  });
+}
+
+bool CondenserCassetteCtl::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) {
+    const auto* combo = std::find(Combo1.begin(), Combo1.end(), watched);
+    if (combo != Combo1.end()) ChooseRow(static_cast<int>(combo - Combo1.begin()));
+  }
+  return CardPage::eventFilter(watched, event);
 }
 
 void CondenserCassetteCtl::LoadData() {
   for (int row = 0; row < kRowCount; ++row) LoadRow(row);
+  UpdateTurret();
+}
+
+std::vector<int> CondenserCassetteCtl::ShownRows() const {
+  std::vector<int> rows;
+  for (int row = 0; row < kRowCount; ++row) {
+    if (!Combo1[static_cast<std::size_t>(row)]->isHidden()) rows.push_back(row);
+  }
+  return rows;
+}
+
+void CondenserCassetteCtl::ChooseRow(int row) {
+  chosenRow_ = row;
+  const std::vector<int> shown = ShownRows();
+  const auto place = std::find(shown.begin(), shown.end(), row);
+  turret_->setIndex(place == shown.end() ? -1 : static_cast<int>(place - shown.begin()));
+  for (int i = 0; i < kRowCount; ++i) {
+    Label1[static_cast<std::size_t>(i)]->setFont(i == row ? BoldFont() : font());
+  }
+}
+
+// A place without a name to show is a free one, whatever code it holds.
+void CondenserCassetteCtl::UpdateTurret() {
+  QVector<TurretItem> items;
+  for (const int row : ShownRows()) {
+    const QString name = Combo1[static_cast<std::size_t>(row)]->currentText();
+    const std::string text = name.toStdString();
+    const bool free = Trim(text).empty() || IsVacant(text);
+    items.append({free ? QString() : name, name, std::nullopt, false, row + 1});
+  }
+  turret_->SetItems(items);
+  ChooseRow(chosenRow_);
 }
 
 void CondenserCassetteCtl::LoadRow(int row) {

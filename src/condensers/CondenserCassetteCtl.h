@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "widgets/CardPage.h"
 
@@ -10,13 +11,17 @@ class QLabel;
 namespace mortane {
 
 class ComboBox;
+class TurretDrawing;
 class clsCondenser;
 class clsDbCondenser;
 
 // Each list offers no condenser, the fixed ones that the controller finds fit for the address,
 // and the user's named ones. Only a choice of the user reaches the model: a code without an
-// entry shows nothing and stays.
+// entry shows nothing and stays. The turret shows what the lists show; the row that was worked
+// last is the chosen one.
 class CondenserCassetteCtl : public CardPage {
+  Q_OBJECT
+
  public:
   // The cassette may have more addresses; these are the ones that people set here.
   static constexpr int kRowCount = 7;
@@ -29,12 +34,21 @@ class CondenserCassetteCtl : public CardPage {
   std::array<QLabel*, kRowCount> Label1;
   std::array<ComboBox*, kRowCount> Combo1;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void BuildRow(int row);
   void LoadRow(int row);
+  void ChooseRow(int row);
+  void UpdateTurret();
+  // The rows on show, in the order of the places.
+  [[nodiscard]] std::vector<int> ShownRows() const;
 
   clsCondenser& cassette_;
   const clsDbCondenser& condensers_;
+  TurretDrawing* turret_;
+  int chosenRow_ = 0;
 };
 
 }  // namespace mortane

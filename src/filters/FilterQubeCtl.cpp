@@ -91,6 +91,7 @@ QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
   turret_ = Named(new TurretDrawing(PlaceKind::Cubes, panel), "turret");
+  turret_->setAccessibleName(QStringLiteral("Filter Turret"));
   List1 = Named(new ListBox(panel), "List1");
   List1->setAccessibleName(QStringLiteral("Filter Cubes"));
   QVector<ListColumn> columns;

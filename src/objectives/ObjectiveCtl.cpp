@@ -104,6 +104,7 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
   turret_ = Named(new TurretDrawing(PlaceKind::Objectives, panel), "turret");
+  turret_->setAccessibleName(QStringLiteral("Nosepiece"));
   ListSeries = Named(new ListBox(panel), "ListSeries");
   ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
   ListSeries->setFixedWidth(kSeriesWidth);

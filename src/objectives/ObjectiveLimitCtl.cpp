@@ -104,6 +104,10 @@ ObjectiveLimitCtl::ObjectiveLimitCtl(clsLimitation& limits, QWidget* parent)
 
 void ObjectiveLimitCtl::AddRule(const Rule& rule) {
   auto* frame = Named(new InnerFrame(QLatin1String(rule.caption), FrameBase), rule.frameName);
+  const QString explanation = QString::fromLatin1(rule.explanation).trimmed();
+  // Without a caption the explanation tells its options from those of the others.
+  if (frame->caption().isEmpty()) frame->setAccessibleName(explanation);
+  frame->setAccessibleDescription(explanation);
   auto* group = new OptionGroup(this);
   auto* row = new QHBoxLayout;
   row->setSpacing(grid::kBetweenColumns);

@@ -67,6 +67,7 @@ void ObjectiveOptionCtl::BuildMagnification(RecordForm& form) {
 
 TextField* ObjectiveOptionCtl::MakeField(const Number& number, QWidget* parent) {
   auto* field = Named(new TextField(parent), number.fieldName);
+  field->setAccessibleName(QLatin1String(number.caption));
   field->SetLimit(kNumberLength);
   field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   field->SetWidthFor(kNumberWidthCharacters);

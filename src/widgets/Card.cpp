@@ -16,6 +16,7 @@ QLabel* AddCaption(const QString& caption, QFrame* frame, QVBoxLayout* body) {
   auto* label = new QLabel(caption, frame);
   label->setFont(FrameCaptionFont());
   frame->setAccessibleName(caption);
+  label->setBuddy(frame);
   body->addWidget(label);
   return label;
 }

@@ -1,12 +1,14 @@
 #include "widgets/ComboBox.h"
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
 #include "widgets/ClickFocus.h"
+#include "widgets/ElidedTip.h"
 #include "widgets/RowDelegate.h"
 
 namespace mortane {
@@ -39,6 +41,19 @@ void ComboBox::setIndex(int row) {
   const int before = currentIndex();
   setCurrentIndex(row >= 0 && row < count() ? row : -1);
   if (currentIndex() >= 0 && currentIndex() != before) emit selectionChanged(currentIndex());
+}
+
+// An elided entry shows its whole text.
+bool ComboBox::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const QRect shown =
+      style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  const bool fits = fontMetrics().horizontalAdvance(currentText()) <= shown.width();
+  ShowWholeText(*static_cast<QHelpEvent*>(event), *this, currentText(),
+                fits ? Fits::Yes : Fits::No);
+  return true;
 }
 
 void ComboBox::mousePressEvent(QMouseEvent* event) {

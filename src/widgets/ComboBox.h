@@ -27,6 +27,7 @@ class ComboBox : public QComboBox {
   void selectionChanged(int row);
 
  protected:
+  bool event(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

@@ -39,7 +39,7 @@ double AverageCharacter(const QFontMetrics& metrics) {
 
 }  // namespace
 
-ListBox::ListBox(QWidget* parent) : QTreeWidget(parent), headerCorner_(new HeaderCorner) {
+ListBox::ListBox(QWidget* parent) : RowView(parent), headerCorner_(new HeaderCorner) {
   setItemDelegate(new RowDelegate(this));
   setRootIsDecorated(false);
   setUniformRowHeights(true);
@@ -48,7 +48,7 @@ ListBox::ListBox(QWidget* parent) : QTreeWidget(parent), headerCorner_(new Heade
   setSelectionBehavior(SelectRows);
   setEditTriggers(NoEditTriggers);
   setVerticalScrollMode(ScrollPerItem);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setHorizontalScrollMode(ScrollPerPixel);
   setTextElideMode(Qt::ElideRight);
   setIndentation(0);
   header()->setSectionsClickable(false);
@@ -80,21 +80,53 @@ void ListBox::SetColumns(const QVector<ListColumn>& columns) {
   setHeaderLabels(headers);
   setHeaderHidden(!named);
   header()->setFont(CaptionFont());
-  header()->setStretchLastSection(true);
-  for (int i = 0; i + 1 < count; ++i)
-    header()->setSectionResizeMode(i, QHeaderView::ResizeToContents);
+  header()->setStretchLastSection(count == 1);
+  setHorizontalScrollBarPolicy(count == 1 ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+  ForgetContents();
 }
 
 void ListBox::SetTabStops(const QVector<int>& dialogUnits) {
   tabStops_ = dialogUnits;
-  header()->resizeSections(QHeaderView::ResizeToContents);
+  ForgetContents();
+  FitColumns();
 }
 
-int ListBox::sizeHintForColumn(int column) const {
-  const int before = column > 0 ? tabStops_.value(column - 1) : 0;
-  const int units = tabStops_.value(column) - before;
-  return qMax(qRound(units * AverageCharacter(fontMetrics()) / kDialogUnits),
-              QTreeWidget::sizeHintForColumn(column));
+void ListBox::MeasureContents() {
+  const double unit = AverageCharacter(fontMetrics()) / kDialogUnits;
+  for (int column = 0; column < columnCount(); ++column) {
+    int content = header()->isHidden() ? 0 : header()->sectionSizeHint(column);
+    for (int row = 0; row < rowCount(); ++row) {
+      content = qMax(content, sizeHintForIndex(model()->index(row, column)).width());
+    }
+    const int before = column > 0 ? tabStops_.value(column - 1) : 0;
+    const int stop = qRound((tabStops_.value(column) - before) * unit);
+    wishes_.push_back({content, qMax(content, stop)});
+  }
+}
+
+void ListBox::FitColumns() {
+  if (columnCount() < 2) return;
+  if (wishes_.empty()) MeasureContents();
+  const std::vector<int> widths = ColumnWidths(wishes_, viewport()->width());
+  for (int column = 0; column < columnCount(); ++column) {
+    header()->resizeSection(column, widths[static_cast<std::size_t>(column)]);
+  }
+}
+
+void ListBox::doItemsLayout() {
+  ForgetContents();
+  RowView::doItemsLayout();
+}
+
+void ListBox::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                          const QList<int>& roles) {
+  ForgetContents();
+  RowView::dataChanged(topLeft, bottomRight, roles);
+}
+
+void ListBox::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange) ForgetContents();
+  RowView::changeEvent(event);
 }
 
 void ListBox::SetIconRows(bool iconRows) {
@@ -194,13 +226,14 @@ bool ListBox::IsShownWhole(const QRect& row) const {
 }
 
 void ListBox::updateGeometries() {
-  QTreeWidget::updateGeometries();
+  FitColumns();
+  RowView::updateGeometries();
   headerCorner_->setFixedHeight(isHeaderHidden() ? 0 : header()->height());
 }
 
 void ListBox::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                       const QModelIndex& index) const {
-  if (IsShownWhole(option.rect)) QTreeWidget::drawRow(painter, option, index);
+  if (IsShownWhole(option.rect)) RowView::drawRow(painter, option, index);
 }
 
 // Letters in quick succession are one search; one letter repeated goes from row to row.
@@ -227,14 +260,14 @@ void ListBox::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !TakeFocus(*this)) return;
   const int row = RowAt(*event);
   if (row < 0) return;
-  QTreeWidget::mousePressEvent(event);
+  RowView::mousePressEvent(event);
   SelectQuietly(row);
   emit selectionChanged(row);
 }
 
 void ListBox::mouseMoveEvent(QMouseEvent* event) {
   const int before = index();
-  QTreeWidget::mouseMoveEvent(event);
+  RowView::mouseMoveEvent(event);
   if (index() >= 0 && index() != before) emit selectionChanged(index());
 }
 
@@ -243,31 +276,31 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
   if (row != index())
     mousePressEvent(event);
   else
-    QTreeWidget::mouseDoubleClickEvent(event);
+    RowView::mouseDoubleClickEvent(event);
 }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
   const int before = index();
-  QTreeWidget::keyPressEvent(event);
+  RowView::keyPressEvent(event);
   if (index() >= 0 && index() != before) emit selectionChanged(index());
 }
 
 // A view that gets the focus with no current row would make the first one current.
 void ListBox::focusInEvent(QFocusEvent* event) {
-  if (index() >= 0) QTreeWidget::focusInEvent(event);
+  if (index() >= 0) RowView::focusInEvent(event);
   update();
   viewport()->update();
 }
 
 void ListBox::focusOutEvent(QFocusEvent* event) {
-  QTreeWidget::focusOutEvent(event);
+  RowView::focusOutEvent(event);
   update();
 }
 
 // A click with the control key would take the selection back.
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
                                                               const QEvent* event) const {
-  QItemSelectionModel::SelectionFlags flags = QTreeWidget::selectionCommand(index, event);
+  QItemSelectionModel::SelectionFlags flags = RowView::selectionCommand(index, event);
   if (index.isValid() && flags.testFlag(QItemSelectionModel::Deselect)) {
     flags = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
   }
@@ -277,7 +310,7 @@ QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex&
 QSize ListBox::sizeHint() const {
   const int header = isHeaderHidden() ? 0 : this->header()->sizeHint().height();
   const int row = GridHeight(grid::kRowHeight, *this);
-  return {QTreeWidget::sizeHint().width(), 2 * frameWidth() + header + row * kRowsAskedFor};
+  return {RowView::sizeHint().width(), 2 * frameWidth() + header + row * kRowsAskedFor};
 }
 
 }  // namespace mortane

@@ -3,11 +3,12 @@
 
 #include <QElapsedTimer>
 #include <QStringList>
-#include <QTreeWidget>
 #include <QVariant>
 #include <QVector>
 
+#include "widgets/ColumnWidths.h"
 #include "widgets/Icons.h"
+#include "widgets/RowView.h"
 
 namespace mortane {
 
@@ -16,10 +17,12 @@ struct ListColumn {
   Qt::Alignment alignment = Qt::AlignLeft;
 };
 
+// Several columns are as wide as their contents at least, and scrolled where there is no room for
+// them; a single one is elided. The list scrolls by rows and shows whole rows only.
 // selectionChanged() is raised once for each new row, whether the person or the program selects
 // it, and for every click of the person, also on the selected row. Filling, clearing and focus
-// raise nothing. The list scrolls by rows and shows whole rows only.
-class ListBox : public QTreeWidget {
+// raise nothing.
+class ListBox : public RowView {
   Q_OBJECT
 
  public:
@@ -57,6 +60,11 @@ class ListBox : public QTreeWidget {
   void keyboardSearch(const QString& typed) override;
   [[nodiscard]] QSize sizeHint() const override;
 
+  // The toolkit calls these when rows have changed.
+  void doItemsLayout() override;
+  void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                   const QList<int>& roles) override;
+
  signals:
   // Hides a handler of the view, which the view alone calls.
 #pragma GCC diagnostic push
@@ -75,8 +83,8 @@ class ListBox : public QTreeWidget {
   void focusOutEvent(QFocusEvent* event) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
-  [[nodiscard]] int sizeHintForColumn(int column) const override;
   void updateGeometries() override;
+  void changeEvent(QEvent* event) override;
   void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
@@ -85,10 +93,16 @@ class ListBox : public QTreeWidget {
  private:
   [[nodiscard]] int RowAt(const QMouseEvent& event) const;
   [[nodiscard]] bool IsShownWhole(const QRect& row) const;
+  void ForgetContents() {
+    wishes_.clear();
+  }
+  void MeasureContents();
+  void FitColumns();
 
   QWidget* headerCorner_;
   QVector<ListColumn> columns_;
   QVector<int> tabStops_;
+  std::vector<ColumnWish> wishes_;  // of the columns; empty until they are measured
   int nameColumn_ = 0;
   QString typed_;
   QElapsedTimer sinceKey_;

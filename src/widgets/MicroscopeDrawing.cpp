@@ -1,50 +1,19 @@
 #include "widgets/MicroscopeDrawing.h"
 
 #include <QFile>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <algorithm>
 #include <array>
 
+#include "widgets/ElidedTip.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
 
-constexpr QSizeF kDesign{606, 370};
-constexpr double kLeastScale = 0.8;
-constexpr double kMostScale = 1.5;
-constexpr double kTextGap = 7;
-constexpr double kElbow = 26;
 constexpr double kDotRadius = 5;
 constexpr double kDisabledOpacity = 0.4;  // of the body; labels and dots have the disabled colours
-
-enum class Side { Left, Right };
-
-// Where an accessory sits on the drawing, and the height of its label, in design pixels.
-struct Anchor {
-  int number;
-  Side side;
-  double x;
-  double y;
-  double labelY;
-};
-
-constexpr std::array kAnchors{
-    Anchor{1, Side::Right, 392, 60, 65},       Anchor{2, Side::Left, 327.5, 92.5, 92.5},
-    Anchor{3, Side::Right, 355, 153.5, 153.5}, Anchor{4, Side::Right, 442, 43, 38},
-    Anchor{5, Side::Left, 314, 132, 132},      Anchor{6, Side::Right, 368, 258, 249},
-    Anchor{7, Side::Right, 428, 300, 303},     Anchor{8, Side::Left, 282, 262, 259},
-    Anchor{9, Side::Left, 318, 233, 232},      Anchor{10, Side::Right, 375, 288, 276},
-    Anchor{11, Side::Left, 267, 283, 286},     Anchor{12, Side::Left, 296, 314, 314},
-    Anchor{13, Side::Right, 447, 314, 330},    Anchor{14, Side::Left, 289, 188.5, 188.5},
-};
-
-const Anchor* AnchorOf(int number) {
-  const auto* found = std::find_if(kAnchors.begin(), kAnchors.end(),
-                                   [number](const Anchor& a) { return a.number == number; });
-  return found == kAnchors.end() ? nullptr : found;
-}
 
 struct Ink {
   const char* inFile;
@@ -67,20 +36,6 @@ QByteArray InkedDrawing(const QPalette& palette) {
   drawing.replace("#ffffff", palette.color(QPalette::Active, QPalette::Base).name().toLatin1());
   drawing.replace("#3c475c", palette.color(QPalette::Active, QPalette::Shadow).name().toLatin1());
   return drawing;
-}
-
-// Room that the labels need beyond the design, since text does not shrink with the drawing.
-double ExtraOnSide(const QVector<DrawnAccessory>& accessories, Side side, double scale,
-                   const QFontMetrics& metrics) {
-  double extra = 0;
-  for (const DrawnAccessory& accessory : accessories) {
-    const Anchor* anchor = AnchorOf(accessory.number);
-    if (anchor == nullptr || anchor->side != side) continue;
-    const double room = (side == Side::Left ? anchor->x : kDesign.width() - anchor->x) - kElbow;
-    const double needed = (metrics.horizontalAdvance(accessory.label) + 2 * kTextGap) / scale;
-    extra = std::max(extra, needed - room);
-  }
-  return extra;
 }
 
 void DrawDot(QPainter& painter, QPointF at, int mounted, const QPalette& palette, bool enabled) {
@@ -108,6 +63,7 @@ void DrawDot(QPainter& painter, QPointF at, int mounted, const QPalette& palette
 
 MicroscopeDrawing::MicroscopeDrawing(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::NoFocus);
+  setAccessibleName(QStringLiteral("Microscope"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -124,60 +80,58 @@ void MicroscopeDrawing::SetAccessories(const QVector<DrawnAccessory>& accessorie
   update();
 }
 
+MicroscopeLayout MicroscopeDrawing::Layout() const {
+  return LayOutMicroscope(accessories_, size(), fontMetrics());
+}
+
 double MicroscopeDrawing::drawingScale() const {
-  double scale = std::min(width() / kDesign.width(), height() / kDesign.height());
-  scale = std::clamp(scale, kLeastScale, kMostScale);
-  const double extra = ExtraOnSide(accessories_, Side::Left, scale, fontMetrics()) +
-                       ExtraOnSide(accessories_, Side::Right, scale, fontMetrics());
-  return std::clamp(std::min(scale, width() / (kDesign.width() + extra)), kLeastScale, kMostScale);
+  return Layout().scale;
 }
 
 QSize MicroscopeDrawing::sizeHint() const {
-  return kDesign.toSize();
+  return MicroscopeDesignSize().toSize();
 }
 
 QSize MicroscopeDrawing::minimumSizeHint() const {
-  return (kDesign * kLeastScale).toSize();
+  return (MicroscopeDesignSize() * LeastMicroscopeScale()).toSize();
+}
+
+bool MicroscopeDrawing::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto& help = *static_cast<QHelpEvent*>(event);
+  for (const DrawnLabel& label : Layout().labels) {
+    if (!label.area.contains(help.pos())) continue;
+    const bool fits = label.shown == label.accessory.label;
+    ShowWholeText(help, *this, label.accessory.label, fits ? Fits::Yes : Fits::No,
+                  label.area.toAlignedRect());
+    return true;
+  }
+  ShowWholeText(help, *this, {}, Fits::Yes);
+  return true;
 }
 
 void MicroscopeDrawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const double scale = drawingScale();
-  const double left = ExtraOnSide(accessories_, Side::Left, scale, fontMetrics());
-  const double right = ExtraOnSide(accessories_, Side::Right, scale, fontMetrics());
-  const double whole = (left + kDesign.width() + right) * scale;
-  const QPointF origin((width() - whole) / 2 + left * scale,
-                       (height() - kDesign.height() * scale) / 2);
+  const MicroscopeLayout layout = Layout();
   QSvgRenderer body(InkedDrawing(palette()));
   if (!isEnabled()) painter.setOpacity(kDisabledOpacity);
-  body.render(&painter, QRectF(origin, kDesign * scale));
+  body.render(&painter, layout.body);
   painter.setOpacity(1);
+  for (const DrawnLabel& label : layout.labels) PaintLabel(painter, label);
+}
 
-  const auto place = [&](double x, double y) { return origin + QPointF(x, y) * scale; };
-  const double labelLeft = (width() - whole) / 2;
-  const double labelRight = (width() + whole) / 2;
-  for (const DrawnAccessory& accessory : accessories_) {
-    const Anchor* anchor = AnchorOf(accessory.number);
-    if (anchor == nullptr) continue;
-    const bool onLeft = anchor->side == Side::Left;
-    const QPointF dot = place(anchor->x, anchor->y);
-    const double y = place(0, anchor->labelY).y();
-    const double advance = fontMetrics().horizontalAdvance(accessory.label);
-    const double textLeft = onLeft ? labelLeft : labelRight - advance;
-    const bool live = accessory.mounted != 0 && isEnabled();
-    const QPalette::ColorGroup group = live ? QPalette::Active : QPalette::Disabled;
-    QPen pen(palette().color(group, live ? QPalette::Dark : QPalette::Text), 1);
-    if (accessory.mounted == 0) pen.setDashPattern({4, 3});
-    painter.setPen(pen);
-    const double from = onLeft ? textLeft + advance + kTextGap : textLeft - kTextGap;
-    const double elbow = dot.x() + (onLeft ? -kElbow : kElbow) * scale;
-    painter.drawPolyline(QPolygonF{{from, y}, {elbow, y}, dot});
-    painter.setPen(palette().color(group, QPalette::WindowText));
-    painter.drawText(QRectF(textLeft, y - 20, advance + 2, 40), Qt::AlignLeft | Qt::AlignVCenter,
-                     accessory.label);
-    DrawDot(painter, dot, accessory.mounted, palette(), isEnabled());
-  }
+void MicroscopeDrawing::PaintLabel(QPainter& painter, const DrawnLabel& label) const {
+  const bool live = label.accessory.mounted != 0 && isEnabled();
+  const QPalette::ColorGroup group = live ? QPalette::Active : QPalette::Disabled;
+  QPen line(palette().color(group, live ? QPalette::Dark : QPalette::Text), 1);
+  if (label.accessory.mounted == 0) line.setDashPattern({4, 3});
+  painter.setPen(line);
+  painter.drawPolyline(QPolygonF{{label.lineStart, label.elbow, label.dot}});
+  painter.setPen(palette().color(group, QPalette::WindowText));
+  // The width of a text is rounded; one that fits must not be cut.
+  painter.drawText(label.area.adjusted(-1, 0, 1, 0), Qt::AlignCenter, label.shown);
+  DrawDot(painter, label.dot, label.accessory.mounted, palette(), isEnabled());
 }
 
 }  // namespace mortane

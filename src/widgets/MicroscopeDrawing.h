@@ -1,22 +1,15 @@
 // The side view of the microscope with a leader line to each accessory.
 #pragma once
 
-#include <QString>
 #include <QVector>
 #include <QWidget>
 
+#include "widgets/MicroscopeLayout.h"
+
 namespace mortane {
 
-// One accessory as the drawing shows it: not mounted (0, dashed and grey), sensed only (1, a ring)
-// or controllable (2, a full dot).
-struct DrawnAccessory {
-  int number = 0;
-  QString label;
-  int mounted = 0;
-};
-
-// Scales from 0.8 to 1.5 and never stretches. An ornament beside the report: it takes no focus and
-// tells the same in its accessible description.
+// Scales and never stretches; a label that is elided shows its whole text as a tool tip. An
+// ornament beside the report: it takes no focus and tells the same in its accessible description.
 class MicroscopeDrawing : public QWidget {
   Q_OBJECT
 
@@ -29,9 +22,13 @@ class MicroscopeDrawing : public QWidget {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] MicroscopeLayout Layout() const;
+  void PaintLabel(QPainter& painter, const DrawnLabel& label) const;
+
   QVector<DrawnAccessory> accessories_;
 };
 

@@ -1,5 +1,6 @@
 #include "widgets/PageButton.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -31,6 +32,10 @@ void PageButton::SetSelected(bool selected) {
   if (selected_ == selected) return;
   selected_ = selected;
   update();
+  QAccessible::State changed;
+  changed.checked = true;
+  QAccessibleStateChangeEvent event(this, changed);
+  QAccessible::updateAccessibility(&event);
 }
 
 void PageButton::SetPending(bool pending) {

@@ -42,6 +42,7 @@ PageHeader::PageHeader(IconName icon, const QString& title, QWidget* parent)
 
 SectionBar* PageHeader::AddSectionBar(const char* arrayName) {
   sectionBar_ = new SectionBar(arrayName, this);
+  sectionBar_->setAccessibleName(title());
   title_->setMinimumWidth(qMax(TitleRoom(), title_->sizeHint().width()));
   auto* row = static_cast<QHBoxLayout*>(layout());
   row->insertWidget(1, sectionBar_);

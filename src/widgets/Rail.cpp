@@ -11,6 +11,7 @@
 namespace mortane {
 
 Rail::Rail(QWidget* parent) : QWidget(parent) {
+  setAccessibleName(QStringLiteral("Pages"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, grid::kBetweenControls, 0, 0);
   column->setSpacing(2);

@@ -10,6 +10,7 @@
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
+#include "widgets/ValueLabel.h"
 
 namespace mortane {
 namespace {
@@ -59,6 +60,10 @@ RecordForm::Column RecordForm::AddColumn(const ColumnNames& names, QWidget* valu
                       Named(new ListBox(frame_), names.list)};
   column.caption->setBuddy(column.list);
   column.list->setAccessibleName(column.caption->text());
+  if (qobject_cast<ValueLabel*>(value) != nullptr) value->setAccessibleName(column.caption->text());
+  // Screen readers meet caption, value and list in this order.
+  value->raise();
+  column.list->raise();
   columns_->addWidget(column.caption, kCaptionRow, place);
   columns_->addWidget(value, kValueRow, place);
   columns_->addWidget(column.list, kListRow, place);

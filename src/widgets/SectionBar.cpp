@@ -1,9 +1,11 @@
 #include "widgets/SectionBar.h"
 
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QPainterPath>
 
+#include "widgets/ElidedTip.h"
 #include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
@@ -12,6 +14,8 @@ namespace mortane {
 namespace {
 
 constexpr int kSidePadding = 18;
+constexpr int kLeastPadding = 8;
+constexpr int kLeastCharacters = 5;
 
 // Rounded only where the bar begins or ends.
 QPainterPath OptionShape(const QRectF& area, bool first, bool last) {
@@ -30,7 +34,7 @@ SectionOption::SectionOption(const QString& text, QWidget* parent) : QAbstractBu
   setText(text);
   setCheckable(true);
   setAttribute(Qt::WA_Hover);
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 void SectionOption::SetEnds(bool first, bool last) {
@@ -43,6 +47,20 @@ QSize SectionOption::sizeHint() const {
   const QFontMetrics bold(BoldFont());
   return {bold.horizontalAdvance(text()) + 2 * kSidePadding,
           GridHeight(grid::kSectionHeight, *this)};
+}
+
+// In a narrow window its text is elided.
+QSize SectionOption::minimumSizeHint() const {
+  const int least = QFontMetrics(BoldFont()).averageCharWidth() * kLeastCharacters;
+  return {qMin(least + 2 * kLeastPadding, sizeHint().width()), sizeHint().height()};
+}
+
+bool SectionOption::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QAbstractButton::event(event);
+  const int needed = QFontMetrics(BoldFont()).horizontalAdvance(text());
+  const bool fits = needed <= width() - 2 * kLeastPadding;
+  ShowWholeText(*static_cast<QHelpEvent*>(event), *this, text(), fits ? Fits::Yes : Fits::No);
+  return true;
 }
 
 void SectionOption::paintEvent(QPaintEvent*) {
@@ -66,7 +84,9 @@ void SectionOption::paintEvent(QPaintEvent*) {
   }
   painter.setFont(chosen ? BoldFont() : font());
   painter.setPen(amber ? ToneColor(Tone::OnAmber) : palette().color(QPalette::ButtonText));
-  painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+  painter.drawText(
+      rect(), Qt::AlignCenter,
+      painter.fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * kLeastPadding));
 }
 
 SectionBar::SectionBar(const char* arrayName, QWidget* parent)
@@ -74,7 +94,7 @@ SectionBar::SectionBar(const char* arrayName, QWidget* parent)
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   connect(group_, &OptionGroup::selectionChanged, this, &SectionBar::selectionChanged);
 }
 

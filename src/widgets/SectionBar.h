@@ -17,8 +17,10 @@ class SectionOption : public QAbstractButton {
 
   void SetEnds(bool first, bool last);
   [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -202,6 +202,15 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
                           header->text);
       }
       return;
+    case CE_ComboBoxLabel:
+      if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+        QStyleOptionComboBox elided = *combo;
+        const QRect shown = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget);
+        elided.currentText =
+            combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, shown.width());
+        return QProxyStyle::drawControl(element, &elided, painter, widget);
+      }
+      break;
     case CE_RadioButton:
     case CE_CheckBox:
       if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option))

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 
+#include "widgets/Accessible.h"
 #include "widgets/Style.h"
 
 // The macro behind this call cannot stand inside a namespace.
@@ -121,6 +122,7 @@ QFont Scaled(double factor, QFont::Weight weight) {
 
 void ApplyTheme(QApplication& application, std::optional<Scheme> forced) {
   LoadWidgetResources();
+  InstallAccessibleInterfaces();
   currentScheme = forced ? *forced : SystemScheme();
   const QPalette palette = BuildPalette(currentScheme);
   if (qobject_cast<Style*>(QApplication::style()) == nullptr) QApplication::setStyle(new Style);

@@ -46,8 +46,9 @@ enum class Tone {
 };
 inline constexpr int kToneCount = static_cast<int>(Tone::LightCone) + 1;
 
-// Sets style, palette and tool tip font. Follows the system's scheme if it tells, otherwise light;
-// the tour of the pages overrides it with the environment variable MORTANE_SCHEME (light, dark).
+// Sets style, palette, tool tip font and what screen readers are told. Follows the system's scheme
+// if it tells, otherwise light; the tour of the pages overrides it with the environment variable
+// MORTANE_SCHEME (light, dark).
 void ApplyTheme(QApplication& application, std::optional<Scheme> forced = {});
 Scheme CurrentScheme();
 QColor ToneColor(Tone tone);

@@ -1,8 +1,11 @@
 #include "widgets/TurretButton.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <array>
+#include <cmath>
 
 #include "widgets/Icons.h"
 #include "widgets/Paint.h"
@@ -14,10 +17,15 @@ constexpr double kHaloRoom = 8;
 constexpr double kHaloOutside = 5.5;
 constexpr double kFocusOutside = 7;
 constexpr double kTileCorner = 4;
+constexpr double kTileHeightShare = 0.8;
 constexpr double kTextMargin = 4;
-constexpr double kGlyphMargin = 3;
-constexpr double kLargestGlyph = 34;
-constexpr double kShareOfGlyph = 0.5;  // of the height of a tile
+constexpr int kLeastCharacters = 6;  // of a name that is elided
+// Shares of a tile's height.
+constexpr double kTextMiddle = 0.3;
+constexpr double kGlyphMiddle = 0.7;
+constexpr double kGlyphHeight = 0.4;
+constexpr double kMostGlyph = 26;
+constexpr double kRimInset = 1.5;
 constexpr double kShareOfRing = 0.18;
 constexpr double kLeastRing = 3;
 constexpr double kMostRing = 5;
@@ -46,10 +54,18 @@ QPen DashedPen(const QColor& line) {
   return pen;
 }
 
-// The largest of the allowed fonts in which the text fits.
-QFont FontThatFits(const QString& text, double width) {
-  QFont larger = FrameCaptionFont();
-  return QFontMetricsF(larger).horizontalAdvance(text) <= width ? larger : MarkFont();
+double RingWidth(double placeWidth) {
+  return qBound(kLeastRing, placeWidth / 2 * kShareOfRing, kMostRing);
+}
+
+double FaceWidth(double placeWidth) {
+  return placeWidth - 2 * (kRimInset + RingWidth(placeWidth));
+}
+
+// How wide a round face must be for a text whose corners keep clear of its edge.
+double FaceWidthFor(const QString& text, const QFont& font) {
+  const QFontMetricsF metrics(font);
+  return std::hypot(metrics.horizontalAdvance(text), metrics.capHeight()) + 2 * kTextMargin;
 }
 
 }  // namespace
@@ -62,8 +78,8 @@ Tone RingTone(double magnification) {
   return Tone::DrawingLine;
 }
 
-TurretButton::TurretButton(PlaceKind kind, int address, QWidget* parent)
-    : QAbstractButton(parent), kind_(kind), address_(address) {
+TurretButton::TurretButton(PlaceKind kind, int number, QWidget* parent)
+    : QAbstractButton(parent), kind_(kind), number_(number) {
   setCheckable(true);
   setAttribute(Qt::WA_Hover);
 }
@@ -71,9 +87,55 @@ TurretButton::TurretButton(PlaceKind kind, int address, QWidget* parent)
 void TurretButton::SetItem(const TurretItem& item) {
   item_ = item;
   const QString details = item.mark.isEmpty() ? QString(kFree) : item.details;
-  setAccessibleName(QStringLiteral("Address %1, %2").arg(address_).arg(details));
+  setAccessibleName(QStringLiteral("Address %1, %2").arg(address()).arg(details));
   setToolTip(item.mark.isEmpty() ? QString() : item.details);
   update();
+}
+
+int TurretButton::address() const {
+  return item_.address > 0 ? item_.address : number_;
+}
+
+QSizeF TurretButton::PlaceSizeFor(double width) const {
+  return {width, kind_ == PlaceKind::Objectives ? width : width * kTileHeightShare};
+}
+
+double TurretButton::TileShape() {
+  return kTileHeightShare;
+}
+
+double TurretButton::LeastPlaceWidth() const {
+  if (item_.mark.isEmpty()) return 0;
+  if (kind_ == PlaceKind::Objectives) {
+    return FaceWidthFor(item_.mark, MarkFont()) + 2 * (kRimInset + kMostRing);
+  }
+  const QFontMetricsF metrics(MarkFont());
+  return qMin(metrics.horizontalAdvance(item_.mark),
+              metrics.averageCharWidth() * kLeastCharacters) +
+         2 * kTextMargin;
+}
+
+bool TurretButton::HasRoomForLargeMark() const {
+  const QFont font = FrameCaptionFont();
+  if (kind_ == PlaceKind::Objectives) {
+    return FaceWidthFor(item_.mark, font) <= FaceWidth(placeSize_.width());
+  }
+  return QFontMetricsF(font).horizontalAdvance(item_.mark) <= placeSize_.width() - 2 * kTextMargin;
+}
+
+void TurretButton::SetLargeMark(bool large) {
+  largeMark_ = large;
+  update();
+}
+
+double TurretButton::ReachTowards(QPointF direction) const {
+  const QSizeF half = placeSize_ / 2;
+  if (kind_ == PlaceKind::Objectives) return half.width() + kHaloRoom;
+  // To the edge of the tile that the direction meets first.
+  constexpr double kParallel = 1e-6;
+  const double across = half.width() / qMax(kParallel, qAbs(direction.x()));
+  const double along = half.height() / qMax(kParallel, qAbs(direction.y()));
+  return qMin(across, along) + kHaloRoom;
 }
 
 void TurretButton::SetPlaceSize(const QSizeF& size) {
@@ -100,9 +162,19 @@ void TurretButton::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+void TurretButton::keyReleaseEvent(QKeyEvent* event) {
+  const QScopedValueRollback<bool> pressed(pressed_, true);
+  QAbstractButton::keyReleaseEvent(event);
+}
+
+void TurretButton::mouseReleaseEvent(QMouseEvent* event) {
+  const QScopedValueRollback<bool> pressed(pressed_, true);
+  QAbstractButton::mouseReleaseEvent(event);
+}
+
 bool TurretButton::hitButton(const QPoint& at) const {
   const QPointF distance = QPointF(at) - QRectF(rect()).center();
-  if (kind_ == PlaceKind::Cubes) {
+  if (kind_ != PlaceKind::Objectives) {
     return qAbs(distance.x()) <= placeSize_.width() / 2 &&
            qAbs(distance.y()) <= placeSize_.height() / 2;
   }
@@ -129,34 +201,61 @@ void TurretButton::PaintFree(QPainter& painter, const QRectF& place) const {
 
 void TurretButton::PaintObjective(QPainter& painter, const QRectF& place) const {
   const QColor line = ToneColor(Tone::DrawingLine);
-  const double ring = qBound(kLeastRing, place.width() / 2 * kShareOfRing, kMostRing);
   const QColor hovered = palette().color(QPalette::Midlight);
   painter.setPen(LinePen(line));
   painter.setBrush(ToneColor(RingTone(item_.magnification.value_or(0))));
-  painter.drawEllipse(place.adjusted(1.5, 1.5, -1.5, -1.5));
-  const double inset = 1.5 + ring;
-  const QRectF face = place.adjusted(inset, inset, -inset, -inset);
+  painter.drawEllipse(place.adjusted(kRimInset, kRimInset, -kRimInset, -kRimInset));
+  QRectF face(0, 0, FaceWidth(place.width()), FaceWidth(place.width()));
+  face.moveCenter(place.center());
   painter.setBrush(underMouse() ? hovered : palette().color(QPalette::Active, QPalette::Base));
   painter.drawEllipse(face);
-  painter.setFont(FontThatFits(item_.mark, face.width() - kTextMargin));
+  painter.setFont(largeMark_ ? FrameCaptionFont() : MarkFont());
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(face, Qt::AlignCenter, item_.mark);
 }
 
-void TurretButton::PaintCube(QPainter& painter, const QRectF& place) const {
+void TurretButton::PaintTile(QPainter& painter, const QRectF& place) const {
   painter.setPen(LinePen(ToneColor(Tone::DrawingLine)));
   painter.setBrush(palette().color(underMouse() ? QPalette::Midlight : QPalette::Base));
   PaintShape(painter, place);
-  const QFont font = FontThatFits(item_.mark, place.width() - 2 * kTextMargin);
+  const double room = place.width() - 2 * kTextMargin;
+  const QFont font = largeMark_ ? FrameCaptionFont() : MarkFont();
   painter.setFont(font);
   painter.setPen(palette().color(QPalette::WindowText));
-  const double side = qMin(kLargestGlyph, place.height() * kShareOfGlyph);
-  const QRectF upper = place.adjusted(kTextMargin, 1, -kTextMargin, -side - kGlyphMargin);
-  painter.drawText(upper, Qt::AlignCenter,
-                   QFontMetricsF(font).elidedText(item_.mark, Qt::ElideRight, upper.width()));
-  DrawIcon(painter, IconName::Cube,
-           QRectF(place.center().x() - side / 2, place.bottom() - side - kGlyphMargin, side, side),
-           {palette().color(QPalette::WindowText), ToneColor(Tone::IconAccent)});
+  QRectF text(0, 0, room, QFontMetricsF(font).height());
+  text.moveCenter({place.center().x(), place.top() + place.height() * kTextMiddle});
+  painter.drawText(text, Qt::AlignCenter,
+                   QFontMetricsF(font).elidedText(item_.mark, Qt::ElideRight, room));
+  const double side = qMin(kMostGlyph, place.height() * kGlyphHeight);
+  QRectF glyph(0, 0, side, side);
+  glyph.moveCenter({place.center().x(), place.top() + place.height() * kGlyphMiddle});
+  PaintGlyph(painter, glyph);
+}
+
+void TurretButton::PaintGlyph(QPainter& painter, const QRectF& area) const {
+  const QColor line = ToneColor(Tone::DrawingLine);
+  const QColor accent = ToneColor(Tone::IconAccent);
+  if (kind_ == PlaceKind::Condensers) {
+    // The icon has a margin of its own.
+    const double margin = area.width() * 0.2;
+    DrawIcon(painter, IconName::Condenser, area.adjusted(-margin, -margin, margin, margin),
+             {line, accent});
+    return;
+  }
+  // From the side: the mirror in its cube, the exciter before it and the barrier behind it.
+  const double bar = area.width() * 0.12;
+  painter.setPen(LinePen(line));
+  painter.setBrush(ToneColor(Tone::DrawingFill));
+  painter.drawRect(area);
+  painter.setPen(LinePen(accent, bar));
+  painter.drawLine(area.bottomLeft(), area.topRight());
+  const double away = area.width() * 0.34;
+  const double inset = area.height() * 0.16;
+  painter.drawLine(
+      QLineF(area.left() - away, area.top() + inset, area.left() - away, area.bottom() - inset));
+  painter.setPen(LinePen(line, bar));
+  painter.drawLine(
+      QLineF(area.right() + away, area.top() + inset, area.right() + away, area.bottom() - inset));
 }
 
 void TurretButton::paintEvent(QPaintEvent*) {
@@ -175,7 +274,7 @@ void TurretButton::paintEvent(QPaintEvent*) {
   } else if (kind_ == PlaceKind::Objectives) {
     PaintObjective(painter, place);
   } else {
-    PaintCube(painter, place);
+    PaintTile(painter, place);
   }
   if (hasFocus()) {
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));

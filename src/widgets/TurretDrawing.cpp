@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QtMath>
+#include <algorithm>
 #include <cmath>
 
 #include "widgets/Named.h"
@@ -24,9 +25,9 @@ constexpr double kHubHole = 4;
 constexpr double kOrbitEdge = 12;
 constexpr double kLargestPlace = 34;
 constexpr double kBetweenPlaces = 5;
+constexpr double kBetweenTiles = 8;
 constexpr double kNumberGap = 8;  // from the halo to the middle, in pixels of any scale
 constexpr QSizeF kNumberSize{40, 20};
-constexpr double kTileHeightShare = 0.8;
 constexpr double kLeastScale = 0.8;
 constexpr double kMostScale = 1.5;
 constexpr int kLeastButton = 24;
@@ -37,8 +38,13 @@ struct Ring {
   double orbit;
 };
 
-// The places fill the disc up to its edge and keep clear of each other, whatever their number.
-Ring RingOf(int count) {
+QPointF Direction(int index, int count) {
+  const double angle = 2 * M_PI * index / qMax(1, count);
+  return {std::sin(angle), -std::cos(angle)};
+}
+
+// Round places fill the disc up to its edge and keep clear of each other, whatever their number.
+Ring RoundPlaces(int count) {
   const double room = kRadius - kOrbitEdge;
   if (count < 2) return {kLargestPlace, room - kLargestPlace};
   const double half = std::sin(M_PI / count);
@@ -46,20 +52,40 @@ Ring RingOf(int count) {
   return {radius, room - radius};
 }
 
-QPointF Direction(int index, int count) {
-  const double angle = 2 * M_PI * index / qMax(1, count);
-  return {std::sin(angle), -std::cos(angle)};
+// Whether no tile reaches into the halo of its neighbour.
+bool AreTilesApart(int count, const Ring& ring) {
+  for (int i = 0; i + 1 < count; ++i) {
+    const QPointF between = (Direction(i + 1, count) - Direction(i, count)) * ring.orbit;
+    const double width = 2 * ring.placeRadius;
+    const bool apart = qAbs(between.x()) >= width + kBetweenTiles ||
+                       qAbs(between.y()) >= width * TurretButton::TileShape() + kBetweenTiles;
+    if (!apart) return false;
+  }
+  return true;
+}
+
+Ring RingOf(PlaceKind kind, int count) {
+  Ring ring = RoundPlaces(count);
+  if (kind == PlaceKind::Objectives) return ring;
+  while (!AreTilesApart(count, ring)) {
+    ring.placeRadius -= 0.5;
+    ring.orbit += 0.5;
+  }
+  return ring;
 }
 
 }  // namespace
 
 TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
-    : QWidget(parent), kind_(kind), group_(new OptionGroup(this)) {
+    : QWidget(parent), kind_(kind), group_(new OptionGroup(this)), leastScale_(kLeastScale) {
   setFocusPolicy(Qt::NoFocus);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   // All at once, so that they stand at the drawing's place in the order of the Tab key.
   for (int i = 0; i < kMostPlaces; ++i) MakeButton(i);
-  connect(group_, &OptionGroup::selectionChanged, this, &TurretDrawing::chosen);
+  connect(group_, &OptionGroup::selectionChanged, this, [this](int index) {
+    emit chosen(index);
+    if (buttons_[index]->isPressed()) emit activated(index);
+  });
 }
 
 void TurretDrawing::MakeButton(int index) {
@@ -85,6 +111,7 @@ void TurretDrawing::SetItems(const QVector<TurretItem>& items) {
     if (i < count_) buttons_[i]->SetItem(items[i]);
     buttons_[i]->setVisible(i < count_);
   }
+  UpdateLeastScale();
   PlaceButtons();
   Describe();
 }
@@ -92,7 +119,22 @@ void TurretDrawing::SetItems(const QVector<TurretItem>& items) {
 void TurretDrawing::SetItem(int index, const TurretItem& item) {
   if (index < 0 || index >= count() || buttons_[index]->item() == item) return;
   buttons_[index]->SetItem(item);
+  UpdateLeastScale();
+  UpdateMarks();
   Describe();
+}
+
+// Marks do not scale with the drawing, and must not touch the rings around them.
+void TurretDrawing::UpdateLeastScale() {
+  double least = kLeastScale;
+  const double width = 2 * RingOf(kind_, count_).placeRadius;
+  for (int i = 0; i < count_; ++i) least = qMax(least, buttons_[i]->LeastPlaceWidth() / width);
+  least = qMin(least, kMostScale);
+  if (least == leastScale_) return;
+  leastScale_ = least;
+  updateGeometry();
+  disc_ = {};
+  PlaceButtons();
 }
 
 void TurretDrawing::Describe() {
@@ -119,16 +161,16 @@ void TurretDrawing::setIndex(int index) {
 }
 
 double TurretDrawing::drawingScale() const {
-  return qBound(kLeastScale, height() / kSide, kMostScale);
+  return qBound(leastScale_, height() / kSide, kMostScale);
 }
 
 QSize TurretDrawing::sizeHint() const {
   const int side = qCeil(kSide * drawingScale());
-  return {side, qCeil(kSide)};
+  return {side, qMax(qCeil(kSide), minimumSizeHint().height())};
 }
 
 QSize TurretDrawing::minimumSizeHint() const {
-  const int side = qCeil(kSide * kLeastScale);
+  const int side = qCeil(kSide * leastScale_);
   return {side, side};
 }
 
@@ -141,24 +183,34 @@ void TurretDrawing::resizeEvent(QResizeEvent* event) {
 
 void TurretDrawing::PlaceButtons() {
   const double scale = drawingScale();
-  const Ring ring = RingOf(count());
+  const Ring ring = RingOf(kind_, count());
   const QPointF center = Center();
   for (int i = 0; i < count(); ++i) {
-    const double width = 2 * ring.placeRadius * scale;
-    const double height = kind_ == PlaceKind::Objectives ? width : width * kTileHeightShare;
-    QSizeF outer(width, height);
-    outer += QSizeF(2, 2) * TurretButton::HaloRoom();
+    const QSizeF place = buttons_[i]->PlaceSizeFor(2 * ring.placeRadius * scale);
+    const QSizeF outer = place + QSizeF(2, 2) * TurretButton::HaloRoom();
     QRectF area(QPointF(), outer.expandedTo({kLeastButton, kLeastButton}));
     area.moveCenter(center + Direction(i, count()) * ring.orbit * scale);
     buttons_[i]->setGeometry(area.toAlignedRect());
-    buttons_[i]->SetPlaceSize({width, height});
+    buttons_[i]->SetPlaceSize(place);
   }
+  UpdateMarks();
   update();
+}
+
+// In one size: it would seem to mean something if marks differed.
+void TurretDrawing::UpdateMarks() {
+  const auto end = buttons_.begin() + count_;
+  const bool large = std::all_of(buttons_.begin(), end, [](const TurretButton* button) {
+    return button->HasRoomForLargeMark();
+  });
+  std::for_each(buttons_.begin(), end,
+                [large](TurretButton* button) { button->SetLargeMark(large); });
 }
 
 void TurretDrawing::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) disc_ = {};
+  if (event->type() == QEvent::FontChange) UpdateLeastScale();
 }
 
 // The disc without its places is painted once for each size.
@@ -193,12 +245,13 @@ void TurretDrawing::PaintDisc() {
 }
 
 QRectF TurretDrawing::NumberArea(int index) const {
-  const Ring ring = RingOf(count());
+  const Ring ring = RingOf(kind_, count());
   const double scale = drawingScale();
-  const double distance =
-      (ring.orbit - ring.placeRadius) * scale - TurretButton::HaloRoom() - kNumberGap;
+  const QPointF direction = Direction(index, count());
+  const double reach = buttons_[index]->ReachTowards(direction);
+  const double distance = ring.orbit * scale - reach - kNumberGap;
   QRectF area(QPointF(), kNumberSize);
-  area.moveCenter(Center() + Direction(index, count()) * distance);
+  area.moveCenter(Center() + direction * distance);
   return area;
 }
 
@@ -215,7 +268,7 @@ void TurretDrawing::paintEvent(QPaintEvent*) {
     const bool chosen = i == index();
     painter.setFont(chosen ? BoldFont() : CaptionFont());
     painter.setPen(palette().color(chosen ? QPalette::WindowText : QPalette::PlaceholderText));
-    painter.drawText(NumberArea(i), Qt::AlignCenter, QString::number(i + 1));
+    painter.drawText(NumberArea(i), Qt::AlignCenter, QString::number(buttons_[i]->address()));
   }
 }
 

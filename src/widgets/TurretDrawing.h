@@ -16,7 +16,8 @@ class TurretButton;
 
 enum class PlaceKind {
   Objectives,  // round places with the magnification inside a ring of its colour
-  Cubes,       // upright tiles with the name
+  Cubes,       // upright tiles with the name and a small cube
+  Condensers,  // the same with a small condenser
 };
 
 // `mark` stands on the place; an empty one makes it a free place. `details` follow the address in
@@ -26,13 +27,14 @@ struct TurretItem {
   QString details;
   std::optional<double> magnification;
   bool pending = false;
+  int address = 0;  // 0: places are numbered from 1
 
   bool operator==(const TurretItem&) const = default;
 };
 
 // Address 1 is at the top, the others follow clockwise. The places are buttons, of which one is
 // chosen; together they are one Tab stop, with arrows inside. Scales from 0.8 to 1.5 with its
-// height and never stretches.
+// height and never stretches; large fonts make it larger, so that marks stay within their places.
 class TurretDrawing : public QWidget {
   Q_OBJECT
 
@@ -54,6 +56,8 @@ class TurretDrawing : public QWidget {
  signals:
   // For a click or a key of the person only.
   void chosen(int index);
+  // For a click or the Space key. Arrows, Home and End go along the turret and ask for no more.
+  void activated(int index);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -66,6 +70,8 @@ class TurretDrawing : public QWidget {
   void PlaceButtons();
   void Describe();
   void PaintDisc();
+  void UpdateLeastScale();
+  void UpdateMarks();
   [[nodiscard]] QPointF Center() const;
   [[nodiscard]] QRectF NumberArea(int index) const;
 
@@ -73,6 +79,7 @@ class TurretDrawing : public QWidget {
   OptionGroup* group_;
   QVector<TurretButton*> buttons_;  // of all addresses that there can be
   int count_ = 0;
+  double leastScale_;
   QPixmap disc_;
 };
 

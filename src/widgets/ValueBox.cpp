@@ -21,6 +21,7 @@ ValueBox::Value ValueBox::AddValue(const char* caption, const char* captionName,
   const Value added{Named(CaptionLabel(QLatin1String(caption), this), captionName),
                     Named(new ValueLabel(this), valueName)};
   added.value->setAccessibleName(added.caption->text());
+  added.caption->setBuddy(added.value);
   added.value->SetCharacters(characters);
   cells_->addWidget(added.caption, 0, column);
   cells_->addWidget(added.value, 1, column);

@@ -2,8 +2,8 @@
 
 #include <QHelpEvent>
 #include <QPainter>
-#include <QToolTip>
 
+#include "widgets/ElidedTip.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -30,7 +30,7 @@ QSize ValueLabel::minimumSizeHint() const {
 bool ValueLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QLabel::event(event);
   const bool fits = fontMetrics().horizontalAdvance(text()) <= width();
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), fits ? QString() : text(), this);
+  ShowWholeText(*static_cast<QHelpEvent*>(event), *this, text(), fits ? Fits::Yes : Fits::No);
   return true;
 }
 

@@ -20,6 +20,10 @@ using Names = std::vector<std::string>;
 
 class CassettePage : public testing::Test {
  protected:
+  ~CassettePage() override {
+    if (page.parentWidget() == nullptr) delete &page;
+  }
+
   ComboBox& combo(int address) { return *page.Combo1[static_cast<std::size_t>(address - 1)]; }
   Names Offered(int address) { return RowsOf(combo(address)); }
   clsCondenser& cassette() { return rig.k70().curCondenser; }

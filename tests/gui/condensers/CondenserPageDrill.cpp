@@ -30,12 +30,36 @@ void Unfit(Bench& bench) {
   bench.instruments.back().Accessory(accessory::kCondenser) = {};
 }
 
+std::vector<AccessibleControl> AccessibleCassette() {
+  std::vector<AccessibleControl> told{
+      told::Group("Set Condenser Data to Each Address"),
+      told::Label("Set Condenser Data to Each Address"),
+      told::Group("Condenser Turret"),
+      told::Chosen("Address 1, Bright"),
+      told::NotChosen("Address 2, Ph 1"),
+      told::NotChosen("Address 3, Ph 2"),
+      told::NotChosen("Address 4, Darkfield"),
+      told::NotChosen("Address 5, DIC L"),
+      told::NotChosen("Address 6, DIC M"),
+      told::NotChosen("Address 7, DIC H"),
+  };
+  int address = 0;
+  for (const char* module : {"Bright", "Ph 1", "Ph 2", "Darkfield", "DIC L", "DIC M", "DIC H"}) {
+    const std::string number = std::to_string(++address);
+    told.push_back(told::Label(number));
+    told.push_back(told::Combo("Address " + number, module));
+  }
+  return told;
+}
+
 PageDrillData Cassette() {
   PageDrillData data;
   data.name = "Cassette";
   data.bench = "Harbour";
   data.make = MakeCondenserCassetteCtl;
-  data.controls = {{"FrameBase", "Set Condenser Data to Each Address"}};
+  data.controls = {{"FrameBase", "Set Condenser Data to Each Address"},
+                   {"turret", "Condenser Turret"}};
+  data.tabOrder = {"place_1"};
   for (int row = 0; row < 7; ++row) {
     const std::string number = std::to_string(row + 1);
     data.controls.push_back({Numbered("Label1", row), number});
@@ -55,6 +79,7 @@ PageDrillData Cassette() {
       {"Combo1_2", "", CodeAt(3), "0"},
       {"Combo1_6", "Slit", CodeAt(7), "141"},
   };
+  data.accessible = AccessibleCassette();
   return data;
 }
 
@@ -64,11 +89,16 @@ PageDrillData Names() {
   data.bench = "Harbour";
   data.make = MakeCondenserOptionCtl;
   data.controls = {{"FrameBase", "Add Optional Condenser Data to the List"}};
+  data.accessible = {told::Group("Add Optional Condenser Data to the List"),
+                     told::Label("Add Optional Condenser Data to the List")};
   for (int row = 0; row < 9; ++row) {
     const std::string number = std::to_string(row + 1);
     data.controls.push_back({Numbered("Label11", row), number});
     data.controls.push_back({Numbered("TextName", row), "Optional Condenser " + number});
     data.tabOrder.push_back(Numbered("TextName", row));
+    data.accessible.push_back(told::Label(number));
+    data.accessible.push_back(
+        told::Field("Optional Condenser " + number, row == 0 ? "Slit" : "----------"));
   }
   data.shown = {
       {"TextName_0", PutName(141, "Ring"), NameOf(141), "Ring"},
@@ -115,6 +145,7 @@ PageDrillData Settings() {
       {"optCondenserSetting_1", "Lantern", {}, true},
   };
   data.tabOrder = {"optCondenserSetting_0",
+                   "place_1",
                    "Combo1_0",
                    "Combo1_1",
                    "Combo1_2",
@@ -122,6 +153,11 @@ PageDrillData Settings() {
                    "Combo1_4",
                    "Combo1_5",
                    "Combo1_6"};
+  data.accessible = {told::Label("Condensers"), told::Group("Condensers"),
+                     told::Chosen("Condenser"), told::NotChosen("Optional")};
+  for (AccessibleControl& control : AccessibleCassette()) {
+    data.accessible.push_back(std::move(control));
+  }
   return data;
 }
 

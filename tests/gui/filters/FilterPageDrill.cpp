@@ -1,10 +1,14 @@
 // The drill of the filter pages.
+#include <map>
+
 #include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
 
 namespace mortane::test {
 namespace {
+
+constexpr char kDashes[] = "----------";
 
 std::string Numbered(const char* array, int index) {
   return std::string(array) + "_" + std::to_string(index);
@@ -22,6 +26,30 @@ void Mount(clsK70& k70) {
 
 void Unfit(Bench& bench) {
   bench.instruments.back().Accessory(accessory::kFilterCube) = {};
+}
+
+std::vector<AccessibleControl> AccessibleTurret() {
+  return {
+      told::Group("Set Filter Cube Data to Each Address"),
+      told::Label("Set Filter Cube Data to Each Address"),
+      told::Tabs("Address", "1"),
+      told::Group("Filter Turret"),
+      told::Chosen("Address 1, UV Blue"),
+      told::NotChosen("Address 2, Violet"),
+      told::NotChosen("Address 3, Green"),
+      told::NotChosen("Address 4, Yellow"),
+      told::NotChosen("Address 5, Orange"),
+      told::NotChosen("Address 6, Empty"),
+      told::List("Filter Cubes", "Name UV Blue, Exciter 365/10, Dichroic DM 400, Barrier 460/50"),
+      told::Label("Name"),
+      told::Value("Name", "UV Blue"),
+      told::Label("Exciter"),
+      told::Value("Exciter", "365/10"),
+      told::Label("Dichroic"),
+      told::Value("Dichroic", "DM 400"),
+      told::Label("Barrier"),
+      told::Value("Barrier", "460/50"),
+  };
 }
 
 PageDrillData Turret() {
@@ -62,6 +90,7 @@ PageDrillData Turret() {
       {"List1", "Ratio\t387/11\tDM 495\t525/50", CodeAt<1>, "241"},
   };
   data.tabOrder = {"TabPocket", "place_1", "List1"};
+  data.accessible = AccessibleTurret();
   return data;
 }
 
@@ -121,6 +150,22 @@ PageDrillData OptionalCube() {
       {"ListBarrier", "LP 420", FirstCube, "Ratio,241,4,1"},
   };
   data.tabOrder = {"TabOption", "TextName", "ListExciter", "ListDichroic", "ListBarrier"};
+  data.accessible = {
+      told::Group("Add Optional Filter Cube Data to the List"),
+      told::Label("Add Optional Filter Cube Data to the List"),
+      told::Tabs("Position", "1"),
+      told::Label("Name"),
+      told::Field("Name", "Ratio"),
+      told::Label("Exciter"),
+      told::Value("Exciter", "387/11"),
+      told::List("Exciter", "387/11"),
+      told::Label("Dichroic"),
+      told::Value("Dichroic", "DM 495"),
+      told::List("Dichroic", "DM 495"),
+      told::Label("Barrier"),
+      told::Value("Barrier", "525/50"),
+      told::List("Barrier", "525/50"),
+  };
   return data;
 }
 
@@ -144,13 +189,23 @@ PageDrillData OptionalItem() {
                    {"Label1", "Exciter"},
                    {"Label2", "Dichroic"},
                    {"Label3", "Barrier"}};
+  data.accessible = {told::Group("Add Optional Filter Data "),
+                     told::Label("Add Optional Filter Data "), told::Label("Exciter"),
+                     told::Label("Dichroic"), told::Label("Barrier")};
+  const std::map<std::string, const char*> named{{"TextExciter_0", "387/11"},
+                                                 {"TextDichroic_0", "DM 409"},
+                                                 {"TextBarrier_0", "Quad"},
+                                                 {"TextExciter_1", "488/6"}};
   for (int row = 0; row < 9; ++row) {
     const std::string number = std::to_string(row + 1);
     data.controls.push_back({Numbered("Label11", row), number});
+    data.accessible.push_back(told::Label(number));
     for (const char* kind : {"Exciter", "Dichroic", "Barrier"}) {
       const std::string field = Numbered((std::string("Text") + kind).c_str(), row);
       data.controls.push_back({field, std::string(kind) + " " + number});
       data.tabOrder.push_back(field);
+      data.accessible.push_back(told::Field(std::string(kind) + " " + number,
+                                            named.contains(field) ? named.at(field) : kDashes));
     }
   }
   data.shown = {
@@ -198,6 +253,12 @@ PageDrillData Settings() {
       {"optFilterSetting_2", "Harbour", Unfit, true},
   };
   data.tabOrder = {"optFilterSetting_0", "TabPocket", "place_1", "List1"};
+  data.accessible = {told::Label("Filter Cubes"), told::Group("Filter Cubes"),
+                     told::Chosen("Filter Cube"), told::NotChosen("Optional Cube"),
+                     told::NotChosen("Optional Item")};
+  for (AccessibleControl& control : AccessibleTurret()) {
+    data.accessible.push_back(std::move(control));
+  }
   return data;
 }
 

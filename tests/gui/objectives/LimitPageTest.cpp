@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QTest>
 
+#include "gui/objectives/AccessibleObjectives.h"
 #include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
@@ -84,6 +85,7 @@ PageDrillData LimitPage() {
        true},
   };
   data.tabOrder = {"optPreventIncrease_0", "optSkipEmpty_0", "optPreventImmersion_0"};
+  data.accessible = AccessibleLimits();
   return data;
 }
 

@@ -7,6 +7,7 @@
 
 #include "NosepieceRig.h"
 #include "common/Numbers.h"
+#include "gui/objectives/AccessibleObjectives.h"
 #include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
@@ -73,6 +74,7 @@ PageDrillData NosepiecePage() {
       {"ListSeries", "-----------", CodeAt<1>, "0"},
   };
   data.tabOrder = {"TabNosepiece", "place_1", "ListSeries", "ListItem"};
+  data.accessible = AccessibleNosepiece();
   return data;
 }
 

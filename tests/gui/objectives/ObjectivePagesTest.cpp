@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QTest>
 
+#include "gui/objectives/AccessibleObjectives.h"
 #include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
@@ -36,6 +37,12 @@ PageDrillData ObjectivePages() {
       {"optSettings_2", "Harbour", {}, true},  {"optSettings_2", "Hub", {}, false},
       {"optSettings_2", "Outpost", {}, false}, {"optSettings_2", "Harbour", unknown, false}};
   data.tabOrder = {"optSettings_0", "TabNosepiece", "place_1", "ListSeries", "ListItem"};
+  data.accessible = {told::Label("Objectives"), told::Group("Objectives"),
+                     told::Chosen("Nosepiece"), told::NotChosen("Optional Obj."),
+                     told::NotChosen("Limit Control")};
+  for (AccessibleControl& control : AccessibleNosepiece()) {
+    data.accessible.push_back(std::move(control));
+  }
   return data;
 }
 

@@ -4,6 +4,7 @@
 
 #include "OptionTexts.h"
 #include "common/Numbers.h"
+#include "gui/objectives/AccessibleObjectives.h"
 #include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
@@ -90,6 +91,7 @@ PageDrillData OptionPage() {
   };
   data.tabOrder = {"TabStrip1", "TextName", "ListSeries", "ListType",      "TextMag",
                    "ListMag",   "TextWD",   "TextNA",     "ComboCondenser"};
+  data.accessible = AccessibleOptionalObjectives();
   return data;
 }
 

@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "gui/support/PageActs.h"
+#include "widgets/Card.h"
 #include "widgets/TextField.h"
 
 namespace mortane::test {
@@ -17,6 +18,12 @@ std::string CaptionOf(const QWidget& control) {
   }
   if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
     return button->text().toStdString();
+  }
+  if (const auto* card = qobject_cast<const Card*>(&control)) {
+    return card->caption().toStdString();
+  }
+  if (const auto* frame = qobject_cast<const InnerFrame*>(&control)) {
+    return frame->caption().toStdString();
   }
   return control.accessibleName().toStdString();
 }
@@ -89,6 +96,23 @@ TEST_P(PageDrill, TheTabKeyGoesThroughThePageInOrder) {
   PageRig rig(GetParam().bench);
   ShowOn(rig);
   EXPECT_EQ(rig.TabOrder(), GetParam().tabOrder);
+}
+
+TEST_P(PageDrill, AScreenReaderFindsWhatThePageShows) {
+  PageRig rig(GetParam().bench);
+  EXPECT_EQ(AccessibleTree(ShowOn(rig)), GetParam().accessible);
+}
+
+TEST_P(PageDrill, EveryStopOfTheTabKeyHasAnAccessibleName) {
+  PageRig rig(GetParam().bench);
+  ShowOn(rig);
+  for (const std::string& stop : rig.TabOrder()) {
+    QWidget& control = rig.Find(stop);
+    const AccessibleControl told = AccessibleOf(control);
+    EXPECT_NE(told.name, "") << stop;
+    control.setFocus();
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&control)->state().focused) << stop;
+  }
 }
 
 TEST_P(PageDrill, LoadsAndSavesWithoutAController) {

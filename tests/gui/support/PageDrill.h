@@ -8,11 +8,12 @@
 #include <string>
 #include <vector>
 
+#include "gui/support/AccessibleTree.h"
 #include "gui/support/PageRig.h"
 
 namespace mortane::test {
 
-// A given control; `text` is its caption, or of a frame the caption that it announces.
+// A given control; `text` is its caption, or its accessible name where it shows none.
 struct GivenControl {
   std::string name;
   std::string text;
@@ -64,6 +65,8 @@ struct PageDrillData {
   std::vector<RefusedText> refused;
   std::vector<EnablingRule> enabling;
   std::vector<std::string> tabOrder;
+  // All that a screen reader finds.
+  std::vector<AccessibleControl> accessible;
 };
 
 inline void PrintTo(const PageDrillData& data, std::ostream* stream) {
