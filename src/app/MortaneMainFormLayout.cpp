@@ -84,9 +84,9 @@ void MortaneMainForm::BuildMenus() {
 }
 
 void MortaneMainForm::BuildToolbar() {
-  Toolbar1 = addToolBar("Commands");  // by which screen readers call it
+  Toolbar1 = addToolBar("Toolbar1");
   Toolbar1->setObjectName("Toolbar1");
-  Toolbar1->setAccessibleName("Tools");
+  Toolbar1->setAccessibleName("Commands");
   Toolbar1->setMovable(false);
   Toolbar1->setIconSize({kToolbarIcon, kToolbarIcon});
   Toolbar1->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

@@ -28,6 +28,7 @@ constexpr char kBetweenParts[] = " \u00B7 ";
 }  // namespace
 
 SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
+  setAccessibleName("Session");
   setFont(CaptionFont());
   setForegroundRole(QPalette::PlaceholderText);
   bar_.installEventFilter(this);

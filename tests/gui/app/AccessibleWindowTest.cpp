@@ -29,7 +29,7 @@ TEST(AccessibleWindow, TellsWhichPageIsShownAndWhichCannotBe) {
 TEST(AccessibleWindow, TheToolBarHasAName) {
   AppRig rig(benches::Named("Harbour"));
   EXPECT_EQ(AccessibleOf(rig.Find<QToolBar>("Toolbar1")),
-            (AccessibleControl{QAccessible::ToolBar, "Tools"}));
+            (AccessibleControl{QAccessible::ToolBar, "Commands"}));
 }
 
 TEST(AccessibleWindow, TheListOfMicroscopesIsNamedByItsText) {
