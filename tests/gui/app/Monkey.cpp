@@ -1,0 +1,181 @@
+#include "Monkey.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QTest>
+#include <QWheelEvent>
+#include <array>
+
+#include "app/MortaneMainForm.h"
+#include "widgets/CommandKey.h"
+
+namespace mortane::test {
+namespace {
+
+constexpr std::array kKeys{Qt::Key_Tab,    Qt::Key_Backtab,  Qt::Key_Space, Qt::Key_Return,
+                           Qt::Key_Enter,  Qt::Key_Up,       Qt::Key_Down,  Qt::Key_Left,
+                           Qt::Key_Right,  Qt::Key_Home,     Qt::Key_End,   Qt::Key_PageUp,
+                           Qt::Key_F10,    Qt::Key_Delete,   Qt::Key_F4,    Qt::Key_Escape,
+                           Qt::Key_Insert, Qt::Key_Backspace};
+
+// Numbers at and beyond the bounds of fields, marks, and what is no number.
+constexpr std::array kTexts{"0",      "-1",         "200",      "200.1",
+                            "1e300",  "nan",        "2,5",      "0.125",
+                            "999999", "-100000.01", "A",        "Clinic 25x plus more",
+                            " ",      "----",       "\xC3\xA4", "\xF0\x9F\x94\xAC"};
+
+bool IsInSight(const QWidget& widget) {
+  return widget.isVisible() && widget.isEnabled() && !widget.visibleRegion().isEmpty();
+}
+
+bool IsWorkable(const QWidget& widget) {
+  if (!IsInSight(widget)) return false;
+  // Exit would end the walk.
+  if (widget.objectName() == QLatin1String("ImageCommand_3")) return false;
+  return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+         qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr ||
+         qobject_cast<const QTabBar*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractItemView*>(widget.parentWidget()) != nullptr ||
+         dynamic_cast<const CommandKey*>(&widget) != nullptr;
+}
+
+std::string NameOf(const QWidget& widget) {
+  return std::string(widget.metaObject()->className()) + " " + widget.objectName().toStdString();
+}
+
+}  // namespace
+
+Answer MonkeyPrompts::MsgBox(const std::string& text, int style, const std::string&) {
+  boxes.push_back(text);
+  if (text.starts_with("Exit Setup?")) return Answer::Cancel;
+  if ((style & 0xF) == 0) return Answer::Ok;
+  if ((style & 0xF) == box::kCancelTryContinue) return Answer::Cancel;
+  return random_() % 2 == 0 ? Answer::Ok : Answer::Cancel;
+}
+
+Answer MonkeyPrompts::TimedMsgBox(int, const std::string& prompt, int, const std::string&,
+                                  const std::string&, int) {
+  boxes.push_back(prompt);
+  return random_() % 2 == 0 ? Answer::Ok : Answer::TimedOut;
+}
+
+std::string MonkeyPrompts::AskFileToOpen(const FileQuestion&) {
+  return AnyFile();
+}
+
+std::string MonkeyPrompts::AskFileToSave(const FileQuestion&) {
+  return AnyFile();
+}
+
+std::string MonkeyPrompts::AnyFile() {
+  const std::size_t index = random_() % (files_.size() + 1);
+  return index == files_.size() ? std::string() : files_[index];
+}
+
+Monkey::Monkey(QWidget& window, std::mt19937& random) : window_(window), random_(random) {
+  QObject::connect(&dialogs_, &QTimer::timeout, &dialogs_, [this] { WorkDialog(); });
+  dialogs_.start(0);
+}
+
+void Monkey::Act() {
+  ActIn(window_);
+  QCoreApplication::processEvents();
+  ClosePopup();
+}
+
+std::vector<QWidget*> Monkey::Controls(QWidget& top) const {
+  std::vector<QWidget*> controls;
+  for (QWidget* widget : top.findChildren<QWidget*>()) {
+    if (IsWorkable(*widget)) controls.push_back(widget);
+  }
+  return controls;
+}
+
+void Monkey::ActIn(QWidget& top) {
+  const std::vector<QWidget*> controls = Controls(top);
+  if (controls.empty()) return;
+  QWidget& control = *controls[Any(controls)];
+  switch (Below(10)) {
+    case 0:
+      return Turn(control);
+    case 1:
+    case 2:
+      return Press();
+    case 3:
+      return Type();
+    default:
+      return Click(control);
+  }
+}
+
+void Monkey::Click(QWidget& control) {
+  const QRect area = control.visibleRegion().boundingRect();
+  const QPoint at = area.topLeft() + QPoint(Below(area.width()), Below(area.height()));
+  last_ = "click on " + NameOf(control);
+  const QPointer<QWidget> target(&control);
+  QTest::mousePress(&control, Qt::LeftButton, {}, at);
+  if (target != nullptr) QTest::mouseRelease(target, Qt::LeftButton, {}, at);
+}
+
+void Monkey::Turn(QWidget& control) {
+  const QPoint at = control.rect().center();
+  last_ = "wheel on " + NameOf(control);
+  QWheelEvent turn(at, control.mapToGlobal(at), {}, {0, Below(2) == 0 ? 120 : -120}, Qt::NoButton,
+                   Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&control, &turn);
+}
+
+void Monkey::Press() {
+  QWidget* focus = QApplication::focusWidget();
+  if (focus == nullptr) return;
+  const Qt::Key key = kKeys[Any(kKeys)];
+  last_ = "key " + std::to_string(key) + " on " + NameOf(*focus);
+  QTest::keyClick(focus, key);
+}
+
+void Monkey::Type() {
+  QWidget* focus = QApplication::focusWidget();
+  if (focus == nullptr) return;
+  const QString text = QString::fromUtf8(kTexts[Any(kTexts)]);
+  last_ = "text " + text.toStdString() + " on " + NameOf(*focus);
+  if (Below(2) == 0) QTest::keyClick(focus, Qt::Key_A, Qt::ControlModifier);
+  const QPointer<QWidget> target(focus);
+  for (const QChar c : text) {
+    if (target != nullptr) QTest::sendKeyEvent(QTest::Click, target, Qt::Key_unknown, c, {});
+  }
+}
+
+// A few acts in the dialog, then one of its buttons.
+void Monkey::WorkDialog() {
+  auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (dialog == nullptr) return;
+  if (Below(3) == 0) {
+    dialog->reject();
+  } else {
+    ActIn(*dialog);
+  }
+}
+
+void Monkey::ClosePopup() {
+  for (int i = 0; QApplication::activePopupWidget() != nullptr; ++i) {
+    QWidget* popup = QApplication::activePopupWidget();
+    if (i > 4) {
+      popup->close();
+    } else {
+      QTest::keyClick(popup, Below(2) == 0   ? Qt::Key_Down
+                             : Below(2) == 0 ? Qt::Key_Return
+                                             : Qt::Key_Escape);
+    }
+    QCoreApplication::processEvents();
+  }
+}
+
+}  // namespace mortane::test
