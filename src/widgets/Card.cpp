@@ -54,18 +54,23 @@ QString InnerFrame::caption() const {
 }
 
 void InnerFrame::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  // While the window as a whole is disabled the frame keeps its fill: only what is not fitted
-  // loses it.
-  const bool fitted = isEnabledTo(window());
-  DrawBox(painter, rect(),
-          fitted ? palette().color(QPalette::AlternateBase) : QColor(Qt::transparent),
-          {palette().color(QPalette::Mid), 1, grid::kInnerCorner, !fitted});
+  DrawInnerFrame(*this);
 }
 
 void InnerFrame::changeEvent(QEvent* event) {
   if (event->type() == QEvent::EnabledChange) update();
   QFrame::changeEvent(event);
+}
+
+void DrawInnerFrame(QWidget& frame) {
+  QPainter painter(&frame);
+  const QPalette& palette = frame.palette();
+  // While the window as a whole is disabled the frame keeps its fill: only what is not fitted
+  // loses it.
+  const bool fitted = frame.isEnabledTo(frame.window());
+  DrawBox(painter, frame.rect(),
+          fitted ? palette.color(QPalette::AlternateBase) : QColor(Qt::transparent),
+          {palette.color(QPalette::Mid), 1, grid::kInnerCorner, !fitted});
 }
 
 QLabel* CaptionLabel(const QString& text, QWidget* parent) {

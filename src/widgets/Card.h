@@ -47,6 +47,9 @@ class InnerFrame : public QFrame {
   QVBoxLayout* body_ = nullptr;
 };
 
+// Fills and outlines a widget as an inner frame is.
+void DrawInnerFrame(QWidget& frame);
+
 // A label in caption type: over a value, under an option.
 QLabel* CaptionLabel(const QString& text, QWidget* parent = nullptr);
 

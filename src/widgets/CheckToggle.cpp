@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kTrackWidth = 36;
 constexpr int kTrackHeight = 18;
-constexpr int kPadding = 5;
 constexpr int kGap = 9;
 constexpr double kKnobInset = 3;
 
@@ -58,19 +57,22 @@ void CheckToggle::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool on = isChecked();
-  const bool fitted = isEnabled();
+  // A window that is busy is disabled as a whole, and its switches stay as they are.
+  const bool fitted = isEnabledTo(window());
   const QRectF track(kPadding, (height() - kTrackHeight) / 2.0, kTrackWidth, kTrackHeight);
-  QColor line = palette().color(QPalette::Dark);
+  QPalette colors = palette();
+  if (fitted) colors.setCurrentColorGroup(QPalette::Active);
+  QColor line = colors.color(QPalette::Dark);
   QColor knob = line;
-  QColor fill = palette().color(QPalette::Base);
+  QColor fill = colors.color(QPalette::Base);
   if (fitted && on) {
-    fill = line = palette().color(QPalette::Highlight);
-    knob = palette().color(QPalette::BrightText);
+    fill = line = colors.color(QPalette::Highlight);
+    knob = colors.color(QPalette::BrightText);
   }
-  if (fitted && !on && underMouse()) line = knob = palette().color(QPalette::Shadow);
+  if (fitted && !on && underMouse()) line = knob = colors.color(QPalette::Shadow);
   if (!fitted) {
     fill = QColor();
-    knob = palette().color(QPalette::Mid);
+    knob = colors.color(QPalette::Mid);
   }
   DrawBox(painter, track, fill, {line, 1.2, kTrackHeight / 2.0, !fitted});
   const double side = kTrackHeight - 2 * kKnobInset - (on && fitted ? 0 : 1);
@@ -78,12 +80,12 @@ void CheckToggle::paintEvent(QPaintEvent*) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(knob);
   painter.drawEllipse(QRectF(x, track.center().y() - side / 2, side, side));
-  painter.setPen(palette().color(QPalette::WindowText));
+  painter.setPen(colors.color(QPalette::WindowText));
   painter.setFont(on && fitted ? BoldFont() : font());
   painter.drawText(QRectF(track.right() + kGap, 0, width() - track.right() - kGap, height()),
                    Qt::AlignLeft | Qt::AlignVCenter, text());
   if (hasFocus())
-    DrawBox(painter, rect(), {}, {palette().color(QPalette::Highlight), 2, grid::kFieldCorner});
+    DrawBox(painter, rect(), {}, {colors.color(QPalette::Highlight), 2, grid::kFieldCorner});
 }
 
 }  // namespace mortane

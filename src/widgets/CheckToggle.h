@@ -11,6 +11,9 @@ class CheckToggle : public QAbstractButton {
   Q_OBJECT
 
  public:
+  // Between the edge, where the line of the focus goes, and the track.
+  static constexpr int kPadding = 5;
+
   explicit CheckToggle(QWidget* parent = nullptr);
 
   [[nodiscard]] QSize sizeHint() const override;

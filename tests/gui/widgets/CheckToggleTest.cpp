@@ -54,5 +54,16 @@ TEST_F(CheckToggleTest, DisabledItKeepsItsLastSideAndLooksDifferent) {
   EXPECT_NE(toggle->grab().toImage(), on);
 }
 
+TEST_F(CheckToggleTest, InAWindowThatIsBusyItLooksAsBefore) {
+  toggle->clearFocus();
+  for (const bool on : {false, true}) {
+    toggle->setChecked(on);
+    const QImage before = toggle->grab().toImage();
+    window.widget().setEnabled(false);
+    EXPECT_EQ(toggle->grab().toImage(), before) << on;
+    window.widget().setEnabled(true);
+  }
+}
+
 }  // namespace
 }  // namespace mortane

@@ -1,0 +1,42 @@
+// A tile: an icon, beside it a label and under that its switch.
+#pragma once
+
+#include <QWidget>
+
+#include "widgets/Icons.h"
+
+class QLabel;
+
+namespace mortane {
+
+class CheckToggle;
+
+// The label is the name of the switch. Disabled, the tile is drawn as not fitted, and the switch
+// keeps its side.
+class SwitchTile : public QWidget {
+  Q_OBJECT
+
+ public:
+  // What the tile stands on: a card, where it has a frame of its own, or an inner frame.
+  enum class Ground { Card, InnerFrame };
+
+  SwitchTile(IconName icon, const QString& caption, Ground ground, QWidget* parent = nullptr);
+
+  [[nodiscard]] QLabel* label() const { return label_; }
+  [[nodiscard]] CheckToggle* toggle() const { return toggle_; }
+  [[nodiscard]] QSize sizeHint() const override;
+
+  // Shows or hides the tile and, each by itself, its label and its switch.
+  void SetShown(bool shown);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  IconName icon_;
+  Ground ground_;
+  QLabel* label_;
+  CheckToggle* toggle_;
+};
+
+}  // namespace mortane
