@@ -19,6 +19,7 @@ namespace mortane {
 class CommandKey;
 class CondenserSettingsCtl;
 class FilterQubeSettingsCtl;
+class InterlockSettingsCtl;
 class ObjectiveSettingsCtl;
 class PageButton;
 class Rail;
@@ -55,6 +56,7 @@ class MortaneMainForm : public ProgramForm {
   ObjectiveSettingsCtl* ObjectiveSettingsCtl1 = nullptr;
   FilterQubeSettingsCtl* FilterQubeSettingsCtl1 = nullptr;
   CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
+  InterlockSettingsCtl* InterlockSettingsCtl1 = nullptr;
 
  protected:
   // One step of Load; `step` counts from 0 to 6.

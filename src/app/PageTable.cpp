@@ -8,6 +8,8 @@
 #include "filters/FilterItemLists.h"
 #include "filters/FilterQubeSettingsCtl.h"
 #include "hub/clsK70.h"
+#include "interlocks/InterlockOtherCtl.h"
+#include "interlocks/InterlockSettingsCtl.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 #include "widgets/Named.h"
 
@@ -54,7 +56,19 @@ PageTable MainPages() {
        },
        [](const clsK70& k70) { return k70.Controller(0) && IsFitted(k70, accessory::kCondenser); },
        "No condenser is mounted, or the body of the microscope is not connected."},
-      {"Interlocks", IconName::Interlock},
+      {"Interlocks", IconName::Interlock,
+       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+         const InterlockSettingsCtl::Units units{k70.ILObservation, k70.ILOther, k70.ILOffset};
+         const FocusCompensations compensations{k70.CZDrive.curFocusCompensation,
+                                                k70.CXYDrive.curFocusCompensation};
+         return form.InterlockSettingsCtl1 =
+                    Named(new InterlockSettingsCtl(units, compensations, form.FrameControl),
+                          "InterlockSettingsCtl1");
+       },
+       [](const clsK70& k70) {
+         return k70.ILObservation.IsEnable() || k70.ILOther.IsEnable() || k70.ILOffset.IsEnable();
+       },
+       "Nothing is mounted that follows another accessory or is compensated."},
       {"Controls", IconName::Control},
   }};
 }

@@ -1,0 +1,38 @@
+// The sub-page that tells what follows a change of the observation method.
+#pragma once
+
+#include <array>
+
+#include "interlocks/ObservationAccessories.h"
+#include "widgets/CardPage.h"
+
+class QLabel;
+
+namespace mortane {
+
+class CheckToggle;
+class SwitchTile;
+class clsInterLockObservation;
+
+// The switch of an accessory that takes no part keeps the side that it had.
+class InterlockObservationCtl : public CardPage {
+  Q_OBJECT
+
+ public:
+  static constexpr std::size_t kSwitchCount = kObservationAccessories.size();
+
+  explicit InterlockObservationCtl(clsInterLockObservation& interlocks, QWidget* parent = nullptr);
+
+  void LoadData() override;
+
+  std::array<QLabel*, kSwitchCount> lblAccessories;
+  std::array<CheckToggle*, kSwitchCount> CheckAccessories;
+
+ private:
+  SwitchTile* BuildTile(const ObservationAccessory& row);
+
+  clsInterLockObservation& interlocks_;
+  std::array<SwitchTile*, kSwitchCount> tiles_;
+};
+
+}  // namespace mortane

@@ -1,0 +1,39 @@
+#include "interlocks/InterlockSettingsCtl.h"
+
+#include <QShowEvent>
+
+#include "interlocks/InterlockObservationCtl.h"
+#include "interlocks/InterlockOffsetCtl.h"
+#include "interlocks/InterlockOtherCtl.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOffset.h"
+#include "interlocks/clsInterLockOther.h"
+
+namespace mortane {
+
+InterlockSettingsCtl::InterlockSettingsCtl(const Units& units,
+                                           const FocusCompensations& compensations, QWidget* parent)
+    : ContainerPage(IconName::Interlock, QStringLiteral("Interlocks"), "optSettings", parent),
+      optSettings(sections()),
+      InterlockObservationCtl1(new InterlockObservationCtl(units.observation)),
+      InterlockOtherCtl1(new InterlockOtherCtl(units.other, compensations)),
+      InterlockOffsetCtl1(new InterlockOffsetCtl(units.offset)),
+      other_(units.other) {
+  const auto isEnable = [](const auto& unit) { return [&unit] { return unit.IsEnable(); }; };
+  SetSections(
+      {{"Observation", "InterlockObservationCtl1", InterlockObservationCtl1,
+        isEnable(units.observation), KeepAsLoaded},
+       {"Other", "InterlockOtherCtl1", InterlockOtherCtl1, isEnable(units.other), KeepAsLoaded},
+       {"Compensation", "InterlockOffsetCtl1", InterlockOffsetCtl1, isEnable(units.offset),
+        KeepAsLoaded}},
+      {2, 1, 0});
+}
+
+// A window that comes back from the task bar shows its pages again, spontaneously.
+void InterlockSettingsCtl::showEvent(QShowEvent* event) {
+  ContainerPage::showEvent(event);
+  if (event->spontaneous() || other_.parent.Controller(controllerunit::kFifthKind)) return;
+  InterlockOtherCtl1->LoadData();
+}
+
+}  // namespace mortane

@@ -1,0 +1,44 @@
+// The interlock page: what follows what, and the factors of the proper values.
+#pragma once
+
+#include "widgets/ContainerPage.h"
+
+namespace mortane {
+
+class InterlockObservationCtl;
+class InterlockOffsetCtl;
+class InterlockOtherCtl;
+class clsInterLockObservation;
+class clsInterLockOffset;
+class clsInterLockOther;
+struct FocusCompensations;
+
+// A section is enabled where its unit is; the page opens on the first such one. The drives' own
+// pages change what the second section shows, so that one is loaded whenever the program shows the
+// page, except on a microscope with controller unit 5.
+class InterlockSettingsCtl : public ContainerPage {
+  Q_OBJECT
+
+ public:
+  struct Units {
+    clsInterLockObservation& observation;
+    clsInterLockOther& other;
+    clsInterLockOffset& offset;
+  };
+
+  InterlockSettingsCtl(const Units& units, const FocusCompensations& compensations,
+                       QWidget* parent = nullptr);
+
+  SectionBar* optSettings;
+  InterlockObservationCtl* InterlockObservationCtl1;
+  InterlockOtherCtl* InterlockOtherCtl1;
+  InterlockOffsetCtl* InterlockOffsetCtl1;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  const clsInterLockOther& other_;
+};
+
+}  // namespace mortane

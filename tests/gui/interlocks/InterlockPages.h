@@ -1,0 +1,33 @@
+// The pages of the interlock area over the units of a model.
+#pragma once
+
+#include "hub/clsK70.h"
+#include "interlocks/InterlockObservationCtl.h"
+#include "interlocks/InterlockOffsetCtl.h"
+#include "interlocks/InterlockOtherCtl.h"
+#include "interlocks/InterlockSettingsCtl.h"
+
+namespace mortane::test {
+
+inline FocusCompensations CompensationsOf(clsK70& k70) {
+  return {k70.CZDrive.curFocusCompensation, k70.CXYDrive.curFocusCompensation};
+}
+
+inline InterlockObservationCtl* MakeInterlockObservationCtl(clsK70& k70) {
+  return new InterlockObservationCtl(k70.ILObservation);
+}
+
+inline InterlockOtherCtl* MakeInterlockOtherCtl(clsK70& k70) {
+  return new InterlockOtherCtl(k70.ILOther, CompensationsOf(k70));
+}
+
+inline InterlockOffsetCtl* MakeInterlockOffsetCtl(clsK70& k70) {
+  return new InterlockOffsetCtl(k70.ILOffset);
+}
+
+inline InterlockSettingsCtl* MakeInterlockSettingsCtl(clsK70& k70) {
+  return new InterlockSettingsCtl({k70.ILObservation, k70.ILOther, k70.ILOffset},
+                                  CompensationsOf(k70));
+}
+
+}  // namespace mortane::test
