@@ -191,12 +191,7 @@ TEST_F(CompensationPage, LoadingUnderTheFocusKeepsItAndStoresNothing) {
 TEST_F(CompensationPage, HidingDisablingAndDestroyingStoreNothing) {
   page.ComboNDFilter->setFocus();
   unit().curND = 7;
-  const std::string before = ModelText(rig.k70());
-  page.setEnabled(false);
-  page.setEnabled(true);
-  page.hide();
-  delete &page;
-  EXPECT_EQ(ModelText(rig.k70()), before);
+  ExpectTheEndOfThePageStoresNothing(rig, &page);
 }
 
 TEST(CompensationPageAlone, KeepsTheFactorOfAFormerMicroscopeWhereTheNextHasNone) {

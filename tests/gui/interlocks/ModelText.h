@@ -33,4 +33,14 @@ inline void ReceiveWhatever(PageRig& rig) {
   rig.journal.Clear();
 }
 
+// Disables, hides and destroys the page of the rig as the program does.
+inline void ExpectTheEndOfThePageStoresNothing(PageRig& rig, Page* page) {
+  const std::string before = ModelText(rig.k70());
+  page->setEnabled(false);
+  page->setEnabled(true);
+  page->hide();
+  delete page;
+  EXPECT_EQ(ModelText(rig.k70()), before);
+}
+
 }  // namespace mortane::test

@@ -236,12 +236,7 @@ TEST_F(NosepieceFrame, LoadingThatDisablesTheFocusedSwitchStoresNothing) {
 
 TEST_F(NosepieceFrame, HidingDisablingAndDestroyingStoreNothing) {
   box(kZFocus).setFocus();
-  const std::string before = ModelText(rig.k70());
-  page.setEnabled(false);
-  page.setEnabled(true);
-  page.hide();
-  delete &page;
-  EXPECT_EQ(ModelText(rig.k70()), before);
+  ExpectTheEndOfThePageStoresNothing(rig, &page);
 }
 
 // Harbour has both drives relative and their switches on; Lantern has nothing on, and no stage that

@@ -154,12 +154,7 @@ TEST_F(ObservationPage, AHeldKeyAndTheWheelChangeNothingAgain) {
 
 TEST_F(ObservationPage, HidingDisablingAndDestroyingStoreNothing) {
   box(kLamp).setFocus();
-  const std::string before = ModelText(rig.k70());
-  page.setEnabled(false);
-  page.setEnabled(true);
-  page.hide();
-  delete &page;
-  EXPECT_EQ(ModelText(rig.k70()), before);
+  ExpectTheEndOfThePageStoresNothing(rig, &page);
 }
 
 TEST(ObservationPageAlone, ShowsTheSidesOfAFormerMicroscopeWhereTheNextHasNothing) {
