@@ -1,6 +1,7 @@
 #include "widgets/CheckToggle.h"
 
 #include <QPainter>
+#include <QSignalBlocker>
 
 #include "widgets/ClickFocus.h"
 #include "widgets/Paint.h"
@@ -38,12 +39,26 @@ QSize CheckToggle::sizeHint() const {
           GridHeight(grid::kRowHeight, *this)};
 }
 
+// Whoever is told of the change finds the value unknown.
+void CheckToggle::SetUnknown() {
+  const bool changed = isChecked();
+  {
+    const QSignalBlocker silence(this);
+    setChecked(false);
+  }
+  unknown_ = true;
+  update();
+  if (changed) emit toggled(false);
+}
+
 void CheckToggle::checkStateSet() {
   QAbstractButton::checkStateSet();
+  unknown_ = false;
   UpdateCaption();
 }
 
 void CheckToggle::nextCheckState() {
+  unknown_ = false;
   // The caption must have changed before the change is told.
   setText(isChecked() ? Off() : On());
   QAbstractButton::nextCheckState();
@@ -53,15 +68,11 @@ void CheckToggle::UpdateCaption() {
   setText(isChecked() ? On() : Off());
 }
 
-void CheckToggle::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
+void CheckToggle::DrawTrack(QPainter& painter, const QRectF& track) const {
   const bool on = isChecked();
   // A window that is busy is disabled as a whole, and its switches stay as they are.
   const bool fitted = isEnabledTo(window());
-  const QRectF track(kPadding, (height() - kTrackHeight) / 2.0, kTrackWidth, kTrackHeight);
-  QPalette colors = palette();
-  if (fitted) colors.setCurrentColorGroup(QPalette::Active);
+  const QPalette colors = ShownColors();
   QColor line = colors.color(QPalette::Dark);
   QColor knob = line;
   QColor fill = colors.color(QPalette::Base);
@@ -76,12 +87,27 @@ void CheckToggle::paintEvent(QPaintEvent*) {
   }
   DrawBox(painter, track, fill, {line, 1.2, kTrackHeight / 2.0, !fitted});
   const double side = kTrackHeight - 2 * kKnobInset - (on && fitted ? 0 : 1);
-  const double x = on ? track.right() - kKnobInset - side : track.left() + kKnobInset;
+  double x = on ? track.right() - kKnobInset - side : track.left() + kKnobInset;
+  if (unknown_) x = track.center().x() - side / 2;
   painter.setPen(Qt::NoPen);
   painter.setBrush(knob);
   painter.drawEllipse(QRectF(x, track.center().y() - side / 2, side, side));
-  painter.setPen(colors.color(QPalette::WindowText));
-  painter.setFont(on && fitted ? BoldFont() : font());
+}
+
+// Those of a switch in a window that is not busy.
+QPalette CheckToggle::ShownColors() const {
+  QPalette colors = palette();
+  if (isEnabledTo(window())) colors.setCurrentColorGroup(QPalette::Active);
+  return colors;
+}
+
+void CheckToggle::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF track(kPadding, (height() - kTrackHeight) / 2.0, kTrackWidth, kTrackHeight);
+  DrawTrack(painter, track);
+  painter.setPen(ShownColors().color(unknown_ ? QPalette::PlaceholderText : QPalette::WindowText));
+  painter.setFont(isChecked() && isEnabledTo(window()) ? BoldFont() : font());
   painter.drawText(QRectF(track.right() + kGap, 0, width() - track.right() - kGap, height()),
                    Qt::AlignLeft | Qt::AlignVCenter, text());
   if (hasFocus())

@@ -6,7 +6,8 @@
 namespace mortane {
 
 // toggled() is raised for every change of the value, by the user or the program, after the caption
-// has followed. Disabled it keeps its last side, dashed.
+// has followed. Disabled it keeps its last side, dashed. An unknown value counts as off, with the
+// knob between the sides; whatever the user or the program sets next ends it.
 class CheckToggle : public QAbstractButton {
   Q_OBJECT
 
@@ -16,6 +17,8 @@ class CheckToggle : public QAbstractButton {
 
   explicit CheckToggle(QWidget* parent = nullptr);
 
+  void SetUnknown();
+  [[nodiscard]] bool isUnknown() const { return unknown_; }
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
@@ -25,6 +28,10 @@ class CheckToggle : public QAbstractButton {
 
  private:
   void UpdateCaption();
+  QPalette ShownColors() const;
+  void DrawTrack(QPainter& painter, const QRectF& track) const;
+
+  bool unknown_ = false;
 };
 
 }  // namespace mortane

@@ -65,5 +65,46 @@ TEST_F(CheckToggleTest, InAWindowThatIsBusyItLooksAsBefore) {
   }
 }
 
+TEST_F(CheckToggleTest, AnUnknownValueIsOffAndLooksLikeNeither) {
+  const QImage off = toggle->grab().toImage();
+  QSignalSpy changes(toggle, &CheckToggle::toggled);
+  toggle->SetUnknown();
+  EXPECT_TRUE(toggle->isUnknown());
+  EXPECT_FALSE(toggle->isChecked());
+  EXPECT_EQ(toggle->text(), "OFF");
+  EXPECT_NE(toggle->grab().toImage(), off);
+  EXPECT_EQ(changes.count(), 0) << "off before and after";
+}
+
+TEST_F(CheckToggleTest, AChangeFromOnToUnknownIsToldOnceWithTheUnknownInForce) {
+  toggle->setChecked(true);
+  QVector<bool> told;
+  QObject::connect(toggle, &CheckToggle::toggled, toggle,
+                   [&] { told.append(toggle->isUnknown()); });
+  toggle->SetUnknown();
+  toggle->SetUnknown();
+  EXPECT_EQ(told, QVector<bool>{true});
+}
+
+TEST_F(CheckToggleTest, WhateverIsSetNextEndsTheUnknown) {
+  for (const bool value : {true, false}) {
+    toggle->SetUnknown();
+    toggle->setChecked(value);
+    EXPECT_FALSE(toggle->isUnknown());
+    EXPECT_EQ(toggle->isChecked(), value);
+  }
+}
+
+TEST_F(CheckToggleTest, AClickOnAnUnknownValueIsToldAsKnown) {
+  toggle->SetUnknown();
+  QVector<bool> told;
+  QObject::connect(toggle, &CheckToggle::toggled, toggle,
+                   [&] { told.append(toggle->isUnknown()); });
+  QTest::mouseClick(toggle, Qt::LeftButton);
+  EXPECT_EQ(told, QVector<bool>{false});
+  EXPECT_TRUE(toggle->isChecked());
+  EXPECT_EQ(toggle->text(), "ON");
+}
+
 }  // namespace
 }  // namespace mortane
