@@ -33,8 +33,9 @@ void ScriptedPrompts::ExpectBox(std::string text, int style, Answer answer, std:
 }
 
 void ScriptedPrompts::ExpectTimedBox(int milliseconds, std::string prompt, int style,
-                                     std::string title, Answer answer) {
-  boxScript_.push_back({{std::move(prompt), style, std::move(title), milliseconds}, answer, {}});
+                                     std::string title, Answer answer, Action during) {
+  boxScript_.push_back(
+      {{std::move(prompt), style, std::move(title), milliseconds}, answer, std::move(during)});
 }
 
 void ScriptedPrompts::ExpectFileToOpen(std::string path) {

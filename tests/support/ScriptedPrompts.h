@@ -33,10 +33,10 @@ class ScriptedPrompts : public Prompts {
   void ExpectBox(std::string text, int style, Answer answer = Answer::Ok, std::string caption = {},
                  Action during = {});
   void ExpectTimedBox(int milliseconds, std::string prompt, int style, std::string title,
-                      Answer answer);
+                      Answer answer, Action during = {});
   // From here on every box without a script is answered with Ok and only recorded, for tests that
-  // make many calls fail and check the boxes afterwards.
-  void AcceptAnyBox() { acceptAnyBox_ = true; }
+  // make many calls fail and check the boxes afterwards. With false only scripted ones again.
+  void AcceptAnyBox(bool accept = true) { acceptAnyBox_ = accept; }
   // Scripts the next file dialog; an empty path is a person who cancels.
   void ExpectFileToOpen(std::string path);
   void ExpectFileToSave(std::string path);

@@ -67,6 +67,8 @@ struct PageDrillData {
   std::vector<std::string> tabOrder;
   // All that a screen reader finds.
   std::vector<AccessibleControl> accessible;
+  // The box in which the page's loading shows that a call failed; none, when empty.
+  std::string loadBox;
 };
 
 inline void PrintTo(const PageDrillData& data, std::ostream* stream) {

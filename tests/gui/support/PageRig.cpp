@@ -17,10 +17,12 @@ constexpr int kMostStops = 100;
 PageRig::PageRig(Bench bench, Link link)
     : RigLibrary(std::move(bench)), window_(std::make_unique<QWidget>()) {
   ProvideK70(library, prompts);
-  if (link == Link::Received) {
+  if (link != Link::None) {
+    prompts.AcceptAnyBox(link == Link::Reported);
     const auto last = static_cast<std::int32_t>(simulated.bench().instruments.size()) - 1;
     EXPECT_TRUE(GetK70().Connect(last));
     GetK70().Receive();
+    prompts.AcceptAnyBox(false);
     prompts.ClearRecords();
   }
   journal.Clear();

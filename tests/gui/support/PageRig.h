@@ -12,7 +12,8 @@
 
 namespace mortane::test {
 
-enum class Link { Received, None };
+// Of Reported, boxes that the receiving shows about the instrument's odd data are accepted.
+enum class Link { Received, Reported, None };
 
 class PageRig : public RigLibrary {
  public:
