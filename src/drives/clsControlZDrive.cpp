@@ -18,6 +18,7 @@ constexpr std::int32_t kFocusAxis = 0;
 constexpr std::int32_t kStageAxis = 1;
 constexpr std::int32_t kUnknownEscapeMode = -1;
 constexpr std::int16_t kUnknownEscape = 2;
+constexpr double kFirstVersionWithEscape = 1.3;
 
 // What the controller wants to hear before real moves.
 constexpr std::int32_t kMoveProfile = 9;
@@ -114,6 +115,13 @@ bool clsControlZDrive::IsEnable() const {
   if (!IsControllable()) return false;
   return parent.IsMounted(accessory::kNosepiece) == kControllable ||
          (HasLowerLimit() && curLowerLimit != kUnknown);
+}
+
+bool clsControlZDrive::KnowsEscape() const {
+  double version = kNoVersion;
+  ErrorTrap trap;
+  trap.Run([&] { version = parent.ReadMicVer(controllerunit::kBody); });
+  return version >= kFirstVersionWithEscape;
 }
 
 std::int32_t clsControlZDrive::CurPosition() const {

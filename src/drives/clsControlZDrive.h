@@ -42,6 +42,10 @@ class clsControlZDrive {
 
   bool IsEnable() const;
 
+  // Whether the body's firmware knows the escape: from version 1.3. A body that does not tell its
+  // version counts as one without.
+  bool KnowsEscape() const;
+
   // Real moves, as DriveMotion tells. MoveStart prepares the hardware for them.
   std::int32_t CurPosition() const;
   void MoveStart() const;

@@ -1,0 +1,50 @@
+// The section of a drive page in which positions are taught by real moves.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "widgets/MoveCross.h"
+
+class QCheckBox;
+class QFrame;
+
+namespace mortane {
+
+class InnerFrame;
+class OptionGroup;
+class PositionTableCtl;
+class Prompts;
+struct PositionColumn;
+
+// The value of the drive's compensation that each option stands for: absolute, relative, none.
+inline constexpr std::array<std::int32_t, 3> kCompensationCodes{2, 3, 1};
+
+// The option of a compensation; -1 for a value that is none of them.
+int CompensationIndex(std::int32_t code);
+
+struct TeachingTexts {
+  const char* frameName;
+  const char* caption;
+  std::array<const char*, kCompensationCodes.size()> compensations;
+  const char* controlName;
+  const char* controlCaption;
+};
+
+struct TeachingSection {
+  QFrame* frame;
+  OptionGroup* compensation;
+  PositionTableCtl* positions;
+  InnerFrame* control;
+  QCheckBox* realMove;
+  MoveCross* cross;
+};
+
+// Options of the compensation in a row; below them the positions at the left, the move buttons at
+// the right.
+TeachingSection MakeTeachingSection(const TeachingTexts& texts, Prompts& prompts,
+                                    std::vector<PositionColumn> columns, MoveCross::Axes axes,
+                                    QWidget* parent);
+
+}  // namespace mortane

@@ -1,0 +1,303 @@
+// The focus drive page: what loading shows and hides, and what it does to the model.
+#include <QLabel>
+
+#include "gui/drives/DrivePages.h"
+#include "widgets/Card.h"
+#include "widgets/CheckToggle.h"
+
+namespace mortane::test {
+namespace {
+
+const Lines kMoveStart{"NosepieceDevice.BeginZPositioning()", "ZDriveDevice.MoveProfile = 9",
+                       "ZDriveDevice.MoveOption = 0"};
+
+Lines operator+(Lines first, const Lines& second) {
+  first.insert(first.end(), second.begin(), second.end());
+  return first;
+}
+
+TEST(FocusPage, TheFirstLoadingPreparesTheDriveTwiceAndTheNextOnce) {
+  PageRig rig(Standing(benches::Named("Harbour")));
+  auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+  const Lines version{"ControllerVersion(1) -> \"V1.31\""};
+  EXPECT_EQ(rig.journal.Lines(), kMoveStart + kMoveStart + version);
+  rig.journal.Clear();
+  page.LoadData();
+  EXPECT_EQ(rig.journal.Lines(), kMoveStart + version);
+}
+
+struct PreparedRow {
+  const char* bench;
+  bool prepared;
+};
+
+TEST(FocusPage, PreparesTheDriveWhereTheNosepieceTurnsAndADriveIsAtLeastSensed) {
+  for (const PreparedRow& row :
+       {PreparedRow{"Quay", true}, PreparedRow{"Harbour", true}, PreparedRow{"Lantern", true},
+        PreparedRow{"Pair", true}, PreparedRow{"Attic", true}, PreparedRow{"Hub", false},
+        PreparedRow{"Outpost", false}, PreparedRow{"Relay", false}, PreparedRow{"Deck", false},
+        PreparedRow{"Watch", false}, PreparedRow{"Shell", false}, PreparedRow{"Hollow", false}}) {
+    PageRig rig(row.bench, Link::Reported);
+    rig.prompts.AcceptAnyBox();
+    auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+    EXPECT_EQ(page.CheckRealMove->isChecked(), row.prepared) << row.bench;
+    const bool begun = !rig.journal.Lines().empty() &&
+                       rig.journal.Lines().front() == "NosepieceDevice.BeginZPositioning()";
+    EXPECT_EQ(begun, row.prepared) << row.bench;
+  }
+}
+
+TEST(FocusPage, ADriveThatIsOnlySensedAnswersEachPreparingWithABox) {
+  PageRig rig("Pair");
+  rig.prompts.ExpectBox("MoveStart Error!!", box::kCritical);
+  rig.prompts.ExpectBox("MoveStart Error!!", box::kCritical);
+  auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+  EXPECT_TRUE(rig.prompts.AllAnswersUsed());
+  rig.prompts.ExpectBox("MoveStart Error!!", box::kCritical);
+  page.LoadData();
+}
+
+TEST(FocusPage, AnotherMicroscopeWithoutADriveLeavesTheTick) {
+  PageRig rig(List({"Quay", "Hub", "Harbour"}));
+  auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+  rig.k70().Disconnect();
+  ASSERT_TRUE(rig.k70().Connect(1));
+  rig.k70().Receive();
+  page.LoadData();
+  EXPECT_TRUE(page.CheckRealMove->isChecked());
+}
+
+TEST(FocusPage, TheTeachingSectionIsHiddenOnEveryInstrumentAndByEachLoading) {
+  for (const std::string& name : benches::Names()) {
+    PageRig rig(name, Link::Reported);
+    rig.prompts.AcceptAnyBox();
+    auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+    EXPECT_FALSE(page.FrameZNose->isVisible()) << name;
+    page.FrameZNose->show();
+    page.LoadData();
+    EXPECT_FALSE(page.FrameZNose->isVisible()) << name;
+  }
+}
+
+TEST(FocusPage, NoKeyReachesTheHiddenSection) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+  for (const std::string& name : rig.TabOrder()) {
+    EXPECT_FALSE(page.FrameZNose->isAncestorOf(&rig.Find(name))) << name;
+  }
+}
+
+TEST(FocusPage, TheUpperLimitIsShownWhereTheNosepieceTurns) {
+  for (const PreparedRow& row :
+       {PreparedRow{"Harbour", true}, PreparedRow{"Pair", true}, PreparedRow{"Deck", true},
+        PreparedRow{"Outpost", false}, PreparedRow{"Hub", false}, PreparedRow{"Hollow", false}}) {
+    PageRig rig(row.bench, Link::Reported);
+    rig.prompts.AcceptAnyBox();
+    auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+    EXPECT_EQ(page.FrameUpperLimitation->isVisible(), row.prepared) << row.bench;
+  }
+}
+
+TEST(FocusPage, TheUpperLimitIsThePagesOwn) {
+  FocusRig rig;
+  EXPECT_EQ(rig.page.optUpperLimitation->selected(), -1);
+  ClickButton(*rig.page.optUpperLimitation->button(1));
+  EXPECT_EQ(rig.drive().curUpperLimit, 1);
+  ClickButton(*rig.page.optUpperLimitation->button(0));
+  EXPECT_EQ(rig.drive().curUpperLimit, 0);
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+  rig.drive().curUpperLimit = 1;
+  rig.page.LoadData();
+  EXPECT_EQ(rig.page.optUpperLimitation->selected(), 0);
+}
+
+TEST(FocusPage, TheLowerLimitIsEnabledAgainByAMicroscopeThatHasIt) {
+  PageRig rig(List({"Quay", "Outpost", "Harbour"}));
+  auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+  ASSERT_FALSE(page.FrameDownLimitation->isEnabled());
+  rig.k70().Disconnect();
+  ASSERT_TRUE(rig.k70().Connect(1));
+  rig.k70().Receive();
+  page.LoadData();
+  EXPECT_TRUE(page.optDownLimitation->button(0)->isEnabled());
+  EXPECT_TRUE(page.optDownLimitation->button(1)->isEnabled());
+  EXPECT_EQ(page.optDownLimitation->selected(), 0);
+}
+
+TEST(FocusPage, AClickOnTheOtherLowerLimitReachesTheUnit) {
+  FocusRig rig("Lantern");
+  ASSERT_EQ(rig.page.optDownLimitation->selected(), 1);
+  ClickButton(*rig.page.optDownLimitation->button(0));
+  EXPECT_EQ(rig.drive().curLowerLimit, 0);
+  ClickButton(*rig.page.optDownLimitation->button(1));
+  EXPECT_EQ(rig.drive().curLowerLimit, 1);
+}
+
+struct VersionRow {
+  const char* version;
+  bool knowsEscape;
+};
+
+// The focus drive's escape of a body below 1.3 is on, whatever the unit held.
+TEST(FocusPage, AVersionOfExactly13ShowsTheEscapeSettings) {
+  for (const VersionRow& row :
+       {VersionRow{"V1.1", false}, VersionRow{"V1.2", false}, VersionRow{"V1.21", false},
+        VersionRow{"V1.3", true}, VersionRow{"V1.30", true}, VersionRow{"V1.10", false},
+        VersionRow{"V2", true}, VersionRow{"vDEMO", false}, VersionRow{"", false},
+        VersionRow{"1.3", true}, VersionRow{"V1,3", false}}) {
+    Bench bench = benches::Named("Harbour");
+    bench.instruments.back().Unit(1).version = row.version;
+    bench.instruments.back().escapeMode = 0;
+    FocusRig rig(std::move(bench));
+    EXPECT_EQ(rig.page.frmEscapeSetting->isEnabled(), row.knowsEscape) << row.version;
+    EXPECT_EQ(rig.page.chkEscape[0]->isChecked(), !row.knowsEscape) << row.version;
+    EXPECT_EQ(rig.drive().SetEscape(0), row.knowsEscape ? 0 : 1) << row.version;
+    EXPECT_EQ(rig.drive().SetEscape(1), 0) << row.version;
+  }
+}
+
+TEST(FocusPage, AVersionThatCannotBeReadCountsAsNoneAndIsNoBox) {
+  FocusRig rig;
+  rig.drive().SetEscape(0, 0);
+  rig.faults.Add({"ControllerVersion(1)"});
+  rig.page.LoadData();
+  EXPECT_FALSE(rig.page.frmEscapeSetting->isEnabled());
+  EXPECT_EQ(rig.page.chkEscape[0]->text(), "ON");
+  EXPECT_TRUE(rig.prompts.Boxes().empty());
+}
+
+TEST(FocusPage, TheEscapeIsEnabledAgainByABodyThatKnowsIt) {
+  PageRig rig(List({"Quay", "Harbour", "Lantern"}));
+  auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+  ASSERT_FALSE(page.frmEscapeSetting->isEnabled());
+  rig.k70().Disconnect();
+  ASSERT_TRUE(rig.k70().Connect(1));
+  rig.k70().Receive();
+  page.LoadData();
+  for (std::size_t axis = 0; axis < 2; ++axis) {
+    EXPECT_TRUE(page.chkEscape[axis]->isEnabled());
+    EXPECT_TRUE(page.lblEscape[axis]->isEnabled());
+  }
+}
+
+TEST(FocusPage, WithoutAStageItsEscapeKeepsWhatItShows) {
+  FocusRig rig("Hollow");
+  rig.drive().SetEscape(1, 1);
+  rig.page.LoadData();
+  EXPECT_FALSE(rig.page.chkEscape[1]->isChecked());
+  EXPECT_EQ(rig.drive().SetEscape(1), 1);
+}
+
+TEST(FocusPage, AnUnknownEscapeIsAThirdStateThatIsNotSent) {
+  FocusRig rig("Attic");
+  for (std::size_t axis = 0; axis < 2; ++axis) {
+    EXPECT_TRUE(rig.page.chkEscape[axis]->isUnknown());
+    EXPECT_EQ(rig.page.chkEscape[axis]->text(), "OFF");
+    EXPECT_EQ(rig.drive().SetEscape(static_cast<std::int32_t>(axis)), 2);
+  }
+  rig.drive().WriteSdk();
+  for (const std::string& line : rig.journal.Writes()) {
+    EXPECT_EQ(line.find("EscapeMode"), std::string::npos) << line;
+  }
+}
+
+TEST(FocusPage, AClickMakesAnUnknownEscapeKnown) {
+  FocusRig rig("Attic");
+  ClickButton(*rig.page.chkEscape[0]);
+  EXPECT_FALSE(rig.page.chkEscape[0]->isUnknown());
+  EXPECT_EQ(rig.drive().SetEscape(0), rig.page.chkEscape[0]->isChecked() ? 1 : 0);
+  EXPECT_EQ(rig.drive().SetEscape(1), 2);
+}
+
+TEST(FocusPage, AnEscapeThatWasOnAndBecomesUnknownStaysUnknownInTheUnit) {
+  FocusRig rig;
+  ASSERT_TRUE(rig.page.chkEscape[0]->isChecked());
+  rig.drive().SetEscape(0, 2);
+  rig.drive().SetEscape(1, 2);
+  rig.page.LoadData();
+  EXPECT_TRUE(rig.page.chkEscape[0]->isUnknown());
+  EXPECT_EQ(rig.drive().SetEscape(0), 2);
+  EXPECT_EQ(rig.drive().SetEscape(1), 2);
+  rig.drive().SetEscape(0, 0);
+  rig.page.LoadData();
+  EXPECT_FALSE(rig.page.chkEscape[0]->isUnknown());
+  EXPECT_EQ(rig.drive().SetEscape(0), 0);
+}
+
+struct OptionsRow {
+  std::int32_t code;
+  int selected;
+  bool on;
+  bool off;
+};
+
+TEST(FocusPage, TheOptionsOfTheCompensationAreShownUpToTheOneThatIsSelected) {
+  for (const OptionsRow& row :
+       {OptionsRow{3, 1, true, false}, OptionsRow{1, 2, true, true}, OptionsRow{2, 0, false, false},
+        OptionsRow{-1, -1, false, false}, OptionsRow{7, -1, true, true}}) {
+    FocusRig rig("Hub");
+    OptionGroup& options = *rig.page.optFocusCompensation;
+    ASSERT_EQ(rig.drive().curFocusCompensation, -1);
+    rig.drive().curFocusCompensation = row.code;
+    rig.page.LoadData();
+    EXPECT_EQ(options.selected(), row.selected) << row.code;
+    EXPECT_TRUE(options.button(0)->isHidden()) << row.code;
+    EXPECT_EQ(!options.button(1)->isHidden(), row.on) << row.code;
+    EXPECT_EQ(!options.button(2)->isHidden(), row.off) << row.code;
+  }
+}
+
+TEST(FocusPage, LaterOptionsOfTheCompensationKeepTheirVisibility) {
+  FocusRig rig;
+  rig.drive().curFocusCompensation = 1;
+  rig.page.LoadData();
+  rig.drive().curFocusCompensation = 3;
+  rig.page.LoadData();
+  EXPECT_FALSE(rig.page.optFocusCompensation->button(2)->isHidden());
+  rig.drive().curFocusCompensation = -1;
+  rig.page.LoadData();
+  for (int i = 0; i < 3; ++i) EXPECT_TRUE(rig.page.optFocusCompensation->button(i)->isHidden());
+  EXPECT_EQ(rig.drive().curFocusCompensation, -1);
+}
+
+struct InterlockRow {
+  int option;
+  std::int32_t compensation;
+  std::int32_t state;
+};
+
+TEST(FocusPage, TheInterlockOfTheDriveFollowsTheCompensation) {
+  FocusRig rig;
+  auto& interlock = rig.k70().ILOther;
+  for (const InterlockRow& row : {InterlockRow{2, 1, 0}, InterlockRow{1, 3, 1},
+                                  InterlockRow{0, 2, 0}, InterlockRow{1, 3, 1}}) {
+    rig.page.optFocusCompensation->select(row.option);
+    EXPECT_EQ(rig.drive().curFocusCompensation, row.compensation);
+    EXPECT_EQ(interlock.Status(12), row.state) << row.option;
+  }
+}
+
+TEST(FocusPage, AClickOnTheCompensationOnShowSetsTheInterlockAgain) {
+  FocusRig rig;
+  rig.k70().ILOther.Status(12, 0);
+  ClickButton(*rig.page.optFocusCompensation->button(1));
+  EXPECT_EQ(rig.k70().ILOther.Status(12), 1);
+}
+
+TEST(FocusPage, LoadingTheCompensationOnShowLeavesTheInterlock) {
+  FocusRig rig;
+  ASSERT_EQ(rig.page.optFocusCompensation->selected(), 1);
+  rig.k70().ILOther.Status(12, 0);
+  rig.page.LoadData();
+  EXPECT_EQ(rig.k70().ILOther.Status(12), 0);
+}
+
+TEST(FocusPage, AnUnknownInterlockStaysUnknown) {
+  FocusRig rig("Hub");
+  ASSERT_EQ(rig.k70().ILOther.Status(12), -1);
+  rig.page.optFocusCompensation->select(1);
+  EXPECT_EQ(rig.k70().ILOther.Status(12), -1);
+}
+
+}  // namespace
+}  // namespace mortane::test

@@ -1,0 +1,228 @@
+// Real moves of the stage from its page.
+#include <QTest>
+#include <limits>
+
+#include "gui/drives/DrivePages.h"
+
+namespace mortane::test {
+namespace {
+
+constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
+
+Lines operator+(Lines first, const Lines& second) {
+  first.insert(first.end(), second.begin(), second.end());
+  return first;
+}
+
+struct ButtonRow {
+  MoveButton* ControlXYStageCtl::*button;
+  char axis;
+  std::int32_t steps;
+};
+
+const std::vector<ButtonRow>& AllButtons() {
+  static const std::vector<ButtonRow> rows{{&ControlXYStageCtl::ButtonLeftLarge, 'X', -50},
+                                           {&ControlXYStageCtl::ButtonLeftSmall, 'X', -1},
+                                           {&ControlXYStageCtl::ButtonRightLarge, 'X', 50},
+                                           {&ControlXYStageCtl::ButtonRightSmall, 'X', 1},
+                                           {&ControlXYStageCtl::ButtonUpLarge, 'Y', -50},
+                                           {&ControlXYStageCtl::ButtonUpSmall, 'Y', -1},
+                                           {&ControlXYStageCtl::ButtonDownLarge, 'Y', 50},
+                                           {&ControlXYStageCtl::ButtonDownSmall, 'Y', 1}};
+  return rows;
+}
+
+TEST(StageMoves, EachButtonMovesItsAxisByItsStepAndDropsTheInputAfterwards) {
+  for (const ButtonRow& row : AllButtons()) {
+    StageRig rig;
+    ClickButton(*(rig.page.*row.button));
+    const std::string member = std::string("XYDriveDevice.Position") + row.axis;
+    const std::int32_t from = row.axis == 'X' ? -50 : 60;
+    EXPECT_EQ(rig.journal.Lines(), (Lines{member + " -> " + std::to_string(from),
+                                          member + " = " + std::to_string(from + row.steps)}));
+    EXPECT_EQ(rig.prompts.Log(), Lines{"flush"});
+  }
+}
+
+TEST(StageMoves, AMoveShowsItsAxisInTheSelectedRowAndStoresNothing) {
+  StageRig rig;
+  rig.Select(1);
+  ClickButton(*rig.page.ButtonRightSmall);
+  EXPECT_EQ(rig.shownX(1), "-2.45");
+  EXPECT_EQ(rig.shownY(1), "0");
+  ClickButton(*rig.page.ButtonDownLarge);
+  EXPECT_EQ(rig.shownY(1), "5.5");
+  EXPECT_EQ(rig.stage().PositionX(2), 0);
+  EXPECT_EQ(rig.stage().PositionY(2), 0);
+  rig.page.SaveData();
+  EXPECT_EQ(rig.stage().PositionX(2), -49);
+  EXPECT_EQ(rig.stage().PositionY(2), 110);
+}
+
+TEST(StageMoves, APositionOfExactlyZeroIsShown) {
+  StageRig rig;
+  rig.Select(1);
+  ClickButton(*rig.page.ButtonRightLarge);
+  EXPECT_EQ(rig.shownX(1), "0");
+}
+
+TEST(StageMoves, WithRealMovesOffNothingMoves) {
+  StageRig rig;
+  rig.Select(1);
+  ClickButton(*rig.page.CheckRealMove);
+  for (const ButtonRow& row : AllButtons()) ClickButton(*(rig.page.*row.button));
+  ClickButton(*rig.page.ButtonStart);
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+  EXPECT_EQ(rig.prompts.Log(), Lines(8, "flush"));
+  ClickButton(*rig.page.CheckRealMove);
+  EXPECT_EQ(rig.journal.Lines(),
+            (Lines{"NosepieceDevice.BeginPositioning()", "XYDriveDevice.MoveProfile = 9"}));
+  rig.Forget();
+  ClickButton(*rig.page.ButtonStart);
+  EXPECT_EQ(rig.journal.CallCount(), 0U) << "no row is selected any more";
+}
+
+TEST(StageMoves, NearTheEndsOf32BitsNothingIsWritten) {
+  for (const ButtonRow& row : AllButtons()) {
+    StageRig rig;
+    const std::int32_t end = row.steps > 0 ? kLargest : kSmallest;
+    rig.instrument().xyDrive.positionX = end;
+    rig.instrument().xyDrive.positionY = end;
+    rig.prompts.ExpectBox(std::string("Move") + row.axis + " Error!!", box::kCritical);
+    ClickButton(*(rig.page.*row.button));
+    EXPECT_TRUE(rig.journal.Writes().empty());
+  }
+}
+
+// the move to a row
+
+const Lines kStarted{"XYDriveDevice.PositionX -> -50",      "XYDriveDevice.PositionY -> 60",
+                     "DeviceList.Item(1).AsyncMode = true", "XYDriveDevice.PositionX = 1000",
+                     "XYDriveDevice.PositionY = -2000",     "DeviceList.Item(1).AsyncMode = false"};
+
+Lines Reads(std::int32_t x, std::int32_t y) {
+  return {"XYDriveDevice.PositionX -> " + std::to_string(x),
+          "XYDriveDevice.PositionY -> " + std::to_string(y)};
+}
+
+const Lines kWaits{"DeviceList.Item(1).WaitMove(1) -> 0"};
+
+class StageStart : public testing::Test {
+ protected:
+  StageStart() { rig.Select(0); }
+  void Start(const char* x = "50", const char* y = "-100") {
+    rig.fieldX(0).setText(x);
+    rig.fieldY(0).setText(y);
+    rig.Forget();
+    ClickButton(*rig.page.ButtonStart);
+  }
+
+  StageRig rig;
+};
+
+TEST_F(StageStart, ShowsBothAxesWhereTheStageHasArrived) {
+  rig.ExpectWatch(1156, Answer::TimedOut, rig.Pass(1156));
+  Start();
+  EXPECT_EQ(rig.journal.Lines(), kStarted + Reads(1000, -2000) + kWaits + Reads(1000, -2000));
+  EXPECT_EQ(rig.shownX(0), "50");
+  EXPECT_EQ(rig.shownY(0), "-100");
+  EXPECT_EQ(rig.stage().PositionX(1), 0);
+  EXPECT_EQ(rig.stage().PositionY(1), 0);
+  EXPECT_EQ(rig.prompts.Log().back(), "flush");
+}
+
+TEST_F(StageStart, TheStageArrivesDuringTheWait) {
+  rig.instrument().xyDrive.speed = 1;
+  rig.ExpectWatch(1156, Answer::TimedOut, rig.Pass(1156));
+  Start();
+  EXPECT_EQ(rig.journal.Lines(), kStarted + Reads(1000, -1096) + kWaits + Reads(1000, -2000));
+}
+
+TEST_F(StageStart, APersonWhoAnswersLeavesTheMoveToItself) {
+  rig.ExpectWatch(1156, Answer::Ok, rig.Pass(10));
+  Start();
+  EXPECT_EQ(rig.journal.Lines(), kStarted + Reads(150, -140));
+  EXPECT_EQ(rig.shownX(0), "7.5");
+  EXPECT_EQ(rig.shownY(0), "-7");
+  rig.simulated.clock().Advance(1000);
+  EXPECT_EQ(rig.stage().CurPositionY(), -2000);
+}
+
+TEST_F(StageStart, AfterAFailedWaitEachAxisMustBeAtItsTarget) {
+  struct Row {
+    std::int32_t x;
+    std::int32_t y;
+    bool again;
+  };
+  for (const Row& row : {Row{1000, -2000, false}, Row{999, -2000, true}, Row{1000, -1999, true}}) {
+    StageRig own;
+    own.Select(0);
+    own.fieldX(0).setText("50");
+    own.fieldY(0).setText("-100");
+    own.faults.Add({"DeviceList.Item(1).WaitMove"});
+    own.ExpectWatch(1156, Answer::TimedOut, [&] {
+      own.simulated.clock().Advance(1156);
+      own.stage().CurPositionX();
+      own.stage().CurPositionY();
+      own.instrument().xyDrive.positionX = row.x;
+      own.instrument().xyDrive.positionY = row.y;
+    });
+    own.prompts.ExpectBox("MoveAsyncEnd Error!!", box::kCritical);
+    if (row.again) own.ExpectWatch(1156, Answer::Ok);
+    ClickButton(*own.page.ButtonStart);
+    EXPECT_TRUE(own.prompts.AllAnswersUsed()) << row.x;
+  }
+}
+
+TEST_F(StageStart, AStageThatNeverArrivesEndsWithTheWait) {
+  rig.simulated.OnChange([this](const Bench&) {
+    rig.instrument().xyDrive.positionX = -50;
+    rig.instrument().xyDrive.positionY = 60;
+  });
+  rig.ExpectWatch(1156, Answer::TimedOut, rig.Pass(1156));
+  Start();
+  EXPECT_EQ(rig.journal.Lines(), kStarted + Reads(-50, 60) + kWaits + Reads(-50, 60));
+  EXPECT_EQ(rig.shownX(0), "-2.5");
+}
+
+TEST_F(StageStart, TheTimesOfBothAxesAreAdded) {
+  struct Row {
+    std::int32_t x;
+    std::int32_t y;
+    int waitMs;
+  };
+  for (const Row& row : {Row{0, 0, 1000}, Row{10, 0, 1000}, Row{10, 20, 1002}, Row{-30, 0, 1002},
+                         Row{400, -400, 1040}, Row{kLargest, kSmallest, 214749365}}) {
+    StageRig own;
+    own.Select(0);
+    own.instrument().xyDrive.positionX = row.x;
+    own.instrument().xyDrive.positionY = row.y;
+    own.fieldX(0).setText("0");
+    own.fieldY(0).setText("0");
+    own.ExpectWatch(row.waitMs, Answer::Ok);
+    own.page.ButtonStart->click();
+    EXPECT_TRUE(own.prompts.AllAnswersUsed()) << row.x;
+  }
+}
+
+TEST_F(StageStart, ANumberBeyond32BitsOnEitherAxisMovesNothing) {
+  for (const auto& [x, y] : {std::pair{"1e300", "0"}, std::pair{"0", "-1e300"}}) {
+    rig.fieldX(0).setText(x);
+    rig.fieldY(0).setText(y);
+    rig.Forget();
+    rig.page.ButtonStart->click();
+    EXPECT_EQ(rig.journal.CallCount(), 0U) << x;
+    EXPECT_TRUE(rig.prompts.Boxes().empty());
+  }
+}
+
+TEST(StageStartAlone, WithoutARowNothingHappens) {
+  StageRig rig;
+  ClickButton(*rig.page.ButtonStart);
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+  EXPECT_TRUE(rig.prompts.Log().empty());
+}
+
+}  // namespace
+}  // namespace mortane::test
