@@ -74,7 +74,7 @@ void ControlFocusDriveCtl::Connect() {
     connect(this->*row.button, &QAbstractButton::clicked, this,
             [this, steps = row.steps] { Step(steps); });
   }
-  connect(ButtonStart, &QAbstractButton::clicked, this, &ControlFocusDriveCtl::MoveToRow);
+  connect(ButtonStart, &QAbstractButton::clicked, this, &ControlFocusDriveCtl::Start);
 }
 
 void ControlFocusDriveCtl::LoadData() {
@@ -205,33 +205,38 @@ void ControlFocusDriveCtl::Step(std::int32_t steps) {
 
 // Shows the drive's position in the selected row and stores it; 0 is shown only.
 void ControlFocusDriveCtl::Teach(const MoveScope& scope) {
-  if (selectedRow_ < 0) return;
+  const int row = selectedRow_;
+  if (row >= 0 && ShowPosition(scope, row) != 0) FrameNosepiece->Store(row);
+}
+
+// Answers the position; 0 when the scope was lost meanwhile.
+std::int32_t ControlFocusDriveCtl::ShowPosition(const MoveScope& scope, int row) {
   const std::int32_t position = drive_.CurPosition();
-  if (scope.IsLost()) return;
-  FrameNosepiece->Show(selectedRow_, position);
-  if (position != 0) FrameNosepiece->Store(selectedRow_);
+  if (scope.IsLost()) return 0;
+  FrameNosepiece->Show(row, position);
+  return position;
+}
+
+void ControlFocusDriveCtl::Start() {
+  if (*moving_ || selectedRow_ < 0 || !CheckRealMove->isChecked()) return;
+  const std::optional<std::int32_t> target = FrameNosepiece->Steps(selectedRow_);
+  if (!target) return;
+  Prompts& prompts = drive_.parent.prompts();
+  MoveToRow(selectedRow_, *target);
+  prompts.FlushInput();
 }
 
 // The row keeps its stored position; leaving its field, or saving, takes what is shown.
-void ControlFocusDriveCtl::MoveToRow() {
-  if (*moving_ || selectedRow_ < 0 || !CheckRealMove->isChecked()) return;
-  const int row = selectedRow_;
-  const std::optional<std::int32_t> target = FrameNosepiece->Steps(row);
-  if (!target) return;
+void ControlFocusDriveCtl::MoveToRow(int row, std::int32_t target) {
   const clsControlZDrive& drive = drive_;
-  Prompts& prompts = drive.parent.prompts();
   const MoveScope scope(moving_, drive.parent);
-  const std::int64_t distance = std::abs(std::int64_t{drive.CurPosition()} - *target);
+  const std::int64_t distance = std::abs(std::int64_t{drive.CurPosition()} - target);
   if (scope.IsLost()) return;
-  drive.MoveAsyncStart(*target);
-  WatchMove(scope, prompts,
-            {distance, [&] { return drive.CurPosition() == *target; },
+  drive.MoveAsyncStart(target);
+  WatchMove(scope, drive.parent.prompts(),
+            {distance, [&] { return drive.CurPosition() == target; },
              [&] { return drive.IsMoveAsyncEnd(); }, [&] { drive.MoveStop(); }});
-  if (scope.IsLost()) return;
-  const std::int32_t position = drive.CurPosition();
-  if (scope.IsLost()) return;
-  FrameNosepiece->Show(row, position);
-  prompts.FlushInput();
+  if (!scope.IsLost()) ShowPosition(scope, row);
 }
 
 }  // namespace mortane

@@ -87,7 +87,9 @@ class ControlFocusDriveCtl : public CardPage {
   void OnRow(int row);
   void Step(std::int32_t steps);
   void Teach(const MoveScope& scope);
-  void MoveToRow();
+  std::int32_t ShowPosition(const MoveScope& scope, int row);
+  void Start();
+  void MoveToRow(int row, std::int32_t target);
 
   clsControlZDrive& drive_;
   FollowNosepiece follow_;

@@ -101,7 +101,7 @@ void ControlXYStageCtl::Connect() {
   connect(optNosepiece, &OptionGroup::selectionChanged, this, &ControlXYStageCtl::OnRow);
   for (const StepButton& row : kStepButtons)
     connect(this->*row.button, &QAbstractButton::clicked, this, [this, &row] { Step(row); });
-  connect(ButtonStart, &QAbstractButton::clicked, this, &ControlXYStageCtl::MoveToRow);
+  connect(ButtonStart, &QAbstractButton::clicked, this, &ControlXYStageCtl::Start);
 }
 
 // Without any stage its controls are shown, and preparing it fails with a box.
@@ -170,29 +170,32 @@ bool ControlXYStageCtl::ShowPosition(const MoveScope& scope, int row, std::size_
   return true;
 }
 
-void ControlXYStageCtl::MoveToRow() {
+void ControlXYStageCtl::Start() {
   if (*moving_ || selectedRow_ < 0 || !CheckRealMove->isChecked()) return;
-  const int row = selectedRow_;
-  const std::optional<std::int32_t> x = FrameNosepiece->Steps(row, kX);
-  const std::optional<std::int32_t> y = FrameNosepiece->Steps(row, kY);
+  const std::optional<std::int32_t> x = FrameNosepiece->Steps(selectedRow_, kX);
+  const std::optional<std::int32_t> y = FrameNosepiece->Steps(selectedRow_, kY);
   if (!x || !y) return;
+  Prompts& prompts = stage_.parent.prompts();
+  MoveToRow(selectedRow_, *x, *y);
+  prompts.FlushInput();
+}
+
+void ControlXYStageCtl::MoveToRow(int row, std::int32_t x, std::int32_t y) {
   const clsControlXYDrive& stage = stage_;
-  Prompts& prompts = stage.parent.prompts();
   const MoveScope scope(moving_, stage.parent);
-  const std::int64_t distanceX = std::abs(std::int64_t{stage.CurPositionX()} - *x);
+  const std::int64_t distanceX = std::abs(std::int64_t{stage.CurPositionX()} - x);
   if (scope.IsLost()) return;
-  const std::int64_t distanceY = std::abs(std::int64_t{stage.CurPositionY()} - *y);
+  const std::int64_t distanceY = std::abs(std::int64_t{stage.CurPositionY()} - y);
   if (scope.IsLost()) return;
-  stage.MoveAsyncStart(*x, *y);
+  stage.MoveAsyncStart(x, y);
   const auto isAtTarget = [&] {
     const std::int32_t nowX = stage.CurPositionX();
-    return stage.CurPositionY() == *y && nowX == *x;
+    return !scope.IsLost() && stage.CurPositionY() == y && nowX == x;
   };
-  WatchMove(scope, prompts,
+  WatchMove(scope, stage.parent.prompts(),
             {distanceX + distanceY, isAtTarget, [&] { return stage.IsMoveAsyncEnd(); },
              [&] { stage.MoveStop(); }});
-  if (scope.IsLost() || !ShowPosition(scope, row, kX) || !ShowPosition(scope, row, kY)) return;
-  prompts.FlushInput();
+  if (!scope.IsLost() && ShowPosition(scope, row, kX)) ShowPosition(scope, row, kY);
 }
 
 }  // namespace mortane

@@ -70,7 +70,8 @@ class ControlXYStageCtl : public CardPage {
   void Step(const StepButton& button);
   void MoveAndShow(const StepButton& button);
   bool ShowPosition(const MoveScope& scope, int row, std::size_t axis);
-  void MoveToRow();
+  void Start();
+  void MoveToRow(int row, std::int32_t x, std::int32_t y);
 
   clsControlXYDrive& stage_;
   int selectedRow_ = -1;

@@ -187,6 +187,30 @@ TEST(FocusDrive, WithoutADriveNothingIsReadComparedOrWritten) {
   }
 }
 
+struct VersionRow {
+  const char* bench;
+  const char* version;
+  bool knowsEscape;
+};
+
+TEST(FocusDrive, TheBodysFirmwareKnowsTheEscapeFromVersion13) {
+  for (const VersionRow& row :
+       {VersionRow{"Harbour", "V1.3", true}, VersionRow{"Harbour", "V1.30b", true},
+        VersionRow{"Harbour", "V1.29", false}, VersionRow{"Harbour", "V2.0", true},
+        VersionRow{"Harbour", "V1.10", false}, VersionRow{"Harbour", "vDEMO", false},
+        VersionRow{"Harbour", "", false}, VersionRow{"Hub", "V1.3", false}}) {
+    Rig rig(row.bench);
+    rig.instrument().Unit(1).version = row.version;
+    rig.Connect();
+    EXPECT_EQ(rig.k70.CZDrive.KnowsEscape(), row.knowsEscape) << row.bench << row.version;
+    EXPECT_LE(rig.journal.CallCount(), 1U);
+  }
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.faults.Add({"ControllerVersion"});
+  EXPECT_FALSE(rig.k70.CZDrive.KnowsEscape());
+}
+
 TEST(FocusDrive, ACondenserOrItsSensorTakesTheLowerLimitAway) {
   for (const std::int32_t mounted : {kSensorOnly, kControllable}) {
     Rig rig("Lantern");

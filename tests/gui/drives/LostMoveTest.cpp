@@ -29,6 +29,7 @@ class LostMove : public testing::TestWithParam<Fate> {
     EXPECT_EQ(rig.journal.CallCount(), 0U);
     EXPECT_TRUE(rig.prompts.AllAnswersUsed());
     EXPECT_EQ(rig.prompts.PointerBalance(), 0);
+    EXPECT_EQ(rig.prompts.Log().back(), "flush") << "clicks would move the next drive";
   }
   static Bench TwoDevices() { return List({"Quay", "Harbour", "Harbour"}); }
 
@@ -89,6 +90,7 @@ TEST_P(LostMove, AsksTheStageNothingAfterTheBoxOfAFailure) {
        {FailureRow{"get XYDriveDevice.PositionX", 1, "GetPositionX Error!!", false},
         FailureRow{"get XYDriveDevice.PositionY", 1, "GetPositionY Error!!", false},
         FailureRow{"put XYDriveDevice.PositionX", 1, "MoveAsyncStart Error!!", false},
+        FailureRow{"get XYDriveDevice.PositionX", 2, "GetPositionX Error!!", true},
         FailureRow{"get XYDriveDevice.PositionY", 2, "GetPositionY Error!!", true},
         FailureRow{"DeviceList.Item(2).WaitMove", 1, "MoveAsyncEnd Error!!", true},
         FailureRow{"get XYDriveDevice.PositionX", 3, "GetPositionX Error!!", true},
@@ -114,7 +116,6 @@ TEST_P(LostMove, AsksTheDriveNothingAfterAStepThatFailed) {
     rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", Lose(rig));
     ClickButton(*rig.page.ButtonUpLarge);
     ExpectSilence(rig);
-    EXPECT_EQ(rig.prompts.Log().back(), "flush") << "clicks would move the next drive";
   }
 }
 
@@ -128,7 +129,6 @@ TEST_P(LostMove, AsksTheStageNothingAfterAStepThatFailed) {
     rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", Lose(rig));
     ClickButton(*rig.page.ButtonLeftLarge);
     ExpectSilence(rig);
-    EXPECT_EQ(rig.prompts.Log().back(), "flush");
   }
 }
 

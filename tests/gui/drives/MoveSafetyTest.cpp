@@ -202,6 +202,41 @@ TEST(MoveSafety, ASectionThatIsSwitchedOffWithinAMoveStillShowsItsRow) {
   EXPECT_EQ(rig.shown(3), "20");
 }
 
+// The box of a failed reading stands while the row is given up.
+TEST(MoveSafety, ARowThatIsGivenUpWithinAMoveIsShownAllTheSame) {
+  FocusRig focus;
+  focus.Select(3);
+  focus.faults.Add({"get ZDriveDevice.Position", 2});
+  focus.prompts.ExpectBox("GetPosition Error!!", box::kCritical, Answer::Ok, "",
+                          [&] { focus.page.CheckRealMove->setChecked(false); });
+  focus.field(3).setText("7");
+  ClickButton(*focus.page.ButtonUpLarge);
+  EXPECT_EQ(focus.shown(3), "0");
+}
+
+TEST(MoveSafety, ARowOfTheStageThatIsGivenUpWithinAMoveIsShownAllTheSame) {
+  StageRig stage;
+  stage.Select(3);
+  stage.faults.Add({"get XYDriveDevice.PositionX", 2});
+  stage.prompts.ExpectBox("GetPositionX Error!!", box::kCritical, Answer::Ok, "",
+                          [&] { stage.page.CheckRealMove->setChecked(false); });
+  stage.fieldX(3).setText("7");
+  ClickButton(*stage.page.ButtonLeftLarge);
+  EXPECT_EQ(stage.shownX(3), "0");
+}
+
+// As the box of a failed move stands: the row that was selected then is not touched.
+TEST(MoveSafety, ARowThatIsGivenUpBeforeThePositionIsReadIsNotTaught) {
+  FocusRig rig;
+  rig.Select(3);
+  rig.faults.Add({"put ZDriveDevice.Position"});
+  rig.prompts.ExpectBox("Move Error!!", box::kCritical, Answer::Ok, "",
+                        [&] { rig.page.CheckRealMove->setChecked(false); });
+  ClickButton(*rig.page.ButtonUpLarge);
+  EXPECT_EQ(rig.shown(3), "0");
+  EXPECT_EQ(rig.drive().Position(4), 0);
+}
+
 TEST(MoveSafety, AWindowThatIsClosedWithinAMoveLeavesItInOrder) {
   FocusRig rig;
   rig.Select(0);
