@@ -217,8 +217,10 @@ std::int32_t ControlFocusDriveCtl::ShowPosition(const MoveScope& scope, int row)
   return position;
 }
 
+// A row that the nosepiece does not have is hidden and empty, which would mean 0.
 void ControlFocusDriveCtl::Start() {
   if (*moving_ || selectedRow_ < 0 || !CheckRealMove->isChecked()) return;
+  if (optNosepiece->button(selectedRow_)->isHidden()) return;
   const std::optional<std::int32_t> target = FrameNosepiece->Steps(selectedRow_);
   if (!target) return;
   Prompts& prompts = drive_.parent.prompts();

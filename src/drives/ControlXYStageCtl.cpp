@@ -170,8 +170,10 @@ bool ControlXYStageCtl::ShowPosition(const MoveScope& scope, int row, std::size_
   return true;
 }
 
+// A row that the nosepiece does not have is hidden and empty, which would mean 0.
 void ControlXYStageCtl::Start() {
   if (*moving_ || selectedRow_ < 0 || !CheckRealMove->isChecked()) return;
+  if (optNosepiece->button(selectedRow_)->isHidden()) return;
   const std::optional<std::int32_t> x = FrameNosepiece->Steps(selectedRow_, kX);
   const std::optional<std::int32_t> y = FrameNosepiece->Steps(selectedRow_, kY);
   if (!x || !y) return;

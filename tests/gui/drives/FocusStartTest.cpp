@@ -199,6 +199,18 @@ TEST_F(FocusStart, ThePositionThatIsReachedIsStoredByTheNextSaving) {
   EXPECT_EQ(rig.drive().Position(1), 1200);
 }
 
+TEST(FocusStartAlone, ARowThatTheNextNosepieceDoesNotHaveIsNoTarget) {
+  FocusRig rig;
+  rig.Select(5);
+  rig.drive().NoseCount = 5;
+  rig.page.LoadData();
+  rig.page.FrameZNose->show();
+  rig.Forget();
+  ClickButton(*rig.page.ButtonStart);
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+  EXPECT_TRUE(rig.prompts.Log().empty());
+}
+
 TEST(FocusStartAlone, WithoutARowOrWithRealMovesOffNothingHappens) {
   FocusRig rig;
   ClickButton(*rig.page.ButtonStart);

@@ -217,6 +217,16 @@ TEST_F(StageStart, ANumberBeyond32BitsOnEitherAxisMovesNothing) {
   }
 }
 
+TEST(StageStartAlone, ARowThatTheNextNosepieceDoesNotHaveIsNoTarget) {
+  StageRig rig;
+  rig.Select(5);
+  rig.stage().NoseCount = 5;
+  rig.page.LoadData();
+  rig.Forget();
+  ClickButton(*rig.page.ButtonStart);
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+}
+
 TEST(StageStartAlone, WithoutARowNothingHappens) {
   StageRig rig;
   ClickButton(*rig.page.ButtonStart);

@@ -212,6 +212,9 @@ Card* Switches() {
   row->addWidget(Shown(Picture(make(true), Focus), "focus"));
   row->addWidget(Shown(Picture(make(false), disable), "not fitted, off"));
   row->addWidget(Shown(Picture(make(true), disable), "not fitted, on"));
+  row->addWidget(
+      Shown(Picture(make(true), [](QWidget* w) { static_cast<CheckToggle*>(w)->SetUnknown(); }),
+            "unknown"));
   row->addWidget(Shown(Picture(Option(true)), "option"));
   row->addWidget(Shown(Picture(Option(false)), "option"));
   row->addWidget(Shown(Picture(Option(true), Focus), "focus"));
