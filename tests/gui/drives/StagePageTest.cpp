@@ -1,4 +1,5 @@
 // The stage page: what loading shows, its positions, and its moves.
+#include <QLabel>
 #include <QTest>
 
 #include "common/Numbers.h"
@@ -123,6 +124,21 @@ TEST(StagePage, NamesItsFieldsByAddressAndAxis) {
   EXPECT_EQ(rig.fieldX(2).accessibleName(), "Address 3 X");
   EXPECT_EQ(rig.fieldY(6).accessibleName(), "Address 7 Y");
   EXPECT_EQ(rig.fieldX(0).font(), FixedFont());
+}
+
+TEST(StagePage, EachAxisHasItsHeaderOverItsFields) {
+  StageRig rig;
+  for (const auto& [text, field] :
+       {std::pair{"X", &rig.fieldX(0)}, std::pair{"Y", &rig.fieldY(0)}}) {
+    const QLabel* header = nullptr;
+    for (const auto* label : rig.page.FrameNosepiece->findChildren<QLabel*>()) {
+      if (label->text() == text) header = label;
+    }
+    ASSERT_NE(header, nullptr) << text;
+    EXPECT_GE(header->x(), field->x());
+    EXPECT_LE(header->geometry().right(), field->geometry().right());
+    EXPECT_LE(header->geometry().bottom(), field->y());
+  }
 }
 
 TEST(StagePage, ASelectedRowAsksNothing) {
