@@ -11,12 +11,12 @@
 #include "widgets/CardPage.h"
 
 class QCheckBox;
-class QFrame;
 class QLabel;
 class QPushButton;
 
 namespace mortane {
 
+class CaptionedFrame;
 class CheckToggle;
 class InnerFrame;
 class MoveButton;
@@ -51,7 +51,7 @@ class ControlFocusDriveCtl : public CardPage {
   OptionGroup* optUpperLimitation;
   InnerFrame* FrameDownLimitation;
   OptionGroup* optDownLimitation;
-  QFrame* FrameZNose;
+  CaptionedFrame* FrameZNose;
   InnerFrame* FrameZControl;
   QPushButton* ButtonStart;
   MoveButton* ButtonUpLarge;

@@ -10,6 +10,7 @@
 #include "drives/PositionTableCtl.h"
 #include "drives/TeachingSectionCtl.h"
 #include "drives/clsControlZDrive.h"
+#include "widgets/CaptionedFrame.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/Named.h"

@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
-#include <QFrame>
 #include <QVBoxLayout>
 #include <cstdlib>
 #include <optional>
@@ -10,6 +9,7 @@
 #include "drives/PositionTableCtl.h"
 #include "drives/TeachingSectionCtl.h"
 #include "drives/clsControlXYDrive.h"
+#include "widgets/CaptionedFrame.h"
 #include "widgets/Card.h"
 #include "widgets/OptionGroup.h"
 

@@ -10,11 +10,11 @@
 #include "widgets/CardPage.h"
 
 class QCheckBox;
-class QFrame;
 class QPushButton;
 
 namespace mortane {
 
+class CaptionedFrame;
 class InnerFrame;
 class MoveButton;
 class OptionGroup;
@@ -38,7 +38,7 @@ class ControlXYStageCtl : public CardPage {
   // Selects the row of the address at which the nosepiece stands.
   void SetNosePosition();
 
-  QFrame* Frame1;
+  CaptionedFrame* Frame1;
   OptionGroup* optFocusCompensation;
   PositionTableCtl* FrameNosepiece;
   OptionGroup* optNosepiece;

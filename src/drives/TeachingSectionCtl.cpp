@@ -1,15 +1,14 @@
 #include "drives/TeachingSectionCtl.h"
 
 #include <QCheckBox>
-#include <QFrame>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
 #include "drives/PositionTableCtl.h"
+#include "widgets/CaptionedFrame.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/Named.h"
@@ -18,20 +17,6 @@
 
 namespace mortane {
 namespace {
-
-// A frame without a line: what it holds stands in frames of its own.
-QFrame* MakeFrame(const TeachingTexts& texts, QWidget* parent) {
-  auto* frame = Named(new QFrame(parent), texts.frameName);
-  const QString text = QLatin1String(texts.caption);
-  auto* caption = new QLabel(text, frame);
-  caption->setFont(FrameCaptionFont());
-  frame->setAccessibleName(text);
-  auto* body = new QVBoxLayout(frame);
-  body->setContentsMargins({});
-  body->setSpacing(grid::kBetweenGroups);
-  body->addWidget(caption);
-  return frame;
-}
 
 QWidget* MakeCompensation(const TeachingTexts& texts, TeachingSection& section) {
   auto* row = new QWidget(section.frame);
@@ -74,7 +59,7 @@ TeachingSection MakeTeachingSection(const TeachingTexts& texts, Prompts& prompts
                                     std::vector<PositionColumn> columns, MoveCross::Axes axes,
                                     QWidget* parent) {
   TeachingSection section{};
-  section.frame = MakeFrame(texts, parent);
+  section.frame = Named(new CaptionedFrame(QLatin1String(texts.caption), parent), texts.frameName);
   QWidget* compensation = MakeCompensation(texts, section);
   section.positions =
       Named(new PositionTableCtl(prompts, std::move(columns), section.frame), "FrameNosepiece");
@@ -84,7 +69,7 @@ TeachingSection MakeTeachingSection(const TeachingTexts& texts, Prompts& prompts
   columnsRow->setSpacing(grid::kBetweenGroups);
   columnsRow->addWidget(section.positions, 1);
   columnsRow->addWidget(section.control, 1);
-  auto* body = static_cast<QVBoxLayout*>(section.frame->layout());
+  QVBoxLayout* body = section.frame->body();
   body->addWidget(compensation);
   body->addLayout(columnsRow);
   return section;

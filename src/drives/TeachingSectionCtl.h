@@ -8,10 +8,10 @@
 #include "widgets/MoveCross.h"
 
 class QCheckBox;
-class QFrame;
 
 namespace mortane {
 
+class CaptionedFrame;
 class InnerFrame;
 class OptionGroup;
 class PositionTableCtl;
@@ -33,7 +33,7 @@ struct TeachingTexts {
 };
 
 struct TeachingSection {
-  QFrame* frame;
+  CaptionedFrame* frame;
   OptionGroup* compensation;
   PositionTableCtl* positions;
   InnerFrame* control;

@@ -5,6 +5,7 @@
 
 #include "widgets/AccessibleControls.h"
 #include "widgets/AccessibleLists.h"
+#include "widgets/CaptionedFrame.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/ComboBox.h"
@@ -31,6 +32,7 @@ QAccessibleInterface* Make(QObject* object) {
 constexpr std::array kMakers{
     &Make<Card, AccessibleGroup>,
     &Make<InnerFrame, AccessibleGroup>,
+    &Make<CaptionedFrame, AccessibleGroup>,
     &Make<SectionBar, AccessibleGroup>,
     &Make<Rail, AccessibleGroup>,
     &Make<TurretDrawing, AccessibleGroup>,

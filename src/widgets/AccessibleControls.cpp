@@ -57,7 +57,9 @@ QString AccessibleSwitch::text(QAccessible::Text part) const {
 }
 
 QAccessible::State AccessibleSwitch::state() const {
-  return Checkable(QAccessibleWidget::state(), toggle_.isChecked());
+  QAccessible::State state = Checkable(QAccessibleWidget::state(), toggle_.isChecked());
+  state.checkStateMixed = toggle_.isUnknown();
+  return state;
 }
 
 QStringList AccessibleSwitch::actionNames() const {

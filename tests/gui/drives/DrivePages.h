@@ -3,7 +3,6 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
-#include <QFrame>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,7 @@
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "hub/clsK70.h"
+#include "widgets/CaptionedFrame.h"
 #include "widgets/MoveCross.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/TextField.h"

@@ -1,5 +1,6 @@
 // The drill of the drive pages.
 #include "gui/drives/DrivePages.h"
+#include "gui/drives/DrivesTold.h"
 #include "gui/support/PageDrill.h"
 
 namespace mortane::test {
@@ -71,6 +72,7 @@ std::function<void(Bench&)> WithVersion(const char* version) {
 PageDrillData FocusDrive() {
   PageDrillData data;
   data.name = "FocusDrive";
+  data.accessible = ToldOfFocusDrive();
   data.bench = "Harbour";
   data.make = MakeControlFocusDriveCtl;
   data.loadBox = "MoveStart Error!!";
@@ -137,6 +139,7 @@ PageDrillData FocusDrive() {
 PageDrillData Teaching() {
   PageDrillData data;
   data.name = "Teaching";
+  data.accessible = ToldOfTeaching();
   data.bench = "Harbour";
   data.make = MakeControlFocusDriveCtl;
   data.loadBox = "MoveStart Error!!";
@@ -189,6 +192,7 @@ PageDrillData Teaching() {
 PageDrillData Limits() {
   PageDrillData data;
   data.name = "Limits";
+  data.accessible = ToldOfLimits();
   data.bench = "Lantern";
   data.make = MakeControlFocusDriveCtl;
   data.loadBox = "MoveStart Error!!";
@@ -207,6 +211,7 @@ PageDrillData Limits() {
 PageDrillData XYStage() {
   PageDrillData data;
   data.name = "XYStage";
+  data.accessible = ToldOfStage();
   data.bench = "Harbour";
   data.make = MakeControlXYStageCtl;
   data.loadBox = "MoveStart Error!!";

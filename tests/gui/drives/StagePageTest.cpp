@@ -141,6 +141,22 @@ TEST(StagePage, EachAxisHasItsHeaderOverItsFields) {
   }
 }
 
+TEST(StagePage, EachRowStandsInLineAndRightBelowTheOneBefore) {
+  StageRig rig;
+  for (int row = 0; row < 6; ++row) {
+    const QRect x = rig.fieldX(row).geometry();
+    const QRect y = rig.fieldY(row).geometry();
+    const QRect option = rig.page.optNosepiece->button(row)->geometry();
+    EXPECT_EQ(y.top(), x.top());
+    EXPECT_GT(y.left(), x.right());
+    EXPECT_LE(qAbs(option.center().y() - x.center().y()), 1) << row;
+    EXPECT_LT(option.right(), x.left());
+    if (row == 0) continue;
+    const int gap = x.top() - rig.fieldX(row - 1).geometry().bottom() - 1;
+    EXPECT_EQ(gap, grid::kUnit) << row;
+  }
+}
+
 TEST(StagePage, ASelectedRowAsksNothing) {
   StageRig rig;
   ClickButton(*rig.page.optNosepiece->button(1));

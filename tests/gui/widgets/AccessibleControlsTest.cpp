@@ -1,6 +1,7 @@
 // Buttons, values, pictures and groups as a screen reader meets them.
 #include "gui/support/AccessibleTree.h"
 #include "gui/widgets/TestWindow.h"
+#include "widgets/CaptionedFrame.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/MicroscopeDrawing.h"
 #include "widgets/PageButton.h"
@@ -139,6 +140,23 @@ TEST(AccessibleSwitch, IsNamedByItsLabelAndTellsItsSide) {
   toggle->setEnabled(false);
   EXPECT_EQ(AccessibleOf(*toggle),
             (AccessibleControl{QAccessible::CheckBox, "Shutter", "ON", "checked, disabled"}));
+}
+
+TEST(AccessibleSwitch, OfAnUnknownValueIsNeitherOnNorOff) {
+  CheckToggle toggle;
+  EXPECT_FALSE(InterfaceOf(&toggle).state().checkStateMixed);
+  toggle.SetUnknown();
+  EXPECT_TRUE(InterfaceOf(&toggle).state().checkStateMixed);
+}
+
+TEST(AccessibleFrame, IsAGroupUnderItsCaption) {
+  TestWindow window;
+  auto* frame = window.Add<CaptionedFrame>("Moves");
+  frame->body()->addWidget(new QLabel("inside"));
+  window.Show();
+  EXPECT_EQ(AccessibleTree(*frame),
+            (std::vector<test::AccessibleControl>{told::Group("Moves"), told::Label("Moves"),
+                                                  told::Label("inside")}));
 }
 
 TEST(AccessibleValue, TellsTheCaptionOnceAndTheValue) {

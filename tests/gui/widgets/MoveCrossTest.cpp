@@ -103,6 +103,35 @@ TEST_F(MoveCrossTest, AChevronPointsWhereItsButtonStands) {
   }
 }
 
+// The largest difference in lightness between two pictures of the same size.
+int Difference(const QImage& one, const QImage& other) {
+  int largest = one.size() == other.size() ? 0 : 255;
+  for (int y = 0; y < one.height() && largest < 255; ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      largest = qMax(largest,
+                     qAbs(one.pixelColor(x, y).lightness() - other.pixelColor(x, y).lightness()));
+    }
+  }
+  return largest;
+}
+
+TEST_F(MoveCrossTest, ChevronsAreTheSameDrawingTurned) {
+  constexpr int kRoundingOfColours = 4;
+  const auto chevron = [this](MoveDirection direction, MoveSize size) {
+    const QImage image = cross->button(direction, size)->grab().toImage();
+    return image.copy(image.rect().adjusted(8, 8, -8, -8));
+  };
+  for (const MoveSize size : {MoveSize::Small, MoveSize::Large}) {
+    const QImage right = chevron(MoveDirection::Right, size);
+    for (const auto& [direction, degrees] :
+         {std::pair{MoveDirection::Down, 90}, std::pair{MoveDirection::Left, 180},
+          std::pair{MoveDirection::Up, 270}}) {
+      const QImage turned = right.transformed(QTransform().rotate(degrees));
+      EXPECT_LE(Difference(chevron(direction, size), turned), kRoundingOfColours) << degrees;
+    }
+  }
+}
+
 TEST_F(MoveCrossTest, ArrowsMoveTheFocusAlongTheCrossAndClickNothing) {
   QSignalSpy clicks(cross->middle(), &QAbstractButton::clicked);
   cross->middle()->setFocus();
