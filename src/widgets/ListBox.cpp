@@ -152,8 +152,8 @@ int ListBox::addCells(const QStringList& cells, const QVariant& data) {
   return rowCount() - 1;
 }
 
-void ListBox::SetRowIcon(int row, IconName icon) {
-  topLevelItem(row)->setIcon(0, Icon(icon));
+void ListBox::SetRowIcon(int row, const QIcon& icon) {
+  topLevelItem(row)->setIcon(0, icon);
 }
 
 void ListBox::SetRowDimmed(int row, bool dimmed) {

@@ -41,7 +41,8 @@ class ListBox : public RowView {
   int addRow(const QString& text, const QVariant& data = {});
   // One text in each column; those that are missing stay empty.
   int addCells(const QStringList& cells, const QVariant& data = {});
-  void SetRowIcon(int row, IconName icon);
+  void SetRowIcon(int row, const QIcon& icon);
+  void SetRowIcon(int row, IconName icon) { SetRowIcon(row, Icon(icon)); }
   // Grey, but as selectable as the others.
   void SetRowDimmed(int row, bool dimmed);
   void SetRowChecked(int row, bool checked);

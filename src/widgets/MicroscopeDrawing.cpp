@@ -1,42 +1,18 @@
 #include "widgets/MicroscopeDrawing.h"
 
-#include <QFile>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <array>
 
 #include "widgets/ElidedTip.h"
-#include "widgets/Theme.h"
+#include "widgets/InkedDrawing.h"
 
 namespace mortane {
 namespace {
 
 constexpr double kDotRadius = 5;
 constexpr double kDisabledOpacity = 0.4;  // of the body; labels and dots have the disabled colours
-
-struct Ink {
-  const char* inFile;
-  Tone tone;
-};
-
-constexpr std::array kInks{
-    Ink{"#33415c", Tone::DrawingLine},  Ink{"#e9edf3", Tone::DrawingFill},
-    Ink{"#d5dce6", Tone::DrawingShade}, Ink{"#bfc9d6", Tone::DrawingDeep},
-    Ink{"#2e9a57", Tone::RingGreen},    Ink{"#f0c419", Tone::RingYellow},
-    Ink{"#5db1e6", Tone::RingBlue},     Ink{"#ffdf66", Tone::LightCone},
-};
-
-// The drawing in the colours of the scheme. White and the dark parts come from the palette.
-QByteArray InkedDrawing(const QPalette& palette) {
-  QFile source(QStringLiteral(":/mortane/microscope.svg"));
-  if (!source.open(QIODevice::ReadOnly)) return {};
-  QByteArray drawing = source.readAll();
-  for (const Ink& ink : kInks) drawing.replace(ink.inFile, ToneColor(ink.tone).name().toLatin1());
-  drawing.replace("#ffffff", palette.color(QPalette::Active, QPalette::Base).name().toLatin1());
-  drawing.replace("#3c475c", palette.color(QPalette::Active, QPalette::Shadow).name().toLatin1());
-  return drawing;
-}
 
 void DrawDot(QPainter& painter, QPointF at, int mounted, const QPalette& palette, bool enabled) {
   const QColor background = palette.color(QPalette::Base);
@@ -114,7 +90,7 @@ void MicroscopeDrawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const MicroscopeLayout layout = Layout();
-  QSvgRenderer body(InkedDrawing(palette()));
+  QSvgRenderer body(InkedDrawing(QStringLiteral("microscope"), palette()));
   if (!isEnabled()) painter.setOpacity(kDisabledOpacity);
   body.render(&painter, layout.body);
   painter.setOpacity(1);

@@ -30,7 +30,8 @@ QPainterPath OptionShape(const QRectF& area, bool first, bool last) {
 
 }  // namespace
 
-SectionOption::SectionOption(const QString& text, QWidget* parent) : QAbstractButton(parent) {
+SectionOption::SectionOption(const QString& text, QWidget* parent, ChosenLook look)
+    : QAbstractButton(parent), look_(look) {
   setText(text);
   setCheckable(true);
   setAttribute(Qt::WA_Hover);
@@ -68,22 +69,28 @@ void SectionOption::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const bool chosen = isChecked();
   // A window that is busy is disabled as a whole, and still shows which section is chosen.
-  const bool amber = chosen && isEnabledTo(window());
+  const bool marked = chosen && isEnabledTo(window());
+  const bool amber = look_ == ChosenLook::Amber;
+  const QColor mark =
+      amber ? ToneColor(Tone::Amber) : palette().color(QPalette::Active, QPalette::Highlight);
+  const QColor onMark = amber ? ToneColor(Tone::OnAmber)
+                              : palette().color(QPalette::Active, QPalette::HighlightedText);
   // Neighbours share their line: each but the first begins on the last pixel of the one before.
   const QRectF area = QRectF(rect()).adjusted(first_ ? 0.5 : -0.5, 0.5, -0.5, -0.5);
   QColor fill = palette().color(QPalette::Button);
   if (isEnabled() && underMouse()) fill = palette().color(QPalette::Midlight);
-  if (amber) fill = ToneColor(Tone::Amber);
-  painter.setPen(amber ? ToneColor(Tone::Amber).darker(118) : palette().color(QPalette::Mid));
+  if (marked) fill = mark;
+  painter.setPen(marked ? mark.darker(118) : palette().color(QPalette::Mid));
   painter.setBrush(fill);
   painter.drawPath(OptionShape(area, first_, last_));
   if (hasFocus()) {
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    // A line in Highlight would not show on blue.
+    painter.setPen(QPen(marked && !amber ? onMark : palette().color(QPalette::Highlight), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 4, 4);
   }
   painter.setFont(chosen ? BoldFont() : font());
-  painter.setPen(amber ? ToneColor(Tone::OnAmber) : palette().color(QPalette::ButtonText));
+  painter.setPen(marked ? onMark : palette().color(QPalette::ButtonText));
   painter.drawText(
       rect(), Qt::AlignCenter,
       painter.fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * kLeastPadding));

@@ -9,11 +9,14 @@ namespace mortane {
 
 class OptionGroup;
 
+// Amber chooses a section of a page; blue a part of what the section shows.
+enum class ChosenLook { Amber, Blue };
+
 class SectionOption : public QAbstractButton {
   Q_OBJECT
 
  public:
-  explicit SectionOption(const QString& text, QWidget* parent);
+  SectionOption(const QString& text, QWidget* parent, ChosenLook look = ChosenLook::Amber);
 
   void SetEnds(bool first, bool last);
   [[nodiscard]] QSize sizeHint() const override;
@@ -24,6 +27,7 @@ class SectionOption : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  ChosenLook look_;
   bool first_ = false;
   bool last_ = false;
 };

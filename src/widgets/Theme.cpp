@@ -80,6 +80,7 @@ constexpr std::array<ToneRow, kToneCount> kTones{{
     {Tone::RingYellow, 0xFFF0C419, 0xFFF0C419},   {Tone::RingGreen, 0xFF2E9A57, 0xFF2E9A57},
     {Tone::RingBlue, 0xFF5DB1E6, 0xFF5DB1E6},     {Tone::RingDarkBlue, 0xFF2448A8, 0xFF2448A8},
     {Tone::RingWhite, 0xFFFFFFFF, 0xFFFFFFFF},    {Tone::LightCone, 0xFFFFDF66, 0xFFFFDF66},
+    {Tone::SwitchPlate, 0xFF101838, 0xFF101838},
 }};
 
 Scheme currentScheme = Scheme::Light;

@@ -43,8 +43,9 @@ enum class Tone {
   RingDarkBlue,
   RingWhite,
   LightCone,
+  SwitchPlate,
 };
-inline constexpr int kToneCount = static_cast<int>(Tone::LightCone) + 1;
+inline constexpr int kToneCount = static_cast<int>(Tone::SwitchPlate) + 1;
 
 // Sets style, palette, tool tip font and what screen readers are told. Follows the system's scheme
 // if it tells, otherwise light; the tour of the pages overrides it with the environment variable

@@ -1,0 +1,125 @@
+#include "switches/JoypadSwitchSettingCtl.h"
+
+#include <QHBoxLayout>
+#include <QHideEvent>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include "common/Failure.h"
+#include "switches/JoypadAssignments.h"
+#include "switches/SwitchFunctions.h"
+#include "widgets/Card.h"
+#include "widgets/ClickFocus.h"
+#include "widgets/Named.h"
+#include "widgets/ReportList.h"
+#include "widgets/ShownField.h"
+#include "widgets/ShownName.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kFunctionColumn = 1;
+
+std::unique_ptr<JoypadAssignments> ReadAssignments(Joystick& joystick,
+                                                   const std::string& applicationData) {
+  try {
+    return std::make_unique<JoypadAssignments>(joystick, applicationData);
+  } catch (const Failure&) {
+    return nullptr;
+  }
+}
+
+}  // namespace
+
+JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick,
+                                               const std::string& applicationData, QWidget* parent)
+    : CardPage(QStringLiteral("Joypad Switch Settings"), parent),
+      Frame1(Named(FrameBase, "Frame1")),
+      textSwFunc(ShownField("textSwFunc", "Function", FrameBase)),
+      ListView1(
+          Named(new ReportList({QStringLiteral("Button"), QStringLiteral("Function")}, FrameBase),
+                "ListView1")),
+      lstSwFunc(Named(new ListBox(FrameBase), "lstSwFunc")),
+      cmdAllClear(Named(new QPushButton(QStringLiteral("All Clear"), FrameBase), "cmdAllClear")),
+      assignments_(ReadAssignments(joystick, applicationData)) {
+  ListView1->setAccessibleName(QStringLiteral("Button"));
+  lstSwFunc->setAccessibleName(QStringLiteral("Function"));
+  TakeFocusByClicks(*cmdAllClear);
+  cmdAllClear->setEnabled(assignments_ != nullptr);
+  BuildLayout();
+  connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { SelectRow(row); });
+  connect(lstSwFunc, &ListBox::selectionChanged, this, [this](int function) { Choose(function); });
+  connect(cmdAllClear, &QPushButton::clicked, this, [this] { ClearAll(); });
+}
+
+JoypadSwitchSettingCtl::~JoypadSwitchSettingCtl() {
+  JoypadSwitchSettingCtl::SaveData();
+}
+
+void JoypadSwitchSettingCtl::BuildLayout() {
+  auto* left = new QVBoxLayout;
+  left->setSpacing(grid::kBetweenControls);
+  left->addWidget(textSwFunc);
+  left->addWidget(ListView1, 1);
+  auto* columns = new QHBoxLayout;
+  columns->setSpacing(grid::kBetweenColumns);
+  columns->addLayout(left, 1);
+  columns->addWidget(lstSwFunc, 1);
+  FrameBase->body()->addLayout(columns, 1);
+  FrameBase->body()->addWidget(cmdAllClear, 0, Qt::AlignRight);
+}
+
+void JoypadSwitchSettingCtl::LoadData() {
+  lstSwFunc->clearRows();
+  for (const SwitchFunction& function : JoypadFunctions()) {
+    lstSwFunc->addRow(ToQString(function.name), static_cast<int>(function.code));
+  }
+  ListView1->clearRows();
+  if (!assignments_) return;
+  for (const std::string& name : assignments_->RowNames()) {
+    ListView1->addCells({ToQString(name), {}});
+  }
+  for (std::int32_t i = 1; i <= assignments_->CodeCount(); ++i) {
+    ShowFunction(i - 1, lstSwFunc->text(assignments_->Code(i)));
+  }
+}
+
+void JoypadSwitchSettingCtl::SaveData() {
+  if (assignments_) assignments_->Save();
+}
+
+void JoypadSwitchSettingCtl::hideEvent(QHideEvent* event) {
+  CardPage::hideEvent(event);
+  // The window system hides a window that is minimised; nobody has left the page then.
+  if (!event->spontaneous()) SaveData();
+}
+
+// A choice goes on from the function that the row has.
+void JoypadSwitchSettingCtl::SelectRow(int row) {
+  ListView1->SetBoldRow(row);
+  const QSignalBlocker quiet(lstSwFunc);
+  lstSwFunc->setIndex(assignments_->Code(row + 1));
+}
+
+void JoypadSwitchSettingCtl::Choose(int function) {
+  const int row = ListView1->index();
+  if (row < 0) return;
+  textSwFunc->setText(lstSwFunc->text(function));
+  assignments_->Code(row + 1, static_cast<std::int16_t>(lstSwFunc->data(function).toInt()));
+  ShowFunction(row, lstSwFunc->text(function));
+}
+
+// Numbers, and names again after the next loading.
+void JoypadSwitchSettingCtl::ClearAll() {
+  assignments_->Clear();
+  for (std::int32_t i = 1; i <= assignments_->CodeCount(); ++i) {
+    ShowFunction(i - 1, QString::number(assignments_->Code(i)));
+  }
+}
+
+void JoypadSwitchSettingCtl::ShowFunction(int row, const QString& text) {
+  ListView1->SetCell(row, kFunctionColumn, text);
+}
+
+}  // namespace mortane

@@ -1,0 +1,179 @@
+#include "switches/SwitchPage.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include "widgets/Card.h"
+#include "widgets/ClickFocus.h"
+#include "widgets/ComboBox.h"
+#include "widgets/Named.h"
+#include "widgets/ReportList.h"
+#include "widgets/ShownName.h"
+#include "widgets/SwitchDrawing.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kFunctionColumn = 1;
+
+void Fill(ComboBox& combo, const SwitchFunctionList& functions) {
+  combo.clearRows();
+  for (const SwitchFunction& function : functions) {
+    combo.addRow(ToQString(function.name), static_cast<int>(function.code));
+  }
+}
+
+}  // namespace
+
+SwitchPage::SwitchPage(const QString& caption, const SwitchPlan& plan, KnobCheck knobCheck,
+                       QWidget* parent)
+    : CardPage(caption, parent),
+      optBtn(new SwitchDrawing(plan, "optBtn", FrameBase)),
+      ListView1(
+          Named(new ReportList({QStringLiteral("Switch"), QStringLiteral("Function")}, FrameBase),
+                "ListView1")),
+      ComboCWCCW(Named(new ComboBox(FrameBase), "ComboCWCCW")),
+      ComboFunction(Named(new ComboBox(FrameBase), "ComboFunction")),
+      cmdDefault(Named(new QPushButton(QStringLiteral("Default"), FrameBase), "cmdDefault")),
+      cmdAllClear(Named(new QPushButton(QStringLiteral("All Clear"), FrameBase), "cmdAllClear")),
+      knobCheck_(knobCheck) {
+  ListView1->setIconSize({kMarkIconSide, kMarkIconSide});
+  ListView1->setAccessibleName(QStringLiteral("Switch"));
+  for (ComboBox* combo : {ComboCWCCW, ComboFunction}) {
+    combo->setAccessibleName(QStringLiteral("Function"));
+  }
+  ComboFunction->hide();
+  for (QPushButton* button : {cmdDefault, cmdAllClear}) TakeFocusByClicks(*button);
+
+  connect(optBtn, &SwitchDrawing::chosen, this, [this](int index) { Select(index); });
+  connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { Select(row); });
+  connect(ComboCWCCW, &ComboBox::selectionChanged, this, [this](int entry) {
+    ChooseDialFunction(ComboCWCCW->itemText(entry),
+                       static_cast<std::int16_t>(ComboCWCCW->data(entry).toInt()));
+  });
+  connect(ComboFunction, &ComboBox::selectionChanged, this, [this](int entry) {
+    ChoosePushFunction(ComboFunction->itemText(entry),
+                       static_cast<std::int16_t>(ComboFunction->data(entry).toInt()));
+  });
+  connect(cmdDefault, &QPushButton::clicked, this, [this] { SetDefaults(); });
+  connect(cmdAllClear, &QPushButton::clicked, this, [this] { ClearAll(); });
+}
+
+QBoxLayout* SwitchPage::ComboRow() {
+  auto* row = new QHBoxLayout;
+  row->addWidget(ComboCWCCW);
+  row->addWidget(ComboFunction);
+  return row;
+}
+
+QBoxLayout* SwitchPage::ButtonRow() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(grid::kBetweenControls);
+  row->addWidget(cmdDefault);
+  row->addWidget(cmdAllClear);
+  return row;
+}
+
+QWidget* SwitchPage::PictureFrame() {
+  auto* frame = new InnerFrame({}, FrameBase);
+  frame->body()->setContentsMargins(grid::kUnit, grid::kUnit, grid::kUnit, grid::kUnit);
+  frame->body()->addWidget(optBtn);
+  return frame;
+}
+
+void SwitchPage::SetRows(std::vector<SwitchRow> rows) {
+  rows_ = std::move(rows);
+  ListView1->clearRows();
+  for (const SwitchRow& row : rows_) {
+    const int added = ListView1->addCells({ToQString(row.name), {}});
+    ListView1->SetRowIcon(added, optBtn->markIcon(added));
+    ShowNameOfMark(added);
+  }
+}
+
+const SwitchRow& SwitchPage::rowAt(int row) const {
+  return rows_[static_cast<std::size_t>(row)];
+}
+
+void SwitchPage::FillFunctions() {
+  Fill(*ComboCWCCW, DialFunctions());
+  Fill(*ComboFunction, PushFunctions());
+}
+
+void SwitchPage::ShowFunction(int row, const QString& text) {
+  ListView1->SetCell(row, kFunctionColumn, text);
+  ShowNameOfMark(row);
+}
+
+QString SwitchPage::ShownFunction(int row) const {
+  return ListView1->cells(row).value(kFunctionColumn);
+}
+
+void SwitchPage::ShowNameOfMark(int row) {
+  optBtn->SetMarkName(row, ListView1->cells(row).join(QStringLiteral(", ")));
+}
+
+void SwitchPage::Select(int row) {
+  {
+    const QSignalBlocker quiet(ListView1);
+    ListView1->setIndex(row);
+  }
+  ListView1->SetBoldRow(row);
+  optBtn->setIndex(row);
+  const bool dial = rowAt(row).kind == SwitchKind::Dial;
+  ComboCWCCW->setVisible(dial);
+  ComboFunction->setVisible(!dial);
+  ShowInCombos(row);
+  ShowSelected(row);
+}
+
+void SwitchPage::SelectChosen() {
+  const int row = optBtn->index();
+  if (row >= 0 && row < ListView1->rowCount()) {
+    Select(row);
+    return;
+  }
+  ShowInCombos(-1);
+  ShowSelected(-1);
+}
+
+// A choice goes on from the function that the row has.
+void SwitchPage::ShowInCombos(int row) {
+  for (ComboBox* combo : {ComboCWCCW, ComboFunction}) {
+    const QSignalBlocker quiet(combo);
+    combo->setIndex(row < 0 ? -1 : combo->rowOf(static_cast<int>(Func(rowAt(row).position))));
+  }
+}
+
+void SwitchPage::ChooseDialFunction(const QString& text, std::int16_t code) {
+  const int row = ListView1->index();
+  if (row < 0) return;
+  ShowChosen(text);
+  const std::int16_t position = rowAt(row).position;
+  Func(position, code);
+  Func(static_cast<std::int16_t>(position + 1), SecondOfPair(code));
+  ShowFunction(row, text);
+}
+
+void SwitchPage::ChoosePushFunction(const QString& text, std::int16_t code) {
+  const int row = ListView1->index();
+  if (row < 0) return;
+  ShowChosen(text);
+  Func(rowAt(row).pushPosition, code);
+  knobCheck_.Choose(code);
+  ShowFunction(row, text);
+  knobCheck_.Run();
+}
+
+void SwitchPage::ClearAll() {
+  for (std::int16_t i = 1; i <= SwitchCount(); ++i) Func(i, switchfunction::kNone);
+  for (int row = 0; row < ListView1->rowCount(); ++row) {
+    ShowFunction(row, FunctionText(Func(rowAt(row).position)));
+  }
+  SelectChosen();
+  knobCheck_.Run();
+}
+
+}  // namespace mortane

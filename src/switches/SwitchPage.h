@@ -1,0 +1,90 @@
+// What the pages of body and hand controller have in common: rows of switches, their marks on a
+// drawing, and the lists of functions for dials and push switches.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "switches/KnobCheck.h"
+#include "switches/SwitchFunctions.h"
+#include "widgets/CardPage.h"
+
+class QBoxLayout;
+class QPushButton;
+
+namespace mortane {
+
+class ComboBox;
+class ReportList;
+class SwitchDrawing;
+struct SwitchPlan;
+
+// A row of the list. A dial's function takes `position` and the next.
+struct SwitchRow {
+  std::string_view name;
+  SwitchKind kind;
+  std::int16_t position;
+  std::int16_t pushPosition;  // that a function for push switches is given to
+};
+
+// A row and its mark are chosen together, by the person or the program. A choice in one of the two
+// lists of functions, again by either, reaches the unit at once.
+class SwitchPage : public CardPage {
+  Q_OBJECT
+
+ public:
+  SwitchDrawing* optBtn;
+  ReportList* ListView1;
+  // At one place, of which the chosen row shows one. They show the row's function if they have it.
+  ComboBox* ComboCWCCW;
+  ComboBox* ComboFunction;
+  QPushButton* cmdDefault;
+  QPushButton* cmdAllClear;
+
+ protected:
+  SwitchPage(const QString& caption, const SwitchPlan& plan, KnobCheck knobCheck, QWidget* parent);
+
+  // Both combos side by side, of which one is shown.
+  QBoxLayout* ComboRow();
+  QBoxLayout* ButtonRow();
+  // With the drawing inside.
+  QWidget* PictureFrame();
+
+  void SetRows(std::vector<SwitchRow> rows);
+  [[nodiscard]] const SwitchRow& rowAt(int row) const;
+  void FillFunctions();
+  // In the row and for its mark.
+  void ShowFunction(int row, const QString& text);
+  [[nodiscard]] QString ShownFunction(int row) const;  // empty without such a row
+  void Select(int row);
+  // As after a click on the mark that is chosen, if there is a row for it.
+  void SelectChosen();
+  void RunKnobCheck() const { knobCheck_.Run(); }
+
+  // Gives the row at hand the function, with what follows from that.
+  void ChooseDialFunction(const QString& text, std::int16_t code);
+  void ChoosePushFunction(const QString& text, std::int16_t code);
+
+  // The unit's codes.
+  [[nodiscard]] virtual std::int16_t Func(std::int16_t position) const = 0;
+  virtual void Func(std::int16_t position, std::int16_t code) = 0;
+  [[nodiscard]] virtual std::int16_t SwitchCount() const = 0;
+  virtual void SetDefaults() = 0;
+  // The name of a function; empty for a code that is none.
+  [[nodiscard]] virtual QString FunctionText(std::int32_t code) const = 0;
+  // The selection has changed, or what the selected row shows; -1 when no row is selected.
+  virtual void ShowSelected(int row) = 0;
+  // The selected row is about to get that function.
+  virtual void ShowChosen(const QString& /*text*/) {}
+
+ private:
+  void ClearAll();
+  void ShowInCombos(int row);
+  void ShowNameOfMark(int row);
+
+  KnobCheck knobCheck_;
+  std::vector<SwitchRow> rows_;
+};
+
+}  // namespace mortane

@@ -1,0 +1,133 @@
+#include "switches/SwitchSettingCtl.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "switches/SwitchPlans.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
+#include "widgets/Card.h"
+#include "widgets/ComboBox.h"
+#include "widgets/Named.h"
+#include "widgets/ReportList.h"
+#include "widgets/ShownField.h"
+#include "widgets/ShownName.h"
+#include "widgets/SwitchDrawing.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+// Shares of the width of drawing and list.
+constexpr int kDrawingShare = 9;
+constexpr int kListShare = 5;
+// Margins of cells and frame in a row of the list.
+constexpr int kBesidesTexts = 48;
+
+// For rows of which no function is cut off.
+int ListWidth(const QFontMetrics& metrics) {
+  int name = 0;
+  for (const BodyRow& row : kBodyRows) {
+    name = qMax(name, metrics.horizontalAdvance(ToQString(row.name)));
+  }
+  int function = 0;
+  for (const SwitchFunction& dial : DialFunctions()) {
+    function = qMax(function, metrics.horizontalAdvance(ToQString(dial.name)));
+  }
+  return kMarkIconSide + name + function + kBesidesTexts;
+}
+
+}  // namespace
+
+SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor& tactor,
+                                   KnobModes knobs, QWidget* parent)
+    : SwitchPage(
+          QStringLiteral("K70 Switch Setting"), BodyPlan(),
+          KnobCheck(switches, tactor, knobs, TactorSearch::IfPresent, switches.parent.prompts()),
+          parent),
+      Frame1(Named(FrameBase, "Frame1")),
+      Picture4(Named(optBtn, "Picture4")),
+      textSwFunc(ShownField("textSwFunc", "Function", FrameBase)),
+      lstSwFunc(Named(new ListBox(FrameBase), "lstSwFunc")),
+      switches_(switches) {
+  lstSwFunc->hide();
+  BuildLayout();
+}
+
+void SwitchSettingCtl::BuildLayout() {
+  ListView1->setMinimumWidth(ListWidth(ListView1->fontMetrics()));
+  auto* upper = new QHBoxLayout;
+  upper->setSpacing(grid::kBetweenColumns);
+  upper->addWidget(PictureFrame(), kDrawingShare);
+  upper->addWidget(ListView1, kListShare);
+
+  auto* editor = new InnerFrame({}, FrameBase);
+  auto* strip = new QHBoxLayout;
+  strip->setSpacing(grid::kBetweenControls);
+  strip->addWidget(textSwFunc, 1);
+  strip->addLayout(ComboRow(), 1);
+  strip->addSpacing(grid::kBetweenColumns);
+  strip->addLayout(ButtonRow());
+  editor->body()->addLayout(strip);
+
+  FrameBase->body()->addLayout(upper, 1);
+  FrameBase->body()->addWidget(editor);
+}
+
+void SwitchSettingCtl::LoadData() {
+  lstSwFunc->clearRows();
+  for (const SwitchFunction& function : AllSwitchFunctions()) {
+    lstSwFunc->addRow(ToQString(function.name), static_cast<int>(function.code));
+  }
+  FillFunctions();
+  std::vector<SwitchRow> rows;
+  for (const BodyRow& row : kBodyRows) {
+    rows.push_back({row.name, row.kind, row.position, row.position});
+  }
+  SetRows(std::move(rows));
+  QString text;
+  for (int row = 0; row < ListView1->rowCount(); ++row) {
+    const std::int16_t code = Func(rowAt(row).position);
+    text = rowAt(row).kind == SwitchKind::Dial ? DialText(code, text) : FunctionText(code);
+    ShowFunction(row, text);
+  }
+  SelectChosen();
+}
+
+QString SwitchSettingCtl::DialText(std::int16_t code, const QString& otherwise) const {
+  const int entry = ComboCWCCW->rowOf(static_cast<int>(code));
+  return entry < 0 ? otherwise : ComboCWCCW->itemText(entry);
+}
+
+std::int16_t SwitchSettingCtl::Func(std::int16_t position) const {
+  return switches_.Func(position);
+}
+
+void SwitchSettingCtl::Func(std::int16_t position, std::int16_t code) {
+  switches_.Func(position, code);
+}
+
+std::int16_t SwitchSettingCtl::SwitchCount() const {
+  return clsDbSwitch::SwitchCount;
+}
+
+void SwitchSettingCtl::SetDefaults() {
+  std::int16_t position = 0;
+  for (const std::int16_t code : BodyDefaults()) switches_.Func(++position, code);
+  LoadData();
+  RunKnobCheck();
+}
+
+QString SwitchSettingCtl::FunctionText(std::int32_t code) const {
+  return lstSwFunc->text(code);
+}
+
+void SwitchSettingCtl::ShowSelected(int row) {
+  textSwFunc->setText(ShownFunction(row));
+}
+
+void SwitchSettingCtl::ShowChosen(const QString& text) {
+  textSwFunc->setText(text);
+}
+
+}  // namespace mortane

@@ -1,0 +1,47 @@
+// The sub-page that gives functions to the dials and push switches of the body.
+#pragma once
+
+#include "switches/SwitchPage.h"
+
+namespace mortane {
+
+class Card;
+class ListBox;
+class TextField;
+class clsControlTactor;
+class clsDbSwitch;
+
+// A dial code that begins no pair shows the function of the row above. Loading changes nothing in
+// the model.
+class SwitchSettingCtl : public SwitchPage {
+  Q_OBJECT
+
+ public:
+  // `knobs` are fields of another unit, which must live as long.
+  SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor& tactor, KnobModes knobs,
+                   QWidget* parent = nullptr);
+
+  void LoadData() override;
+
+  Card* Frame1;
+  SwitchDrawing* Picture4;
+  TextField* textSwFunc;
+  ListBox* lstSwFunc;  // never shown: the names of all functions, each at the place of its code
+
+ protected:
+  [[nodiscard]] std::int16_t Func(std::int16_t position) const override;
+  void Func(std::int16_t position, std::int16_t code) override;
+  [[nodiscard]] std::int16_t SwitchCount() const override;
+  void SetDefaults() override;
+  [[nodiscard]] QString FunctionText(std::int32_t code) const override;
+  void ShowSelected(int row) override;
+  void ShowChosen(const QString& text) override;
+
+ private:
+  void BuildLayout();
+  [[nodiscard]] QString DialText(std::int16_t code, const QString& otherwise) const;
+
+  clsDbSwitch& switches_;
+};
+
+}  // namespace mortane

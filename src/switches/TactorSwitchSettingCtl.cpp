@@ -1,0 +1,171 @@
+#include "switches/TactorSwitchSettingCtl.h"
+
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include "switches/SwitchPlans.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
+#include "widgets/ComboBox.h"
+#include "widgets/OptionGroup.h"
+#include "widgets/ReportList.h"
+#include "widgets/ShownName.h"
+#include "widgets/SwitchDrawing.h"
+#include "widgets/TabStrip.h"
+#include "widgets/TextField.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kPageA = 1;
+constexpr int kPageB = 2;
+constexpr int kStandard = 0;
+constexpr int kLeft = 1;
+
+bool IsOption(std::int16_t mode) {
+  return mode == 0 || mode == 1;
+}
+
+}  // namespace
+
+TactorSwitchSettingCtl::TactorSwitchSettingCtl(clsControlTactor& tactor, const clsDbSwitch& body,
+                                               KnobModes knobs, TactorProgram program,
+                                               QWidget* parent)
+    : SwitchPage(QStringLiteral("Tactor Switch Setting"), HandControllerPlan(),
+                 KnobCheck(body, tactor, knobs, TactorSearch::Always, tactor.parent.prompts()),
+                 parent),
+      CommonDialog1{0, "XML File (*.xml)|*.xml", ".xml"},
+      tactor_(tactor),
+      program_(std::move(program)) {
+  BuildControls();
+  BuildLayout();
+  SetTabOrder();
+
+  connect(OptMode, &OptionGroup::selectionChanged, this, [this](int mode) { ClickMode(mode); });
+  connect(optHandle, &OptionGroup::selectionChanged, this, [this](int side) { ClickHandle(side); });
+  connect(optChg, &OptionGroup::selectionChanged, this, [this] { LoadData(); });
+  connect(ComboSWFunc, &ComboBox::selectionChanged, this, [this](int entry) {
+    ChoosePushFunction(ComboSWFunc->itemText(entry),
+                       static_cast<std::int16_t>(ComboSWFunc->data(entry).toInt()));
+  });
+  connect(btnNewFileOpen, &QPushButton::clicked, this,
+          [this] { TabSwitch->AppendTab(QStringLiteral("New File")); });
+  connect(btnReadFileOpen, &QPushButton::clicked, this, [this] { OpenFile(); });
+  connect(Command1, &QPushButton::clicked, this, [this] { SaveFile(); });
+}
+
+// The rows before the mode, as the mode's option runs all of this again when it is a new one.
+void TactorSwitchSettingCtl::LoadData() {
+  LoadRows();
+  FillFunctions();
+  ComboSWFunc->clearRows();
+  for (const SwitchFunction& function : AllSwitchFunctions()) {
+    ComboSWFunc->addRow(ToQString(function.name), static_cast<int>(function.code));
+  }
+  TabSwitch->SetTabs({QStringLiteral("Setting")});
+  LoadMode();
+  LoadHandle();
+  for (int row = 0; row < ListView1->rowCount(); ++row) ShowFunction(row, TextOf(row));
+  SelectChosen();
+}
+
+// In standard mode page B offers the dial alone. Without a mode the names stay those of the page
+// before.
+void TactorSwitchSettingCtl::LoadRows() {
+  const bool pageB = optChg->selected() == kPageB;
+  const int mode = OptMode->selected();
+  const bool keepsNames = pageB && mode < 0;
+  const int offered = pageB && mode == kStandard ? 1 : optBtn->count();
+  const TactorPage& page = kTactorPages[pageB ? 1 : 0];
+  std::vector<SwitchRow> rows;
+  for (int i = 0; i < optBtn->count(); ++i) {
+    const TactorRow& row = page[static_cast<std::size_t>(i)];
+    const bool dial = row.kind == SwitchKind::Dial;
+    const auto last = static_cast<std::int16_t>(row.position + (dial ? 1 : 0));
+    rows.push_back({keepsNames ? rowAt(i).name : row.name, row.kind, row.position, last});
+    optBtn->mark(i)->setEnabled(i < offered);
+    optBtn->SetMarkName(i, ToQString(row.name));
+  }
+  rows.resize(static_cast<std::size_t>(offered));
+  SetRows(std::move(rows));
+}
+
+QString TactorSwitchSettingCtl::TextOf(int row) const {
+  const std::int16_t held = Func(rowAt(row).position);
+  const std::int16_t code = held == -1 ? switchfunction::kNone : held;
+  return rowAt(row).kind == SwitchKind::Dial ? ToQString(FunctionName(DialFunctions(), code))
+                                             : FunctionText(code);
+}
+
+void TactorSwitchSettingCtl::LoadMode() {
+  const bool known = IsOption(tactor_.ControlMode);
+  frmMode->setEnabled(known);
+  if (known) OptMode->select(tactor_.ControlMode);
+}
+
+void TactorSwitchSettingCtl::LoadHandle() {
+  const bool usable = program_.hasStage() && IsOption(tactor_.HandleMode);
+  frmHandle->setEnabled(usable);
+  for (int i = 0; i < optHandle->count(); ++i) optHandle->button(i)->setEnabled(usable);
+  if (usable) optHandle->select(tactor_.HandleMode);
+  optBtn->SetMirrored(tactor_.HandleMode == kLeft);
+}
+
+void TactorSwitchSettingCtl::ClickMode(int mode) {
+  tactor_.ControlMode = static_cast<std::int16_t>(mode);
+  LoadData();
+}
+
+void TactorSwitchSettingCtl::ClickHandle(int side) {
+  tactor_.HandleMode = static_cast<std::int16_t>(side);
+  optBtn->SetMirrored(side == kLeft);
+}
+
+void TactorSwitchSettingCtl::SetDefaults() {
+  std::int16_t position = 0;
+  for (const std::int16_t code : TactorDefaults(tactor_.parent.curType)) Func(++position, code);
+  {
+    const QSignalBlocker quiet(OptMode);
+    OptMode->select(kStandard);
+  }
+  ClickMode(kStandard);
+  RunKnobCheck();
+}
+
+void TactorSwitchSettingCtl::OpenFile() {
+  CommonDialog1.flags = kFileOpenFlags;
+  const std::string name = tactor_.parent.prompts().AskFileToOpen(CommonDialog1);
+  if (name.empty()) return;
+  program_.readFile(name);
+  LoadData();
+}
+
+void TactorSwitchSettingCtl::SaveFile() {
+  SaveData();
+  CommonDialog1.flags = kFileSaveFlags;
+  const std::string name = tactor_.parent.prompts().AskFileToSave(CommonDialog1);
+  if (!name.empty()) program_.writeFile(name);
+  tactor_.parent.prompts().FlushInput();
+}
+
+std::int16_t TactorSwitchSettingCtl::Func(std::int16_t position) const {
+  return tactor_.Func(position);
+}
+
+void TactorSwitchSettingCtl::Func(std::int16_t position, std::int16_t code) {
+  tactor_.Func(position, code);
+}
+
+std::int16_t TactorSwitchSettingCtl::SwitchCount() const {
+  return clsControlTactor::SwitchCount;
+}
+
+QString TactorSwitchSettingCtl::FunctionText(std::int32_t code) const {
+  return ComboSWFunc->itemText(code);
+}
+
+void TactorSwitchSettingCtl::ShowSelected(int row) {
+  textSW->setText(row < 0 ? QString() : ToQString(rowAt(row).name));
+}
+
+}  // namespace mortane
