@@ -18,47 +18,48 @@ namespace {
 
 constexpr int kFunctionColumn = 1;
 
-void Fill(ComboBox& combo, const SwitchFunctionList& functions) {
-  combo.clearRows();
-  for (const SwitchFunction& function : functions) {
-    combo.addRow(ToQString(function.name), static_cast<int>(function.code));
-  }
-}
-
 }  // namespace
 
-SwitchPage::SwitchPage(const QString& caption, const SwitchPlan& plan, KnobCheck knobCheck,
-                       QWidget* parent)
-    : CardPage(caption, parent),
-      optBtn(new SwitchDrawing(plan, "optBtn", FrameBase)),
-      ListView1(
-          Named(new ReportList({QStringLiteral("Switch"), QStringLiteral("Function")}, FrameBase),
-                "ListView1")),
-      ComboCWCCW(Named(new ComboBox(FrameBase), "ComboCWCCW")),
-      ComboFunction(Named(new ComboBox(FrameBase), "ComboFunction")),
-      cmdDefault(Named(new QPushButton(QStringLiteral("Default"), FrameBase), "cmdDefault")),
-      cmdAllClear(Named(new QPushButton(QStringLiteral("All Clear"), FrameBase), "cmdAllClear")),
-      knobCheck_(knobCheck) {
+SwitchPage::SwitchPage(const QString& caption, KnobCheck knobCheck, QWidget* parent)
+    : CardPage(caption, parent), knobCheck_(knobCheck) {}
+
+void SwitchPage::MakeDrawing(const SwitchPlan& plan) {
+  optBtn = new SwitchDrawing(plan, "optBtn", FrameBase);
+  connect(optBtn, &SwitchDrawing::chosen, this, [this](int index) { Select(index); });
+}
+
+void SwitchPage::MakeLists() {
+  ListView1 =
+      Named(new ReportList({QStringLiteral("Switch"), QStringLiteral("Function")}, FrameBase),
+            "ListView1");
   ListView1->setIconSize({kMarkIconSide, kMarkIconSide});
   ListView1->setAccessibleName(QStringLiteral("Switch"));
+  connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { Select(row); });
+
+  ComboCWCCW = Named(new ComboBox(FrameBase), "ComboCWCCW");
+  ComboFunction = Named(new ComboBox(FrameBase), "ComboFunction");
+  ComboFunction->hide();
   for (ComboBox* combo : {ComboCWCCW, ComboFunction}) {
     combo->setAccessibleName(QStringLiteral("Function"));
   }
-  ComboFunction->hide();
-  for (QPushButton* button : {cmdDefault, cmdAllClear}) TakeFocusByClicks(*button);
-
-  connect(optBtn, &SwitchDrawing::chosen, this, [this](int index) { Select(index); });
-  connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { Select(row); });
   connect(ComboCWCCW, &ComboBox::selectionChanged, this, [this](int entry) {
-    ChooseDialFunction(ComboCWCCW->itemText(entry),
-                       static_cast<std::int16_t>(ComboCWCCW->data(entry).toInt()));
+    ChooseDialFunction(ComboCWCCW->itemText(entry), EntryCode(*ComboCWCCW, entry));
   });
   connect(ComboFunction, &ComboBox::selectionChanged, this, [this](int entry) {
-    ChoosePushFunction(ComboFunction->itemText(entry),
-                       static_cast<std::int16_t>(ComboFunction->data(entry).toInt()));
+    ChoosePushFunction(ComboFunction->itemText(entry), EntryCode(*ComboFunction, entry));
   });
+}
+
+void SwitchPage::MakeButtons() {
+  cmdDefault = Named(new QPushButton(QStringLiteral("Default"), FrameBase), "cmdDefault");
+  cmdAllClear = Named(new QPushButton(QStringLiteral("All Clear"), FrameBase), "cmdAllClear");
+  for (QPushButton* button : {cmdDefault, cmdAllClear}) TakeFocusByClicks(*button);
   connect(cmdDefault, &QPushButton::clicked, this, [this] { SetDefaults(); });
   connect(cmdAllClear, &QPushButton::clicked, this, [this] { ClearAll(); });
+}
+
+std::int16_t SwitchPage::EntryCode(const ComboBox& combo, int entry) {
+  return static_cast<std::int16_t>(combo.data(entry).toInt());
 }
 
 QBoxLayout* SwitchPage::ComboRow() {
@@ -95,6 +96,13 @@ void SwitchPage::SetRows(std::vector<SwitchRow> rows) {
 
 const SwitchRow& SwitchPage::rowAt(int row) const {
   return rows_[static_cast<std::size_t>(row)];
+}
+
+void SwitchPage::Fill(ComboBox& combo, const SwitchFunctionList& functions) {
+  combo.clearRows();
+  for (const SwitchFunction& function : functions) {
+    combo.addRow(ToQString(function.name), static_cast<int>(function.code));
+  }
 }
 
 void SwitchPage::FillFunctions() {

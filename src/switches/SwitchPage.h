@@ -34,16 +34,21 @@ class SwitchPage : public CardPage {
   Q_OBJECT
 
  public:
-  SwitchDrawing* optBtn;
-  ReportList* ListView1;
+  SwitchDrawing* optBtn = nullptr;
+  ReportList* ListView1 = nullptr;
   // At one place, of which the chosen row shows one. They show the row's function if they have it.
-  ComboBox* ComboCWCCW;
-  ComboBox* ComboFunction;
-  QPushButton* cmdDefault;
-  QPushButton* cmdAllClear;
+  ComboBox* ComboCWCCW = nullptr;
+  ComboBox* ComboFunction = nullptr;
+  QPushButton* cmdDefault = nullptr;
+  QPushButton* cmdAllClear = nullptr;
 
  protected:
-  SwitchPage(const QString& caption, const SwitchPlan& plan, KnobCheck knobCheck, QWidget* parent);
+  SwitchPage(const QString& caption, KnobCheck knobCheck, QWidget* parent);
+
+  // The Tab key goes through the controls in the order in which a page makes them.
+  void MakeDrawing(const SwitchPlan& plan);
+  void MakeLists();
+  void MakeButtons();
 
   // Both combos side by side, of which one is shown.
   QBoxLayout* ComboRow();
@@ -54,6 +59,8 @@ class SwitchPage : public CardPage {
   void SetRows(std::vector<SwitchRow> rows);
   [[nodiscard]] const SwitchRow& rowAt(int row) const;
   void FillFunctions();
+  static void Fill(ComboBox& combo, const SwitchFunctionList& functions);
+  static std::int16_t EntryCode(const ComboBox& combo, int entry);
   // In the row and for its mark.
   void ShowFunction(int row, const QString& text);
   [[nodiscard]] QString ShownFunction(int row) const;  // empty without such a row

@@ -42,14 +42,17 @@ int ListWidth(const QFontMetrics& metrics) {
 SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor& tactor,
                                    KnobModes knobs, QWidget* parent)
     : SwitchPage(
-          QStringLiteral("K70 Switch Setting"), BodyPlan(),
+          QStringLiteral("K70 Switch Setting"),
           KnobCheck(switches, tactor, knobs, TactorSearch::IfPresent, switches.parent.prompts()),
           parent),
       Frame1(Named(FrameBase, "Frame1")),
-      Picture4(Named(optBtn, "Picture4")),
-      textSwFunc(ShownField("textSwFunc", "Function", FrameBase)),
-      lstSwFunc(Named(new ListBox(FrameBase), "lstSwFunc")),
       switches_(switches) {
+  MakeDrawing(BodyPlan());
+  Picture4 = Named(optBtn, "Picture4");
+  MakeLists();
+  textSwFunc = ShownField("textSwFunc", "Function", FrameBase);
+  MakeButtons();
+  lstSwFunc = Named(new ListBox(FrameBase), "lstSwFunc");
   lstSwFunc->hide();
   BuildLayout();
 }

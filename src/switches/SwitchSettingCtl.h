@@ -24,9 +24,10 @@ class SwitchSettingCtl : public SwitchPage {
   void LoadData() override;
 
   Card* Frame1;
-  SwitchDrawing* Picture4;
-  TextField* textSwFunc;
-  ListBox* lstSwFunc;  // never shown: the names of all functions, each at the place of its code
+  SwitchDrawing* Picture4 = nullptr;
+  TextField* textSwFunc = nullptr;
+  ListBox* lstSwFunc =
+      nullptr;  // never shown: the names of all functions, each at the place of its code
 
  protected:
   [[nodiscard]] std::int16_t Func(std::int16_t position) const override;

@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
-#include "switches/SwitchPlans.h"
 #include "switches/clsControlTactor.h"
 #include "switches/clsDbSwitch.h"
 #include "widgets/ComboBox.h"
@@ -31,7 +30,7 @@ bool IsOption(std::int16_t mode) {
 TactorSwitchSettingCtl::TactorSwitchSettingCtl(clsControlTactor& tactor, const clsDbSwitch& body,
                                                KnobModes knobs, TactorProgram program,
                                                QWidget* parent)
-    : SwitchPage(QStringLiteral("Tactor Switch Setting"), HandControllerPlan(),
+    : SwitchPage(QStringLiteral("Tactor Switch Setting"),
                  KnobCheck(body, tactor, knobs, TactorSearch::Always, tactor.parent.prompts()),
                  parent),
       CommonDialog1{0, "XML File (*.xml)|*.xml", ".xml"},
@@ -39,14 +38,12 @@ TactorSwitchSettingCtl::TactorSwitchSettingCtl(clsControlTactor& tactor, const c
       program_(std::move(program)) {
   BuildControls();
   BuildLayout();
-  SetTabOrder();
 
   connect(OptMode, &OptionGroup::selectionChanged, this, [this](int mode) { ClickMode(mode); });
   connect(optHandle, &OptionGroup::selectionChanged, this, [this](int side) { ClickHandle(side); });
   connect(optChg, &OptionGroup::selectionChanged, this, [this] { LoadData(); });
   connect(ComboSWFunc, &ComboBox::selectionChanged, this, [this](int entry) {
-    ChoosePushFunction(ComboSWFunc->itemText(entry),
-                       static_cast<std::int16_t>(ComboSWFunc->data(entry).toInt()));
+    ChoosePushFunction(ComboSWFunc->itemText(entry), EntryCode(*ComboSWFunc, entry));
   });
   connect(btnNewFileOpen, &QPushButton::clicked, this,
           [this] { TabSwitch->AppendTab(QStringLiteral("New File")); });
@@ -58,10 +55,7 @@ TactorSwitchSettingCtl::TactorSwitchSettingCtl(clsControlTactor& tactor, const c
 void TactorSwitchSettingCtl::LoadData() {
   LoadRows();
   FillFunctions();
-  ComboSWFunc->clearRows();
-  for (const SwitchFunction& function : AllSwitchFunctions()) {
-    ComboSWFunc->addRow(ToQString(function.name), static_cast<int>(function.code));
-  }
+  Fill(*ComboSWFunc, AllSwitchFunctions());
   TabSwitch->SetTabs({QStringLiteral("Setting")});
   LoadMode();
   LoadHandle();

@@ -66,7 +66,7 @@ class TactorSwitchSettingCtl : public SwitchPage {
  private:
   void BuildControls();
   void BuildLayout();
-  void SetTabOrder();
+  void BuildPageOptions();
   void LoadRows();
   [[nodiscard]] QString TextOf(int row) const;
   void LoadMode();

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "switches/SwitchPlans.h"
 #include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
@@ -53,6 +54,7 @@ InnerFrame* OptionFrame(const char* caption, const char* name, const char* optio
 
 }  // namespace
 
+// In the order of the Tab key: from left to right and downwards.
 void TactorSwitchSettingCtl::BuildControls() {
   frmSetup = Named(new QWidget(FrameBase), "frmSetup");
   TabSwitch = Named(new TabStrip(frmSetup), "TabSwitch");
@@ -60,24 +62,32 @@ void TactorSwitchSettingCtl::BuildControls() {
   btnNewFileOpen = FileButton(IconName::NewSheet, "New File", "btnNewFileOpen", frmSetup);
   btnReadFileOpen = FileButton(IconName::Open, "Open", "btnReadFileOpen", frmSetup);
   Command1 = FileButton(IconName::Save, "Save", "Command1", frmSetup);
+  MakeDrawing(HandControllerPlan());
+  optBtn->setObjectName("handController");
   OptMode = new OptionGroup(this);
   frmMode = OptionFrame("Mode", "frmMode", "OptMode",
                         {QStringLiteral("Standard"), QStringLiteral("Extend")}, *OptMode, frmSetup);
   optHandle = new OptionGroup(this);
   frmHandle = OptionFrame("XY Knob", "frmHandle", "optHandle",
                           {QStringLiteral("Right"), QStringLiteral("Left")}, *optHandle, frmSetup);
-  optChg = new OptionGroup(this);
-  for (const int page : {1, 2}) {
-    const QString caption = page == 1 ? QStringLiteral("A") : QStringLiteral("B");
-    auto* option = Named(new SectionOption(caption, frmSetup, ChosenLook::Blue), "optChg", page);
-    option->SetEnds(page == 1, page == 2);
-    optChg->add(option, page);
-  }
-  optChg->select(1);
+  BuildPageOptions();
+  MakeButtons();
+  MakeLists();
   textSW = ShownField("textSW", "Switch", frmSetup);
   ComboSWFunc = Named(new ComboBox(frmSetup), "ComboSWFunc");
   ComboSWFunc->hide();
-  optBtn->setObjectName("handController");
+}
+
+void TactorSwitchSettingCtl::BuildPageOptions() {
+  optChg = new OptionGroup(this);
+  const QStringList captions{QStringLiteral("A"), QStringLiteral("B")};
+  for (int i = 0; i < captions.size(); ++i) {
+    auto* option =
+        Named(new SectionOption(captions[i], frmSetup, ChosenLook::Blue), "optChg", i + 1);
+    option->SetEnds(i == 0, i + 1 == captions.size());
+    optChg->add(option, i + 1);
+  }
+  optChg->select(1);
 }
 
 void TactorSwitchSettingCtl::BuildLayout() {
@@ -117,24 +127,6 @@ void TactorSwitchSettingCtl::BuildLayout() {
   body->setColumnStretch(1, 1);
   body->setRowStretch(1, 1);
   FrameBase->body()->addWidget(frmSetup, 1);
-}
-
-// From left to right and downwards.
-void TactorSwitchSettingCtl::SetTabOrder() {
-  std::vector<QWidget*> order{TabSwitch, btnNewFileOpen, btnReadFileOpen, Command1};
-  const auto append = [&order](const OptionGroup& group, int first) {
-    for (int i = 0; i < group.count(); ++i) order.push_back(group.button(first + i));
-  };
-  optBtn->AppendTo(order);
-  append(*OptMode, 0);
-  append(*optHandle, 0);
-  append(*optChg, 1);
-  for (QWidget* control : {static_cast<QWidget*>(cmdDefault), static_cast<QWidget*>(cmdAllClear),
-                           static_cast<QWidget*>(ListView1), static_cast<QWidget*>(ComboCWCCW),
-                           static_cast<QWidget*>(ComboFunction)}) {
-    order.push_back(control);
-  }
-  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 }  // namespace mortane

@@ -57,10 +57,6 @@ QAbstractButton* SwitchDrawing::mark(int index) const {
   return buttonOf(index);
 }
 
-void SwitchDrawing::AppendTo(std::vector<QWidget*>& tabOrder) const {
-  tabOrder.insert(tabOrder.end(), buttons_.begin(), buttons_.end());
-}
-
 void SwitchDrawing::SetMarkName(int index, const QString& name) {
   buttonOf(index)->setAccessibleName(name);
   QStringList names;

@@ -47,8 +47,6 @@ class SwitchDrawing : public QWidget {
 
   [[nodiscard]] int count() const { return static_cast<int>(plan_.marks.size()); }
   [[nodiscard]] QAbstractButton* mark(int index) const;
-  // In the order in which the keys go through them.
-  void AppendTo(std::vector<QWidget*>& tabOrder) const;
   // What the mark tells a screen reader.
   void SetMarkName(int index, const QString& name);
   [[nodiscard]] QIcon markIcon(int index) const;

@@ -1,13 +1,14 @@
-// The pages of the switches over the units of a model.
+// The pages of the switches over the units of a model, and what they show.
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "hub/clsK70.h"
-#include "support/ScriptedJoystick.h"
 #include "switches/JoypadSwitchSettingCtl.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
+#include "widgets/ReportList.h"
 
 namespace mortane::test {
 
@@ -25,6 +26,26 @@ inline TactorSwitchSettingCtl* MakeTactorSwitchSettingCtl(clsK70& k70) {
       {[&k70] { return k70.CXYDrive.IsEnable(); },
        [&k70](const std::string& path) { k70.Tactor_ReadXML(path); },
        [&k70](const std::string& path) { k70.Tactor_WriteXML(path); }});
+}
+
+inline std::vector<std::string> Column(const ReportList& list, int column) {
+  std::vector<std::string> cells;
+  for (int row = 0; row < list.rowCount(); ++row) {
+    cells.push_back(list.cell(row, column).toStdString());
+  }
+  return cells;
+}
+
+template <typename Unit>
+std::vector<int> CodesOf(const Unit& unit) {
+  std::vector<int> codes;
+  for (std::int16_t i = 1; i <= Unit::SwitchCount; ++i) codes.push_back(unit.Func(i));
+  return codes;
+}
+
+template <typename Unit>
+void SetCodes(Unit& unit, std::int16_t code) {
+  for (std::int16_t i = 1; i <= Unit::SwitchCount; ++i) unit.Func(i, code);
 }
 
 }  // namespace mortane::test

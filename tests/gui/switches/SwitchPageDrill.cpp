@@ -1,0 +1,167 @@
+// The drill of the pages of the switches.
+#include "gui/support/PageActs.h"
+#include "gui/support/PageDrill.h"
+#include "gui/switches/SwitchPages.h"
+#include "support/ScriptedJoystick.h"
+#include "support/TempFolder.h"
+
+namespace mortane::test {
+namespace {
+
+std::string Numbered(const char* array, int index) {
+  return std::string(array) + "_" + std::to_string(index);
+}
+
+std::function<std::string(clsK70&)> BodyCode(std::int16_t position) {
+  return [=](clsK70& k70) { return std::to_string(k70.curSwitch.Func(position)); };
+}
+
+std::function<void(clsK70&)> PutBodyCode(std::int16_t position, std::int16_t code) {
+  return [=](clsK70& k70) { k70.curSwitch.Func(position, code); };
+}
+
+std::function<std::string(clsK70&)> HandCode(std::int16_t position) {
+  return [=](clsK70& k70) { return std::to_string(k70.curTactor.Func(position)); };
+}
+
+std::function<void(clsK70&)> PutHandCode(std::int16_t position, std::int16_t code) {
+  return [=](clsK70& k70) { k70.curTactor.Func(position, code); };
+}
+
+// Boxes about knobs have tests of their own.
+std::function<void(PageRig&)> SelectRow(int row) {
+  return [row](PageRig& rig) {
+    rig.prompts.AcceptAnyBox();
+    ClickRow(rig.Find<ListBox>("ListView1"), row);
+  };
+}
+
+PageDrillData Body() {
+  PageDrillData data;
+  data.name = "Body";
+  data.bench = "Harbour";
+  data.make = MakeSwitchSettingCtl;
+  data.prepare = SelectRow(5);
+  data.controls = {{"Frame1", "K70 Switch Setting"},
+                   {"Picture4", ""},
+                   {"ListView1", "Switch"},
+                   {"textSwFunc", "Function"},
+                   {"ComboCWCCW", "Function"},
+                   {"ComboFunction", "Function"},
+                   {"lstSwFunc", ""},
+                   {"cmdDefault", "Default"},
+                   {"cmdAllClear", "All Clear"}};
+  for (int row = 1; row <= 10; ++row) {
+    const int number = row <= 4 ? row : row - 4;
+    data.controls.push_back({Numbered("optBtn", row), std::to_string(number)});
+  }
+  data.shown = {
+      {"ListView1", PutBodyCode(6, 41), BodyCode(6), "SW_2\tDIC <-> Brightfield"},
+      {"ListView1", PutBodyCode(6, 28), BodyCode(6), "SW_2\tImage Capture "},
+      {"textSwFunc", PutBodyCode(6, 35), BodyCode(6), "Optional Observation 1"},
+      {"textSwFunc", PutBodyCode(6, 52), BodyCode(6), ""},
+      {"ComboFunction", PutBodyCode(6, 4), BodyCode(6), "Z Escape"},
+      {"optBtn_6", PutBodyCode(6, 4), BodyCode(6), "on"},
+  };
+  data.edits = {{"ComboFunction", "Z Escape", BodyCode(6), "4"},
+                {"ComboFunction", "Image Capture ", BodyCode(6), "28"},
+                {"cmdAllClear", "All Clear", BodyCode(16), "0"}};
+  data.tabOrder = {"optBtn_6", "ListView1", "ComboFunction", "cmdDefault", "cmdAllClear"};
+  return data;
+}
+
+std::function<void(Bench&)> PutMode(const char* mode) {
+  return [=](Bench& bench) { bench.instruments.back().handSwitches[0] = mode; };
+}
+
+std::function<void(Bench&)> PutSide(std::int16_t side) {
+  return [=](Bench& bench) { bench.instruments.back().xyDrive.handleMode = side; };
+}
+
+PageDrillData Tactor() {
+  PageDrillData data;
+  data.name = "Tactor";
+  data.bench = "Harbour";
+  data.make = MakeTactorSwitchSettingCtl;
+  data.prepare = SelectRow(1);
+  data.controls = {{"FrameBase", "Tactor Switch Setting"},
+                   {"frmSetup", ""},
+                   {"TabSwitch", "Setting"},
+                   {"frmMode", "Mode"},
+                   {"OptMode_0", "Standard"},
+                   {"OptMode_1", "Extend"},
+                   {"frmHandle", "XY Knob"},
+                   {"optHandle_0", "Right"},
+                   {"optHandle_1", "Left"},
+                   {"optChg_1", "A"},
+                   {"optChg_2", "B"},
+                   {"ListView1", "Switch"},
+                   {"textSW", "Switch"},
+                   {"ComboCWCCW", "Function"},
+                   {"ComboFunction", "Function"},
+                   {"ComboSWFunc", ""},
+                   {"cmdDefault", "Default"},
+                   {"cmdAllClear", "All Clear"},
+                   {"btnNewFileOpen", ""},
+                   {"btnReadFileOpen", ""},
+                   {"Command1", ""}};
+  for (int row = 1; row <= 6; ++row) {
+    const char* const glyphs[] = {"CW/CCW", "L", "R", "1", "2", "3"};
+    data.controls.push_back({Numbered("optBtn", row), glyphs[row - 1]});
+  }
+  data.shown = {
+      {"ListView1", PutHandCode(3, 41), HandCode(3), "L (A)\tDIC <-> Brightfield"},
+      {"ListView1", PutHandCode(3, 52), HandCode(3), "L (A)\t"},
+      {"textSW", PutHandCode(3, 4), HandCode(3), "L (A)"},
+      {"OptMode_1", [](clsK70& k70) { k70.curTactor.ControlMode = 1; },
+       [](clsK70& k70) { return std::to_string(k70.curTactor.ControlMode); }, "on"},
+      {"optHandle_1", [](clsK70& k70) { k70.curTactor.HandleMode = 1; },
+       [](clsK70& k70) { return std::to_string(k70.curTactor.HandleMode); }, "on"},
+  };
+  data.edits = {
+      {"ComboFunction", "Z Escape", HandCode(3), "4"},
+      {"cmdAllClear", "All Clear", HandCode(9), "0"},
+      {"OptMode_1", "Extend", [](clsK70& k70) { return std::to_string(k70.curTactor.ControlMode); },
+       "1"},
+      {"optHandle_1", "Left", [](clsK70& k70) { return std::to_string(k70.curTactor.HandleMode); },
+       "1"},
+  };
+  data.enabling = {{"frmHandle", "Harbour", {}, true},
+                   {"frmHandle", "Hub", {}, false},
+                   {"frmMode", "Harbour", {}, true},
+                   {"frmMode", "Harbour", PutMode("2"), false},
+                   {"frmHandle", "Harbour", PutSide(3), false},
+                   {"optHandle_0", "Hub", {}, false},
+                   {"optBtn_2", "Hub", {}, true}};
+  data.tabOrder = {"TabSwitch",  "btnNewFileOpen", "btnReadFileOpen", "Command1",
+                   "optBtn_2",   "OptMode_0",      "optHandle_0",     "optChg_1",
+                   "cmdDefault", "cmdAllClear",    "ListView1",       "ComboFunction"};
+  return data;
+}
+
+// Both must outlive the page.
+JoypadSwitchSettingCtl* MakeJoypadSwitchSettingCtl(clsK70&) {
+  static const TempFolder folder;
+  static ScriptedJoystick joystick;
+  return new JoypadSwitchSettingCtl(joystick, folder.Path(""));
+}
+
+PageDrillData Joypad() {
+  PageDrillData data;
+  data.name = "Joypad";
+  data.bench = "Harbour";
+  data.make = MakeJoypadSwitchSettingCtl;
+  data.controls = {{"Frame1", "Joypad Switch Settings"},
+                   {"textSwFunc", "Function"},
+                   {"ListView1", "Button"},
+                   {"lstSwFunc", "Function"},
+                   {"cmdAllClear", "All Clear"}};
+  data.tabOrder = {"ListView1", "lstSwFunc", "cmdAllClear"};
+  return data;
+}
+
+INSTANTIATE_TEST_SUITE_P(Switches, PageDrill, testing::Values(Body(), Tactor(), Joypad()),
+                         PageDrillName);
+
+}  // namespace
+}  // namespace mortane::test
