@@ -3,7 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "switches/SwitchPlans.h"
+#include "switches/SwitchCtlPlans.h"
 #include "switches/clsControlTactor.h"
 #include "switches/clsDbSwitch.h"
 #include "widgets/Card.h"
@@ -41,7 +41,7 @@ int ListWidth(const QFontMetrics& metrics) {
 
 SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor& tactor,
                                    KnobModes knobs, QWidget* parent)
-    : SwitchPage(
+    : SwitchRowsCtl(
           QStringLiteral("K70 Switch Setting"),
           KnobCheck(switches, tactor, knobs, TactorSearch::IfPresent, switches.parent.prompts()),
           parent),

@@ -1,7 +1,7 @@
 // The sub-page that gives functions to the dials and push switches of the body.
 #pragma once
 
-#include "switches/SwitchPage.h"
+#include "switches/SwitchRowsCtl.h"
 
 namespace mortane {
 
@@ -13,7 +13,7 @@ class clsDbSwitch;
 
 // A dial code that begins no pair shows the function of the row above. Loading changes nothing in
 // the model.
-class SwitchSettingCtl : public SwitchPage {
+class SwitchSettingCtl : public SwitchRowsCtl {
   Q_OBJECT
 
  public:

@@ -30,9 +30,9 @@ bool IsOption(std::int16_t mode) {
 TactorSwitchSettingCtl::TactorSwitchSettingCtl(clsControlTactor& tactor, const clsDbSwitch& body,
                                                KnobModes knobs, TactorProgram program,
                                                QWidget* parent)
-    : SwitchPage(QStringLiteral("Tactor Switch Setting"),
-                 KnobCheck(body, tactor, knobs, TactorSearch::Always, tactor.parent.prompts()),
-                 parent),
+    : SwitchRowsCtl(QStringLiteral("Tactor Switch Setting"),
+                    KnobCheck(body, tactor, knobs, TactorSearch::Always, tactor.parent.prompts()),
+                    parent),
       CommonDialog1{0, "XML File (*.xml)|*.xml", ".xml"},
       tactor_(tactor),
       program_(std::move(program)) {

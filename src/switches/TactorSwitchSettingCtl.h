@@ -6,7 +6,7 @@
 #include <string>
 
 #include "common/Prompts.h"
-#include "switches/SwitchPage.h"
+#include "switches/SwitchRowsCtl.h"
 
 class QFrame;
 
@@ -29,7 +29,7 @@ struct TactorProgram {
 
 // Two pages of six switches each; in standard mode the second one has its dial alone. Loading
 // changes nothing in the model.
-class TactorSwitchSettingCtl : public SwitchPage {
+class TactorSwitchSettingCtl : public SwitchRowsCtl {
   Q_OBJECT
 
  public:

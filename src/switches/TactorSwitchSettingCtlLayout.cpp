@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "switches/SwitchPlans.h"
+#include "switches/SwitchCtlPlans.h"
 #include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"

@@ -147,10 +147,11 @@ void SwitchDrawing::paintEvent(QPaintEvent*) {
   if (ground_.isNull() || ground_.devicePixelRatio() != devicePixelRatioF()) PaintGround();
   QPainter painter(this);
   const QRectF area = DrawnArea();
+  // While the window as a whole is disabled the drawing stays as it is.
   if (!isEnabledTo(window())) painter.setOpacity(kDisabledOpacity);
   painter.drawPixmap(area.topLeft(), ground_);
   painter.setFont(CaptionFont());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.setPen(palette().color(QPalette::Active, QPalette::PlaceholderText));
   for (const DrawnText& text : plan_.texts) {
     QRectF room(QPointF(), kTextRoom);
     room.moveCenter(area.topLeft() + text.center * drawingScale());

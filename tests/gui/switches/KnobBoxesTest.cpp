@@ -46,7 +46,7 @@ void PrintTo(const KnobRow& row, std::ostream* stream) {
 }
 
 // Gives SW_6 or "3 (A)", whose codes are not those of the rows above, a function, or clicks.
-void Act(SwitchPage& page, int pushRow, const std::string& act) {
+void Act(SwitchRowsCtl& page, int pushRow, const std::string& act) {
   if (act == "All Clear") {
     ClickButton(*page.cmdAllClear);
   } else if (act == "Default") {
@@ -57,13 +57,13 @@ void Act(SwitchPage& page, int pushRow, const std::string& act) {
   }
 }
 
-void ExpectBoxes(const KnobRow& row, SwitchPage* (*make)(clsK70& k70), int pushRow) {
+void ExpectBoxes(const KnobRow& row, SwitchRowsCtl* (*make)(clsK70& k70), int pushRow) {
   PageRig rig(row.bench);
   SetCodes(rig.k70().curSwitch, 0);
   SetCodes(rig.k70().curTactor, 0);
   rig.k70().curSwitch.Func(16, row.codes.body);
   rig.k70().curTactor.Func(4, row.codes.hand);
-  SwitchPage& page = rig.Show(make(rig.k70()));
+  SwitchRowsCtl& page = rig.Show(make(rig.k70()));
   std::int32_t& focus = rig.k70().COther.curAutoZ;
   std::int32_t& stage = rig.k70().COther.curAutoXY;
   focus = row.modes.focus;
@@ -79,7 +79,7 @@ class BodyKnobs : public testing::TestWithParam<KnobRow> {};
 
 TEST_P(BodyKnobs, AreToldOfOnceEach) {
   ExpectBoxes(
-      GetParam(), [](clsK70& k70) -> SwitchPage* { return MakeSwitchSettingCtl(k70); }, 9);
+      GetParam(), [](clsK70& k70) -> SwitchRowsCtl* { return MakeSwitchSettingCtl(k70); }, 9);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -122,7 +122,7 @@ class TactorKnobs : public testing::TestWithParam<KnobRow> {};
 
 TEST_P(TactorKnobs, AreToldOfOnceEach) {
   ExpectBoxes(
-      GetParam(), [](clsK70& k70) -> SwitchPage* { return MakeTactorSwitchSettingCtl(k70); }, 5);
+      GetParam(), [](clsK70& k70) -> SwitchRowsCtl* { return MakeTactorSwitchSettingCtl(k70); }, 5);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -150,14 +150,14 @@ INSTANTIATE_TEST_SUITE_P(
 
 // A dial's function tells of no knob.
 TEST(KnobsAndDials, HaveNothingToDoWithEachOther) {
-  for (SwitchPage* (*make)(clsK70&) :
-       {+[](clsK70& k70) -> SwitchPage* { return MakeSwitchSettingCtl(k70); },
-        +[](clsK70& k70) -> SwitchPage* { return MakeTactorSwitchSettingCtl(k70); }}) {
+  for (SwitchRowsCtl* (*make)(clsK70&) :
+       {+[](clsK70& k70) -> SwitchRowsCtl* { return MakeSwitchSettingCtl(k70); },
+        +[](clsK70& k70) -> SwitchRowsCtl* { return MakeTactorSwitchSettingCtl(k70); }}) {
     PageRig rig("Harbour");
     SetCodes(rig.k70().curSwitch, 0);
     SetCodes(rig.k70().curTactor, 0);
     rig.k70().COther.curAutoZ = rig.k70().COther.curAutoXY = 0;
-    SwitchPage& page = rig.Show(make(rig.k70()));
+    SwitchRowsCtl& page = rig.Show(make(rig.k70()));
     ClickRow(*page.ListView1, 0);
     for (int entry = 0; entry < page.ComboCWCCW->count(); ++entry) {
       ChooseRow(*page.ComboCWCCW, entry);

@@ -1,4 +1,4 @@
-#include "switches/SwitchPage.h"
+#include "switches/SwitchRowsCtl.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -20,15 +20,15 @@ constexpr int kFunctionColumn = 1;
 
 }  // namespace
 
-SwitchPage::SwitchPage(const QString& caption, KnobCheck knobCheck, QWidget* parent)
+SwitchRowsCtl::SwitchRowsCtl(const QString& caption, KnobCheck knobCheck, QWidget* parent)
     : CardPage(caption, parent), knobCheck_(knobCheck) {}
 
-void SwitchPage::MakeDrawing(const SwitchPlan& plan) {
+void SwitchRowsCtl::MakeDrawing(const SwitchPlan& plan) {
   optBtn = new SwitchDrawing(plan, "optBtn", FrameBase);
   connect(optBtn, &SwitchDrawing::chosen, this, [this](int index) { Select(index); });
 }
 
-void SwitchPage::MakeLists() {
+void SwitchRowsCtl::MakeLists() {
   ListView1 =
       Named(new ReportList({QStringLiteral("Switch"), QStringLiteral("Function")}, FrameBase),
             "ListView1");
@@ -50,7 +50,7 @@ void SwitchPage::MakeLists() {
   });
 }
 
-void SwitchPage::MakeButtons() {
+void SwitchRowsCtl::MakeButtons() {
   cmdDefault = Named(new QPushButton(QStringLiteral("Default"), FrameBase), "cmdDefault");
   cmdAllClear = Named(new QPushButton(QStringLiteral("All Clear"), FrameBase), "cmdAllClear");
   for (QPushButton* button : {cmdDefault, cmdAllClear}) TakeFocusByClicks(*button);
@@ -58,18 +58,18 @@ void SwitchPage::MakeButtons() {
   connect(cmdAllClear, &QPushButton::clicked, this, [this] { ClearAll(); });
 }
 
-std::int16_t SwitchPage::EntryCode(const ComboBox& combo, int entry) {
+std::int16_t SwitchRowsCtl::EntryCode(const ComboBox& combo, int entry) {
   return static_cast<std::int16_t>(combo.data(entry).toInt());
 }
 
-QBoxLayout* SwitchPage::ComboRow() {
+QBoxLayout* SwitchRowsCtl::ComboRow() {
   auto* row = new QHBoxLayout;
   row->addWidget(ComboCWCCW);
   row->addWidget(ComboFunction);
   return row;
 }
 
-QBoxLayout* SwitchPage::ButtonRow() {
+QBoxLayout* SwitchRowsCtl::ButtonRow() {
   auto* row = new QHBoxLayout;
   row->setSpacing(grid::kBetweenControls);
   row->addWidget(cmdDefault);
@@ -77,14 +77,14 @@ QBoxLayout* SwitchPage::ButtonRow() {
   return row;
 }
 
-QWidget* SwitchPage::PictureFrame() {
+QWidget* SwitchRowsCtl::PictureFrame() {
   auto* frame = new InnerFrame({}, FrameBase);
   frame->body()->setContentsMargins(grid::kUnit, grid::kUnit, grid::kUnit, grid::kUnit);
   frame->body()->addWidget(optBtn);
   return frame;
 }
 
-void SwitchPage::SetRows(std::vector<SwitchRow> rows) {
+void SwitchRowsCtl::SetRows(std::vector<SwitchRow> rows) {
   rows_ = std::move(rows);
   ListView1->clearRows();
   for (const SwitchRow& row : rows_) {
@@ -94,36 +94,36 @@ void SwitchPage::SetRows(std::vector<SwitchRow> rows) {
   }
 }
 
-const SwitchRow& SwitchPage::rowAt(int row) const {
+const SwitchRow& SwitchRowsCtl::rowAt(int row) const {
   return rows_[static_cast<std::size_t>(row)];
 }
 
-void SwitchPage::Fill(ComboBox& combo, const SwitchFunctionList& functions) {
+void SwitchRowsCtl::Fill(ComboBox& combo, const SwitchFunctionList& functions) {
   combo.clearRows();
   for (const SwitchFunction& function : functions) {
     combo.addRow(ToQString(function.name), static_cast<int>(function.code));
   }
 }
 
-void SwitchPage::FillFunctions() {
+void SwitchRowsCtl::FillFunctions() {
   Fill(*ComboCWCCW, DialFunctions());
   Fill(*ComboFunction, PushFunctions());
 }
 
-void SwitchPage::ShowFunction(int row, const QString& text) {
+void SwitchRowsCtl::ShowFunction(int row, const QString& text) {
   ListView1->SetCell(row, kFunctionColumn, text);
   ShowNameOfMark(row);
 }
 
-QString SwitchPage::ShownFunction(int row) const {
+QString SwitchRowsCtl::ShownFunction(int row) const {
   return ListView1->cells(row).value(kFunctionColumn);
 }
 
-void SwitchPage::ShowNameOfMark(int row) {
+void SwitchRowsCtl::ShowNameOfMark(int row) {
   optBtn->SetMarkName(row, ListView1->cells(row).join(QStringLiteral(", ")));
 }
 
-void SwitchPage::Select(int row) {
+void SwitchRowsCtl::Select(int row) {
   {
     const QSignalBlocker quiet(ListView1);
     ListView1->setIndex(row);
@@ -137,7 +137,7 @@ void SwitchPage::Select(int row) {
   ShowSelected(row);
 }
 
-void SwitchPage::SelectChosen() {
+void SwitchRowsCtl::SelectChosen() {
   const int row = optBtn->index();
   if (row >= 0 && row < ListView1->rowCount()) {
     Select(row);
@@ -148,14 +148,14 @@ void SwitchPage::SelectChosen() {
 }
 
 // A choice goes on from the function that the row has.
-void SwitchPage::ShowInCombos(int row) {
+void SwitchRowsCtl::ShowInCombos(int row) {
   for (ComboBox* combo : {ComboCWCCW, ComboFunction}) {
     const QSignalBlocker quiet(combo);
     combo->setIndex(row < 0 ? -1 : combo->rowOf(static_cast<int>(Func(rowAt(row).position))));
   }
 }
 
-void SwitchPage::ChooseDialFunction(const QString& text, std::int16_t code) {
+void SwitchRowsCtl::ChooseDialFunction(const QString& text, std::int16_t code) {
   const int row = ListView1->index();
   if (row < 0) return;
   ShowChosen(text);
@@ -165,7 +165,7 @@ void SwitchPage::ChooseDialFunction(const QString& text, std::int16_t code) {
   ShowFunction(row, text);
 }
 
-void SwitchPage::ChoosePushFunction(const QString& text, std::int16_t code) {
+void SwitchRowsCtl::ChoosePushFunction(const QString& text, std::int16_t code) {
   const int row = ListView1->index();
   if (row < 0) return;
   ShowChosen(text);
@@ -175,7 +175,7 @@ void SwitchPage::ChoosePushFunction(const QString& text, std::int16_t code) {
   knobCheck_.Run();
 }
 
-void SwitchPage::ClearAll() {
+void SwitchRowsCtl::ClearAll() {
   for (std::int16_t i = 1; i <= SwitchCount(); ++i) Func(i, switchfunction::kNone);
   for (int row = 0; row < ListView1->rowCount(); ++row) {
     ShowFunction(row, FunctionText(Func(rowAt(row).position)));

@@ -30,7 +30,7 @@ struct SwitchRow {
 
 // A row and its mark are chosen together, by the person or the program. A choice in one of the two
 // lists of functions, again by either, reaches the unit at once.
-class SwitchPage : public CardPage {
+class SwitchRowsCtl : public CardPage {
   Q_OBJECT
 
  public:
@@ -43,7 +43,7 @@ class SwitchPage : public CardPage {
   QPushButton* cmdAllClear = nullptr;
 
  protected:
-  SwitchPage(const QString& caption, KnobCheck knobCheck, QWidget* parent);
+  SwitchRowsCtl(const QString& caption, KnobCheck knobCheck, QWidget* parent);
 
   // The Tab key goes through the controls in the order in which a page makes them.
   void MakeDrawing(const SwitchPlan& plan);

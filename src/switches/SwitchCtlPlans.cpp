@@ -1,4 +1,4 @@
-#include "switches/SwitchPlans.h"
+#include "switches/SwitchCtlPlans.h"
 
 namespace mortane {
 namespace {
