@@ -23,21 +23,27 @@ constexpr int kFunctionColumn = 1;
 SwitchRowsCtl::SwitchRowsCtl(const QString& caption, KnobCheck knobCheck, QWidget* parent)
     : CardPage(caption, parent), knobCheck_(knobCheck) {}
 
-void SwitchRowsCtl::MakeDrawing(const SwitchPlan& plan) {
-  optBtn = new SwitchDrawing(plan, "optBtn", FrameBase);
+void SwitchRowsCtl::MakeDrawing(const SwitchPlan& plan, QWidget* parent) {
+  auto* frame = new InnerFrame({}, parent);
+  pictureFrame_ = frame;
+  optBtn = new SwitchDrawing(plan, "optBtn", frame);
+  frame->body()->setContentsMargins(grid::kUnit, grid::kUnit, grid::kUnit, grid::kUnit);
+  frame->body()->addWidget(optBtn);
+  optBtn->setAccessibleName(QStringLiteral("Switch"));
   connect(optBtn, &SwitchDrawing::chosen, this, [this](int index) { Select(index); });
 }
 
-void SwitchRowsCtl::MakeLists() {
-  ListView1 =
-      Named(new ReportList({QStringLiteral("Switch"), QStringLiteral("Function")}, FrameBase),
-            "ListView1");
+void SwitchRowsCtl::MakeList(QWidget* parent) {
+  ListView1 = Named(new ReportList({QStringLiteral("Switch"), QStringLiteral("Function")}, parent),
+                    "ListView1");
   ListView1->setIconSize({kMarkIconSide, kMarkIconSide});
   ListView1->setAccessibleName(QStringLiteral("Switch"));
   connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { Select(row); });
+}
 
-  ComboCWCCW = Named(new ComboBox(FrameBase), "ComboCWCCW");
-  ComboFunction = Named(new ComboBox(FrameBase), "ComboFunction");
+void SwitchRowsCtl::MakeCombos(QWidget* parent) {
+  ComboCWCCW = Named(new ComboBox(parent), "ComboCWCCW");
+  ComboFunction = Named(new ComboBox(parent), "ComboFunction");
   ComboFunction->hide();
   for (ComboBox* combo : {ComboCWCCW, ComboFunction}) {
     combo->setAccessibleName(QStringLiteral("Function"));
@@ -50,9 +56,9 @@ void SwitchRowsCtl::MakeLists() {
   });
 }
 
-void SwitchRowsCtl::MakeButtons() {
-  cmdDefault = Named(new QPushButton(QStringLiteral("Default"), FrameBase), "cmdDefault");
-  cmdAllClear = Named(new QPushButton(QStringLiteral("All Clear"), FrameBase), "cmdAllClear");
+void SwitchRowsCtl::MakeButtons(QWidget* parent) {
+  cmdDefault = Named(new QPushButton(QStringLiteral("Default"), parent), "cmdDefault");
+  cmdAllClear = Named(new QPushButton(QStringLiteral("All Clear"), parent), "cmdAllClear");
   for (QPushButton* button : {cmdDefault, cmdAllClear}) TakeFocusByClicks(*button);
   connect(cmdDefault, &QPushButton::clicked, this, [this] { SetDefaults(); });
   connect(cmdAllClear, &QPushButton::clicked, this, [this] { ClearAll(); });
@@ -75,13 +81,6 @@ QBoxLayout* SwitchRowsCtl::ButtonRow() {
   row->addWidget(cmdDefault);
   row->addWidget(cmdAllClear);
   return row;
-}
-
-QWidget* SwitchRowsCtl::PictureFrame() {
-  auto* frame = new InnerFrame({}, FrameBase);
-  frame->body()->setContentsMargins(grid::kUnit, grid::kUnit, grid::kUnit, grid::kUnit);
-  frame->body()->addWidget(optBtn);
-  return frame;
 }
 
 void SwitchRowsCtl::SetRows(std::vector<SwitchRow> rows) {

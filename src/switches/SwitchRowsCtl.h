@@ -46,15 +46,15 @@ class SwitchRowsCtl : public CardPage {
   SwitchRowsCtl(const QString& caption, KnobCheck knobCheck, QWidget* parent);
 
   // The Tab key goes through the controls in the order in which a page makes them.
-  void MakeDrawing(const SwitchPlan& plan);
-  void MakeLists();
-  void MakeButtons();
+  void MakeDrawing(const SwitchPlan& plan, QWidget* parent);
+  void MakeList(QWidget* parent);
+  void MakeCombos(QWidget* parent);
+  void MakeButtons(QWidget* parent);
 
   // Both combos side by side, of which one is shown.
   QBoxLayout* ComboRow();
   QBoxLayout* ButtonRow();
-  // With the drawing inside.
-  QWidget* PictureFrame();
+  [[nodiscard]] QWidget* pictureFrame() const { return pictureFrame_; }
 
   void SetRows(std::vector<SwitchRow> rows);
   [[nodiscard]] const SwitchRow& rowAt(int row) const;
@@ -91,6 +91,7 @@ class SwitchRowsCtl : public CardPage {
   void ShowNameOfMark(int row);
 
   KnobCheck knobCheck_;
+  QWidget* pictureFrame_ = nullptr;
   std::vector<SwitchRow> rows_;
 };
 

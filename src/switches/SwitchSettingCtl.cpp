@@ -47,11 +47,12 @@ SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor
           parent),
       Frame1(Named(FrameBase, "Frame1")),
       switches_(switches) {
-  MakeDrawing(BodyPlan());
+  MakeDrawing(BodyPlan(), FrameBase);
   Picture4 = Named(optBtn, "Picture4");
-  MakeLists();
+  MakeList(FrameBase);
   textSwFunc = ShownField("textSwFunc", "Function", FrameBase);
-  MakeButtons();
+  MakeCombos(FrameBase);
+  MakeButtons(FrameBase);
   lstSwFunc = Named(new ListBox(FrameBase), "lstSwFunc");
   lstSwFunc->hide();
   BuildLayout();
@@ -61,7 +62,7 @@ void SwitchSettingCtl::BuildLayout() {
   ListView1->setMinimumWidth(ListWidth(ListView1->fontMetrics()));
   auto* upper = new QHBoxLayout;
   upper->setSpacing(grid::kBetweenColumns);
-  upper->addWidget(PictureFrame(), kDrawingShare);
+  upper->addWidget(pictureFrame(), kDrawingShare);
   upper->addWidget(ListView1, kListShare);
 
   auto* editor = new InnerFrame({}, FrameBase);

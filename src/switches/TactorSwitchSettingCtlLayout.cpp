@@ -62,7 +62,7 @@ void TactorSwitchSettingCtl::BuildControls() {
   btnNewFileOpen = FileButton(IconName::NewSheet, "New File", "btnNewFileOpen", frmSetup);
   btnReadFileOpen = FileButton(IconName::Open, "Open", "btnReadFileOpen", frmSetup);
   Command1 = FileButton(IconName::Save, "Save", "Command1", frmSetup);
-  MakeDrawing(HandControllerPlan());
+  MakeDrawing(HandControllerPlan(), frmSetup);
   optBtn->setObjectName("handController");
   OptMode = new OptionGroup(this);
   frmMode = OptionFrame("Mode", "frmMode", "OptMode",
@@ -71,9 +71,10 @@ void TactorSwitchSettingCtl::BuildControls() {
   frmHandle = OptionFrame("XY Knob", "frmHandle", "optHandle",
                           {QStringLiteral("Right"), QStringLiteral("Left")}, *optHandle, frmSetup);
   BuildPageOptions();
-  MakeButtons();
-  MakeLists();
+  MakeButtons(frmSetup);
+  MakeList(frmSetup);
   textSW = ShownField("textSW", "Switch", frmSetup);
+  MakeCombos(frmSetup);
   ComboSWFunc = Named(new ComboBox(frmSetup), "ComboSWFunc");
   ComboSWFunc->hide();
 }
@@ -84,6 +85,7 @@ void TactorSwitchSettingCtl::BuildPageOptions() {
   for (int i = 0; i < captions.size(); ++i) {
     auto* option =
         Named(new SectionOption(captions[i], frmSetup, ChosenLook::Blue), "optChg", i + 1);
+    option->setAccessibleName(captions[i]);
     option->SetEnds(i == 0, i + 1 == captions.size());
     optChg->add(option, i + 1);
   }
@@ -120,7 +122,7 @@ void TactorSwitchSettingCtl::BuildLayout() {
   body->setHorizontalSpacing(grid::kBetweenColumns);
   body->setVerticalSpacing(grid::kBetweenControls);
   body->addLayout(files, 0, 0, 1, 2);
-  body->addWidget(PictureFrame(), 1, 0);
+  body->addWidget(pictureFrame(), 1, 0);
   body->addLayout(options, 2, 0);
   body->addLayout(right, 1, 1, 2, 1);
   body->setColumnStretch(0, 1);

@@ -10,10 +10,12 @@
 #include "widgets/CheckToggle.h"
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
+#include "widgets/MarkButton.h"
 #include "widgets/MicroscopeDrawing.h"
 #include "widgets/PageButton.h"
 #include "widgets/Rail.h"
 #include "widgets/SectionBar.h"
+#include "widgets/SwitchDrawing.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TurretButton.h"
 #include "widgets/TurretDrawing.h"
@@ -36,9 +38,11 @@ constexpr std::array kMakers{
     &Make<SectionBar, AccessibleGroup>,
     &Make<Rail, AccessibleGroup>,
     &Make<TurretDrawing, AccessibleGroup>,
+    &Make<SwitchDrawing, AccessibleGroup>,
     &Make<QToolBar, AccessibleToolBar>,
     &Make<SectionOption, AccessibleOption>,
     &Make<TurretButton, AccessibleOption>,
+    &Make<MarkButton, AccessibleOption>,
     &Make<PageButton, AccessiblePageButton>,
     &Make<CheckToggle, AccessibleSwitch>,
     &Make<ValueLabel, AccessibleValue>,

@@ -28,6 +28,14 @@ std::function<void(clsK70&)> PutHandCode(std::int16_t position, std::int16_t cod
   return [=](clsK70& k70) { k70.curTactor.Func(position, code); };
 }
 
+AccessibleControl Button(std::string caption) {
+  return {QAccessible::Button, std::move(caption)};
+}
+
+AccessibleControl ShownIn(std::string name, std::string text) {
+  return {QAccessible::EditableText, std::move(name), std::move(text), "read only"};
+}
+
 // Boxes about knobs have tests of their own.
 std::function<void(PageRig&)> SelectRow(int row) {
   return [row](PageRig& rig) {
@@ -43,7 +51,7 @@ PageDrillData Body() {
   data.make = MakeSwitchSettingCtl;
   data.prepare = SelectRow(5);
   data.controls = {{"Frame1", "K70 Switch Setting"},
-                   {"Picture4", ""},
+                   {"Picture4", "Switch"},
                    {"ListView1", "Switch"},
                    {"textSwFunc", "Function"},
                    {"ComboCWCCW", "Function"},
@@ -66,6 +74,24 @@ PageDrillData Body() {
   data.edits = {{"ComboFunction", "Z Escape", BodyCode(6), "4"},
                 {"ComboFunction", "Image Capture ", BodyCode(6), "28"},
                 {"cmdAllClear", "All Clear", BodyCode(16), "0"}};
+  data.accessible = {told::Group("K70 Switch Setting"),
+                     told::Label("K70 Switch Setting"),
+                     told::Group("Switch"),
+                     told::NotChosen("SW_3, DIA Lamp Preset"),
+                     told::NotChosen("SW_4, LightPath Change"),
+                     told::NotChosen("CW/CCW_3, Filter Cube CW/CCW"),
+                     told::NotChosen("CW/CCW_1, DIA Aperture Stop OPEN/CLOSE"),
+                     told::NotChosen("SW_1, Z Focus Knob Speed Change"),
+                     told::Chosen("SW_2, Shutter OPEN/CLOSE"),
+                     told::NotChosen("CW/CCW_2, DIA Field Stop OPEN/CLOSE"),
+                     told::NotChosen("CW/CCW_4, Objective CW/CCW"),
+                     told::NotChosen("SW_5, Z Focus Knob Speed Change"),
+                     told::NotChosen("SW_6, Z Escape"),
+                     told::List("Switch", "Switch SW_2, Function Shutter OPEN/CLOSE"),
+                     ShownIn("Function", "Shutter OPEN/CLOSE"),
+                     told::Combo("Function", "Shutter OPEN/CLOSE"),
+                     Button("Default"),
+                     Button("All Clear")};
   data.tabOrder = {"optBtn_6", "ListView1", "ComboFunction", "cmdDefault", "cmdAllClear"};
   return data;
 }
@@ -87,10 +113,10 @@ PageDrillData Tactor() {
   data.controls = {{"FrameBase", "Tactor Switch Setting"},
                    {"frmSetup", ""},
                    {"TabSwitch", "Setting"},
-                   {"frmMode", "Mode"},
+                   {"frmMode", ""},
                    {"OptMode_0", "Standard"},
                    {"OptMode_1", "Extend"},
-                   {"frmHandle", "XY Knob"},
+                   {"frmHandle", ""},
                    {"optHandle_0", "Right"},
                    {"optHandle_1", "Left"},
                    {"optChg_1", "A"},
@@ -133,6 +159,34 @@ PageDrillData Tactor() {
                    {"frmHandle", "Harbour", PutSide(3), false},
                    {"optHandle_0", "Hub", {}, false},
                    {"optBtn_2", "Hub", {}, true}};
+  data.accessible = {told::Group("Tactor Switch Setting"),
+                     told::Label("Tactor Switch Setting"),
+                     told::Tabs("Setting", "Setting"),
+                     Button("New File"),
+                     Button("Open"),
+                     Button("Save"),
+                     told::Group("Switch"),
+                     told::NotChosen("CW/CCW(A), Objective CW/CCW"),
+                     told::Chosen("L (A), Z Focus Knob Speed Change"),
+                     told::NotChosen("R (A), XYstage Knob Speed Change"),
+                     told::NotChosen("1 (A), Z Escape"),
+                     told::NotChosen("2 (A), DIA Lamp ON/OFF"),
+                     told::NotChosen("3 (A), DIA Lamp Preset"),
+                     told::Group("Mode"),
+                     told::Label("Mode"),
+                     told::Chosen("Standard"),
+                     told::NotChosen("Extend"),
+                     told::Group("XY Knob"),
+                     told::Label("XY Knob"),
+                     told::Chosen("Right"),
+                     told::NotChosen("Left"),
+                     told::Chosen("A"),
+                     told::NotChosen("B"),
+                     Button("Default"),
+                     Button("All Clear"),
+                     told::List("Switch", "Switch L (A), Function Z Focus Knob Speed Change"),
+                     ShownIn("Switch", "L (A)"),
+                     told::Combo("Function", "Z Focus Knob Speed Change")};
   data.tabOrder = {"TabSwitch",  "btnNewFileOpen", "btnReadFileOpen", "Command1",
                    "optBtn_2",   "OptMode_0",      "optHandle_0",     "optChg_1",
                    "cmdDefault", "cmdAllClear",    "ListView1",       "ComboFunction"};
@@ -156,6 +210,12 @@ PageDrillData Joypad() {
                    {"ListView1", "Button"},
                    {"lstSwFunc", "Function"},
                    {"cmdAllClear", "All Clear"}};
+  data.accessible = {told::Group("Joypad Switch Settings"),
+                     told::Label("Joypad Switch Settings"),
+                     ShownIn("Function", ""),
+                     told::List("Button", ""),
+                     told::List("Function", ""),
+                     Button("All Clear")};
   data.tabOrder = {"ListView1", "lstSwFunc", "cmdAllClear"};
   return data;
 }
