@@ -53,6 +53,11 @@ QString InnerFrame::caption() const {
   return caption_ ? caption_->text() : QString();
 }
 
+void InnerFrame::SetCaption(const QString& caption) {
+  caption_->setText(caption);
+  setAccessibleName(caption);
+}
+
 void InnerFrame::paintEvent(QPaintEvent*) {
   DrawInnerFrame(*this);
 }

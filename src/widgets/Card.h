@@ -37,6 +37,8 @@ class InnerFrame : public QFrame {
 
   [[nodiscard]] QVBoxLayout* body() const { return body_; }
   [[nodiscard]] QString caption() const;
+  // Of a frame that was made with a caption.
+  void SetCaption(const QString& caption);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

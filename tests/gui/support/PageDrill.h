@@ -67,7 +67,7 @@ struct PageDrillData {
   std::vector<std::string> tabOrder;
   // All that a screen reader finds.
   std::vector<AccessibleControl> accessible;
-  // The box in which the page's loading shows that a call failed; none, when empty.
+  // How the box begins in which the page's loading shows that a call failed; none, when empty.
   std::string loadBox;
 };
 
