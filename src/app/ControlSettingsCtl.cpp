@@ -1,0 +1,102 @@
+#include "app/ControlSettingsCtl.h"
+
+#include <QShowEvent>
+#include <utility>
+#include <vector>
+
+#include "app/SwitchTabs.h"
+#include "hub/clsK70.h"
+#include "switches/GTJoy.h"
+#include "widgets/SectionBar.h"
+
+namespace mortane {
+namespace {
+
+using namespace controltab;
+
+struct TabRow {
+  const char* caption;
+  const char* name;  // of the sub-page
+};
+
+constexpr std::array<TabRow, kCount> kTabs{{
+    {"Focus Drive", "ControlFocusDriveCtl1"},
+    {"XY Stage", "ControlXYStageCtl1"},
+    {"Other", "ControlOtherCtl1"},
+    {"K70 Switch", "SwitchSettingCtl1"},
+    {"Tactor Switch", "ControlTactorSwitchCtl1"},
+    {"Joypad Switch", "JoypadSwitchSettingCtl1"},
+}};
+
+}  // namespace
+
+ControlSettingsCtl::ControlSettingsCtl(clsK70& k70, controller::ControllerLibrary& library,
+                                       Joystick& joystick, const ControlSubPages& pages,
+                                       QWidget* parent)
+    : ContainerPage(IconName::Control, QStringLiteral("Controls"), "optControl", parent,
+                    NotOffered::Hidden),
+      optControl(sections()),
+      ControlFocusDriveCtl1(pages[kFocusDrive].page),
+      ControlXYStageCtl1(pages[kXYStage].page),
+      ControlOtherCtl1(pages[kOther].page),
+      SwitchSettingCtl1(pages[kK70Switch].page),
+      ControlTactorSwitchCtl1(pages[kTactorSwitch].page),
+      JoypadSwitchSettingCtl1(pages[kJoypadSwitch].page),
+      k70_(k70),
+      joystick_(joystick),
+      fiber_(library),
+      setNosePosition_(pages[kFocusDrive].SetNosePosition) {
+  std::vector<Section> sections;
+  for (std::size_t i = 0; i < kTabs.size(); ++i) {
+    sections.push_back({QLatin1String(kTabs[i].caption), kTabs[i].name, pages[i].page,
+                        [this, i] { return tabs_[i]; }, pages[i].SetNosePosition});
+  }
+  SetSections(std::move(sections),
+              {kJoypadSwitch, kTactorSwitch, kK70Switch, kOther, kXYStage, kFocusDrive});
+  optControl->select(kFocusDrive);
+}
+
+void ControlSettingsCtl::LoadData() {
+  FindTabs();
+  ContainerPage::LoadData();
+}
+
+void ControlSettingsCtl::FindTabs() {
+  tabs_[kJoypadSwitch] = GetJoyStatus(joystick_) < 1;
+  tabs_[kFocusDrive] = k70_.CZDrive.IsEnable();
+  tabs_[kXYStage] = k70_.CXYDrive.IsEnable();
+  tabs_[kOther] = k70_.COther.IsEnable();
+  fiber_.Read(k70_.COther);
+  const SwitchTabs switches = FindSwitchTabs(k70_);
+  tabs_[kK70Switch] = switches.k70;
+  tabs_[kTactorSwitch] = switches.tactor;
+}
+
+void ControlSettingsCtl::SaveData() {
+  if (k70_.CZDrive.IsEnable()) ControlOtherCtl1->SaveData();
+  if (k70_.CXYDrive.IsEnable()) ControlXYStageCtl1->SaveData();
+  if (k70_.COther.IsEnable()) ControlFocusDriveCtl1->SaveData();
+}
+
+void ControlSettingsCtl::SetNosePostiton() {
+  setNosePosition_();
+}
+
+void ControlSettingsCtl::SendData() {
+  fiber_.Write(k70_.COther);
+}
+
+int ControlSettingsCtl::FirstSection() const {
+  for (int i = kXYStage; i < kCount; ++i) {
+    if (IsOffered(i)) return i;
+  }
+  return kFocusDrive;
+}
+
+// A window that comes back from the task bar shows the page as it was.
+void ControlSettingsCtl::showEvent(QShowEvent* event) {
+  ContainerPage::showEvent(event);
+  if (!event->spontaneous()) ControlFocusDriveCtl1->LoadData();
+}
+
+}  // namespace mortane
