@@ -30,8 +30,7 @@ constexpr std::array<TabRow, kCount> kTabs{{
 
 }  // namespace
 
-ControlSettingsCtl::ControlSettingsCtl(clsK70& k70, controller::ControllerLibrary& library,
-                                       Joystick& joystick, const ControlSubPages& pages,
+ControlSettingsCtl::ControlSettingsCtl(const FormServices& services, const ControlSubPages& pages,
                                        QWidget* parent)
     : ContainerPage(IconName::Control, QStringLiteral("Controls"), "optControl", parent,
                     NotOffered::Hidden),
@@ -42,9 +41,9 @@ ControlSettingsCtl::ControlSettingsCtl(clsK70& k70, controller::ControllerLibrar
       SwitchSettingCtl1(pages[kK70Switch].page),
       ControlTactorSwitchCtl1(pages[kTactorSwitch].page),
       JoypadSwitchSettingCtl1(pages[kJoypadSwitch].page),
-      k70_(k70),
-      joystick_(joystick),
-      fiber_(library),
+      k70_(services.k70),
+      joystick_(services.joystick),
+      fiber_(services.library),
       setNosePosition_(pages[kFocusDrive].SetNosePosition) {
   std::vector<Section> sections;
   for (std::size_t i = 0; i < kTabs.size(); ++i) {

@@ -4,40 +4,20 @@
 #include <array>
 #include <functional>
 
+#include "app/ControlSubPages.h"
+#include "app/FormServices.h"
 #include "drives/FiberRemoteLink.h"
 #include "widgets/ContainerPage.h"
 
 namespace mortane {
-
-class Joystick;
-class clsK70;
-
-// The tabs, from left to right.
-namespace controltab {
-inline constexpr int kFocusDrive = 0;
-inline constexpr int kXYStage = 1;
-inline constexpr int kOther = 2;
-inline constexpr int kK70Switch = 3;
-inline constexpr int kTactorSwitch = 4;
-inline constexpr int kJoypadSwitch = 5;
-inline constexpr int kCount = 6;
-}  // namespace controltab
-
-// A sub-page, and how it shows where the nosepiece stands. When its tab is clicked a page that can
-// does this; another one is loaded.
-struct ControlSubPage {
-  Page* page = nullptr;
-  std::function<void()> SetNosePosition = {};
-};
-using ControlSubPages = std::array<ControlSubPage, controltab::kCount>;
 
 // Opens on the lowest tab from "XY Stage" on that the microscope has, else on "Focus Drive", also
 // where there is nothing to show. Talks to the fiber illuminator's server as long as it lives.
 class ControlSettingsCtl : public ContainerPage {
  public:
   // Takes the sub-pages over.
-  ControlSettingsCtl(clsK70& k70, controller::ControllerLibrary& library, Joystick& joystick,
-                     const ControlSubPages& pages, QWidget* parent = nullptr);
+  ControlSettingsCtl(const FormServices& services, const ControlSubPages& pages,
+                     QWidget* parent = nullptr);
 
   void LoadData() override;
   // The focus drive decides whether the other controls are saved, and they whether it is.

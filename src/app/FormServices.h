@@ -11,6 +11,7 @@ namespace mortane {
 namespace controller {
 class ControllerLibrary;
 }
+class Joystick;
 class Prompts;
 class clsK70;
 
@@ -19,11 +20,14 @@ struct FormServices {
   clsK70& k70;
   controller::ControllerLibrary& library;
   Prompts& prompts;
+  Joystick& joystick;
   // The program's path, then the command line's arguments.
   std::vector<std::string> arguments;
   std::function<QTime()> now = [] { return QTime::currentTime(); };
   // Where the place of the window is remembered; empty: nowhere.
   std::string placeFile = {};
+  // The user's folder for the data of programs; empty: nothing is kept there.
+  std::string applicationData = {};
 };
 
 }  // namespace mortane

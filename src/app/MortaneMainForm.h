@@ -72,7 +72,7 @@ class MortaneMainForm : public ProgramForm {
   void BuildToolbar();
   void BuildRail();
   void BuildCommandBar();
-  void BuildPages(clsK70& k70);
+  void BuildPages(const FormServices& services);
   void StackPages();
   void Arrange();
 

@@ -49,7 +49,7 @@ MortaneMainForm::MortaneMainForm(const FormServices& services, const PageTable& 
   BuildToolbar();
   // The Tab key goes by the order of making: page buttons, page, command keys.
   BuildRail();
-  BuildPages(services.k70);
+  BuildPages(services);
   BuildCommandBar();
   Arrange();
   // A window that is activated without a focus gives it to the first field, which is then left.
@@ -144,10 +144,10 @@ void MortaneMainForm::BuildCommandBar() {
   ImageCommand[2]->setMain(true);
 }
 
-void MortaneMainForm::BuildPages(clsK70& k70) {
+void MortaneMainForm::BuildPages(const FormServices& services) {
   FrameControl = Named(new QFrame(this), "FrameControl");
   for (std::size_t i = 0; i < table_.size(); ++i) {
-    if (table_[i].make) pages_[i] = table_[i].make(*this, k70);
+    if (table_[i].make) pages_[i] = table_[i].make(*this, services);
   }
 }
 

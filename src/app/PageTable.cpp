@@ -25,12 +25,14 @@ bool IsFitted(const clsK70& k70, std::int32_t accessory) {
 PageTable MainPages() {
   return {{
       {"System", IconName::System,
-       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+       [](MortaneMainForm& form, const FormServices& services) -> Page* {
+         clsK70& k70 = services.k70;
          return form.SystemSettingsCtl1 =
                     Named(new SystemSettingsCtl(k70, form.FrameControl), "SystemSettingsCtl1");
        }},
       {"Objectives", IconName::Objective,
-       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+       [](MortaneMainForm& form, const FormServices& services) -> Page* {
+         clsK70& k70 = services.k70;
          return form.ObjectiveSettingsCtl1 =
                     Named(new ObjectiveSettingsCtl(k70.curNosepiece, k70.DbNosepiece, k70.curLimit,
                                                    form.FrameControl),
@@ -39,7 +41,8 @@ PageTable MainPages() {
        [](const clsK70& k70) { return IsFitted(k70, accessory::kNosepiece); },
        "No nosepiece is mounted."},
       {"Filter Cubes", IconName::Cube,
-       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+       [](MortaneMainForm& form, const FormServices& services) -> Page* {
+         clsK70& k70 = services.k70;
          const FilterItemLists items{k70.Exciter, k70.Dichroic, k70.Barrier};
          return form.FilterQubeSettingsCtl1 =
                     Named(new FilterQubeSettingsCtl(k70.curFilter, k70.dbFilter, items,
@@ -49,7 +52,8 @@ PageTable MainPages() {
        [](const clsK70& k70) { return IsFitted(k70, accessory::kFilterCube); },
        "No filter cube turret is mounted."},
       {"Condensers", IconName::Condenser,
-       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+       [](MortaneMainForm& form, const FormServices& services) -> Page* {
+         clsK70& k70 = services.k70;
          return form.CondenserSettingsCtl1 =
                     Named(new CondenserSettingsCtl(k70.curCondenser, k70.dbcon, form.FrameControl),
                           "CondenserSettingsCtl1");

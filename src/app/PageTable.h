@@ -11,6 +11,7 @@ namespace mortane {
 
 class MortaneMainForm;
 class Page;
+struct FormServices;
 class clsK70;
 
 // A page joins the window by its row; one without `make` has its button, disabled.
@@ -18,7 +19,7 @@ struct PageRow {
   QString title;
   IconName icon;
   // The new page, a child of the window's frame of pages.
-  std::function<Page*(MortaneMainForm&, clsK70&)> make = {};
+  std::function<Page*(MortaneMainForm&, const FormServices&)> make = {};
   // Whether the connected microscope has something for the page to show; always, where there is no
   // rule.
   std::function<bool(const clsK70&)> isEnabled = {};

@@ -15,7 +15,9 @@
 #include "common/Numbers.h"
 #include "hub/clsK70.h"
 #include "platform/CommandLine.h"
+#include "platform/Joystick.h"
 #include "platform/Sleep.h"
+#include "platform/SpecialFolder.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -39,15 +41,19 @@ int ShowForm(QApplication& application, BenchSession& bench,
   ApplyTheme(application);
   SetSystemNumberFormat(FormatOf(QLocale::system()));
   QtPrompts prompts(SleepMilliseconds);
+  SystemJoystick joystick;
   clsK70& k70 = ProvideK70(bench.Library(), prompts);
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                    &application, [&bench] { bench.Keep(); });
 
-  std::unique_ptr<ProgramForm> form = kind.makeForm({.k70 = k70,
-                                                     .library = bench.Library(),
-                                                     .prompts = prompts,
-                                                     .arguments = arguments,
-                                                     .placeFile = UsersPlaceFile()});
+  std::unique_ptr<ProgramForm> form =
+      kind.makeForm({.k70 = k70,
+                     .library = bench.Library(),
+                     .prompts = prompts,
+                     .joystick = joystick,
+                     .arguments = arguments,
+                     .placeFile = UsersPlaceFile(),
+                     .applicationData = GetSpecialFolder(kApplicationDataFolder)});
   prompts.ShowProgressOn(form->Progress());
   form->Load();
   form->show();

@@ -22,6 +22,9 @@ namespace {
 using Page = ControlOtherCtl;
 
 constexpr int kLabelColumn = 104;
+
+// The buzzer's option without a caption, for a screen reader.
+constexpr const char* kNamelessOption = "The two controllers differ";
 constexpr std::array kShares{3, 2};
 
 // Behind a knob's options: whether it is automatic, and how sensitive it is.
@@ -106,7 +109,6 @@ constexpr std::array kFiberRows{
               &Page::optFiber_Switch,
               {"OFF", "ON ( default )"}},
 };
-// The option without a caption stands for two controllers that disagree.
 constexpr std::array kBuzzerRows{OptionRow{
     "", nullptr, "", nullptr, "", "optBuzzer", &Page::optBuzzer, {"ON ( default )", "OFF", ""}}};
 constexpr std::array kSwitchRows{OptionRow{
@@ -189,6 +191,7 @@ void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
     if (text == nullptr) continue;
     QRadioButton* option = group->addOption(QLatin1String(text), row.arrayName, panel);
     option->setAccessibleDescription(subject);
+    if (*text == '\0') option->setAccessibleName(QLatin1String(kNamelessOption));
     line->addWidget(option);
   }
   if (row.knob != nullptr) AddKnobControls(page, *row.knob, subject, panel);

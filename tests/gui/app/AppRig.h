@@ -14,6 +14,7 @@
 
 #include "app/MortaneMainForm.h"
 #include "support/Rig.h"
+#include "support/ScriptedJoystick.h"
 #include "widgets/Page.h"
 
 namespace mortane::test {
@@ -64,7 +65,7 @@ class FakePages {
   PageTable Table() {
     PageTable table = MainPages();
     for (std::size_t i = 0; i < kPageCount; ++i) {
-      table[i].make = [this, i](MortaneMainForm& form, clsK70&) -> Page* {
+      table[i].make = [this, i](MortaneMainForm& form, const FormServices&) -> Page* {
         const std::string name = std::to_string(i);
         if (i != kPageCount - 1) return pages[i] = new FakePage(name, calls, form.FrameControl);
         return pages[i] = new FakeControlPage(name, calls, form.FrameControl);
@@ -98,7 +99,8 @@ class BasicAppRig : public RigLibrary {
       : RigLibrary(std::move(bench)) {
     clsK70& k70 = ProvideK70(library, prompts);
     arguments.insert(arguments.begin(), "mortane");
-    form = std::make_unique<Form>(FormServices{k70, library, prompts, std::move(arguments)}, pages);
+    form = std::make_unique<Form>(
+        FormServices{k70, library, prompts, joystick, std::move(arguments)}, pages);
   }
   ~BasicAppRig() {
     form.reset();
@@ -139,6 +141,7 @@ class BasicAppRig : public RigLibrary {
     return count;
   }
 
+  ScriptedJoystick joystick;
   std::unique_ptr<Form> form;
 };
 using AppRig = BasicAppRig<>;

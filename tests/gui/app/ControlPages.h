@@ -36,6 +36,17 @@ class FakeSubPage : public Page {
   Lines& calls_;
 };
 
+inline ControlSubPages MakeFakeSubPages(Lines& calls) {
+  static constexpr std::array kNames{"Focus", "Stage", "Other", "K70", "Tactor", "Joypad"};
+  ControlSubPages table;
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    auto* page = new FakeSubPage(kNames[i], calls);
+    table[i].page = page;
+    if (i <= controltab::kXYStage) table[i].SetNosePosition = [page] { page->SetNosePosition(); };
+  }
+  return table;
+}
+
 // The microscope's other controls and drives are read, nothing else: the databases of some
 // instruments are not fit to be read.
 struct ControlRig : PageRig {
@@ -53,17 +64,14 @@ struct ControlRig : PageRig {
     prompts.ClearRecords();
   }
 
+  FormServices Services() { return {k70(), library, prompts, joystick, {}}; }
+
   ControlSettingsCtl* Make() {
-    static constexpr std::array kNames{"Focus", "Stage", "Other", "K70", "Tactor", "Joypad"};
-    ControlSubPages table;
+    const ControlSubPages table = MakeFakeSubPages(calls);
     for (std::size_t i = 0; i < table.size(); ++i) {
-      pages[i] = new FakeSubPage(kNames[i], calls);
-      table[i].page = pages[i];
-      if (i <= controltab::kXYStage) {
-        table[i].SetNosePosition = [page = pages[i]] { page->SetNosePosition(); };
-      }
+      pages[i] = static_cast<FakeSubPage*>(table[i].page);
     }
-    return new ControlSettingsCtl(k70(), library, joystick, table);
+    return new ControlSettingsCtl(Services(), table);
   }
 
   // The page in a window, loaded.

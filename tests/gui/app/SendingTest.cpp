@@ -60,7 +60,8 @@ struct RealPromptsRig {
     onWait();
   }};
   FakePages fakes;
-  MortaneMainForm form{{ProvideK70(library, prompts), library, prompts, {"mortane"}},
+  ScriptedJoystick joystick;
+  MortaneMainForm form{{ProvideK70(library, prompts), library, prompts, joystick, {"mortane"}},
                        fakes.Table()};
 };
 

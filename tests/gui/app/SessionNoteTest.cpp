@@ -29,7 +29,8 @@ class Note : public testing::Test {
     clsK70& k70 = ProvideK70(library->library, library->prompts);
     arguments.insert(arguments.begin(), "mortane");
     form = std::make_unique<MortaneMainForm>(
-        FormServices{k70, library->library, library->prompts, arguments, [this] { return time; }},
+        FormServices{k70, library->library, library->prompts, joystick, arguments,
+                     [this] { return time; }},
         fakes.Table());
     form->Load();
     form->show();
@@ -58,13 +59,15 @@ class Note : public testing::Test {
   QTime time{9, 12, 59};
   FakePages fakes;
   TempFolder folder;
+  ScriptedJoystick joystick;
   std::optional<RigLibrary> library;
   std::unique_ptr<MortaneMainForm> form;
 };
 
 TEST_F(Note, IsEmptyBeforeAMicroscopeIsConnected) {
   RigLibrary rig(benches::Named("Harbour"));
-  MortaneMainForm fresh({ProvideK70(rig.library, rig.prompts), rig.library, rig.prompts, {}});
+  MortaneMainForm fresh(
+      {ProvideK70(rig.library, rig.prompts), rig.library, rig.prompts, joystick, {}});
   fresh.Load();
   EXPECT_EQ(fresh.findChild<SessionNote*>("SessionNote")->text(), "");
 }

@@ -20,6 +20,7 @@ struct Session {
     form = std::make_unique<MortaneMainForm>(FormServices{.k70 = k70,
                                                           .library = rig.library,
                                                           .prompts = rig.prompts,
+                                                          .joystick = joystick,
                                                           .arguments = {"mortane"},
                                                           .placeFile = placeFile},
                                              fakes.Table());
@@ -36,6 +37,7 @@ struct Session {
   Session& operator=(const Session&) = delete;
 
   RigLibrary rig{benches::Named("Harbour")};
+  ScriptedJoystick joystick;
   FakePages fakes;
   std::unique_ptr<MortaneMainForm> form;
 };

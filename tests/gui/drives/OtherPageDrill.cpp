@@ -69,6 +69,39 @@ const std::vector<GivenControl> kControls{
     {"optBuzzer_2", ""},
 };
 
+// What the frames of a page tell a screen reader: caption, rows and options.
+using Told = std::vector<AccessibleControl>;
+
+Told Joined(std::initializer_list<Told> parts) {
+  Told all{told::Group("Other Settings"), told::Label("Other Settings")};
+  for (const Told& part : parts) all.insert(all.end(), part.begin(), part.end());
+  return all;
+}
+
+Told Frame(const char* caption, std::initializer_list<AccessibleControl> controls) {
+  Told all{told::Group(caption), told::Label(caption)};
+  all.insert(all.end(), controls.begin(), controls.end());
+  return all;
+}
+
+AccessibleControl Disabled(AccessibleControl option) {
+  option.state += ", disabled";
+  return option;
+}
+
+const AccessibleControl kUnticked{QAccessible::CheckBox, "Auto", "", "unchecked"};
+const AccessibleControl kNote =
+    told::Label("Select Auto is effective after rotating the nosepiece with interlock mode.");
+
+Told Buzzer() {
+  return Frame("Buzzer", {told::Chosen("ON ( default )"), told::NotChosen("OFF"),
+                          told::NotChosen("The two controllers differ")});
+}
+
+Told Switches(const char* caption) {
+  return Frame(caption, {told::Chosen("ON ( default )"), told::NotChosen("OFF")});
+}
+
 // A body of version 1.31 with a hand controller: its knobs can only be shown.
 PageDrillData NewBody() {
   PageDrillData data;
@@ -113,6 +146,13 @@ PageDrillData NewBody() {
   data.tabOrder = {"CheckStageAuto", "ComboStage", "optBuzzer_0", "optSwitch_0",
                    "optTactorSwitch_0"};
   data.loadBox = "Data_Load Error";
+  data.accessible =
+      Joined({Frame("Knob Setting", {told::Label("Focus Knob"), Disabled(told::NotChosen("Auto")),
+                                     Disabled(told::Chosen("Manual ( default )")),
+                                     told::Label("Stage Knob"), Disabled(told::NotChosen("Auto")),
+                                     Disabled(told::Chosen("Manual ( default )")), kUnticked,
+                                     told::Combo("Stage Knob", "Coarse"), kNote}),
+              Buzzer(), Switches("K70 Switch"), Switches("Tactor Switch")});
   return data;
 }
 
@@ -151,6 +191,16 @@ PageDrillData FiberIlluminator() {
   data.tabOrder = {"optAuto_0",      "optXYAuto_1",       "CheckStageAuto", "ComboStage",
                    "optFiber_LED_2", "optFiber_Switch_1", "optBuzzer_0",    "optSwitch_0"};
   data.loadBox = "Data_Load Error";
+  data.accessible = Joined(
+      {Frame("Knob Setting", {told::Label("Focus Knob"), told::Chosen("Auto"),
+                              told::NotChosen("Manual ( default )"), told::Label("Stage Knob"),
+                              told::NotChosen("Auto"), told::Chosen("Manual ( default )"),
+                              kUnticked, told::Combo("Stage Knob", "Fine"), kNote}),
+       Frame("Fiber Remote Controler Settings",
+             {told::Label("LED Setting"), told::NotChosen("OFF"), told::NotChosen("Dark"),
+              told::Chosen("Bright ( default )"), told::Label("Switch Setting"),
+              told::NotChosen("OFF"), told::Chosen("ON ( default )")}),
+       Buzzer(), Switches("K70 Switch")});
   return data;
 }
 
@@ -177,6 +227,12 @@ PageDrillData Remote() {
   };
   data.enabling = {{"optR_TLPO_LED_0", "DeckRemote", {}, true}};
   data.tabOrder = {"optR_TLPO_LED_2", "optR_TLPO_Switch_0", "optBuzzer_0"};
+  data.accessible =
+      Joined({Frame("B-KM-R Remote Controler Settings",
+                    {told::Label("LED Setting"), told::NotChosen("OFF"), told::NotChosen("Dark"),
+                     told::Chosen("Bright ( default )"), told::Label("Switch Setting"),
+                     told::Chosen("ON ( default )"), told::NotChosen("OFF")}),
+              Buzzer()});
   return data;
 }
 
