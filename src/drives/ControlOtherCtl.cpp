@@ -134,6 +134,7 @@ bool ControlOtherCtl::ManualHandleVisible() const {
 
 void ControlOtherCtl::ManualHandleVisible(bool visible) {
   FrameManualHandle->setVisible(visible);
+  ArrangeColumns();
 }
 
 bool ControlOtherCtl::BuzzerVisible() {
@@ -158,6 +159,7 @@ bool ControlOtherCtl::R_TLPORemoteVisible() {
 
 void ControlOtherCtl::R_TLPORemoteVisible(bool visible) {
   FrameR_TLPORemote->setVisible(visible);
+  ArrangeColumns();
 }
 
 void ControlOtherCtl::LoadData() {
@@ -173,6 +175,7 @@ void ControlOtherCtl::LoadData() {
   } catch (const std::exception&) {
     prompts.MsgBox("Data_Load Error" + std::to_string(step), box::kOk);
   }
+  ArrangeColumns();
   prompts.FlushInput();
 }
 

@@ -3,6 +3,7 @@
 
 #include "widgets/CardPage.h"
 
+class QBoxLayout;
 class QCheckBox;
 class QFrame;
 class QLabel;
@@ -75,6 +76,7 @@ class ControlOtherCtl : public CardPage {
 
   void Build();
   void StoreEdits();
+  void ArrangeColumns();
 
   void LoadFocusKnob();
   void LoadStageKnob();
@@ -86,6 +88,7 @@ class ControlOtherCtl : public CardPage {
   void LoadFiber();
 
   clsControlOther& other_;
+  QBoxLayout* columns_ = nullptr;
   bool hasFocusKnob_ = false;
   bool hasStageKnob_ = false;
 };

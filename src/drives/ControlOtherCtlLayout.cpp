@@ -212,15 +212,15 @@ void AddFrame(Page& page, const FrameRow& row, QBoxLayout* column) {
 
 // Each column is a widget, which keeps its width when all its frames are hidden.
 void ControlOtherCtl::Build() {
-  auto* columns = new QHBoxLayout;
-  columns->setSpacing(grid::kBetweenGroups);
+  columns_ = new QHBoxLayout;
+  columns_->setSpacing(grid::kBetweenGroups);
   std::array<QVBoxLayout*, 2> stacks{};
   for (std::size_t i = 0; i < stacks.size(); ++i) {
     auto* column = new QWidget(FrameBase);
     stacks[i] = new QVBoxLayout(column);
     stacks[i]->setContentsMargins({});
     stacks[i]->setSpacing(grid::kBetweenGroups);
-    columns->addWidget(column, kShares[i]);
+    columns_->addWidget(column, kShares[i]);
   }
   for (const FrameRow& frame : kFrames) {
     AddFrame(*this, frame, stacks[static_cast<std::size_t>(frame.column)]);
@@ -234,7 +234,14 @@ void ControlOtherCtl::Build() {
             "Label1");
   Label1->setWordWrap(true);
   FrameManualHandle->body()->addWidget(Label1);
-  FrameBase->body()->addLayout(columns, 1);
+  FrameBase->body()->addLayout(columns_, 1);
+}
+
+// The frames of the right column take the place of the left one where that has none.
+void ControlOtherCtl::ArrangeColumns() {
+  const bool leftIsEmpty = FrameManualHandle->isHidden() && FrameR_TLPORemote->isHidden() &&
+                           FrameFiberRemote->isHidden();
+  columns_->setDirection(leftIsEmpty ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
 }
 
 }  // namespace mortane

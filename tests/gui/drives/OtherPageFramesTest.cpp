@@ -218,8 +218,7 @@ QRect PlaceOf(const QWidget* widget, const ControlOtherCtl& page) {
   return {widget->mapTo(&page, QPoint(0, 0)), widget->size()};
 }
 
-// Where the frames of the right column stand does not depend on what the left one has.
-TEST(OtherPageFrames, CloseUpAndKeepTheirColumn) {
+TEST(OtherPageFrames, StandInTwoColumnsAndCloseUpInEach) {
   OtherRig rig("Harbour");
   auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
   const QRect knobs = PlaceOf(page.FrameManualHandle, page);
@@ -228,11 +227,39 @@ TEST(OtherPageFrames, CloseUpAndKeepTheirColumn) {
   EXPECT_EQ(buzzer.top(), knobs.top());
   EXPECT_GT(buzzer.left(), knobs.right());
   EXPECT_NEAR(knobs.width() / static_cast<double>(buzzer.width()), 1.5, 0.05);
-  page.FrameManualHandle->hide();
-  page.FrameSwitch->hide();
+  page.SwitchVisible(false);
   QApplication::processEvents();
   EXPECT_EQ(PlaceOf(page.FrameBuzzer, page), buzzer);
   EXPECT_LT(PlaceOf(page.FrameTactorSwich, page).top(), tactor.top());
+}
+
+TEST(OtherPageFrames, OfTheRightColumnTakeThePlaceOfALeftOneThatIsEmpty) {
+  OtherRig rig("Harbour");
+  auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
+  const QRect knobs = PlaceOf(page.FrameManualHandle, page);
+  const QRect buzzer = PlaceOf(page.FrameBuzzer, page);
+  const auto moved = [&] {
+    QApplication::processEvents();
+    const QRect place = PlaceOf(page.FrameBuzzer, page);
+    EXPECT_EQ(place.size(), buzzer.size());
+    EXPECT_TRUE(place == buzzer || place.topLeft() == knobs.topLeft());
+    return place != buzzer;
+  };
+  page.ManualHandleVisible(false);
+  EXPECT_TRUE(moved());
+  page.R_TLPORemoteVisible(true);
+  EXPECT_FALSE(moved());
+  page.R_TLPORemoteVisible(false);
+  EXPECT_TRUE(moved());
+  page.LoadData();
+  EXPECT_FALSE(moved());
+  rig.k70().COther.curAutoZ = rig.k70().COther.curAutoXY = -1;
+  page.LoadData();
+  EXPECT_TRUE(moved());
+  rig.k70().COther.curFiberStatus = true;
+  rig.k70().COther.curFiberSwEnable = rig.k70().COther.curFiberLED = 0;
+  page.LoadData();
+  EXPECT_FALSE(moved());
 }
 
 TEST(OtherPageFrames, OptionsBeginAtOnePlaceInTheLeftColumn) {
