@@ -127,6 +127,8 @@ tour() {
   await_windows 2
   xdotool windowfocus --sync "$box" key Return
   await_windows 1
+  # What is typed or clicked while the window loads its pages is dropped.
+  sleep 1
 
   # From the first page button on, the arrow goes to the next one that can be used.
   xdotool windowfocus --sync "$main" mousemove --window "$main" \

@@ -18,6 +18,7 @@ namespace mortane {
 
 class CommandKey;
 class CondenserSettingsCtl;
+class ControlSettingsCtl;
 class FilterQubeSettingsCtl;
 class InterlockSettingsCtl;
 class ObjectiveSettingsCtl;
@@ -57,6 +58,7 @@ class MortaneMainForm : public ProgramForm {
   FilterQubeSettingsCtl* FilterQubeSettingsCtl1 = nullptr;
   CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
   InterlockSettingsCtl* InterlockSettingsCtl1 = nullptr;
+  ControlSettingsCtl* ControlSettingsCtl1 = nullptr;
 
  protected:
   // One step of Load; `step` counts from 0 to 6.

@@ -2,6 +2,8 @@
 
 #include <QFrame>
 
+#include "app/ControlSettingsCtl.h"
+#include "app/ControlSubPages.h"
 #include "app/MortaneMainForm.h"
 #include "app/SystemSettingsCtl.h"
 #include "condensers/CondenserSettingsCtl.h"
@@ -61,7 +63,8 @@ PageTable MainPages() {
        [](const clsK70& k70) { return k70.Controller(0) && IsFitted(k70, accessory::kCondenser); },
        "No condenser is mounted, or the body of the microscope is not connected."},
       {"Interlocks", IconName::Interlock,
-       [](MortaneMainForm& form, clsK70& k70) -> Page* {
+       [](MortaneMainForm& form, const FormServices& services) -> Page* {
+         clsK70& k70 = services.k70;
          const InterlockSettingsCtl::Units units{k70.ILObservation, k70.ILOther, k70.ILOffset};
          const FocusCompensations compensations{k70.CZDrive.curFocusCompensation,
                                                 k70.CXYDrive.curFocusCompensation};
@@ -73,7 +76,17 @@ PageTable MainPages() {
          return k70.ILObservation.IsEnable() || k70.ILOther.IsEnable() || k70.ILOffset.IsEnable();
        },
        "Nothing is mounted that follows another accessory or is compensated."},
-      {"Controls", IconName::Control},
+      {"Controls", IconName::Control,
+       [](MortaneMainForm& form, const FormServices& services) -> Page* {
+         return form.ControlSettingsCtl1 =
+                    Named(new ControlSettingsCtl(services, MakeControlSubPages(services),
+                                                 form.FrameControl),
+                          "ControlSettingsCtl1");
+       },
+       [](const clsK70& k70) {
+         return k70.CZDrive.IsEnable() || k70.CXYDrive.IsEnable() || k70.COther.IsEnable();
+       },
+       "No drive or other control can be set."},
   }};
 }
 

@@ -156,6 +156,7 @@ TEST(Start, RunsOnceHoweverOftenTheWindowIsActivated) {
 TEST(Start, BeginsWithActivationWithoutWaitingForAPainting) {
   AppRig rig(benches::Named("Harbour"));
   rig.form->Load();
+  rig.journal.Clear();
   QEvent activation(QEvent::WindowActivate);
   QApplication::sendEvent(rig.form.get(), &activation);
   EXPECT_TRUE(rig.journal.Lines().empty()) << "not inside the event";

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QThread>
@@ -92,9 +93,31 @@ class Program : public testing::Test {
   void Press(const QString& window, const QStringList& keys) {
     Tool(QStringList{"windowfocus", "--sync", window, "key"} + keys);
   }
+  // A window that is still loading its pages drops what was typed meanwhile; once it rests it takes
+  // no time of the processor.
+  void AwaitRest() {
+    QDeadlineTimer patience(kPatienceMs);
+    for (int rested = 0; rested < 3 && !patience.hasExpired();) {
+      const qint64 before = ProcessorTicks();
+      QThread::msleep(100);
+      rested = ProcessorTicks() - before <= 1 ? rested + 1 : 0;
+    }
+  }
+  // Of the program so far, as user and as system.
+  qint64 ProcessorTicks() {
+    QFile statistics(QStringLiteral("/proc/%1/stat").arg(program_.processId()));
+    if (!statistics.open(QIODevice::ReadOnly)) return 0;
+    const QByteArrayList fields = statistics.readAll().split(')').back().split(' ');
+    constexpr qsizetype kUserTicks = 12;  // counted behind the program's name
+    return fields.size() <= kUserTicks + 1
+               ? 0
+               : fields[kUserTicks].toLongLong() + fields[kUserTicks + 1].toLongLong();
+  }
   // Leaves by the menu and answers the question.
   void Exit() {
-    Press(AwaitWindows(1).front(), {"alt+f", "x"});
+    const QString window = AwaitWindows(1).front();
+    AwaitRest();
+    Press(window, {"alt+f", "x"});
     Press(AwaitWindows(2).front(), {"Return"});
     EXPECT_TRUE(program_.waitForFinished(kPatienceMs));
     EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
@@ -142,6 +165,7 @@ TEST_F(Program, KeepsInItsBenchFileWhatWasSent) {
   controller::WriteBenchFile(bench, controller::benches::Named("Harbour"));
   Start({}, bench);
   const QString window = AwaitWindows(1).front();
+  AwaitRest();
   Tool({"windowfocus", "--sync", window});
   // The page button, the name field, its new text.
   Tool({"mousemove", "--window", window, "52", "110", "click", "1"});
