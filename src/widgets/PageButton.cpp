@@ -1,10 +1,10 @@
 #include "widgets/PageButton.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "widgets/AccessibleChange.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
@@ -35,7 +35,7 @@ void PageButton::SetSelected(bool selected) {
   QAccessible::State changed;
   changed.checked = true;
   QAccessibleStateChangeEvent event(this, changed);
-  QAccessible::updateAccessibility(&event);
+  TellChange(event);
 }
 
 void PageButton::SetPending(bool pending) {

@@ -1,5 +1,7 @@
 #include "widgets/RowView.h"
 
+#include "widgets/AccessibleChange.h"
+
 namespace mortane {
 
 // What the tree adds to these handlers is the telling of cells.
@@ -19,7 +21,7 @@ void RowView::selectionChanged(const QItemSelection& selected, const QItemSelect
 void RowView::Tell(QAccessible::Event change, int row) {
   QAccessibleEvent event(this, change);
   event.setChild(row);
-  QAccessible::updateAccessibility(&event);
+  TellChange(event);
 }
 
 }  // namespace mortane

@@ -82,6 +82,8 @@ TurretButton::TurretButton(PlaceKind kind, int number, QWidget* parent)
     : QAbstractButton(parent), kind_(kind), number_(number) {
   setCheckable(true);
   setAttribute(Qt::WA_Hover);
+  constexpr int kRoom = static_cast<int>(kHaloRoom);
+  setContentsMargins(kRoom, kRoom, kRoom, kRoom);
 }
 
 void TurretButton::SetItem(const TurretItem& item) {

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 
+#include "widgets/AccessibleChange.h"
 #include "widgets/ElidedTip.h"
 #include "widgets/Theme.h"
 
@@ -16,6 +17,13 @@ constexpr int kLeastCharacters = 4;
 ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent) {
   setFont(FixedFont());
   setTextFormat(Qt::PlainText);
+}
+
+void ValueLabel::setText(const QString& text) {
+  if (text == this->text()) return;
+  QLabel::setText(text);
+  QAccessibleValueChangeEvent event(this, text);
+  TellChange(event);
 }
 
 QSize ValueLabel::sizeHint() const {

@@ -12,6 +12,8 @@ class ValueLabel : public QLabel {
  public:
   explicit ValueLabel(QWidget* parent = nullptr);
 
+  // Screen readers hear of a new text.
+  void setText(const QString& text);
   // Asks for room for that many characters; a shorter or longer text changes nothing.
   void SetCharacters(int count) { characters_ = count; }
   [[nodiscard]] QSize sizeHint() const override;

@@ -4,7 +4,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 
-#include "gui/widgets/FontScope.h"
+#include "gui/support/FontScope.h"
 #include "gui/widgets/TestWindow.h"
 #include "widgets/ListBox.h"
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "gui/widgets/FontScope.h"
+#include "gui/support/FontScope.h"
 
 namespace mortane {
 namespace {

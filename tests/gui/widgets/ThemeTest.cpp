@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QPalette>
-#include <cmath>
 
+#include "gui/support/Contrast.h"
 #include "gui/widgets/TestWindow.h"
 #include "widgets/Style.h"
 
@@ -15,18 +15,7 @@ QApplication& Application() {
   return *qobject_cast<QApplication*>(qApp);
 }
 
-double Luminance(const QColor& color) {
-  const auto part = [](double value) {
-    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const double a = Luminance(one);
-  const double b = Luminance(other);
-  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
+using test::Contrast;
 
 class ThemeIn : public ::testing::TestWithParam<Scheme> {
  protected:

@@ -1,5 +1,5 @@
 // What stands on the places of a turret, and how large the drawing must be for it.
-#include "gui/widgets/FontScope.h"
+#include "gui/support/FontScope.h"
 #include "gui/widgets/TestWindow.h"
 #include "widgets/Theme.h"
 #include "widgets/TurretButton.h"

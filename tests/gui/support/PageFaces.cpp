@@ -1,0 +1,141 @@
+// What every page looks like in windows and fonts of many sizes, and in both palettes.
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <map>
+
+#include "gui/support/Contrast.h"
+#include "gui/support/FontScope.h"
+#include "gui/support/PageDrill.h"
+#include "gui/support/PageLayout.h"
+#include "widgets/Theme.h"
+
+namespace mortane::test {
+namespace {
+
+struct Face {
+  double fontSize;       // of the system's
+  double letterSpacing;  // per cent of the font's own
+  QSize room;            // of the page in its window
+};
+
+// The rooms of windows of 1152 x 740 and 1024 x 640.
+constexpr QSize kDesignRoom{1048, 560};
+constexpr QSize kNarrowRoom{920, 460};
+
+constexpr std::array kFaces{
+    Face{1, 100, kDesignRoom},   Face{1, 100, kNarrowRoom},    Face{1.5, 100, kDesignRoom},
+    Face{1.5, 100, kNarrowRoom}, Face{2, 100, kDesignRoom},    Face{2, 100, kNarrowRoom},
+    Face{1, 120, kDesignRoom},   Face{1.25, 120, kNarrowRoom},
+};
+
+QFont FontFor(const Face& face) {
+  QFont font = FontOf(QApplication::font().pointSizeF() * face.fontSize);
+  font.setLetterSpacing(QFont::PercentageSpacing, face.letterSpacing);
+  return font;
+}
+
+class SchemeScope {
+ public:
+  explicit SchemeScope(Scheme scheme) { Apply(scheme); }
+  ~SchemeScope() { Apply(Scheme::Light); }
+  SchemeScope(const SchemeScope&) = delete;
+  SchemeScope& operator=(const SchemeScope&) = delete;
+
+ private:
+  static void Apply(Scheme scheme) { ApplyTheme(*qobject_cast<QApplication*>(qApp), scheme); }
+};
+
+QImage PictureOf(PageRig& rig, const QWidget& control) {
+  QApplication::processEvents();
+  const QPoint corner = control.mapTo(&rig.window(), QPoint());
+  return rig.window().grab(QRect(corner, control.size())).toImage();
+}
+
+// Pixels that take the colour of the focus.
+int NewlyColoured(const QImage& before, const QImage& after, const QColor& focus) {
+  int count = 0;
+  for (int y = 0; y < after.height(); ++y) {
+    for (int x = 0; x < after.width(); ++x) {
+      const QColor now = after.pixelColor(x, y);
+      if (now == focus && before.pixelColor(x, y) != now) ++count;
+    }
+  }
+  return count;
+}
+
+QColor MostFrequentColour(const QImage& picture) {
+  std::map<QRgb, int> counts;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
+  }
+  const auto most =
+      std::max_element(counts.begin(), counts.end(),
+                       [](const auto& a, const auto& b) { return a.second < b.second; });
+  return QColor(most->first);
+}
+
+bool ShowsText(const QWidget& control) {
+  if (const auto* label = qobject_cast<const QLabel*>(&control)) return !label->text().isEmpty();
+  return qobject_cast<const QLineEdit*>(&control) != nullptr ||
+         qobject_cast<const QRadioButton*>(&control) != nullptr;
+}
+
+}  // namespace
+
+TEST_P(PageDrill, ShowsAllControlsWholeAndApart) {
+  for (const Face& face : kFaces) {
+    const FontScope font(FontFor(face));
+    PageRig rig(GetParam().bench);
+    Page& page = ShowOn(rig);
+    QScrollArea window;  // as the program's, where a page that is too high is scrolled
+    window.setWidgetResizable(true);
+    window.setWidget(&page);
+    window.resize(face.room);
+    page.show();
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(LayoutFaults(window), std::vector<std::string>{})
+        << face.fontSize << " " << face.letterSpacing << " " << face.room.width();
+  }
+}
+
+TEST_P(PageDrill, IsNoWiderThanTheNarrowestWindow) {
+  PageRig rig(GetParam().bench);
+  EXPECT_LE(ShowOn(rig).minimumSizeHint().width(), kNarrowRoom.width());
+}
+
+TEST_P(PageDrill, EveryStopOfTheTabKeyShowsItsFocus) {
+  constexpr int kLeastPixels = 60;
+  for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+    const SchemeScope scope(scheme);
+    PageRig rig(GetParam().bench);
+    ShowOn(rig);
+    const QColor focus = QApplication::palette().color(QPalette::Highlight);
+    for (const std::string& stop : rig.TabOrder()) {
+      QWidget& control = rig.Find(stop);
+      rig.elsewhere().setFocus();
+      const QImage before = PictureOf(rig, control);
+      control.setFocus();
+      EXPECT_GE(NewlyColoured(before, PictureOf(rig, control), focus), kLeastPixels) << stop;
+    }
+  }
+}
+
+TEST_P(PageDrill, TextCanBeReadOnWhatItStandsOn) {
+  for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+    const SchemeScope scope(scheme);
+    PageRig rig(GetParam().bench);
+    const Page& page = ShowOn(rig);
+    for (const QWidget* control : page.findChildren<QWidget*>()) {
+      if (!control->isVisible() || !control->isEnabled() || !ShowsText(*control)) continue;
+      const QColor text = control->palette().color(control->foregroundRole());
+      EXPECT_GE(Contrast(text, MostFrequentColour(PictureOf(rig, *control))), 4.5)
+          << control->objectName().toStdString();
+    }
+  }
+}
+
+}  // namespace mortane::test

@@ -1,0 +1,16 @@
+// Whether all that a page shows can be seen whole.
+#pragma once
+
+#include <string>
+#include <vector>
+
+class QWidget;
+
+namespace mortane::test {
+
+// One line for each control below `root` that is smaller than it asks for, reaches out of its
+// parent, or overlaps a sibling; hidden controls do not count. What a scroll area holds may be
+// larger than the area: it is scrolled to.
+std::vector<std::string> LayoutFaults(const QWidget& root);
+
+}  // namespace mortane::test
