@@ -14,6 +14,7 @@
 #include "widgets/MicroscopeDrawing.h"
 #include "widgets/Named.h"
 #include "widgets/TextField.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -29,7 +30,7 @@ constexpr int kReportMargin = 8;
 constexpr int kTabWidthCharacters = 3;
 // The report keeps its lines whole beside the drawing.
 constexpr int kReportWidthCharacters = 32;
-// The drawing needs its room for the labels; a narrower window shows the report alone.
+// A narrower window shows the report alone, as one where labels would have to be elided.
 constexpr int kNarrowestWindowWithDrawing = 1100;
 
 QFont ReportFont() {
@@ -94,6 +95,8 @@ QWidget* SystemNameCtl::BuildReportCard() {
   TextAccessories->setMinimumWidth(kReportWidthCharacters * character);
 
   drawingFrame_ = new InnerFrame({}, card);
+  // Not so wide as it asks for where the page has less room: it goes away then.
+  drawingFrame_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   drawing_ = new MicroscopeDrawing(drawingFrame_);
   drawingFrame_->body()->addWidget(drawing_);
   auto* columns = new QHBoxLayout;
@@ -117,6 +120,7 @@ void SystemNameCtl::LoadData() {
                   mounted});
   }
   drawing_->SetAccessories(drawn);
+  ShowDrawingWhereItFits();
 }
 
 void SystemNameCtl::SaveData() {
@@ -125,7 +129,14 @@ void SystemNameCtl::SaveData() {
 
 void SystemNameCtl::resizeEvent(QResizeEvent* event) {
   Page::resizeEvent(event);
-  drawingFrame_->setVisible(window()->width() >= kNarrowestWindowWithDrawing);
+  ShowDrawingWhereItFits();
+}
+
+void SystemNameCtl::ShowDrawingWhereItFits() {
+  const int besideDrawing = 2 * grid::kCardPadding + TextAccessories->minimumWidth() + kColumnGap +
+                            2 * grid::kCardPadding;
+  const bool isWide = window()->width() >= kNarrowestWindowWithDrawing;
+  drawingFrame_->setVisible(isWide && width() >= besideDrawing + drawing_->widthOfLabels());
 }
 
 }  // namespace mortane

@@ -33,6 +33,7 @@ class SystemNameCtl : public Page {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void ShowDrawingWhereItFits();
   QWidget* BuildNameCard();
   QWidget* BuildReportCard();
 

@@ -50,9 +50,8 @@ bool ComboBox::event(QEvent* event) {
   initStyleOption(&option);
   const QRect shown =
       style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-  const bool fits = fontMetrics().horizontalAdvance(currentText()) <= shown.width();
   ShowWholeText(*static_cast<QHelpEvent*>(event), *this, currentText(),
-                fits ? Fits::Yes : Fits::No);
+                FitsIn(shown.width(), currentText(), fontMetrics()));
   return true;
 }
 

@@ -6,9 +6,21 @@
 
 namespace mortane {
 
+Fits FitsIn(int width, const QString& text, const QFontMetrics& metrics) {
+  return metrics.horizontalAdvance(text) <= width ? Fits::Yes : Fits::No;
+}
+
+QString ShownIn(int width, const QString& text, const QFontMetrics& metrics) {
+  if (FitsIn(width, text, metrics) == Fits::Yes) return text;
+  return metrics.elidedText(text, Qt::ElideRight, width);
+}
+
 void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text, Fits fits,
                    const QRect& area) {
-  QToolTip::showText(help.globalPos(), fits == Fits::Yes ? QString() : text, &control, area);
+  QStringList lines;
+  if (fits == Fits::No) lines.append(text);
+  if (!control.toolTip().isEmpty()) lines.append(control.toolTip());
+  QToolTip::showText(help.globalPos(), lines.join(QLatin1Char('\n')), &control, area);
 }
 
 void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text, Fits fits) {

@@ -1,6 +1,7 @@
 // The whole of a text that its control shows in part, as a tool tip.
 #pragma once
 
+#include <QFontMetrics>
 #include <QRect>
 #include <QString>
 
@@ -10,8 +11,14 @@ class QWidget;
 namespace mortane {
 
 enum class Fits { No, Yes };
+Fits FitsIn(int width, const QString& text, const QFontMetrics& metrics);
 
-// Shows the text while the pointer stays in the area, or takes away a tip that is there.
+// The text, elided at its right end where it does not fit. Widths are whole pixels, as controls
+// ask for them; the toolkit's own elision would cut a text that is wider by less than a pixel.
+QString ShownIn(int width, const QString& text, const QFontMetrics& metrics);
+
+// Shows the text where it does not fit, and the control's own tool tip if it has one, while the
+// pointer stays in the area; or takes away a tip that is there.
 void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text, Fits fits,
                    const QRect& area);
 void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text, Fits fits);

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QtMath>
 #include <array>
 
 #include "widgets/ElidedTip.h"
@@ -62,6 +63,10 @@ MicroscopeLayout MicroscopeDrawing::Layout() const {
 
 double MicroscopeDrawing::drawingScale() const {
   return Layout().scale;
+}
+
+int MicroscopeDrawing::widthOfLabels() const {
+  return qCeil(LeastMicroscopeWidth(accessories_, fontMetrics()));
 }
 
 QSize MicroscopeDrawing::sizeHint() const {

@@ -18,6 +18,8 @@ class MicroscopeDrawing : public QWidget {
 
   void SetAccessories(const QVector<DrawnAccessory>& accessories);
   [[nodiscard]] double drawingScale() const;
+  // The width in which it shows all labels whole.
+  [[nodiscard]] int widthOfLabels() const;
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 

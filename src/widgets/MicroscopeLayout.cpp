@@ -168,6 +168,12 @@ double LeastMicroscopeScale() {
   return kLeastScale;
 }
 
+double LeastMicroscopeWidth(const QVector<DrawnAccessory>& accessories,
+                            const QFontMetrics& metrics) {
+  const Extras extras = ExtrasAt(WishesOf(accessories, metrics), kLeastScale);
+  return kDesign.width() * kLeastScale + extras.left + extras.right;
+}
+
 MicroscopeLayout LayOutMicroscope(const QVector<DrawnAccessory>& accessories, const QSizeF& room,
                                   const QFontMetrics& metrics) {
   const QVector<Wish> wishes = WishesOf(accessories, metrics);

@@ -37,6 +37,10 @@ struct MicroscopeLayout {
 QSizeF MicroscopeDesignSize();
 double LeastMicroscopeScale();
 
+// The least width in which no label is elided.
+double LeastMicroscopeWidth(const QVector<DrawnAccessory>& accessories,
+                            const QFontMetrics& metrics);
+
 // As large as the room allows, smaller where labels need more room. Labels at one side keep a
 // line's height from each other. Accessories without a place on the drawing are left out.
 MicroscopeLayout LayOutMicroscope(const QVector<DrawnAccessory>& accessories, const QSizeF& room,

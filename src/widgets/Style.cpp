@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include "widgets/ElidedTip.h"
 #include "widgets/Paint.h"
 #include "widgets/StylePrimitives.h"
 #include "widgets/Theme.h"
@@ -19,6 +20,7 @@ constexpr int kScrollBarExtent = 12;
 constexpr int kComboTextMargin = 8;
 constexpr int kComboArrowWidth = 26;
 constexpr int kButtonPadding = 18;
+constexpr int kToolBarMargin = 6;
 constexpr int kOptionInset = 5;  // keeps indicator and text clear of the line of the focus
 
 // What an option or a check box takes of a wider row: indicator, label and room for the focus.
@@ -58,15 +60,16 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ToolBarItemSpacing:
       return grid::kBetweenControls;
     case PM_ToolBarItemMargin:
-      return grid::kUnit;
+      return kToolBarMargin;
     case PM_DefaultFrameWidth:
       // Room for the line of the focus, inside which the corners of the contents are hidden.
       return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr
                  ? kListFrameWidth
                  : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_FocusFrameHMargin:
-    case PM_HeaderMargin:
       return kCellMargin;
+    case PM_HeaderMargin:
+      return kCellMargin + 1;  // which cells have in addition
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }
@@ -110,6 +113,10 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     case CT_RadioButton:
     case CT_CheckBox:
       result = QSize(result.width() + 2 * kOptionInset, qMax(result.height(), field - 4));
+      break;
+    case CT_ToolButton:
+      if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option))
+        result = ToolButtonSize(*button, result);
       break;
     case CT_MenuBarItem:
       result += QSize(grid::kBetweenGroups, grid::kBetweenControls);
@@ -206,9 +213,14 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
       if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
         QStyleOptionComboBox elided = *combo;
         const QRect shown = subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget);
-        elided.currentText =
-            combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, shown.width());
+        elided.currentText = ShownIn(shown.width(), combo->currentText, combo->fontMetrics);
         return QProxyStyle::drawControl(element, &elided, painter, widget);
+      }
+      break;
+    case CE_ToolButtonLabel:
+      if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+        if (button->toolButtonStyle != Qt::ToolButtonTextBesideIcon) break;
+        return DrawToolButtonLabel(*button, *painter);
       }
       break;
     case CE_RadioButton:

@@ -12,6 +12,9 @@
 namespace mortane {
 namespace {
 
+constexpr int kToolButtonPadding = 10;
+constexpr int kBesideToolIcon = 6;
+
 bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
   return option.state.testFlag(flag);
 }
@@ -134,6 +137,29 @@ void DrawToolButtonBox(const QStyleOption& option, QPainter& painter) {
     DrawBox(painter, option.rect, fill, {{}, 0, grid::kFieldCorner});
   }
   if (Has(option, QStyle::State_HasFocus)) DrawFocusLine(option, painter);
+}
+
+QSize ToolButtonSize(const QStyleOptionToolButton& option, const QSize& without) {
+  if (option.toolButtonStyle != Qt::ToolButtonTextBesideIcon) return without;
+  const QSize text = option.fontMetrics.size(Qt::TextShowMnemonic, option.text);
+  return {option.iconSize.width() + kBesideToolIcon + text.width() + 2 * kToolButtonPadding,
+          GridHeight(grid::kFieldHeight, option.fontMetrics)};
+}
+
+void DrawToolButtonLabel(const QStyleOptionToolButton& option, QPainter& painter) {
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const QRect inside = option.rect.adjusted(kToolButtonPadding, 0, 0, 0);
+  const QRect icon =
+      QStyle::alignedRect(option.direction, Qt::AlignLeft | Qt::AlignVCenter, option.iconSize,
+                          QStyle::visualRect(option.direction, option.rect, inside));
+  option.icon.paint(&painter, icon, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
+  const QRect text = inside.adjusted(option.iconSize.width() + kBesideToolIcon, 0, 0, 0);
+  painter.setFont(option.font);
+  painter.setPen(option.palette.color(QPalette::ButtonText));
+  const Qt::Alignment alignment = QStyle::visualAlignment(option.direction, Qt::AlignLeft);
+  painter.drawText(QStyle::visualRect(option.direction, option.rect, text),
+                   static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextShowMnemonic,
+                   option.text);
 }
 
 void DrawHeaderSection(const QStyleOption& option, QPainter& painter) {

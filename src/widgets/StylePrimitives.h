@@ -8,6 +8,7 @@ class QPainter;
 class QStyleOption;
 class QStyleOptionMenuItem;
 class QStyleOptionSlider;
+class QStyleOptionToolButton;
 class QWidget;
 
 namespace mortane {
@@ -23,6 +24,9 @@ void DrawToolButtonBox(const QStyleOption& option, QPainter& painter);
 inline constexpr int kScrollBarLeastHandle = 28;
 // A bar without end buttons: the handle may use its whole length.
 QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
+// Icon and text side by side; other tool buttons are as wide as `without`.
+QSize ToolButtonSize(const QStyleOptionToolButton& option, const QSize& without);
+void DrawToolButtonLabel(const QStyleOptionToolButton& option, QPainter& painter);
 void DrawHeaderSection(const QStyleOption& option, QPainter& painter);
 void DrawMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter);
 // Tool bar and status bar: the window's background with a line towards the middle of the window.

@@ -19,7 +19,7 @@ constexpr double kFocusOutside = 7;
 constexpr double kTileCorner = 4;
 constexpr double kTileHeightShare = 0.8;
 constexpr double kTextMargin = 4;
-constexpr int kLeastCharacters = 6;  // of a name that is elided
+constexpr int kLeastCharacters = 8;  // of a name that is elided
 // Shares of a tile's height.
 constexpr double kTextMiddle = 0.3;
 constexpr double kGlyphMiddle = 0.7;

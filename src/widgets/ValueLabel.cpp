@@ -37,8 +37,8 @@ QSize ValueLabel::minimumSizeHint() const {
 
 bool ValueLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QLabel::event(event);
-  const bool fits = fontMetrics().horizontalAdvance(text()) <= width();
-  ShowWholeText(*static_cast<QHelpEvent*>(event), *this, text(), fits ? Fits::Yes : Fits::No);
+  ShowWholeText(*static_cast<QHelpEvent*>(event), *this, text(),
+                FitsIn(width(), text(), fontMetrics()));
   return true;
 }
 
@@ -46,7 +46,7 @@ void ValueLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(palette().color(foregroundRole()));
   painter.drawText(rect(), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft),
-                   fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+                   ShownIn(width(), text(), fontMetrics()));
 }
 
 }  // namespace mortane

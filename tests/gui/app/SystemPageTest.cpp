@@ -111,6 +111,24 @@ TEST_F(SystemPage, TheDrawingGoesAwayInANarrowWindow) {
   EXPECT_TRUE(drawing->isVisible());
 }
 
+TEST_F(SystemPage, TheDrawingGoesAwayWhereItsLabelsHaveNoRoom) {
+  page->LoadData();
+  auto* drawing = page->findChild<MicroscopeDrawing*>();
+  QFont large = drawing->font();
+  large.setPointSizeF(large.pointSizeF() * 3);
+  drawing->setFont(large);
+  EXPECT_TRUE(drawing->isVisible());
+  page->LoadData();
+  EXPECT_FALSE(drawing->isVisible());
+  window.resize(1900, 740);
+  QApplication::processEvents();
+  EXPECT_TRUE(drawing->isVisible());
+  EXPECT_GE(drawing->width(), drawing->widthOfLabels());
+  window.resize(1152, 740);
+  QApplication::processEvents();
+  EXPECT_FALSE(drawing->isVisible());
+}
+
 TEST_F(SystemPage, TakesFifteenCharactersAndNoMore) {
   name().setFocus();
   QTest::keyClicks(&name(), "1234567890123456");

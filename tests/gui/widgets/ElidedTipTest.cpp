@@ -5,6 +5,7 @@
 
 #include "gui/widgets/TestWindow.h"
 #include "widgets/ComboBox.h"
+#include "widgets/ElidedTip.h"
 #include "widgets/ListBox.h"
 #include "widgets/MicroscopeDrawing.h"
 #include "widgets/SectionBar.h"
@@ -107,6 +108,27 @@ TEST_F(ElidedTip, OfASection) {
   EXPECT_LT(bar->option(1)->width(), bar->option(1)->sizeHint().width());
   EXPECT_GE(bar->option(1)->width(), bar->option(1)->minimumSizeHint().width());
   EXPECT_EQ(TipOf(*bar->option(1)), "Optional Objectives");
+}
+
+TEST_F(ElidedTip, TheReasonWhyASectionIsDisabledStandsBelowItsText) {
+  auto* bar = window.Add<SectionBar>("optSettings");
+  bar->AddOption("Nosepiece");
+  bar->AddOption("Optional Objectives");
+  bar->SetOptionEnabled(1, false, "Not fitted");
+  ShowAt(600);
+  EXPECT_EQ(TipOf(*bar->option(1)), "Not fitted");
+  window.widget().resize(150, 400);
+  QApplication::processEvents();
+  EXPECT_EQ(TipOf(*bar->option(1)), "Optional Objectives\nNot fitted");
+}
+
+TEST_F(ElidedTip, ATextIsNotElidedForLessThanAPixel) {
+  const QFontMetrics metrics = window.widget().fontMetrics();
+  for (const char* text : {"Received 16:12", "Plan A", "iiiiiii", "WWWWW"}) {
+    const int width = metrics.horizontalAdvance(text);
+    EXPECT_EQ(ShownIn(width, text, metrics), text);
+    EXPECT_NE(ShownIn(width - 1, text, metrics), text);
+  }
 }
 
 TEST_F(ElidedTip, OfALabelOfTheDrawing) {

@@ -53,6 +53,17 @@ TEST(MicroscopeLayout, LabelsStayInsideApartAndOffTheStand) {
   }
 }
 
+TEST(MicroscopeLayout, TheLeastWidthIsTheNarrowestWithoutElision) {
+  const auto isWhole = [](const DrawnLabel& label) { return label.shown == label.accessory.label; };
+  for (const double font : {1.0, 1.5, 3.0}) {
+    const double width = LeastMicroscopeWidth(Accessories(), Metrics(font));
+    const auto layout = LayOutMicroscope(Accessories(), {width, 400}, Metrics(font));
+    EXPECT_TRUE(std::all_of(layout.labels.begin(), layout.labels.end(), isWhole)) << font;
+    const auto narrow = LayOutMicroscope(Accessories(), {width - 8, 400}, Metrics(font));
+    EXPECT_FALSE(std::all_of(narrow.labels.begin(), narrow.labels.end(), isWhole)) << font;
+  }
+}
+
 TEST(MicroscopeLayout, LinesRunFromTheirLabelsToTheirDots) {
   const MicroscopeLayout layout = LayOutMicroscope(Accessories(), {900, 500}, Metrics());
   for (const DrawnLabel& label : layout.labels) {
