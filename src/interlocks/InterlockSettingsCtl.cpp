@@ -20,13 +20,14 @@ InterlockSettingsCtl::InterlockSettingsCtl(const Units& units,
       InterlockOffsetCtl1(new InterlockOffsetCtl(units.offset)),
       other_(units.other) {
   const auto isEnable = [](const auto& unit) { return [&unit] { return unit.IsEnable(); }; };
-  SetSections(
-      {{"Observation", "InterlockObservationCtl1", InterlockObservationCtl1,
-        isEnable(units.observation), KeepAsLoaded},
-       {"Other", "InterlockOtherCtl1", InterlockOtherCtl1, isEnable(units.other), KeepAsLoaded},
-       {"Compensation", "InterlockOffsetCtl1", InterlockOffsetCtl1, isEnable(units.offset),
-        KeepAsLoaded}},
-      {2, 1, 0});
+  SetSections({{"Observation", "InterlockObservationCtl1", InterlockObservationCtl1,
+                isEnable(units.observation), KeepAsLoaded,
+                "Nothing is mounted that follows the observation method."},
+               {"Other", "InterlockOtherCtl1", InterlockOtherCtl1, isEnable(units.other),
+                KeepAsLoaded, "Nothing is mounted that follows nosepiece, light path or zoom."},
+               {"Compensation", "InterlockOffsetCtl1", InterlockOffsetCtl1, isEnable(units.offset),
+                KeepAsLoaded, "Nothing is mounted that is compensated."}},
+              {2, 1, 0});
 }
 
 // A window that comes back from the task bar shows its pages again, spontaneously.

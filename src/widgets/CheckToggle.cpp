@@ -106,7 +106,8 @@ void CheckToggle::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF track(kPadding, (height() - kTrackHeight) / 2.0, kTrackWidth, kTrackHeight);
   DrawTrack(painter, track);
-  painter.setPen(ShownColors().color(unknown_ ? QPalette::PlaceholderText : QPalette::WindowText));
+  const QPalette colors = ShownColors();
+  painter.setPen(colors.color(unknown_ ? QPalette::PlaceholderText : QPalette::WindowText));
   painter.setFont(isChecked() && isEnabledTo(window()) ? BoldFont() : font());
   painter.drawText(QRectF(track.right() + kGap, 0, width() - track.right() - kGap, height()),
                    Qt::AlignLeft | Qt::AlignVCenter, text());

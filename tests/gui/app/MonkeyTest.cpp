@@ -9,6 +9,7 @@
 #include "Monkey.h"
 #include "app/MortaneMainForm.h"
 #include "support/Rig.h"
+#include "support/ScriptedJoystick.h"
 #include "support/TempFolder.h"
 
 namespace mortane::test {
@@ -104,10 +105,12 @@ TEST_P(MonkeyWalk, BreaksNothing) {
   MonkeyPrompts prompts(
       random, {folder.Path("one.xml"), folder.Path("two.xml"),
                folder.Write("bad.xml", "<Setup><FILTER><ITEM"), folder.Path("missing/three.xml")});
+  ScriptedJoystick joystick;
   clsK70& k70 = ProvideK70(rig.library, prompts);
   {
-    MortaneMainForm form(FormServices{k70, rig.library, prompts, Arguments(rig.simulated.bench())},
-                         MainPages());
+    MortaneMainForm form(
+        FormServices{k70, rig.library, prompts, joystick, Arguments(rig.simulated.bench())},
+        MainPages());
     Monkey monkey(form, random);
     form.Load();
     form.show();

@@ -66,6 +66,7 @@ TEST_F(CompensationPage, RowsReadAsProperValueTimesFactor) {
   }
   EXPECT_GT(place(page.Label2).y(), place(Lists()[3]).y());
   EXPECT_EQ(page.ComboNDFilter->font(), FixedFont());
+  for (const ComboBox* list : Lists()) EXPECT_EQ(list->width(), 96);
 }
 
 TEST_F(CompensationPage, MakingAndShowingThePageStoresNothing) {

@@ -75,6 +75,32 @@ const SwitchArray kOpticalZoom{
     [](clsK70& k70, std::int32_t k, std::int32_t state) { k70.ILOther.ZoomStatus(k, state); },
 };
 
+// `disabled` are the accessories whose switches are so.
+void TellSwitches(PageDrillData& data, const SwitchArray& array,
+                  const std::function<int(const SwitchRow&)>& state,
+                  const std::vector<std::int32_t>& disabled = {}) {
+  for (const SwitchRow& row : array.rows) {
+    const bool fitted =
+        std::find(disabled.begin(), disabled.end(), row.accessory) == disabled.end();
+    const bool on = state(row) == 1;
+    AccessibleControl label = told::Label(row.caption);
+    if (!fitted) label.state = "disabled, read only";
+    data.accessible.push_back(label);
+    data.accessible.push_back(
+        {QAccessible::CheckBox, row.caption, on ? "ON" : "OFF",
+         std::string(on ? "checked" : "unchecked") + (fitted ? "" : ", disabled")});
+  }
+}
+
+int AsOnHarbour(const SwitchRow& row) {
+  return row.state;
+}
+
+void TellFrame(PageDrillData& data, const char* caption) {
+  data.accessible.push_back(told::Group(caption));
+  data.accessible.push_back(told::Label(caption));
+}
+
 // Each switch shows its state, changes it by a click and by another one.
 void AddSwitches(PageDrillData& data, const SwitchArray& array) {
   for (std::size_t i = 0; i < array.rows.size(); ++i) {
@@ -105,6 +131,8 @@ PageDrillData Observation() {
   data.make = MakeInterlockObservationCtl;
   data.controls = {{"FrameBase", "Observation Change to"}};
   AddSwitches(data, kObservation);
+  TellFrame(data, "Observation Change to");
+  TellSwitches(data, kObservation, AsOnHarbour);
   for (std::size_t i = 0; i < kObservation.rows.size(); ++i) {
     const std::int32_t k = kObservation.rows[i].accessory;
     for (const char* array : {"lblAccessories", "CheckAccessories"}) {
@@ -115,6 +143,16 @@ PageDrillData Observation() {
     }
   }
   return data;
+}
+
+void TellOther(PageDrillData& data) {
+  TellFrame(data, "Other Interlock Settings");
+  TellFrame(data, "Nosepiece Change to");
+  TellSwitches(data, kNosepiece, AsOnHarbour);
+  TellFrame(data, "Light Path Change to");
+  TellSwitches(data, kLightPath, AsOnHarbour);
+  TellFrame(data, "Zoom Change to");
+  TellSwitches(data, kOpticalZoom, AsOnHarbour);
 }
 
 PageDrillData Other() {
@@ -140,6 +178,7 @@ PageDrillData Other() {
       }
     }
   }
+  TellOther(data);
   return data;
 }
 
@@ -152,6 +191,18 @@ PageDrillData OtherWithoutStage() {
   data.shown = {{"CheckNosepiece_4", [](clsK70& k70) { k70.ILOther.Status(12, 1); },
                  [](clsK70& k70) { return std::to_string(k70.ILOther.Status(12)); }, "on"}};
   data.tabOrder = {"CheckNosepiece_0", "CheckNosepiece_1", "CheckNosepiece_3", "CheckNosepiece_4"};
+  // Nothing is on but what is unknown, and the version of the body hides the stage.
+  const auto off = [](const SwitchRow&) { return 0; };
+  const auto onIfUnknown = [](const SwitchRow& row) { return row.accessory == 13 ? 0 : 1; };
+  SwitchArray withoutStage = kNosepiece;
+  withoutStage.rows.pop_back();
+  TellFrame(data, "Other Interlock Settings");
+  TellFrame(data, "Nosepiece Change to");
+  TellSwitches(data, withoutStage, off, {5});
+  TellFrame(data, "Light Path Change to");
+  TellSwitches(data, kLightPath, onIfUnknown, {13, 1, 2});
+  TellFrame(data, "Zoom Change to");
+  TellSwitches(data, kOpticalZoom, onIfUnknown, {13, 1, 2});
   return data;
 }
 
@@ -200,6 +251,10 @@ void AddFactorRow(PageDrillData& data, const FactorRow& row) {
     data.enabling.push_back({control, "Watch", {}, false});
   }
   data.tabOrder.push_back(row.list);
+  data.accessible.push_back(told::Label(row.caption));
+  data.accessible.push_back(told::Label("Proper value    X"));
+  data.accessible.push_back(
+      told::Combo(row.caption, row.accessory == accessory::kNDFilter ? "0.75" : "1.00"));
 }
 
 PageDrillData Compensation() {
@@ -214,7 +269,10 @@ PageDrillData Compensation() {
   for (std::size_t i = 0; i < 4; ++i) {
     data.controls.push_back({Numbered("Label1", i), "Proper value    X"});
   }
+  TellFrame(data, "Compensation");
   for (const FactorRow& row : kFactorRows) AddFactorRow(data, row);
+  data.accessible.push_back(
+      told::Label("The compensation setting puts the compensation on the proper value. "));
   return data;
 }
 
@@ -234,6 +292,11 @@ PageDrillData Settings() {
   };
   AddSwitches(data, kObservation);
   data.tabOrder.insert(data.tabOrder.begin(), "optSettings_0");
+  data.accessible = {told::Label("Interlocks"), told::Group("Interlocks"),
+                     told::Chosen("Observation"), told::NotChosen("Other"),
+                     told::NotChosen("Compensation")};
+  TellFrame(data, "Observation Change to");
+  TellSwitches(data, kObservation, AsOnHarbour);
   return data;
 }
 

@@ -238,6 +238,22 @@ TEST(InterlockPageAlone, SectionsDependOnTheAccessories) {
   }
 }
 
+TEST(InterlockPageAlone, ASectionThatIsNotOfferedSaysWhy) {
+  const std::vector<QString> reasons{
+      "Nothing is mounted that follows the observation method.",
+      "Nothing is mounted that follows nosepiece, light path or zoom.",
+      "Nothing is mounted that is compensated."};
+  for (const char* bench : {"Shell", "Harbour"}) {
+    PageRig rig(bench);
+    auto& page = rig.Show(MakeInterlockSettingsCtl(rig.k70()));
+    for (int i = 0; i < 3; ++i) {
+      const QAbstractButton& option = *page.optSettings->option(i);
+      EXPECT_EQ(option.toolTip(),
+                option.isEnabled() ? QString() : reasons[static_cast<std::size_t>(i)]);
+    }
+  }
+}
+
 TEST(InterlockPageAlone, ASectionThatIsNotOfferedTakesNoClick) {
   PageRig rig("Hub");
   auto& page = rig.Show(MakeInterlockSettingsCtl(rig.k70()));

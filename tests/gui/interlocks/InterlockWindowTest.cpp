@@ -47,6 +47,13 @@ TEST(InterlockWindow, TheWindowEnablesThePageWhereOneOfItsUnitsIs) {
   EXPECT_TRUE(row.isEnabled(compensation.k70)) << "for the third unit alone";
 }
 
+TEST(InterlockWindow, TheButtonOfThePageSaysWhyItIsDisabled) {
+  AppRig rig(benches::Named("Shell"));
+  rig.Start();
+  EXPECT_EQ(rig.form->ImageButton[kInterlockPage]->toolTip(),
+            "Nothing is mounted that follows another accessory or is compensated.");
+}
+
 // The window with the page on show and the focus in the switch of the lamp.
 class ShownInterlockPage : public testing::Test {
  protected:

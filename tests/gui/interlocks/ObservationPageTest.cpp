@@ -9,6 +9,7 @@
 #include "gui/interlocks/ModelText.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
+#include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
 
 namespace mortane::test {
@@ -59,6 +60,11 @@ TEST_F(ObservationPage, SwitchesStandInThreeColumnsThatAreFilledDownwards) {
   }
   EXPECT_LT(place(0).x(), place(4).x());
   EXPECT_EQ(place(8).x() - place(4).x(), place(4).x() - place(0).x());
+  const auto tile = [&](std::size_t i) { return box(i).parentWidget()->geometry(); };
+  EXPECT_EQ(tile(8).right() + tile(0).left(), page.FrameBase->width() - 1) << "across the card";
+  EXPECT_EQ(tile(4).left() - tile(0).right() - 1, 16);
+  EXPECT_EQ(tile(1).top() - tile(0).bottom() - 1, 12);
+  EXPECT_EQ(tile(0).height(), 96) << "where there is room";
 }
 
 TEST_F(ObservationPage, AClickOrASpaceChangesOneStateAndTheCaption) {

@@ -135,10 +135,6 @@ TEST_F(JoypadPage, OfMoreButtonsIsUselessAndLeavesTheFileAlone) {
   EXPECT_EQ(Setup(), before);
 }
 
-struct SilentRow {
-  std::int32_t result;
-};
-
 TEST_F(JoypadPage, WithoutAJoystickShowsFourRowsAndTheTextOfThree) {
   for (const std::int32_t result :
        {kJoystickNoDriver, kJoystickUnplugged, kJoystickBadParameters}) {

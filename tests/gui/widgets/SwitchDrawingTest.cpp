@@ -206,9 +206,10 @@ TEST_F(SwitchDrawingTest, TheChosenTheDisabledAndTheFocusedLookDifferent) {
 TEST_F(SwitchDrawingTest, ABusyWindowChangesNothing) {
   drawing->setIndex(2);
   before->setFocus();
+  // A mark under the pointer would lose its hover.
+  for (int i = 0; i < 4; ++i) drawing->mark(i)->setAttribute(Qt::WA_UnderMouse, false);
   const QImage usual = Picture();
   window.setEnabled(false);
-  { auto b=Picture(); b.save("/tmp/swp/busy.png"); usual.save("/tmp/swp/usual.png"); int n=0; for(int y=0;y<b.height();++y) for(int x=0;x<b.width();++x) if(b.pixel(x,y)!=usual.pixel(x,y) && n++<6) printf("%d %d %x %x\n",x,y,b.pixel(x,y),usual.pixel(x,y)); printf("n %d\n",n);}
   EXPECT_EQ(Picture(), usual);
   window.setEnabled(true);
   drawing->setEnabled(false);

@@ -53,7 +53,7 @@ TEST_P(SwitchTileTest, TheSwitchStandsUnderTheFirstLetterOfItsLabel) {
   const QRect toggle = tile->toggle()->geometry();
   EXPECT_EQ(toggle.top(), label.bottom() + 1 + 4);
   EXPECT_EQ(toggle.left(), label.left());
-  EXPECT_EQ(tile->label()->contentsMargins().left(), CheckToggle::kPadding);
+  EXPECT_EQ(tile->label()->contentsMargins(), QMargins(CheckToggle::kPadding, 0, 0, 0));
   EXPECT_LE(std::abs((label.top() + toggle.bottom()) - tile->height()), 2) << "in the middle";
 }
 

@@ -111,6 +111,7 @@ TEST_F(TileLayoutTest, AHiddenTileLeavesNoGap) {
   EXPECT_EQ(layout->minimumSize().height(), kLeastHeight);
   for (Tile* tile : tiles) tile->hide();
   EXPECT_EQ(layout->minimumSize(), QSize(0, 0));
+  EXPECT_EQ(layout->sizeHint(), QSize(2 * kColumnGap, 0));
   Resize(WidthOf(2), 300);
 }
 
