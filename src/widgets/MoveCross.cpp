@@ -39,9 +39,7 @@ std::size_t SlotOf(MoveDirection direction, MoveSize size) {
 }  // namespace
 
 MoveButton::MoveButton(MoveDirection direction, MoveSize size, QWidget* parent)
-    : QPushButton(parent), direction_(direction), size_(size) {
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
+    : QPushButton(parent), direction_(direction), size_(size) {}
 
 QSize MoveButton::sizeHint() const {
   const int side = GridHeight(kButtonSide, *this);
