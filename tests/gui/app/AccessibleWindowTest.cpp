@@ -16,12 +16,13 @@ using Tree = std::vector<AccessibleControl>;
 
 TEST(AccessibleWindow, TellsWhichPageIsShownAndWhichCannotBe) {
   AppRig rig(benches::Named("Harbour"));
+  rig.instrument().Accessory(accessory::kFilterCube).state = 0;
   rig.Start();
-  const AccessibleControl interlocks{QAccessible::RadioButton, "Interlocks", "",
-                                     "unchecked, disabled"};
+  const AccessibleControl cubes{QAccessible::RadioButton, "Filter Cubes", "",
+                                "unchecked, disabled"};
   EXPECT_EQ(AccessibleTree(*rig.form->PictureMenu),
             (Tree{told::Group("Pages"), told::Chosen("System"), told::NotChosen("Objectives"),
-                  told::NotChosen("Filter Cubes"), told::NotChosen("Condensers"), interlocks,
+                  cubes, told::NotChosen("Condensers"), told::NotChosen("Interlocks"),
                   told::NotChosen("Controls")}));
 }
 

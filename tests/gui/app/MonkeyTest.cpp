@@ -35,6 +35,12 @@ const std::vector<std::string_view> kBoxes{
     "Other Application has already used this Microscope.",
     "Device Connect Error.",
     "Not Available",
+    "MoveStart Error!!",
+    "Move Stop?",
+    "Please move Focus Position",
+    "Upper Limit lower than Lower Limit.",
+    "Focus Knob Setting is changed to",
+    "XYstage Knob Setting is changed to",
 };
 
 // From the instrument whose values are odd, too.

@@ -87,6 +87,17 @@ TEST_F(ShownInterlockPage, BearsItsName) {
   EXPECT_TRUE(zFocus().isChecked());
 }
 
+// Those of what the page shows; loading the window's other pages prepares the drives for moves.
+std::vector<std::string> WritesOfSettings(const controller::Journal& journal) {
+  std::vector<std::string> writes = journal.Writes();
+  std::erase_if(writes, [](const std::string& line) {
+    return line.find("Interlock") == std::string::npos &&
+           line.find("OffsetCode") == std::string::npos &&
+           line.find("FocusCompensation") == std::string::npos;
+  });
+  return writes;
+}
+
 TEST_F(ShownInterlockPage, AReceiveShowsWhatTheControllerHolds) {
   Instrument& harbour = rig.simulated.bench().instruments[1];
   harbour.Interlock(4, 1) = 0;
@@ -100,7 +111,7 @@ TEST_F(ShownInterlockPage, AReceiveShowsWhatTheControllerHolds) {
   EXPECT_EQ(factor().currentText(), "0.90");
   EXPECT_EQ(GetK70().ILObservation.Status(4), 0);
   EXPECT_EQ(GetK70().CZDrive.curFocusCompensation, 1);
-  EXPECT_TRUE(rig.journal.Writes().empty());
+  EXPECT_EQ(WritesOfSettings(rig.journal), std::vector<std::string>{});
 }
 
 TEST_F(ShownInterlockPage, AReceiveThatGetsNoAnswerDisablesTheSwitchUnderTheFocus) {
@@ -129,7 +140,7 @@ TEST_F(ShownInterlockPage, OpeningAFileShowsWhatItHolds) {
 }
 
 TEST_F(ShownInterlockPage, SelectingAnotherMicroscopeShowsItsStates) {
-  const std::vector<Instrument> before = rig.simulated.bench().instruments;
+  rig.journal.Clear();
   Select(1);
   ASSERT_EQ(GetK70().lConnectDevice, 2);
   EXPECT_FALSE(page().isVisible()) << "the system page comes up";
@@ -140,7 +151,7 @@ TEST_F(ShownInterlockPage, SelectingAnotherMicroscopeShowsItsStates) {
   Select(2);
   ASSERT_EQ(GetK70().lConnectDevice, 3);
   EXPECT_TRUE(rig.form->ImageButton[kInterlockPage]->isEnabled());
-  EXPECT_EQ(rig.simulated.bench().instruments, before) << "nothing was sent";
+  EXPECT_EQ(WritesOfSettings(rig.journal), std::vector<std::string>{});
 }
 
 TEST_F(ShownInterlockPage, WithoutAConnectionThePageIsStillLoadedAndShown) {
