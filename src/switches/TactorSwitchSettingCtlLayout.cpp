@@ -30,7 +30,6 @@ QPushButton* FileButton(IconName icon, const char* caption, const char* name, QW
   button->setIconSize({kFileIconSide, kFileIconSide});
   button->setAccessibleName(QLatin1String(caption));
   button->setToolTip(button->accessibleName());
-  button->setFixedWidth(GridHeight(grid::kFieldHeight, *button) + grid::kUnit);
   TakeFocusByClicks(*button);
   return button;
 }

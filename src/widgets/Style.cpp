@@ -32,6 +32,11 @@ QRect OptionArea(const QStyleOptionButton& option) {
                             QRect(option.rect.topLeft(), QSize(width, option.rect.height())));
 }
 
+bool IsPictureOnly(const QStyleOption& option) {
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+  return button != nullptr && button->text.isEmpty() && !button->icon.isNull();
+}
+
 }  // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -105,7 +110,10 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
       result = QSize(size.width() + kComboTextMargin + kComboArrowWidth + grid::kUnit, field);
       break;
     case CT_PushButton:
-      result = QSize(qMax(result.width(), size.width() + 2 * kButtonPadding), field);
+      if (IsPictureOnly(*option))
+        result = QSize(qMax(size.width(), field) + grid::kUnit, field);
+      else
+        result = QSize(qMax(result.width(), size.width() + 2 * kButtonPadding), field);
       break;
     case CT_HeaderSection:
       result.setHeight(GridHeight(28, option->fontMetrics));

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QPalette>
+#include <QPixmap>
+#include <QPushButton>
 
 #include "gui/support/Contrast.h"
 #include "gui/widgets/TestWindow.h"
@@ -80,6 +82,19 @@ TEST(Theme, HeightsFollowALargeFont) {
   EXPECT_EQ(GridHeight(30, QFontMetrics(font)), 30);
   font.setPixelSize(60);
   EXPECT_EQ(GridHeight(30, QFontMetrics(font)), QFontMetrics(font).height() + 10);
+}
+
+TEST(Theme, AButtonWithAPictureAloneIsNearlySquare) {
+  QPixmap picture(20, 20);
+  picture.fill(Qt::black);
+  QPushButton button;
+  button.setIcon(picture);
+  button.setIconSize(picture.size());
+  const int height = GridHeight(grid::kFieldHeight, button);
+  EXPECT_EQ(button.sizeHint(), QSize(height + grid::kUnit, height));
+  EXPECT_EQ(button.minimumSizeHint(), button.sizeHint());
+  button.setText("New");
+  EXPECT_GE(button.sizeHint().width(), 20 + button.fontMetrics().horizontalAdvance("New") + 36);
 }
 
 TEST(Theme, FontsKeepTheFamilyOfTheSystemAndTheScale) {
