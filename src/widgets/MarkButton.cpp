@@ -23,10 +23,15 @@ MarkButton::MarkButton(SwitchMark mark, QWidget* parent)
 
 void MarkButton::Place(const QRectF& area) {
   area_ = area;
-  const QSizeF room = area.size() + QSizeF(2, 2) * kFocusRoom;
-  QRectF outer(QPointF(), room.expandedTo({kLeastSide, kLeastSide}));
-  outer.moveCenter(area.center());
-  setGeometry(outer.toAlignedRect());
+  QRectF hit(QPointF(), area.size().expandedTo({kLeastSide, kLeastSide}));
+  hit.moveCenter(area.center());
+  const QRect inner = hit.toAlignedRect();
+  const QRect outer =
+      hit.united(area.adjusted(-kFocusRoom, -kFocusRoom, kFocusRoom, kFocusRoom)).toAlignedRect();
+  setGeometry(outer);
+  setContentsMargins(inner.left() - outer.left(), inner.top() - outer.top(),
+                     outer.right() - inner.right(), outer.bottom() - inner.bottom());
+  if (IsDial(mark_.kind)) setMask(QRegion(rect(), QRegion::Ellipse));
   update();
 }
 

@@ -14,8 +14,9 @@ class MarkButton : public QAbstractButton {
  public:
   MarkButton(SwitchMark mark, QWidget* parent);
 
-  // Where the mark is painted, in the parent's coordinates. The button is at least large enough
-  // to be hit, and has room for the line of the focus.
+  // Where the mark is painted, in the parent's coordinates. The button's contents are at least
+  // large enough to be hit; the margins around them are room for the line of the focus. A dial is
+  // round, so that it leaves its corners to the keys beside it.
   void Place(const QRectF& area);
   [[nodiscard]] const QRectF& area() const { return area_; }
 

@@ -10,6 +10,7 @@
 #include "gui/support/FontScope.h"
 #include "gui/support/PageDrill.h"
 #include "gui/support/PageLayout.h"
+#include "widgets/MarkButton.h"
 #include "widgets/Theme.h"
 
 namespace mortane::test {
@@ -48,6 +49,13 @@ class SchemeScope {
   static void Apply(Scheme scheme) { ApplyTheme(*qobject_cast<QApplication*>(qApp), scheme); }
 };
 
+// A size that follows from a width, such as that of tiles in fewer columns, is asked for from one
+// parent to the next, each in a turn of the event loop of its own.
+void ComeToRest() {
+  constexpr int kLongest = 10000;  // ms
+  QApplication::processEvents(QEventLoop::AllEvents, kLongest);
+}
+
 QImage PictureOf(PageRig& rig, const QWidget& control) {
   QApplication::processEvents();
   const QPoint corner = control.mapTo(&rig.window(), QPoint());
@@ -77,6 +85,15 @@ QColor MostFrequentColour(const QImage& picture) {
   return QColor(most->first);
 }
 
+// The line of the focus is white on the dark plates of marks and on a fill in Highlight.
+QColor FocusColour(const QWidget& control, const QImage& before) {
+  if (qobject_cast<const MarkButton*>(&control) != nullptr) return ToneColor(Tone::RailText);
+  const QPalette palette = QApplication::palette();
+  const QColor highlight = palette.color(QPalette::Highlight);
+  const bool onHighlight = MostFrequentColour(before) == highlight;
+  return onHighlight ? palette.color(QPalette::HighlightedText) : highlight;
+}
+
 bool ShowsText(const QWidget& control) {
   if (const auto* label = qobject_cast<const QLabel*>(&control)) return !label->text().isEmpty();
   return qobject_cast<const QLineEdit*>(&control) != nullptr ||
@@ -96,7 +113,7 @@ TEST_P(PageDrill, ShowsAllControlsWholeAndApart) {
     window.resize(face.room);
     page.show();
     window.show();
-    QApplication::processEvents();
+    ComeToRest();
     EXPECT_EQ(LayoutFaults(window), std::vector<std::string>{})
         << face.fontSize << " " << face.letterSpacing << " " << face.room.width();
   }
@@ -113,11 +130,11 @@ TEST_P(PageDrill, EveryStopOfTheTabKeyShowsItsFocus) {
     const SchemeScope scope(scheme);
     PageRig rig(GetParam().bench);
     ShowOn(rig);
-    const QColor focus = QApplication::palette().color(QPalette::Highlight);
     for (const std::string& stop : rig.TabOrder()) {
       QWidget& control = rig.Find(stop);
       rig.elsewhere().setFocus();
       const QImage before = PictureOf(rig, control);
+      const QColor focus = FocusColour(control, before);
       control.setFocus();
       EXPECT_GE(NewlyColoured(before, PictureOf(rig, control), focus), kLeastPixels) << stop;
     }

@@ -37,9 +37,12 @@ void CheckSize(const QWidget& control, std::vector<std::string>& faults) {
   faults.push_back(Describe(control) + " needs " + SizeText(needed));
 }
 
-// The control in its parent's coordinates, without the room around it for halo and focus.
-QRect Contents(const QWidget& control) {
-  return control.contentsRect().translated(control.pos());
+// What the control takes of its parent, without the room around it for halo and focus. A masked
+// control takes what its mask leaves.
+QRegion Contents(const QWidget& control) {
+  QRegion contents = control.contentsRect();
+  if (!control.mask().isEmpty()) contents &= control.mask();
+  return contents.translated(control.pos());
 }
 
 void CheckChildren(const QWidget& parent, std::vector<std::string>& faults) {

@@ -87,6 +87,31 @@ TEST_F(SwitchDrawingTest, MarksMoveWithTheScaleAndAreLargeEnough) {
   }
 }
 
+TEST_F(SwitchDrawingTest, MarksHaveRoomForTheFocusAroundWhatIsHit) {
+  for (const QSize size : {QSize(483, 242), QSize(604, 302), QSize(906, 453)}) {
+    drawing->resize(size);
+    for (const PlacedMark& placed : Plan().marks) {
+      const QAbstractButton* mark = drawing->mark(placed.index);
+      const QSizeF painted = placed.area.size() * drawing->drawingScale();
+      const QRect contents = mark->contentsRect();
+      EXPECT_GE(contents.width(), qMax(painted.width(), 24.0));
+      EXPECT_GE(contents.height(), qMax(painted.height(), 24.0));
+      EXPECT_LT(contents.width(), qMax(painted.width(), 24.0) + 2);
+      EXPECT_LT(contents.height(), qMax(painted.height(), 24.0) + 2);
+      EXPECT_GE(mark->width(), painted.width() + 6);
+      EXPECT_GE(mark->height(), painted.height() + 6);
+    }
+  }
+}
+
+TEST_F(SwitchDrawingTest, OnlyDialsAreRound) {
+  for (const PlacedMark& placed : Plan().marks) {
+    const QAbstractButton* mark = drawing->mark(placed.index);
+    EXPECT_EQ(drawing->childAt(mark->pos() + QPoint(1, 1)) == mark, !IsDial(placed.mark.kind));
+    EXPECT_EQ(drawing->childAt(mark->geometry().center()), mark);
+  }
+}
+
 TEST_F(SwitchDrawingTest, AClickInTheMiddleOfAMarkChoosesItAndIsTold) {
   QSignalSpy clicks(drawing, &SwitchDrawing::chosen);
   for (const int i : {0, 1, 2, 3, 3}) {
