@@ -9,6 +9,7 @@
 namespace mortane {
 
 class PageButton;
+class RovingTabStop;
 
 // One Tab stop. Up, Down, Home and End only move the focus, Space selects.
 class Rail : public QWidget {
@@ -30,14 +31,11 @@ class Rail : public QWidget {
   void selectionChanged(int index);
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  bool MoveFocus(int key);
-  void UpdateTabStop();
-
   QVector<PageButton*> buttons_;
+  RovingTabStop* stop_;
   int selected_ = -1;
 };
 
