@@ -1,11 +1,10 @@
 #include "app/MortaneMainForm.h"
 
 #include <QRadioButton>
-#include <QScrollArea>
-#include <QScrollBar>
 
 #include "app/CommandBoundary.h"
 #include "app/GetAppIcon.h"
+#include "app/PageArea.h"
 #include "common/Numbers.h"
 #include "hub/clsK70.h"
 #include "widgets/CommandKey.h"
@@ -45,7 +44,9 @@ void MortaneMainForm::LoadStep(int step) {
       }
       break;
     case 3:
-      StackPages();
+      for (Page* page : pages_) {
+        if (page != nullptr) area_->Add(page);
+      }
       break;
     case 4:
       for (PageButton* button : ImageButton) button->SetSelected(false);
@@ -88,15 +89,7 @@ void MortaneMainForm::EnablePage(std::size_t index, bool enabled, const QString&
 
 void MortaneMainForm::OnMenuChanged(std::size_t index) {
   PictureMenu->select(static_cast<int>(index));
-  ShowPage(pages_[index]);
-}
-
-void MortaneMainForm::ShowPage(Page* page) {
-  if (currentPage_ != nullptr) currentPage_->hide();
-  currentPage_ = page;
-  if (currentPage_ != nullptr) currentPage_->show();
-  scroll_->verticalScrollBar()->setValue(0);
-  scroll_->horizontalScrollBar()->setValue(0);
+  area_->Show(pages_[index]);
 }
 
 // A page that is not visible wrote its edits to the model when they were made.

@@ -11,7 +11,6 @@ class QAction;
 class QFrame;
 class QMenu;
 class QRadioButton;
-class QScrollArea;
 class QToolBar;
 
 namespace mortane {
@@ -25,6 +24,7 @@ class ObjectiveSettingsCtl;
 class PageButton;
 class Rail;
 class Page;
+class PageArea;
 class SystemSettingsCtl;
 class clsK70;
 struct FileResult;
@@ -75,13 +75,11 @@ class MortaneMainForm : public ProgramForm {
   void BuildRail();
   void BuildCommandBar();
   void BuildPages(const FormServices& services);
-  void StackPages();
   void Arrange();
 
   void RefreshPages();
   void EnablePage(std::size_t index, bool enabled, const QString& whyDisabled);
   void OnMenuChanged(std::size_t index);
-  void ShowPage(Page* page);
   void SaveCurrentPage();
   void LoadAllPages();
 
@@ -102,8 +100,7 @@ class MortaneMainForm : public ProgramForm {
   PageTable table_;
   std::array<Page*, kPageCount> pages_{};
   SessionNote* note_ = nullptr;
-  QScrollArea* scroll_ = nullptr;
-  Page* currentPage_ = nullptr;
+  PageArea* area_ = nullptr;
 };
 
 }  // namespace mortane

@@ -3,14 +3,14 @@
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QMenuBar>
-#include <QPainter>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QToolBar>
 #include <algorithm>
 
+#include "app/CommandBar.h"
 #include "app/GetAppIcon.h"
 #include "app/MortaneMainForm.h"
+#include "app/PageArea.h"
 #include "widgets/CommandKey.h"
 #include "widgets/Named.h"
 #include "widgets/Page.h"
@@ -27,17 +27,6 @@ struct CommandRow {
   const char* text;
   IconName icon;
   void (MortaneMainForm::*run)();
-};
-
-// The panel of the command keys, under a line that ends the page.
-class CommandBar : public QWidget {
- public:
-  using QWidget::QWidget;
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter(this).fillRect(0, 0, width(), 1, palette().color(QPalette::Active, QPalette::Mid));
-  }
 };
 
 }  // namespace
@@ -127,51 +116,34 @@ void MortaneMainForm::BuildCommandBar() {
       {"Send", IconName::Send, &MortaneMainForm::DoSend},
       {"Exit", IconName::Exit, &MortaneMainForm::DoExit},
   }};
-  Picture2 = new CommandBar(this);
-  Picture2->setObjectName("Picture2");
-  auto* keys = new QHBoxLayout(Picture2);
-  keys->setContentsMargins(grid::kPageMargin, grid::kBetweenControls, grid::kPageMargin,
-                           grid::kBetweenControls);
-  keys->setSpacing(grid::kBetweenControls);
+  auto* bar = Named(new CommandBar(this), "Picture2");
+  Picture2 = bar;
   for (std::size_t i = 0; i < kCommands.size(); ++i) {
     const CommandRow& row = kCommands[i];
-    if (i == 2) keys->addStretch();
+    if (i == 2) bar->row().addStretch();
     ImageCommand[i] =
         Named(new CommandKey(row.icon, row.text, Picture2), "ImageCommand", static_cast<int>(i));
     connect(ImageCommand[i], &CommandKey::commanded, this, [this, &row] { Run(row.run); });
-    keys->addWidget(ImageCommand[i]);
+    bar->row().addWidget(ImageCommand[i]);
   }
   ImageCommand[2]->setMain(true);
 }
 
 void MortaneMainForm::BuildPages(const FormServices& services) {
-  FrameControl = Named(new QFrame(this), "FrameControl");
+  area_ = new PageArea(this);
+  FrameControl = area_->frame();
   for (std::size_t i = 0; i < table_.size(); ++i) {
     if (table_[i].make) pages_[i] = table_[i].make(*this, services);
   }
 }
 
-// The pages lie on top of each other, and one of them is visible.
-void MortaneMainForm::StackPages() {
-  auto* stack = new QGridLayout(FrameControl);
-  stack->setContentsMargins({});
-  for (Page* page : pages_) {
-    if (page != nullptr) stack->addWidget(page, 0, 0);
-  }
-}
-
 void MortaneMainForm::Arrange() {
-  scroll_ = Named(new QScrollArea(this), "ScrollControl");
-  scroll_->setFrameShape(QFrame::NoFrame);
-  scroll_->setWidgetResizable(true);
-  scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setWidget(FrameControl);
   auto* content = new QWidget(this);
   auto* cells = new QGridLayout(content);
   cells->setContentsMargins({});
   cells->setSpacing(0);
   cells->addWidget(PictureMenu, 0, 0, 2, 1);
-  cells->addWidget(scroll_, 0, 1);
+  cells->addWidget(area_, 0, 1);
   cells->addWidget(Picture2, 1, 1);
   cells->setRowStretch(0, 1);
   cells->setColumnStretch(1, 1);

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
@@ -93,7 +94,9 @@ void ProgramForm::FirstActivation() {
 
 void ProgramForm::RunCommand(const std::function<void()>& command) {
   if (std::exchange(commandRunning_, true)) return;
+  const QPointer<QWidget> form(this);  // a command may end it
   RunStep(prompts(), command);
+  if (!form) return;
   commandRunning_ = false;
   const bool asked = std::exchange(closeRequested_, false);
   if (asked && isVisible()) RunCommand([this] { AskAndUnload(); });

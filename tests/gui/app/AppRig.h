@@ -94,13 +94,14 @@ inline std::vector<std::string> OfAllPages(const std::string& operation) {
 template <typename Form = MortaneMainForm>
 class BasicAppRig : public RigLibrary {
  public:
-  explicit BasicAppRig(Bench bench, std::vector<std::string> arguments = {},
-                       const PageTable& pages = MainPages())
+  // With the window's own pages, or those of a table of its kind.
+  template <typename... Table>
+  explicit BasicAppRig(Bench bench, std::vector<std::string> arguments = {}, const Table&... pages)
       : RigLibrary(std::move(bench)) {
     clsK70& k70 = ProvideK70(library, prompts);
     arguments.insert(arguments.begin(), "mortane");
     form = std::make_unique<Form>(
-        FormServices{k70, library, prompts, joystick, std::move(arguments)}, pages);
+        FormServices{k70, library, prompts, joystick, std::move(arguments)}, pages...);
   }
   ~BasicAppRig() {
     form.reset();
