@@ -17,6 +17,7 @@ LAYERS = (
     ("objectives", "filters", "condensers", "interlocks", "drives", "switches"),
     ("hub",),
     ("app",),
+    ("wizard",),
 )
 # The kit of controls stands beside them: it sees the texts of the core alone, and only pages and
 # windows see it.
@@ -50,7 +51,7 @@ def is_page(name):
 
 
 def has_qt(name):
-    return room_of(name) in (KIT, "app") or is_page(name)
+    return room_of(name) in (KIT, "app", "wizard") or is_page(name)
 
 
 def direction_problem(name, target):

@@ -1,0 +1,76 @@
+#include "wizard/SadrelEndingCtl.h"
+
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/CommandBoundary.h"
+#include "app/ShownText.h"
+#include "hub/clsK70.h"
+#include "widgets/Card.h"
+#include "widgets/ClickFocus.h"
+#include "widgets/Named.h"
+#include "widgets/PageHeader.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kWaitAfterSendMs = 3000;
+constexpr std::int16_t kSent = -1;
+
+}  // namespace
+
+SadrelEndingCtl::SadrelEndingCtl(clsK70& k70, QWidget* parent)
+    : Page(parent),
+      Header(Named(new PageHeader(IconName::Flag, QStringLiteral("Ending"), this), "Header")),
+      FrameBase(Named(new Card(QStringLiteral("Ending"), this), "FrameBase")),
+      TextResult(Named(new QPlainTextEdit(FrameBase), "TextResult")),
+      ButtonSend(
+          Named(new QPushButton(QStringLiteral("Send to Microscope"), FrameBase), "ButtonSend")),
+      k70_(k70) {
+  TextResult->setAccessibleName(QStringLiteral("Changes"));
+  TextResult->setReadOnly(true);
+  TextResult->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  TextResult->setTabChangesFocus(true);
+  TextResult->setLineWrapMode(QPlainTextEdit::NoWrap);
+  TextResult->setFont(FixedFont());
+  TextResult->document()->setDocumentMargin(grid::kBetweenControls);
+  ButtonSend->setAutoDefault(true);  // acts on the Enter key, too
+  TakeFocusByClicks(*ButtonSend);
+  connect(ButtonSend, &QPushButton::clicked, this, &SadrelEndingCtl::OnButtonSend);
+  Arrange();
+}
+
+void SadrelEndingCtl::Arrange() {
+  FrameBase->body()->addWidget(TextResult, 1);
+  FrameBase->body()->addWidget(ButtonSend, 0, Qt::AlignRight);
+  MakePageLayout(this, Header)->addWidget(FrameBase, 1);
+}
+
+void SadrelEndingCtl::LoadData() {
+  const std::string report = k70_.Modify();
+  if (report == report_) return;
+  sent = 0;
+  report_ = report;
+  TextResult->setPlainText(ShownText(report));
+}
+
+void SadrelEndingCtl::Send() {
+  RunStep(k70_.prompts(), [this] { k70_.Send(); });
+  sent = kSent;
+  emit Sent();
+}
+
+// The window closes on the event of the sending, so nothing of this page is used after it.
+void SadrelEndingCtl::OnButtonSend() {
+  Prompts& prompts = k70_.prompts();
+  {
+    const HourglassScope hourglass(prompts);
+    Send();
+    prompts.Wait(kWaitAfterSendMs);
+  }
+  prompts.FlushInput();
+}
+
+}  // namespace mortane

@@ -1,0 +1,50 @@
+// The last step: what a Send would change, and the Send.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "widgets/Page.h"
+
+class QPlainTextEdit;
+class QPushButton;
+
+namespace mortane {
+
+class Card;
+class PageHeader;
+class clsK70;
+
+class SadrelEndingCtl : public Page {
+  Q_OBJECT
+
+ public:
+  explicit SadrelEndingCtl(clsK70& k70, QWidget* parent = nullptr);
+
+  // Shows what differs from the controller. May raise what asking the controller raises; the old
+  // report stays then.
+  void LoadData() override;
+  // Sends all. This page may be gone when it returns.
+  void Send();
+
+  // -1 when the changes of the report have been sent.
+  std::int16_t sent = 0;
+
+  PageHeader* Header;
+  Card* FrameBase;
+  QPlainTextEdit* TextResult;
+  QPushButton* ButtonSend;
+
+ signals:
+  // The sending is done.
+  void Sent();
+
+ private:
+  void Arrange();
+  void OnButtonSend();
+
+  clsK70& k70_;
+  std::string report_;  // as TextResult was given it
+};
+
+}  // namespace mortane

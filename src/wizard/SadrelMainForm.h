@@ -1,0 +1,102 @@
+// The wizard: ten steps, one page each, from the system's name to the sending.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "app/ProgramForm.h"
+#include "wizard/StepTable.h"
+
+class QFrame;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+
+namespace mortane {
+
+class CondenserSettingsCtl;
+class FilterQubeSettingsCtl;
+class HelpLine;
+class ObjectiveSettingsCtl;
+class Page;
+class PageArea;
+class SadrelEndingCtl;
+class SelSetupItemCtl;
+class StepButton;
+class StepRail;
+class SystemSettingsCtl;
+
+inline constexpr char kWizardTitle[] = "Sadrel";
+
+// Pages store edits as they are made: nothing else is taken from their controls before a Send.
+class SadrelMainForm : public ProgramForm {
+ public:
+  explicit SadrelMainForm(const FormServices& services, const StepTable& steps = WizardSteps());
+
+  void Load() override;
+
+  // -1 for a step in the sequence, 0 for one left out.
+  std::array<std::int16_t, kStepCount> stepEnabled{};
+  int currentStep = -1;  // -1 before the first
+  Page* currentPage = nullptr;
+  int menuIndex = -1;  // of the highlighted picture
+
+  StepRail* PictureMenu;
+  std::array<StepButton*, kStepCount> ImageMenu;
+  QFrame* FrameOptionButton;
+  std::array<QRadioButton*, kStepCount> optMenu;
+  QLabel* LabelHelp;
+  QFrame* FrameControl;
+  QPushButton* ButtonCancel;
+  QPushButton* ButtonPrevious;
+  QPushButton* ButtonNext;
+  QPushButton* ButtonFinish;
+  SystemSettingsCtl* SystemSettingsCtl1 = nullptr;
+  SelSetupItemCtl* SelSetupItemCtl1 = nullptr;
+  ObjectiveSettingsCtl* ObjectiveSettingsCtl1 = nullptr;
+  FilterQubeSettingsCtl* FilterQubeSettingsCtl1 = nullptr;
+  CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
+  SadrelEndingCtl* SadrelEndingCtl1 = nullptr;
+
+  // What the pages' events bring about; connected where the pages are made.
+  void OnItemChanged(int item, bool enabled);
+  void OnSent();
+
+ protected:
+  void OnConnected(bool whole) override;
+
+ private:
+  using Act = void (SadrelMainForm::*)();
+
+  void BuildRail();
+  void BuildPages(clsK70& k70);
+  QWidget* BuildButtons();
+  QPushButton* AddButton(const char* name, const QString& text, Act act, QWidget* bar);
+  void Arrange(QWidget* buttons);
+
+  void EnableStep(int step, bool enabled, const QString& whyOff);
+  QString WhyOff(int item) const;
+  void OnPicture(int index);
+  void OnMenuChanged(int index);
+  void OnTab(int step, int tab);
+
+  void GoToStep(int step);
+  void EnterStep(int step);
+  void ShowPage(Page* page);
+  void MarkMainButton();
+  void FocusPage();
+  int NextStep() const;
+  int PreviousStep() const;
+
+  void DoPrevious();
+  void DoNext();
+  void DoFinish();
+  void DoCancel();
+
+  StepTable table_;
+  std::array<Page*, kStepCount> pages_{};
+  HelpLine* help_ = nullptr;
+  PageArea* area_ = nullptr;
+};
+
+}  // namespace mortane

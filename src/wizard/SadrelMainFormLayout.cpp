@@ -1,0 +1,114 @@
+// The controls of the wizard and where they stand.
+#include <QGridLayout>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "app/CommandBar.h"
+#include "app/PageArea.h"
+#include "widgets/ClickFocus.h"
+#include "widgets/ContainerPage.h"
+#include "widgets/Named.h"
+#include "widgets/Theme.h"
+#include "wizard/HelpLine.h"
+#include "wizard/SadrelMainForm.h"
+#include "wizard/StepButton.h"
+#include "wizard/StepRail.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kButtonWidth = 104;
+
+}  // namespace
+
+SadrelMainForm::SadrelMainForm(const FormServices& services, const StepTable& steps)
+    : ProgramForm(services, QLatin1String(kWizardTitle)), table_(steps) {
+  setObjectName("SadrelMainForm");
+  // The Tab key goes by the order of making: steps, page, buttons.
+  BuildRail();
+  help_ = new HelpLine(this);
+  LabelHelp = help_->LabelHelp;
+  BuildPages(services.k70);
+  Arrange(BuildButtons());
+  MarkMainButton();
+  // A window that is activated without a focus gives it to the first field, which is then left.
+  ButtonNext->setFocus();
+}
+
+void SadrelMainForm::BuildRail() {
+  PictureMenu = Named(new StepRail(this), "PictureMenu");
+  FrameOptionButton = Named(new QFrame(this), "FrameOptionButton");
+  FrameOptionButton->hide();
+  for (int i = 0; i < kStepCount; ++i) {
+    const auto step = static_cast<std::size_t>(i);
+    optMenu[step] = Named(new QRadioButton(FrameOptionButton), "optMenu", i);
+    ImageMenu[step] =
+        PictureMenu->button(PictureMenu->AddStep(table_[step].icon, table_[step].name));
+    connect(optMenu[step], &QRadioButton::toggled, this, [this, i](bool checked) {
+      if (checked) OnMenuChanged(i);
+    });
+  }
+  connect(PictureMenu, &StepRail::chosen, this, &SadrelMainForm::OnPicture);
+}
+
+void SadrelMainForm::BuildPages(clsK70& k70) {
+  area_ = new PageArea(this);
+  FrameControl = area_->frame();
+  QStringList texts;
+  for (int i = 0; i < kStepCount; ++i) {
+    const StepRow& row = table_[static_cast<std::size_t>(i)];
+    for (const QString& text : row.help) texts << text;
+    if (!row.make) continue;
+    Page* page = row.make(*this, k70);
+    pages_[static_cast<std::size_t>(i)] = page;
+    area_->Add(page);
+    if (auto* container = qobject_cast<ContainerPage*>(page)) {
+      connect(container, &ContainerPage::Change, this, [this, i](int tab) { OnTab(i, tab); });
+    }
+  }
+  help_->SetTexts(texts);
+}
+
+QPushButton* SadrelMainForm::AddButton(const char* name, const QString& text, Act act,
+                                       QWidget* bar) {
+  auto* button = Named(new QPushButton(text, bar), name);
+  button->setMinimumWidth(kButtonWidth);
+  button->setAutoDefault(true);  // acts on the Enter key, too
+  TakeFocusByClicks(*button);
+  connect(button, &QPushButton::clicked, this, [this, act] {
+    // By its letter a button acts without the focus.
+    if (LeaveFocusedField()) RunCommand([this, act] { (this->*act)(); });
+  });
+  bar->layout()->addWidget(button);
+  return button;
+}
+
+QWidget* SadrelMainForm::BuildButtons() {
+  auto* bar = new CommandBar(this);
+  ButtonCancel =
+      AddButton("ButtonCancel", QStringLiteral("&Cancel"), &SadrelMainForm::DoCancel, bar);
+  bar->row().addStretch();
+  ButtonPrevious =
+      AddButton("ButtonPrevious", QStringLiteral("&Previous"), &SadrelMainForm::DoPrevious, bar);
+  ButtonNext = AddButton("ButtonNext", QStringLiteral("&Next"), &SadrelMainForm::DoNext, bar);
+  bar->row().addSpacing(grid::kBetweenColumns);
+  ButtonFinish =
+      AddButton("ButtonFinish", QStringLiteral("&Finish"), &SadrelMainForm::DoFinish, bar);
+  return bar;
+}
+
+void SadrelMainForm::Arrange(QWidget* buttons) {
+  auto* content = new QWidget(this);
+  auto* cells = new QGridLayout(content);
+  cells->setContentsMargins({});
+  cells->setSpacing(0);
+  cells->addWidget(PictureMenu, 0, 0, 3, 1);
+  cells->addWidget(help_, 0, 1);
+  cells->addWidget(area_, 1, 1);
+  cells->addWidget(buttons, 2, 1);
+  cells->setRowStretch(1, 1);
+  cells->setColumnStretch(1, 1);
+  SetContent(content);
+}
+
+}  // namespace mortane

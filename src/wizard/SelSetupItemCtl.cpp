@@ -1,0 +1,196 @@
+#include "wizard/SelSetupItemCtl.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <functional>
+#include <utility>
+
+#include "app/SettingsFiles.h"
+#include "hub/clsK70.h"
+#include "widgets/Card.h"
+#include "widgets/ListBox.h"
+#include "widgets/Named.h"
+#include "widgets/OptionGroup.h"
+#include "widgets/PageHeader.h"
+#include "widgets/Theme.h"
+#include "wizard/SetupItems.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kStandard = 0;
+constexpr int kCustom = 1;
+constexpr int kFile = 2;
+
+constexpr const char* kModes[] = {"Standard", "Custom", "File"};
+
+bool IsReleasedOver(const QWidget& control, const QMouseEvent& release) {
+  return control.rect().contains(release.position().toPoint());
+}
+
+// Acts on each release of the mouse over it, also when it is selected already; the keyboard only
+// selects it.
+class FileOption : public QRadioButton {
+ public:
+  FileOption(const QString& text, QWidget* parent, std::function<void()> act)
+      : QRadioButton(text, parent), act_(std::move(act)) {}
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    const bool over = IsReleasedOver(*this, *event);
+    QRadioButton::mouseReleaseEvent(event);
+    if (over) act_();
+  }
+
+ private:
+  std::function<void()> act_;
+};
+
+// Acts on each release of the mouse over it, after its check marks have followed.
+class ReleaseList : public ListBox {
+ public:
+  ReleaseList(QWidget* parent, std::function<void()> act) : ListBox(parent), act_(std::move(act)) {}
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    const bool over = IsReleasedOver(*viewport(), *event);
+    ListBox::mouseReleaseEvent(event);
+    if (over) act_();
+  }
+
+ private:
+  std::function<void()> act_;
+};
+
+}  // namespace
+
+SelSetupItemCtl::SelSetupItemCtl(clsK70& k70, QWidget* parent)
+    : Page(parent),
+      CommonDialog1(SettingsFileQuestion()),
+      Header(Named(new PageHeader(IconName::CheckList, QStringLiteral("Setup Items"), this),
+                   "Header")),
+      FrameBase(Named(new Card({}, this), "FrameBase")),
+      List1(Named(new ListBox(FrameBase), "List1")),
+      Frame1(BuildOptions()),
+      ListStandard(Named(new ListBox(FrameBase), "ListStandard")),
+      ListCustom(
+          Named(new ReleaseList(FrameBase, [this] { RaiseRows(*ListCustom); }), "ListCustom")),
+      k70_(k70) {
+  List1->hide();
+  for (const SetupItem& item : kSetupItems) List1->addRow(QLatin1String(item.name));
+  Watch(*ListStandard, kModes[kStandard]);
+  Watch(*ListCustom, kModes[kCustom]);
+  ListStandard->setEnabled(false);
+  Arrange();
+  connect(optSetupMode, &OptionGroup::selectionChanged, this, &SelSetupItemCtl::OnMode);
+}
+
+QFrame* SelSetupItemCtl::BuildOptions() {
+  auto* frame = Named(new QFrame(FrameBase), "Frame1");
+  optSetupMode = new OptionGroup(this);
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins({});
+  column->setSpacing(grid::kBetweenControls);
+  for (const int mode : {kStandard, kCustom}) {
+    column->addWidget(optSetupMode->addOption(QLatin1String(kModes[mode]), "optSetupMode", frame));
+  }
+  auto* file = new FileOption(QLatin1String(kModes[kFile]), frame, [this] { OnFile(); });
+  optSetupMode->add(Named(file, "optSetupMode", kFile), kFile);
+  column->addWidget(file);
+  column->addStretch();
+  return frame;
+}
+
+// The person's clicks raise the event of a row; so does a check mark that changes.
+void SelSetupItemCtl::Watch(ListBox& list, const char* accessibleName) {
+  list.setAccessibleName(QLatin1String(accessibleName));
+  const auto raise = [this, &list](int row) { RaiseRow(list, row); };
+  connect(&list, &ListBox::selectionChanged, this, raise);
+  connect(&list, &ListBox::rowChecked, this, raise);
+}
+
+void SelSetupItemCtl::Arrange() {
+  auto* columns = new QHBoxLayout;
+  columns->setSpacing(grid::kBetweenColumns);
+  columns->addWidget(Frame1);
+  columns->addWidget(ListStandard, 1);
+  columns->addWidget(ListCustom, 1);
+  FrameBase->body()->addLayout(columns);
+  MakePageLayout(this, Header)->addWidget(FrameBase, 1);
+}
+
+int SelSetupItemCtl::SetupMode() const {
+  return optSetupMode->selected();
+}
+
+void SelSetupItemCtl::SetupMode(int mode) {
+  if (mode == SetupMode()) {
+    OnMode(mode);
+  } else {
+    optSetupMode->select(mode);
+  }
+}
+
+void SelSetupItemCtl::LoadData() {
+  ListStandard->clearRows();
+  ListCustom->clearRows();
+  SetupMode(kStandard);
+  for (std::size_t i = 0; i < kSetupItems.size(); ++i) {
+    const SetupItem& item = kSetupItems[i];
+    if (mortane::IsOffered(item, k70_)) {
+      AddRow(*ListStandard, static_cast<int>(i), item.isStandard);
+    }
+  }
+  for (int row = 0; row < ListStandard->rowCount(); ++row) {
+    AddRow(*ListCustom, ListStandard->data(row).toInt(), ListStandard->isRowChecked(row));
+  }
+  ListStandard->setIndex(-1);
+  if (ListCustom->rowCount() > 0) ListCustom->setIndex(0);
+}
+
+bool SelSetupItemCtl::IsOffered(int item) const {
+  for (int row = 0; row < ListStandard->rowCount(); ++row) {
+    if (ListStandard->data(row).toInt() == item) return true;
+  }
+  return false;
+}
+
+// The check of a new row counts as a click. The list tells of a check mark that changes; a row that
+// stays unchecked counts as well.
+void SelSetupItemCtl::AddRow(ListBox& list, int item, bool checked) {
+  const int row = list.addRow(List1->text(item), item);
+  list.SetRowChecked(row, checked);
+  if (!checked) RaiseRow(list, row);
+}
+
+void SelSetupItemCtl::RaiseRow(const ListBox& list, int row) {
+  emit ItemChanged(list.data(row).toInt(), list.isRowChecked(row));
+}
+
+void SelSetupItemCtl::RaiseRows(const ListBox& list) {
+  for (int row = 0; row < list.rowCount(); ++row) RaiseRow(list, row);
+}
+
+void SelSetupItemCtl::OnMode(int mode) {
+  ListCustom->setEnabled(mode == kCustom);
+  emit ModeChanged(mode);
+  if (mode == kStandard) RaiseRows(*ListStandard);
+  if (mode == kCustom) RaiseRows(*ListCustom);
+}
+
+// Settings from a file never change the system's name here. Whether a file was read or not, every
+// step that is offered is on afterwards; the check marks stay.
+void SelSetupItemCtl::OnFile() {
+  optSetupMode->select(kFile);
+  const std::string name = k70_.SystemName;
+  OpenSettings(k70_.prompts(), CommonDialog1, this);
+  k70_.SystemName = name;
+  for (int row = 0; row < ListStandard->rowCount(); ++row) {
+    emit ItemChanged(ListStandard->data(row).toInt(), true);
+  }
+}
+
+}  // namespace mortane

@@ -1,0 +1,64 @@
+// The step on which a person says how the wizard is to run and which steps it goes through.
+#pragma once
+
+#include <array>
+
+#include "common/Prompts.h"
+#include "widgets/Page.h"
+
+class QFrame;
+
+namespace mortane {
+
+class Card;
+class ListBox;
+class OptionGroup;
+class PageHeader;
+class clsK70;
+
+// Only items of what the microscope has are offered. The standard list shows, and never changes.
+class SelSetupItemCtl : public Page {
+  Q_OBJECT
+
+ public:
+  explicit SelSetupItemCtl(clsK70& k70, QWidget* parent = nullptr);
+
+  // 0 standard, 1 custom, 2 file.
+  [[nodiscard]] int SetupMode() const;
+  void SetupMode(int mode);
+
+  // Builds both lists anew, in standard mode.
+  void LoadData() override;
+
+  // Whether the lists hold the item.
+  [[nodiscard]] bool IsOffered(int item) const;
+
+  FileQuestion CommonDialog1;
+
+  PageHeader* Header;
+  Card* FrameBase;
+  ListBox* List1;  // hidden, the names by the number of the item
+  QFrame* Frame1;
+  OptionGroup* optSetupMode;
+  ListBox* ListStandard;
+  ListBox* ListCustom;
+
+ signals:
+  void ModeChanged(int mode);
+  // The step of an item is on or off.
+  void ItemChanged(int item, bool enabled);
+
+ private:
+  QFrame* BuildOptions();
+  void Watch(ListBox& list, const char* accessibleName);
+  void Arrange();
+  void AddRow(ListBox& list, int item, bool checked);
+  void RaiseRow(const ListBox& list, int row);
+  void RaiseRows(const ListBox& list);
+  void OnMode(int mode);
+  void OnFile();
+
+  clsK70& k70_;
+};
+
+}  // namespace mortane

@@ -1,0 +1,144 @@
+#include "wizard/StepButton.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "widgets/ClickFocus.h"
+#include "widgets/Paint.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kHeight = 54;
+constexpr int kWidth = 176;
+constexpr int kBarWidth = 4;
+constexpr int kMarkCenter = 28;
+constexpr int kMarkSide = 24;
+constexpr int kTickSide = 12;
+constexpr int kIconLeft = 52;
+constexpr int kIconSide = 24;
+constexpr int kTextLeft = 88;
+
+// In the order of StepState; for screen readers.
+constexpr const char* kStateTexts[] = {"passed", "current", "to come", "switched off"};
+
+}  // namespace
+
+StepButton::StepButton(int number, IconName icon, const QString& text, QWidget* parent)
+    : QAbstractButton(parent), number_(number), icon_(icon) {
+  setText(text);
+  setFont(RailFont());
+  setAccessibleName(text);
+  setFocusPolicy(Qt::TabFocus);
+  setAttribute(Qt::WA_Hover);
+  setCheckable(true);  // told by screen readers; only SetState checks
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+  SetState(StepState::Off);
+}
+
+void StepButton::SetState(StepState state) {
+  state_ = state;
+  setEnabled(state != StepState::Off);
+  setChecked(state == StepState::Current);
+  setAccessibleDescription(QStringLiteral("Step %1, %2")
+                               .arg(number_)
+                               .arg(QLatin1String(kStateTexts[static_cast<std::size_t>(state)])));
+  update();
+}
+
+QSize StepButton::sizeHint() const {
+  const int text = kTextLeft + fontMetrics().horizontalAdvance(this->text()) + grid::kBetweenGroups;
+  return {qMax(kWidth, text), GridHeight(kHeight, *this)};
+}
+
+QSize StepButton::minimumSizeHint() const {
+  return {sizeHint().width(), qMax(kMarkSide, fontMetrics().height()) + 2 * grid::kUnit};
+}
+
+void StepButton::mousePressEvent(QMouseEvent* event) {
+  event->accept();
+}
+
+void StepButton::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+  if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && TakeFocus(*this))
+    emit chosen();
+}
+
+void StepButton::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Space) {
+    event->ignore();
+  } else if (!event->isAutoRepeat()) {
+    emit chosen();
+  }
+}
+
+void StepButton::keyReleaseEvent(QKeyEvent* event) {
+  event->ignore();
+}
+
+QColor StepButton::Background() const {
+  if (state_ == StepState::Current) return ToneColor(Tone::RailSelected);
+  return ToneColor(isEnabled() && underMouse() ? Tone::RailHover : Tone::Rail);
+}
+
+QColor StepButton::Foreground() const {
+  if (!isEnabled()) return ToneColor(Tone::RailDisabled);
+  const bool bright = state_ == StepState::Current || underMouse();
+  return ToneColor(bright ? Tone::RailText : Tone::RailResting);
+}
+
+// The line from circle to circle: above the first step and below the last there is none.
+void StepButton::DrawJoints(QPainter& painter) const {
+  painter.setPen(QPen(ToneColor(Tone::RailDisabled), 1));
+  const int middle = height() / 2;
+  const int gap = kMarkSide / 2 + 2;
+  if (number_ > 1) painter.drawLine(kMarkCenter, 0, kMarkCenter, middle - gap);
+  if (!last_) painter.drawLine(kMarkCenter, middle + gap, kMarkCenter, height());
+}
+
+void StepButton::DrawMark(QPainter& painter) const {
+  const QRectF circle(kMarkCenter - kMarkSide / 2.0, (height() - kMarkSide) / 2.0, kMarkSide,
+                      kMarkSide);
+  const bool off = state_ == StepState::Off;
+  const QColor line = ToneColor(off ? Tone::RailDisabled : Tone::RailText);
+  const Outline outline{line, 1.5, kMarkSide / 2.0, off};
+  if (state_ == StepState::Passed) {
+    DrawBox(painter, circle, ToneColor(Tone::RailSelected), outline);
+    const double inset = (kMarkSide - kTickSide) / 2.0;
+    DrawTick(painter, circle.adjusted(inset, inset, -inset, -inset), line);
+    return;
+  }
+  const bool current = state_ == StepState::Current;
+  if (current) {
+    DrawBox(painter, circle, ToneColor(Tone::Amber), {{}, 0, kMarkSide / 2.0});
+  } else {
+    DrawBox(painter, circle, Background(), outline);
+  }
+  painter.setFont(MarkFont());
+  painter.setPen(current ? ToneColor(Tone::OnAmber) : line);
+  painter.drawText(circle, Qt::AlignCenter, QString::number(number_));
+}
+
+void StepButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Background());
+  if (state_ == StepState::Current)
+    painter.fillRect(0, 0, kBarWidth, height(), ToneColor(Tone::Amber));
+  DrawJoints(painter);
+  DrawMark(painter);
+  const QColor foreground = Foreground();
+  DrawIcon(painter, icon_, QRectF(kIconLeft, (height() - kIconSide) / 2, kIconSide, kIconSide),
+           {foreground, state_ == StepState::Current ? ToneColor(Tone::Amber) : foreground});
+  painter.setFont(font());
+  painter.setPen(foreground);
+  painter.drawText(QRect(kTextLeft, 0, width() - kTextLeft, height()),
+                   Qt::AlignLeft | Qt::AlignVCenter, text());
+  if (hasFocus())
+    DrawBox(painter, QRectF(rect()).adjusted(3, 3, -3, -3), {},
+            {palette().color(QPalette::BrightText), 2, grid::kFieldCorner});
+}
+
+}  // namespace mortane

@@ -1,0 +1,53 @@
+// One step of the wizard's rail: its number in a circle, its picture and its name.
+#pragma once
+
+#include <QAbstractButton>
+
+#include "widgets/Icons.h"
+
+class QPainter;
+
+namespace mortane {
+
+enum class StepState { Passed, Current, ToCome, Off };
+
+// Acts when the left button, pressed over it, is let go with no modifier held, and on Space.
+class StepButton : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  // `number` counts from 1.
+  StepButton(int number, IconName icon, const QString& text, QWidget* parent = nullptr);
+
+  // Off also disables the button.
+  void SetState(StepState state);
+  [[nodiscard]] StepState state() const { return state_; }
+  // The last step of a rail; as it is made.
+  void SetLast(bool last) { last_ = last; }
+  [[nodiscard]] QSize sizeHint() const override;
+  // In a low window the steps stand closer.
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ signals:
+  void chosen();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  [[nodiscard]] QColor Background() const;
+  [[nodiscard]] QColor Foreground() const;
+  void DrawJoints(QPainter& painter) const;
+  void DrawMark(QPainter& painter) const;
+
+  int number_;
+  IconName icon_;
+  StepState state_ = StepState::Off;
+  bool last_ = true;
+};
+
+}  // namespace mortane

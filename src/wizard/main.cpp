@@ -1,0 +1,10 @@
+// The program with the wizard.
+#include "app/Program.h"
+#include "wizard/SadrelMainForm.h"
+
+int main(int argc, char** argv) {
+  using namespace mortane;
+  return RunProgram(argc, argv, {kWizardTitle, [](const FormServices& services) {
+                                   return std::make_unique<SadrelMainForm>(services);
+                                 }});
+}

@@ -1,0 +1,143 @@
+// The help line: what it says by page and tab, how it is told to screen readers, and its room.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QLabel>
+
+#include "WizardRig.h"
+#include "condensers/CondenserSettingsCtl.h"
+#include "filters/FilterQubeSettingsCtl.h"
+#include "objectives/ObjectiveSettingsCtl.h"
+#include "widgets/SectionBar.h"
+#include "wizard/HelpLine.h"
+
+namespace mortane::test {
+namespace {
+
+struct HelpRow {
+  int step;
+  ContainerPage* (*page)(SadrelMainForm&);
+  std::vector<const char*> texts;
+};
+
+template <auto Member>
+ContainerPage* PageOf(SadrelMainForm& form) {
+  return form.*Member;
+}
+
+class TabHelp : public testing::TestWithParam<HelpRow> {};
+
+TEST_P(TabHelp, FollowsTheClicksOfTheTabs) {
+  WizardRig rig(benches::Named("Harbour"));
+  rig.Start();
+  rig.form->optMenu[static_cast<std::size_t>(GetParam().step)]->setChecked(true);
+  ASSERT_EQ(rig.form->currentStep, GetParam().step);
+  ContainerPage& page = *GetParam().page(*rig.form);
+  EXPECT_EQ(page.CurrentItem(), 0);
+  EXPECT_EQ(rig.form->LabelHelp->text(), GetParam().texts[0]);
+  for (std::size_t tab : {1U, 0U}) {
+    QTest::mouseClick(page.sections()->option(static_cast<int>(tab)), Qt::LeftButton);
+    EXPECT_EQ(rig.form->LabelHelp->text(), GetParam().texts[tab]) << tab;
+  }
+  for (std::size_t tab = 0; tab < GetParam().texts.size(); ++tab) {
+    page.sections()->select(static_cast<int>(tab));
+    EXPECT_EQ(rig.form->LabelHelp->text(), GetParam().texts[tab]) << tab;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pages, TabHelp,
+    testing::Values(
+        HelpRow{2,
+                PageOf<&SadrelMainForm::ObjectiveSettingsCtl1>,
+                {"Click Address Number Tab and Select Series and Description from the list.",
+                 "Click Number Tab and Input  Objective Name, W.D., N.A. and select Series, Type "
+                 "and Mag from the lists.",
+                 "Set the Limit Controls."}},
+        HelpRow{3,
+                PageOf<&SadrelMainForm::FilterQubeSettingsCtl1>,
+                {"Click Address Number Tab and Select Filter Cube from the List.",
+                 "Click Number Tab, Input Filter Cube Name and Select Exciter / Dichroic / Barrier "
+                 "from the list.",
+                 "Input Exciter / Dichroic / Barrier Name."}},
+        HelpRow{4,
+                PageOf<&SadrelMainForm::CondenserSettingsCtl1>,
+                {"Select Condenser Module of Each Address from the List.",
+                 "Input Name of Optional Condenser Module."}}),
+    [](const auto& row) { return "Step" + std::to_string(row.param.step); });
+
+TEST(Help, IsThatOfTheTabTheLoadingSelects) {
+  WizardRig rig(benches::Named("Harbour"));
+  rig.Start();
+  rig.form->optMenu[2]->setChecked(true);
+  QTest::mouseClick(rig.form->ObjectiveSettingsCtl1->sections()->option(2), Qt::LeftButton);
+  ASSERT_EQ(rig.form->LabelHelp->text(), "Set the Limit Controls.");
+  QTest::mouseClick(rig.form->ButtonPrevious, Qt::LeftButton);
+  QTest::mouseClick(rig.form->ButtonNext, Qt::LeftButton);
+  EXPECT_EQ(rig.form->ObjectiveSettingsCtl1->CurrentItem(), 0);
+  EXPECT_EQ(rig.form->LabelHelp->text(),
+            "Click Address Number Tab and Select Series and Description from the list.");
+}
+
+// A line that keeps what it announces.
+class HeardLine : public HelpLine {
+ public:
+  Lines heard;
+
+ protected:
+  void Announce(QAccessibleEvent& changed) override {
+    HelpLine::Announce(changed);
+    EXPECT_EQ(changed.type(), QAccessible::Alert);
+    EXPECT_EQ(changed.object(), LabelHelp);
+    heard.push_back(LabelHelp->text().toStdString());
+  }
+};
+
+TEST(Help, IsAnnouncedWhenItChangesAndOnlyThen) {
+  HeardLine line;
+  for (const char* text : {"a", "a", "b", "a"}) line.Show(text);
+  EXPECT_EQ(line.heard, (Lines{"a", "b", "a"}));
+}
+
+TEST(HelpRoom, HoldsTwoLinesAtLeast) {
+  HelpLine line;
+  line.SetTexts({"short"});
+  line.resize(800, 10);
+  EXPECT_EQ(line.height(), 2 * line.LabelHelp->fontMetrics().lineSpacing() + 12);
+}
+
+TEST(HelpRoom, IsThatOfTheLongestTextAtItsWidth) {
+  const QString text = QStringLiteral("word ").repeated(60);
+  HelpLine line;
+  line.SetTexts({"short", text});
+  line.show();
+  for (const int width : {300, 600, 3000}) {
+    line.resize(width, 10);
+    QApplication::processEvents();
+    line.Show("short");
+    const int before = line.height();
+    line.Show(text);
+    EXPECT_EQ(line.height(), before) << "a new text moves nothing";
+    EXPECT_LE(line.LabelHelp->heightForWidth(line.LabelHelp->width()), line.LabelHelp->height())
+        << width;
+  }
+}
+
+TEST(HelpRoom, GrowsWithTheFont) {
+  HelpLine line;
+  line.SetTexts({"short"});
+  line.resize(800, 10);
+  const int before = line.height();
+  QFont large = line.font();
+  large.setPointSizeF(large.pointSizeF() * 2);
+  line.setFont(large);
+  EXPECT_GT(line.height(), before);
+}
+
+TEST(HelpLine, ShowsNoMarkup) {
+  HelpLine line;
+  EXPECT_EQ(line.LabelHelp->textFormat(), Qt::PlainText);
+}
+
+}  // namespace
+}  // namespace mortane::test

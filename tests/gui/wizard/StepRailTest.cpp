@@ -1,0 +1,142 @@
+// The strip of steps by itself.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QImage>
+
+#include "gui/app/AppRig.h"
+#include "widgets/Theme.h"
+#include "wizard/StepButton.h"
+#include "wizard/StepRail.h"
+
+namespace mortane::test {
+namespace {
+
+struct RailOfThree {
+  RailOfThree() {
+    for (const char* name : {"One", "Two", "Three"}) rail.AddStep(IconName::Flag, name);
+    for (int i = 0; i < 3; ++i) rail.SetStepEnabled(i, true);
+    rail.SetCurrent(1);
+    rail.resize(200, 400);
+    rail.show();
+    QApplication::processEvents();
+    if (QWidget* focused = rail.focusWidget()) focused->clearFocus();
+  }
+  QImage Picture(int step) {
+    QApplication::processEvents();
+    return rail.button(step)->grab().toImage();
+  }
+
+  StepRail rail;
+};
+
+// How many pixels of the picture have that colour.
+int Count(const QImage& picture, const QColor& colour) {
+  int count = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) count += picture.pixelColor(x, y) == colour ? 1 : 0;
+  }
+  return count;
+}
+
+TEST(StepRail, TellsStepsAndStatesToScreenReaders) {
+  RailOfThree rig;
+  rig.rail.SetStepEnabled(2, false, "why");
+  const std::array<const char*, 3> said{"Step 1, passed", "Step 2, current",
+                                        "Step 3, switched off"};
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(rig.rail.button(i)->accessibleDescription(), said[static_cast<std::size_t>(i)]);
+    EXPECT_EQ(rig.rail.button(i)->isChecked(), i == 1);
+  }
+  EXPECT_EQ(rig.rail.button(0)->accessibleName(), "One");
+  rig.rail.SetStepEnabled(2, true);
+  EXPECT_EQ(rig.rail.button(2)->accessibleDescription(), "Step 3, to come");
+  EXPECT_EQ(rig.rail.accessibleName(), "Steps");
+}
+
+TEST(StepRail, IsOneTabStopOnTheCurrentStep) {
+  RailOfThree rig;
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(rig.rail.button(i)->focusPolicy(), i == 1 ? Qt::TabFocus : Qt::NoFocus) << i;
+  }
+  rig.rail.SetCurrent(2);
+  EXPECT_EQ(rig.rail.button(2)->focusPolicy(), Qt::TabFocus);
+}
+
+TEST(StepRail, GoesToTheEndsByHomeAndEnd) {
+  RailOfThree rig;
+  rig.rail.activateWindow();
+  rig.rail.button(1)->setFocus();
+  QTest::keyClick(rig.rail.button(1), Qt::Key_End);
+  EXPECT_TRUE(rig.rail.button(2)->hasFocus());
+  QTest::keyClick(rig.rail.button(2), Qt::Key_Home);
+  EXPECT_TRUE(rig.rail.button(0)->hasFocus());
+  QTest::keyClick(rig.rail.button(0), Qt::Key_Up);
+  EXPECT_TRUE(rig.rail.button(0)->hasFocus());
+}
+
+TEST(StepRail, ShowsAmberOnTheCurrentStepAlone) {
+  RailOfThree rig;
+  const QColor amber = ToneColor(Tone::Amber);
+  EXPECT_EQ(Count(rig.Picture(0), amber), 0);
+  EXPECT_GT(Count(rig.Picture(1), amber), 200) << "bar and circle";
+  EXPECT_EQ(Count(rig.Picture(2), amber), 0);
+}
+
+TEST(StepRail, TellsItsStatesApartByMoreThanColour) {
+  RailOfThree rig;
+  const QImage toCome = rig.Picture(2);
+  rig.rail.SetCurrent(2);
+  const QImage current = rig.Picture(2);
+  rig.rail.SetCurrent(1);
+  rig.rail.SetStepEnabled(2, false);
+  const QImage off = rig.Picture(2);
+  EXPECT_NE(toCome, current);
+  EXPECT_NE(toCome, off);
+  EXPECT_GT(Count(toCome, ToneColor(Tone::RailText)), Count(off, ToneColor(Tone::RailText)));
+  EXPECT_EQ(Count(off, ToneColor(Tone::RailText)), 0) << "dim";
+}
+
+TEST(StepRail, JoinsItsStepsByALineThatEndsWithThem) {
+  RailOfThree rig;
+  const QColor line = ToneColor(Tone::RailDisabled);
+  const auto joined = [&](int step, bool below) {
+    const QImage picture = rig.Picture(step);
+    return picture.pixelColor(28, below ? picture.height() - 1 : 0) == line;
+  };
+  EXPECT_FALSE(joined(0, false));
+  EXPECT_TRUE(joined(0, true));
+  EXPECT_TRUE(joined(1, false));
+  EXPECT_TRUE(joined(1, true));
+  EXPECT_TRUE(joined(2, false));
+  EXPECT_FALSE(joined(2, true));
+}
+
+TEST(StepRail, ShowsTheFocus) {
+  RailOfThree rig;
+  rig.rail.activateWindow();
+  const QImage without = rig.Picture(1);
+  rig.rail.button(1)->setFocus();
+  EXPECT_NE(rig.Picture(1), without);
+}
+
+TEST(StepRail, StandsCloserInALowWindow) {
+  RailOfThree rig;
+  EXPECT_GE(rig.rail.button(0)->height(), 54);
+  rig.rail.resize(200, rig.rail.minimumSizeHint().height());
+  QApplication::processEvents();
+  EXPECT_LT(rig.rail.button(0)->height(), 40);
+  EXPECT_GE(rig.rail.button(0)->height(), rig.rail.button(0)->minimumSizeHint().height());
+}
+
+TEST(StepRail, IsWideEnoughForItsNames) {
+  StepRail rail;
+  rail.AddStep(IconName::Flag, "A name that is wider than any other");
+  const StepButton& button = *rail.button(0);
+  EXPECT_GE(button.sizeHint().width(), 88 + button.fontMetrics().horizontalAdvance(button.text()));
+  rail.AddStep(IconName::Flag, "A");
+  EXPECT_EQ(rail.button(1)->sizeHint().width(), 176);
+}
+
+}  // namespace
+}  // namespace mortane::test

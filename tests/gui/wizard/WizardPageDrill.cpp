@@ -1,0 +1,26 @@
+// The drill of the wizard's own pages.
+#include "gui/support/PageDrill.h"
+#include "wizard/SelSetupItemCtl.h"
+
+namespace mortane::test {
+namespace {
+
+PageDrillData SetupItems() {
+  PageDrillData data;
+  data.name = "SetupItems";
+  data.bench = "Harbour";
+  data.make = [](clsK70& k70) -> Page* { return new SelSetupItemCtl(k70); };
+  data.controls = {{"optSetupMode_0", "Standard"},
+                   {"optSetupMode_1", "Custom"},
+                   {"optSetupMode_2", "File"},
+                   {"ListStandard", "Standard"},
+                   {"ListCustom", "Custom"}};
+  data.enabling = {{"ListStandard", "Harbour", {}, false}, {"ListCustom", "Harbour", {}, false}};
+  data.tabOrder = {"optSetupMode_0"};
+  return data;
+}
+
+INSTANTIATE_TEST_SUITE_P(Wizard, PageDrill, testing::Values(SetupItems()), PageDrillName);
+
+}  // namespace
+}  // namespace mortane::test
