@@ -1,7 +1,14 @@
 #!/bin/bash
 # Sets up, builds and starts Mortane; arguments go to the program: ./run.sh /SIM
-# Without a display it makes the tour instead: a picture of every page in ./tour.
+# With --wizard as the first argument it starts the wizard: ./run.sh --wizard /SIM
+# Without a display it makes the tour instead: a picture of every page and step in ./tour.
 set -euo pipefail
+
+start=mortane
+if [[ "${1:-}" == --wizard ]]; then
+  start=sadrel
+  shift
+fi
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
 
@@ -17,12 +24,15 @@ fi
 (
   cd "$root"
   cmake --preset release -DMORTANE_BENCHMARKS=OFF
-  cmake --build --preset release --target mortane
+  cmake --build --preset release --target mortane sadrel
 ) </dev/null
 
-program="$root/build/release/src/app/mortane"
-[[ -n "$tour" ]] || exec "$program" "$@"
+declare -A programs=(
+  [mortane]="$root/build/release/src/app/mortane"
+  [sadrel]="$root/build/release/src/wizard/sadrel"
+)
+[[ -n "$tour" ]] || exec "${programs[$start]}" "$@"
 
-echo "No display: making the tour of the program on the simulated microscope."
-"$root/tools/tour.sh" "$program" "$root/tour" </dev/null
+echo "No display: making the tour of the programs on the simulated microscope."
+"$root/tools/tour.sh" "${programs[mortane]}" "${programs[sadrel]}" "$root/tour" </dev/null
 echo "The pictures are in $root/tour"

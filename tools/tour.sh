@@ -1,13 +1,14 @@
 #!/bin/bash
-# The tour: starts the program on the simulated microscope under a virtual display, goes through
-# its pages by keyboard and mouse, and leaves a picture of each in a folder, in both palettes and
-# at 100 % and 200 %:
-# tools/tour.sh PROGRAM FOLDER
-# The palette is asked of the program by MORTANE_SCHEME, which stands in for the system's.
+# The tour: starts the programs on the simulated microscope under a virtual display, goes through
+# their pages and steps by keyboard and mouse, and leaves a picture of each in a folder, in both
+# palettes and at 100 % and 200 %:
+# tools/tour.sh PROGRAM WIZARD FOLDER
+# The palette is asked of the programs by MORTANE_SCHEME, which stands in for the system's.
 set -euo pipefail
 
 program="$1"
-folder="$2"
+wizard="$2"
+folder="$3"
 width=1152
 height=740
 
@@ -43,9 +44,9 @@ start_server() {
   export DISPLAY
 }
 
-# Windows of the program that are on the display.
+# Windows of the program that are on the display; its title is theirs.
 windows() {
-  xdotool search --onlyvisible --name '^Mortane$' 2>/dev/null || true
+  xdotool search --onlyvisible --name "^$title\$" 2>/dev/null || true
 }
 
 # Waits for that many windows. The smallest one, a box where there is one, goes into `box`, the
@@ -89,9 +90,31 @@ part() {
 }
 
 # What stands beside a page's title changes only with the page and its section, the strip of page
-# buttons only with the page.
+# buttons only with the page, that of the wizard's steps only with the step.
 header() { part "$1" "$width" 30 0 76; }
 rail() { part "$1" 100 640 0 64; }
+steps() { part "$1" 170 560 0 0; }
+
+# Starts the program and takes it through the box that tells of the simulation.
+start_guest() {
+  MORTANE_SCHEME="$2" QT_SCALE_FACTOR="$((percent / 100))" QT_QPA_PLATFORM=xcb \
+    "$1" /SIM 2>"$work/errors" &
+  guest=$!
+  await_windows 2
+  xdotool windowfocus --sync "$box" key Return
+  await_windows 1
+  # What is typed or clicked while the window loads its pages is dropped.
+  sleep 1
+}
+
+# Out by the keys given, as a person leaves.
+leave_guest() {
+  xdotool key "$@"
+  await_windows 2
+  xdotool windowfocus --sync "$box" key Return
+  wait "$guest" || fail "the program ended with $?: $(<"$work/errors")"
+  guest=
+}
 
 # Pictures of the sections of the page on show but the first. The bar of sections follows the page
 # buttons, and its arrows choose; a page without one only moves its cursor.
@@ -117,18 +140,9 @@ tour_sections() {
 }
 
 tour() {
-  local scheme="$1" percent="$2" out="$folder/$1-$2" number=1
+  local scheme="$1" percent="$2" out="$folder/$1-$2" number=1 title=Mortane
   mkdir -p "$out"
-  MORTANE_SCHEME="$scheme" QT_SCALE_FACTOR="$((percent / 100))" QT_QPA_PLATFORM=xcb \
-    "$program" /SIM 2>"$work/errors" &
-  guest=$!
-
-  # The window, and over it the box that tells of the simulation.
-  await_windows 2
-  xdotool windowfocus --sync "$box" key Return
-  await_windows 1
-  # What is typed or clicked while the window loads its pages is dropped.
-  sleep 1
+  start_guest "$program" "$scheme"
 
   # From the first page button on, the arrow goes to the next one that can be used.
   xdotool windowfocus --sync "$main" mousemove --window "$main" \
@@ -143,14 +157,34 @@ tour() {
     number=$((number + 1))
     cp "$work/page.png" "$out/$number.png"
   done
-
-  # Out by the menu, as a person leaves.
-  xdotool key alt+f key x
-  await_windows 2
-  xdotool windowfocus --sync "$box" key Return
-  wait "$guest" || fail "the program ended with $?: $(<"$work/errors")"
-  guest=
+  leave_guest alt+f key x
   echo "tour: $number pages in $out"
+}
+
+# The wizard by keyboard, with all of its items chosen.
+tour_wizard() {
+  local scheme="$1" percent="$2" out="$folder/wizard-$1-$2" number=1 title=Sadrel
+  mkdir -p "$out"
+  start_guest "$wizard" "$scheme"
+  xdotool windowfocus --sync "$main" mousemove --window "$main" 0 0
+  take_picture "$out/1.png"
+  while true; do
+    xdotool key alt+n
+    sleep 0.4
+    take_picture "$work/step.png"
+    [[ "$(steps "$work/step.png")" != "$(steps "$out/$number.png")" ]] || break
+    number=$((number + 1))
+    if [[ "$number" -eq 2 ]]; then
+      # Custom, and below the three items of the standard the four others.
+      xdotool key Down key Tab key Down key Down
+      for _ in {1..4}; do xdotool key Down key space; done
+      sleep 0.2
+      take_picture "$work/step.png"
+    fi
+    cp "$work/step.png" "$out/$number.png"
+  done
+  leave_guest alt+c
+  echo "tour: $number steps in $out"
 }
 
 # Room for the window without its being made smaller to fit, at the largest scale.
@@ -158,5 +192,6 @@ start_server "$((width * 5 / 2))" "$((height * 5 / 2))"
 for scheme in light dark; do
   for percent in 100 200; do
     tour "$scheme" "$percent"
+    tour_wizard "$scheme" "$percent"
   done
 done

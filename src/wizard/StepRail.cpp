@@ -1,8 +1,10 @@
 #include "wizard/StepRail.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "widgets/AccessibleControls.h"
 #include "widgets/Named.h"
 #include "widgets/RovingTabStop.h"
 #include "widgets/Theme.h"
@@ -10,7 +12,18 @@
 
 namespace mortane {
 
+namespace {
+
+QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
+  if (auto* button = qobject_cast<StepButton*>(object)) return new AccessibleOption(button);
+  if (auto* rail = qobject_cast<StepRail*>(object)) return new AccessibleGroup(rail);
+  return nullptr;
+}
+
+}  // namespace
+
 StepRail::StepRail(QWidget* parent) : QWidget(parent), stop_(new RovingTabStop(this)) {
+  QAccessible::installFactory(&MakeInterface);  // once, however often it is called
   setAccessibleName(QStringLiteral("Steps"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, grid::kBetweenControls, 0, 0);
