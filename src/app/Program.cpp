@@ -73,7 +73,7 @@ int RunProgram(int argc, char** argv, const ProgramKind& kind) {
   try {
     bench.emplace(BenchPath());
   } catch (const Failure& failure) {
-    std::cerr << "mortane: " << failure.Description() << '\n';
+    std::cerr << kind.name << ": " << failure.Description() << '\n';
     return kWrongBench;
   }
   QApplication application(argc, argv);

@@ -12,6 +12,7 @@ class ProgramForm;
 
 // In what one program differs from another.
 struct ProgramKind {
+  const char* name;  // of the command
   const char* title;
   std::function<std::unique_ptr<ProgramForm>(const FormServices&)> makeForm;
 };

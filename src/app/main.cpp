@@ -5,7 +5,7 @@
 
 int main(int argc, char** argv) {
   using namespace mortane;
-  return RunProgram(argc, argv, {kMainTitle, [](const FormServices& services) {
+  return RunProgram(argc, argv, {"mortane", kMainTitle, [](const FormServices& services) {
                                    return std::make_unique<MortaneMainForm>(services);
                                  }});
 }

@@ -4,7 +4,7 @@
 
 int main(int argc, char** argv) {
   using namespace mortane;
-  return RunProgram(argc, argv, {kWizardTitle, [](const FormServices& services) {
+  return RunProgram(argc, argv, {"sadrel", kWizardTitle, [](const FormServices& services) {
                                    return std::make_unique<SadrelMainForm>(services);
                                  }});
 }

@@ -5,6 +5,7 @@
 #include <QImage>
 
 #include "gui/app/AppRig.h"
+#include "gui/support/AccessibleTree.h"
 #include "widgets/Theme.h"
 #include "wizard/StepButton.h"
 #include "wizard/StepRail.h"
@@ -51,7 +52,18 @@ TEST(StepRail, TellsStepsAndStatesToScreenReaders) {
   EXPECT_EQ(rig.rail.button(0)->accessibleName(), "One");
   rig.rail.SetStepEnabled(2, true);
   EXPECT_EQ(rig.rail.button(2)->accessibleDescription(), "Step 3, to come");
-  EXPECT_EQ(rig.rail.accessibleName(), "Steps");
+  EXPECT_EQ(AccessibleTree(rig.rail),
+            (std::vector<AccessibleControl>{told::Group("Steps"), told::NotChosen("One"),
+                                            told::Chosen("Two"), told::NotChosen("Three")}));
+}
+
+TEST(StepRail, LetsAScreenReaderChooseAStep) {
+  RailOfThree rig;
+  const QSignalSpy chosen(&rig.rail, &StepRail::chosen);
+  auto* step = QAccessible::queryAccessibleInterface(rig.rail.button(2));
+  step->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  ASSERT_EQ(chosen.size(), 1);
+  EXPECT_EQ(chosen[0][0], 2);
 }
 
 TEST(StepRail, IsOneTabStopOnTheCurrentStep) {

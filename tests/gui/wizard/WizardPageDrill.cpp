@@ -17,6 +17,12 @@ PageDrillData SetupItems() {
                    {"ListCustom", "Custom"}};
   data.enabling = {{"ListStandard", "Harbour", {}, false}, {"ListCustom", "Harbour", {}, false}};
   data.tabOrder = {"optSetupMode_0"};
+  data.accessible = {told::Label("Setup Items"),
+                     told::Chosen("Standard"),
+                     told::NotChosen("Custom"),
+                     told::NotChosen("File"),
+                     {QAccessible::List, "Standard", "", "disabled"},
+                     {QAccessible::List, "Custom", "Objective", "disabled"}};
   return data;
 }
 
