@@ -1,5 +1,5 @@
-// From the start of a process to its first painted window: the full window with the simulated
-// microscope loaded, beside a window of the toolkit with one label and an empty one.
+// From the start of a process to its first painted window: the full window and the wizard with the
+// simulated microscope loaded, beside a window of the toolkit with one label and an empty one.
 //
 // The program starts itself anew for each measurement, as one of the children.
 #include <benchmark/benchmark.h>
@@ -14,24 +14,27 @@
 #include <QTimer>
 #include <chrono>
 #include <cstdlib>
-#include <cstring>
 #include <functional>
 #include <string>
 
 #include "app/BenchSession.h"
+#include "app/GetAppIcon.h"
 #include "app/MortaneMainForm.h"
 #include "app/QtPrompts.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
 #include "hub/clsK70.h"
 #include "platform/CommandLine.h"
+#include "platform/Joystick.h"
 #include "platform/Sleep.h"
 #include "widgets/Theme.h"
+#include "wizard/SadrelMainForm.h"
 
 namespace mortane {
 namespace {
 
 constexpr char kFullChild[] = "--full";
+constexpr char kWizardChild[] = "--wizard";
 constexpr char kLabelChild[] = "--label";
 constexpr char kBareChild[] = "--bare";
 constexpr int kPainted = 0;
@@ -67,15 +70,20 @@ class AnsweringPrompts : public QtPrompts {
   Answer MsgBox(const std::string&, int, const std::string&) override { return Answer::Ok; }
 };
 
-int RunFullChild(int argc, char** argv) {
-  const std::vector<std::string> arguments{argv[0], "/SIM"};
+// A program's window on the simulated microscope, ready when its first page is filled.
+template <typename Form>
+int RunFormChild(int argc, char** argv, const char* title) {
   BenchSession bench("");
   QApplication application(argc, argv);
-  QApplication::setApplicationName("Mortane");
+  QApplication::setApplicationName(title);
   ApplyTheme(application);
   AnsweringPrompts prompts(SleepMilliseconds);
-  clsK70& k70 = ProvideK70(bench.Library(), prompts);
-  MortaneMainForm form({k70, bench.Library(), prompts, arguments});
+  SystemJoystick joystick;
+  Form form({.k70 = ProvideK70(bench.Library(), prompts),
+             .library = bench.Library(),
+             .prompts = prompts,
+             .joystick = joystick,
+             .arguments = {argv[0], "/SIM"}});
   prompts.ShowProgressOn(form.Progress());
   form.Load();
   const auto* report = form.SystemSettingsCtl1->SystemNameCtl1->TextAccessories;
@@ -142,11 +150,14 @@ void Register(const char* name, const std::string& program, const char* kind) {
 int main(int argc, char** argv) {
   using namespace mortane;
   if (std::getenv("DISPLAY") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  if (argc > 1 && std::strcmp(argv[1], kFullChild) == 0) return RunFullChild(argc, argv);
-  if (argc > 1 && std::strcmp(argv[1], kLabelChild) == 0) return RunLabelChild(argc, argv);
-  if (argc > 1 && std::strcmp(argv[1], kBareChild) == 0) return RunBareChild(argc, argv);
+  const std::string kind = argc > 1 ? argv[1] : "";
+  if (kind == kFullChild) return RunFormChild<MortaneMainForm>(argc, argv, kMainTitle);
+  if (kind == kWizardChild) return RunFormChild<SadrelMainForm>(argc, argv, kWizardTitle);
+  if (kind == kLabelChild) return RunLabelChild(argc, argv);
+  if (kind == kBareChild) return RunBareChild(argc, argv);
   const std::string program = GetCommandLineArray(argc, argv)[0];
   Register("FullWindow", program, kFullChild);
+  Register("Wizard", program, kWizardChild);
   Register("OneLabelWindow", program, kLabelChild);
   Register("BareWindow", program, kBareChild);
   benchmark::Initialize(&argc, argv);

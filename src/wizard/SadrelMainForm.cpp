@@ -50,9 +50,7 @@ void SadrelMainForm::OnConnected(bool) {
 }
 
 void SadrelMainForm::OnItemChanged(int item, bool enabled) {
-  const int step = item + kFirstItem;
-  if (pages_[static_cast<std::size_t>(step)] == nullptr) return;
-  EnableStep(step, enabled, QStringLiteral("Left out in Setup Items."));
+  EnableStep(item + kFirstItem, enabled, QStringLiteral("Left out in Setup Items."));
 }
 
 void SadrelMainForm::EnableStep(int step, bool enabled, const QString& whyOff) {

@@ -17,9 +17,14 @@ namespace mortane {
 class CondenserSettingsCtl;
 class FilterQubeSettingsCtl;
 class HelpLine;
+class InterlockSettingsCtl;
 class ObjectiveSettingsCtl;
 class Page;
 class PageArea;
+class SadrelControlFocusDriveCtl;
+class SadrelControlOtherCtl;
+class SadrelControlTactorSwitch;
+class SadrelControlXYStageCtl;
 class SadrelEndingCtl;
 class SelSetupItemCtl;
 class StepButton;
@@ -56,6 +61,11 @@ class SadrelMainForm : public ProgramForm {
   ObjectiveSettingsCtl* ObjectiveSettingsCtl1 = nullptr;
   FilterQubeSettingsCtl* FilterQubeSettingsCtl1 = nullptr;
   CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
+  SadrelControlOtherCtl* SadrelControlOtherCtl1 = nullptr;
+  InterlockSettingsCtl* InterlockSettingsCtl1 = nullptr;
+  SadrelControlFocusDriveCtl* SadrelControlFocusDriveCtl1 = nullptr;
+  SadrelControlTactorSwitch* SadrelControlTactorSwitch1 = nullptr;
+  SadrelControlXYStageCtl* SadrelControlXYStageCtl1;  // no step shows it
   SadrelEndingCtl* SadrelEndingCtl1 = nullptr;
 
   // What the pages' events bring about; connected where the pages are made.
@@ -69,7 +79,7 @@ class SadrelMainForm : public ProgramForm {
   using Act = void (SadrelMainForm::*)();
 
   void BuildRail();
-  void BuildPages(clsK70& k70);
+  void BuildPages(const FormServices& services);
   QWidget* BuildButtons();
   QPushButton* AddButton(const char* name, const QString& text, Act act, QWidget* bar);
   void Arrange(QWidget* buttons);

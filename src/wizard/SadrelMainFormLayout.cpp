@@ -11,6 +11,7 @@
 #include "widgets/Theme.h"
 #include "wizard/HelpLine.h"
 #include "wizard/SadrelMainForm.h"
+#include "wizard/SadrelPages.h"
 #include "wizard/StepButton.h"
 #include "wizard/StepRail.h"
 
@@ -28,7 +29,7 @@ SadrelMainForm::SadrelMainForm(const FormServices& services, const StepTable& st
   BuildRail();
   help_ = new HelpLine(this);
   LabelHelp = help_->LabelHelp;
-  BuildPages(services.k70);
+  BuildPages(services);
   Arrange(BuildButtons());
   MarkMainButton();
   // A window that is activated without a focus gives it to the first field, which is then left.
@@ -51,15 +52,14 @@ void SadrelMainForm::BuildRail() {
   connect(PictureMenu, &StepRail::chosen, this, &SadrelMainForm::OnPicture);
 }
 
-void SadrelMainForm::BuildPages(clsK70& k70) {
+void SadrelMainForm::BuildPages(const FormServices& services) {
   area_ = new PageArea(this);
   FrameControl = area_->frame();
   QStringList texts;
   for (int i = 0; i < kStepCount; ++i) {
     const StepRow& row = table_[static_cast<std::size_t>(i)];
     for (const QString& text : row.help) texts << text;
-    if (!row.make) continue;
-    Page* page = row.make(*this, k70);
+    Page* page = row.make(*this, services);
     pages_[static_cast<std::size_t>(i)] = page;
     area_->Add(page);
     if (auto* container = qobject_cast<ContainerPage*>(page)) {
@@ -67,6 +67,9 @@ void SadrelMainForm::BuildPages(clsK70& k70) {
     }
   }
   help_->SetTexts(texts);
+  SadrelControlXYStageCtl1 =
+      Named(new SadrelControlXYStageCtl(services.k70, FrameControl), "SadrelControlXYStageCtl1");
+  area_->Add(SadrelControlXYStageCtl1);
 }
 
 QPushButton* SadrelMainForm::AddButton(const char* name, const QString& text, Act act,

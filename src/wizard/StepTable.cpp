@@ -3,15 +3,17 @@
 #include <QFrame>
 #include <algorithm>
 
+#include "app/MakePages.h"
 #include "app/SystemSettingsCtl.h"
 #include "condensers/CondenserSettingsCtl.h"
-#include "filters/FilterItemLists.h"
 #include "filters/FilterQubeSettingsCtl.h"
 #include "hub/clsK70.h"
+#include "interlocks/InterlockSettingsCtl.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 #include "widgets/Named.h"
 #include "wizard/SadrelEndingCtl.h"
 #include "wizard/SadrelMainForm.h"
+#include "wizard/SadrelPages.h"
 #include "wizard/SelSetupItemCtl.h"
 
 namespace mortane {
@@ -22,36 +24,47 @@ int CurrentTab(Page& page) {
   return std::max(static_cast<ContainerPage&>(page).CurrentItem(), 0);
 }
 
-Page* MakeItems(SadrelMainForm& form, clsK70& k70) {
-  auto* page = Named(new SelSetupItemCtl(k70, form.FrameControl), "SelSetupItemCtl1");
+template <auto Make, auto Member>
+Page* MakeAs(SadrelMainForm& form, const FormServices& services) {
+  return form.*Member = Make(services.k70, form.FrameControl);
+}
+
+Page* MakeItems(SadrelMainForm& form, const FormServices& services) {
+  auto* page = Named(new SelSetupItemCtl(services.k70, form.FrameControl), "SelSetupItemCtl1");
   QObject::connect(page, &SelSetupItemCtl::ItemChanged, &form, &SadrelMainForm::OnItemChanged);
   return form.SelSetupItemCtl1 = page;
 }
 
-Page* MakeObjectives(SadrelMainForm& form, clsK70& k70) {
-  return form.ObjectiveSettingsCtl1 =
-             Named(new ObjectiveSettingsCtl(k70.curNosepiece, k70.DbNosepiece, k70.curLimit,
-                                            form.FrameControl),
-                   "ObjectiveSettingsCtl1");
+Page* MakeControls(SadrelMainForm& form, const FormServices& services) {
+  return form.SadrelControlOtherCtl1 = Named(
+             new SadrelControlOtherCtl(services.k70, form.FrameControl), "SadrelControlOtherCtl1");
 }
 
-Page* MakeCubes(SadrelMainForm& form, clsK70& k70) {
-  const FilterItemLists items{k70.Exciter, k70.Dichroic, k70.Barrier};
-  return form.FilterQubeSettingsCtl1 =
-             Named(new FilterQubeSettingsCtl(k70.curFilter, k70.dbFilter, items, form.FrameControl),
-                   "FilterQubeSettingsCtl1");
+Page* MakeFocusStep(SadrelMainForm& form, const FormServices& services) {
+  return form.SadrelControlFocusDriveCtl1 =
+             Named(new SadrelControlFocusDriveCtl(services.k70, form.FrameControl),
+                   "SadrelControlFocusDriveCtl1");
 }
 
-Page* MakeCondensers(SadrelMainForm& form, clsK70& k70) {
-  return form.CondenserSettingsCtl1 =
-             Named(new CondenserSettingsCtl(k70.curCondenser, k70.dbcon, form.FrameControl),
-                   "CondenserSettingsCtl1");
+Page* MakeSwitches(SadrelMainForm& form, const FormServices& services) {
+  return form.SadrelControlTactorSwitch1 =
+             Named(new SadrelControlTactorSwitch(services.k70, services.prompts, form.FrameControl),
+                   "SadrelControlTactorSwitch1");
 }
 
-Page* MakeEnding(SadrelMainForm& form, clsK70& k70) {
-  auto* page = Named(new SadrelEndingCtl(k70, form.FrameControl), "SadrelEndingCtl1");
+Page* MakeEnding(SadrelMainForm& form, const FormServices& services) {
+  auto* page = Named(new SadrelEndingCtl(services.k70, form.FrameControl), "SadrelEndingCtl1");
   QObject::connect(page, &SadrelEndingCtl::Sent, &form, &SadrelMainForm::OnSent);
   return form.SadrelEndingCtl1 = page;
+}
+
+int HelpOfControls(Page& page) {
+  return static_cast<SadrelControlOtherCtl&>(page).qhrOnly() ? 1 : 0;
+}
+
+void EnterFocusStep(Page& page) {
+  page.LoadData();
+  static_cast<SadrelControlFocusDriveCtl&>(page).SetNosePositgion();
 }
 
 // The lists are built once, when the microscope is connected.
@@ -64,10 +77,7 @@ StepTable WizardSteps() {
       {"System",
        IconName::System,
        {"Please input System Name."},
-       [](SadrelMainForm& form, clsK70& k70) -> Page* {
-         return form.SystemSettingsCtl1 =
-                    Named(new SystemSettingsCtl(k70, form.FrameControl), "SystemSettingsCtl1");
-       }},
+       MakeAs<MakeSystemSettings, &SadrelMainForm::SystemSettingsCtl1>},
       {"Setup Items",
        IconName::CheckList,
        {"Please select wizard type."},
@@ -80,7 +90,7 @@ StepTable WizardSteps() {
         "Click Number Tab and Input  Objective Name, W.D., N.A. and select Series, Type and Mag "
         "from the lists.",
         "Set the Limit Controls."},
-       MakeObjectives,
+       MakeAs<MakeObjectiveSettings, &SadrelMainForm::ObjectiveSettingsCtl1>,
        CurrentTab},
       {"Filter Cube",
        IconName::Cube,
@@ -88,26 +98,38 @@ StepTable WizardSteps() {
         "Click Number Tab, Input Filter Cube Name and Select Exciter / Dichroic / Barrier from the "
         "list.",
         "Input Exciter / Dichroic / Barrier Name."},
-       MakeCubes,
+       MakeAs<MakeFilterQubeSettings, &SadrelMainForm::FilterQubeSettingsCtl1>,
        CurrentTab},
       {"Condenser",
        IconName::Condenser,
        {"Select Condenser Module of Each Address from the List.",
         "Input Name of Optional Condenser Module."},
-       MakeCondensers,
+       MakeAs<MakeCondenserSettings, &SadrelMainForm::CondenserSettingsCtl1>,
        CurrentTab},
-      {"Control", IconName::Loudspeaker, {"Set Other Settigs.", "Select Buzzer On or Off."}},
+      {"Control",
+       IconName::Loudspeaker,
+       {"Set Other Settigs.", "Select Buzzer On or Off."},
+       MakeControls,
+       HelpOfControls},
       {"InterLock",
        IconName::Interlock,
        {"Set whether each accessory is interlocked when Observation Method is changed.",
         "Set whether each accessory is interlocked when each of Nosepiece / LightPath / Optical "
         "Zoom is changed.",
         "Set the compensation on the proper value. The proper value is calculated using "
-        "information such as objective N.A and condenser focal length."}},
-      {"Z Focus", IconName::ZFocus, {"Set Focus Drive settings."}},
+        "information such as objective N.A and condenser focal length."},
+       MakeAs<MakeInterlockSettings, &SadrelMainForm::InterlockSettingsCtl1>,
+       CurrentTab},
+      {"Z Focus",
+       IconName::ZFocus,
+       {"Set Focus Drive settings."},
+       MakeFocusStep,
+       {},
+       EnterFocusStep},
       {"Controller",
        IconName::HandController,
-       {"Set Switch Functions of K70 Microscope ", "Set Tactor Controller settings."}},
+       {"Set Switch Functions of K70 Microscope ", "Set Tactor Controller settings."},
+       MakeSwitches},
       {"Ending", IconName::Flag, {"Check data to set."}, MakeEnding},
   }};
 }

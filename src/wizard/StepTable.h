@@ -12,7 +12,7 @@ namespace mortane {
 
 class Page;
 class SadrelMainForm;
-class clsK70;
+struct FormServices;
 
 struct StepRow {
   QString name;
@@ -20,7 +20,7 @@ struct StepRow {
   // What the help line says: one text, or one for each tab or kind of the page.
   std::vector<QString> help;
   // The new page, a child of the window's frame of pages.
-  std::function<Page*(SadrelMainForm&, clsK70&)> make = {};
+  std::function<Page*(SadrelMainForm&, const FormServices&)> make = {};
   // Which of the texts a person meets on coming to the step; the first, when empty.
   std::function<int(Page&)> firstHelp = {};
   // What happens to the page then; it is loaded, when empty.

@@ -31,7 +31,7 @@ class FakeSteps {
   StepTable Table() {
     StepTable table = WizardSteps();
     for (std::size_t i = 0; i < table.size(); ++i) {
-      table[i].make = [this, i](SadrelMainForm& form, clsK70&) -> Page* {
+      table[i].make = [this, i](SadrelMainForm& form, const FormServices&) -> Page* {
         return pages[i] = new FakeStep(std::to_string(i), calls, form.FrameControl);
       };
       table[i].firstHelp = {};

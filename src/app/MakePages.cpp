@@ -1,0 +1,88 @@
+#include "app/MakePages.h"
+
+#include <utility>
+
+#include "app/CommandBoundary.h"
+#include "app/SystemSettingsCtl.h"
+#include "condensers/CondenserSettingsCtl.h"
+#include "drives/ControlFocusDriveCtl.h"
+#include "drives/ControlOtherCtl.h"
+#include "drives/ControlXYStageCtl.h"
+#include "filters/FilterItemLists.h"
+#include "filters/FilterQubeSettingsCtl.h"
+#include "hub/clsK70.h"
+#include "interlocks/InterlockOtherCtl.h"
+#include "interlocks/InterlockSettingsCtl.h"
+#include "objectives/ObjectiveSettingsCtl.h"
+#include "switches/SwitchSettingCtl.h"
+#include "switches/TactorSwitchSettingCtl.h"
+#include "widgets/Named.h"
+
+namespace mortane {
+namespace {
+
+KnobModes KnobsOf(clsK70& k70) {
+  return {k70.COther.curAutoZ, k70.COther.curAutoXY};
+}
+
+}  // namespace
+
+SystemSettingsCtl* MakeSystemSettings(clsK70& k70, QWidget* parent) {
+  return Named(new SystemSettingsCtl(k70, parent), "SystemSettingsCtl1");
+}
+
+ObjectiveSettingsCtl* MakeObjectiveSettings(clsK70& k70, QWidget* parent) {
+  return Named(new ObjectiveSettingsCtl(k70.curNosepiece, k70.DbNosepiece, k70.curLimit, parent),
+               "ObjectiveSettingsCtl1");
+}
+
+FilterQubeSettingsCtl* MakeFilterQubeSettings(clsK70& k70, QWidget* parent) {
+  const FilterItemLists items{k70.Exciter, k70.Dichroic, k70.Barrier};
+  return Named(new FilterQubeSettingsCtl(k70.curFilter, k70.dbFilter, items, parent),
+               "FilterQubeSettingsCtl1");
+}
+
+CondenserSettingsCtl* MakeCondenserSettings(clsK70& k70, QWidget* parent) {
+  return Named(new CondenserSettingsCtl(k70.curCondenser, k70.dbcon, parent),
+               "CondenserSettingsCtl1");
+}
+
+InterlockSettingsCtl* MakeInterlockSettings(clsK70& k70, QWidget* parent) {
+  const InterlockSettingsCtl::Units units{k70.ILObservation, k70.ILOther, k70.ILOffset};
+  const FocusCompensations compensations{k70.CZDrive.curFocusCompensation,
+                                         k70.CXYDrive.curFocusCompensation};
+  return Named(new InterlockSettingsCtl(units, compensations, parent), "InterlockSettingsCtl1");
+}
+
+// A compensation that is switched on makes the focus drive follow the nosepiece.
+ControlFocusDriveCtl* MakeFocusDrive(clsK70& k70) {
+  return new ControlFocusDriveCtl(k70.CZDrive, [&k70](std::int32_t state) {
+    k70.ILOther.Status(accessory::kZFocusDrive, state);
+  });
+}
+
+ControlXYStageCtl* MakeXYStage(clsK70& k70) {
+  return new ControlXYStageCtl(k70.CXYDrive);
+}
+
+ControlOtherCtl* MakeOther(clsK70& k70) {
+  return new ControlOtherCtl(k70.COther);
+}
+
+SwitchSettingCtl* MakeBodySwitches(clsK70& k70) {
+  return new SwitchSettingCtl(k70.curSwitch, k70.curTactor, KnobsOf(k70));
+}
+
+TactorSwitchSettingCtl* MakeTactorSwitches(clsK70& k70, Prompts& prompts) {
+  TactorProgram program;
+  program.hasStage = [&k70] { return k70.CXYDrive.IsEnable(); };
+  program.readFile = [&k70, &prompts](const std::string& path) {
+    RunStep(prompts, [&] { k70.Tactor_ReadXML(path); });
+  };
+  program.writeFile = [&k70, &prompts](const std::string& path) {
+    RunStep(prompts, [&] { k70.Tactor_WriteXML(path); });
+  };
+  return new TactorSwitchSettingCtl(k70.curTactor, k70.curSwitch, KnobsOf(k70), std::move(program));
+}
+
+}  // namespace mortane

@@ -1,0 +1,35 @@
+// The pages over the program's model, as both windows show them.
+#pragma once
+
+class QWidget;
+
+namespace mortane {
+
+class CondenserSettingsCtl;
+class ControlFocusDriveCtl;
+class ControlOtherCtl;
+class ControlXYStageCtl;
+class FilterQubeSettingsCtl;
+class InterlockSettingsCtl;
+class ObjectiveSettingsCtl;
+class Prompts;
+class SwitchSettingCtl;
+class SystemSettingsCtl;
+class TactorSwitchSettingCtl;
+class clsK70;
+
+// Named after their kind: "ObjectiveSettingsCtl1".
+SystemSettingsCtl* MakeSystemSettings(clsK70& k70, QWidget* parent);
+ObjectiveSettingsCtl* MakeObjectiveSettings(clsK70& k70, QWidget* parent);
+FilterQubeSettingsCtl* MakeFilterQubeSettings(clsK70& k70, QWidget* parent);
+CondenserSettingsCtl* MakeCondenserSettings(clsK70& k70, QWidget* parent);
+InterlockSettingsCtl* MakeInterlockSettings(clsK70& k70, QWidget* parent);
+
+// Sub-pages, named by the page that takes them over.
+ControlFocusDriveCtl* MakeFocusDrive(clsK70& k70);
+ControlXYStageCtl* MakeXYStage(clsK70& k70);
+ControlOtherCtl* MakeOther(clsK70& k70);
+SwitchSettingCtl* MakeBodySwitches(clsK70& k70);
+TactorSwitchSettingCtl* MakeTactorSwitches(clsK70& k70, Prompts& prompts);
+
+}  // namespace mortane

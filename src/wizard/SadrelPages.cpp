@@ -1,0 +1,111 @@
+#include "wizard/SadrelPages.h"
+
+#include <QVBoxLayout>
+
+#include "app/MakePages.h"
+#include "app/SwitchTabs.h"
+#include "drives/ControlFocusDriveCtl.h"
+#include "drives/ControlOtherCtl.h"
+#include "drives/ControlXYStageCtl.h"
+#include "hub/clsK70.h"
+#include "switches/SwitchSettingCtl.h"
+#include "switches/TactorSwitchSettingCtl.h"
+#include "widgets/Named.h"
+#include "widgets/PageHeader.h"
+
+namespace mortane {
+namespace {
+
+// Types of the microscope.
+constexpr std::int32_t kHubOnly = 1;
+constexpr std::int32_t kWithKnobs = 6;
+
+}  // namespace
+
+SadrelPage::SadrelPage(IconName icon, const QString& title, Page* inner, const char* innerName,
+                       QWidget* parent)
+    : Page(parent),
+      Header(Named(new PageHeader(icon, title, this), "Header")),
+      inner_(Named(inner, innerName)) {
+  MakePageLayout(this, Header)->addWidget(inner_, 1);
+}
+
+void SadrelPage::LoadData() {
+  inner_->LoadData();
+}
+
+void SadrelPage::SaveData() {
+  inner_->SaveData();
+}
+
+SadrelControlOtherCtl::SadrelControlOtherCtl(clsK70& k70, QWidget* parent)
+    : SadrelControlOtherCtl(k70, MakeOther(k70), parent) {}
+
+SadrelControlOtherCtl::SadrelControlOtherCtl(clsK70& k70, ControlOtherCtl* inner, QWidget* parent)
+    : SadrelPage(IconName::Loudspeaker, QStringLiteral("Control"), inner, "ControlOtherCtl1",
+                 parent),
+      ControlOtherCtl1(inner),
+      k70_(k70) {}
+
+bool SadrelControlOtherCtl::qhrOnly() const {
+  return k70_.curType == kHubOnly;
+}
+
+// Kept oddity: type 1 has its buzzer hidden although the help line names it.
+void SadrelControlOtherCtl::LoadData() {
+  ControlOtherCtl1->R_TLPORemoteVisible(true);
+  ControlOtherCtl1->SwitchVisible(true);
+  ControlOtherCtl1->BuzzerVisible(true);
+  ControlOtherCtl1->ManualHandleVisible(true);
+  ControlOtherCtl1->LoadData();
+  if (k70_.curType == kHubOnly || k70_.curType == kWithKnobs) {
+    ControlOtherCtl1->R_TLPORemoteVisible(false);
+    ControlOtherCtl1->BuzzerVisible(false);
+  }
+  if (k70_.curType != kWithKnobs) ControlOtherCtl1->ManualHandleVisible(false);
+}
+
+SadrelControlFocusDriveCtl::SadrelControlFocusDriveCtl(clsK70& k70, QWidget* parent)
+    : SadrelControlFocusDriveCtl(MakeFocusDrive(k70), parent) {}
+
+SadrelControlFocusDriveCtl::SadrelControlFocusDriveCtl(ControlFocusDriveCtl* inner, QWidget* parent)
+    : SadrelPage(IconName::ZFocus, QStringLiteral("Z Focus"), inner, "ControlFocusDriveCtl1",
+                 parent),
+      ControlFocusDriveCtl1(inner) {}
+
+void SadrelControlFocusDriveCtl::SetNosePositgion() {
+  ControlFocusDriveCtl1->SetNosePosition();
+}
+
+SadrelControlXYStageCtl::SadrelControlXYStageCtl(clsK70& k70, QWidget* parent)
+    : SadrelControlXYStageCtl(MakeXYStage(k70), parent) {}
+
+SadrelControlXYStageCtl::SadrelControlXYStageCtl(ControlXYStageCtl* inner, QWidget* parent)
+    : SadrelPage(IconName::XYStage, QStringLiteral("XY Stage"), inner, "ControlXYStageCtl1",
+                 parent),
+      ControlXYStageCtl1(inner) {}
+
+void SadrelControlXYStageCtl::SetNosePosition() {
+  ControlXYStageCtl1->SetNosePosition();
+}
+
+SadrelControlTactorSwitch::SadrelControlTactorSwitch(clsK70& k70, Prompts& prompts, QWidget* parent)
+    : ContainerPage(IconName::HandController, QStringLiteral("Controller"), "optSettings", parent,
+                    NotOffered::Hidden),
+      optSettings(sections()),
+      SwitchSettingCtl1(MakeBodySwitches(k70)),
+      TactorSwitchSettingCtl1(MakeTactorSwitches(k70, prompts)),
+      k70_(k70) {
+  SetSections({{"K70 Switch", "SwitchSettingCtl1", SwitchSettingCtl1,
+                [&k70] { return FindSwitchTabs(k70).k70; }, KeepAsLoaded},
+               {"Tactor Switch", "TactorSwitchSettingCtl1", TactorSwitchSettingCtl1,
+                [&k70] { return FindSwitchTabs(k70).tactor; }, KeepAsLoaded}},
+              {1, 0});
+}
+
+void SadrelControlTactorSwitch::SaveData() {
+  if (k70_.ILOffset.IsEnable()) TactorSwitchSettingCtl1->SaveData();
+  if (k70_.ILOffset.IsEnable()) SwitchSettingCtl1->SaveData();
+}
+
+}  // namespace mortane

@@ -1,0 +1,101 @@
+// Pages of the full window as steps of the wizard: under a header, without what a beginner need not
+// see.
+#pragma once
+
+#include "widgets/ContainerPage.h"
+
+namespace mortane {
+
+class ControlFocusDriveCtl;
+class ControlOtherCtl;
+class ControlXYStageCtl;
+class Prompts;
+class SwitchSettingCtl;
+class TactorSwitchSettingCtl;
+class clsK70;
+
+// One page under a header; loading and saving pass on to it.
+class SadrelPage : public Page {
+  Q_OBJECT
+
+ public:
+  SadrelPage(IconName icon, const QString& title, Page* inner, const char* innerName,
+             QWidget* parent);
+
+  void LoadData() override;
+  void SaveData() override;
+
+  PageHeader* Header;
+
+ private:
+  Page* inner_;
+};
+
+class SadrelControlOtherCtl : public SadrelPage {
+  Q_OBJECT
+
+ public:
+  explicit SadrelControlOtherCtl(clsK70& k70, QWidget* parent = nullptr);
+
+  // Whether buzzers are all that this type of microscope has here.
+  [[nodiscard]] bool qhrOnly() const;
+  // Shows every frame, then hides those that the microscope or its type has not.
+  void LoadData() override;
+
+  ControlOtherCtl* ControlOtherCtl1;
+
+ private:
+  SadrelControlOtherCtl(clsK70& k70, ControlOtherCtl* inner, QWidget* parent);
+
+  const clsK70& k70_;
+};
+
+class SadrelControlFocusDriveCtl : public SadrelPage {
+  Q_OBJECT
+
+ public:
+  explicit SadrelControlFocusDriveCtl(clsK70& k70, QWidget* parent = nullptr);
+
+  // Shows where the nosepiece stands.
+  void SetNosePositgion();
+
+  ControlFocusDriveCtl* ControlFocusDriveCtl1;
+
+ private:
+  SadrelControlFocusDriveCtl(ControlFocusDriveCtl* inner, QWidget* parent);
+};
+
+class SadrelControlXYStageCtl : public SadrelPage {
+  Q_OBJECT
+
+ public:
+  explicit SadrelControlXYStageCtl(clsK70& k70, QWidget* parent = nullptr);
+
+  // Shows where the nosepiece stands.
+  void SetNosePosition();
+
+  ControlXYStageCtl* ControlXYStageCtl1;
+
+ private:
+  SadrelControlXYStageCtl(ControlXYStageCtl* inner, QWidget* parent);
+};
+
+// The switches of the body and of the hand controller, each where its firmware has them.
+class SadrelControlTactorSwitch : public ContainerPage {
+  Q_OBJECT
+
+ public:
+  SadrelControlTactorSwitch(clsK70& k70, Prompts& prompts, QWidget* parent = nullptr);
+
+  // Kept oddity: both pages are saved where the interlock offsets are enabled.
+  void SaveData() override;
+
+  SectionBar* optSettings;
+  SwitchSettingCtl* SwitchSettingCtl1;
+  TactorSwitchSettingCtl* TactorSwitchSettingCtl1;
+
+ private:
+  const clsK70& k70_;
+};
+
+}  // namespace mortane
