@@ -2,6 +2,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -9,6 +10,7 @@
 #include <QProcessEnvironment>
 #include <QThread>
 #include <algorithm>
+#include <csignal>
 #include <string>
 
 #include "support/DeviceNamesLock.h"
@@ -18,11 +20,18 @@ namespace mortane::test {
 
 inline constexpr int kPatienceMs = 20000;
 
+// The process ends with this one, also when this one is killed: a program that lived on would hold
+// its microscope against the tests that come later.
+inline void EndWithThisProcess(QProcess& process) {
+  process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+}
+
 // A virtual display with nothing on it. The server chooses its number. It must not start afresh
 // when its last client leaves, just as the program is connecting.
 class Display {
  public:
   Display() {
+    EndWithThisProcess(server_);
     server_.start(
         "Xvfb", {"-displayfd", "1", "-screen", "0", "1400x900x24", "-nolisten", "tcp", "-noreset"});
     if (server_.waitForReadyRead(kPatienceMs)) name_ = ":" + server_.readLine().trimmed();
@@ -60,6 +69,7 @@ class BuiltProgram : public testing::Test {
     environment.insert("XDG_CONFIG_HOME", QString::fromStdString(config_.Path("config")));
     environment.insert("LSAN_OPTIONS", "suppressions=" MORTANE_KNOWN_LEAKS ":print_suppressions=0");
     program.setProcessEnvironment(environment);
+    EndWithThisProcess(program);
     program.start(path_, arguments);
     ASSERT_TRUE(program.waitForStarted(kPatienceMs));
   }
