@@ -1,0 +1,62 @@
+#include "controller/com/ComLibrary.h"
+
+#include <objbase.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <utility>
+
+#include "common/Failure.h"
+#include "controller/com/ComError.h"
+#include "controller/com/ComObject.h"
+#include "platform/windows/Wide.h"
+
+namespace mortane::controller {
+namespace {
+
+struct InstalledClass {
+  const char* name;
+  const char* progId;
+  const char* variable;
+};
+
+constexpr std::array<InstalledClass, 3> kInstalledClasses{{
+    {"Microscope", "LENSMIRLib.Microscope", "MORTANE_PROGID_MICROSCOPE"},
+    {"FiberServer", "RAVLINCONTROLSERVERLib.FiberServer", "MORTANE_PROGID_FIBERSERVER"},
+    {"FiberRemote", "RAVLINCONTROLSERVERLib.FiberRemote", "MORTANE_PROGID_FIBERREMOTE"},
+}};
+
+}  // namespace
+
+std::vector<ComClass> InstalledClasses() {
+  std::vector<ComClass> classes;
+  for (const InstalledClass& row : kInstalledClasses) {
+    const char* other = std::getenv(row.variable);
+    classes.push_back({row.name, other == nullptr ? row.progId : other});
+  }
+  return classes;
+}
+
+ComLibrary::ComLibrary(std::vector<ComClass> classes)
+    : classes_(std::move(classes)), ids_(std::make_shared<MemberIds>()) {
+  RequireSuccess(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
+}
+
+ComLibrary::~ComLibrary() {
+  CoUninitialize();
+}
+
+ObjectRef ComLibrary::Create(std::string_view className) {
+  const auto row = std::find_if(classes_.begin(), classes_.end(),
+                                [&](const ComClass& known) { return known.name == className; });
+  if (row == classes_.end()) RaiseComError(REGDB_E_CLASSNOTREG);
+  CLSID classId{};
+  RequireSuccess(CLSIDFromProgID(ToWide(row->progId).c_str(), &classId));
+  void* made = nullptr;
+  RequireSuccess(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
+                                  IID_IDispatch, &made));
+  return MakeComObject(ComPointer<IUnknown>(static_cast<IDispatch*>(made)), ids_);
+}
+
+}  // namespace mortane::controller

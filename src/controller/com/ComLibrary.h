@@ -1,0 +1,42 @@
+// A controller library that is reached through COM.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controller/ControllerObject.h"
+
+namespace mortane::controller {
+
+class MemberIds;
+
+// A class of the transport, and the name under which the system knows it.
+struct ComClass {
+  std::string name;
+  std::string progId;
+};
+
+// Lensmir's and Ravlin's names; the environment variables MORTANE_PROGID_MICROSCOPE,
+// MORTANE_PROGID_FIBERSERVER and MORTANE_PROGID_FIBERREMOTE give others.
+std::vector<ComClass> InstalledClasses();
+
+// Belongs to the thread that makes it, whose single-threaded apartment it enters and leaves; its
+// objects must be gone before it. Creation raises the system's failure for a class that is not
+// registered.
+class ComLibrary : public ControllerLibrary {
+ public:
+  explicit ComLibrary(std::vector<ComClass> classes = InstalledClasses());
+  ~ComLibrary() override;
+  ComLibrary(const ComLibrary&) = delete;
+  ComLibrary& operator=(const ComLibrary&) = delete;
+
+  ObjectRef Create(std::string_view className) override;
+
+ private:
+  std::vector<ComClass> classes_;
+  std::shared_ptr<MemberIds> ids_;
+};
+
+}  // namespace mortane::controller

@@ -1,0 +1,160 @@
+#include "controller/com/Variant.h"
+
+#include <oleauto.h>
+
+#include <cstdint>
+#include <limits>
+#include <string>
+
+#include "common/Failure.h"
+#include "controller/com/ComError.h"
+#include "controller/com/ComObject.h"
+#include "platform/windows/Wide.h"
+
+namespace mortane::controller {
+namespace {
+
+// The length counts bytes: a text may hold NUL characters.
+BSTR MakeText(std::string_view utf8) {
+  const std::wstring wide = ToWide(utf8);
+  BSTR text = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+  if (text == nullptr) RaiseComError(E_OUTOFMEMORY);
+  return text;
+}
+
+std::string TextOf(BSTR text) {
+  if (text == nullptr) return {};
+  return ToUtf8({text, SysStringLen(text)});
+}
+
+// Writes a Value into an empty variant.
+struct Writer {
+  VARIANT& variant;
+
+  void operator()(std::monostate) const {}
+  void operator()(bool value) const {
+    variant.vt = VT_BOOL;
+    variant.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
+  }
+  void operator()(std::int16_t value) const {
+    variant.vt = VT_I2;
+    variant.iVal = value;
+  }
+  void operator()(std::int32_t value) const {
+    variant.vt = VT_I4;
+    variant.lVal = value;
+  }
+  void operator()(double value) const {
+    variant.vt = VT_R8;
+    variant.dblVal = value;
+  }
+  void operator()(const std::string& value) const {
+    variant.bstrVal = MakeText(value);
+    variant.vt = VT_BSTR;
+  }
+  void operator()(const ObjectRef& value) const {
+    variant.pdispVal = ReferenceTo(value);
+    variant.vt = VT_DISPATCH;
+  }
+};
+
+template <typename Integer>
+Value Whole(Integer value) {
+  if (!std::in_range<std::int32_t>(value)) RaiseOwnFailure(kOverflowError, "Overflow");
+  return static_cast<std::int32_t>(value);
+}
+
+Value Object(IUnknown* object, const std::shared_ptr<MemberIds>& ids) {
+  if (object == nullptr) return {};
+  object->AddRef();
+  return MakeComObject(ComPointer<IUnknown>(object), ids);
+}
+
+// The variant that a reference leads to, with its kind.
+VARIANT Followed(const VARIANT& variant) {
+  VARIANT direct{};
+  RequireSuccess(VariantCopyInd(&direct, const_cast<VARIANT*>(&variant)));
+  return direct;
+}
+
+// Kinds that a program's type does not hold are changed into one that it does.
+Value Converted(const VARIANT& variant, VARTYPE kind) {
+  Variant changed;
+  RequireSuccess(VariantChangeType(changed.get(), const_cast<VARIANT*>(&variant), 0, kind));
+  return ToValue(*changed.get(), nullptr);
+}
+
+}  // namespace
+
+Variant::Variant() : variant_{} {
+  VariantInit(&variant_);
+}
+
+Variant::Variant(const Value& value) : Variant() {
+  std::visit(Writer{variant_}, value);
+}
+
+Variant::~Variant() {
+  VariantClear(&variant_);
+}
+
+Variant::Variant(Variant&& other) noexcept : variant_(other.variant_) {
+  VariantInit(&other.variant_);
+}
+
+Value ToValue(const VARIANT& variant, const std::shared_ptr<MemberIds>& ids) {
+  if ((variant.vt & VT_BYREF) != 0) {
+    Variant direct;
+    *direct.get() = Followed(variant);
+    return ToValue(*direct.get(), ids);
+  }
+  switch (variant.vt) {
+    case VT_EMPTY:
+    case VT_NULL:
+      return {};
+    case VT_BOOL:
+      return variant.boolVal != VARIANT_FALSE;
+    case VT_I2:
+      return variant.iVal;
+    case VT_I4:
+    case VT_INT:
+      return static_cast<std::int32_t>(variant.lVal);
+    case VT_I1:
+      return Whole(static_cast<int>(variant.cVal));
+    case VT_UI1:
+      return Whole(static_cast<int>(variant.bVal));
+    case VT_UI2:
+      return Whole(variant.uiVal);
+    case VT_UI4:
+    case VT_UINT:
+      return Whole(variant.ulVal);
+    case VT_I8:
+      return Whole(variant.llVal);
+    case VT_UI8:
+      return Whole(variant.ullVal);
+    case VT_R8:
+      return variant.dblVal;
+    case VT_R4:
+      return static_cast<double>(variant.fltVal);
+    case VT_CY:
+    case VT_DECIMAL:
+      return Converted(variant, VT_R8);
+    case VT_BSTR:
+      return TextOf(variant.bstrVal);
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+      return Object(variant.punkVal, ids);
+    case VT_ERROR:
+      RaiseComError(variant.scode);
+    default:
+      RaiseOwnFailure(kConversionError, "The controller library gave a value of unknown kind.");
+  }
+}
+
+std::string TakeText(BSTR text) {
+  std::string utf8 = TextOf(text);
+  SysFreeString(text);
+  return utf8;
+}
+
+}  // namespace mortane::controller

@@ -1,0 +1,41 @@
+// Values of the controller library as COM's variants.
+#pragma once
+
+#include <oaidl.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "controller/Value.h"
+
+namespace mortane::controller {
+
+class MemberIds;
+
+// A variant that frees what it holds.
+class Variant {
+ public:
+  Variant();
+  // Text becomes UTF-16, a boolean the library's 16-bit truth. Raises kConversionError for an
+  // object of another back end.
+  explicit Variant(const Value& value);
+  ~Variant();
+  Variant(Variant&& other) noexcept;
+  Variant& operator=(Variant&&) = delete;
+
+  VARIANT* get() { return &variant_; }
+
+ private:
+  VARIANT variant_;
+};
+
+// References to a value are followed. Raises kOverflowError for an integer that 32 bits do not
+// hold, the failure that an error variant is, and kConversionError for kinds that no library member
+// has.
+Value ToValue(const VARIANT& variant, const std::shared_ptr<MemberIds>& ids);
+
+// The text of a string that the caller owns, which is freed. A null pointer is an empty text.
+std::string TakeText(BSTR text);
+
+}  // namespace mortane::controller
