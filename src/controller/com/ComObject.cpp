@@ -151,6 +151,7 @@ std::string InterfaceKey(IDispatch& object) {
   if (FAILED(type->GetTypeAttr(&attributes))) return {};
   const GUID guid = attributes->guid;
   type->ReleaseTypeAttr(attributes);
+  if (guid == GUID_NULL) return {};
   return {reinterpret_cast<const char*>(&guid), sizeof guid};
 }
 

@@ -25,7 +25,8 @@ class MemberIds {
   std::map<std::string, std::map<std::string, DISPID, std::less<>>> known_;
 };
 
-// Empty for an object without type information, whose members are then asked for each time.
+// Empty for an object without type information or without a name in it; its members are then
+// asked for each time.
 std::string InterfaceKey(IDispatch& object);
 
 // An IDispatch or an IEnumVARIANT; raises E_NOINTERFACE for an object that is neither.

@@ -1,0 +1,94 @@
+#!/bin/bash
+# Builds for Windows what the programs and their tests need, from the distribution's source
+# packages: tools/windows/libraries.sh [gui]
+# libxml2 and GoogleTest always, Qt with "gui". All of it goes into the folder that cache.sh names
+# and is built once.
+set -euo pipefail
+
+here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
+toolchain="$here/../../cmake/mingw-w64.cmake"
+cache="$("$here/cache.sh")"
+prefix="$cache/prefix"
+mkdir -p "$prefix/stamps"
+
+# One build of a library at a time, also with two calls of this script.
+exec 9>"$cache/lock"
+flock 9
+
+# The machine may know binary packages only. A copy of its own list of sources, turned into one of
+# source packages and kept apart from the system's, needs no right to change anything.
+know_source_packages() {
+  local lists="$cache/apt"
+  apt_options=(
+    -o "Dir::Etc::SourceList=/dev/null" -o "Dir::Etc::SourceParts=$lists/parts"
+    -o "Dir::State::Lists=$lists/state" -o "APT::Sandbox::User=root")
+  [[ ! -d "$lists" ]] || return 0
+  mkdir -p "$lists/parts" "$lists/state/partial"
+  local list
+  for list in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
+    [[ -f "$list" ]] || continue
+    sed -n 's/^deb[[:space:]]/deb-src /p' "$list" >"$lists/parts/$(basename "$list" .list).list"
+  done
+  for list in /etc/apt/sources.list.d/*.sources; do
+    [[ -f "$list" ]] || continue
+    sed 's/^Types:.*/Types: deb-src/' "$list" >"$lists/parts/$(basename "$list")"
+  done
+  apt-get "${apt_options[@]}" -q update
+}
+
+# library PACKAGE SHARED LICENCE OPTIONS...: a stamp of its options says that it is there.
+library() {
+  local package="$1" shared="$2" licence="$3"
+  shift 3
+  local stamp="$prefix/stamps/$package"
+  local wanted="$shared $*"
+  [[ ! -f "$stamp" || "$(cat "$stamp")" != "$wanted" ]] || return 0
+
+  know_source_packages
+  local work="$cache/source-$package"
+  rm -rf "$work"
+  mkdir -p "$work"
+  (cd "$work" && apt-get "${apt_options[@]}" -q source "$package" >/dev/null)
+  local source
+  source="$(find "$work" -mindepth 1 -maxdepth 1 -type d | head -n 1)"
+  cmake -S "$source" -B "$work/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+    -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$prefix" \
+    -DBUILD_SHARED_LIBS="$shared" "$@"
+  cmake --build "$work/build" --target install
+  mkdir -p "$prefix/licences/$package"
+  local text
+  for text in $licence; do
+    cp -r "$source/$text" "$prefix/licences/$package/"
+  done
+  cp "$source/debian/copyright" "$prefix/licences/$package/"
+  rm -rf "$work"
+  echo "$wanted" >"$stamp"
+}
+
+# without PREFIX SUFFIX NAMES...: one option a name, switched off.
+without() {
+  local before="$1" after="$2"
+  shift 2
+  options=()
+  local name
+  for name in "$@"; do
+    options+=("-D$before$name$after=OFF")
+  done
+}
+
+without LIBXML2_WITH_ "" FTP HTTP ICONV LZMA PROGRAMS PYTHON TESTS ZLIB
+library libxml2 OFF Copyright "${options[@]}"
+library googletest OFF LICENSE -DBUILD_GMOCK=OFF
+
+if [[ "${1:-}" == gui ]]; then
+  host="$(dpkg-architecture -qDEB_HOST_MULTIARCH)"
+  without FEATURE_ "" opengl vulkan sql network dbus concurrent xml printsupport \
+    system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 \
+    system_doubleconversion pkg_config
+  library qt6-base ON LICENSES -DQT_HOST_PATH=/usr \
+    -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$host/cmake" -DQT_QMAKE_TARGET_MKSPEC=win32-g++ \
+    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DINPUT_opengl=no "${options[@]}"
+  library qt6-svg ON LICENSES -DQT_HOST_PATH=/usr \
+    -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$host/cmake" -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF
+fi
+rm -rf "$cache/apt"

@@ -1,0 +1,29 @@
+#!/bin/bash
+# Runs a program for Windows under Wine: tools/windows/wine.sh PROGRAM [ARGUMENTS...]
+# Its drives and registry stand in MORTANE_WINE, or in build/wine of this tree. The first call makes
+# them, as Windows 10.
+set -euo pipefail
+
+here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
+export WINEPREFIX="${MORTANE_WINE:-$here/../../build/wine}"
+export WINEDEBUG="${WINEDEBUG:--all}"
+# Without these it asks to install what no program here needs, and adds menus to the desktop.
+export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml,winemenubuilder.exe=}"
+
+if [[ ! -f "$WINEPREFIX/ready" ]]; then
+  mkdir -p "$WINEPREFIX"
+  (
+    flock 9
+    if [[ ! -f "$WINEPREFIX/ready" ]]; then
+      DISPLAY='' wine wineboot -i
+      wine winecfg -v win10
+      touch "$WINEPREFIX/ready"
+    fi
+  ) 9>"$WINEPREFIX/lock" >/dev/null
+fi
+
+# Where the libraries stand that a program built with shared ones needs.
+path=("$("$here/cache.sh")/prefix/bin" /usr/lib/gcc/x86_64-w64-mingw32/12-posix
+  /usr/x86_64-w64-mingw32/lib)
+export WINEPATH="${WINEPATH:-$(printf 'Z:%s;' "${path[@]//\//\\}")}"
+exec wine "$@"
