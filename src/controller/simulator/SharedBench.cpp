@@ -1,13 +1,12 @@
 #include "controller/simulator/SharedBench.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 #include "common/Failure.h"
 #include "common/Numbers.h"
 #include "controller/simulator/BenchFile.h"
 #include "platform/AtomicFile.h"
+#include "platform/FilePath.h"
 #include "platform/NamedMutex.h"
 
 namespace mortane::controller {
@@ -47,10 +46,8 @@ SharedBench::SharedBench(const std::string& path)
 
 // A hash, because a path can be longer than a name may be.
 std::string SharedBench::LockName(const std::string& path) {
-  std::error_code error;
-  const std::filesystem::path absolute = std::filesystem::weakly_canonical(path, error);
   std::uint64_t hash = 14695981039346656037U;  // FNV-1a
-  for (const char c : error ? path : absolute.string()) {
+  for (const char c : ResolvedPath(path)) {
     hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
   }
   return "MortaneBench-" + HexPadded(static_cast<std::int32_t>(hash >> 32U), 8) +
@@ -77,8 +74,7 @@ void SharedBench::Exchange(Bench& bench) {
   try {
     theirs = ReadBenchFile(path_);
   } catch (const Failure&) {
-    std::error_code error;
-    if (std::filesystem::exists(path_, error)) throw;
+    if (!IsMissing(path_)) throw;
   }
   Bench merged = Merged(bench, theirs);
   if (!(merged == theirs)) WriteBenchFile(path_, merged);

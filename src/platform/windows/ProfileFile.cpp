@@ -4,9 +4,13 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "common/Failure.h"
+#include "common/TemporaryName.h"
 #include "platform/AtomicFile.h"
+#include "platform/windows/FileFailure.h"
+#include "platform/windows/SystemPath.h"
 #include "platform/windows/Wide.h"
 
 namespace mortane {
@@ -37,17 +41,26 @@ bool FitInLines(const std::vector<ProfileValue>& values) {
   });
 }
 
-// A file of the system's folder for temporary files, gone with its owner.
+std::wstring FolderForTemporaryFiles() {
+  std::array<wchar_t, MAX_PATH + 1> folder{};
+  return {folder.data(), GetTempPathW(MAX_PATH, folder.data())};
+}
+
+// An empty file in the system's folder for temporary files, gone with its owner. Its name is that
+// of a save's, so that a later edit removes what a killed process left.
 class TemporaryFile {
  public:
   TemporaryFile() {
-    std::array<wchar_t, MAX_PATH + 1> folder{};
-    std::array<wchar_t, MAX_PATH + 1> name{};
-    if (GetTempPathW(MAX_PATH, folder.data()) == 0 ||
-        GetTempFileNameW(folder.data(), L"ini", 0, name.data()) == 0) {
-      RaiseOwnFailure(kFileError, "No temporary file: " + SystemMessage(GetLastError()));
+    const std::wstring folder = FolderForTemporaryFiles();
+    DWORD error = ERROR_FILE_EXISTS;
+    for (int number = 0; error == ERROR_FILE_EXISTS && number < kTemporaryNames; ++number) {
+      path_ = folder + ToWide(TemporaryName(GetCurrentProcessId(), number));
+      const Handle made(CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+      if (made.IsOpen()) return;
+      error = GetLastError();
     }
-    path_ = name.data();
+    RaiseFileFailure("write", ToUtf8(path_), error);
   }
   ~TemporaryFile() { DeleteFileW(path_.c_str()); }
   TemporaryFile(const TemporaryFile&) = delete;
@@ -87,6 +100,29 @@ bool EditCopy(const std::string& path, Edit&& edit) {
   }
 }
 
+// Where the system's calls read the file. They look in a folder of their own for a path that is not
+// absolute, and take none that is empty or as long as MAX_PATH: such a file they read in a copy,
+// which is empty when the file cannot be read.
+class ReadableFile {
+ public:
+  explicit ReadableFile(const std::string& utf8Path) : path_(PlainPath(SystemPath(utf8Path))) {
+    if (!path_.empty() && path_.size() < MAX_PATH) return;
+    try {
+      copy_.emplace();
+      path_ = copy_->Path();
+      WriteFileAtomically(ToUtf8(path_), ReadWholeFile(utf8Path));
+    } catch (const Failure&) {
+      return;
+    }
+  }
+
+  const wchar_t* Path() const { return path_.c_str(); }
+
+ private:
+  std::wstring path_;
+  std::optional<TemporaryFile> copy_;
+};
+
 // Deletes a key; without one the section.
 bool Delete(const std::string& path, std::string_view section, const wchar_t* key) {
   return EditCopy(path, [&](const wchar_t* copy) {
@@ -96,10 +132,11 @@ bool Delete(const std::string& path, std::string_view section, const wchar_t* ke
 
 std::wstring Read(const std::string& path, std::string_view section, const wchar_t* key,
                   std::string_view otherwise) {
+  const ReadableFile file(path);
   std::wstring buffer(kBufferCharacters, L'\0');
   const DWORD length =
       GetPrivateProfileStringW(ToWide(section).c_str(), key, ToWide(otherwise).c_str(),
-                               buffer.data(), kBufferCharacters, ToWide(path).c_str());
+                               buffer.data(), kBufferCharacters, file.Path());
   buffer.resize(length);
   return buffer;
 }
@@ -113,14 +150,15 @@ std::string ProfileFile::Text(std::string_view section, std::string_view key,
 
 std::int32_t ProfileFile::Int(std::string_view section, std::string_view key,
                               std::int32_t otherwise) const {
-  return static_cast<std::int32_t>(GetPrivateProfileIntW(
-      ToWide(section).c_str(), ToWide(key).c_str(), otherwise, ToWide(path_).c_str()));
+  const ReadableFile file(path_);
+  return static_cast<std::int32_t>(
+      GetPrivateProfileIntW(ToWide(section).c_str(), ToWide(key).c_str(), otherwise, file.Path()));
 }
 
 std::vector<std::string> ProfileFile::SectionNames() const {
+  const ReadableFile file(path_);
   std::wstring buffer(kBufferCharacters, L'\0');
-  buffer.resize(
-      GetPrivateProfileSectionNamesW(buffer.data(), kBufferCharacters, ToWide(path_).c_str()));
+  buffer.resize(GetPrivateProfileSectionNamesW(buffer.data(), kBufferCharacters, file.Path()));
   return SplitNames(buffer);
 }
 

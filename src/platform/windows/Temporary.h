@@ -1,0 +1,49 @@
+// The file that a save writes beside its target and then puts in the target's place.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+#include "platform/windows/Handle.h"
+
+namespace mortane {
+
+// What a save replaces, or makes.
+struct SaveTarget {
+  std::string shownPath;  // as the user gave it, for messages
+  std::wstring path;      // as SystemPath gives it, links followed
+  bool exists = false;
+  DWORD attributes = 0;
+};
+
+// Gone with its owner unless it was put in the target's place. Every step raises a Failure when it
+// fails.
+class Temporary {
+ public:
+  explicit Temporary(const SaveTarget& target);
+  ~Temporary();
+  Temporary(const Temporary&) = delete;
+  Temporary& operator=(const Temporary&) = delete;
+
+  void TakeAccessRights();
+  void Write(std::string_view bytes);
+  void RenameToTarget();
+
+ private:
+  [[noreturn]] void Raise() const;
+  bool PutInPlace();
+  bool RenameOver();
+  bool Move() const;
+  bool Replace();
+
+  const SaveTarget& target_;
+  std::wstring path_;
+  Handle file_;
+};
+
+// Removes what processes left that ended during a save in that folder.
+void RemoveLeftTemporaries(const std::wstring& folder);
+
+}  // namespace mortane
