@@ -178,6 +178,21 @@ TEST(SharedBench, HasOneLockForAllWaysToItsFile) {
   EXPECT_NE(SharedBench::LockName(rig.folder.Path("other.xml")), name);
 }
 
+// What is wrong must not be taken for missing, and replaced, because of its name.
+TEST(SharedBench, LeavesAWrongFileUnderAnyName) {
+  const TempFolder folder;
+  for (const char* name : {"b.xml", "b \xC3\xA4\xE6\x97\xA5.xml"}) {
+    const std::string path = folder.Path(name);
+    WriteBenchFile(path, Bench{{Instrument()}, {}});
+    SharedBench file(path);
+    Bench bench = file.Known();
+    folder.Write(name, "<Bench>");
+    bench.instruments[0].name = "New";
+    EXPECT_THROW(file.Exchange(bench), Failure) << name;
+    EXPECT_EQ(TempFolder::Read(path), "<Bench>") << name;
+  }
+}
+
 TEST(SharedBench, IsReadWhenItIsMade) {
   const TempFolder folder;
   EXPECT_THROW(SharedBench(folder.Path("missing.xml")), Failure);

@@ -4,6 +4,8 @@
 
 #include <filesystem>
 
+#include "support/Utf8Path.h"
+
 namespace mortane {
 namespace {
 
@@ -11,30 +13,12 @@ TEST(GetCommandLineArray, BeginsWithTheProgramsPath) {
   char name[] = "made-up";
   char* arguments[] = {name, nullptr};
   const std::vector<std::string> array = GetCommandLineArray(1, arguments);
-  ASSERT_EQ(array.size(), 1U);
-  EXPECT_TRUE(std::filesystem::exists(std::filesystem::u8path(array[0]))) << array[0];
-  EXPECT_EQ(std::filesystem::path(array[0]).stem(), "platform_tests");
+  ASSERT_GE(array.size(), 1U);
+  const std::filesystem::path program = test::PathOf(array[0]);
+  EXPECT_TRUE(program.is_absolute()) << array[0];
+  EXPECT_TRUE(std::filesystem::exists(program)) << array[0];
+  EXPECT_EQ(program.stem(), "platform_tests");
 }
-
-#ifndef _WIN32
-TEST(GetCommandLineArray, GivesEveryArgumentWhole) {
-  char name[] = "made-up";
-  char blanks[] = " Quay North ";
-  char empty[] = "";
-  char simulator[] = "/SIM";
-  char micro[] = "\xC2\xB5";
-  char* arguments[] = {name, blanks, empty, simulator, micro, nullptr};
-  const std::vector<std::string> array = GetCommandLineArray(5, arguments);
-  ASSERT_EQ(array.size(), 5U);
-  EXPECT_EQ(std::vector<std::string>(array.begin() + 1, array.end()),
-            (std::vector<std::string>{" Quay North ", "", "/SIM", "\xC2\xB5"}));
-}
-
-TEST(GetCommandLineArray, OfNothingIsTheProgramAlone) {
-  char* arguments[] = {nullptr};
-  EXPECT_EQ(GetCommandLineArray(0, arguments).size(), 1U);
-}
-#endif
 
 }  // namespace
 }  // namespace mortane

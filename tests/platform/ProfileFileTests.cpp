@@ -45,7 +45,6 @@ TEST_F(ProfileFileTest, FindsAKeyHoweverItIsWritten) {
       {"[JoyPad]\nRight=\"7\n", "\"7"},
       {"[JoyPad]\nRight=a=b;c\n", "a=b;c"},
       {"[JoyPad]\nRight=\n", ""},
-      {"\xEF\xBB\xBF[JoyPad]\nRight=7\n", "7"},
   };
   for (const TextRow& row : rows)
     EXPECT_EQ(With(row.content).Text("JoyPad", "Right", "?"), row.text) << row.content;

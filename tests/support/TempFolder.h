@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "support/Utf8Path.h"
+
 namespace mortane::test {
 
 class TempFolder {
@@ -25,18 +27,18 @@ class TempFolder {
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
 
-  std::string Path(std::string_view name) const { return (path_ / name).string(); }
+  std::string Path(std::string_view name) const { return Utf8Of(path_ / PathOf(name)); }
 
   // Writes a file and gives its path.
   std::string Write(std::string_view name, std::string_view bytes) const {
     std::string path = Path(name);
-    std::ofstream(path, std::ios::binary) << bytes;
+    std::ofstream(PathOf(path), std::ios::binary) << bytes;
     return path;
   }
 
   static std::string Read(const std::string& path) {
     std::ostringstream bytes;
-    bytes << std::ifstream(path, std::ios::binary).rdbuf();
+    bytes << std::ifstream(PathOf(path), std::ios::binary).rdbuf();
     return bytes.str();
   }
 

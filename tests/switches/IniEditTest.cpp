@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "support/TempFolder.h"
+#include "support/ThisSystem.h"
 #include "switches/clsIniEdit.h"
 
 namespace mortane::test {
@@ -139,7 +140,8 @@ TEST_F(IniEdit, StopsAtTheFirstNameThatIsEmpty) {
 
 TEST_F(IniEdit, CountsCharactersAndNotBytes) {
   Names names(2);
-  EXPECT_EQ(With("[\xC3\xA9\xC3\xA9]\n[b]\n").GetSectionNames(names), 3 + 2);
+  const std::string content = NativeBytes("[\xC3\xA9\xC3\xA9]\n[b]\n");
+  EXPECT_EQ(With(content).GetSectionNames(names), 3 + 2);
   EXPECT_EQ(names, (Names{"\xC3\xA9\xC3\xA9", "b"}));
 }
 

@@ -14,8 +14,8 @@
 #include "common/Failure.h"
 #include "common/TemporaryName.h"
 #include "platform/AtomicFile.h"
-#include "platform/posix/ChildProcess.h"
 #include "support/TempFolder.h"
+#include "support/posix/ChildProcess.h"
 
 namespace mortane {
 namespace {

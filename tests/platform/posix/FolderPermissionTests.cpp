@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "platform/Folder.h"
-#include "platform/posix/ChildProcess.h"
 #include "support/TempFolder.h"
+#include "support/posix/ChildProcess.h"
 
 namespace mortane {
 namespace {

@@ -1,3 +1,4 @@
+// What holds for a name that a file stands for.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,8 +7,8 @@
 #include <string>
 
 #include "platform/NamedMutex.h"
-#include "platform/posix/ChildProcess.h"
 #include "support/UniqueName.h"
+#include "support/posix/ChildProcess.h"
 
 namespace mortane {
 namespace {
@@ -29,32 +30,6 @@ std::filesystem::path LockFile(const std::string& name) {
     if (std::filesystem::exists(std::filesystem::symlink_status(path))) return path;
   }
   return {};
-}
-
-TEST(NamedMutexAcrossProcesses, ExcludesTheSecondProcess) {
-  const test::UniqueName unique;
-  const std::string& name = unique.Text();
-  NamedMutex holder;
-  ASSERT_EQ(holder.Open(name), Opened::First);
-  EXPECT_EQ(OpenInChild(name), static_cast<int>(Opened::AlreadyExisted));
-  holder.Close();
-  EXPECT_EQ(OpenInChild(name), static_cast<int>(Opened::First));
-}
-
-TEST(NamedMutexAcrossProcesses, IsFreeOnceItsHolderWasKilled) {
-  const test::UniqueName unique;
-  const std::string& name = unique.Text();
-  test::ChildProcess holder([&](const test::ChildProcess::Side& parent) {
-    NamedMutex mutex;
-    if (mutex.Open(name) != Opened::First) return 1;
-    parent.Tell();
-    parent.AwaitParent();
-    return 0;
-  });
-  holder.AwaitChild();
-  EXPECT_EQ(NamedMutex().Open(name), Opened::AlreadyExisted);
-  holder.Kill();
-  EXPECT_EQ(NamedMutex().Open(name), Opened::First);
 }
 
 TEST(NamedMutexAcrossProcesses, IsNotKeptAliveByALoser) {
@@ -109,31 +84,6 @@ TEST(NamedMutexAcrossProcesses, FollowsNoLinkInTheFilesPlace) {
   EXPECT_EQ(NamedMutex().Open(name), Opened::Failed);
   EXPECT_FALSE(std::filesystem::exists(victim));
   std::filesystem::remove(file);
-}
-
-TEST(NamedMutexAcrossProcesses, OwnsApartFromTheName) {
-  const test::UniqueName unique;
-  const std::string& name = unique.Text();
-  NamedMutex holder;
-  ASSERT_EQ(holder.Open(name), Opened::First);
-  test::ChildProcess other([&](const test::ChildProcess::Side& parent) {
-    NamedMutex mutex;
-    mutex.Open(name);
-    mutex.Lock(-1);
-    parent.Tell();
-    parent.AwaitParent();
-    mutex.Unlock();
-    parent.Tell();
-    parent.AwaitParent();
-    return 0;
-  });
-  other.AwaitChild();
-  holder.Lock(0);  // in vain, and back at once
-  other.Tell();
-  other.AwaitChild();
-  holder.Lock(-1);
-  other.Tell();
-  EXPECT_EQ(other.Wait(), 0);
 }
 
 }  // namespace

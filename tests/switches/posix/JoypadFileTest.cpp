@@ -13,9 +13,9 @@
 #include <cstddef>
 #include <filesystem>
 
-#include "platform/posix/ChildProcess.h"
 #include "support/ScriptedJoystick.h"
 #include "support/TempFolder.h"
+#include "support/posix/ChildProcess.h"
 #include "switches/JoypadAssignments.h"
 
 namespace mortane::test {

@@ -1,4 +1,4 @@
-#include "platform/posix/ChildProcess.h"
+#include "support/posix/ChildProcess.h"
 
 #include <grp.h>
 #include <sys/wait.h>

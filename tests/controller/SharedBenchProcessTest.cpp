@@ -2,23 +2,26 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <filesystem>
 
 #include "controller/SimulatedRig.h"
 #include "controller/simulator/BenchFile.h"
 #include "controller/simulator/SharedBench.h"
 #include "platform/NamedMutex.h"
 #include "platform/Sleep.h"
-#include "platform/posix/ChildProcess.h"
+#include "support/SecondProcess.h"
 #include "support/TempFolder.h"
 
 namespace mortane::controller::test {
 namespace {
 
-using mortane::test::ChildProcess;
+using mortane::test::SecondProcess;
 using mortane::test::TempFolder;
+using mortane::test::Words;
 
 constexpr std::int32_t kRounds = 20;
+
+// A name that an 8-bit code page cannot hold.
+constexpr const char* kFileName = "bench \xC3\xA4\xE6\x97\xA5.xml";
 
 // Counts an instrument's escape mode up, one exchange for each step.
 int CountUp(const std::string& path, std::size_t place) {
@@ -33,17 +36,40 @@ int CountUp(const std::string& path, std::size_t place) {
   return 0;
 }
 
+const SecondProcess::Part kCountUp{"count up",
+                                   [](const SecondProcess::Side& test, const Words& words) {
+                                     test.Tell();
+                                     return CountUp(words.at(0), 1);
+                                   }};
+
+const SecondProcess::Part kRename{"rename",
+                                  [](const SecondProcess::Side& test, const Words& words) {
+                                    SharedBench file(words.at(0));
+                                    Bench bench = file.Known();
+                                    bench.instruments[0].name = "Other";
+                                    test.Tell();
+                                    file.Exchange(bench);
+                                    return 0;
+                                  }};
+
+const SecondProcess::Part kExchangeForEver{
+    "exchange for ever", [](const SecondProcess::Side& test, const Words& words) -> int {
+      SharedBench file(words.at(0));
+      Bench bench = file.Known();
+      for (;;) {
+        if (++bench.instruments[0].escapeMode == 3) test.Tell();
+        file.Exchange(bench);
+      }
+    }};
+
 TEST(SharedBenchProcesses, KeepWhatEachOfThemSent) {
   const TempFolder folder;
-  const std::string path = folder.Path("bench.xml");
+  const std::string path = folder.Path(kFileName);
   Bench bench;
   bench.instruments.resize(2);
   WriteBenchFile(path, bench);
-  ChildProcess other([&](const ChildProcess::Side& parent) {
-    parent.Tell();
-    return CountUp(path, 1);
-  });
-  other.AwaitChild();
+  SecondProcess other(kCountUp, {path});
+  other.Await();
   EXPECT_EQ(CountUp(path, 0), 0);
   EXPECT_EQ(other.Wait(), 0);
   const Bench stored = ReadBenchFile(path);
@@ -51,29 +77,15 @@ TEST(SharedBenchProcesses, KeepWhatEachOfThemSent) {
   EXPECT_EQ(stored.instruments[1].escapeMode, kRounds);
 }
 
-TEST(SharedBenchProcesses, HaveOneLockForAFileAndALinkToIt) {
-  const TempFolder folder;
-  const std::string path = folder.Write("bench.xml", "<Bench/>");
-  std::filesystem::create_symlink("bench.xml", folder.Path("link.xml"));
-  EXPECT_EQ(SharedBench::LockName(folder.Path("link.xml")), SharedBench::LockName(path));
-}
-
 TEST(SharedBenchProcesses, WaitForTheOneThatHoldsTheFile) {
   const TempFolder folder;
-  const std::string path = folder.Path("bench.xml");
+  const std::string path = folder.Path(kFileName);
   WriteBenchFile(path, benches::Named("Quay"));
   NamedMutex lock;
   lock.Open(SharedBench::LockName(path));
   lock.Lock(-1);
-  ChildProcess other([&](const ChildProcess::Side& parent) {
-    SharedBench file(path);
-    Bench bench = file.Known();
-    bench.instruments[0].name = "Other";
-    parent.Tell();
-    file.Exchange(bench);
-    return 0;
-  });
-  other.AwaitChild();
+  SecondProcess other(kRename, {path});
+  other.Await();
   SleepMilliseconds(50);  // several times what an exchange takes
   EXPECT_EQ(ReadBenchFile(path).instruments[0].name, "Lab 2 East");
   lock.Unlock();
@@ -83,17 +95,10 @@ TEST(SharedBenchProcesses, WaitForTheOneThatHoldsTheFile) {
 
 TEST(SharedBenchProcesses, ThatAreKilledKeepNoLock) {
   const TempFolder folder;
-  const std::string path = folder.Path("bench.xml");
+  const std::string path = folder.Path(kFileName);
   WriteBenchFile(path, Bench{{Instrument()}, {}});
-  ChildProcess other([&](const ChildProcess::Side& parent) -> int {
-    SharedBench file(path);
-    Bench bench = file.Known();
-    for (;;) {
-      if (++bench.instruments[0].escapeMode == 3) parent.Tell();
-      file.Exchange(bench);
-    }
-  });
-  other.AwaitChild();
+  SecondProcess other(kExchangeForEver, {path});
+  other.Await();
   other.Kill();
   SharedBench file(path);
   Bench bench = file.Known();

@@ -1,0 +1,230 @@
+// Files that other programs have open, and saves that are killed.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <filesystem>
+#include <string>
+
+#include "common/Failure.h"
+#include "common/TemporaryName.h"
+#include "platform/AtomicFile.h"
+#include "platform/Sleep.h"
+#include "platform/windows/Handle.h"
+#include "platform/windows/Wide.h"
+#include "support/SecondProcess.h"
+#include "support/TempFolder.h"
+
+namespace mortane {
+namespace {
+
+namespace fs = std::filesystem;
+using test::PathOf;
+using test::SecondProcess;
+using test::TempFolder;
+using test::Words;
+
+constexpr DWORD kWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+std::size_t FilesIn(const std::string& folder) {
+  std::size_t count = 0;
+  for (fs::directory_iterator entry(PathOf(folder)), end; entry != end; ++entry) ++count;
+  return count;
+}
+
+Handle Open(const std::string& path, DWORD access, DWORD sharing) {
+  return Handle(CreateFileW(PathOf(path).c_str(), access, sharing, nullptr, OPEN_EXISTING,
+                            FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+// What the file says through an open handle.
+std::string Content(const Handle& file) {
+  std::string bytes(1000, '\0');
+  DWORD count = 0;
+  ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
+  bytes.resize(count);
+  return bytes;
+}
+
+// Holds the file of the first word open; the second is the sharing, as a number.
+const SecondProcess::Part kHoldOpen{
+    "hold open", [](const SecondProcess::Side& test, const Words& words) {
+      const Handle file =
+          Open(words.at(0), GENERIC_READ, static_cast<DWORD>(std::stoul(words.at(1))));
+      if (!file.IsOpen()) return 1;
+      test.Tell();
+      test.AwaitTest();
+      return Content(file) == "old" ? 0 : 2;
+    }};
+
+std::string Refusal(const std::string& path) {
+  try {
+    WriteFileAtomically(path, "new");
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Number(), kFileError);
+    return failure.Description();
+  }
+  return "saved";
+}
+
+TEST(AtomicFileSharing, RefusesAFileThatAnotherProgramHasForItself) {
+  for (const DWORD sharing :
+       {0UL, FILE_SHARE_READ + 0UL, FILE_SHARE_READ + FILE_SHARE_WRITE + 0UL}) {
+    const TempFolder folder;
+    const std::string path = folder.Write("a \xC3\xA4.xml", "old");
+    SecondProcess other(kHoldOpen, {path, std::to_string(sharing)});
+    other.Await();
+    EXPECT_EQ(Refusal(path),
+              "Cannot write " + path + ": " + SystemMessage(ERROR_SHARING_VIOLATION));
+    EXPECT_EQ(FilesIn(folder.Path("")), 1U) << "no temporary file";
+    other.Tell();
+    EXPECT_EQ(other.Wait(), 0) << "the other program reads the old content";
+    EXPECT_EQ(ReadWholeFile(path), "old");
+    WriteFileAtomically(path, "new");
+    EXPECT_EQ(ReadWholeFile(path), "new");
+  }
+}
+
+TEST(AtomicFileSharing, NeedsNoNewTryOnceTheOtherProgramWasKilled) {
+  const TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  SecondProcess other(kHoldOpen, {path, "0"});
+  other.Await();
+  EXPECT_NE(Refusal(path), "saved");
+  other.Kill();
+  EXPECT_EQ(Refusal(path), "saved");
+}
+
+TEST(AtomicFileSharing, RefusesToReadAFileThatAnotherProgramHasForItself) {
+  const TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  SecondProcess other(kHoldOpen, {path, "0"});
+  other.Await();
+  try {
+    ReadWholeFile(path);
+    ADD_FAILURE() << "nothing was raised";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Number(), kFileError);
+    EXPECT_EQ(failure.Description(),
+              "Cannot read " + path + ": " + SystemMessage(ERROR_SHARING_VIOLATION));
+  }
+}
+
+// What is being written now is neither the old content nor the new.
+TEST(AtomicFileSharing, RefusesToReadAFileThatIsBeingWritten) {
+  const TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  const Handle writer = Open(path, GENERIC_WRITE, kWithAll);
+  EXPECT_THROW(ReadWholeFile(path), Failure);
+}
+
+TEST(AtomicFileSharing, ReplacesAFileThatOthersReadAndShare) {
+  const TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  SecondProcess other(kHoldOpen, {path, std::to_string(kWithAll)});
+  other.Await();
+  Handle reader = Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE);
+  WriteFileAtomically(path, "new");
+  EXPECT_EQ(ReadWholeFile(path), "new");
+  EXPECT_EQ(Content(reader), "old") << "who has it open reads on in the old one";
+  other.Tell();
+  EXPECT_EQ(other.Wait(), 0);
+  reader.Close();
+  EXPECT_EQ(FilesIn(folder.Path("")), 1U);
+}
+
+TEST(AtomicFileSharing, ReadsBesideOtherReaders) {
+  const TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  const Handle reader = Open(path, GENERIC_READ, FILE_SHARE_READ);
+  EXPECT_EQ(ReadWholeFile(path), "old");
+}
+
+// Saves two contents in turn until it is killed.
+const SecondProcess::Part kSaveForEver{
+    "save for ever", [](const SecondProcess::Side& test, const Words& words) -> int {
+      test.Tell();
+      for (char content = 'a';; content = content == 'a' ? 'b' : 'a')
+        WriteFileAtomically(words.at(0), std::string(300000, content));
+    }};
+
+TEST(AtomicFileSharing, AKilledProcessLeavesTheOldContentOrTheNew) {
+  const TempFolder folder;
+  const std::string path = folder.Write("a.xml", std::string(300000, 'a'));
+  std::size_t left = 0;
+  for (int delay = 0; delay < 12; ++delay) {
+    SecondProcess saver(kSaveForEver, {path});
+    saver.Await();
+    SleepMilliseconds(delay);
+    saver.Kill();
+    left += FilesIn(folder.Path("")) - 1;
+    const std::string found = ReadWholeFile(path);
+    ASSERT_EQ(found.size(), 300000U);
+    ASSERT_EQ(found, std::string(300000, found.front()));
+  }
+  EXPECT_GT(left, 0U) << "no process was killed during a save";
+  WriteFileAtomically(path, "new");
+  EXPECT_EQ(FilesIn(folder.Path("")), 1U) << "what the killed ones left beside is gone";
+}
+
+const SecondProcess::Part kTellNumber{
+    "tell number", [](const SecondProcess::Side& test, const Words& words) {
+      WriteFileAtomically(words.at(0), std::to_string(GetCurrentProcessId()));
+      test.Tell();
+      test.AwaitTest();
+      return 0;
+    }};
+
+// A process that writes its number into the folder, and lives until the destructor.
+struct KnownProcess {
+  explicit KnownProcess(const TempFolder& folder) : process(kTellNumber, {folder.Path("number")}) {
+    process.Await();
+    number = std::stol(ReadWholeFile(folder.Path("number")));
+    DeleteFileW(PathOf(folder.Path("number")).c_str());
+  }
+
+  SecondProcess process;
+  std::int64_t number = 0;
+};
+
+TEST(AtomicFileSharing, TheNextSaveRemovesWhatDeadProcessesLeftInItsFolderAndNothingElse) {
+  const TempFolder folder;
+  KnownProcess living(folder);
+  KnownProcess dead(folder);
+  dead.process.Kill();
+  for (const int number : {0, 1, 999}) folder.Write(TemporaryName(dead.number, number), "left");
+  const std::string form = TemporaryName(dead.number, 0);
+  folder.Write(form + ".bak", "x");
+  folder.Write("x" + form, "x");
+  folder.Write(".mortane-" + std::to_string(dead.number) + ".tmp", "x");
+  folder.Write(TemporaryName(living.number, 0), "of a process that lives");
+  fs::create_directory(PathOf(folder.Path(TemporaryName(dead.number, 2))));
+  WriteFileAtomically(folder.Path("a.xml"), "new");
+  EXPECT_EQ(FilesIn(folder.Path("")), 6U);
+  EXPECT_FALSE(fs::exists(PathOf(folder.Path(form))));
+}
+
+// The numbers of processes on another machine mean nothing here.
+TEST(AtomicFileSharing, ATemporaryThatSomeoneWritesStaysThoughItsProcessIsUnknownHere) {
+  const TempFolder folder;
+  KnownProcess dead(folder);
+  dead.process.Kill();
+  const std::string path = folder.Write(TemporaryName(dead.number, 0), "half");
+  Handle writer = Open(path, GENERIC_WRITE, 0);
+  ASSERT_TRUE(writer.IsOpen());
+  WriteFileAtomically(folder.Path("a.xml"), "new");
+  EXPECT_TRUE(fs::exists(PathOf(path)));
+  writer.Close();
+  WriteFileAtomically(folder.Path("a.xml"), "newer");
+  EXPECT_FALSE(fs::exists(PathOf(path)));
+}
+
+TEST(AtomicFileSharing, GoesAroundWhatAKilledProcessOfTheSameNumberLeft) {
+  const TempFolder folder;
+  const std::string left = folder.Write(TemporaryName(GetCurrentProcessId(), 0), "left");
+  WriteFileAtomically(folder.Path("a.xml"), "new");
+  EXPECT_EQ(ReadWholeFile(folder.Path("a.xml")), "new");
+  EXPECT_EQ(ReadWholeFile(left), "left");
+}
+
+}  // namespace
+}  // namespace mortane
