@@ -31,6 +31,15 @@ FOREIGN = {
     r".*\.h$": ("src/platform/posix/*", "src/platform/windows/*", "src/controller/com/*"),
 }
 
+# UTF-16 for COM, which is Windows' own.
+COM_TEXTS = "platform/windows/Wide.h"
+
+# Where code may ask which system it is built for, and what asks it.
+SYSTEM_PLACES = FOREIGN[r".*\.h$"]
+SYSTEM = re.compile(
+    r"\b(?:_WIN32|_WIN64|WIN32|__MINGW\w+|_MSC_VER|__CYGWIN__|__linux__|__unix__|__APPLE__|__wine__"
+    r"|Q_OS_\w+|Q_PROCESSOR_\w+)\b")
+
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)')
 
 
@@ -88,7 +97,10 @@ def own_problem(name, header, known):
     if target not in known:
         return f'"{header}": not found from src/'
     if header.startswith(("platform/posix/", "platform/windows/")):
-        if not name.startswith("src/" + header.rsplit("/", 1)[0]):
+        friends = ("src/" + header.rsplit("/", 1)[0],)
+        if header == COM_TEXTS:
+            friends += ("src/controller/com/",)
+        if not name.startswith(friends):
             return f'"{header}": belongs to one half of the platform room'
     problem = direction_problem(name, target)
     return f'"{header}": {problem}' if problem else None
@@ -130,6 +142,9 @@ def check(root):
     for name in known:
         graph[name] = []
         for number, line in enumerate(tree.lines(root, name), 1):
+            asked = SYSTEM.search(line)
+            if asked and not fits(name, SYSTEM_PLACES):
+                said.append(f"{name}:{number}: {asked[0]}: only the platform room knows the system")
             match = INCLUDE.match(line)
             if not match:
                 continue
@@ -160,7 +175,9 @@ GOOD = {
         '#include <QApplication>\n#include "hub/clsK70.h"\n#include "objectives/ObjectiveCtl.h"\n',
     "src/platform/Sleep.h": "",
     "src/platform/posix/Sleep.cpp": "#include <unistd.h>\n",
-    "src/platform/windows/Sleep.cpp": "#include <windows.h>\n",
+    "src/platform/windows/Sleep.cpp": "#include <windows.h>\n#ifdef __MINGW32__\n#endif\n",
+    "src/platform/windows/Wide.h": "",
+    "src/controller/com/Variant.cpp": '#include "platform/windows/Wide.h"\n',
 }
 BAD = {
     "a unit that includes the hub": (
@@ -210,6 +227,16 @@ BAD = {
     "one half that includes the other": (
         {"src/platform/posix/D.h": "", "src/platform/windows/Sleep.cpp":
          '#include "platform/posix/D.h"\n'}, "src/platform/windows/Sleep.cpp:1"),
+    "code that asks for the system": (
+        {"src/hub/clsK70.cpp": "#ifdef _WIN32\n#endif\n"}, "src/hub/clsK70.cpp:1"),
+    "a window that asks for the system": (
+        {"src/app/main.cpp": "\n#if defined(Q_OS_WIN)\n#endif\n"}, "src/app/main.cpp:2"),
+    "the controller with more of a half than texts": (
+        {"src/platform/windows/Handle.h": "",
+         "src/controller/com/A.cpp": '#include "platform/windows/Handle.h"\n'},
+        "src/controller/com/A.cpp:1"),
+    "the hub with the texts of COM": (
+        {"src/hub/clsK70.cpp": '#include "platform/windows/Wide.h"\n'}, "src/hub/clsK70.cpp:1"),
     "a half that is missing": ({"src/platform/Mutex.h": ""}, "src/platform/Mutex.h"),
     "a circle of two": (
         {"src/common/A.h": '#include "common/B.h"\n', "src/common/B.h": '#include "common/A.h"\n'},

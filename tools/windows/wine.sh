@@ -22,6 +22,13 @@ if [[ ! -f "$WINEPREFIX/ready" ]]; then
   ) 9>"$WINEPREFIX/lock" >/dev/null
 fi
 
+# Windows shares every drive with its administrators.
+shares="$WINEPREFIX/dosdevices/unc/localhost"
+if [[ ! -e "$shares/C\$" ]]; then
+  mkdir -p "$shares"
+  ln -sfn ../../../drive_c "$shares/C\$"
+fi
+
 # Where the libraries stand that a program built with shared ones needs.
 path=("$("$here/cache.sh")/prefix/bin" /usr/lib/gcc/x86_64-w64-mingw32/12-posix
   /usr/x86_64-w64-mingw32/lib)
