@@ -1,5 +1,7 @@
 #!/bin/bash
 # Runs a program for Windows under Wine: tools/windows/wine.sh PROGRAM [ARGUMENTS...]
+# With --collect before the program, what it writes appears when it has ended. Wine's services and
+# its desktop, which a program may start, have its output and hold it open beyond its end.
 # Its drives and registry stand in MORTANE_WINE, or in build/wine of this tree. The first call makes
 # them, as Windows 10.
 set -euo pipefail
@@ -33,4 +35,14 @@ fi
 path=("$("$here/cache.sh")/prefix/bin" /usr/lib/gcc/x86_64-w64-mingw32/12-posix
   /usr/x86_64-w64-mingw32/lib)
 export WINEPATH="${WINEPATH:-$(printf 'Z:%s;' "${path[@]//\//\\}")}"
+if [[ "${1:-}" == --collect ]]; then
+  shift
+  output="$(mktemp -d)"
+  trap 'rm -rf "$output"' EXIT
+  status=0
+  wine "$@" >"$output/out" 2>"$output/error" || status=$?
+  cat "$output/out"
+  cat "$output/error" >&2
+  exit "$status"
+fi
 exec wine "$@"

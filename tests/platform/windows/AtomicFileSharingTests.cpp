@@ -151,10 +151,10 @@ TEST(AtomicFileSharing, AKilledProcessLeavesTheOldContentOrTheNew) {
   const TempFolder folder;
   const std::string path = folder.Write("a.xml", std::string(300000, 'a'));
   std::size_t left = 0;
-  for (int delay = 0; delay < 12; ++delay) {
+  for (int round = 0; round < 60 && (round < 10 || left == 0); ++round) {
     SecondProcess saver(kSaveForEver, {path});
     saver.Await();
-    SleepMilliseconds(delay);
+    SleepMilliseconds(round % 12);
     saver.Kill();
     left += FilesIn(folder.Path("")) - 1;
     const std::string found = ReadWholeFile(path);
