@@ -6,11 +6,11 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
-#include <QSvgRenderer>
 #include <array>
 #include <string_view>
 
 #include "widgets/Theme.h"
+#include "widgets/VectorDrawing.h"
 
 namespace mortane {
 namespace {
@@ -104,10 +104,9 @@ QPixmap Icon(IconName name, int size, const IconTint& tint, double devicePixelRa
   const int pixels = qRound(size * devicePixelRatio);
   pixmap = QPixmap(pixels, pixels);
   pixmap.fill(Qt::transparent);
-  QSvgRenderer renderer(Tinted(name, tint));
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
-  renderer.render(&painter, QRectF(0, 0, pixels, pixels));
+  VectorDrawing(Tinted(name, tint)).Paint(painter, QRectF(0, 0, pixels, pixels));
   painter.end();
   pixmap.setDevicePixelRatio(devicePixelRatio);
   QPixmapCache::insert(key, pixmap);

@@ -2,12 +2,12 @@
 
 #include <QHelpEvent>
 #include <QPainter>
-#include <QSvgRenderer>
 #include <QtMath>
 #include <array>
 
 #include "widgets/ElidedTip.h"
 #include "widgets/InkedDrawing.h"
+#include "widgets/VectorDrawing.h"
 
 namespace mortane {
 namespace {
@@ -95,9 +95,9 @@ void MicroscopeDrawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const MicroscopeLayout layout = Layout();
-  QSvgRenderer body(InkedDrawing(QStringLiteral("microscope"), palette()));
+  const VectorDrawing body(InkedDrawing(QStringLiteral("microscope"), palette()));
   if (!isEnabled()) painter.setOpacity(kDisabledOpacity);
-  body.render(&painter, layout.body);
+  body.Paint(painter, layout.body);
   painter.setOpacity(1);
   for (const DrawnLabel& label : layout.labels) PaintLabel(painter, label);
 }

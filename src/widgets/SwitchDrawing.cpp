@@ -3,7 +3,6 @@
 #include <QEvent>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QSvgRenderer>
 #include <algorithm>
 
 #include "widgets/InkedDrawing.h"
@@ -11,6 +10,7 @@
 #include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
+#include "widgets/VectorDrawing.h"
 
 namespace mortane {
 namespace {
@@ -139,8 +139,7 @@ void SwitchDrawing::PaintGround() {
     painter.translate(size.width(), 0);
     painter.scale(-1, 1);
   }
-  QSvgRenderer drawing(InkedDrawing(plan_.drawing, palette()));
-  drawing.render(&painter, QRectF(QPointF(), size));
+  VectorDrawing(InkedDrawing(plan_.drawing, palette())).Paint(painter, QRectF(QPointF(), size));
 }
 
 void SwitchDrawing::paintEvent(QPaintEvent*) {
