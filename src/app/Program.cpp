@@ -3,13 +3,11 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLocale>
-#include <cstdlib>
-#include <iostream>
 #include <optional>
 
-#include "app/BenchSession.h"
 #include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
+#include "app/SessionLibrary.h"
 #include "app/WindowPlace.h"
 #include "common/Failure.h"
 #include "common/Numbers.h"
@@ -18,37 +16,36 @@
 #include "platform/Joystick.h"
 #include "platform/Sleep.h"
 #include "platform/SpecialFolder.h"
+#include "platform/StartNotice.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
 
-constexpr int kWrongBench = 2;
-
-std::string BenchPath() {
-  const char* path = std::getenv("MORTANE_BENCH");
-  return path == nullptr ? std::string() : std::string(path);
-}
+constexpr int kCannotStart = 2;
 
 // What the user types and reads follows the operating system.
 NumberFormat FormatOf(const QLocale& locale) {
   return {locale.decimalPoint().toStdString(), locale.groupSeparator().toStdString()};
 }
 
-int ShowForm(QApplication& application, BenchSession& bench,
+int ShowForm(QApplication& application, SessionLibrary& session,
              const std::vector<std::string>& arguments, const ProgramKind& kind) {
   QApplication::setApplicationName(QLatin1String(kind.title));
   ApplyTheme(application);
   SetSystemNumberFormat(FormatOf(QLocale::system()));
   QtPrompts prompts(SleepMilliseconds);
+  if (!session.Complaint().empty()) {
+    prompts.MsgBox(session.Complaint(), box::kOk + box::kExclamation);
+  }
   SystemJoystick joystick;
-  clsK70& k70 = ProvideK70(bench.Library(), prompts);
+  clsK70& k70 = ProvideK70(session.Library(), prompts);
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                   &application, [&bench] { bench.Keep(); });
+                   &application, [&session] { session.Keep(); });
 
   std::unique_ptr<ProgramForm> form =
       kind.makeForm({.k70 = k70,
-                     .library = bench.Library(),
+                     .library = session.Library(),
                      .prompts = prompts,
                      .joystick = joystick,
                      .arguments = arguments,
@@ -69,15 +66,15 @@ int ShowForm(QApplication& application, BenchSession& bench,
 int RunProgram(int argc, char** argv, const ProgramKind& kind) {
   // The toolkit takes the options that it knows out of argv.
   const std::vector<std::string> arguments = GetCommandLineArray(argc, argv);
-  std::optional<BenchSession> bench;
+  std::optional<SessionLibrary> session;
   try {
-    bench.emplace(BenchPath());
+    session.emplace(WishOfEnvironment());
   } catch (const Failure& failure) {
-    std::cerr << kind.name << ": " << failure.Description() << '\n';
-    return kWrongBench;
+    ShowStartNotice(kind.name, failure.Description());
+    return kCannotStart;
   }
   QApplication application(argc, argv);
-  return ShowForm(application, *bench, arguments, kind);
+  return ShowForm(application, *session, arguments, kind);
 }
 
 }  // namespace mortane

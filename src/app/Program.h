@@ -17,7 +17,8 @@ struct ProgramKind {
   std::function<std::unique_ptr<ProgramForm>(const FormServices&)> makeForm;
 };
 
-// The program's exit code: 2 for a bench file that is wrong, told in one line on standard error.
+// The program's exit code: 2 when it cannot start, for a bench file that is wrong or a journal that
+// cannot be written; one line on standard error tells why.
 int RunProgram(int argc, char** argv, const ProgramKind& kind);
 
 }  // namespace mortane

@@ -124,9 +124,7 @@ Value DecoratedObject::Next() {
 
 Value DecoratedObject::Get(std::string_view member, Args args) {
   if (member.empty()) {
-    Value number = inner_->Get(member, args);
-    library_.TookNumber(path_, number);
-    return number;
+    return library_.AroundNumber(path_, Proceed([&] { return inner_->Get(member, args); }));
   }
   return Pass({CallKind::Get, path_, member, args},
               [&](Args unwrapped) { return inner_->Get(member, unwrapped); });

@@ -56,8 +56,11 @@ class DecoratedLibrary : public ControllerLibrary {
   // Called in place of each call; `proceed` makes the call.
   virtual Value Around(const CallSite& site, const Proceed& proceed) = 0;
 
-  // Called when a state value's default member is read; not counted as a call.
-  virtual void TookNumber(const std::string& /*path*/, const Value& /*number*/) {}
+  // Called in place of each reading of a state value's default member, which is not counted as a
+  // call; `path` is the state value's.
+  virtual Value AroundNumber(const std::string& /*path*/, const Proceed& proceed) {
+    return proceed();
+  }
 
  private:
   friend class DecoratedObject;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "common/Numbers.h"
+#include "controller/CallLine.h"
 #include "controller/ControllerError.h"
 
 namespace mortane::controller {
@@ -16,12 +16,6 @@ bool IsCommand(const CallSite& site) {
   if (site.kind == CallKind::Put) return true;
   return site.kind == CallKind::Call &&
          std::find(kQuestions.begin(), kQuestions.end(), site.member) == kQuestions.end();
-}
-
-std::string LeftSide(const CallSite& site) {
-  std::string text = site.Path();
-  if (site.written != nullptr) text.append(" = ").append(DescribeValue(*site.written));
-  return text;
 }
 
 bool IsNavigation(const CallSite& site, const Value& result) {
@@ -44,22 +38,18 @@ Value JournalLibrary::Around(const CallSite& site, const Proceed& proceed) {
   ++journal_.callCount_;
   try {
     Value result = proceed();
-    if (IsNavigation(site, result)) return result;
-    std::string line = LeftSide(site);
-    const bool silent =
-        site.kind != CallKind::Get && std::holds_alternative<std::monostate>(result);
-    if (!silent) line.append(" -> ").append(DescribeValue(result));
-    journal_.Add(std::move(line), IsCommand(site));
+    if (!IsNavigation(site, result)) journal_.Add(CallLine(site, result), IsCommand(site));
     return result;
   } catch (const Failure& failure) {
-    journal_.Add(LeftSide(site) + " ! " + failure.Source() + ":" + Hex(failure.Number()),
-                 IsCommand(site));
+    journal_.Add(FailedCallLine(site, failure), IsCommand(site));
     throw;
   }
 }
 
-void JournalLibrary::TookNumber(const std::string& path, const Value& number) {
-  journal_.Add(path + " -> " + DescribeValue(number), false);
+Value JournalLibrary::AroundNumber(const std::string& path, const Proceed& proceed) {
+  Value number = proceed();
+  journal_.Add(ReadLine(path, number), false);
+  return number;
 }
 
 }  // namespace mortane::controller

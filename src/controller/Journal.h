@@ -44,7 +44,7 @@ class JournalLibrary : public DecoratedLibrary {
 
  protected:
   Value Around(const CallSite& site, const Proceed& proceed) override;
-  void TookNumber(const std::string& path, const Value& number) override;
+  Value AroundNumber(const std::string& path, const Proceed& proceed) override;
 
  private:
   Journal& journal_;

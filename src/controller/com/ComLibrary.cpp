@@ -4,12 +4,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <utility>
 
 #include "common/Failure.h"
 #include "controller/com/ComError.h"
 #include "controller/com/ComObject.h"
+#include "platform/Environment.h"
 #include "platform/windows/Wide.h"
 
 namespace mortane::controller {
@@ -32,8 +32,8 @@ constexpr std::array<InstalledClass, 3> kInstalledClasses{{
 std::vector<ComClass> InstalledClasses() {
   std::vector<ComClass> classes;
   for (const InstalledClass& row : kInstalledClasses) {
-    const char* other = std::getenv(row.variable);
-    classes.push_back({row.name, other == nullptr ? row.progId : other});
+    const std::string other = EnvironmentVariable(row.variable);
+    classes.push_back({row.name, other.empty() ? row.progId : other});
   }
   return classes;
 }

@@ -3,19 +3,15 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <string_view>
+
+#include "platform/Environment.h"
 
 namespace mortane {
 namespace {
 
-std::string Variable(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? std::string() : std::string(value);
-}
-
 std::string HomeFolder() {
-  std::string home = Variable("HOME");
+  std::string home = EnvironmentVariable("HOME");
   if (!home.empty()) return home;
   const struct passwd* user = ::getpwuid(::getuid());
   return user == nullptr || user->pw_dir == nullptr ? std::string() : std::string(user->pw_dir);
@@ -31,7 +27,7 @@ std::string WithoutSeparatorAtEnd(std::string folder) {
 std::string GetSpecialFolder(int folder) {
   if (folder != kApplicationDataFolder) return {};
   // A relative path there is invalid and to be ignored.
-  const std::string configured = Variable("XDG_CONFIG_HOME");
+  const std::string configured = EnvironmentVariable("XDG_CONFIG_HOME");
   if (configured.starts_with('/')) return WithoutSeparatorAtEnd(configured);
   const std::string home = HomeFolder();
   return home.empty() ? std::string() : WithoutSeparatorAtEnd(home) + "/.config";

@@ -86,5 +86,18 @@ TEST_F(Program, RefusesAWrongBenchFileWithOneLineAndCodeTwo) {
   EXPECT_EQ(program_.exitCode(), 2);
 }
 
+TEST_F(Program, WritesTheJournalOfItsCallsWhereTheEnvironmentSays) {
+  const TempFolder folder;
+  const std::string journal = folder.Path("journal.txt");
+  qputenv("MORTANE_JOURNAL", QByteArray::fromStdString(journal));
+  Start({"/SIM"});
+  qunsetenv("MORTANE_JOURNAL");
+  Press(AwaitWindows(2).front(), {"Return"});
+  Exit();
+  const std::string lines = TempFolder::Read(journal);
+  EXPECT_NE(lines.find("  DeviceList.Item(0).Connect()\n"), std::string::npos) << lines;
+  EXPECT_NE(lines.find("  DeviceList.Item(0).Disconnect()\n"), std::string::npos) << lines;
+}
+
 }  // namespace
 }  // namespace mortane::test
