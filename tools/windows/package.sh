@@ -1,0 +1,43 @@
+#!/bin/bash
+# Puts the programs for Windows and all that they need into one folder and one .zip:
+# tools/windows/package.sh BUILD_FOLDER DIST_FOLDER
+# Fails when a program or library there needs a DLL that neither stands beside it nor belongs to
+# an unprepared Windows 10 (packaging/windows/system-dlls.txt).
+set -euo pipefail
+
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+build="$(cd "$1" && pwd)"
+mkdir -p "$2"
+dist="$(cd "$2" && pwd)"
+prefix="$("$root/tools/windows/cache.sh")/prefix"
+prefixed=x86_64-w64-mingw32
+version="$(sed -n 's/^project(Mortane VERSION \([0-9.]*\) .*/\1/p' "$root/CMakeLists.txt")"
+name="mortane-$version-windows-x64"
+folder="$dist/$name"
+
+rm -rf "$folder" "$dist/$name.zip"
+mkdir -p "$folder/platforms" "$folder/licences/gcc"
+
+cp "$build/src/app/mortane.exe" "$build/src/wizard/sadrel.exe" "$folder/"
+for library in Core Gui Widgets; do
+  cp "$prefix/bin/Qt6$library.dll" "$folder/"
+done
+cp "$prefix/plugins/platforms/qwindows.dll" "$folder/platforms/"
+for library in libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll; do
+  cp "$("$prefixed-g++-posix" -print-file-name="$library")" "$folder/"
+done
+find "$folder" \( -name '*.exe' -o -name '*.dll' \) -exec "$prefixed-strip" {} +
+
+sed "s/@version@/$version/" "$root/packaging/windows/README.txt" | sed 's/$/\r/' \
+  >"$folder/README.txt"
+sed 's/$/\r/' "$root/LICENSE" >"$folder/licences/Mortane.txt"
+for package in qt6-base libxml2; do
+  cp -r "$prefix/licences/$package" "$folder/licences/"
+done
+cp "/usr/share/doc/g++-mingw-w64-x86-64-posix/copyright" "$folder/licences/gcc/"
+cp "/usr/share/doc/mingw-w64-x86-64-dev/copyright" "$folder/licences/gcc/mingw-w64"
+
+python3 -B "$root/tools/windows/imports.py" "$folder" "$root/packaging/windows/system-dlls.txt"
+(cd "$dist" && cmake -E tar cf "$name.zip" --format=zip "$name")
+echo "$folder: $(du -sh --apparent-size "$folder" | cut -f1)," \
+  "$name.zip: $(du -h --apparent-size "$dist/$name.zip" | cut -f1)"
