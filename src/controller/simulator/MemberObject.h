@@ -55,6 +55,21 @@ const Function& NamedFunctions<Function>::Find(std::string_view name, Args args)
   return entry->function;
 }
 
+enum class MemberUse { Get, Put, Call };
+
+// One use of a member. A property that can be read and written has two entries.
+struct MemberEntry {
+  std::string_view name;
+  MemberUse use;
+  std::size_t arguments;
+};
+
+// An object that can say what it offers. All objects of one kind share one list.
+class SimulatedObject : public ControllerObject {
+ public:
+  virtual const std::vector<MemberEntry>& Members() const = 0;
+};
+
 // The members of one kind of object. Each function gets the `Self` of the object it is called on.
 template <typename Self>
 struct MemberTable {
@@ -63,25 +78,29 @@ struct MemberTable {
 
   MemberTable& OnGet(std::string_view member, std::size_t arguments, Reader reader) {
     getters.Add(member, arguments, std::move(reader));
+    entries.push_back({member, MemberUse::Get, arguments});
     return *this;
   }
   MemberTable& OnPut(std::string_view member, std::size_t arguments, Writer writer) {
     putters.Add(member, arguments, std::move(writer));
+    entries.push_back({member, MemberUse::Put, arguments});
     return *this;
   }
   MemberTable& OnCall(std::string_view member, std::size_t arguments, Reader caller) {
     calls.Add(member, arguments, std::move(caller));
+    entries.push_back({member, MemberUse::Call, arguments});
     return *this;
   }
 
   NamedFunctions<Reader> getters;
   NamedFunctions<Writer> putters;
   NamedFunctions<Reader> calls;
+  std::vector<MemberEntry> entries;  // in the order in which they were added
 };
 
 // The table must outlive the object.
 template <typename Self>
-class MemberObject : public ControllerObject {
+class MemberObject : public SimulatedObject {
  public:
   template <typename... Parts>
   explicit MemberObject(const MemberTable<Self>& members, Parts&&... parts)
@@ -96,6 +115,8 @@ class MemberObject : public ControllerObject {
   Value Call(std::string_view member, Args args) override {
     return members_.calls.Find(member, args)(self_, args);
   }
+
+  const std::vector<MemberEntry>& Members() const override { return members_.entries; }
 
   const Self& self() const { return self_; }
 
