@@ -27,6 +27,14 @@ constexpr std::array<InstalledClass, 3> kInstalledClasses{{
     {"FiberRemote", "RAVLINCONTROLSERVERLib.FiberRemote", "MORTANE_PROGID_FIBERREMOTE"},
 }};
 
+CLSID ClassIdOf(const std::string& progId) {
+  const std::wstring text = ToWide(progId);
+  CLSID id{};
+  RequireSuccess(text.starts_with(L'{') ? CLSIDFromString(text.c_str(), &id)
+                                        : CLSIDFromProgID(text.c_str(), &id));
+  return id;
+}
+
 }  // namespace
 
 std::vector<ComClass> InstalledClasses() {
@@ -51,8 +59,7 @@ ObjectRef ComLibrary::Create(std::string_view className) {
   const auto row = std::find_if(classes_.begin(), classes_.end(),
                                 [&](const ComClass& known) { return known.name == className; });
   if (row == classes_.end()) RaiseComError(REGDB_E_CLASSNOTREG);
-  CLSID classId{};
-  RequireSuccess(CLSIDFromProgID(ToWide(row->progId).c_str(), &classId));
+  const CLSID classId = ClassIdOf(row->progId);
   void* made = nullptr;
   RequireSuccess(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
                                   IID_IDispatch, &made));

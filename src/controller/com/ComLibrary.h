@@ -12,7 +12,8 @@ namespace mortane::controller {
 
 class MemberIds;
 
-// A class of the transport, and the name under which the system knows it.
+// A class of the transport, and the name under which the system knows it: a ProgID, or for a server
+// without one its class identifier in braces.
 struct ComClass {
   std::string name;
   std::string progId;
