@@ -1,0 +1,80 @@
+// The test server's two ways to serve.
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "comserver/ServedClasses.h"
+#include "controller/com/ComLibrary.h"
+
+namespace mortane::controller::test {
+
+// A Windows handle.
+class Handle {
+ public:
+  Handle() = default;
+  explicit Handle(HANDLE handle) : handle_(handle) {}
+  ~Handle() {
+    if (handle_ != nullptr) CloseHandle(handle_);
+  }
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+
+  HANDLE get() const { return handle_; }
+
+ private:
+  HANDLE handle_ = nullptr;
+};
+
+// Identifiers that nothing on this machine has.
+comserver::ClassFamily NewFamily();
+
+// The classes of a family as a library takes them: by identifiers instead of registered names.
+std::vector<ComClass> ClassesOf(const comserver::ClassFamily& family);
+
+// A file of the test server, which stands beside the test program.
+std::wstring ServerFile(const wchar_t* name);
+
+// The server's library in this process, its classes known to this process alone and not to the
+// system. The calling thread enters its single-threaded apartment.
+class InProcessServer {
+ public:
+  InProcessServer();
+  ~InProcessServer();
+  InProcessServer(const InProcessServer&) = delete;
+  InProcessServer& operator=(const InProcessServer&) = delete;
+
+  const comserver::ClassFamily& Family() const { return comserver::kInProcessFamily; }
+
+ private:
+  std::array<DWORD, comserver::kClassNames.size()> cookies_{};
+};
+
+// The server's program, whose classes no other process of its kind has. It ends when its last
+// object is gone; it is killed with this object, and with this process.
+class ServerProcess {
+ public:
+  // Returns when its classes can be created.
+  explicit ServerProcess(const comserver::ClassFamily& family = NewFamily());
+  ~ServerProcess();
+  ServerProcess(const ServerProcess&) = delete;
+  ServerProcess& operator=(const ServerProcess&) = delete;
+
+  const comserver::ClassFamily& Family() const { return family_; }
+
+  // Returns when it has ended.
+  void Kill();
+
+  // Whether it ends by itself within so many milliseconds.
+  bool EndsWithin(DWORD milliseconds) const;
+
+ private:
+  comserver::ClassFamily family_;
+  Handle job_;
+  PROCESS_INFORMATION process_{};
+};
+
+}  // namespace mortane::controller::test
