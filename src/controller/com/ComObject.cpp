@@ -2,9 +2,9 @@
 
 #include <oleauto.h>
 
-#include <array>
+#include <bit>
+#include <optional>
 #include <utility>
-#include <vector>
 
 #include "common/Failure.h"
 #include "controller/ControllerError.h"
@@ -18,16 +18,19 @@ namespace {
 constexpr std::string_view kEnumeratorMember = "_NewEnum";
 constexpr std::string_view kNextMember = "Next";
 
-// COM takes the arguments from the last to the first.
+// Numbers in texts have a decimal point, whatever the user's system writes.
+constexpr LCID kLocale = 0x0409;  // English of the United States
+
+// The values of one call, in COM's order: what is written, then the arguments from the last to the
+// first.
 class Parameters {
  public:
   explicit Parameters(Args args, const Value* put = nullptr) {
-    variants_.reserve(args.size() + 1);
-    if (put != nullptr) variants_.emplace_back(*put);
-    for (std::size_t i = args.size(); i > 0; --i) variants_.emplace_back(args[i - 1]);
-    for (Variant& variant : variants_) raw_.push_back(*variant.get());
-    parameters_.rgvarg = raw_.empty() ? nullptr : raw_.data();
-    parameters_.cArgs = static_cast<UINT>(raw_.size());
+    if (args.size() >= values_.all.size()) RaiseComError(DISP_E_BADPARAMCOUNT);
+    if (put != nullptr) values_.Add(*put);
+    for (std::size_t i = args.size(); i > 0; --i) values_.Add(args[i - 1]);
+    parameters_.rgvarg = values_.all.data();
+    parameters_.cArgs = values_.count;
     if (put != nullptr) {
       parameters_.rgdispidNamedArgs = &putName_;
       parameters_.cNamedArgs = 1;
@@ -39,68 +42,27 @@ class Parameters {
   DISPPARAMS* get() { return &parameters_; }
 
  private:
-  std::vector<Variant> variants_;
-  std::vector<VARIANT> raw_;  // copies without ownership
+  // Frees its variants, also when a later one could not be made.
+  struct Values {
+    std::array<VARIANT, 8> all;  // the longest call has five arguments
+    UINT count = 0;
+
+    void Add(const Value& value) {
+      VariantInit(&all[count]);
+      WriteVariant(value, all[count]);
+      ++count;
+    }
+    ~Values() {
+      for (UINT i = 0; i < count; ++i) VariantClear(&all[i]);
+    }
+  };
+
+  Values values_;
   DISPID putName_ = DISPID_PROPERTYPUT;
   DISPPARAMS parameters_{};
 };
 
-class ComObject : public ControllerObject {
- public:
-  ComObject(ComPointer<IDispatch> object, std::shared_ptr<MemberIds> ids)
-      : object_(std::move(object)), ids_(std::move(ids)) {}
-
-  // A library may have made a property what is described as a method, and the reverse.
-  Value Get(std::string_view member, Args args) override {
-    return Invoke(member, DISPATCH_PROPERTYGET | DISPATCH_METHOD, args);
-  }
-  Value Call(std::string_view member, Args args) override {
-    return Invoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, args);
-  }
-  void Put(std::string_view member, const Value& value, Args args) override {
-    const DISPID id = IdOf(member);
-    Parameters parameters(args, &value);
-    const bool isObject = std::holds_alternative<ObjectRef>(value);
-    if (isObject) {
-      const HRESULT result = TryInvoke(id, DISPATCH_PROPERTYPUTREF, parameters, nullptr);
-      if (result != DISP_E_MEMBERNOTFOUND) return RequireSuccess(result);
-    }
-    RequireSuccess(TryInvoke(id, DISPATCH_PROPERTYPUT, parameters, nullptr));
-  }
-
-  const ComPointer<IDispatch>& object() const { return object_; }
-
- private:
-  DISPID IdOf(std::string_view member) {
-    if (!hasKey_) {
-      key_ = InterfaceKey(*object_.get());
-      hasKey_ = true;
-    }
-    return ids_->Find(*object_.get(), key_, member);
-  }
-
-  Value Invoke(std::string_view member, WORD flags, Args args) {
-    Parameters parameters(args);
-    Variant result;
-    RequireSuccess(TryInvoke(IdOf(member), flags, parameters, result.get()));
-    return ToValue(*result.get(), ids_);
-  }
-
-  // Raises what the library told; gives other results back.
-  HRESULT TryInvoke(DISPID id, WORD flags, Parameters& parameters, VARIANT* answer) {
-    EXCEPINFO told{};
-    const HRESULT result = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags,
-                                           parameters.get(), answer, &told, nullptr);
-    if (result == DISP_E_EXCEPTION) RaiseLibraryError(told);
-    return result;
-  }
-
-  ComPointer<IDispatch> object_;
-  std::shared_ptr<MemberIds> ids_;
-  std::string key_;
-  bool hasKey_ = false;
-};
-
+// Each step is one call of the library.
 class ComEnumerator : public ControllerObject {
  public:
   ComEnumerator(ComPointer<IEnumVARIANT> items, std::shared_ptr<MemberIds> ids)
@@ -122,47 +84,111 @@ class ComEnumerator : public ControllerObject {
   std::shared_ptr<MemberIds> ids_;
 };
 
+// Members that every interface knows by the same number.
+std::optional<DISPID> CommonId(std::string_view member) {
+  if (member.empty()) return DISPID_VALUE;
+  if (member == kEnumeratorMember) return DISPID_NEWENUM;
+  return {};
+}
+
 DISPID AskForId(IDispatch& object, std::string_view member) {
   std::wstring name = ToWide(member);
-  std::array<LPOLESTR, 1> names{name.data()};
+  LPOLESTR text = name.data();
   DISPID id = DISPID_UNKNOWN;
-  RequireSuccess(object.GetIDsOfNames(IID_NULL, names.data(), 1, LOCALE_USER_DEFAULT, &id));
+  RequireSuccess(object.GetIDsOfNames(IID_NULL, &text, 1, kLocale, &id));
   return id;
 }
+
+class ComObject : public ControllerObject {
+ public:
+  ComObject(ComPointer<IDispatch> object, std::shared_ptr<MemberIds> ids)
+      : object_(std::move(object)), ids_(std::move(ids)) {}
+
+  // A library may have made a property what is described as a method, and the reverse.
+  Value Get(std::string_view member, Args args) override { return Read(member, args); }
+  Value Call(std::string_view member, Args args) override { return Read(member, args); }
+
+  // An object is assigned by reference where the library allows that.
+  void Put(std::string_view member, const Value& value, Args args) override {
+    const DISPID id = IdOf(member);
+    Parameters parameters(args, &value);
+    if (std::holds_alternative<ObjectRef>(value)) {
+      const HRESULT result = TryInvoke(id, DISPATCH_PROPERTYPUTREF, parameters, nullptr);
+      if (result != DISP_E_MEMBERNOTFOUND) return RequireSuccess(result);
+    }
+    RequireSuccess(TryInvoke(id, DISPATCH_PROPERTYPUT, parameters, nullptr));
+  }
+
+  const ComPointer<IDispatch>& object() const { return object_; }
+
+ private:
+  Value Read(std::string_view member, Args args) {
+    Parameters parameters(args);
+    Variant result;
+    RequireSuccess(
+        TryInvoke(IdOf(member), DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, result.get()));
+    return member == kEnumeratorMember ? ToEnumerator(*result.get()) : ToValue(*result.get(), ids_);
+  }
+
+  Value ToEnumerator(const VARIANT& answer) const {
+    const bool isObject = answer.vt == VT_UNKNOWN || answer.vt == VT_DISPATCH;
+    if (!isObject || answer.punkVal == nullptr) RaiseComError(E_NOINTERFACE);
+    void* items = nullptr;
+    RequireSuccess(answer.punkVal->QueryInterface(IID_IEnumVARIANT, &items));
+    return std::make_shared<ComEnumerator>(
+        ComPointer<IEnumVARIANT>(static_cast<IEnumVARIANT*>(items)), ids_);
+  }
+
+  DISPID IdOf(std::string_view member) {
+    if (const auto common = CommonId(member)) return *common;
+    if (table_ == nullptr) {
+      table_ = ids_->TableOf(*object_.get());
+      if (table_ == nullptr) table_ = &ownTable_;
+    }
+    const auto known = table_->find(member);
+    if (known != table_->end()) return known->second;
+    const DISPID id = AskForId(*object_.get(), member);
+    table_->emplace(member, id);
+    return id;
+  }
+
+  // Raises what the library told; gives other results back.
+  HRESULT TryInvoke(DISPID id, WORD flags, Parameters& parameters, VARIANT* answer) {
+    EXCEPINFO told{};
+    const HRESULT result =
+        object_->Invoke(id, IID_NULL, kLocale, flags, parameters.get(), answer, &told, nullptr);
+    if (result == DISP_E_EXCEPTION) RaiseLibraryError(told);
+    return result;
+  }
+
+  ComPointer<IDispatch> object_;
+  std::shared_ptr<MemberIds> ids_;
+  MemberIds::Table* table_ = nullptr;
+  MemberIds::Table ownTable_;  // of an object whose interface is not told from others
+};
 
 }  // namespace
 
-DISPID MemberIds::Find(IDispatch& object, const std::string& interfaceKey,
-                       std::string_view member) {
-  if (member.empty()) return DISPID_VALUE;
-  if (member == kEnumeratorMember) return DISPID_NEWENUM;
-  if (interfaceKey.empty()) return AskForId(object, member);
-  auto& ids = known_[interfaceKey];
-  if (const auto known = ids.find(member); known != ids.end()) return known->second;
-  const DISPID id = AskForId(object, member);
-  ids.emplace(member, id);
-  return id;
-}
-
-std::string InterfaceKey(IDispatch& object) {
+MemberIds::Table* MemberIds::TableOf(IDispatch& object) {
+  void* proxy = nullptr;
+  if (SUCCEEDED(object.QueryInterface(IID_IClientSecurity, &proxy))) {
+    static_cast<IUnknown*>(proxy)->Release();
+    return nullptr;
+  }
   ComPointer<ITypeInfo> type;
-  if (FAILED(object.GetTypeInfo(0, LOCALE_USER_DEFAULT, type.Out())) || !type) return {};
   TYPEATTR* attributes = nullptr;
-  if (FAILED(type->GetTypeAttr(&attributes))) return {};
+  if (FAILED(object.GetTypeInfo(0, kLocale, type.Out())) || !type ||
+      FAILED(type->GetTypeAttr(&attributes))) {
+    return nullptr;
+  }
   const GUID guid = attributes->guid;
   type->ReleaseTypeAttr(attributes);
-  if (guid == GUID_NULL) return {};
-  return {reinterpret_cast<const char*>(&guid), sizeof guid};
+  if (guid == GUID_NULL) return nullptr;
+  return &tables_[std::bit_cast<std::array<std::uint64_t, 2>>(guid)];
 }
 
-ObjectRef MakeComObject(const ComPointer<IUnknown>& object, std::shared_ptr<MemberIds> ids) {
-  if (auto items = object.As<IEnumVARIANT>()) {
-    return std::make_shared<ComEnumerator>(std::move(items), std::move(ids));
-  }
-  if (auto dispatch = object.As<IDispatch>()) {
-    return std::make_shared<ComObject>(std::move(dispatch), std::move(ids));
-  }
-  RaiseComError(E_NOINTERFACE);
+ObjectRef MakeComObject(ComPointer<IDispatch> object, std::shared_ptr<MemberIds> ids) {
+  return std::make_shared<ComObject>(std::move(object), std::move(ids));
 }
 
 IDispatch* ReferenceTo(const ObjectRef& object) {

@@ -3,10 +3,11 @@
 
 #include <oaidl.h>
 
+#include <array>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "controller/ControllerObject.h"
 #include "controller/com/ComPointer.h"
@@ -14,23 +15,21 @@
 namespace mortane::controller {
 
 // The numbers by which interfaces know their members, asked for once for each interface and name.
-// One interface is told from another by its type information.
+// One interface is told from another by the identifier in its type information.
 class MemberIds {
  public:
-  // Raises DISP_E_UNKNOWNNAME for a name that the object does not know. The empty name is the
-  // default member, "_NewEnum" the enumerator.
-  DISPID Find(IDispatch& object, const std::string& interfaceKey, std::string_view member);
+  using Table = std::map<std::string, DISPID, std::less<>>;
+
+  // The table that all objects of this one's interface share. Null for an object without such an
+  // identifier, and for one in another process: asking that for its interface takes longer than
+  // asking for the few names that a program uses of it.
+  Table* TableOf(IDispatch& object);
 
  private:
-  std::map<std::string, std::map<std::string, DISPID, std::less<>>> known_;
+  std::map<std::array<std::uint64_t, 2>, Table> tables_;
 };
 
-// Empty for an object without type information or without a name in it; its members are then
-// asked for each time.
-std::string InterfaceKey(IDispatch& object);
-
-// An IDispatch or an IEnumVARIANT; raises E_NOINTERFACE for an object that is neither.
-ObjectRef MakeComObject(const ComPointer<IUnknown>& object, std::shared_ptr<MemberIds> ids);
+ObjectRef MakeComObject(ComPointer<IDispatch> object, std::shared_ptr<MemberIds> ids);
 
 // A new reference to the COM object behind a value; null for an empty value. Raises
 // kConversionError for an object of another back end.

@@ -64,17 +64,18 @@ Value Whole(Integer value) {
   return static_cast<std::int32_t>(value);
 }
 
-Value Object(IUnknown* object, const std::shared_ptr<MemberIds>& ids) {
+Value Object(IDispatch* object, const std::shared_ptr<MemberIds>& ids) {
   if (object == nullptr) return {};
   object->AddRef();
-  return MakeComObject(ComPointer<IUnknown>(object), ids);
+  return MakeComObject(ComPointer<IDispatch>(object), ids);
 }
 
-// The variant that a reference leads to, with its kind.
-VARIANT Followed(const VARIANT& variant) {
-  VARIANT direct{};
-  RequireSuccess(VariantCopyInd(&direct, const_cast<VARIANT*>(&variant)));
-  return direct;
+// An object that was handed out under its simplest interface.
+Value Object(IUnknown* object, const std::shared_ptr<MemberIds>& ids) {
+  if (object == nullptr) return {};
+  void* dispatch = nullptr;
+  RequireSuccess(object->QueryInterface(IID_IDispatch, &dispatch));
+  return MakeComObject(ComPointer<IDispatch>(static_cast<IDispatch*>(dispatch)), ids);
 }
 
 // Kinds that a program's type does not hold are changed into one that it does.
@@ -90,22 +91,18 @@ Variant::Variant() : variant_{} {
   VariantInit(&variant_);
 }
 
-Variant::Variant(const Value& value) : Variant() {
-  std::visit(Writer{variant_}, value);
-}
-
 Variant::~Variant() {
   VariantClear(&variant_);
 }
 
-Variant::Variant(Variant&& other) noexcept : variant_(other.variant_) {
-  VariantInit(&other.variant_);
+void WriteVariant(const Value& value, VARIANT& variant) {
+  std::visit(Writer{variant}, value);
 }
 
 Value ToValue(const VARIANT& variant, const std::shared_ptr<MemberIds>& ids) {
   if ((variant.vt & VT_BYREF) != 0) {
     Variant direct;
-    *direct.get() = Followed(variant);
+    RequireSuccess(VariantCopyInd(direct.get(), const_cast<VARIANT*>(&variant)));
     return ToValue(*direct.get(), ids);
   }
   switch (variant.vt) {
@@ -142,6 +139,7 @@ Value ToValue(const VARIANT& variant, const std::shared_ptr<MemberIds>& ids) {
     case VT_BSTR:
       return TextOf(variant.bstrVal);
     case VT_DISPATCH:
+      return Object(variant.pdispVal, ids);
     case VT_UNKNOWN:
       return Object(variant.punkVal, ids);
     case VT_ERROR:

@@ -17,18 +17,19 @@ class MemberIds;
 class Variant {
  public:
   Variant();
-  // Text becomes UTF-16, a boolean the library's 16-bit truth. Raises kConversionError for an
-  // object of another back end.
-  explicit Variant(const Value& value);
   ~Variant();
-  Variant(Variant&& other) noexcept;
-  Variant& operator=(Variant&&) = delete;
+  Variant(const Variant&) = delete;
+  Variant& operator=(const Variant&) = delete;
 
   VARIANT* get() { return &variant_; }
 
  private:
   VARIANT variant_;
 };
+
+// Fills an empty variant. Text becomes UTF-16, a boolean the library's 16-bit truth. Raises
+// kConversionError for an object of another back end; the variant is still empty then.
+void WriteVariant(const Value& value, VARIANT& variant);
 
 // References to a value are followed. Raises kOverflowError for an integer that 32 bits do not
 // hold, the failure that an error variant is, and kConversionError for kinds that no library member
