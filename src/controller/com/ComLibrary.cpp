@@ -9,6 +9,7 @@
 #include "common/Failure.h"
 #include "controller/com/ComError.h"
 #include "controller/com/ComObject.h"
+#include "controller/com/ComRoot.h"
 #include "platform/Environment.h"
 #include "platform/windows/Wide.h"
 
@@ -59,11 +60,15 @@ ObjectRef ComLibrary::Create(std::string_view className) {
   const auto row = std::find_if(classes_.begin(), classes_.end(),
                                 [&](const ComClass& known) { return known.name == className; });
   if (row == classes_.end()) RaiseComError(REGDB_E_CLASSNOTREG);
-  const CLSID classId = ClassIdOf(row->progId);
+  return std::make_shared<ComRoot>([this, row] { return MakeRoot(*row); });
+}
+
+ObjectRef ComLibrary::MakeRoot(const ComClass& row) {
+  const CLSID classId = ClassIdOf(row.progId);
   void* made = nullptr;
   RequireSuccess(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
                                   IID_IDispatch, &made));
-  return MakeComObject(ComPointer<IUnknown>(static_cast<IDispatch*>(made)), ids_);
+  return MakeComObject(ComPointer<IDispatch>(static_cast<IDispatch*>(made)), ids_);
 }
 
 }  // namespace mortane::controller

@@ -36,6 +36,8 @@ class ComLibrary : public ControllerLibrary {
   ObjectRef Create(std::string_view className) override;
 
  private:
+  ObjectRef MakeRoot(const ComClass& row);
+
   std::vector<ComClass> classes_;
   std::shared_ptr<MemberIds> ids_;
 };
