@@ -13,7 +13,7 @@ namespace server = mortane::comserver;
 HMODULE module = nullptr;
 
 server::Registration Entry() {
-  return {server::kInProcessFamily, server::kInProcessPrefix, L"InprocServer32",
+  return {server::kInProcessFamily, std::wstring(server::kInProcessPrefix), L"InprocServer32",
           server::ModulePath(module)};
 }
 

@@ -65,7 +65,7 @@ int Serve(const ClassFamily& family) {
 }
 
 int Run() {
-  const Registration entry{kOwnProcessFamily, kOwnProcessPrefix, L"LocalServer32",
+  const Registration entry{kOwnProcessFamily, std::wstring(kOwnProcessPrefix), L"LocalServer32",
                            L'"' + ModulePath(nullptr) + L'"'};
   ClassFamily family = kOwnProcessFamily;
   bool serves = false;

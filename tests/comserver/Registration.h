@@ -4,15 +4,14 @@
 #include <windows.h>
 
 #include <string>
-#include <string_view>
 
 #include "comserver/ServedClasses.h"
 
 namespace mortane::comserver {
 
 struct Registration {
-  const ClassFamily& family;
-  std::wstring_view progIdPrefix;
+  ClassFamily family;
+  std::wstring progIdPrefix;
   const wchar_t* serverKey;  // "InprocServer32" or "LocalServer32"
   std::wstring command;      // the library's path, or the program's in quotes
 };

@@ -114,4 +114,31 @@ bool ServerProcess::EndsWithin(DWORD milliseconds) const {
   return WaitForSingleObject(process_.hProcess, milliseconds) == WAIT_OBJECT_0;
 }
 
+RegisteredNames::RegisteredNames()
+    : prefix_(L"MortaneTest." + comserver::GuidText(NewFamily().base) + L".") {}
+
+RegisteredNames::~RegisteredNames() {
+  comserver::Unregister(Entry());
+}
+
+void RegisteredNames::PointTo(const ClassFamily& family) {
+  comserver::Unregister(Entry());
+  family_ = family;
+  Require(SUCCEEDED(comserver::Register(Entry())), "registration");
+}
+
+std::vector<ComClass> RegisteredNames::Classes() const {
+  std::vector<ComClass> classes;
+  for (std::size_t place = 0; place < kClassNames.size(); ++place) {
+    classes.push_back({std::string(kClassNames[place]), ToUtf8(comserver::ProgId(prefix_, place))});
+  }
+  return classes;
+}
+
+comserver::Registration RegisteredNames::Entry() const {
+  return {family_, prefix_, L"LocalServer32",
+          L'"' + ServerFile(L"mortane_test_server.exe") + L"\" -Family " +
+              comserver::GuidText(family_.base)};
+}
+
 }  // namespace mortane::controller::test

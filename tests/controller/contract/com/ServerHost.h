@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "comserver/Registration.h"
 #include "comserver/ServedClasses.h"
 #include "controller/com/ComLibrary.h"
 
@@ -75,6 +76,27 @@ class ServerProcess {
   comserver::ClassFamily family_;
   Handle job_;
   PROCESS_INFORMATION process_{};
+};
+
+// Names for the server's classes in the system's list, which nothing else uses and which go with
+// this object.
+class RegisteredNames {
+ public:
+  RegisteredNames();
+  ~RegisteredNames();
+  RegisteredNames(const RegisteredNames&) = delete;
+  RegisteredNames& operator=(const RegisteredNames&) = delete;
+
+  // The system starts the server's program for these classes when none runs.
+  void PointTo(const comserver::ClassFamily& family);
+
+  std::vector<ComClass> Classes() const;
+
+ private:
+  comserver::Registration Entry() const;
+
+  std::wstring prefix_;
+  comserver::ClassFamily family_{};
 };
 
 }  // namespace mortane::controller::test
