@@ -134,6 +134,7 @@ void ControlFocusDriveCtl::LoadEscape() {
   EnableEscape(kStageAxis, known && hasStage);
   if (!known) {
     chkEscape[kFocusAxis]->setChecked(true);
+    StoreEscape(kFocusAxis);  // also when it was on before
     return;
   }
   ShowEscape(kFocusAxis);

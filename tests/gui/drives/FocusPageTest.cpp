@@ -166,6 +166,17 @@ TEST(FocusPage, AVersionThatCannotBeReadCountsAsNoneAndIsNoBox) {
   EXPECT_TRUE(rig.prompts.Boxes().empty());
 }
 
+// The page shows it on from the loading before, and what it shows is what is sent.
+TEST(FocusPage, EachLoadingTurnsTheEscapeOnForABodyThatDoesNotKnowIt) {
+  FocusRig rig("Lantern");
+  for (const std::int16_t flag : {std::int16_t{0}, std::int16_t{2}}) {
+    rig.drive().SetEscape(0, flag);
+    rig.page.LoadData();
+    EXPECT_EQ(rig.page.chkEscape[0]->text(), "ON") << flag;
+    EXPECT_EQ(rig.drive().SetEscape(0), 1) << flag;
+  }
+}
+
 TEST(FocusPage, TheEscapeIsEnabledAgainByABodyThatKnowsIt) {
   PageRig rig(List({"Quay", "Harbour", "Lantern"}));
   auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
