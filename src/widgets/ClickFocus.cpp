@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include "widgets/TextField.h"
 
@@ -19,8 +20,10 @@ class ClickFilter : public QObject {
     const auto& release = static_cast<const QMouseEvent&>(*event);
     const bool clicked = release.button() == Qt::LeftButton && button_.isDown() &&
                          button_.rect().contains(release.position().toPoint());
-    if (!clicked || TakeFocus(button_)) return false;
-    button_.setDown(false);
+    if (!clicked) return false;
+    const QPointer<QAbstractButton> button(&button_);  // a complaint's box may see its end
+    if (TakeFocus(button_)) return false;
+    if (button != nullptr) button->setDown(false);
     return true;
   }
 
@@ -36,7 +39,8 @@ bool LeaveFocusedField() {
 }
 
 bool TakeFocus(QWidget& control) {
-  if (!LeaveFocusedField()) return false;
+  const QPointer<QWidget> taker(&control);
+  if (!LeaveFocusedField() || taker == nullptr) return false;
   control.setFocus(Qt::OtherFocusReason);
   return true;
 }

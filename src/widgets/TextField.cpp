@@ -4,7 +4,7 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QScopedValueRollback>
+#include <QPointer>
 #include <algorithm>
 #include <utility>
 
@@ -17,6 +17,25 @@ namespace mortane {
 namespace {
 
 constexpr int kTextMargin = 6;
+
+// Sets a flag of the field while it lives. A box that stands within may end the field.
+class FieldFlag {
+ public:
+  FieldFlag(const TextField* field, bool& flag, bool value)
+      : field_(field), flag_(flag), before_(std::exchange(flag, value)) {}
+  ~FieldFlag() {
+    if (field_ != nullptr) flag_ = before_;
+  }
+  FieldFlag(const FieldFlag&) = delete;
+  FieldFlag& operator=(const FieldFlag&) = delete;
+
+  bool IsLost() const { return field_ == nullptr; }
+
+ private:
+  const QPointer<const TextField> field_;
+  bool& flag_;
+  const bool before_;
+};
 
 bool IsBlank(const QString& text) {
   return std::all_of(text.begin(), text.end(), [](QChar c) { return c == QLatin1Char(' '); });
@@ -57,15 +76,16 @@ void TextField::SetCheck(std::function<bool(const QString& text)> accepts,
 bool TextField::Commit() {
   // A message box about the text moves the focus, too.
   if (checking_) return false;
-  const QScopedValueRollback<bool> checking(checking_, true);
+  const FieldFlag checking(this, checking_, true);
   if (accepts_ && !accepts_(text())) {
     SetRefused(true);
     selectAll();
-    if (complain_) complain_();
+    const std::function<void()> complain = complain_;  // outlives the field
+    if (complain) complain();
     return false;
   }
   emit committed(text());
-  return true;
+  return !checking.IsLost();
 }
 
 bool TextField::Leave() {
@@ -87,8 +107,7 @@ void TextField::SetWidthFor(int characters) {
 bool TextField::event(QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QLineEdit::event(event);
   const int key = static_cast<QKeyEvent*>(event)->key();
-  const QScopedValueRollback<bool> pressed(tabKeyPressed_,
-                                           key == Qt::Key_Tab || key == Qt::Key_Backtab);
+  const FieldFlag pressed(this, tabKeyPressed_, key == Qt::Key_Tab || key == Qt::Key_Backtab);
   return QLineEdit::event(event);
 }
 
@@ -112,7 +131,8 @@ void TextField::focusInEvent(QFocusEvent* event) {
 void TextField::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
   if (!IsMovedByPerson(event->reason()) || checking_ || FocusVeto::IsRunning()) return;
-  if (!Leave()) FocusVeto::Start(this);
+  const QPointer<TextField> field(this);
+  if (!Leave() && field != nullptr) FocusVeto::Start(field);
 }
 
 // A text that is dropped belongs to the field as one that is typed: the field is left afterwards.

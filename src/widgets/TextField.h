@@ -31,9 +31,10 @@ class TextField : public QLineEdit {
   void SetCheck(std::function<bool(const QString& text)> accepts,
                 std::function<void()> complain = {});
 
-  // Checks the text and raises committed(); false when it is refused.
+  // Checks the text and raises committed(); false when it is refused, or when the field has ended
+  // meanwhile.
   bool Commit();
-  // What leaving does, whether the focus moves or not; false when the text is refused.
+  // What leaving does, whether the focus moves or not; false as for Commit().
   bool Leave();
   [[nodiscard]] bool isRefused() const;
 

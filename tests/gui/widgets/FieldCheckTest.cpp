@@ -1,6 +1,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <stdexcept>
 
 #include "gui/widgets/TestWindow.h"
 #include "widgets/ListBox.h"
@@ -159,6 +160,47 @@ TEST_F(FieldCheck, EnterAsksAndARefusedTextIsNotCommitted) {
   field->setText("good");
   QTest::keyClick(field, Qt::Key_Return);
   EXPECT_EQ(committed.count(), 1);
+}
+
+// While a box stands, what the field belongs to may end.
+
+TEST_F(FieldCheck, AFieldThatEndsWhileItsBoxStandsIsLeftAlone) {
+  field->SetCheck([](const QString&) { return false; }, [this] { delete field; });
+  QTest::keyClick(field, Qt::Key_Return);
+  QApplication::processEvents();
+  second->setText("next");
+  QTest::keyClick(second, Qt::Key_Return);
+  EXPECT_TRUE(second->isEnabled());
+}
+
+TEST_F(FieldCheck, AFieldThatEndsWhileTheTabKeyLeavesItTakesNoFocusBack) {
+  field->SetCheck([](const QString&) { return false; }, [this] { delete field; });
+  QTest::keyClick(field, Qt::Key_Tab);
+  QApplication::processEvents();
+  EXPECT_TRUE(second->hasFocus());
+}
+
+TEST_F(FieldCheck, AFieldThatEndsWhileAClickLeavesItTakesNoFocusBack) {
+  field->SetCheck([](const QString&) { return false; }, [this] { delete field; });
+  Click(second);
+  EXPECT_TRUE(second->hasFocus());
+}
+
+TEST_F(FieldCheck, AFieldThatEndsAsItsTextIsCommittedIsLeftAlone) {
+  field->SetMark("-----");
+  field->setText("good");
+  QObject::connect(field, &TextField::committed, &window.widget(), [this] { delete field; });
+  QTest::keyClick(field, Qt::Key_Tab);
+  QApplication::processEvents();
+  EXPECT_TRUE(second->hasFocus());
+}
+
+TEST_F(FieldCheck, AComplaintThatFailsLeavesTheFieldAtWork) {
+  field->SetCheck([](const QString& text) { return text == "good"; },
+                  [] { throw std::runtime_error("no box"); });
+  EXPECT_THROW(field->Commit(), std::runtime_error);
+  field->setText("good");
+  EXPECT_TRUE(field->Commit());
 }
 
 TEST_F(FieldCheck, DisablingTheFieldItselfAsksNothing) {

@@ -178,6 +178,20 @@ TEST_P(LeavingByClick, ARefusedTextForbidsTheClickAndKeepsTheFocus) {
   EXPECT_NE(state(), before) << "and acts again afterwards";
 }
 
+// As when the window goes while the message about the text stands.
+TEST_P(LeavingByClick, AClickOnWhatEndsDuringTheComplaintDoesNothing) {
+  QWidget* clicked = GetParam().focus(c);
+  c.field->SetCheck([](const QString&) { return false; },
+                    [&] {
+                      delete c.field;
+                      delete clicked;
+                    });
+  const QPoint place = target->mapTo(&c.window.widget(), at);
+  QTest::mouseClick(c.window.widget().windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+  QApplication::processEvents();
+  EXPECT_EQ(c.commits, 0);
+}
+
 TEST_P(LeavingByClick, OtherButtonsLeaveTheFocusWhereItIs) {
   for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
     c.Press(target, button, at);
