@@ -224,10 +224,7 @@ void ControlFocusDriveCtl::Start() {
   if (*moving_ || selectedRow_ < 0 || !CheckRealMove->isChecked()) return;
   if (optNosepiece->button(selectedRow_)->isHidden()) return;
   const std::optional<std::int32_t> target = FrameNosepiece->Steps(selectedRow_);
-  if (!target) return;
-  Prompts& prompts = drive_.parent.prompts();
-  MoveToRow(selectedRow_, *target);
-  prompts.FlushInput();
+  if (target) MoveToRow(selectedRow_, *target);
 }
 
 // The row keeps its stored position; leaving its field, or saving, takes what is shown.
