@@ -7,13 +7,12 @@
 #include <set>
 #include <string>
 
+#include "switches/FunctionNames.h"
+
 namespace mortane::test {
 namespace {
 
-using Names = std::vector<std::string>;
 using Codes = std::vector<int>;
-
-constexpr const char* kDashes = "-----------------";
 
 Names NamesOf(const SwitchFunctionList& list) {
   Names names;
@@ -24,62 +23,6 @@ Names NamesOf(const SwitchFunctionList& list) {
 template <typename Array>
 Codes Plain(const Array& codes) {
   return {codes.begin(), codes.end()};
-}
-
-const Names& AllNames() {
-  static const Names names{kDashes,
-                           "Objective CW",
-                           "Objective CCW",
-                           "Z Focus Knob Speed Change",
-                           "Z Escape",
-                           "DIA Lamp Preset",
-                           "LightPath Change",
-                           "DIA Field Stop OPEN",
-                           "DIA Field Stop CLOSE",
-                           "DIA Aperture Stop OPEN",
-                           "DIA Aperture Stop CLOSE",
-                           "Filter Cube CW",
-                           "Filter Cube CCW",
-                           "Shutter OPEN/CLOSE",
-                           "Condenser CW",
-                           "Condenser CCW",
-                           "ND Filter BRIGHT",
-                           "ND Filter DARK",
-                           "DIA Lamp UP",
-                           "DIA Lamp DOWN",
-                           "Optical Zoom UP",
-                           "Optical Zoom DOWN",
-                           "Epi Field Stop OPEN",
-                           "Epi Field Stop CLOSE",
-                           "Analyzer IN/OUT",
-                           "XYstage Knob Speed Change",
-                           "DIA Lamp ON/OFF",
-                           "Auto Focus",
-                           "Image Capture ",
-                           "Observation Brightfield",
-                           "Observation DIC",
-                           "Observation DIC/FL",
-                           "Observation Fluorescence",
-                           "Observation Phase Contrast",
-                           "Observation Darkfield",
-                           "Optional Observation 1",
-                           "Optional Observation 2",
-                           "Optional Observation 3",
-                           "Optional Observation 4",
-                           "Optional Observation 5",
-                           "Optional Observation 6",
-                           "DIC <-> Brightfield",
-                           "DIC/FL <-> Brightfield",
-                           "Fluorescence <-> Brightfield",
-                           "Phase Contrast <-> Brightfield",
-                           "Darkfield <-> Brightfield",
-                           "Option 1 <-> Brightfield",
-                           "Option 2 <-> Brightfield",
-                           "Option 3 <-> Brightfield",
-                           "Option 4 <-> Brightfield",
-                           "Option 5 <-> Brightfield",
-                           "Option 6 <-> Brightfield"};
-  return names;
 }
 
 TEST(SwitchFunctions, AreFiftyTwoEachAtThePlaceOfItsCode) {
@@ -118,30 +61,7 @@ TEST(SwitchFunctions, OfADialsOtherDirectionFollowOrAreNone) {
 }
 
 TEST(SwitchFunctions, ForPushSwitchesStandInTheirOrder) {
-  EXPECT_EQ(NamesOf(PushFunctions()), (Names{kDashes,
-                                             "Z Focus Knob Speed Change",
-                                             "Z Escape",
-                                             "DIA Lamp Preset",
-                                             "LightPath Change",
-                                             "Shutter OPEN/CLOSE",
-                                             "Optical Zoom UP",
-                                             "Optical Zoom DOWN",
-                                             "Analyzer IN/OUT",
-                                             "XYstage Knob Speed Change",
-                                             "DIA Lamp ON/OFF",
-                                             "Auto Focus",
-                                             "Image Capture ",
-                                             "DIC <-> Brightfield",
-                                             "DIC/FL <-> Brightfield",
-                                             "Fluorescence <-> Brightfield",
-                                             "Phase Contrast <-> Brightfield",
-                                             "Darkfield <-> Brightfield",
-                                             "Option 1 <-> Brightfield",
-                                             "Option 2 <-> Brightfield",
-                                             "Option 3 <-> Brightfield",
-                                             "Option 4 <-> Brightfield",
-                                             "Option 5 <-> Brightfield",
-                                             "Option 6 <-> Brightfield"}));
+  EXPECT_EQ(NamesOf(PushFunctions()), PushNames());
 }
 
 TEST(SwitchFunctions, ForPushSwitchesHaveTheCodeOfTheSameText) {

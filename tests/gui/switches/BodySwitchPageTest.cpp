@@ -7,6 +7,7 @@
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
+#include "switches/FunctionNames.h"
 #include "widgets/ComboBox.h"
 #include "widgets/SwitchDrawing.h"
 #include "widgets/TextField.h"
@@ -14,8 +15,6 @@
 
 namespace mortane::test {
 namespace {
-
-using Names = std::vector<std::string>;
 
 constexpr int kRows = 10;
 constexpr int kDials = 4;
@@ -57,35 +56,8 @@ TEST_F(BodySwitchPage, HasARowForEachControlOfTheBody) {
 }
 
 TEST_F(BodySwitchPage, OffersEachKindItsOwnFunctions) {
-  EXPECT_EQ(RowsOf(*page.ComboCWCCW),
-            (Names{"-----------------", "Objective CW/CCW", "DIA Field Stop OPEN/CLOSE",
-                   "DIA Aperture Stop OPEN/CLOSE", "Filter Cube CW/CCW", "Condenser CW/CCW",
-                   "ND Filter BRIGHT/DARK", "DIA Lamp UP/DOWN", "Optical Zoom UP/DOWN",
-                   "Epi Field Stop OPEN/CLOSE"}));
-  EXPECT_EQ(RowsOf(*page.ComboFunction), (Names{"-----------------",
-                                                "Z Focus Knob Speed Change",
-                                                "Z Escape",
-                                                "DIA Lamp Preset",
-                                                "LightPath Change",
-                                                "Shutter OPEN/CLOSE",
-                                                "Optical Zoom UP",
-                                                "Optical Zoom DOWN",
-                                                "Analyzer IN/OUT",
-                                                "XYstage Knob Speed Change",
-                                                "DIA Lamp ON/OFF",
-                                                "Auto Focus",
-                                                "Image Capture ",
-                                                "DIC <-> Brightfield",
-                                                "DIC/FL <-> Brightfield",
-                                                "Fluorescence <-> Brightfield",
-                                                "Phase Contrast <-> Brightfield",
-                                                "Darkfield <-> Brightfield",
-                                                "Option 1 <-> Brightfield",
-                                                "Option 2 <-> Brightfield",
-                                                "Option 3 <-> Brightfield",
-                                                "Option 4 <-> Brightfield",
-                                                "Option 5 <-> Brightfield",
-                                                "Option 6 <-> Brightfield"}));
+  EXPECT_EQ(RowsOf(*page.ComboCWCCW), DialNames());
+  EXPECT_EQ(RowsOf(*page.ComboFunction), PushNames());
 }
 
 TEST_F(BodySwitchPage, KeepsTheNamesOfAllFunctionsInAListThatIsNeverShown) {

@@ -88,13 +88,18 @@ TEST_F(TactorFiles, CancellingChangesNothing) {
 
 TEST_F(TactorFiles, ThatCannotBeReadAreToldAndThePageIsLoaded) {
   const std::vector<int> before = CodesOf(unit());
-  page.btnNewFileOpen->click();
-  rig.prompts.AcceptAnyBox();
-  rig.prompts.ExpectFileToOpen(folder.Path("missing.xml"));
-  ClickButton(*page.btnReadFileOpen);
-  EXPECT_EQ(rig.prompts.Boxes().size(), 1U);
-  EXPECT_EQ(CodesOf(unit()), before);
-  EXPECT_EQ(page.TabSwitch->count(), 1);
+  const std::string missing = folder.Path("missing.xml");
+  const std::string other = folder.Write("other.xml", "<Settings/>");
+  for (const auto& [path, text] : {std::pair{missing, std::string("Can't Load Xml")},
+                                   std::pair{other, other + " Other Format"}}) {
+    page.btnNewFileOpen->click();
+    rig.prompts.ExpectFileToOpen(path);
+    rig.prompts.ExpectBox(text, box::kOk);
+    ClickButton(*page.btnReadFileOpen);
+    EXPECT_TRUE(rig.prompts.AllAnswersUsed()) << text;
+    EXPECT_EQ(CodesOf(unit()), before) << text;
+    EXPECT_EQ(page.TabSwitch->count(), 1) << text;
+  }
 }
 
 TEST_F(TactorFiles, WithRefusedValuesAreToldInOneLine) {
@@ -116,7 +121,8 @@ TEST_F(TactorFiles, ThatCannotBeWrittenAreTold) {
   rig.prompts.ExpectFileToSave(folder.Path("no folder/saved.xml"));
   ClickButton(*page.Command1);
   ASSERT_EQ(rig.prompts.Boxes().size(), 1U);
-  EXPECT_TRUE(rig.prompts.Boxes()[0].text.starts_with("XML Tactor DataFile Write Error"));
+  EXPECT_TRUE(rig.prompts.Boxes()[0].text.starts_with("XML Tactor DataFile Write Error\r\n"));
+  EXPECT_EQ(rig.prompts.Boxes()[0].style, box::kCritical);
   EXPECT_EQ(rig.prompts.Log().back(), "flush");
 }
 

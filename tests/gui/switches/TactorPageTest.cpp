@@ -7,6 +7,7 @@
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
+#include "switches/FunctionNames.h"
 #include "widgets/ComboBox.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/SwitchDrawing.h"
@@ -14,8 +15,6 @@
 
 namespace mortane::test {
 namespace {
-
-using Names = std::vector<std::string>;
 
 constexpr int kMarks = 6;
 constexpr int kStandard = 0;
@@ -62,6 +61,14 @@ class TactorPageTest : public testing::Test {
   PageRig rig;
   TactorSwitchSettingCtl& page = *MakeTactorSwitchSettingCtl(rig.k70());
 };
+
+TEST_F(TactorPageTest, OffersEachKindItsOwnFunctionsAndHoldsAllInAListThatIsNeverShown) {
+  EXPECT_EQ(RowsOf(*page.ComboCWCCW), DialNames());
+  EXPECT_EQ(RowsOf(*page.ComboFunction), PushNames());
+  EXPECT_EQ(RowsOf(*page.ComboSWFunc), AllNames());
+  for (int code = 0; code < 52; ++code) EXPECT_EQ(page.ComboSWFunc->data(code).toInt(), code);
+  EXPECT_FALSE(page.ComboSWFunc->isVisible());
+}
 
 const std::vector<bool> kAllMarks(kMarks, true);
 const std::vector<bool> kDialAlone{true, false, false, false, false, false};
