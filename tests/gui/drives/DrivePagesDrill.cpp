@@ -69,13 +69,20 @@ std::function<void(Bench&)> WithVersion(const char* version) {
   return [version](Bench& bench) { bench.instruments.back().Unit(1).version = version; };
 }
 
-PageDrillData FocusDrive() {
+// What the drills of all these pages begin with; their loading prepares a drive for moves.
+PageDrillData Drill(const char* name, const char* bench, std::function<Page*(clsK70&)> make,
+                    std::vector<AccessibleControl> accessible) {
   PageDrillData data;
-  data.name = "FocusDrive";
-  data.accessible = ToldOfFocusDrive();
-  data.bench = "Harbour";
-  data.make = MakeControlFocusDriveCtl;
+  data.name = name;
+  data.bench = bench;
+  data.make = std::move(make);
+  data.accessible = std::move(accessible);
   data.loadBox = "MoveStart Error!!";
+  return data;
+}
+
+PageDrillData FocusDrive() {
+  PageDrillData data = Drill("FocusDrive", "Harbour", MakeControlFocusDriveCtl, ToldOfFocusDrive());
   data.controls = {
       {"FrameBase", "Focus Drive Setting"},
       {"frmEscapeSetting", "Escape"},
@@ -137,12 +144,7 @@ PageDrillData FocusDrive() {
 }
 
 PageDrillData Teaching() {
-  PageDrillData data;
-  data.name = "Teaching";
-  data.accessible = ToldOfTeaching();
-  data.bench = "Harbour";
-  data.make = MakeControlFocusDriveCtl;
-  data.loadBox = "MoveStart Error!!";
+  PageDrillData data = Drill("Teaching", "Harbour", MakeControlFocusDriveCtl, ToldOfTeaching());
   data.prepare = [](PageRig& rig) { rig.Find("FrameZNose").show(); };
   data.controls = {
       {"FrameZControl", "Z Control"},         {"ButtonStart", "Start"},
@@ -190,12 +192,7 @@ PageDrillData Teaching() {
 }
 
 PageDrillData Limits() {
-  PageDrillData data;
-  data.name = "Limits";
-  data.accessible = ToldOfLimits();
-  data.bench = "Lantern";
-  data.make = MakeControlFocusDriveCtl;
-  data.loadBox = "MoveStart Error!!";
+  PageDrillData data = Drill("Limits", "Lantern", MakeControlFocusDriveCtl, ToldOfLimits());
   data.shown = {
       {"optDownLimitation_0", Set<kZ, kLowerLimit, 0>, ValueOf<kZ, kLowerLimit>, "on"},
       {"optDownLimitation_1", Set<kZ, kLowerLimit, 1>, ValueOf<kZ, kLowerLimit>, "on"},
@@ -209,12 +206,7 @@ PageDrillData Limits() {
 }
 
 PageDrillData XYStage() {
-  PageDrillData data;
-  data.name = "XYStage";
-  data.accessible = ToldOfStage();
-  data.bench = "Harbour";
-  data.make = MakeControlXYStageCtl;
-  data.loadBox = "MoveStart Error!!";
+  PageDrillData data = Drill("XYStage", "Harbour", MakeControlXYStageCtl, ToldOfStage());
   data.controls = {
       {"FrameBase", "XY Stage Setting"},
       {"Frame1", "Pitch adjustment to Magnification"},

@@ -133,11 +133,9 @@ TEST(MoveSafety, TheWheelOverAFieldOrARowChangesNothing) {
 
 // While a box stands nothing else moves.
 
-TEST(MoveSafety, AMoveIsNotBegunWithinAnother) {
-  FocusRig rig;
-  rig.Select(0);
-  rig.field(0).setText("100");
-  rig.ExpectWatch(1080, Answer::Ok, [&] {
+template <typename Rig>
+void ExpectNoMoveWithinAnother(Rig& rig, int waitMs) {
+  rig.ExpectWatch(waitMs, Answer::Ok, [&rig] {
     rig.journal.Clear();
     rig.page.ButtonStart->click();
     rig.page.ButtonUpLarge->click();
@@ -147,6 +145,20 @@ TEST(MoveSafety, AMoveIsNotBegunWithinAnother) {
   rig.Forget();
   ClickButton(*rig.page.ButtonUpLarge);
   EXPECT_EQ(rig.journal.Writes().size(), 1U) << "afterwards it moves again";
+}
+
+TEST(MoveSafety, AMoveIsNotBegunWithinAnother) {
+  FocusRig rig;
+  rig.Select(0);
+  rig.field(0).setText("100");
+  ExpectNoMoveWithinAnother(rig, 1080);
+}
+
+TEST(MoveSafety, AMoveOfTheStageIsNotBegunWithinAnother) {
+  StageRig rig;
+  rig.Select(0);
+  rig.fieldX(0).setText("100");
+  ExpectNoMoveWithinAnother(rig, 1106);
 }
 
 TEST(MoveSafety, ARowThatIsSelectedWithinAMoveEndsNoGuard) {
@@ -165,22 +177,6 @@ TEST(MoveSafety, ARowThatIsSelectedWithinAMoveEndsNoGuard) {
   EXPECT_EQ(rig.shown(1), "0");
 }
 
-TEST(MoveSafety, AMoveOfTheStageIsNotBegunWithinAnother) {
-  StageRig rig;
-  rig.Select(0);
-  rig.fieldX(0).setText("100");
-  rig.ExpectWatch(1106, Answer::Ok, [&] {
-    rig.journal.Clear();
-    rig.page.ButtonStart->click();
-    rig.page.ButtonUpLarge->click();
-    EXPECT_EQ(rig.journal.CallCount(), 0U);
-  });
-  ClickButton(*rig.page.ButtonStart);
-  rig.Forget();
-  ClickButton(*rig.page.ButtonUpLarge);
-  EXPECT_EQ(rig.journal.Writes().size(), 1U);
-}
-
 TEST(MoveSafety, ASectionThatIsSwitchedOffWithinAMoveStillShowsItsRow) {
   FocusRig rig;
   rig.Select(3);
@@ -190,37 +186,39 @@ TEST(MoveSafety, ASectionThatIsSwitchedOffWithinAMoveStillShowsItsRow) {
   EXPECT_EQ(rig.shown(3), "20");
 }
 
-// The box of a failed reading stands while the row is given up.
+// Steps with a row selected that is given up while the box of the failed call stands.
+template <typename Rig>
+void StepAndGiveUpTheRow(Rig& rig, const char* call, int occurrence, const char* message,
+                         QAbstractButton& step) {
+  rig.faults.Add({call, occurrence});
+  rig.prompts.ExpectBox(message, box::kCritical, Answer::Ok, "",
+                        [&rig] { rig.page.CheckRealMove->setChecked(false); });
+  ClickButton(step);
+}
+
 TEST(MoveSafety, ARowThatIsGivenUpWithinAMoveIsShownAllTheSame) {
   FocusRig focus;
   focus.Select(3);
-  focus.faults.Add({"get ZDriveDevice.Position", 2});
-  focus.prompts.ExpectBox("GetPosition Error!!", box::kCritical, Answer::Ok, "",
-                          [&] { focus.page.CheckRealMove->setChecked(false); });
   focus.field(3).setText("7");
-  ClickButton(*focus.page.ButtonUpLarge);
+  StepAndGiveUpTheRow(focus, "get ZDriveDevice.Position", 2, "GetPosition Error!!",
+                      *focus.page.ButtonUpLarge);
   EXPECT_EQ(focus.shown(3), "0");
 }
 
 TEST(MoveSafety, ARowOfTheStageThatIsGivenUpWithinAMoveIsShownAllTheSame) {
   StageRig stage;
   stage.Select(3);
-  stage.faults.Add({"get XYDriveDevice.PositionX", 2});
-  stage.prompts.ExpectBox("GetPositionX Error!!", box::kCritical, Answer::Ok, "",
-                          [&] { stage.page.CheckRealMove->setChecked(false); });
   stage.fieldX(3).setText("7");
-  ClickButton(*stage.page.ButtonLeftLarge);
+  StepAndGiveUpTheRow(stage, "get XYDriveDevice.PositionX", 2, "GetPositionX Error!!",
+                      *stage.page.ButtonLeftLarge);
   EXPECT_EQ(stage.shownX(3), "0");
 }
 
-// As the box of a failed move stands: the row that was selected then is not touched.
+// The row that was selected before is not touched.
 TEST(MoveSafety, ARowThatIsGivenUpBeforeThePositionIsReadIsNotTaught) {
   FocusRig rig;
   rig.Select(3);
-  rig.faults.Add({"put ZDriveDevice.Position"});
-  rig.prompts.ExpectBox("Move Error!!", box::kCritical, Answer::Ok, "",
-                        [&] { rig.page.CheckRealMove->setChecked(false); });
-  ClickButton(*rig.page.ButtonUpLarge);
+  StepAndGiveUpTheRow(rig, "put ZDriveDevice.Position", 1, "Move Error!!", *rig.page.ButtonUpLarge);
   EXPECT_EQ(rig.shown(3), "0");
   EXPECT_EQ(rig.drive().Position(4), 0);
 }
