@@ -12,7 +12,7 @@ class FileDialog : public QFileDialog {
   // Begins in `folder`, or in the current one where that is empty or gone.
   FileDialog(AcceptMode mode, const FileQuestion& question, const QString& folder);
 
-  // The chosen path; empty when the person gave none.
+  // The chosen path; empty when the person gave none, or when the window ended meanwhile.
   QString Ask();
 
  protected:

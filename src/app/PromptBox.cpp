@@ -83,23 +83,29 @@ QWidget* ParentOfBoxes() {
 }
 
 PromptBox::PromptBox(const std::string& text, int style, const std::string& caption)
-    : box_(IconOf(style),
-           caption.empty() ? QApplication::applicationName() : QString::fromStdString(caption),
-           FirstLines(ShownText(text)), QMessageBox::NoButton, ParentOfBoxes()) {
-  box_.setTextFormat(Qt::PlainText);
-  AddButtons(box_, style);
-  ScrollLongText(box_);
+    : box_(new QMessageBox(
+          IconOf(style),
+          caption.empty() ? QApplication::applicationName() : QString::fromStdString(caption),
+          FirstLines(ShownText(text)), QMessageBox::NoButton, ParentOfBoxes())) {
+  box_->setTextFormat(Qt::PlainText);
+  AddButtons(*box_, style);
+  ScrollLongText(*box_);
+}
+
+PromptBox::~PromptBox() {
+  delete box_;
 }
 
 Answer PromptBox::Ask() {
-  box_.exec();
-  const QAbstractButton* clicked = box_.clickedButton();
+  box_->exec();
+  if (box_ == nullptr) return Answer::Cancel;
+  const QAbstractButton* clicked = box_->clickedButton();
   return clicked == nullptr ? Answer::Cancel
                             : static_cast<Answer>(clicked->property(kAnswerProperty).toInt());
 }
 
 void PromptBox::Close() {
-  if (box_.isVisible()) box_.reject();
+  if (box_ != nullptr && box_->isVisible()) box_->reject();
 }
 
 }  // namespace mortane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMessageBox>
+#include <QPointer>
 #include <string>
 
 #include "common/Prompts.h"
@@ -16,15 +17,18 @@ QWidget* ParentOfBoxes();
 class PromptBox {
  public:
   PromptBox(const std::string& text, int style, const std::string& caption);
+  ~PromptBox();
+  PromptBox(const PromptBox&) = delete;
+  PromptBox& operator=(const PromptBox&) = delete;
 
-  // Shows the box until it is answered.
+  // Shows the box until it is answered. A window that ends takes its box with it: cancelled.
   Answer Ask();
 
   // Closes a standing box as its close button does; without one it does nothing.
   void Close();
 
  private:
-  QMessageBox box_;
+  QPointer<QMessageBox> box_;
 };
 
 }  // namespace mortane

@@ -14,7 +14,9 @@ namespace {
 
 // Begins in the folder, which becomes that of the answer.
 std::string AskFile(QFileDialog::AcceptMode mode, const FileQuestion& question, QString& folder) {
-  const QString path = FileDialog(mode, question, folder).Ask();
+  const QPointer<FileDialog> dialog = new FileDialog(mode, question, folder);
+  const QString path = dialog->Ask();
+  delete dialog;  // nothing, where its window has ended and taken it along
   if (!path.isEmpty()) folder = QFileInfo(path).path();
   return path.toStdString();
 }

@@ -45,6 +45,16 @@ TEST(FileToOpen, CancelledIsNoName) {
   EXPECT_EQ(prompts.AskFileToOpen(kToOpen), "");
 }
 
+TEST(FileToOpen, OfAWindowThatEndsIsNoName) {
+  QtPrompts prompts{[](int) {}};
+  auto* window = new QWidget;
+  window->show();
+  window->activateWindow();
+  QApplication::processEvents();
+  const WhenShown<QFileDialog> end([window](QFileDialog&) { delete window; });
+  EXPECT_EQ(prompts.AskFileToOpen(kToOpen), "");
+}
+
 struct NameCase {
   const char* typed;
   const char* saved;

@@ -117,6 +117,22 @@ TEST(MessageBox, CanBeAnsweredWhileTheWindowIsDisabled) {
   prompts.SetPointer(Pointer::Default);
 }
 
+TEST(MessageBox, OfAWindowThatEndsIsNotAnswered) {
+  QtPrompts prompts = MakePrompts();
+  for (const bool timed : {false, true}) {
+    auto* window = new QWidget;
+    window->show();
+    window->activateWindow();
+    QApplication::processEvents();
+    const WhenShown<QMessageBox> end([window](QMessageBox& box) {
+      EXPECT_EQ(box.parentWidget(), window);
+      delete window;
+    });
+    EXPECT_EQ(timed ? prompts.TimedMsgBox(60000, "text", box::kOk, "") : prompts.MsgBox("text", 33),
+              Answer::Cancel);
+  }
+}
+
 TEST(TimedMsgBox, ClosesItselfAndAnswersZero) {
   QtPrompts prompts = MakePrompts();
   EXPECT_EQ(prompts.TimedMsgBox(1, "Move Stop?", 0, "Title"), Answer::TimedOut);
