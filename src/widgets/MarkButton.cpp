@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "widgets/ArrowSteps.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -36,18 +37,9 @@ void MarkButton::Place(const QRectF& area) {
 }
 
 void MarkButton::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-    case Qt::Key_Right:
-    case Qt::Key_Down:
-      emit stepped(1);
-      return;
-    case Qt::Key_Left:
-    case Qt::Key_Up:
-      emit stepped(-1);
-      return;
-    default:
-      QAbstractButton::keyPressEvent(event);
-  }
+  const int steps = ArrowSteps(event->key());
+  if (steps == 0) return QAbstractButton::keyPressEvent(event);
+  emit stepped(steps);
 }
 
 // The corners around a large dial belong to the keys beside it.

@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 
+#include "widgets/ArrowSteps.h"
 #include "widgets/Icons.h"
 #include "widgets/Paint.h"
 
@@ -150,18 +151,9 @@ double TurretButton::HaloRoom() {
 }
 
 void TurretButton::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-    case Qt::Key_Right:
-    case Qt::Key_Down:
-      emit stepped(1);
-      return;
-    case Qt::Key_Left:
-    case Qt::Key_Up:
-      emit stepped(-1);
-      return;
-    default:
-      QAbstractButton::keyPressEvent(event);
-  }
+  const int steps = ArrowSteps(event->key());
+  if (steps == 0) return QAbstractButton::keyPressEvent(event);
+  emit stepped(steps);
 }
 
 void TurretButton::keyReleaseEvent(QKeyEvent* event) {
