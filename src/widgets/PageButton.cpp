@@ -1,11 +1,9 @@
 #include "widgets/PageButton.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include "widgets/AccessibleChange.h"
-#include "widgets/ClickFocus.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -14,19 +12,11 @@ namespace {
 
 constexpr int kIconSize = 32;
 constexpr int kIconTop = 12;
-constexpr int kBarWidth = 4;
 
 }  // namespace
 
 PageButton::PageButton(IconName icon, const QString& text, QWidget* parent)
-    : QAbstractButton(parent), icon_(icon) {
-  setText(text);
-  setFont(RailFont());
-  setAccessibleName(text);
-  setFocusPolicy(Qt::TabFocus);
-  setAttribute(Qt::WA_Hover);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
-}
+    : RailButton(icon, text, parent) {}
 
 void PageButton::SetSelected(bool selected) {
   if (selected_ == selected) return;
@@ -60,45 +50,17 @@ int PageButton::IconTop() const {
 }
 
 void PageButton::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && TakeFocus(*this))
-    emit chosen();
   event->accept();
-}
-
-void PageButton::mouseReleaseEvent(QMouseEvent* event) {
-  event->accept();
-}
-
-void PageButton::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
-    emit chosen();
-    return;
-  }
-  event->ignore();
-}
-
-void PageButton::keyReleaseEvent(QKeyEvent* event) {
-  event->ignore();
-}
-
-QColor PageButton::Background() const {
-  if (selected_) return ToneColor(Tone::RailSelected);
-  return ToneColor(isEnabled() && underMouse() ? Tone::RailHover : Tone::Rail);
-}
-
-QColor PageButton::Foreground() const {
-  if (!isEnabled()) return ToneColor(Tone::RailDisabled);
-  return ToneColor(selected_ || underMouse() ? Tone::RailText : Tone::RailResting);
+  ChooseBy(*event);
 }
 
 void PageButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), Background());
-  if (selected_) painter.fillRect(0, 0, kBarWidth, height(), ToneColor(Tone::Amber));
+  DrawGround(painter);
   const QColor foreground = Foreground();
   const int iconTop = IconTop();
   const QRectF iconArea((width() - kIconSize) / 2.0, iconTop, kIconSize, kIconSize);
-  DrawIcon(painter, icon_, iconArea,
+  DrawIcon(painter, icon(), iconArea,
            {foreground, selected_ && isEnabled() ? ToneColor(Tone::Amber) : foreground});
   const int textTop = iconTop + kIconSize + grid::kUnit;
   painter.setPen(foreground);
@@ -107,9 +69,7 @@ void PageButton::paintEvent(QPaintEvent*) {
   if (pending_ && isEnabled())
     DrawPendingDot(painter, {iconArea.right() + 4, iconArea.top() + 3},
                    ToneColor(Tone::RailPending), Background());
-  if (hasFocus())
-    DrawBox(painter, QRectF(rect()).adjusted(3, 3, -3, -3), {},
-            {palette().color(QPalette::BrightText), 2, grid::kFieldCorner});
+  DrawFocus(painter);
 }
 
 }  // namespace mortane

@@ -1,14 +1,12 @@
 // One page button of the rail.
 #pragma once
 
-#include <QAbstractButton>
-
-#include "widgets/Icons.h"
+#include "widgets/RailButton.h"
 
 namespace mortane {
 
 // Acts when the left button goes down with no modifier, and on Space; a click is not needed.
-class PageButton : public QAbstractButton {
+class PageButton : public RailButton {
   Q_OBJECT
 
  public:
@@ -23,22 +21,14 @@ class PageButton : public QAbstractButton {
   // In a low window the buttons stand closer.
   [[nodiscard]] QSize minimumSizeHint() const override;
 
- signals:
-  void chosen();
-
  protected:
+  [[nodiscard]] bool IsCurrent() const override { return selected_; }
   void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void keyReleaseEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   [[nodiscard]] int IconTop() const;
-  [[nodiscard]] QColor Background() const;
-  [[nodiscard]] QColor Foreground() const;
 
-  IconName icon_;
   bool selected_ = false;
   bool pending_ = false;
 };

@@ -1,10 +1,8 @@
 #include "wizard/StepButton.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "widgets/ClickFocus.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -13,7 +11,6 @@ namespace {
 
 constexpr int kHeight = 54;
 constexpr int kWidth = 176;
-constexpr int kBarWidth = 4;
 constexpr int kMarkCenter = 28;
 constexpr int kMarkSide = 24;
 constexpr int kTickSide = 12;
@@ -27,14 +24,8 @@ constexpr const char* kStateTexts[] = {"passed", "current", "to come", "switched
 }  // namespace
 
 StepButton::StepButton(int number, IconName icon, const QString& text, QWidget* parent)
-    : QAbstractButton(parent), number_(number), icon_(icon) {
-  setText(text);
-  setFont(RailFont());
-  setAccessibleName(text);
-  setFocusPolicy(Qt::TabFocus);
-  setAttribute(Qt::WA_Hover);
+    : RailButton(icon, text, parent), number_(number) {
   setCheckable(true);  // told by screen readers; only SetState checks
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
   SetState(StepState::Off);
 }
 
@@ -57,37 +48,9 @@ QSize StepButton::minimumSizeHint() const {
   return {sizeHint().width(), qMax(kMarkSide, fontMetrics().height()) + 2 * grid::kUnit};
 }
 
-void StepButton::mousePressEvent(QMouseEvent* event) {
-  event->accept();
-}
-
 void StepButton::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
-  if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && TakeFocus(*this))
-    emit chosen();
-}
-
-void StepButton::keyPressEvent(QKeyEvent* event) {
-  if (event->key() != Qt::Key_Space) {
-    event->ignore();
-  } else if (!event->isAutoRepeat()) {
-    emit chosen();
-  }
-}
-
-void StepButton::keyReleaseEvent(QKeyEvent* event) {
-  event->ignore();
-}
-
-QColor StepButton::Background() const {
-  if (state_ == StepState::Current) return ToneColor(Tone::RailSelected);
-  return ToneColor(isEnabled() && underMouse() ? Tone::RailHover : Tone::Rail);
-}
-
-QColor StepButton::Foreground() const {
-  if (!isEnabled()) return ToneColor(Tone::RailDisabled);
-  const bool bright = state_ == StepState::Current || underMouse();
-  return ToneColor(bright ? Tone::RailText : Tone::RailResting);
+  if (rect().contains(event->position().toPoint())) ChooseBy(*event);
 }
 
 // The line from circle to circle: above the first step and below the last there is none.
@@ -111,7 +74,7 @@ void StepButton::DrawMark(QPainter& painter) const {
     DrawTick(painter, circle.adjusted(inset, inset, -inset, -inset), line);
     return;
   }
-  const bool current = state_ == StepState::Current;
+  const bool current = IsCurrent();
   if (current) {
     DrawBox(painter, circle, ToneColor(Tone::Amber), {{}, 0, kMarkSide / 2.0});
   } else {
@@ -124,21 +87,17 @@ void StepButton::DrawMark(QPainter& painter) const {
 
 void StepButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), Background());
-  if (state_ == StepState::Current)
-    painter.fillRect(0, 0, kBarWidth, height(), ToneColor(Tone::Amber));
+  DrawGround(painter);
   DrawJoints(painter);
   DrawMark(painter);
   const QColor foreground = Foreground();
-  DrawIcon(painter, icon_, QRectF(kIconLeft, (height() - kIconSide) / 2, kIconSide, kIconSide),
-           {foreground, state_ == StepState::Current ? ToneColor(Tone::Amber) : foreground});
+  DrawIcon(painter, icon(), QRectF(kIconLeft, (height() - kIconSide) / 2, kIconSide, kIconSide),
+           {foreground, IsCurrent() ? ToneColor(Tone::Amber) : foreground});
   painter.setFont(font());
   painter.setPen(foreground);
   painter.drawText(QRect(kTextLeft, 0, width() - kTextLeft, height()),
                    Qt::AlignLeft | Qt::AlignVCenter, text());
-  if (hasFocus())
-    DrawBox(painter, QRectF(rect()).adjusted(3, 3, -3, -3), {},
-            {palette().color(QPalette::BrightText), 2, grid::kFieldCorner});
+  DrawFocus(painter);
 }
 
 }  // namespace mortane

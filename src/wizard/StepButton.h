@@ -1,9 +1,7 @@
 // One step of the wizard's rail: its number in a circle, its picture and its name.
 #pragma once
 
-#include <QAbstractButton>
-
-#include "widgets/Icons.h"
+#include "widgets/RailButton.h"
 
 class QPainter;
 
@@ -11,8 +9,9 @@ namespace mortane {
 
 enum class StepState { Passed, Current, ToCome, Off };
 
-// Acts when the left button, pressed over it, is let go with no modifier held, and on Space.
-class StepButton : public QAbstractButton {
+// Acts when the left button, pressed over it, is let go over it with no modifier held, and on
+// Space.
+class StepButton : public RailButton {
   Q_OBJECT
 
  public:
@@ -28,24 +27,16 @@ class StepButton : public QAbstractButton {
   // In a low window the steps stand closer.
   [[nodiscard]] QSize minimumSizeHint() const override;
 
- signals:
-  void chosen();
-
  protected:
-  void mousePressEvent(QMouseEvent* event) override;
+  [[nodiscard]] bool IsCurrent() const override { return state_ == StepState::Current; }
   void mouseReleaseEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void keyReleaseEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  [[nodiscard]] QColor Background() const;
-  [[nodiscard]] QColor Foreground() const;
   void DrawJoints(QPainter& painter) const;
   void DrawMark(QPainter& painter) const;
 
   int number_;
-  IconName icon_;
   StepState state_ = StepState::Off;
   bool last_ = true;
 };

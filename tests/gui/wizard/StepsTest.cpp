@@ -237,6 +237,16 @@ TEST(Picture, SelectsItsStepOnThePlainReleaseOfTheLeftButton) {
   EXPECT_EQ(rig.form().currentStep, 9);
 }
 
+TEST(Picture, LeavesTheStepWhenTheButtonIsLetGoElsewhere) {
+  StepsRig rig;
+  rig.SwitchOn({7});
+  QTest::mousePress(rig.form().ImageMenu[7], Qt::LeftButton);
+  QTest::mouseRelease(rig.form().ImageMenu[7], Qt::LeftButton, {}, QPoint(-9, 9));
+  EXPECT_EQ(rig.form().currentStep, 0);
+  rig.ClickPicture(7);
+  EXPECT_EQ(rig.form().currentStep, 7);
+}
+
 TEST(Picture, IsDeafToOtherButtonsAndModifiers) {
   StepsRig rig;
   rig.SwitchOn({3});
