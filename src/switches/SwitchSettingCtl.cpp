@@ -22,10 +22,11 @@ namespace {
 constexpr int kDrawingShare = 9;
 constexpr int kListShare = 5;
 // Margins of cells and frame in a row of the list.
-constexpr int kBesidesTexts = 48;
+constexpr int kBesidesTexts = 54;
 
-// For rows of which no function is cut off.
-int ListWidth(const QFontMetrics& metrics) {
+// For rows of which no function is cut off, the selected one in bold.
+int ListWidth() {
+  const QFontMetrics metrics(BoldFont());
   int name = 0;
   for (const BodyRow& row : kBodyRows) {
     name = qMax(name, metrics.horizontalAdvance(ToQString(row.name)));
@@ -59,7 +60,7 @@ SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor
 }
 
 void SwitchSettingCtl::BuildLayout() {
-  ListView1->setMinimumWidth(ListWidth(ListView1->fontMetrics()));
+  ListView1->setMinimumWidth(ListWidth());
   auto* upper = new QHBoxLayout;
   upper->setSpacing(grid::kBetweenColumns);
   upper->addWidget(pictureFrame(), kDrawingShare);

@@ -96,7 +96,7 @@ void ListBox::MeasureContents() {
   for (int column = 0; column < columnCount(); ++column) {
     int content = header()->isHidden() ? 0 : header()->sectionSizeHint(column);
     for (int row = 0; row < rowCount(); ++row) {
-      content = qMax(content, sizeHintForIndex(model()->index(row, column)).width());
+      content = qMax(content, WidthOf(model()->index(row, column)));
     }
     const int before = column > 0 ? tabStops_.value(column - 1) : 0;
     const int stop = qRound((tabStops_.value(column) - before) * unit);

@@ -76,6 +76,10 @@ class ListBox : public RowView {
   void rowChecked(int row, bool checked);
 
  protected:
+  // What a cell takes of its column's width, at most.
+  [[nodiscard]] virtual int WidthOf(const QModelIndex& cell) const {
+    return sizeHintForIndex(cell).width();
+  }
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;

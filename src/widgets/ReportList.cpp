@@ -1,5 +1,7 @@
 #include "widgets/ReportList.h"
 
+#include <QAbstractItemDelegate>
+
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -25,11 +27,21 @@ void ReportList::SetCell(int row, int column, const QString& text) {
   topLevelItem(row)->setText(column, text);
 }
 
+int ReportList::WidthOf(const QModelIndex& cell) const {
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  option.font = BoldFont();
+  option.fontMetrics = QFontMetrics(option.font);
+  return itemDelegateForIndex(cell)->sizeHint(option, cell).width();
+}
+
 void ReportList::SetBoldRow(int row) {
   boldRow_ = row;
-  for (int i = 0; i < rowCount(); ++i)
+  for (int i = 0; i < rowCount(); ++i) {
+    const QVariant shown = i == row ? QVariant(BoldFont()) : QVariant();
     for (int column = 0; column < columnCount(); ++column)
-      topLevelItem(i)->setFont(column, i == row ? BoldFont() : font());
+      topLevelItem(i)->setData(column, Qt::FontRole, shown);
+  }
 }
 
 }  // namespace mortane

@@ -17,6 +17,10 @@ class ReportList : public ListBox {
   void SetBoldRow(int row);
   [[nodiscard]] int boldRow() const { return boldRow_; }
 
+ protected:
+  // In bold, so that no column moves for the row that becomes bold.
+  [[nodiscard]] int WidthOf(const QModelIndex& cell) const override;
+
  private:
   int boldRow_ = -1;
 };

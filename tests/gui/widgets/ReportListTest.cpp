@@ -1,6 +1,9 @@
 #include "widgets/ReportList.h"
 
+#include <QHeaderView>
+
 #include "gui/widgets/TestWindow.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -32,6 +35,21 @@ TEST_F(ReportListTest, OneRowAtATimeIsBold) {
   EXPECT_EQ(list->boldRow(), 1);
   list->SetBoldRow(-1);
   EXPECT_FALSE(list->topLevelItem(1)->font(1).bold());
+}
+
+TEST_F(ReportListTest, ItsColumnsHoldABoldRowAndDoNotMoveForIt) {
+  list->SetCell(0, 0, "DIA Aperture Stop OPEN/CLOSE");
+  window.Show();
+  list->resize(900, 200);
+  QApplication::processEvents();
+  const int before = list->header()->sectionSize(0);
+  EXPECT_GT(before, QFontMetrics(BoldFont()).horizontalAdvance("DIA Aperture Stop OPEN/CLOSE"));
+  for (const int row : {0, 1, -1}) {
+    list->SetBoldRow(row);
+    list->resize(899, 200 + row);  // measured anew
+    QApplication::processEvents();
+    EXPECT_EQ(list->header()->sectionSize(0), before) << row;
+  }
 }
 
 TEST_F(ReportListTest, ACellChangesInPlaceWithoutAClick) {

@@ -2,10 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QScrollBar>
 
 #include "WizardRig.h"
 #include "gui/support/FontScope.h"
 #include "gui/support/PageLayout.h"
+#include "widgets/ListBox.h"
 #include "wizard/StepRail.h"
 
 namespace mortane::test {
@@ -50,6 +52,27 @@ TEST_P(StepFaces, ShowEveryStepWholeAndApart) {
 
 constexpr QSize kDesigned{1152, 740};
 constexpr QSize kNarrow{1024, 640};
+
+// All columns of a list are in sight at once, also where the selected row is bold.
+TEST(StepsAsDesigned, HaveNoListThatIsWiderThanItsRoom) {
+  WizardRig rig(benches::Named("Harbour"));
+  rig.Start();
+  for (int step = kFirstItem; step < kEndingStep; ++step) {
+    rig.form->OnItemChanged(step - kFirstItem, true);
+  }
+  rig.form->resize(kDesigned);
+  for (int step = 0; step < kStepCount; ++step) {
+    rig.form->optMenu[static_cast<std::size_t>(step)]->setChecked(true);
+    ComeToRest();
+    for (auto* list : rig.form->currentPage->findChildren<ListBox*>()) {
+      if (!list->isVisible()) continue;
+      if (list->rowCount() > 0) list->setIndex(0);
+      ComeToRest();
+      const std::string name = list->objectName().toStdString();
+      EXPECT_EQ(list->horizontalScrollBar()->maximum(), 0) << step << ' ' << name;
+    }
+  }
+}
 
 INSTANTIATE_TEST_SUITE_P(AllFaces, StepFaces,
                          testing::Values(Face{1, 100, kDesigned}, Face{1, 100, kNarrow},
