@@ -74,7 +74,6 @@ InnerFrame* ControlFocusDriveCtl::BuildEscape() {
   }
   cells->setColumnStretch(2, 1);
   frame->body()->addLayout(cells);
-  frame->body()->addStretch();
   return frame;
 }
 

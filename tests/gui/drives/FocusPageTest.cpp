@@ -1,9 +1,13 @@
 // The focus drive page: what loading shows and hides, and what it does to the model.
+#include <QApplication>
 #include <QLabel>
+#include <QRadioButton>
 
 #include "gui/drives/DrivePages.h"
+#include "gui/support/FontScope.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
+#include "widgets/Theme.h"
 
 namespace mortane::test {
 namespace {
@@ -96,6 +100,26 @@ TEST(FocusPage, TheUpperLimitIsShownWhereTheNosepieceTurns) {
     auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
     EXPECT_EQ(page.FrameUpperLimitation->isVisible(), row.prepared) << row.bench;
   }
+}
+
+TEST(FocusPage, WhatItsFramesHoldStandsAtTheirTopWithoutGaps) {
+  for (const double size : {1.0, 1.5, 2.0}) {
+    const FontScope font(FontOf(QApplication::font().pointSizeF() * size));
+    FocusRig rig("Lantern");
+    EXPECT_EQ(rig.page.chkEscape[1]->y(),
+              rig.page.chkEscape[0]->geometry().bottom() + 1 + grid::kUnit);
+    for (const OptionGroup* group : {rig.page.optUpperLimitation, rig.page.optDownLimitation}) {
+      const QRect first = group->button(0)->geometry();
+      const QRect second = group->button(1)->geometry();
+      EXPECT_EQ(first.height(), group->button(0)->sizeHint().height());
+      EXPECT_LE(second.top() - first.bottom(), grid::kBetweenGroups);
+    }
+  }
+}
+
+TEST(FocusPage, TheTwoPartsOfTheTeachingSectionAreEquallyWide) {
+  FocusRig rig;
+  EXPECT_NEAR(rig.page.FrameNosepiece->width(), rig.page.FrameZControl->width(), 1);
 }
 
 TEST(FocusPage, TheUpperLimitIsThePagesOwn) {
