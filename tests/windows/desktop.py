@@ -9,7 +9,7 @@ import time
 
 ROOT = pathlib.Path(__file__).parents[2]
 WINE = ROOT / "tools/windows/wine.sh"
-PATIENCE_S = 60
+PATIENCE_S = 30
 REST_S = 0.7
 
 

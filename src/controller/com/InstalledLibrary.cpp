@@ -1,6 +1,6 @@
 #include "controller/InstalledLibrary.h"
 
-#include <winerror.h>
+#include <windows.h>
 
 #include <algorithm>
 #include <string_view>
