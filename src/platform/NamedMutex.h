@@ -9,8 +9,9 @@
 namespace mortane {
 
 // Exclusive use rests on the name: whoever opens it first has it until it closes it or its process
-// ends, however it ends. Two objects in one process exclude each other too. Owning the mutex (Lock,
-// Unlock) is independent of that.
+// ends, however it ends. Two objects in one process exclude each other too, and so do programs of
+// users that are logged on beside each other. Windows keeps the name in use until an object that
+// came second is closed, too. Owning the mutex (Lock, Unlock) is independent of all that.
 class NamedMutex {
  public:
   enum class Opened { First, AlreadyExisted, Failed };

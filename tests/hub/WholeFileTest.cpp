@@ -2,12 +2,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <clocale>
 #include <cstdlib>
+#include <locale>
 
+#include "common/Numbers.h"
 #include "common/Text.h"
 #include "platform/AtomicFile.h"
 #include "support/RandomModel.h"
 #include "support/Rig.h"
+#include "support/TempFolder.h"
+#include "support/ThisSystem.h"
 
 namespace mortane::test {
 namespace {
@@ -71,6 +76,56 @@ TEST_P(WholeFile, HasTheseBytes) {
     WriteFileAtomically(golden, Split(TextOf(rig.k70)));
   }
   EXPECT_EQ(Split(TextOf(rig.k70)), ReadWholeFile(golden));
+}
+
+// Numbers with a comma and groups, in everything that could ask for the user's way to write them.
+class CommaEverywhere {
+ public:
+  CommaEverywhere() : before_(std::locale::global({std::locale::classic(), new Comma})) {
+    SetSystemNumberFormat({",", "."});
+    for (const char* name : {"de_DE.UTF-8", "German_Germany"})
+      inC_ = inC_ || std::setlocale(LC_ALL, name) != nullptr;
+  }
+  ~CommaEverywhere() {
+    std::setlocale(LC_ALL, "C");
+    std::locale::global(before_);
+    SetSystemNumberFormat(PointFormat());
+  }
+  CommaEverywhere(const CommaEverywhere&) = delete;
+  CommaEverywhere& operator=(const CommaEverywhere&) = delete;
+
+  // Whether the machine has such a locale for the C library, as every Windows has.
+  bool IsInC() const { return inC_; }
+
+ private:
+  struct Comma : std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+  };
+
+  std::locale before_;
+  bool inC_ = false;
+};
+
+TEST_P(WholeFile, HasTheSameBytesOnTheDiskWhereNumbersHaveAComma) {
+  const TempFolder folder;
+  const std::string path = folder.Path("a.xml");
+  Rig rig(GetParam());
+  const CommaEverywhere comma;
+  EXPECT_TRUE(comma.IsInC() || !kOnWindows);
+  ConnectAndReceive(rig, GetParam());
+  rig.k70.WriteXML(path);
+  EXPECT_EQ(Split(TempFolder::Read(path)),
+            ReadWholeFile(std::string(MORTANE_GOLDEN_FILES) + "/" + GetParam() + ".xml"));
+  if (GetParam() == kOddValues) return;
+  const std::int32_t led = rig.k70.COther.curR_TLPOLED;
+  rig.k70.ReadXMLItems(path);
+  EXPECT_TRUE(rig.k70.ReadXML(path));
+  // The LED's words change their meaning on the way.
+  rig.k70.COther.curR_TLPOLED = led;
+  rig.k70.WriteXML(folder.Path("b.xml"));
+  EXPECT_EQ(Split(TempFolder::Read(folder.Path("b.xml"))), Split(TempFolder::Read(path)));
 }
 
 TEST_P(WholeFile, SaysTheSameAgainAfterTheModelThatWroteItHasReadIt) {
