@@ -17,7 +17,8 @@ struct ProfileValue {
 // equal names counts. A line that begins with a semicolon is a comment. A missing file reads as
 // an empty one. The writers keep all other lines as they are, create a missing file (but no
 // folder) and answer false when nothing could be written. Each replaces the file in one step: a
-// process killed at any moment leaves the old file or the new one.
+// process killed at any moment leaves the old file or the new one. A path that is not absolute
+// begins in the current folder.
 class ProfileFile {
  public:
   explicit ProfileFile(std::string utf8Path) : path_(std::move(utf8Path)) {}

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 #include "support/TempFolder.h"
@@ -130,6 +131,22 @@ TEST_F(ProfileFileTest, WritesAValueAndKeepsAllOthers) {
 TEST_F(ProfileFileTest, CreatesAMissingFile) {
   EXPECT_TRUE(Missing().WriteText("JoyPad", "Right", "7"));
   EXPECT_EQ(Missing().Int("JoyPad", "Right", -1), 7);
+}
+
+TEST_F(ProfileFileTest, StandsUnderAnyNameAndInTheCurrentFolder) {
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(test::PathOf(folder_.Path("")));
+  for (const char* name : {"MortaneTest.ini", "Mortane Test.ini", "\xC3\xA4 \xE6\x97\xA5.ini"}) {
+    for (const std::string& path : {folder_.Path(name), std::string(name)}) {
+      const ProfileFile file(path);
+      EXPECT_TRUE(file.WriteText("JoyPad", "Right", "7")) << path;
+      EXPECT_EQ(ProfileFile(folder_.Path(name)).Int("JoyPad", "Right", -1), 7) << path;
+      EXPECT_EQ(file.KeyNames("JoyPad"), Names{"Right"}) << path;
+      EXPECT_TRUE(file.DeleteSection("JoyPad")) << path;
+      EXPECT_EQ(ProfileFile(folder_.Path(name)).SectionNames(), Names()) << path;
+    }
+  }
+  std::filesystem::current_path(before);
 }
 
 TEST_F(ProfileFileTest, AnswersFalseWhenNothingCanBeWritten) {

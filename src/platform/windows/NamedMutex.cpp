@@ -49,8 +49,9 @@ struct Made {
 
 Made Make(const std::string& name) {
   Attributes attributes;
+  const std::wstring wide = ToWide(name);
   SetLastError(ERROR_SUCCESS);
-  Handle mutex(CreateMutexExW(attributes.Get(), ToWide(name).c_str(), 0, kAccess));
+  Handle mutex(CreateMutexExW(attributes.Get(), wide.c_str(), 0, kAccess));
   const bool existed = GetLastError() == ERROR_ALREADY_EXISTS;
   return {std::move(mutex), existed};
 }

@@ -44,11 +44,7 @@ bool SetAccessRights(const Handle& file, std::vector<std::byte> rights) {
   constexpr SECURITY_DESCRIPTOR_CONTROL kFromFolder = SE_DACL_AUTO_INHERIT_REQ;
   if ((control & SE_DACL_AUTO_INHERITED) != 0)
     SetSecurityDescriptorControl(rights.data(), kFromFolder, kFromFolder);
-  const SECURITY_INFORMATION inheritance = (control & SE_DACL_PROTECTED) != 0
-                                               ? PROTECTED_DACL_SECURITY_INFORMATION
-                                               : UNPROTECTED_DACL_SECURITY_INFORMATION;
-  return SetKernelObjectSecurity(file.Get(), DACL_SECURITY_INFORMATION | inheritance,
-                                 rights.data()) != 0;
+  return SetKernelObjectSecurity(file.Get(), DACL_SECURITY_INFORMATION, rights.data()) != 0;
 }
 
 bool IsDead(std::int64_t process) {
@@ -56,6 +52,19 @@ bool IsDead(std::int64_t process) {
   const Handle handle(OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process)));
   if (!handle.IsOpen()) return GetLastError() == ERROR_INVALID_PARAMETER;
   return WaitForSingleObject(handle.Get(), 0) == WAIT_OBJECT_0;
+}
+
+std::wstring OwnName(const std::wstring& folder, int number) {
+  return folder + ToWide(TemporaryName(GetCurrentProcessId(), number));
+}
+
+std::wstring UnusedName(const std::wstring& folder) {
+  int number = 0;
+  while (number < kTemporaryNames - 1 &&
+         GetFileAttributesW(OwnName(folder, number).c_str()) != INVALID_FILE_ATTRIBUTES) {
+    ++number;
+  }
+  return OwnName(folder, number);
 }
 
 }  // namespace
@@ -66,7 +75,7 @@ Temporary::Temporary(const SaveTarget& target) : target_(target) {
   const DWORD kept = target.attributes & kKeptAttributes;
   DWORD error = ERROR_FILE_EXISTS;
   for (int number = 0; error == ERROR_FILE_EXISTS && number < kTemporaryNames; ++number) {
-    path_ = folder + ToWide(TemporaryName(GetCurrentProcessId(), number));
+    path_ = OwnName(folder, number);
     file_ = Handle(CreateFileW(path_.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
                                kept == 0 ? FILE_ATTRIBUTE_NORMAL : kept, nullptr));
     if (file_.IsOpen()) return;
@@ -133,15 +142,19 @@ bool Temporary::Move() const {
   return MoveFileExW(path_.c_str(), target_.path.c_str(), kFlags) != 0;
 }
 
-// Takes two renames where Move takes one, and can also replace a file that others have open.
-bool Temporary::Replace() {
-  if (ReplaceFileW(target_.path.c_str(), path_.c_str(), nullptr, 0, nullptr, nullptr)) return true;
+// Takes two renames where Move takes one, and can also replace a file that others have open. That
+// one gets another name, under which the next save finds it should it be left.
+bool Temporary::Replace() const {
+  const std::wstring old = UnusedName(FolderOf(path_));
+  const BOOL replaced =
+      ReplaceFileW(target_.path.c_str(), path_.c_str(), old.c_str(), 0, nullptr, nullptr);
   const DWORD error = GetLastError();
-  // Between the two the old file is gone or has another name: this one is all that is left.
-  const bool halfWay =
-      error == ERROR_UNABLE_TO_MOVE_REPLACEMENT || error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
-  if (halfWay && Move()) return true;
-  if (halfWay) path_.clear();
+  const bool halfWay = !replaced && error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
+  if (replaced || (halfWay && Move())) {
+    DeleteFileW(old.c_str());
+    return true;
+  }
+  if (halfWay) MoveFileExW(old.c_str(), target_.path.c_str(), 0);
   SetLastError(error);
   return false;
 }

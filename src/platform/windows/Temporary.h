@@ -36,7 +36,7 @@ class Temporary {
   bool PutInPlace();
   bool RenameOver();
   bool Move() const;
-  bool Replace();
+  bool Replace() const;
 
   const SaveTarget& target_;
   std::wstring path_;

@@ -23,6 +23,8 @@ using test::SecondProcess;
 using test::TempFolder;
 using test::Words;
 
+constexpr std::size_t kLarge = 300000;
+
 constexpr DWORD kWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 std::size_t FilesIn(const std::string& folder) {
@@ -139,17 +141,60 @@ TEST(AtomicFileSharing, ReadsBesideOtherReaders) {
   EXPECT_EQ(ReadWholeFile(path), "old");
 }
 
+bool IsWhole(const std::string& content) {
+  return content.size() == kLarge && content == std::string(kLarge, content.front());
+}
+
+// Opens the file again and again, each second time for itself alone; the number of times that it
+// was not whole.
+const SecondProcess::Part kOpenOften{
+    "open often", [](const SecondProcess::Side& test, const Words& words) {
+      int broken = 0;
+      test.Tell();
+      for (int round = 0; round < 300; ++round) {
+        const Handle file = Open(words.at(0), GENERIC_READ, round % 2 == 0 ? kWithAll : 0);
+        std::string bytes(kLarge + 1, '\0');
+        DWORD count = 0;
+        if (!file.IsOpen()) continue;
+        ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
+        bytes.resize(count);
+        broken += IsWhole(bytes) ? 0 : 1;
+      }
+      return broken;
+    }};
+
+// A save in between is refused or made; nobody sees a part of one.
+TEST(AtomicFileSharing, SavesBetweenOtherProgramsThatOpenTheFile) {
+  const TempFolder folder;
+  const std::string path = folder.Write("a.xml", std::string(kLarge, 'a'));
+  SecondProcess other(kOpenOften, {path});
+  other.Await();
+  int made = 0;
+  for (char content = 'b'; content <= 'z'; ++content) {
+    try {
+      WriteFileAtomically(path, std::string(kLarge, content));
+      ++made;
+    } catch (const Failure& failure) {
+      EXPECT_EQ(failure.Number(), kFileError) << failure.Description();
+    }
+  }
+  EXPECT_EQ(other.Wait(), 0);
+  EXPECT_GT(made, 0);
+  EXPECT_TRUE(IsWhole(ReadWholeFile(path)));
+  EXPECT_EQ(FilesIn(folder.Path("")), 1U);
+}
+
 // Saves two contents in turn until it is killed.
 const SecondProcess::Part kSaveForEver{
     "save for ever", [](const SecondProcess::Side& test, const Words& words) -> int {
       test.Tell();
       for (char content = 'a';; content = content == 'a' ? 'b' : 'a')
-        WriteFileAtomically(words.at(0), std::string(300000, content));
+        WriteFileAtomically(words.at(0), std::string(kLarge, content));
     }};
 
 TEST(AtomicFileSharing, AKilledProcessLeavesTheOldContentOrTheNew) {
   const TempFolder folder;
-  const std::string path = folder.Write("a.xml", std::string(300000, 'a'));
+  const std::string path = folder.Write("a.xml", std::string(kLarge, 'a'));
   std::size_t left = 0;
   for (int round = 0; round < 60 && (round < 10 || left == 0); ++round) {
     SecondProcess saver(kSaveForEver, {path});
@@ -157,9 +202,7 @@ TEST(AtomicFileSharing, AKilledProcessLeavesTheOldContentOrTheNew) {
     SleepMilliseconds(round % 12);
     saver.Kill();
     left += FilesIn(folder.Path("")) - 1;
-    const std::string found = ReadWholeFile(path);
-    ASSERT_EQ(found.size(), 300000U);
-    ASSERT_EQ(found, std::string(300000, found.front()));
+    ASSERT_TRUE(IsWhole(ReadWholeFile(path)));
   }
   EXPECT_GT(left, 0U) << "no process was killed during a save";
   WriteFileAtomically(path, "new");
