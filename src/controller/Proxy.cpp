@@ -20,6 +20,7 @@ Value Plain(const Value& value) {
 }  // namespace
 
 std::int32_t ToLong(const Value& value) {
+  if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
   const Value plain = Plain(value);
   if (const auto* number = std::get_if<std::int32_t>(&plain)) return *number;
   if (const auto* integer = std::get_if<std::int16_t>(&plain)) return *integer;

@@ -48,11 +48,12 @@ std::vector<ComClass> InstalledClasses() {
 }
 
 ComLibrary::ComLibrary(std::vector<ComClass> classes)
-    : classes_(std::move(classes)), ids_(std::make_shared<MemberIds>()) {
+    : classes_(std::move(classes)), ids_(std::make_unique<MemberIds>()) {
   RequireSuccess(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
 }
 
 ComLibrary::~ComLibrary() {
+  ids_.reset();  // holds type information
   CoUninitialize();
 }
 
@@ -68,7 +69,7 @@ ObjectRef ComLibrary::MakeRoot(const ComClass& row) {
   void* made = nullptr;
   RequireSuccess(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
                                   IID_IDispatch, &made));
-  return MakeComObject(ComPointer<IDispatch>(static_cast<IDispatch*>(made)), ids_);
+  return MakeComObject(ComPointer<IDispatch>(static_cast<IDispatch*>(made)), *ids_);
 }
 
 }  // namespace mortane::controller

@@ -39,7 +39,7 @@ class ComLibrary : public ControllerLibrary {
   ObjectRef MakeRoot(const ComClass& row);
 
   std::vector<ComClass> classes_;
-  std::shared_ptr<MemberIds> ids_;
+  std::unique_ptr<MemberIds> ids_;
 };
 
 }  // namespace mortane::controller

@@ -2,7 +2,9 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
 #include <bit>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -48,12 +50,12 @@ class Parameters {
     UINT count = 0;
 
     void Add(const Value& value) {
-      VariantInit(&all[count]);
+      all[count].vt = VT_EMPTY;
       WriteVariant(value, all[count]);
       ++count;
     }
     ~Values() {
-      for (UINT i = 0; i < count; ++i) VariantClear(&all[i]);
+      for (UINT i = 0; i < count; ++i) Variant::Clear(all[i]);
     }
   };
 
@@ -65,8 +67,8 @@ class Parameters {
 // Each step is one call of the library.
 class ComEnumerator : public ControllerObject {
  public:
-  ComEnumerator(ComPointer<IEnumVARIANT> items, std::shared_ptr<MemberIds> ids)
-      : items_(std::move(items)), ids_(std::move(ids)) {}
+  ComEnumerator(ComPointer<IEnumVARIANT> items, MemberIds& ids)
+      : items_(std::move(items)), ids_(ids) {}
 
   Value Get(std::string_view member, Args args) override { return Call(member, args); }
   void Put(std::string_view, const Value&, Args) override { RaiseComError(DISP_E_MEMBERNOTFOUND); }
@@ -81,7 +83,7 @@ class ComEnumerator : public ControllerObject {
 
  private:
   ComPointer<IEnumVARIANT> items_;
-  std::shared_ptr<MemberIds> ids_;
+  MemberIds& ids_;
 };
 
 // Members that every interface knows by the same number.
@@ -101,8 +103,7 @@ DISPID AskForId(IDispatch& object, std::string_view member) {
 
 class ComObject : public ControllerObject {
  public:
-  ComObject(ComPointer<IDispatch> object, std::shared_ptr<MemberIds> ids)
-      : object_(std::move(object)), ids_(std::move(ids)) {}
+  ComObject(ComPointer<IDispatch> object, MemberIds& ids) : object_(std::move(object)), ids_(ids) {}
 
   // A library may have made a property what is described as a method, and the reverse.
   Value Get(std::string_view member, Args args) override { return Read(member, args); }
@@ -123,11 +124,11 @@ class ComObject : public ControllerObject {
 
  private:
   Value Read(std::string_view member, Args args) {
+    const DISPID id = IdOf(member);
     Parameters parameters(args);
     Variant result;
-    RequireSuccess(
-        TryInvoke(IdOf(member), DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, result.get()));
-    return member == kEnumeratorMember ? ToEnumerator(*result.get()) : ToValue(*result.get(), ids_);
+    RequireSuccess(TryInvoke(id, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, result.get()));
+    return id == DISPID_NEWENUM ? ToEnumerator(*result.get()) : ToValue(*result.get(), ids_);
   }
 
   Value ToEnumerator(const VARIANT& answer) const {
@@ -141,15 +142,24 @@ class ComObject : public ControllerObject {
 
   DISPID IdOf(std::string_view member) {
     if (const auto common = CommonId(member)) return *common;
-    if (table_ == nullptr) {
-      table_ = ids_->TableOf(*object_.get());
-      if (table_ == nullptr) table_ = &ownTable_;
-    }
-    const auto known = table_->find(member);
-    if (known != table_->end()) return known->second;
+    MemberIds::Table& table = Ids();
+    const auto known = std::find_if(table.begin(), table.end(), [&](const MemberIds::Entry& entry) {
+      return entry.name == member;
+    });
+    if (known != table.end()) return known->id;
     const DISPID id = AskForId(*object_.get(), member);
-    table_->emplace(member, id);
+    table.push_back({std::string(member), id});
     return id;
+  }
+
+  // The interface's table, or one of this object's own when its interface is not told from others.
+  MemberIds::Table& Ids() {
+    if (table_ == nullptr) table_ = ids_.TableOf(*object_.get());
+    if (table_ == nullptr) {
+      ownTable_ = std::make_unique<MemberIds::Table>();
+      table_ = ownTable_.get();
+    }
+    return *table_;
   }
 
   // Raises what the library told; gives other results back.
@@ -162,9 +172,9 @@ class ComObject : public ControllerObject {
   }
 
   ComPointer<IDispatch> object_;
-  std::shared_ptr<MemberIds> ids_;
+  MemberIds& ids_;
   MemberIds::Table* table_ = nullptr;
-  MemberIds::Table ownTable_;  // of an object whose interface is not told from others
+  std::unique_ptr<MemberIds::Table> ownTable_;
 };
 
 }  // namespace
@@ -176,19 +186,22 @@ MemberIds::Table* MemberIds::TableOf(IDispatch& object) {
     return nullptr;
   }
   ComPointer<ITypeInfo> type;
+  if (FAILED(object.GetTypeInfo(0, kLocale, type.Out())) || !type) return nullptr;
+  if (const auto same = byType_.find(type.get()); same != byType_.end()) return same->second;
   TYPEATTR* attributes = nullptr;
-  if (FAILED(object.GetTypeInfo(0, kLocale, type.Out())) || !type ||
-      FAILED(type->GetTypeAttr(&attributes))) {
-    return nullptr;
-  }
+  if (FAILED(type->GetTypeAttr(&attributes))) return nullptr;
   const GUID guid = attributes->guid;
   type->ReleaseTypeAttr(attributes);
   if (guid == GUID_NULL) return nullptr;
-  return &tables_[std::bit_cast<std::array<std::uint64_t, 2>>(guid)];
+  Interface& known = interfaces_[std::bit_cast<std::array<std::uint64_t, 2>>(guid)];
+  byType_.erase(known.type.get());
+  byType_.emplace(type.get(), &known.ids);
+  known.type = std::move(type);
+  return &known.ids;
 }
 
-ObjectRef MakeComObject(ComPointer<IDispatch> object, std::shared_ptr<MemberIds> ids) {
-  return std::make_shared<ComObject>(std::move(object), std::move(ids));
+ObjectRef MakeComObject(ComPointer<IDispatch> object, MemberIds& ids) {
+  return std::make_shared<ComObject>(std::move(object), ids);
 }
 
 IDispatch* ReferenceTo(const ObjectRef& object) {

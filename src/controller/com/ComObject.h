@@ -6,8 +6,8 @@
 #include <array>
 #include <cstdint>
 #include <map>
-#include <memory>
 #include <string>
+#include <vector>
 
 #include "controller/ControllerObject.h"
 #include "controller/com/ComPointer.h"
@@ -18,7 +18,11 @@ namespace mortane::controller {
 // One interface is told from another by the identifier in its type information.
 class MemberIds {
  public:
-  using Table = std::map<std::string, DISPID, std::less<>>;
+  struct Entry {
+    std::string name;
+    DISPID id;
+  };
+  using Table = std::vector<Entry>;  // in the order in which they were asked for; never many
 
   // The table that all objects of this one's interface share. Null for an object without such an
   // identifier, and for one in another process: asking that for its interface takes longer than
@@ -26,10 +30,19 @@ class MemberIds {
   Table* TableOf(IDispatch& object);
 
  private:
-  std::map<std::array<std::uint64_t, 2>, Table> tables_;
+  // The type information that an object of it gave last. Most libraries give the same each time,
+  // which is known without asking it; as long as it is held, no other has its address.
+  struct Interface {
+    ComPointer<ITypeInfo> type;
+    Table ids;
+  };
+
+  std::map<std::array<std::uint64_t, 2>, Interface> interfaces_;
+  std::map<ITypeInfo*, Table*> byType_;
 };
 
-ObjectRef MakeComObject(ComPointer<IDispatch> object, std::shared_ptr<MemberIds> ids);
+// `ids` must outlive the object.
+ObjectRef MakeComObject(ComPointer<IDispatch> object, MemberIds& ids);
 
 // A new reference to the COM object behind a value; null for an empty value. Raises
 // kConversionError for an object of another back end.

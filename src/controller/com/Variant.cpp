@@ -1,7 +1,5 @@
 #include "controller/com/Variant.h"
 
-#include <oleauto.h>
-
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -64,42 +62,33 @@ Value Whole(Integer value) {
   return static_cast<std::int32_t>(value);
 }
 
-Value Object(IDispatch* object, const std::shared_ptr<MemberIds>& ids) {
+Value Object(IDispatch* object, MemberIds& ids) {
   if (object == nullptr) return {};
   object->AddRef();
   return MakeComObject(ComPointer<IDispatch>(object), ids);
 }
 
 // An object that was handed out under its simplest interface.
-Value Object(IUnknown* object, const std::shared_ptr<MemberIds>& ids) {
+Value Object(IUnknown* object, MemberIds& ids) {
   if (object == nullptr) return {};
   void* dispatch = nullptr;
   RequireSuccess(object->QueryInterface(IID_IDispatch, &dispatch));
   return MakeComObject(ComPointer<IDispatch>(static_cast<IDispatch*>(dispatch)), ids);
 }
 
-// Kinds that a program's type does not hold are changed into one that it does.
-Value Converted(const VARIANT& variant, VARTYPE kind) {
+double AsDouble(const VARIANT& variant) {
   Variant changed;
-  RequireSuccess(VariantChangeType(changed.get(), const_cast<VARIANT*>(&variant), 0, kind));
-  return ToValue(*changed.get(), nullptr);
+  RequireSuccess(VariantChangeType(changed.get(), const_cast<VARIANT*>(&variant), 0, VT_R8));
+  return changed.get()->dblVal;
 }
 
 }  // namespace
-
-Variant::Variant() : variant_{} {
-  VariantInit(&variant_);
-}
-
-Variant::~Variant() {
-  VariantClear(&variant_);
-}
 
 void WriteVariant(const Value& value, VARIANT& variant) {
   std::visit(Writer{variant}, value);
 }
 
-Value ToValue(const VARIANT& variant, const std::shared_ptr<MemberIds>& ids) {
+Value ToValue(const VARIANT& variant, MemberIds& ids) {
   if ((variant.vt & VT_BYREF) != 0) {
     Variant direct;
     RequireSuccess(VariantCopyInd(direct.get(), const_cast<VARIANT*>(&variant)));
@@ -135,7 +124,7 @@ Value ToValue(const VARIANT& variant, const std::shared_ptr<MemberIds>& ids) {
       return static_cast<double>(variant.fltVal);
     case VT_CY:
     case VT_DECIMAL:
-      return Converted(variant, VT_R8);
+      return AsDouble(variant);
     case VT_BSTR:
       return TextOf(variant.bstrVal);
     case VT_DISPATCH:

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <oaidl.h>
+#include <oleauto.h>
 
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -16,15 +16,20 @@ class MemberIds;
 // A variant that frees what it holds.
 class Variant {
  public:
-  Variant();
-  ~Variant();
+  Variant() = default;
+  ~Variant() { Clear(variant_); }
   Variant(const Variant&) = delete;
   Variant& operator=(const Variant&) = delete;
 
   VARIANT* get() { return &variant_; }
 
+  // Frees what a variant holds. Most answers are numbers, which hold nothing.
+  static void Clear(VARIANT& variant) {
+    if (variant.vt > VT_DATE && variant.vt != VT_BOOL) VariantClear(&variant);
+  }
+
  private:
-  VARIANT variant_;
+  VARIANT variant_{};
 };
 
 // Fills an empty variant. Text becomes UTF-16, a boolean the library's 16-bit truth. Raises
@@ -34,7 +39,7 @@ void WriteVariant(const Value& value, VARIANT& variant);
 // References to a value are followed. Raises kOverflowError for an integer that 32 bits do not
 // hold, the failure that an error variant is, and kConversionError for kinds that no library member
 // has.
-Value ToValue(const VARIANT& variant, const std::shared_ptr<MemberIds>& ids);
+Value ToValue(const VARIANT& variant, MemberIds& ids);
 
 // The text of a string that the caller owns, which is freed. A null pointer is an empty text.
 std::string TakeText(BSTR text);

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <array>
+
 namespace mortane {
 
 std::wstring ToWide(std::string_view utf8) {
@@ -16,6 +18,13 @@ std::wstring ToWide(std::string_view utf8) {
 std::string ToUtf8(std::wstring_view wide) {
   const int units = static_cast<int>(wide.size());
   if (units == 0) return {};
+  // Most texts are short; a unit takes three bytes at most.
+  std::array<char, 192> bytes;
+  if (wide.size() <= bytes.size() / 3) {
+    const int length = WideCharToMultiByte(CP_UTF8, 0, wide.data(), units, bytes.data(),
+                                           static_cast<int>(bytes.size()), nullptr, nullptr);
+    return {bytes.data(), static_cast<std::size_t>(length)};
+  }
   const int length =
       WideCharToMultiByte(CP_UTF8, 0, wide.data(), units, nullptr, 0, nullptr, nullptr);
   std::string utf8(static_cast<std::size_t>(length), '\0');
