@@ -1,4 +1,4 @@
-#include "controller/contract/com/ServerHost.h"
+#include "comserver/ServerHost.h"
 
 #include <objbase.h>
 
@@ -7,11 +7,10 @@
 #include "controller/com/ComPointer.h"
 #include "platform/windows/Wide.h"
 
-namespace mortane::controller::test {
+namespace mortane::comserver {
 namespace {
 
-using comserver::ClassFamily;
-using comserver::kClassNames;
+using controller::ComPointer;
 
 constexpr DWORD kStartMs = 20000;
 
@@ -46,11 +45,10 @@ ClassFamily NewFamily() {
   return family;
 }
 
-std::vector<ComClass> ClassesOf(const ClassFamily& family) {
-  std::vector<ComClass> classes;
+std::vector<controller::ComClass> ClassesOf(const ClassFamily& family) {
+  std::vector<controller::ComClass> classes;
   for (std::size_t place = 0; place < kClassNames.size(); ++place) {
-    classes.push_back(
-        {std::string(kClassNames[place]), ToUtf8(comserver::GuidText(family.ClassId(place)))});
+    classes.push_back({std::string(kClassNames[place]), ToUtf8(GuidText(family.ClassId(place)))});
   }
   return classes;
 }
@@ -81,10 +79,10 @@ InProcessServer::~InProcessServer() {
 }
 
 ServerProcess::ServerProcess(const ClassFamily& family) : family_(family), job_(MakeJob()) {
-  const Handle ready(CreateEventW(nullptr, TRUE, FALSE, comserver::ReadyEventName(family).c_str()));
+  const Handle ready(CreateEventW(nullptr, TRUE, FALSE, ReadyEventName(family).c_str()));
   Require(ready.get() != nullptr, "event");
   std::wstring command = L"\"" + ServerFile(L"mortane_test_server.exe") +
-                         L"\" -Embedding -Family " + comserver::GuidText(family.base);
+                         L"\" -Embedding -Family " + GuidText(family.base);
   STARTUPINFOW start{};
   start.cb = sizeof start;
   Require(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
@@ -114,8 +112,7 @@ bool ServerProcess::EndsWithin(DWORD milliseconds) const {
   return WaitForSingleObject(process_.hProcess, milliseconds) == WAIT_OBJECT_0;
 }
 
-RegisteredNames::RegisteredNames()
-    : prefix_(L"MortaneTest." + comserver::GuidText(NewFamily().base) + L".") {}
+RegisteredNames::RegisteredNames() : prefix_(L"MortaneTest." + GuidText(NewFamily().base) + L".") {}
 
 RegisteredNames::~RegisteredNames() {
   comserver::Unregister(Entry());
@@ -127,18 +124,17 @@ void RegisteredNames::PointTo(const ClassFamily& family) {
   Require(SUCCEEDED(comserver::Register(Entry())), "registration");
 }
 
-std::vector<ComClass> RegisteredNames::Classes() const {
-  std::vector<ComClass> classes;
+std::vector<controller::ComClass> RegisteredNames::Classes() const {
+  std::vector<controller::ComClass> classes;
   for (std::size_t place = 0; place < kClassNames.size(); ++place) {
-    classes.push_back({std::string(kClassNames[place]), ToUtf8(comserver::ProgId(prefix_, place))});
+    classes.push_back({std::string(kClassNames[place]), ToUtf8(ProgId(prefix_, place))});
   }
   return classes;
 }
 
-comserver::Registration RegisteredNames::Entry() const {
+Registration RegisteredNames::Entry() const {
   return {family_, prefix_, L"LocalServer32",
-          L'"' + ServerFile(L"mortane_test_server.exe") + L"\" -Family " +
-              comserver::GuidText(family_.base)};
+          L'"' + ServerFile(L"mortane_test_server.exe") + L"\" -Family " + GuidText(family_.base)};
 }
 
-}  // namespace mortane::controller::test
+}  // namespace mortane::comserver

@@ -11,7 +11,7 @@
 #include "comserver/ServedClasses.h"
 #include "controller/com/ComLibrary.h"
 
-namespace mortane::controller::test {
+namespace mortane::comserver {
 
 // A Windows handle.
 class Handle {
@@ -31,10 +31,10 @@ class Handle {
 };
 
 // Identifiers that nothing on this machine has.
-comserver::ClassFamily NewFamily();
+ClassFamily NewFamily();
 
 // The classes of a family as a library takes them: by identifiers instead of registered names.
-std::vector<ComClass> ClassesOf(const comserver::ClassFamily& family);
+std::vector<controller::ComClass> ClassesOf(const ClassFamily& family);
 
 // A file of the test server, which stands beside the test program.
 std::wstring ServerFile(const wchar_t* name);
@@ -48,10 +48,10 @@ class InProcessServer {
   InProcessServer(const InProcessServer&) = delete;
   InProcessServer& operator=(const InProcessServer&) = delete;
 
-  const comserver::ClassFamily& Family() const { return comserver::kInProcessFamily; }
+  const ClassFamily& Family() const { return kInProcessFamily; }
 
  private:
-  std::array<DWORD, comserver::kClassNames.size()> cookies_{};
+  std::array<DWORD, kClassNames.size()> cookies_{};
 };
 
 // The server's program, whose classes no other process of its kind has. It ends when its last
@@ -59,12 +59,12 @@ class InProcessServer {
 class ServerProcess {
  public:
   // Returns when its classes can be created.
-  explicit ServerProcess(const comserver::ClassFamily& family = NewFamily());
+  explicit ServerProcess(const ClassFamily& family = NewFamily());
   ~ServerProcess();
   ServerProcess(const ServerProcess&) = delete;
   ServerProcess& operator=(const ServerProcess&) = delete;
 
-  const comserver::ClassFamily& Family() const { return family_; }
+  const ClassFamily& Family() const { return family_; }
 
   // Returns when it has ended.
   void Kill();
@@ -73,7 +73,7 @@ class ServerProcess {
   bool EndsWithin(DWORD milliseconds) const;
 
  private:
-  comserver::ClassFamily family_;
+  ClassFamily family_;
   Handle job_;
   PROCESS_INFORMATION process_{};
 };
@@ -88,15 +88,15 @@ class RegisteredNames {
   RegisteredNames& operator=(const RegisteredNames&) = delete;
 
   // The system starts the server's program for these classes when none runs.
-  void PointTo(const comserver::ClassFamily& family);
+  void PointTo(const ClassFamily& family);
 
-  std::vector<ComClass> Classes() const;
+  std::vector<controller::ComClass> Classes() const;
 
  private:
-  comserver::Registration Entry() const;
+  Registration Entry() const;
 
   std::wstring prefix_;
-  comserver::ClassFamily family_{};
+  ClassFamily family_{};
 };
 
-}  // namespace mortane::controller::test
+}  // namespace mortane::comserver

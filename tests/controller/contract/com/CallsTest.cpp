@@ -160,6 +160,51 @@ TEST(ComCall, AsksForANameOncePerObjectWithoutTypeInformation) {
   EXPECT_EQ(recorder.object.dispatch->asked, (std::vector<std::wstring>{L"One", L"Two"}));
 }
 
+// Type information of its own, though it may be of the same interface as another.
+ComPointer<ITypeInfo> TypeInfoOf(const GUID& id) {
+  ComPointer<ICreateTypeLib2> library;
+  ComPointer<ICreateTypeInfo> made;
+  std::wstring name = L"Scripted";
+  CreateTypeLib2(SYS_WIN64, L"scripted.tlb", library.Out());
+  library->CreateTypeInfo(name.data(), TKIND_DISPATCH, made.Out());
+  if (id != GUID_NULL) made->SetGuid(id);
+  made->LayOut();
+  return made.As<ITypeInfo>();
+}
+
+// The names that a second object is asked for after a first one has been asked for "One".
+std::vector<std::wstring> AskedOfTheSecond(const ComPointer<ITypeInfo>& first,
+                                           const ComPointer<ITypeInfo>& second) {
+  Recorder one;
+  Recorder two;
+  one.object.dispatch->type = first;
+  two.object.dispatch->type = second;
+  one.object.seen->Get("One");
+  EXPECT_EQ(one.object.dispatch->asked.size(), 1U);
+  two.object.seen->Get("One");
+  return two.object.dispatch->asked;
+}
+
+TEST(ComCall, TellsInterfacesApartByTheirIdentifiers) {
+  constexpr GUID kId{0x6B0F4E60, 0x52A4, 0x4C0B, {1}};
+  constexpr GUID kOther{0x6B0F4E60, 0x52A4, 0x4C0B, {2}};
+  constexpr GUID kThird{0x6B0F4E60, 0x52A4, 0x4C0B, {3}};
+  const std::vector<std::wstring> asked{L"One"};
+  const ComPointer<ITypeInfo> shared = TypeInfoOf(kId);
+  EXPECT_TRUE(AskedOfTheSecond(shared, shared).empty());
+  EXPECT_EQ(AskedOfTheSecond(TypeInfoOf(kOther), TypeInfoOf(kThird)), asked);
+}
+
+TEST(ComCall, KnowsAnInterfaceThoughItsTypeInformationIsMadeAnew) {
+  constexpr GUID kId{0x6B0F4E61, 0x52A4, 0x4C0B, {}};
+  EXPECT_TRUE(AskedOfTheSecond(TypeInfoOf(kId), TypeInfoOf(kId)).empty());
+}
+
+TEST(ComCall, AsksEveryObjectWhoseInterfaceHasNoIdentifier) {
+  const ComPointer<ITypeInfo> shared = TypeInfoOf(GUID_NULL);
+  EXPECT_EQ(AskedOfTheSecond(shared, shared), std::vector<std::wstring>{L"One"});
+}
+
 TEST(ComCall, DoesNotAskForTheDefaultMember) {
   Recorder recorder;
   recorder.object.seen->Get("");

@@ -3,11 +3,15 @@
 
 #include <string>
 
+#include "comserver/ServerHost.h"
 #include "controller/com/ComLibrary.h"
 #include "controller/contract/BackEnd.h"
-#include "controller/contract/com/ServerHost.h"
 
 namespace mortane::controller::test {
+
+using comserver::ClassesOf;
+using comserver::InProcessServer;
+using comserver::ServerProcess;
 
 // `Host` is an InProcessServer or a ServerProcess.
 template <typename Host>

@@ -12,6 +12,9 @@
 namespace mortane::controller::test {
 namespace {
 
+using comserver::NewFamily;
+using comserver::RegisteredNames;
+
 using Clock = std::chrono::steady_clock;
 using OwnProcess = ComBackEnd<ServerProcess>;
 

@@ -1,15 +1,20 @@
 // The test server in the system's list of classes, where the system loads or starts it itself.
 #include <filesystem>
 
+#include "comserver/ServerHost.h"
 #include "controller/SimulatedRig.h"
 #include "controller/contract/BackEnd.h"
-#include "controller/contract/com/ServerHost.h"
 #include "controller/simulator/BenchFile.h"
 #include "platform/windows/Wide.h"
 #include "support/TempFolder.h"
 
 namespace mortane::controller::test {
 namespace {
+
+using comserver::ClassesOf;
+using comserver::Handle;
+using comserver::ServerFile;
+using comserver::ServerProcess;
 
 using mortane::test::TempFolder;
 

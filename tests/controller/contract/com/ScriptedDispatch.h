@@ -39,12 +39,12 @@ class ScriptedDispatch : public comserver::Unknown<IDispatch> {
     return Unknown::QueryInterface(id, object);
   }
   STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-    *count = type != nullptr ? 1 : 0;
+    *count = type ? 1 : 0;
     return S_OK;
   }
   STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo** info) override {
-    *info = type;
-    if (type == nullptr) return E_NOTIMPL;
+    *info = type.get();
+    if (!type) return E_NOTIMPL;
     type->AddRef();
     return S_OK;
   }
@@ -62,7 +62,7 @@ class ScriptedDispatch : public comserver::Unknown<IDispatch> {
   static inline int alive = 0;
   std::vector<std::wstring> asked;
   LCID askedLocale = 0;
-  ITypeInfo* type = nullptr;      // borrowed
+  ComPointer<ITypeInfo> type;
   IEnumVARIANT* items = nullptr;  // borrowed; what it gives as its enumerator
 
  private:
@@ -71,11 +71,12 @@ class ScriptedDispatch : public comserver::Unknown<IDispatch> {
 
 // The object as the program sees it, and the object itself, which the first one keeps alive.
 struct ScriptedObject {
-  explicit ScriptedObject(Script script,
-                          std::shared_ptr<MemberIds> ids = std::make_shared<MemberIds>())
+  explicit ScriptedObject(Script script)
       : dispatch(new ScriptedDispatch(std::move(script))),
-        seen(MakeComObject(ComPointer<IDispatch>(dispatch), std::move(ids))) {}
+        seen(MakeComObject(ComPointer<IDispatch>(dispatch), ids)) {}
 
+  // What the object hands out may outlive it.
+  static inline MemberIds ids;
   ScriptedDispatch* dispatch;
   ObjectRef seen;
 };

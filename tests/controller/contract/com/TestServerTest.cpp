@@ -3,14 +3,16 @@
 #include <objbase.h>
 #include <oleauto.h>
 
+#include "comserver/ServerHost.h"
 #include "controller/com/ComPointer.h"
 #include "controller/com/Variant.h"
 #include "controller/contract/BackEnd.h"
-#include "controller/contract/com/ServerHost.h"
 #include "platform/windows/Wide.h"
 
 namespace mortane::controller::test {
 namespace {
+
+using comserver::InProcessServer;
 
 constexpr LCID kEnglish = 0x0409;
 constexpr LCID kGerman = 0x0407;
