@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QScrollBar>
 #include <QTest>
 
 #include "gui/support/PageActs.h"
@@ -53,6 +54,17 @@ TEST_F(BodySwitchPage, HasARowForEachControlOfTheBody) {
              "DIA Lamp Preset", "LightPath Change", "Z Focus Knob Speed Change", "Z Escape"}));
   EXPECT_EQ(page.ListView1->headerItem()->text(0), "Switch");
   EXPECT_EQ(page.ListView1->headerItem()->text(1), "Function");
+}
+
+TEST_F(BodySwitchPage, ShowsTheLongestFunctionWholeInANarrowWindowToo) {
+  rig.window().resize(920, 560);
+  ClickRow(*page.ListView1, 0);
+  for (int entry = 0; entry < page.ComboCWCCW->count(); ++entry) {
+    page.ComboCWCCW->setIndex(entry);
+    QApplication::processEvents();
+    EXPECT_EQ(page.ListView1->horizontalScrollBar()->maximum(), 0)
+        << page.ComboCWCCW->itemText(entry).toStdString();
+  }
 }
 
 TEST_F(BodySwitchPage, OffersEachKindItsOwnFunctions) {
