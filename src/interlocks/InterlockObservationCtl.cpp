@@ -35,7 +35,7 @@ InterlockObservationCtl::InterlockObservationCtl(clsInterLockObservation& interl
     tiles->addWidget(BuildTile(*row), index % kTilesInColumn, index / kTilesInColumn);
   }
   tiles->setRowStretch(kTilesInColumn, 1);
-  FrameBase->body()->addLayout(tiles, 1);
+  FrameBase->body()->addLayout(tiles);
 }
 
 SwitchTile* InterlockObservationCtl::BuildTile(const ObservationAccessory& row) {
