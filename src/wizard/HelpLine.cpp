@@ -70,8 +70,8 @@ void HelpLine::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), ToneColor(Tone::HelpLine));
   painter.fillRect(0, height() - 1, width(), 1, palette().color(QPalette::Active, QPalette::Mid));
-  DrawIcon(painter, IconName::Info,
-           QRectF(grid::kPageMargin, (height() - kIconSide) / 2, kIconSide, kIconSide),
+  const int iconTop = (height() - kIconSide) / 2;
+  DrawIcon(painter, IconName::Info, QRectF(grid::kPageMargin, iconTop, kIconSide, kIconSide),
            {ToneColor(Tone::IconAccent), ToneColor(Tone::IconAccent)});
 }
 

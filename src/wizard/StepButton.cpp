@@ -91,7 +91,8 @@ void StepButton::paintEvent(QPaintEvent*) {
   DrawJoints(painter);
   DrawMark(painter);
   const QColor foreground = Foreground();
-  DrawIcon(painter, icon(), QRectF(kIconLeft, (height() - kIconSide) / 2, kIconSide, kIconSide),
+  const int iconTop = (height() - kIconSide) / 2;
+  DrawIcon(painter, icon(), QRectF(kIconLeft, iconTop, kIconSide, kIconSide),
            {foreground, IsCurrent() ? ToneColor(Tone::Amber) : foreground});
   painter.setFont(font());
   painter.setPen(foreground);
