@@ -86,6 +86,7 @@ void SwitchSettingCtl::LoadData() {
   }
   FillFunctions();
   std::vector<SwitchRow> rows;
+  rows.reserve(kBodyRows.size());
   for (const BodyRow& row : kBodyRows) {
     rows.push_back({row.name, row.kind, row.position, row.position});
   }

@@ -64,11 +64,12 @@ void TactorSwitchSettingCtl::LoadData() {
 }
 
 // In standard mode page B offers the dial alone. Without a mode the names stay those of the page
-// before.
+// before, and a list without rows stays empty.
 void TactorSwitchSettingCtl::LoadRows() {
   const bool pageB = optChg->selected() == kPageB;
   const int mode = OptMode->selected();
   const bool keepsNames = pageB && mode < 0;
+  if (keepsNames && ListView1->rowCount() == 0) return;
   const int offered = pageB && mode == kStandard ? 1 : optBtn->count();
   const TactorPage& page = kTactorPages[pageB ? 1 : 0];
   std::vector<SwitchRow> rows;

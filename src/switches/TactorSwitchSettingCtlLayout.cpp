@@ -112,7 +112,7 @@ void TactorSwitchSettingCtl::BuildLayout() {
   auto* right = new QVBoxLayout;
   right->setSpacing(grid::kBetweenControls);
   right->addLayout(pages);
-  right->addWidget(ListView1, 1);
+  right->addWidget(ListView1);
   right->addWidget(textSW);
   right->addLayout(ComboRow());
 

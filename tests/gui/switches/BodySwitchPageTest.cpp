@@ -67,6 +67,11 @@ TEST_F(BodySwitchPage, ShowsTheLongestFunctionWholeInANarrowWindowToo) {
   }
 }
 
+TEST_F(BodySwitchPage, HasTheGapsOfTheGrid) {
+  const QWidget* picture = page.optBtn->parentWidget();
+  EXPECT_EQ(page.ListView1->x(), picture->geometry().right() + 1 + grid::kBetweenColumns);
+}
+
 TEST_F(BodySwitchPage, OffersEachKindItsOwnFunctions) {
   EXPECT_EQ(RowsOf(*page.ComboCWCCW), DialNames());
   EXPECT_EQ(RowsOf(*page.ComboFunction), PushNames());

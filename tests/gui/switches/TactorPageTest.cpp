@@ -12,6 +12,7 @@
 #include "widgets/OptionGroup.h"
 #include "widgets/SwitchDrawing.h"
 #include "widgets/TextField.h"
+#include "widgets/Theme.h"
 
 namespace mortane::test {
 namespace {
@@ -98,6 +99,19 @@ TEST_F(TactorPageTest, OffersTheDialAloneOnPageBInStandardMode) {
   EXPECT_EQ(rows(), Names{"CW/CCW(B)"});
   EXPECT_EQ(functions(), Names{"Condenser CW/CCW"});
   EXPECT_EQ(enabledMarks(), kDialAlone);
+}
+
+TEST_F(TactorPageTest, NamesTheDialOfPageBAlsoWhenItComesFromPageAInStandardMode) {
+  Click(page.OptMode, kStandard);
+  Click(page.optChg, kPageB);
+  EXPECT_EQ(rows(), Names{"CW/CCW(B)"});
+  Click(page.optChg, kPageA);
+  EXPECT_EQ(rows(), kRowsA);
+}
+
+TEST_F(TactorPageTest, HasTheGapsOfTheGrid) {
+  EXPECT_EQ(page.textSW->y(), page.ListView1->geometry().bottom() + 1 + grid::kBetweenControls);
+  EXPECT_EQ(page.ComboCWCCW->y(), page.textSW->geometry().bottom() + 1 + grid::kBetweenControls);
 }
 
 TEST_F(TactorPageTest, KeepsAndSendsTheCodesOfPageBInStandardMode) {
@@ -349,6 +363,17 @@ TEST_F(TactorPageWithoutMode, PageBKeepsTheRowsAndHasItsOwnCodes) {
   page.ComboFunction->setIndex(12);
   EXPECT_EQ(rig.k70().curTactor.Func(10), 28);
   EXPECT_EQ(rig.k70().curTactor.Func(3), 4);
+}
+
+// Before its first loading it has no rows to keep.
+TEST(TactorPageUnloaded, StaysEmptyOnPageBWithoutAMode) {
+  PageRig rig{"Harbour"};
+  rig.k70().curTactor.ControlMode = 2;
+  const std::unique_ptr<TactorSwitchSettingCtl> page(MakeTactorSwitchSettingCtl(rig.k70()));
+  page->optChg->select(kPageB);
+  EXPECT_EQ(page->ListView1->rowCount(), 0);
+  page->optChg->select(kPageA);
+  EXPECT_EQ(Column(*page->ListView1, 0), kRowsA);
 }
 
 TEST_F(TactorPageWithoutMode, AModeBringsTheRowsOfPageB) {
