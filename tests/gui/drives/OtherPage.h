@@ -12,6 +12,7 @@
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/OptionGroup.h"
+#include "widgets/Theme.h"
 
 namespace mortane::test {
 

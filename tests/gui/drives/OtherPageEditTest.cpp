@@ -41,6 +41,14 @@ TEST(OtherPageEdit, ManualAgainMakesAnotherSensitivityCoarseToo) {
   EXPECT_EQ(page.ComboStage->index(), 2);
 }
 
+TEST(OtherPageEdit, TheColumnsStandAGapOfTheGridApart) {
+  OtherRig rig("Quay");
+  auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
+  const QWidget* left = page.FrameManualHandle->parentWidget();
+  const QWidget* right = page.FrameBuzzer->parentWidget();
+  EXPECT_EQ(right->x(), left->geometry().right() + 1 + grid::kBetweenGroups);
+}
+
 TEST(OtherPageEdit, AutomaticKeepsTheSensitivity) {
   for (const ModeRow& row : kModes) {
     OtherRig rig("Quay");

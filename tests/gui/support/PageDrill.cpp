@@ -105,6 +105,15 @@ TEST_P(PageDrill, TheTabKeyGoesThroughThePageInOrder) {
   EXPECT_EQ(rig.TabOrder(), GetParam().tabOrder);
 }
 
+// The field that has the focus is left by the whole click, which a refused text forbids.
+TEST_P(PageDrill, NoButtonTakesTheFocusByThePressAlone) {
+  PageRig rig(GetParam().bench);
+  for (const auto* button : ShowOn(rig).findChildren<QAbstractButton*>()) {
+    EXPECT_FALSE((button->focusPolicy() & Qt::ClickFocus) != 0)
+        << button->objectName().toStdString() << " " << button->text().toStdString();
+  }
+}
+
 TEST_P(PageDrill, AScreenReaderFindsWhatThePageShows) {
   PageRig rig(GetParam().bench);
   EXPECT_EQ(AccessibleTree(ShowOn(rig)), GetParam().accessible);
