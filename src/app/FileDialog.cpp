@@ -26,6 +26,8 @@ QString NameFilter(const std::string& filter) {
 FileDialog::FileDialog(AcceptMode mode, const FileQuestion& question, const QString& folder)
     : QFileDialog(ParentOfBoxes()), pathMustExist_((question.flags & kPathMustExist) != 0) {
   setAcceptMode(mode);
+  // The system's own dialog gets no title by itself.
+  setWindowTitle(mode == AcceptSave ? QStringLiteral("Save As") : QStringLiteral("Open"));
   setNameFilter(NameFilter(question.filter));
   setFileMode((question.flags & kFileMustExist) != 0 ? ExistingFile : AnyFile);
   setOption(DontConfirmOverwrite, (question.flags & kOverwritePrompt) == 0);

@@ -32,6 +32,7 @@ TEST(FileToOpen, MustExistAndStartsWithNoName) {
   const std::string path = folder.Write("settings.xml", "<Setup/>");
   const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+    EXPECT_EQ(dialog.windowTitle(), "Open");
     EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
     EXPECT_EQ(dialog.nameFilters(), QStringList{"XML File (*.xml)"});
     Type(dialog, path);
@@ -66,6 +67,7 @@ TEST_P(FileToSave, GetsItsExtensionOnce) {
   QtPrompts prompts{[](int) {}};
   const TempFolder folder;
   const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Save As");
     EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
     EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
     Type(dialog, folder.Path(GetParam().typed));
