@@ -4,6 +4,7 @@
 #include "comserver/ServerHost.h"
 #include "controller/SimulatedRig.h"
 #include "controller/contract/BackEnd.h"
+#include "controller/contract/com/Variable.h"
 #include "controller/simulator/BenchFile.h"
 #include "platform/windows/Wide.h"
 #include "support/TempFolder.h"
@@ -81,20 +82,6 @@ TEST(Registration, IsNeededForNothingElse) {
   EXPECT_EQ(
       RunToEnd(L"\"" + ServerFile(L"mortane_test_server.exe") + L"\" -Embedding -Family {no}"), 2U);
 }
-
-// A variable that processes started from here get.
-class Variable {
- public:
-  Variable(const wchar_t* name, const std::wstring& value) : name_(name) {
-    SetEnvironmentVariableW(name, value.c_str());
-  }
-  ~Variable() { SetEnvironmentVariableW(name_, nullptr); }
-  Variable(const Variable&) = delete;
-  Variable& operator=(const Variable&) = delete;
-
- private:
-  const wchar_t* name_;
-};
 
 TEST(ServerBench, IsTheNamedOneOfTheEnvironment) {
   const Variable bench(L"MORTANE_SERVER_BENCH", L"Crowd");
