@@ -26,6 +26,7 @@ def await_that(condition, what):
         if value:
             return value
         if time.monotonic() > deadline:
+            subprocess.run(["import", "-window", "root", "/tmp/fail.png"], check=False)
             raise AssertionError(f"in vain waited for: {what}")
         time.sleep(0.05)
 
@@ -121,6 +122,16 @@ class Program:
     def box(self):
         """The box in front of the program's window."""
         return self.desktop.await_windows(2, self.title)[0]
+
+    def close_boxes(self):
+        """Until the window stands alone."""
+        def alone():
+            windows = self.desktop.windows(self.title)
+            if len(windows) > 1:
+                self.desktop.press(windows[0], "Return")
+                time.sleep(0.5)
+            return len(windows) == 1
+        await_that(alone, "the boxes gone")
 
     def press(self, window, *keys):
         self.desktop.press(window, *keys)

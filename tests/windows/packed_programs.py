@@ -28,11 +28,19 @@ def wine(*arguments):
                    stdout=subprocess.DEVNULL, env=screen.environment)
 
 
+def kill_server():
+    """A server whose clients were killed lives on, with the bench of a test before."""
+    subprocess.run([desktop.WINE, "taskkill", "/f", "/im", "mortane_test_server.exe"], check=False,
+                   timeout=desktop.PATIENCE_S, stdout=subprocess.DEVNULL,
+                   stderr=subprocess.DEVNULL, env=screen.environment)
+
+
 class PackedPrograms(unittest.TestCase):
     def setUp(self):
         self.folder = desktop.Folder()
         self.addCleanup(self.folder.close)
         self.desktop = screen
+        self.addCleanup(kill_server)
 
     def start(self, program, *arguments, kind="OwnProcess", bench="", variables=None):
         started = desktop.Program(
@@ -63,6 +71,8 @@ class PackedPrograms(unittest.TestCase):
 
     def answer_file_dialog(self, title, path):
         self.desktop.focus(self.desktop.await_windows(1, title)[0])
+        self.desktop.tool("key", "alt+n")  # the field for the name
+        time.sleep(0.2)
         self.desktop.tool("key", "ctrl+a")
         self.desktop.write(desktop.windows_path(path))
         self.desktop.tool("key", "Return")
@@ -147,9 +157,10 @@ class PackedPrograms(unittest.TestCase):
         program = self.start("mortane", "Alpha", bench=self.bench("Crowd"))
         program.await_call(CONNECTED)
         program.await_rest()
-        wine("taskkill", "/f", "/im", "mortane_test_server.exe")
+        kill_server()
         program.press(program.window(), "alt+c", "r")
-        program.press(program.box(), "Return")
+        program.box()
+        program.close_boxes()
         program.press(program.window(), "alt+c", "l")
         choice = self.desktop.await_windows(1, "Select Microscope Dialog")[0]
         program.press(choice, "Down", "Down", "Return")

@@ -68,10 +68,6 @@ TEST(SessionLibrary, TellsWhyTheInstalledOneIsNotUsedAndWhatToDo) {
       "Until then only the simulated microscope is there, with \"/SIM\" on the command line.");
 }
 
-TEST(SessionLibrary, OfThisSystemIsTheSimulatedMicroscope) {
-  EXPECT_EQ(controller::OpenInstalledLibrary(), nullptr);
-}
-
 TEST_F(SessionLibraryFiles, ABenchFileComesBeforeTheInstalledLibraryWhichIsNotOpened) {
   controller::WriteBenchFile(bench_, benches::Named("Harbour"));
   SessionLibrary session({bench_, "", NotRegistered});
