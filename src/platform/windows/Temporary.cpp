@@ -122,19 +122,11 @@ bool Temporary::PutInPlace() {
   return Move() || (target_.exists && Replace());
 }
 
-// Replaces also a file that others have open, if they share its deletion. NTFS knows it from
-// Windows 10 on; a network or a memory stick may not.
+// NTFS knows this rename from Windows 10 on; a network or a memory stick may not.
 bool Temporary::RenameOver() {
-  const std::size_t bytes = target_.path.size() * sizeof(wchar_t);
-  std::vector<std::byte> buffer(sizeof(FILE_RENAME_INFO) + bytes);
-  auto* const info = reinterpret_cast<FILE_RENAME_INFO*>(buffer.data());
-  // In place of the older form's first member.
-  const DWORD flags = kReplaceIfExists | kPosixSemantics;
-  std::memcpy(buffer.data(), &flags, sizeof flags);
-  info->FileNameLength = static_cast<DWORD>(bytes);
-  std::memcpy(info->FileName, target_.path.data(), bytes);
-  return SetFileInformationByHandle(file_.Get(), kRenameInfoEx, info,
-                                    static_cast<DWORD>(buffer.size())) != 0;
+  std::vector<std::byte> request = RenameRequest(target_.path);
+  return SetFileInformationByHandle(file_.Get(), kRenameInfoEx, request.data(),
+                                    static_cast<DWORD>(request.size())) != 0;
 }
 
 bool Temporary::Move() const {
@@ -157,6 +149,18 @@ bool Temporary::Replace() const {
   if (halfWay) MoveFileExW(old.c_str(), target_.path.c_str(), 0);
   SetLastError(error);
   return false;
+}
+
+std::vector<std::byte> RenameRequest(const std::wstring& path) {
+  const std::size_t bytes = path.size() * sizeof(wchar_t);
+  std::vector<std::byte> request(sizeof(FILE_RENAME_INFO) + bytes);
+  auto* const info = reinterpret_cast<FILE_RENAME_INFO*>(request.data());
+  // In place of the older form's first member.
+  const DWORD flags = kReplaceIfExists | kPosixSemantics;
+  std::memcpy(request.data(), &flags, sizeof flags);
+  info->FileNameLength = static_cast<DWORD>(bytes);
+  std::memcpy(info->FileName, path.data(), bytes);
+  return request;
 }
 
 // A file that a process of another machine still writes is open without sharing, so it cannot be

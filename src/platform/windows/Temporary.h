@@ -3,8 +3,10 @@
 
 #include <windows.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/windows/Handle.h"
 
@@ -42,6 +44,10 @@ class Temporary {
   std::wstring path_;
   Handle file_;
 };
+
+// What the call is given that renames an open file to that path, over a file that stands there.
+// Also over one that others have open, if they share its deletion.
+std::vector<std::byte> RenameRequest(const std::wstring& path);
 
 // Removes what processes left that ended during a save in that folder.
 void RemoveLeftTemporaries(const std::wstring& folder);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <cstring>
 #include <filesystem>
 #include <string>
 
@@ -10,6 +11,7 @@
 #include "platform/AtomicFile.h"
 #include "platform/Sleep.h"
 #include "platform/windows/Handle.h"
+#include "platform/windows/Temporary.h"
 #include "platform/windows/Wide.h"
 #include "support/SecondProcess.h"
 #include "support/TempFolder.h"
@@ -259,6 +261,25 @@ TEST(AtomicFileSharing, ATemporaryThatSomeoneWritesStaysThoughItsProcessIsUnknow
   writer.Close();
   WriteFileAtomically(folder.Path("a.xml"), "newer");
   EXPECT_FALSE(fs::exists(PathOf(path)));
+}
+
+// As the system documents it: flags, root, length in bytes, name.
+TEST(RenameRequest, ReplacesAFileEvenWhileOthersHaveItOpen) {
+  const std::wstring path = L"C:\\\u65E5";
+  const std::vector<std::byte> request = RenameRequest(path);
+  DWORD flags = 0;
+  HANDLE root = INVALID_HANDLE_VALUE;
+  DWORD length = 0;
+  std::wstring name(path.size() + 1, L'x');
+  ASSERT_GE(request.size(), 20 + 2 * name.size());
+  std::memcpy(&flags, request.data(), 4);
+  std::memcpy(&root, request.data() + 8, 8);
+  std::memcpy(&length, request.data() + 16, 4);
+  std::memcpy(name.data(), request.data() + 20, 2 * name.size());
+  EXPECT_EQ(flags, 3U) << "replace if it exists, with POSIX semantics";
+  EXPECT_EQ(root, nullptr);
+  EXPECT_EQ(length, 2 * path.size());
+  EXPECT_EQ(name, path + L'\0');
 }
 
 TEST(AtomicFileSharing, GoesAroundWhatAKilledProcessOfTheSameNumberLeft) {
