@@ -1,12 +1,15 @@
 // The ending: the report, the sending, and the question whether to save.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QPlainTextEdit>
+#include <QTextDocument>
 #include <filesystem>
 
 #include "WizardRig.h"
 #include "support/TempFolder.h"
 #include "widgets/Card.h"
+#include "widgets/Theme.h"
 #include "wizard/SadrelEndingCtl.h"
 
 namespace mortane::test {
@@ -50,6 +53,18 @@ TEST_F(EndingStep, BearsItsControlsByName) {
   EXPECT_EQ(ending().TextResult->objectName(), "TextResult");
   EXPECT_TRUE(QFontInfo(ending().TextResult->font()).fixedPitch());
   EXPECT_EQ(ending().FrameBase->objectName(), "FrameBase");
+}
+
+TEST_F(EndingStep, HoldsItsReportOffTheFramesEdge) {
+  EXPECT_EQ(ending().TextResult->document()->documentMargin(), grid::kBetweenControls);
+}
+
+TEST_F(EndingStep, NoButtonInSightTakesTheFocusByThePressAlone) {
+  for (const auto* button : form().findChildren<QAbstractButton*>()) {
+    if (!button->isVisible()) continue;
+    EXPECT_FALSE((button->focusPolicy() & Qt::ClickFocus) != 0)
+        << button->objectName().toStdString();
+  }
 }
 
 TEST_F(EndingStep, ShowsWhatASendWouldChange) {

@@ -71,6 +71,28 @@ TEST(Controls, ShowAgainWhatAnotherTypeHid) {
   EXPECT_TRUE(page.ControlOtherCtl1->FrameBuzzer->isVisible());
 }
 
+// All frames are shown first, and the loading ends with the step that fails.
+TEST(Controls, ShowWhatALoadingThatFailsDidNotComeTo) {
+  for (const std::int32_t type : {0, 6}) {
+    PageRig rig("Harbour");
+    rig.k70().curType = type;
+    auto& page = rig.Show(new SadrelControlOtherCtl(rig.k70()));
+    ControlOtherCtl& inner = *page.ControlOtherCtl1;
+    for (InnerFrame* frame : {inner.FrameManualHandle, inner.FrameBuzzer, inner.FrameSwitch,
+                              inner.FrameR_TLPORemote}) {
+      frame->hide();
+    }
+    rig.faults.Add({"ControllerVersion(1)"});
+    rig.prompts.AcceptAnyBox();
+    page.LoadData();
+    EXPECT_EQ(rig.prompts.Boxes().size(), 1U);
+    EXPECT_EQ(inner.FrameManualHandle->isVisible(), type == 6) << type;
+    EXPECT_TRUE(inner.FrameSwitch->isVisible()) << type;
+    EXPECT_EQ(inner.FrameBuzzer->isVisible(), type == 0) << type;
+    EXPECT_EQ(inner.FrameR_TLPORemote->isVisible(), type == 0) << type;
+  }
+}
+
 TEST(Controls, StayHiddenWhereTheMicroscopeHasNone) {
   PageRig rig("Shell");
   rig.k70().curType = 6;
