@@ -7,6 +7,11 @@ if(NOT result EQUAL 0)
   message(FATAL_ERROR "${PROGRAM} could not list its tests: ${result}")
 endif()
 
+# Under Wine the root of the file system is a drive, without which GoogleTest takes no path as whole.
+if(EMULATOR)
+  set(RESULTS "Z:${RESULTS}")
+endif()
+
 get_filename_component(program_name "${PROGRAM}" NAME_WE)
 string(REGEX MATCHALL "(^|\n)[A-Za-z0-9_/]+\\." suites "${listed}")
 set(tests "")

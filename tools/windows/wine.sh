@@ -24,6 +24,15 @@ if [[ ! -f "$WINEPREFIX/ready" ]]; then
   ) 9>"$WINEPREFIX/lock" >/dev/null
 fi
 
+# Wine's services start with the first program and end with the last. A program that begins while they
+# end may wait for them in vain, so they are started by themselves and stay for a minute.
+if ! wineserver -k0; then
+  (
+    flock 9
+    wineserver -k0 || { wineserver -p60 9>&- && wine cmd /c exit 9>&-; }
+  ) 9>"$WINEPREFIX/lock"
+fi >/dev/null 2>&1 </dev/null
+
 # Windows shares every drive with its administrators.
 shares="$WINEPREFIX/dosdevices/unc/localhost"
 if [[ ! -e "$shares/C\$" ]]; then
