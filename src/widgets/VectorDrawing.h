@@ -24,6 +24,9 @@ class VectorDrawing {
  public:
   explicit VectorDrawing(const QByteArray& svg);
 
+  // In the drawing's own units.
+  QSizeF Size() const { return viewBox_.size(); }
+
   // Stretches the drawing over the area.
   void Paint(QPainter& painter, const QRectF& area) const;
 
