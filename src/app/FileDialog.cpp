@@ -40,7 +40,7 @@ FileDialog::FileDialog(AcceptMode mode, const FileQuestion& question, const QStr
 
 QString FileDialog::Ask() {
   const bool accepted = exec() == Accepted && !selectedFiles().isEmpty();
-  return accepted ? selectedFiles().front() : QString();
+  return accepted ? QDir::toNativeSeparators(selectedFiles().front()) : QString();
 }
 
 void FileDialog::accept() {
@@ -50,7 +50,7 @@ void FileDialog::accept() {
     QMessageBox::warning(this, windowTitle(),
                          tr("%1\nDirectory not found.\nPlease verify the "
                             "correct directory name was given.")
-                             .arg(folder.path()));
+                             .arg(QDir::toNativeSeparators(folder.path())));
     return;
   }
   QFileDialog::accept();

@@ -27,7 +27,10 @@ class TempFolder {
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
 
-  std::string Path(std::string_view name) const { return Utf8Of(path_ / PathOf(name)); }
+  // With the system's own separators.
+  std::string Path(std::string_view name) const {
+    return Utf8Of((path_ / PathOf(name)).make_preferred());
+  }
 
   // Writes a file and gives its path.
   std::string Write(std::string_view name, std::string_view bytes) const {

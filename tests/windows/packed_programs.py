@@ -6,12 +6,15 @@ The server folder holds mortane_test_library.dll and mortane_test_server.exe."""
 import pathlib
 import subprocess
 import sys
+import tempfile
 import time
 import unittest
+import uuid
 
 import desktop
 
 package = pathlib.Path()
+servers = pathlib.Path()
 screen = None  # the one display: Wine stays on that on which its first process began
 
 CONNECTED = "DeviceList.Item(1).Connect()"
@@ -28,6 +31,25 @@ def wine(*arguments):
                    stdout=subprocess.DEVNULL, env=screen.environment)
 
 
+def point_to_new_classes():
+    """Wine starts no second server for a class whose server was killed: the server's names get
+    identifiers that nothing has."""
+    family = uuid.uuid4().bytes
+    command = f'"{desktop.windows_path(servers / "mortane_test_server.exe")}" -Family '
+    lines = ["REGEDIT4", ""]
+    for place, name in enumerate(("Microscope", "FiberServer", "FiberRemote")):
+        identifier = "{%s}" % uuid.UUID(bytes=family[:-1] + bytes([place + 1]))
+        base = "{%s}" % uuid.UUID(bytes=family[:-1] + bytes([0]))
+        escaped = (command + base).replace("\\", "\\\\").replace('"', '\\"')
+        root = "HKEY_LOCAL_MACHINE\\Software\\Classes\\"
+        lines += [f"[{root}CLSID\\{identifier}\\LocalServer32]", f'@="{escaped}"',
+                  f"[{root}MortaneTest.OwnProcess.{name}\\CLSID]", f'@="{identifier}"', ""]
+    with tempfile.NamedTemporaryFile("w", suffix=".reg", newline="\r\n") as entries:
+        entries.write("\n".join(lines))
+        entries.flush()
+        wine("regedit", "/S", desktop.windows_path(entries.name))
+
+
 def kill_server():
     """A server whose clients were killed lives on, with the bench of a test before."""
     subprocess.run([desktop.WINE, "taskkill", "/f", "/im", "mortane_test_server.exe"], check=False,
@@ -40,6 +62,7 @@ class PackedPrograms(unittest.TestCase):
         self.folder = desktop.Folder()
         self.addCleanup(self.folder.close)
         self.desktop = screen
+        point_to_new_classes()
         self.addCleanup(kill_server)
 
     def start(self, program, *arguments, kind="OwnProcess", bench="", variables=None):
@@ -158,6 +181,7 @@ class PackedPrograms(unittest.TestCase):
         program.await_call(CONNECTED)
         program.await_rest()
         kill_server()
+        point_to_new_classes()
         program.press(program.window(), "alt+c", "r")
         program.box()
         program.close_boxes()
@@ -219,10 +243,9 @@ class PackedPrograms(unittest.TestCase):
 
 
 def main():
-    global package, screen
+    global package, servers, screen
     package, servers = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
     screen = desktop.Desktop()
-    wine(servers / "mortane_test_server.exe", "/RegServer")
     wine("regsvr32", "/s", servers / "mortane_test_library.dll")
     # A process of Wine's that stays saves each start of a program two seconds.
     with subprocess.Popen([desktop.WINE, "cmd"], stdin=subprocess.PIPE, env=screen.environment,

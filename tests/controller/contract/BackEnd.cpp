@@ -36,10 +36,16 @@ const std::vector<BackEndKind>& BackEndKinds() {
                                   [](const std::string& bench) -> std::unique_ptr<BackEnd> {
                                     return std::make_unique<InPlace>(bench);
                                   },
-                                  own, own, own, own, false}};
+                                  own, own, own, own, false, false}};
     for (const BackEndKind& kind : KindsOfThisSystem()) all.push_back(kind);
     return all;
   }();
+  return kinds;
+}
+
+std::vector<BackEndKind> NearBackEndKinds() {
+  std::vector<BackEndKind> kinds = BackEndKinds();
+  std::erase_if(kinds, [](const BackEndKind& kind) { return kind.distant; });
   return kinds;
 }
 

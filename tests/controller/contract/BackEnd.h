@@ -38,12 +38,16 @@ struct BackEndKind {
   Refusal wrongUse;  // a write of what can only be read, and the reverse
   Refusal wrongKind;
   bool coerces;  // takes arguments of other types as automation does
+  bool distant;  // in another process, where a call takes a thousand times as long
 };
 
 std::ostream& operator<<(std::ostream& stream, const BackEndKind& kind);
 
 // In place; on Windows through COM as well, in the caller's process and in another one.
 const std::vector<BackEndKind>& BackEndKinds();
+
+// Those in this process, for long runs.
+std::vector<BackEndKind> NearBackEndKinds();
 
 // The kinds that a system adds to the one in place.
 std::vector<BackEndKind> KindsOfThisSystem();

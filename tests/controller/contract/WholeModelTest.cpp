@@ -67,7 +67,11 @@ class WholeModel : public OnEachBackEnd {
 };
 INSTANTIATE_TEST_SUITE_P(OnEachBackEnd, WholeModel, testing::ValuesIn(BackEndKinds()), KindName);
 
-TEST_P(WholeModel, OfTheSimulator) {
+class LongWholeModel : public WholeModel {};
+INSTANTIATE_TEST_SUITE_P(OnNearBackEnds, LongWholeModel, testing::ValuesIn(NearBackEndKinds()),
+                         KindName);
+
+TEST_P(LongWholeModel, OfTheSimulator) {
   ExpectRunAsInPlace("Quay", 0);
 }
 
@@ -75,7 +79,7 @@ TEST_P(WholeModel, OfOneMicroscopeAmongSeveral) {
   ExpectRunAsInPlace("Crowd", 1);
 }
 
-TEST_P(WholeModel, OfAnotherMicroscopeAmongSeveral) {
+TEST_P(LongWholeModel, OfAnotherMicroscopeAmongSeveral) {
   ExpectRunAsInPlace("Crowd", 3);
 }
 
@@ -83,12 +87,12 @@ TEST_P(WholeModel, OfAMicroscopeThatDoesNotAnswer) {
   ExpectRunAsInPlace("Crowd", 2);
 }
 
-TEST_P(WholeModel, OfAMicroscopeWithOddValues) {
+TEST_P(LongWholeModel, OfAMicroscopeWithOddValues) {
   ExpectRunAsInPlace("Attic", 1);
 }
 
 // What one run sent, the next one finds.
-TEST_P(WholeModel, ReadsBackWhatItSent) {
+TEST_P(LongWholeModel, ReadsBackWhatItSent) {
   const auto backEnd = Make("Harbour");
   const Outcome first = Transfer(backEnd->Library(), 1);
   const Outcome second = Transfer(backEnd->Library(), 1);

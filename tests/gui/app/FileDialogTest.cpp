@@ -128,7 +128,7 @@ class FolderUsedLast : public testing::Test {
   std::string Ask(const std::string& path, const std::function<std::string()>& ask) {
     std::string begun;
     const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
-      begun = dialog.directory().absolutePath().toStdString();
+      begun = QDir::toNativeSeparators(dialog.directory().absolutePath()).toStdString();
       if (path.empty()) {
         dialog.reject();
       } else {
@@ -142,7 +142,7 @@ class FolderUsedLast : public testing::Test {
 
 TEST_F(FolderUsedLast, IsWhereTheNextDialogBeginsOfEitherKind) {
   const std::string first = Save(folder.Path("a/lab.xml"));
-  EXPECT_EQ(first, QDir::currentPath().toStdString());
+  EXPECT_EQ(first, QDir::toNativeSeparators(QDir::currentPath()).toStdString());
   EXPECT_EQ(Open(folder.Path("b/lab.xml")), folder.Path("a"));
   EXPECT_EQ(Open(""), folder.Path("b"));
   EXPECT_EQ(Save(""), folder.Path("b")) << "a cancelled dialog has used none";
@@ -151,7 +151,7 @@ TEST_F(FolderUsedLast, IsWhereTheNextDialogBeginsOfEitherKind) {
 TEST_F(FolderUsedLast, ThatIsGoneIsForgotten) {
   Save(folder.Path("a/lab.xml"));
   std::filesystem::remove_all(folder.Path("a"));
-  EXPECT_EQ(Open(""), QDir::currentPath().toStdString());
+  EXPECT_EQ(Open(""), QDir::toNativeSeparators(QDir::currentPath()).toStdString());
 }
 
 }  // namespace

@@ -148,9 +148,11 @@ TEST(Select, ThatCannotConnectStopsAndLeavesTheControlsAsTheyWere) {
   EXPECT_EQ(rig.Transfers(), std::vector<bool>(4, true));
   EXPECT_EQ(rig.app.CountLog("flush"), 0) << "this path drops no input";
   EXPECT_TRUE(rig.fakes.calls.empty());
-  RigLibrary other(benches::Named("Quay"));
-  clsK70 holder(other.library, other.prompts);
-  EXPECT_FALSE(holder.CreateConnectionName("2")) << "the name is kept";
+  {
+    RigLibrary other(benches::Named("Quay"));
+    clsK70 refused(other.library, other.prompts);
+    EXPECT_FALSE(refused.CreateConnectionName("2")) << "the name is kept";
+  }
 
   rig.app.faults.Clear();
   rig.Select(1);

@@ -6,59 +6,13 @@
 #include <filesystem>
 #include <memory>
 
-#include "gui/support/PageActs.h"
-#include "gui/switches/SwitchPages.h"
-#include "support/ScriptedJoystick.h"
-#include "support/TempFolder.h"
+#include "gui/switches/JoypadRig.h"
 #include "switches/SwitchFunctions.h"
 #include "switches/clsIniEdit.h"
 #include "widgets/TextField.h"
 
 namespace mortane::test {
 namespace {
-
-namespace fs = std::filesystem;
-using Names = std::vector<std::string>;
-
-constexpr const char* kSetup = "Tarvex/OrmanaTools/Setup.ini";
-constexpr const char* kDashes = "-----------------";
-
-class JoypadPage : public testing::Test {
- protected:
-  void WriteSetup(const std::string& content) const {
-    fs::create_directories(folder.Path("Tarvex/OrmanaTools"));
-    folder.Write(kSetup, content);
-  }
-  std::string Setup() const { return TempFolder::Read(folder.Path(kSetup)); }
-  int Value(const std::string& key) const {
-    return clsIniEdit{folder.Path(kSetup)}.GetInt("JoyPad", key, -99);
-  }
-
-  // Makes the page for a joystick with so many buttons, loads and shows it.
-  void Open(std::int32_t buttons) {
-    joystick.capabilities = {kJoystickOk, buttons};
-    OpenAsItIs();
-  }
-  void OpenAsItIs() {
-    page = std::make_unique<JoypadSwitchSettingCtl>(joystick, folder.Path(""));
-    page->resize(900, 480);
-    page->LoadData();
-    page->show();
-    page->activateWindow();
-    QApplication::processEvents();
-  }
-  void Choose(int row, int function) {
-    ClickRow(*page->ListView1, row);
-    ClickRow(*page->lstSwFunc, function);
-  }
-  Names rows() const { return Column(*page->ListView1, 0); }
-  Names functions() const { return Column(*page->ListView1, 1); }
-  std::string text() const { return page->textSwFunc->text().toStdString(); }
-
-  TempFolder folder;
-  ScriptedJoystick joystick;
-  std::unique_ptr<JoypadSwitchSettingCtl> page;
-};
 
 TEST_F(JoypadPage, BearsTheGivenControls) {
   Open(2);
@@ -114,7 +68,7 @@ TEST_F(JoypadPage, HasRowsForAnyNumberOfButtonsUpToTwentyOne) {
     page.reset();
     const std::string last = row.buttons == 0 ? "Down" : "Button" + std::to_string(row.buttons);
     EXPECT_EQ(Value(last), 5) << row.buttons;
-    fs::remove(folder.Path(kSetup));
+    std::filesystem::remove(folder.Path(kSetup));
   }
 }
 
@@ -250,7 +204,7 @@ TEST_F(JoypadPage, ALoadKeepsWhatWasChosenAndClearsTheSelection) {
 TEST_F(JoypadPage, SavesWhenThePersonLeavesIt) {
   Open(1);
   Choose(4, 7);
-  EXPECT_FALSE(fs::exists(folder.Path(kSetup)));
+  EXPECT_FALSE(std::filesystem::exists(folder.Path(kSetup)));
   page->hide();
   EXPECT_EQ(Value("Button1"), 7);
 }
@@ -273,7 +227,7 @@ TEST_F(JoypadPage, SavesNothingWhenTheWindowIsMinimised) {
   QHideEvent bySystem;
   QSpontaneKeyEvent::setSpontaneous(&bySystem);
   ASSERT_TRUE(qApp->notify(page.get(), &bySystem));
-  EXPECT_FALSE(fs::exists(folder.Path(kSetup)));
+  EXPECT_FALSE(std::filesystem::exists(folder.Path(kSetup)));
 }
 
 TEST_F(JoypadPage, SavesWhenItIsDestroyed) {
@@ -281,27 +235,6 @@ TEST_F(JoypadPage, SavesWhenItIsDestroyed) {
   Choose(4, 7);
   page.reset();
   EXPECT_EQ(Value("Button1"), 7);
-}
-
-TEST_F(JoypadPage, SavesFourDirectionsThoughItWasNeverShownAndThereIsNoJoystick) {
-  joystick.Fail(kJoystickNoDriver);
-  { const JoypadSwitchSettingCtl never(joystick, folder.Path("")); }
-  EXPECT_EQ(Setup(), "[JoyPad]\nRight=0\nLeft=0\nUp=0\nDown=0\n");
-}
-
-TEST_F(JoypadPage, KeepsAllElseInTheFileByteForByte) {
-  WriteSetup(
-      "; a note\n\n[Stage]\nSpeed = 3 ; fast\n[JoyPad]\n; pads\nRight=1\nOther=x\n"
-      "Button3=9\n[End]\nLast=\n");
-  Open(2);
-  Choose(0, 2);
-  page.reset();
-  const std::string after = Setup();
-  EXPECT_TRUE(
-      after.starts_with("; a note\n\n[Stage]\nSpeed = 3 ; fast\n[JoyPad]\n; pads\n"
-                        "Right=2\nOther=x\nButton3=9\n"))
-      << after;
-  EXPECT_TRUE(after.ends_with("[End]\nLast=\n")) << after;
 }
 
 TEST_F(JoypadPage, WithoutAFolderOfTheUserWorksAndSavesNothing) {
@@ -312,7 +245,7 @@ TEST_F(JoypadPage, WithoutAFolderOfTheUserWorksAndSavesNothing) {
   Choose(4, 7);
   EXPECT_EQ(functions()[4], "DIA Field Stop OPEN");
   page.reset();
-  EXPECT_TRUE(fs::is_empty(folder.Path("")));
+  EXPECT_TRUE(std::filesystem::is_empty(folder.Path("")));
 }
 
 TEST_F(JoypadPage, WhoseFolderCannotBeMadeWorksAndLeavesWhatIsInItsPlace) {
@@ -324,12 +257,12 @@ TEST_F(JoypadPage, WhoseFolderCannotBeMadeWorksAndLeavesWhatIsInItsPlace) {
 }
 
 TEST_F(JoypadPage, WhoseFileIsAFolderWorksAndLeavesIt) {
-  fs::create_directories(folder.Path(kSetup));
+  std::filesystem::create_directories(folder.Path(kSetup));
   Open(1);
   EXPECT_EQ(functions()[4], kDashes);
   Choose(4, 7);
   page.reset();
-  EXPECT_TRUE(fs::is_directory(folder.Path(kSetup)));
+  EXPECT_TRUE(std::filesystem::is_directory(folder.Path(kSetup)));
 }
 
 }  // namespace

@@ -6,7 +6,7 @@ namespace mortane::controller::test {
 namespace {
 
 template <typename Host>
-BackEndKind Kind(const char* name) {
+BackEndKind Kind(const char* name, bool distant) {
   return {name,
           [](const std::string& bench) -> std::unique_ptr<BackEnd> {
             return std::make_unique<ComBackEnd<Host>>(bench);
@@ -15,13 +15,14 @@ BackEndKind Kind(const char* name) {
           {"Mortane", DISP_E_BADPARAMCOUNT},
           {"Mortane", DISP_E_MEMBERNOTFOUND},
           {"Mortane", DISP_E_TYPEMISMATCH},
-          true};
+          true,
+          distant};
 }
 
 }  // namespace
 
 std::vector<BackEndKind> KindsOfThisSystem() {
-  return {Kind<InProcessServer>("InProcess"), Kind<ServerProcess>("OwnProcess")};
+  return {Kind<InProcessServer>("InProcess", false), Kind<ServerProcess>("OwnProcess", true)};
 }
 
 }  // namespace mortane::controller::test
