@@ -224,7 +224,10 @@ void ControlFocusDriveCtl::Start() {
   if (*moving_ || selectedRow_ < 0 || !CheckRealMove->isChecked()) return;
   if (optNosepiece->button(selectedRow_)->isHidden()) return;
   const std::optional<std::int32_t> target = FrameNosepiece->Steps(selectedRow_);
-  if (target) MoveToRow(selectedRow_, *target);
+  if (!target) return;
+  Prompts& prompts = drive_.parent.prompts();
+  MoveToRow(selectedRow_, *target);
+  prompts.FlushInput();
 }
 
 // The row keeps its stored position; leaving its field, or saving, takes what is shown.

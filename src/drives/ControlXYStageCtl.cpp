@@ -176,7 +176,10 @@ void ControlXYStageCtl::Start() {
   if (optNosepiece->button(selectedRow_)->isHidden()) return;
   const std::optional<std::int32_t> x = FrameNosepiece->Steps(selectedRow_, kX);
   const std::optional<std::int32_t> y = FrameNosepiece->Steps(selectedRow_, kY);
-  if (x && y) MoveToRow(selectedRow_, *x, *y);
+  if (!x || !y) return;
+  Prompts& prompts = stage_.parent.prompts();
+  MoveToRow(selectedRow_, *x, *y);
+  prompts.FlushInput();
 }
 
 void ControlXYStageCtl::MoveToRow(int row, std::int32_t x, std::int32_t y) {

@@ -186,14 +186,10 @@ TEST_F(FocusStart, AtExactlyZeroTheRowShowsZero) {
   EXPECT_EQ(rig.shown(0), "0");
 }
 
-// Other than a single step it does not block: the box lets input through.
-TEST_F(FocusStart, NoInputIsDropped) {
-  for (const Answer answer : {Answer::TimedOut, Answer::Ok}) {
-    rig.instrument().zDrive.position = 400;
-    rig.ExpectWatch(1080, answer);
-    Start("100");
-    EXPECT_EQ(rig.prompts.Log().size(), 1U) << "the box alone";
-  }
+TEST_F(FocusStart, TheInputDuringTheWaitIsDropped) {
+  rig.ExpectWatch(1080, Answer::TimedOut);
+  Start("100");
+  EXPECT_EQ(rig.prompts.Log().back(), "flush");
 }
 
 TEST_F(FocusStart, ThePositionThatIsReachedIsStoredByTheNextSaving) {

@@ -29,11 +29,6 @@ class LostMove : public testing::TestWithParam<Fate> {
     EXPECT_EQ(rig.journal.CallCount(), 0U);
     EXPECT_TRUE(rig.prompts.AllAnswersUsed());
     EXPECT_EQ(rig.prompts.PointerBalance(), 0);
-  }
-  // After a step, or the choice of a row.
-  template <typename Rig>
-  void ExpectSilenceAndFlush(Rig& rig) {
-    ExpectSilence(rig);
     EXPECT_EQ(rig.prompts.Log().back(), "flush") << "clicks would move the next drive";
   }
   static Bench TwoDevices() { return List({"Quay", "Harbour", "Harbour"}); }
@@ -120,7 +115,7 @@ TEST_P(LostMove, AsksTheDriveNothingAfterAStepThatFailed) {
     rig.faults.Add({row.call, row.occurrence});
     rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", Lose(rig));
     ClickButton(*rig.page.ButtonUpLarge);
-    ExpectSilenceAndFlush(rig);
+    ExpectSilence(rig);
   }
 }
 
@@ -133,7 +128,7 @@ TEST_P(LostMove, AsksTheStageNothingAfterAStepThatFailed) {
     rig.faults.Add({row.call, row.occurrence});
     rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", Lose(rig));
     ClickButton(*rig.page.ButtonLeftLarge);
-    ExpectSilenceAndFlush(rig);
+    ExpectSilence(rig);
   }
 }
 
@@ -141,7 +136,7 @@ TEST_P(LostMove, TeachesNothingAfterTheQuestionOfARow) {
   FocusRig rig(TwoDevices());
   rig.prompts.ExpectBox(kTeach, box::kOkCancel, Answer::Ok, kTeachCaption, Lose(rig));
   ClickButton(*rig.page.optNosepiece->button(0));
-  ExpectSilenceAndFlush(rig);
+  ExpectSilence(rig);
   EXPECT_EQ(rig.drive().Position(1), 0);
 }
 

@@ -66,6 +66,18 @@ TEST(MoveSafety, ClicksThatAreNotDroppedEachMove) {
   EXPECT_EQ(rig.journal.Writes().size(), 3U);
 }
 
+TEST(MoveSafety, ClicksDuringTheWaitOfAStartedMoveAreDropped) {
+  FocusRig rig;
+  rig.Select(0);
+  rig.field(0).setText("100");
+  InputFlush flush;
+  FlushForReal(rig, flush);
+  rig.ExpectWatch(1080, Answer::TimedOut, [&] { PostClick(*rig.page.ButtonDownLarge); });
+  ClickButton(*rig.page.ButtonStart);
+  QApplication::processEvents();
+  EXPECT_EQ(rig.instrument().zDrive.position, 2000);
+}
+
 template <typename Rig>
 void ExpectNoMoveFromWheelOrRepeat(Rig& rig) {
   const std::vector<QPushButton*> buttons = ButtonsOf(rig);
