@@ -78,14 +78,14 @@ TEST(Controls, ShowWhatALoadingThatFailsDidNotComeTo) {
     rig.k70().curType = type;
     auto& page = rig.Show(new SadrelControlOtherCtl(rig.k70()));
     ControlOtherCtl& inner = *page.ControlOtherCtl1;
-    for (InnerFrame* frame : {inner.FrameManualHandle, inner.FrameBuzzer, inner.FrameSwitch,
-                              inner.FrameR_TLPORemote}) {
+    for (InnerFrame* frame :
+         {inner.FrameManualHandle, inner.FrameBuzzer, inner.FrameSwitch, inner.FrameR_TLPORemote}) {
       frame->hide();
     }
-    rig.faults.Add({"ControllerVersion(1)"});
-    rig.prompts.AcceptAnyBox();
+    rig.k70().COther.curAutoXY = 0;
+    rig.k70().COther.curSensitivityXY = 9;
+    rig.prompts.ExpectBox("Data_Load Error2", box::kOk);
     page.LoadData();
-    EXPECT_EQ(rig.prompts.Boxes().size(), 1U);
     EXPECT_EQ(inner.FrameManualHandle->isVisible(), type == 6) << type;
     EXPECT_TRUE(inner.FrameSwitch->isVisible()) << type;
     EXPECT_EQ(inner.FrameBuzzer->isVisible(), type == 0) << type;
