@@ -45,6 +45,15 @@ struct QuayRig : AppRig {
   }
 };
 
+TEST(ControlsWiring, TheWindowHoldsItsSixPagesByName) {
+  StartedRig rig("Harbour");
+  for (const char* name :
+       {"SystemSettingsCtl1", "ObjectiveSettingsCtl1", "FilterQubeSettingsCtl1",
+        "CondenserSettingsCtl1", "InterlockSettingsCtl1", "ControlSettingsCtl1"}) {
+    EXPECT_EQ(rig.Find<Page>(name).objectName(), name);
+  }
+}
+
 struct BenchRow {
   const char* bench;
   bool enabled;
