@@ -7,10 +7,13 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 preset="$1"
 shift
 
-# A process of Wine's that stays until its input ends: the others start quickly beside it.
-tools/windows/wine.sh cmd < <(sleep infinity) >/dev/null 2>&1 &
-keeper=$!
-trap 'kill "$keeper"; wait' EXIT
+# The offscreen platform looks here for fonts, and for nothing else.
+fonts="$(tools/windows/cache.sh)/prefix/lib/fonts"
+mkdir -p "$fonts"
+cp /usr/share/fonts/truetype/dejavu/DejaVuSans{,-Bold,Mono}.ttf "$fonts/"
+
+# A process of Wine's that stays as long as this one: the others start quickly beside it.
+{ tail --pid=$$ -f /dev/null | tools/windows/wine.sh cmd; } >/dev/null 2>&1 &
 
 rm -rf "build/$preset/results"
 result=0
