@@ -100,6 +100,12 @@ class PackedPrograms(unittest.TestCase):
         self.desktop.write(desktop.windows_path(path))
         self.desktop.tool("key", "Return")
 
+    def select_the_third(self, program):
+        program.press(program.window(), "alt+c", "l")
+        choice = self.desktop.await_windows(1, "Select Microscope Dialog")[0]
+        program.press(choice, "Down", "Down", "Return")
+        program.await_call("DeviceList.Item(3).Connect()")
+
     def work_through(self, kind):
         """Start, Receive, change, Send, Save, Open, Select, Exit."""
         program = self.start("mortane", kind=kind, bench=self.bench("Harbour"))
@@ -170,10 +176,7 @@ class PackedPrograms(unittest.TestCase):
         program = self.start("mortane", "Alpha", bench=self.bench("Crowd"))
         program.await_call(CONNECTED)
         program.await_rest()
-        program.press(program.window(), "alt+c", "l")
-        choice = self.desktop.await_windows(1, "Select Microscope Dialog")[0]
-        program.press(choice, "Down", "Down", "Return")
-        program.await_call("DeviceList.Item(3).Connect()")
+        self.select_the_third(program)
         self.assertEqual(program.end_by_menu(), 0)
 
     def test_a_server_that_is_killed_leaves_the_window_alive_and_select_connects_again(self):
@@ -185,10 +188,7 @@ class PackedPrograms(unittest.TestCase):
         program.press(program.window(), "alt+c", "r")
         program.box()
         program.close_boxes()
-        program.press(program.window(), "alt+c", "l")
-        choice = self.desktop.await_windows(1, "Select Microscope Dialog")[0]
-        program.press(choice, "Down", "Down", "Return")
-        program.await_call("DeviceList.Item(3).Connect()")
+        self.select_the_third(program)
         self.assertEqual(program.end_by_menu(), 0)
 
     def test_without_a_library_it_says_so_and_has_the_simulated_microscope(self):
@@ -245,6 +245,7 @@ class PackedPrograms(unittest.TestCase):
 def main():
     global package, servers, screen
     package, servers = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+    subprocess.run([desktop.WINE, "--end"], check=True)
     screen = desktop.Desktop()
     wine("regsvr32", "/s", servers / "mortane_test_library.dll")
     # A process of Wine's that stays saves each start of a program two seconds.
@@ -252,6 +253,7 @@ def main():
                           stdout=subprocess.DEVNULL) as keeper:
         result = unittest.main(argv=sys.argv[:1] + sys.argv[3:], exit=False, verbosity=2).result
         keeper.stdin.close()
+    subprocess.run([desktop.WINE, "--end"], check=True)
     screen.close()
     print(f"{result.testsRun - len(result.failures) - len(result.errors)} of {result.testsRun} "
           "tests of the packed programs passed")

@@ -2,6 +2,7 @@
 # Runs a program for Windows under Wine: tools/windows/wine.sh PROGRAM [ARGUMENTS...]
 # With --collect before the program, what it writes appears when it has ended. Wine's services and
 # its desktop, which a program may start, have its output and hold it open beyond its end.
+# With --end instead of a program it ends all that runs under Wine, its services too.
 # Its drives and registry stand in MORTANE_WINE, or in build/wine of this tree. The first call makes
 # them, as Windows 10.
 set -euo pipefail
@@ -11,6 +12,11 @@ export WINEPREFIX="${MORTANE_WINE:-$here/../../build/wine}"
 export WINEDEBUG="${WINEDEBUG:--all}"
 # Without these it asks to install what no program here needs, and adds menus to the desktop.
 export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml,winemenubuilder.exe=}"
+
+if [[ "${1:-}" == --end ]]; then
+  wineserver -k || true
+  exit 0
+fi
 
 if [[ ! -f "$WINEPREFIX/ready" ]]; then
   mkdir -p "$WINEPREFIX"

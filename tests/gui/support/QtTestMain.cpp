@@ -36,6 +36,8 @@ int main(int argc, char** argv) {
   testing::UnitTest::GetInstance()->listeners().Append(mortane::test::MakeTestWatch().release());
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  // Where the offscreen platform knows fonts by their names alone.
+  QFont::insertSubstitution(QStringLiteral("monospace"), QStringLiteral("DejaVu Sans Mono"));
   QApplication::setApplicationName(QStringLiteral("Mortane"));
   QApplication::setQuitOnLastWindowClosed(false);
   mortane::ApplyTheme(application, mortane::Scheme::Light);
