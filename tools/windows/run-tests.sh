@@ -12,6 +12,9 @@ fonts="$(tools/windows/cache.sh)/prefix/lib/fonts"
 mkdir -p "$fonts"
 cp /usr/share/fonts/truetype/dejavu/DejaVuSans{,-Bold,Mono}.ttf "$fonts/"
 
+# Makes what Wine needs, which takes longer than the listing of tests may.
+tools/windows/wine.sh --collect cmd /c exit
+
 # A process of Wine's that stays as long as this one: the others start quickly beside it.
 { tail --pid=$$ -f /dev/null | tools/windows/wine.sh cmd; } >/dev/null 2>&1 &
 

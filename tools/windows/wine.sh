@@ -18,13 +18,17 @@ if [[ "${1:-}" == --end ]]; then
   exit 0
 fi
 
+# What is started under the lock must not hold it open: Wine's services outlive the call. Those of the
+# first start have to be gone before the others begin.
 if [[ ! -f "$WINEPREFIX/ready" ]]; then
   mkdir -p "$WINEPREFIX"
   (
     flock 9
     if [[ ! -f "$WINEPREFIX/ready" ]]; then
-      DISPLAY='' wine wineboot -i
-      wine winecfg -v win10
+      DISPLAY='' wine wineboot -i 9>&-
+      wine winecfg -v win10 9>&-
+      wineserver -k || true
+      wineserver -w
       touch "$WINEPREFIX/ready"
     fi
   ) 9>"$WINEPREFIX/lock" >/dev/null
