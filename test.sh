@@ -1,6 +1,6 @@
 #!/bin/bash
-# Sets up, builds with sanitizers and runs every test and check, then the core's tests for Windows
-# under Wine. With arguments, which go to ctest, the latter are left out: ./test.sh -R Dom
+# Sets up, builds with sanitizers and runs every test and check; arguments go to ctest:
+# ./test.sh -R Dom
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")"
@@ -13,5 +13,4 @@ rm -rf build/asan/results
 result=0
 ctest --preset asan --parallel "$(nproc)" "$@" </dev/null || result=$?
 python3 tools/test-results.py build/asan/results || result=1
-[[ $# -gt 0 ]] || tools/windows/core-tests.sh </dev/null || result=1
 exit "$result"
