@@ -17,12 +17,12 @@
 #include <functional>
 #include <string>
 
-#include "app/BenchSession.h"
 #include "app/GetAppIcon.h"
 #include "app/MortaneMainForm.h"
 #include "app/QtPrompts.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
+#include "hub/BenchSession.h"
 #include "hub/clsK70.h"
 #include "platform/CommandLine.h"
 #include "platform/Joystick.h"

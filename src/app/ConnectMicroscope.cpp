@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "common/Text.h"
-#include "controller/Microscope.h"
+#include "hub/DeviceAvailability.h"
 
 namespace mortane {
 namespace {
@@ -89,15 +89,6 @@ bool ConnectMicroscope(const StartPath& start) {
   }
   start.received(start.k70.Receive());
   return true;
-}
-
-bool IsDeviceAvailable(controller::ControllerLibrary& library, std::int32_t n) {
-  try {
-    const controller::Microscope root(library.Create("Microscope"));
-    return root.DeviceList().Item(n).IsAvailable() != 0;
-  } catch (const Failure&) {
-    return false;
-  }
 }
 
 }  // namespace mortane

@@ -28,8 +28,4 @@ struct StartPath {
 // connected and filled; false when the program has to end. Everything that went wrong was shown.
 bool ConnectMicroscope(const StartPath& start);
 
-// Whether device n can be used now. Asks a root of its own, so that the connected one is left
-// alone; any failure, an index outside the list among them, is a no.
-bool IsDeviceAvailable(controller::ControllerLibrary& library, std::int32_t n);
-
 }  // namespace mortane

@@ -7,10 +7,10 @@
 
 #include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
-#include "app/SessionLibrary.h"
 #include "app/WindowPlace.h"
 #include "common/Failure.h"
 #include "common/Numbers.h"
+#include "hub/SessionLibrary.h"
 #include "hub/clsK70.h"
 #include "platform/CommandLine.h"
 #include "platform/Joystick.h"

@@ -13,6 +13,7 @@
 #include "app/ConnectMicroscope.h"
 #include "app/SelScopeDlg.h"
 #include "app/SettingsFiles.h"
+#include "hub/DeviceAvailability.h"
 #include "hub/clsK70.h"
 #include "widgets/ProgressLine.h"
 #include "widgets/Theme.h"

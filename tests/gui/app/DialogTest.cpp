@@ -5,10 +5,10 @@
 #include <QPushButton>
 
 #include "AppRig.h"
-#include "app/ConnectMicroscope.h"
 #include "app/GetAppIcon.h"
 #include "app/SelFileItemDlg.h"
 #include "app/SelScopeDlg.h"
+#include "hub/DeviceAvailability.h"
 #include "support/TempFolder.h"
 #include "widgets/ListBox.h"
 

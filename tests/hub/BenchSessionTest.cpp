@@ -1,5 +1,5 @@
 // The simulated instruments of a running program, and the file behind them.
-#include "app/BenchSession.h"
+#include "hub/BenchSession.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Which controller library a program works with, and the journal of its calls.
-#include "app/SessionLibrary.h"
+#include "hub/SessionLibrary.h"
 
 #include <gtest/gtest.h>
 

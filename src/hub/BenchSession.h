@@ -1,6 +1,7 @@
 // The simulated instruments that the program works on.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -16,8 +17,12 @@ namespace mortane {
 // date once it is connected.
 class BenchSession {
  public:
-  // An empty path names no file. Raises a Failure for a file that is wrong.
-  explicit BenchSession(const std::string& path);
+  // Says in one line what went wrong.
+  using Notice = std::function<void(const std::string&)>;
+
+  // An empty path names no file. Raises a Failure for a file that is wrong. Without a `notice` a
+  // line goes to standard error.
+  explicit BenchSession(const std::string& path, Notice notice = {});
   ~BenchSession();
   BenchSession(const BenchSession&) = delete;
   BenchSession& operator=(const BenchSession&) = delete;
@@ -26,7 +31,7 @@ class BenchSession {
   controller::ControllerLibrary& Library() { return library_; }
 
   // Writes what changed since the last time. A file that cannot be written keeps its old content;
-  // one line on standard error tells it, and the next change or the end of the session tries again.
+  // one line tells it, and the next change or the end of the session tries again.
   void Keep();
 
  private:
@@ -34,6 +39,7 @@ class BenchSession {
 
   std::optional<controller::SharedBench> file_;
   controller::SimulatedLibrary library_;
+  Notice notice_;
   bool changed_ = false;
   bool failed_ = false;
 };

@@ -1,4 +1,4 @@
-#include "app/SessionLibrary.h"
+#include "hub/SessionLibrary.h"
 
 #include <filesystem>
 
@@ -36,7 +36,7 @@ LibraryWish WishOfEnvironment() {
 SessionLibrary::SessionLibrary(const LibraryWish& wish) {
   if (!wish.journal.empty()) journal_ = OpenAtEnd(wish.journal);
   if (wish.bench.empty()) OpenInstalled(wish);
-  if (installed_ == nullptr) bench_.emplace(wish.bench);
+  if (installed_ == nullptr) bench_.emplace(wish.bench, wish.notice);
   if (!wish.journal.empty()) log_.emplace(installed_ ? *installed_ : bench_->Library(), journal_);
 }
 

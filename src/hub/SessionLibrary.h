@@ -7,9 +7,9 @@
 #include <optional>
 #include <string>
 
-#include "app/BenchSession.h"
 #include "controller/CallLog.h"
 #include "controller/InstalledLibrary.h"
+#include "hub/BenchSession.h"
 
 namespace mortane {
 
@@ -21,6 +21,7 @@ struct LibraryWish {
   std::string journal;
   std::function<std::unique_ptr<controller::ControllerLibrary>()> openInstalled =
       controller::OpenInstalledLibrary;
+  BenchSession::Notice notice = {};
 };
 
 LibraryWish WishOfEnvironment();

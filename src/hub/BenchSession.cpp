@@ -1,4 +1,4 @@
-#include "app/BenchSession.h"
+#include "hub/BenchSession.h"
 
 #include <iostream>
 #include <utility>
@@ -15,12 +15,17 @@ std::optional<controller::SharedBench> FileAt(const std::string& path) {
   return controller::SharedBench(path);
 }
 
+void WriteNotice(const std::string& text) {
+  std::cerr << "mortane: " << text << '\n';
+}
+
 }  // namespace
 
-BenchSession::BenchSession(const std::string& path)
+BenchSession::BenchSession(const std::string& path, Notice notice)
     : file_(FileAt(path)),
       library_(file_ ? file_->Known() : controller::benches::Named("Quay"),
-               std::make_shared<controller::RealClock>()) {
+               std::make_shared<controller::RealClock>()),
+      notice_(notice ? std::move(notice) : WriteNotice) {
   if (!file_) return;
   library_.OnChange([this](const controller::Bench&) { changed_ = true; });
   library_.OnConnection([this] { Exchange(); });
@@ -41,7 +46,7 @@ void BenchSession::Exchange() {
     failed_ = false;
   } catch (const Failure& failure) {
     failed_ = true;
-    std::cerr << "mortane: " << failure.Description() << '\n';
+    notice_(failure.Description());
   }
 }
 
