@@ -183,7 +183,10 @@ void ControlFocusDriveCtl::OnRealMove(bool real) {
 // A section that is hidden asks nothing: nobody would know what is meant.
 void ControlFocusDriveCtl::OnRow(int row) {
   Prompts& prompts = drive_.parent.prompts();
-  { const HourglassScope hourglass(prompts); }
+  {
+    // The pointer is set and restored before the row is stored.
+    const HourglassScope hourglass(prompts);
+  }
   selectedRow_ = row;
   if (!optNosepiece->button(row)->isVisibleTo(FrameBase)) return;
   const MoveScope scope(moving_, drive_.parent);

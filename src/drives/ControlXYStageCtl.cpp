@@ -144,7 +144,10 @@ void ControlXYStageCtl::OnRealMove(bool real) {
 }
 
 void ControlXYStageCtl::OnRow(int row) {
-  { const HourglassScope hourglass(stage_.parent.prompts()); }
+  {
+    // The pointer is set and restored before the row is stored.
+    const HourglassScope hourglass(stage_.parent.prompts());
+  }
   selectedRow_ = row;
 }
 

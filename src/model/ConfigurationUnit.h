@@ -5,6 +5,7 @@
 #include <concepts>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
@@ -26,17 +27,22 @@ namespace mortane {
 //              the unit as it was. Data that no conversion can take may raise a Failure.
 // WriteDom     Appends the unit's element or elements to the section. May raise a Failure.
 template <typename Unit>
-concept ConfigurationUnit = requires(Unit unit, const Unit constUnit, std::string& list,
-                                     const DomNode& element, DomDocument& document,
-                                     DomNode section) {
+concept TransferredUnit = requires(Unit unit, const Unit constUnit, std::string& list) {
   requires std::same_as<decltype(Unit::parent), ConnectedMicroscope&>;
-  { Unit::kElement } -> std::convertible_to<std::string_view>;
   { unit.ReadSdk() } -> std::same_as<std::string>;
   { constUnit.ModifySdk(list) } -> std::same_as<std::string>;
   { constUnit.WriteSdk() } -> std::same_as<std::string>;
-  { unit.ReadDom(element) } -> std::same_as<std::string>;
-  { constUnit.WriteDom(document, section) } -> std::same_as<void>;
 };
+
+template <typename Unit>
+concept StoredUnit = requires(Unit unit, const Unit constUnit, DomDocument& file, DomNode node) {
+  { Unit::kElement } -> std::convertible_to<std::string_view>;
+  { unit.ReadDom(std::as_const(node)) } -> std::same_as<std::string>;
+  { constUnit.WriteDom(file, node) } -> std::same_as<void>;
+};
+
+template <typename Unit>
+concept ConfigurationUnit = TransferredUnit<Unit> && StoredUnit<Unit>;
 
 // A unit that tells whether it holds anything that concerns the connected microscope.
 template <typename Unit>

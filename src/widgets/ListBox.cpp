@@ -91,6 +91,10 @@ void ListBox::SetTabStops(const QVector<int>& dialogUnits) {
   FitColumns();
 }
 
+void ListBox::ForgetContents() {
+  wishes_.clear();
+}
+
 void ListBox::MeasureContents() {
   const double unit = AverageCharacter(fontMetrics()) / kDialogUnits;
   for (int column = 0; column < columnCount(); ++column) {

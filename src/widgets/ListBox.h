@@ -98,9 +98,7 @@ class ListBox : public RowView {
  private:
   [[nodiscard]] int RowAt(const QMouseEvent& event) const;
   [[nodiscard]] bool IsShownWhole(const QRect& row) const;
-  void ForgetContents() {
-    wishes_.clear();
-  }
+  void ForgetContents();
   void MeasureContents();
   void FitColumns();
 

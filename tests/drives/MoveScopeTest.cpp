@@ -38,7 +38,10 @@ TEST(MoveScope, SetsTheFlagAsLongAsOneOfThemLives) {
   {
     const MoveScope outer(rig.moving, rig.k70);
     EXPECT_TRUE(*rig.moving);
-    { const MoveScope inner(rig.moving, rig.k70); }
+    {
+      // Its end leaves the flag to the outer one.
+      const MoveScope inner(rig.moving, rig.k70);
+    }
     EXPECT_TRUE(*rig.moving);
   }
   EXPECT_FALSE(*rig.moving);

@@ -43,7 +43,10 @@ TEST(NamedMutex, FreesTheNameWhenItCloses) {
 TEST(NamedMutex, FreesTheNameWhenItIsDestroyed) {
   const test::UniqueName unique;
   const std::string& name = unique.Text();
-  { EXPECT_EQ(NamedMutex().Open(name), Opened::First); }
+  {
+    NamedMutex first;
+    EXPECT_EQ(first.Open(name), Opened::First);
+  }
   EXPECT_EQ(NamedMutex().Open(name), Opened::First);
 }
 

@@ -47,7 +47,7 @@ std::string FollowLinks(const std::string& path) {
 // The status of the file to be replaced; nothing when there is none. Refuses folders, devices and
 // files without write permission, which a rename would replace all the same.
 std::optional<struct stat> CheckTarget(const std::string& target) {
-  struct stat status {};
+  struct stat status = {};
   if (::stat(target.c_str(), &status) != 0) {
     if (errno == ENOENT) return std::nullopt;
     RaiseFileFailure("write", target, errno);
@@ -68,7 +68,7 @@ bool IsDead(std::int64_t process) {
 void RemoveUnlessLocked(const std::string& path) {
   constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
   const Descriptor file(::open(path.c_str(), kFlags));
-  struct stat status {};
+  struct stat status = {};
   if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return;
   if (::flock(file.Get(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
 }
@@ -154,7 +154,7 @@ std::string ReadWholeFile(const std::string& utf8Path, std::size_t limit) {
   // Without O_NONBLOCK, opening a pipe would wait for its writer.
   const Descriptor file(::open(utf8Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!file.IsOpen()) RaiseFileFailure("read", utf8Path, errno);
-  struct stat status {};
+  struct stat status = {};
   if (::fstat(file.Get(), &status) != 0) RaiseFileFailure("read", utf8Path, errno);
   if (S_ISDIR(status.st_mode)) RaiseFileFailure("read", utf8Path, EISDIR);
   if (!S_ISREG(status.st_mode)) RaiseFileFailure("read", utf8Path, "not a regular file");

@@ -38,7 +38,7 @@ std::int32_t SystemJoystick::ReadStatus() {
   const Descriptor joystick = OpenJoystick();
   if (!joystick.IsOpen()) return OpenError();
   // The driver begins every stream with the present state of all axes and buttons.
-  struct js_event event {};
+  struct js_event event = {};
   if (::read(joystick.Get(), &event, sizeof event) < 0 && errno != EAGAIN) return OpenError();
   return kJoystickOk;
 }

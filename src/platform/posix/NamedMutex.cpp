@@ -27,7 +27,7 @@ constexpr std::array<const char*, 2> kLockFolders = {"/run/lock", "/tmp"};
 // is checked, not this user's access, so that all users choose the same folder.
 std::string LockFolder() {
   for (const char* folder : kLockFolders) {
-    struct stat status {};
+    struct stat status = {};
     constexpr mode_t kShared = S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO;
     if (::stat(folder, &status) == 0 && (status.st_mode & kShared) == kShared) return folder;
   }
@@ -69,7 +69,7 @@ Descriptor OpenLockFile(const std::string& path) {
 }
 
 bool SetOwnership(int file, short type) {
-  struct flock whole {};
+  struct flock whole = {};
   whole.l_type = type;
   whole.l_whence = SEEK_SET;
   return ::fcntl(file, F_OFD_SETLK, &whole) == 0;
@@ -86,7 +86,7 @@ NamedMutex::~NamedMutex() = default;
 NamedMutex::Opened NamedMutex::Open(std::string_view name) {
   Close();
   Descriptor file = OpenLockFile(LockPath(scope_ + std::string(name)));
-  struct stat status {};
+  struct stat status = {};
   if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
     return Opened::Failed;
   int result = 0;

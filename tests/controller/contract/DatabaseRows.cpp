@@ -16,23 +16,16 @@ void AddList(std::vector<MemberRow>& rows, const std::string& name, std::int32_t
   const std::string path = "AccessoryDatabase." + name;
   const std::string onFirst = path + ".Item(1).";
   const std::string onLast = path + ".Item(" + std::to_string(count) + ").";
-  rows.push_back(Row(
-      take, [](const RecordList<Record>& l) { l.Count(); },
-      path + ".Count -> " + std::to_string(count)));
-  rows.push_back(Row(
-      first, [](const Record& r) { r.IsOption(); }, onFirst + "IsOption -> false"));
-  rows.push_back(Row(
-      first, [](const Record& r) { r.Name(); }, onFirst + "Name -> \"" + firstName + "\""));
-  rows.push_back(Row(
-      first, [](const Record& r) { r.Code(); }, onFirst + "Code -> 1"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.IsOption(); }, onLast + "IsOption -> true"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.Code(); }, onLast + "Code -> " + lastCode));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.PutName("Own"); }, onLast + "Name = \"Own\""));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.Name(); }, onLast + "Name -> \"Own\""));
+  rows.push_back(Row(take, path + ".Count -> " + std::to_string(count),
+                     [](const RecordList<Record>& l) { l.Count(); }));
+  rows.push_back(Row(first, onFirst + "IsOption -> false", [](const Record& r) { r.IsOption(); }));
+  rows.push_back(
+      Row(first, onFirst + "Name -> \"" + firstName + "\"", [](const Record& r) { r.Name(); }));
+  rows.push_back(Row(first, onFirst + "Code -> 1", [](const Record& r) { r.Code(); }));
+  rows.push_back(Row(last, onLast + "IsOption -> true", [](const Record& r) { r.IsOption(); }));
+  rows.push_back(Row(last, onLast + "Code -> " + lastCode, [](const Record& r) { r.Code(); }));
+  rows.push_back(Row(last, onLast + "Name = \"Own\"", [](const Record& r) { r.PutName("Own"); }));
+  rows.push_back(Row(last, onLast + "Name -> \"Own\"", [](const Record& r) { r.Name(); }));
 }
 
 void AddObjectives(std::vector<MemberRow>& rows) {
@@ -41,19 +34,16 @@ void AddObjectives(std::vector<MemberRow>& rows) {
     return root.AccessoryDatabase().Nosepieces().Item(35);
   };
   const std::string path = "AccessoryDatabase.Nosepieces.Item(35).";
-  rows.push_back(Row(
-      last, [](const Record& r) { r.SetProperties(2, 3, 12.5, 0.17, 1.45); },
-      path + "SetProperties(2, 3, 12.5, 0.17, 1.45)"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.Magnification(); }, path + "Magnification -> 12.5"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.NumericalAperture(); }, path + "NumericalAperture -> 1.45"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.WorkingDistance(); }, path + "WorkingDistance -> 0.17"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.TypeCode(); }, path + "TypeCode -> 3"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.SeriesCode(); }, path + "SeriesCode -> 2"));
+  rows.push_back(Row(last, path + "SetProperties(2, 3, 12.5, 0.17, 1.45)",
+                     [](const Record& r) { r.SetProperties(2, 3, 12.5, 0.17, 1.45); }));
+  rows.push_back(
+      Row(last, path + "Magnification -> 12.5", [](const Record& r) { r.Magnification(); }));
+  rows.push_back(Row(last, path + "NumericalAperture -> 1.45",
+                     [](const Record& r) { r.NumericalAperture(); }));
+  rows.push_back(
+      Row(last, path + "WorkingDistance -> 0.17", [](const Record& r) { r.WorkingDistance(); }));
+  rows.push_back(Row(last, path + "TypeCode -> 3", [](const Record& r) { r.TypeCode(); }));
+  rows.push_back(Row(last, path + "SeriesCode -> 2", [](const Record& r) { r.SeriesCode(); }));
 }
 
 void AddCubes(std::vector<MemberRow>& rows) {
@@ -62,26 +52,20 @@ void AddCubes(std::vector<MemberRow>& rows) {
     return root.AccessoryDatabase().FilterCubes().Item(19);
   };
   const std::string path = "AccessoryDatabase.FilterCubes.Item(19).";
-  rows.push_back(Row(
-      last, [](const Record& r) { r.PutExciterCode(3); }, path + "ExciterCode = 3"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.ExciterCode(); }, path + "ExciterCode -> 3"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.PutDichroicCode(4); }, path + "DichroicCode = 4"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.DichroicCode(); }, path + "DichroicCode -> 4"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.PutBarrierCode(5); }, path + "BarrierCode = 5"));
-  rows.push_back(Row(
-      last, [](const Record& r) { r.BarrierCode(); }, path + "BarrierCode -> 5"));
+  rows.push_back(Row(last, path + "ExciterCode = 3", [](const Record& r) { r.PutExciterCode(3); }));
+  rows.push_back(Row(last, path + "ExciterCode -> 3", [](const Record& r) { r.ExciterCode(); }));
+  rows.push_back(
+      Row(last, path + "DichroicCode = 4", [](const Record& r) { r.PutDichroicCode(4); }));
+  rows.push_back(Row(last, path + "DichroicCode -> 4", [](const Record& r) { r.DichroicCode(); }));
+  rows.push_back(Row(last, path + "BarrierCode = 5", [](const Record& r) { r.PutBarrierCode(5); }));
+  rows.push_back(Row(last, path + "BarrierCode -> 5", [](const Record& r) { r.BarrierCode(); }));
 }
 
 void AddCount(std::vector<MemberRow>& rows, const std::string& member, std::int32_t count,
               std::int32_t (Database::*read)() const) {
   const auto database = [](const Microscope& root) { return root.AccessoryDatabase(); };
-  rows.push_back(Row(
-      database, [read](const Database& d) { (d.*read)(); },
-      "AccessoryDatabase." + member + " -> " + std::to_string(count)));
+  rows.push_back(Row(database, "AccessoryDatabase." + member + " -> " + std::to_string(count),
+                     [read](const Database& d) { (d.*read)(); }));
 }
 
 }  // namespace
@@ -112,18 +96,14 @@ std::vector<MemberRow> DatabaseRows() {
   const auto condenser = [](const Microscope& root) {
     return root.AccessoryDatabase().Condensers().Item(4);
   };
-  rows.push_back(Row(
-      series, [](const NamedItem& i) { i.Name(); },
-      "AccessoryDatabase.ObjectiveSeries.Item(6).Name -> \"Epi\""));
-  rows.push_back(Row(
-      type, [](const NamedItem& i) { i.Name(); },
-      "AccessoryDatabase.ObjectiveTypes.Item(7).Name -> \"Macro\""));
-  rows.push_back(Row(
-      condenser, [](const CondenserRecord& r) { r.SuitsAddress(3); },
-      "AccessoryDatabase.Condensers.Item(4).SuitsAddress(3) -> 0"));
-  rows.push_back(Row(
-      condenser, [](const CondenserRecord& r) { r.SuitsAddress(4); },
-      "AccessoryDatabase.Condensers.Item(4).SuitsAddress(4) -> 1"));
+  rows.push_back(Row(series, "AccessoryDatabase.ObjectiveSeries.Item(6).Name -> \"Epi\"",
+                     [](const NamedItem& i) { i.Name(); }));
+  rows.push_back(Row(type, "AccessoryDatabase.ObjectiveTypes.Item(7).Name -> \"Macro\"",
+                     [](const NamedItem& i) { i.Name(); }));
+  rows.push_back(Row(condenser, "AccessoryDatabase.Condensers.Item(4).SuitsAddress(3) -> 0",
+                     [](const CondenserRecord& r) { r.SuitsAddress(3); }));
+  rows.push_back(Row(condenser, "AccessoryDatabase.Condensers.Item(4).SuitsAddress(4) -> 1",
+                     [](const CondenserRecord& r) { r.SuitsAddress(4); }));
   return rows;
 }
 

@@ -10,17 +10,15 @@ void AddAccessory(std::vector<MemberRow>& rows, const std::string& device, const
   const auto fitted = [device](const Microscope& root) {
     return root.Accessory(device).AccessoryState();
   };
-  rows.push_back(Row(
-      fitted, [](const AccessoryState& s) { s.State(); }, device + ".AccessoryState.State -> 1"));
-  rows.push_back(Row(
-      accessory, [state](const AccessoryDevice& d) { d.StateMember(state).Real(); },
-      device + "." + state + " -> " + value));
+  rows.push_back(Row(fitted, device + ".AccessoryState.State -> 1",
+                     [](const AccessoryState& s) { s.State(); }));
+  rows.push_back(Row(accessory, device + "." + state + " -> " + value,
+                     [state](const AccessoryDevice& d) { d.StateMember(state).Real(); }));
   const auto stateValue = [device, state](const Microscope& root) {
     return root.Accessory(device).StateMember(state);
   };
-  rows.push_back(Row(
-      stateValue, [](const StateValue& v) { v.IsReadOnly(); },
-      device + "." + state + ".IsReadOnly -> false"));
+  rows.push_back(Row(stateValue, device + "." + state + ".IsReadOnly -> false",
+                     [](const StateValue& v) { v.IsReadOnly(); }));
 }
 
 // A turn to an address, and the address read back.
@@ -28,21 +26,20 @@ template <typename Device>
 void AddTurn(std::vector<MemberRow>& rows, const std::string& name,
              Device (Microscope::*device)() const) {
   const auto take = [device](const Microscope& root) { return (root.*device)(); };
-  rows.push_back(Row(
-      take, [](const Device& d) { d.PutPosition(2); }, name + ".Position = 2"));
-  rows.push_back(Row(
-      take, [](const Device& d) { d.Position().Number(); }, name + ".Position -> 2"));
+  rows.push_back(Row(take, name + ".Position = 2", [](const Device& d) { d.PutPosition(2); }));
+  rows.push_back(
+      Row(take, name + ".Position -> 2", [](const Device& d) { d.Position().Number(); }));
 }
 
 void AddOffset(std::vector<MemberRow>& rows, const std::string& name, const std::string& code,
                OffsetDevice (Microscope::*device)() const) {
   const auto take = [device](const Microscope& root) { return (root.*device)(); };
-  rows.push_back(Row(
-      take, [](const OffsetDevice& d) { d.OffsetCode(); }, name + ".OffsetCode -> " + code));
-  rows.push_back(Row(
-      take, [](const OffsetDevice& d) { d.PutOffsetCode(9); }, name + ".OffsetCode = 9"));
-  rows.push_back(Row(
-      take, [](const OffsetDevice& d) { d.OffsetCode(); }, name + ".OffsetCode -> 9"));
+  rows.push_back(
+      Row(take, name + ".OffsetCode -> " + code, [](const OffsetDevice& d) { d.OffsetCode(); }));
+  rows.push_back(
+      Row(take, name + ".OffsetCode = 9", [](const OffsetDevice& d) { d.PutOffsetCode(9); }));
+  rows.push_back(
+      Row(take, name + ".OffsetCode -> 9", [](const OffsetDevice& d) { d.OffsetCode(); }));
 }
 
 template <typename Device>
@@ -52,17 +49,16 @@ void AddPositions(std::vector<MemberRow>& rows, const std::string& name, const s
   const auto first = [positions](const Microscope& root) {
     return positions(root).Enumerate().Next().value();
   };
-  rows.push_back(Row(
-      positions, [](const TurretPositions& p) { p.Count(); },
-      name + ".Positions.Count -> " + count));
-  rows.push_back(Row(
-      first, [](const TurretPosition& p) { p.Position(); }, name + ".Positions(1).Position -> 1"));
-  rows.push_back(Row(
-      first, [](const TurretPosition& p) { p.Code(); }, name + ".Positions(1).Code -> " + code));
-  rows.push_back(Row(
-      first, [](const TurretPosition& p) { p.PutCode(7); }, name + ".Positions(1).Code = 7"));
-  rows.push_back(Row(
-      first, [](const TurretPosition& p) { p.Code(); }, name + ".Positions(1).Code -> 7"));
+  rows.push_back(Row(positions, name + ".Positions.Count -> " + count,
+                     [](const TurretPositions& p) { p.Count(); }));
+  rows.push_back(Row(first, name + ".Positions(1).Position -> 1",
+                     [](const TurretPosition& p) { p.Position(); }));
+  rows.push_back(Row(first, name + ".Positions(1).Code -> " + code,
+                     [](const TurretPosition& p) { p.Code(); }));
+  rows.push_back(
+      Row(first, name + ".Positions(1).Code = 7", [](const TurretPosition& p) { p.PutCode(7); }));
+  rows.push_back(
+      Row(first, name + ".Positions(1).Code -> 7", [](const TurretPosition& p) { p.Code(); }));
 }
 
 }  // namespace
@@ -99,21 +95,16 @@ std::vector<MemberRow> DeviceRows() {
   AddPositions(rows, "FilterCubeDevice", "6", "2", &M::FilterCubeDevice);
 
   const auto nosepiece = [](const M& root) { return root.NosepieceDevice(); };
-  rows.push_back(Row(
-      nosepiece, [](const NosepieceDevice& d) { d.BeginZPositioning(); },
-      "NosepieceDevice.BeginZPositioning()"));
-  rows.push_back(Row(
-      nosepiece, [](const NosepieceDevice& d) { d.BeginPositioning(); },
-      "NosepieceDevice.BeginPositioning()"));
-  rows.push_back(Row(
-      nosepiece, [](const NosepieceDevice& d) { d.Limitation(); },
-      "NosepieceDevice.Limitation -> 12"));
-  rows.push_back(Row(
-      nosepiece, [](const NosepieceDevice& d) { d.PutLimitation(18); },
-      "NosepieceDevice.Limitation = 18"));
-  rows.push_back(Row(
-      nosepiece, [](const NosepieceDevice& d) { d.Limitation(); },
-      "NosepieceDevice.Limitation -> 18"));
+  rows.push_back(Row(nosepiece, "NosepieceDevice.BeginZPositioning()",
+                     [](const NosepieceDevice& d) { d.BeginZPositioning(); }));
+  rows.push_back(Row(nosepiece, "NosepieceDevice.BeginPositioning()",
+                     [](const NosepieceDevice& d) { d.BeginPositioning(); }));
+  rows.push_back(Row(nosepiece, "NosepieceDevice.Limitation -> 12",
+                     [](const NosepieceDevice& d) { d.Limitation(); }));
+  rows.push_back(Row(nosepiece, "NosepieceDevice.Limitation = 18",
+                     [](const NosepieceDevice& d) { d.PutLimitation(18); }));
+  rows.push_back(Row(nosepiece, "NosepieceDevice.Limitation -> 18",
+                     [](const NosepieceDevice& d) { d.Limitation(); }));
   return rows;
 }
 
@@ -125,81 +116,51 @@ std::vector<MemberRow> DriveRows() {
   const std::string onZ = "ZDriveDevice.";
   const std::string onXY = "XYDriveDevice.";
   std::vector<MemberRow> rows{
-      Row(
-          z, [](const Z& d) { d.KnobSensitivity(); }, onZ + "KnobSensitivity -> 1"),
-      Row(
-          z, [](const Z& d) { d.KnobAuto(); }, onZ + "KnobAuto -> 1"),
-      Row(
-          z, [](const Z& d) { d.PutKnobAuto(0); }, onZ + "KnobAuto = 0"),
-      Row(
-          z, [](const Z& d) { d.KnobAuto(); }, onZ + "KnobAuto -> 0"),
-      Row(
-          z, [](const Z& d) { d.PutMoveProfile(9); }, onZ + "MoveProfile = 9"),
-      Row(
-          z, [](const Z& d) { d.PutMoveOption(0); }, onZ + "MoveOption = 0"),
-      Row(
-          z, [](const Z& d) { d.PutPosition(12020); }, onZ + "Position = 12020"),
-      Row(
-          z, [](const Z& d) { d.Position().Number(); }, onZ + "Position -> 12020"),
-      Row(
-          z, [](const Z& d) { d.FocusCompensation(); }, onZ + "FocusCompensation -> 3"),
-      Row(
-          z, [](const Z& d) { d.PutFocusCompensation(2); }, onZ + "FocusCompensation = 2"),
-      Row(
-          z, [](const Z& d) { d.LowerLimit(); }, onZ + "LowerLimit -> 0"),
-      Row(
-          z, [](const Z& d) { d.PutLowerLimit(1); }, onZ + "LowerLimit = 1"),
-      Row(
-          z, [](const Z& d) { d.LowerLimit(); }, onZ + "LowerLimit -> 1"),
-      Row(
-          z, [](const Z& d) { d.UpperLimit(); }, onZ + "UpperLimit -> 0"),
-      Row(
-          xy, [](const XY& d) { d.KnobSensitivity(); }, onXY + "KnobSensitivity -> 3"),
-      Row(
-          xy, [](const XY& d) { d.KnobAuto(); }, onXY + "KnobAuto -> 0"),
-      Row(
-          xy, [](const XY& d) { d.PutKnobAuto(1); }, onXY + "KnobAuto = 1"),
-      Row(
-          xy, [](const XY& d) { d.PutMoveProfile(9); }, onXY + "MoveProfile = 9"),
-      Row(
-          xy, [](const XY& d) { d.PutPositionX(41520); }, onXY + "PositionX = 41520"),
-      Row(
-          xy, [](const XY& d) { d.PositionX().Number(); }, onXY + "PositionX -> 41520"),
-      Row(
-          xy, [](const XY& d) { d.PutPositionY(-26820); }, onXY + "PositionY = -26820"),
-      Row(
-          xy, [](const XY& d) { d.PositionY().Number(); }, onXY + "PositionY -> -26820"),
-      Row(
-          xy, [](const XY& d) { d.FocusCompensation(); }, onXY + "FocusCompensation -> 3"),
-      Row(
-          xy, [](const XY& d) { d.PutFocusCompensation(1); }, onXY + "FocusCompensation = 1"),
-      Row(
-          xy, [](const XY& d) { d.HandleMode(); }, onXY + "HandleMode -> int16(0)"),
-      Row(
-          xy, [](const XY& d) { d.PutHandleMode(1); }, onXY + "HandleMode = int16(1)"),
-      Row(
-          xy, [](const XY& d) { d.HandleMode(); }, onXY + "HandleMode -> int16(1)"),
+      Row(z, onZ + "KnobSensitivity -> 1", [](const Z& d) { d.KnobSensitivity(); }),
+      Row(z, onZ + "KnobAuto -> 1", [](const Z& d) { d.KnobAuto(); }),
+      Row(z, onZ + "KnobAuto = 0", [](const Z& d) { d.PutKnobAuto(0); }),
+      Row(z, onZ + "KnobAuto -> 0", [](const Z& d) { d.KnobAuto(); }),
+      Row(z, onZ + "MoveProfile = 9", [](const Z& d) { d.PutMoveProfile(9); }),
+      Row(z, onZ + "MoveOption = 0", [](const Z& d) { d.PutMoveOption(0); }),
+      Row(z, onZ + "Position = 12020", [](const Z& d) { d.PutPosition(12020); }),
+      Row(z, onZ + "Position -> 12020", [](const Z& d) { d.Position().Number(); }),
+      Row(z, onZ + "FocusCompensation -> 3", [](const Z& d) { d.FocusCompensation(); }),
+      Row(z, onZ + "FocusCompensation = 2", [](const Z& d) { d.PutFocusCompensation(2); }),
+      Row(z, onZ + "LowerLimit -> 0", [](const Z& d) { d.LowerLimit(); }),
+      Row(z, onZ + "LowerLimit = 1", [](const Z& d) { d.PutLowerLimit(1); }),
+      Row(z, onZ + "LowerLimit -> 1", [](const Z& d) { d.LowerLimit(); }),
+      Row(z, onZ + "UpperLimit -> 0", [](const Z& d) { d.UpperLimit(); }),
+      Row(xy, onXY + "KnobSensitivity -> 3", [](const XY& d) { d.KnobSensitivity(); }),
+      Row(xy, onXY + "KnobAuto -> 0", [](const XY& d) { d.KnobAuto(); }),
+      Row(xy, onXY + "KnobAuto = 1", [](const XY& d) { d.PutKnobAuto(1); }),
+      Row(xy, onXY + "MoveProfile = 9", [](const XY& d) { d.PutMoveProfile(9); }),
+      Row(xy, onXY + "PositionX = 41520", [](const XY& d) { d.PutPositionX(41520); }),
+      Row(xy, onXY + "PositionX -> 41520", [](const XY& d) { d.PositionX().Number(); }),
+      Row(xy, onXY + "PositionY = -26820", [](const XY& d) { d.PutPositionY(-26820); }),
+      Row(xy, onXY + "PositionY -> -26820", [](const XY& d) { d.PositionY().Number(); }),
+      Row(xy, onXY + "FocusCompensation -> 3", [](const XY& d) { d.FocusCompensation(); }),
+      Row(xy, onXY + "FocusCompensation = 1", [](const XY& d) { d.PutFocusCompensation(1); }),
+      Row(xy, onXY + "HandleMode -> int16(0)", [](const XY& d) { d.HandleMode(); }),
+      Row(xy, onXY + "HandleMode = int16(1)", [](const XY& d) { d.PutHandleMode(1); }),
+      Row(xy, onXY + "HandleMode -> int16(1)", [](const XY& d) { d.HandleMode(); }),
   };
   const auto zFitted = [](const Microscope& root) { return root.ZDriveDevice().AccessoryState(); };
   const auto xyFitted = [](const Microscope& root) {
     return root.XYDriveDevice().AccessoryState();
   };
-  rows.push_back(Row(
-      zFitted, [](const AccessoryState& s) { s.State(); }, onZ + "AccessoryState.State -> 1"));
-  rows.push_back(Row(
-      xyFitted, [](const AccessoryState& s) { s.State(); }, onXY + "AccessoryState.State -> 1"));
+  rows.push_back(
+      Row(zFitted, onZ + "AccessoryState.State -> 1", [](const AccessoryState& s) { s.State(); }));
+  rows.push_back(Row(xyFitted, onXY + "AccessoryState.State -> 1",
+                     [](const AccessoryState& s) { s.State(); }));
   const auto zPosition = [](const Microscope& root) { return root.ZDriveDevice().Position(); };
-  rows.push_back(Row(
-      zPosition, [](const StateValue& v) { v.IsReadOnly(); },
-      onZ + "Position.IsReadOnly -> false"));
+  rows.push_back(Row(zPosition, onZ + "Position.IsReadOnly -> false",
+                     [](const StateValue& v) { v.IsReadOnly(); }));
   const auto xPosition = [](const Microscope& root) { return root.XYDriveDevice().PositionX(); };
-  rows.push_back(Row(
-      xPosition, [](const StateValue& v) { v.IsReadOnly(); },
-      onXY + "PositionX.IsReadOnly -> false"));
+  rows.push_back(Row(xPosition, onXY + "PositionX.IsReadOnly -> false",
+                     [](const StateValue& v) { v.IsReadOnly(); }));
   const auto yPosition = [](const Microscope& root) { return root.XYDriveDevice().PositionY(); };
-  rows.push_back(Row(
-      yPosition, [](const StateValue& v) { v.IsReadOnly(); },
-      onXY + "PositionY.IsReadOnly -> false"));
+  rows.push_back(Row(yPosition, onXY + "PositionY.IsReadOnly -> false",
+                     [](const StateValue& v) { v.IsReadOnly(); }));
   return rows;
 }
 

@@ -16,51 +16,31 @@ DeviceEntry Entry(const Microscope& root) {
 std::vector<MemberRow> RootRows() {
   using M = Microscope;
   return {
-      Row(
-          Itself, [](const M& m) { m.BuzzerOff(5); }, "BuzzerOff(5)"),
-      Row(
-          Itself, [](const M& m) { m.BuzzerEnabled(5); }, "BuzzerEnabled(5) -> 0"),
-      Row(
-          Itself, [](const M& m) { m.BuzzerOn(5); }, "BuzzerOn(5)"),
-      Row(
-          Itself, [](const M& m) { m.BuzzerEnabled(5); }, "BuzzerEnabled(5) -> 1"),
-      Row(
-          Itself, [](const M& m) { m.ControllerVersion(1); }, "ControllerVersion(1) -> \"vDEMO\""),
-      Row(
-          Itself, [](const M& m) { m.ControllerPresent(1); }, "ControllerPresent(1) -> 1"),
-      Row(
-          Itself, [](const M& m) { m.ControllerPresent(3); }, "ControllerPresent(3) -> 0"),
-      Row(
-          Itself, [](const M& m) { m.PutSystemName("Bench 12"); }, "SystemName = \"Bench 12\""),
-      Row(
-          Itself, [](const M& m) { m.DisableSwitch(4); }, "DisableSwitch(4, 0)"),
-      Row(
-          Itself, [](const M& m) { m.SwitchEnabled(4); }, "SwitchEnabled(4, 0) -> 0"),
-      Row(
-          Itself, [](const M& m) { m.EnableSwitch(4); }, "EnableSwitch(4, 0)"),
-      Row(
-          Itself, [](const M& m) { m.SwitchEnabled(4); }, "SwitchEnabled(4, 0) -> 1"),
-      Row(
-          Itself, [](const M& m) { m.PutRemoteLED(2); }, "RemoteLED(7) = 2"),
-      Row(
-          Itself, [](const M& m) { m.RemoteLED(); }, "RemoteLED(7) -> 2"),
-      Row(
-          Itself, [](const M& m) { m.QueryCommand("rONR1"); },
-          "QueryCommand(\"rONR1\") -> \"ONR1230FA0C63B63\""),
-      Row(
-          Itself, [](const M& m) { m.SendCommand("cONS9230FA0C63B63"); },
-          "SendCommand(\"cONS9230FA0C63B63\")"),
-      Row(
-          Itself, [](const M& m) { m.QueryCommand("rONR9"); },
-          "QueryCommand(\"rONR9\") -> \"ONR9230FA0C63B63\""),
-      Row(
-          Entry, [](const DeviceEntry& e) { e.PutAsyncMode(true); },
-          "DeviceList.Item(0).AsyncMode = true"),
-      Row(
-          Entry, [](const DeviceEntry& e) { e.PutAsyncMode(false); },
-          "DeviceList.Item(0).AsyncMode = false"),
-      Row(
-          Entry, [](const DeviceEntry& e) { e.WaitMove(); }, "DeviceList.Item(0).WaitMove(1) -> 0"),
+      Row(Itself, "BuzzerOff(5)", [](const M& m) { m.BuzzerOff(5); }),
+      Row(Itself, "BuzzerEnabled(5) -> 0", [](const M& m) { m.BuzzerEnabled(5); }),
+      Row(Itself, "BuzzerOn(5)", [](const M& m) { m.BuzzerOn(5); }),
+      Row(Itself, "BuzzerEnabled(5) -> 1", [](const M& m) { m.BuzzerEnabled(5); }),
+      Row(Itself, "ControllerVersion(1) -> \"vDEMO\"", [](const M& m) { m.ControllerVersion(1); }),
+      Row(Itself, "ControllerPresent(1) -> 1", [](const M& m) { m.ControllerPresent(1); }),
+      Row(Itself, "ControllerPresent(3) -> 0", [](const M& m) { m.ControllerPresent(3); }),
+      Row(Itself, "SystemName = \"Bench 12\"", [](const M& m) { m.PutSystemName("Bench 12"); }),
+      Row(Itself, "DisableSwitch(4, 0)", [](const M& m) { m.DisableSwitch(4); }),
+      Row(Itself, "SwitchEnabled(4, 0) -> 0", [](const M& m) { m.SwitchEnabled(4); }),
+      Row(Itself, "EnableSwitch(4, 0)", [](const M& m) { m.EnableSwitch(4); }),
+      Row(Itself, "SwitchEnabled(4, 0) -> 1", [](const M& m) { m.SwitchEnabled(4); }),
+      Row(Itself, "RemoteLED(7) = 2", [](const M& m) { m.PutRemoteLED(2); }),
+      Row(Itself, "RemoteLED(7) -> 2", [](const M& m) { m.RemoteLED(); }),
+      Row(Itself, "QueryCommand(\"rONR1\") -> \"ONR1230FA0C63B63\"",
+          [](const M& m) { m.QueryCommand("rONR1"); }),
+      Row(Itself, "SendCommand(\"cONS9230FA0C63B63\")",
+          [](const M& m) { m.SendCommand("cONS9230FA0C63B63"); }),
+      Row(Itself, "QueryCommand(\"rONR9\") -> \"ONR9230FA0C63B63\"",
+          [](const M& m) { m.QueryCommand("rONR9"); }),
+      Row(Entry, "DeviceList.Item(0).AsyncMode = true",
+          [](const DeviceEntry& e) { e.PutAsyncMode(true); }),
+      Row(Entry, "DeviceList.Item(0).AsyncMode = false",
+          [](const DeviceEntry& e) { e.PutAsyncMode(false); }),
+      Row(Entry, "DeviceList.Item(0).WaitMove(1) -> 0", [](const DeviceEntry& e) { e.WaitMove(); }),
   };
 }
 
@@ -75,36 +55,26 @@ std::vector<MemberRow> SettingsRows() {
   using Settings = ControllerSettings;
   const auto settings = [](const Microscope& root) { return root.ControllerSettings(); };
   return {
-      Row(
-          settings, [](const Settings& s) { s.SetInterlock(14, 4); },
-          "ControllerSettings.SetInterlock(14, 4)"),
-      Row(
-          settings, [](const Settings& s) { s.Interlock(14, 4); },
-          "ControllerSettings.Interlock(14, 4) -> 1"),
-      Row(
-          settings, [](const Settings& s) { s.ClearInterlock(14, 4); },
-          "ControllerSettings.ClearInterlock(14, 4)"),
-      Row(
-          settings, [](const Settings& s) { s.Interlock(14, 4); },
-          "ControllerSettings.Interlock(14, 4) -> 0"),
-      Row(
-          settings, [](const Settings& s) { s.EscapeMode(); },
-          "ControllerSettings.EscapeMode -> 3"),
-      Row(
-          settings, [](const Settings& s) { s.PutEscapeMode(0); },
-          "ControllerSettings.EscapeMode = 0"),
-      Row(
-          settings, [](const Settings& s) { s.EscapeMode(); },
-          "ControllerSettings.EscapeMode -> 0"),
-      Row(
-          settings, [](const Settings& s) { s.SetSwitchFunction(0, "G", "A"); },
-          "ControllerSettings.SetSwitchFunction(0, \"G\", \"A\")"),
-      Row(
-          settings, [](const Settings& s) { s.SwitchFunction(0, "G"); },
-          "ControllerSettings.SwitchFunction(0, \"G\") -> \"A\""),
-      Row(
-          settings, [](const Settings& s) { s.SwitchFunction(4, "0"); },
-          "ControllerSettings.SwitchFunction(4, \"0\") -> \"1\""),
+      Row(settings, "ControllerSettings.SetInterlock(14, 4)",
+          [](const Settings& s) { s.SetInterlock(14, 4); }),
+      Row(settings, "ControllerSettings.Interlock(14, 4) -> 1",
+          [](const Settings& s) { s.Interlock(14, 4); }),
+      Row(settings, "ControllerSettings.ClearInterlock(14, 4)",
+          [](const Settings& s) { s.ClearInterlock(14, 4); }),
+      Row(settings, "ControllerSettings.Interlock(14, 4) -> 0",
+          [](const Settings& s) { s.Interlock(14, 4); }),
+      Row(settings, "ControllerSettings.EscapeMode -> 3",
+          [](const Settings& s) { s.EscapeMode(); }),
+      Row(settings, "ControllerSettings.EscapeMode = 0",
+          [](const Settings& s) { s.PutEscapeMode(0); }),
+      Row(settings, "ControllerSettings.EscapeMode -> 0",
+          [](const Settings& s) { s.EscapeMode(); }),
+      Row(settings, "ControllerSettings.SetSwitchFunction(0, \"G\", \"A\")",
+          [](const Settings& s) { s.SetSwitchFunction(0, "G", "A"); }),
+      Row(settings, "ControllerSettings.SwitchFunction(0, \"G\") -> \"A\"",
+          [](const Settings& s) { s.SwitchFunction(0, "G"); }),
+      Row(settings, "ControllerSettings.SwitchFunction(4, \"0\") -> \"1\"",
+          [](const Settings& s) { s.SwitchFunction(4, "0"); }),
   };
 }
 

@@ -18,7 +18,7 @@ struct MemberRow {
 
 // `object` gives the member's object, `use` uses the member.
 template <typename Object, typename Use>
-MemberRow Row(Object object, Use use, std::string line) {
+MemberRow Row(Object object, std::string line, Use use) {
   return {[object, use](const Microscope& root) -> std::function<void()> {
             return [taken = object(root), use] { use(taken); };
           },

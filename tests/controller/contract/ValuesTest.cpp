@@ -1,4 +1,5 @@
 // Values, enumerators and refusals of the bare transport, on every back end.
+#include <array>
 #include <cmath>
 
 #include "common/Numbers.h"
@@ -186,7 +187,8 @@ TEST_P(Transport, RefusesAWrongNumberOfArguments) {
        {UseRow{"too few", [](ControllerObject& o) { o.Get("ControllerPresent"); }},
         UseRow{"too many",
                [](ControllerObject& o) {
-                 o.Get("ControllerPresent", {1, 2});
+                 const std::array<Value, 2> both{1, 2};
+                 o.Get("ControllerPresent", Args(both));
                }},
         UseRow{"of a call", [](ControllerObject& o) { o.Call("BuzzerOn"); }},
         UseRow{"of a write", [](ControllerObject& o) { o.Put("RemoteLED", 1); }}}) {

@@ -26,7 +26,7 @@ constexpr int kTaken = 0;
 constexpr int kRefused = 1;
 
 mode_t ModeOf(const std::string& path) {
-  struct stat status {};
+  struct stat status = {};
   EXPECT_EQ(::stat(path.c_str(), &status), 0);
   return status.st_mode & 07777U;
 }
@@ -103,7 +103,7 @@ TEST(AtomicFileFaults, LeaveTheOldFileWhenTheDiskIsFull) {
   const std::string path = folder.Write("a.xml", "old");
   test::ChildProcess child([&](const test::ChildProcess::Side&) {
     ::signal(SIGXFSZ, SIG_IGN);
-    const struct rlimit limit { 4096, 4096 };
+    const struct rlimit limit = {4096, 4096};
     if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 3;
     return Try(path, std::string(100000, 'x'), "File too large");
   });
@@ -126,9 +126,7 @@ TEST(AtomicFileFaults, DoNotWaitForThePartnerOfAPipe) {
 
 // Has the calling process ended by a signal, wherever it is then.
 void DieIn(int microseconds) {
-  const struct itimerval once {
-    {0, 0}, { microseconds / 1000000, microseconds % 1000000 }
-  };
+  const struct itimerval once = {{0, 0}, {microseconds / 1000000, microseconds % 1000000}};
   ::setitimer(ITIMER_REAL, &once, nullptr);
 }
 
@@ -211,7 +209,7 @@ TEST(AtomicFileFaults, ATemporaryIsLockedWhileItIsWritten) {
     // A limit on the size of files stops the process in the middle of its write.
     ::signal(SIGXFSZ, SIG_DFL);
     ::signal(SIGXFSZ, [](int) { ::raise(SIGSTOP); });
-    const struct rlimit limit { 4096, 4096 };
+    const struct rlimit limit = {4096, 4096};
     if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 3;
     parent.Tell();
     return Try(path, std::string(100000, 'x'), "File too large");

@@ -16,7 +16,7 @@ TEST(MakeFolder, MakesFoldersForTheUserAlone) {
   const test::TempFolder folder;
   ASSERT_TRUE(MakeFolder(folder.Path("one/two")));
   for (const char* name : {"one", "one/two"}) {
-    struct stat status {};
+    struct stat status = {};
     ASSERT_EQ(::stat(folder.Path(name).c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777U, 0700U) << name;
   }

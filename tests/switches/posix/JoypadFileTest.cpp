@@ -122,7 +122,7 @@ TEST_F(JoypadFile, BesideWhichNoNewFileCanBeMadeIsLeftAsItIs) {
 TEST_F(JoypadFile, OnAFullDiskIsLeftAsItIs) {
   ChildProcess child([&](const ChildProcess::Side&) {
     ::signal(SIGXFSZ, SIG_IGN);
-    const struct rlimit limit { 16, 16 };
+    const struct rlimit limit = {16, 16};
     if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 3;
     return ChangeAndSave(1);
   });
@@ -160,7 +160,7 @@ bool LetFail(const SystemCall& call) {
       {BPF_JMP | BPF_JEQ | BPF_K, 0, 1, static_cast<std::uint32_t>(call.number)},
       {BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ERRNO | EIO},
       {BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ALLOW}};
-  const struct sock_fprog program { 4, steps };
+  const struct sock_fprog program = {4, steps};
   return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
          ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
 }
@@ -195,9 +195,7 @@ TEST_F(JoypadFile, WhoseFoldersMakingFailsIsNotWritten) {
 }
 
 void DieIn(int microseconds) {
-  const struct itimerval once {
-    {0, 0}, { 0, microseconds }
-  };
+  const struct itimerval once = {{0, 0}, {0, microseconds}};
   ::setitimer(ITIMER_REAL, &once, nullptr);
 }
 

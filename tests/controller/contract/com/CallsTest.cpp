@@ -2,6 +2,8 @@
 #include <objbase.h>
 #include <oleauto.h>
 
+#include <array>
+
 #include "common/Failure.h"
 #include "controller/contract/BackEnd.h"
 #include "controller/contract/com/ScriptedDispatch.h"
@@ -132,10 +134,8 @@ TEST(ComCall, DoesNotReachTheLibraryWithAnObjectOfAnother) {
     }
   };
   EXPECT_EQ(number([&] { recorder.object.seen->Put("Member", foreign); }), kConversionError);
-  EXPECT_EQ(number([&] {
-              recorder.object.seen->Call("Member", {std::string("text"), foreign});
-            }),
-            kConversionError);
+  const std::array<Value, 2> both{std::string("text"), foreign};
+  EXPECT_EQ(number([&] { recorder.object.seen->Call("Member", Args(both)); }), kConversionError);
   EXPECT_TRUE(recorder.lines.empty());
 }
 

@@ -45,7 +45,10 @@ TEST(ComLibrary, EntersAnApartmentAndLeavesIt) {
 TEST(ComLibrary, LeavesAnApartmentAloneThatWasThere) {
   OnNewThread([] {
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    { const ComLibrary library; }
+    {
+      // Its end leaves the apartment as it was.
+      const ComLibrary library;
+    }
     EXPECT_TRUE(IsSingleThreaded());
     CoUninitialize();
     EXPECT_FALSE(Apartment());

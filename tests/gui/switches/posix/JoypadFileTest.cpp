@@ -8,7 +8,10 @@ class JoypadFile : public JoypadPage {};
 
 TEST_F(JoypadFile, SavesFourDirectionsThoughItWasNeverShownAndThereIsNoJoystick) {
   joystick.Fail(kJoystickNoDriver);
-  { const JoypadSwitchSettingCtl never(joystick, folder.Path("")); }
+  {
+    // Its end saves.
+    const JoypadSwitchSettingCtl never(joystick, folder.Path(""));
+  }
   EXPECT_EQ(Setup(), "[JoyPad]\nRight=0\nLeft=0\nUp=0\nDown=0\n");
 }
 
