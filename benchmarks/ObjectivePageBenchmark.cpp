@@ -9,13 +9,13 @@
 #include <utility>
 
 #include "SilentPrompts.h"
+#include "app/ApplyTheme.h"
 #include "controller/simulator/Benches.h"
 #include "controller/simulator/SimulatedLibrary.h"
 #include "hub/clsK70.h"
 #include "objectives/ObjectiveCtl.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"
-#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {

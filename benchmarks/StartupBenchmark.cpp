@@ -17,6 +17,7 @@
 #include <functional>
 #include <string>
 
+#include "app/ApplyTheme.h"
 #include "app/GetAppIcon.h"
 #include "app/MortaneMainForm.h"
 #include "app/QtPrompts.h"
@@ -27,7 +28,6 @@
 #include "platform/CommandLine.h"
 #include "platform/Joystick.h"
 #include "platform/Sleep.h"
-#include "widgets/Theme.h"
 #include "wizard/SadrelMainForm.h"
 
 namespace mortane {

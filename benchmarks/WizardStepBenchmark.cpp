@@ -8,11 +8,11 @@
 #include <chrono>
 
 #include "SilentPrompts.h"
+#include "app/ApplyTheme.h"
 #include "controller/simulator/Benches.h"
 #include "controller/simulator/SimulatedLibrary.h"
 #include "hub/clsK70.h"
 #include "platform/Joystick.h"
-#include "widgets/Theme.h"
 #include "wizard/SadrelMainForm.h"
 
 namespace mortane {

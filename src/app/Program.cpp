@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <optional>
 
+#include "app/ApplyTheme.h"
 #include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
 #include "app/WindowPlace.h"
@@ -17,7 +18,6 @@
 #include "platform/Sleep.h"
 #include "platform/SpecialFolder.h"
 #include "platform/StartNotice.h"
-#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {

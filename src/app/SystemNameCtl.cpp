@@ -8,10 +8,10 @@
 
 #include "app/ShownText.h"
 #include "common/Text.h"
+#include "drawings/MicroscopeDrawing.h"
 #include "hub/AccessoryTable.h"
 #include "hub/clsK70.h"
 #include "widgets/Card.h"
-#include "widgets/MicroscopeDrawing.h"
 #include "widgets/Named.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"

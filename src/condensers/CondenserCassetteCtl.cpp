@@ -10,12 +10,12 @@
 #include "common/Text.h"
 #include "condensers/clsCondenser.h"
 #include "condensers/clsDbCondenser.h"
+#include "drawings/TurretDrawing.h"
 #include "model/OptionCodes.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Named.h"
 #include "widgets/Theme.h"
-#include "widgets/TurretDrawing.h"
 
 namespace mortane {
 namespace {

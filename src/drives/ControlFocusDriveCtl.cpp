@@ -7,10 +7,10 @@
 #include <optional>
 #include <utility>
 
+#include "drives/CaptionedFrame.h"
 #include "drives/PositionTableCtl.h"
 #include "drives/TeachingSectionCtl.h"
 #include "drives/clsControlZDrive.h"
-#include "widgets/CaptionedFrame.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/OptionGroup.h"

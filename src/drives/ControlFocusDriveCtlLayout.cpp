@@ -6,11 +6,11 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "drives/CaptionedFrame.h"
 #include "drives/ControlFocusDriveCtl.h"
 #include "drives/PositionTableCtl.h"
 #include "drives/TeachingSectionCtl.h"
 #include "drives/clsControlZDrive.h"
-#include "widgets/CaptionedFrame.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/Named.h"

@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <optional>
 
+#include "drives/CaptionedFrame.h"
 #include "drives/PositionTableCtl.h"
 #include "drives/TeachingSectionCtl.h"
 #include "drives/clsControlXYDrive.h"
-#include "widgets/CaptionedFrame.h"
 #include "widgets/Card.h"
 #include "widgets/OptionGroup.h"
 

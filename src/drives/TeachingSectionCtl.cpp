@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "drives/CaptionedFrame.h"
 #include "drives/PositionTableCtl.h"
-#include "widgets/CaptionedFrame.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/Named.h"

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "widgets/MoveCross.h"
+#include "drawings/MoveCross.h"
 
 class QCheckBox;
 

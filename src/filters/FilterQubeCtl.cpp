@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "common/Text.h"
+#include "drawings/TurretDrawing.h"
 #include "filters/clsDbFilter.h"
 #include "filters/clsFilter.h"
 #include "model/OptionCodes.h"
@@ -12,7 +13,6 @@
 #include "widgets/Named.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
-#include "widgets/TurretDrawing.h"
 #include "widgets/ValueBox.h"
 #include "widgets/ValueLabel.h"
 

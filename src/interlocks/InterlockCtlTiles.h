@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "widgets/SwitchTile.h"
+#include "interlocks/SwitchTile.h"
 
 namespace mortane {
 

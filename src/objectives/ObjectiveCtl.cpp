@@ -6,16 +6,16 @@
 #include <array>
 
 #include "common/Text.h"
+#include "drawings/TurretDrawing.h"
 #include "model/OptionCodes.h"
+#include "objectives/FillNames.h"
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsNosepiece.h"
 #include "widgets/Card.h"
-#include "widgets/FillNames.h"
 #include "widgets/ListBox.h"
 #include "widgets/Named.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
-#include "widgets/TurretDrawing.h"
 #include "widgets/ValueBox.h"
 #include "widgets/ValueLabel.h"
 

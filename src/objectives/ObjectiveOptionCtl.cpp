@@ -4,9 +4,9 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "objectives/FillNames.h"
 #include "objectives/clsDbNosepiece.h"
 #include "widgets/ComboBox.h"
-#include "widgets/FillNames.h"
 #include "widgets/ListBox.h"
 #include "widgets/ShownName.h"
 #include "widgets/TabStrip.h"

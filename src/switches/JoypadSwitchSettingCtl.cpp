@@ -7,12 +7,12 @@
 
 #include "common/Failure.h"
 #include "switches/JoypadAssignments.h"
+#include "switches/ReportList.h"
+#include "switches/ShownField.h"
 #include "switches/SwitchFunctions.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/Named.h"
-#include "widgets/ReportList.h"
-#include "widgets/ShownField.h"
 #include "widgets/ShownName.h"
 #include "widgets/Theme.h"
 

@@ -1,7 +1,7 @@
 // Where the switches stand on the drawings of body and hand controller.
 #pragma once
 
-#include "widgets/SwitchDrawing.h"
+#include "drawings/SwitchDrawing.h"
 
 namespace mortane {
 

@@ -4,13 +4,13 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "drawings/SwitchDrawing.h"
+#include "switches/ReportList.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Named.h"
-#include "widgets/ReportList.h"
 #include "widgets/ShownName.h"
-#include "widgets/SwitchDrawing.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

@@ -3,16 +3,16 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "drawings/SwitchDrawing.h"
+#include "switches/ReportList.h"
+#include "switches/ShownField.h"
 #include "switches/SwitchCtlPlans.h"
 #include "switches/clsControlTactor.h"
 #include "switches/clsDbSwitch.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Named.h"
-#include "widgets/ReportList.h"
-#include "widgets/ShownField.h"
 #include "widgets/ShownName.h"
-#include "widgets/SwitchDrawing.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

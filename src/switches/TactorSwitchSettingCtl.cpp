@@ -3,13 +3,13 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "drawings/SwitchDrawing.h"
+#include "switches/ReportList.h"
 #include "switches/clsControlTactor.h"
 #include "switches/clsDbSwitch.h"
 #include "widgets/ComboBox.h"
 #include "widgets/OptionGroup.h"
-#include "widgets/ReportList.h"
 #include "widgets/ShownName.h"
-#include "widgets/SwitchDrawing.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 

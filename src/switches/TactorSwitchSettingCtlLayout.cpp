@@ -4,6 +4,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "drawings/SwitchDrawing.h"
+#include "switches/ReportList.h"
+#include "switches/ShownField.h"
 #include "switches/SwitchCtlPlans.h"
 #include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/Card.h"
@@ -12,10 +15,7 @@
 #include "widgets/Icons.h"
 #include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
-#include "widgets/ReportList.h"
 #include "widgets/SectionBar.h"
-#include "widgets/ShownField.h"
-#include "widgets/SwitchDrawing.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 

@@ -8,6 +8,7 @@
 #include "widgets/ElidedTip.h"
 #include "widgets/Paint.h"
 #include "widgets/StylePrimitives.h"
+#include "widgets/StyleProperties.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

@@ -7,11 +7,6 @@ class QStyleOptionButton;
 
 namespace mortane {
 
-// Property of a field whose text was refused; the style draws its red line and background.
-inline constexpr char kRefusedProperty[] = "refused";
-// Property of a push button that is the main one of its dialog without being its default.
-inline constexpr char kMainProperty[] = "mainCommand";
-
 // Every colour comes from the palette of the control or from Theme.h, so that one style serves both
 // palettes, the disabled group too, which a style sheet cannot name.
 class Style : public QProxyStyle {

@@ -6,7 +6,7 @@
 #include <QWidget>
 
 #include "widgets/Paint.h"
-#include "widgets/Style.h"
+#include "widgets/StyleProperties.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "widgets/FocusVeto.h"
-#include "widgets/Style.h"
+#include "widgets/StyleProperties.h"
 #include "widgets/TextValidator.h"
 #include "widgets/Theme.h"
 

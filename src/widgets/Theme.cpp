@@ -3,19 +3,10 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
-#include <QPalette>
-#include <QToolTip>
+#include <QGuiApplication>
 #include <QWidget>
 #include <algorithm>
 #include <array>
-
-#include "widgets/Accessible.h"
-#include "widgets/Style.h"
-
-// The macro behind this call cannot stand inside a namespace.
-static void LoadWidgetResources() {
-  Q_INIT_RESOURCE(widgets);
-}
 
 namespace mortane {
 namespace {
@@ -89,7 +80,19 @@ QRgb Pick(const auto& row, Scheme scheme) {
   return scheme == Scheme::Dark ? row.dark : row.light;
 }
 
-QPalette BuildPalette(Scheme scheme) {
+QFont Scaled(double factor, QFont::Weight weight) {
+  QFont font = QApplication::font();
+  if (font.pointSizeF() > 0)
+    font.setPointSizeF(font.pointSizeF() * factor);
+  else
+    font.setPixelSize(qRound(font.pixelSize() * factor));
+  font.setWeight(weight);
+  return font;
+}
+
+}  // namespace
+
+QPalette ThemePalette(Scheme scheme) {
   QPalette palette;
   for (const RoleRow& row : kRoles) palette.setColor(row.role, QColor(Pick(row, scheme)));
   for (const RoleRow& row : kDisabledRoles)
@@ -109,26 +112,8 @@ Scheme SystemScheme() {
              : Scheme::Light;
 }
 
-QFont Scaled(double factor, QFont::Weight weight) {
-  QFont font = QApplication::font();
-  if (font.pointSizeF() > 0)
-    font.setPointSizeF(font.pointSizeF() * factor);
-  else
-    font.setPixelSize(qRound(font.pixelSize() * factor));
-  font.setWeight(weight);
-  return font;
-}
-
-}  // namespace
-
-void ApplyTheme(QApplication& application, std::optional<Scheme> forced) {
-  LoadWidgetResources();
-  InstallAccessibleInterfaces();
-  currentScheme = forced ? *forced : SystemScheme();
-  const QPalette palette = BuildPalette(currentScheme);
-  if (qobject_cast<Style*>(QApplication::style()) == nullptr) QApplication::setStyle(new Style);
-  application.setPalette(palette);
-  QToolTip::setPalette(palette);
+void SetCurrentScheme(Scheme scheme) {
+  currentScheme = scheme;
 }
 
 Scheme CurrentScheme() {

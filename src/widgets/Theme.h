@@ -3,9 +3,8 @@
 
 #include <QColor>
 #include <QFont>
-#include <optional>
+#include <QPalette>
 
-class QApplication;
 class QFontMetrics;
 class QWidget;
 
@@ -47,11 +46,13 @@ enum class Tone {
 };
 inline constexpr int kToneCount = static_cast<int>(Tone::SwitchPlate) + 1;
 
-// Sets style, palette, tool tip font and what screen readers are told. Follows the system's scheme
-// if it tells, otherwise light; the tour of the pages overrides it with the environment variable
-// MORTANE_SCHEME (light, dark).
-void ApplyTheme(QApplication& application, std::optional<Scheme> forced = {});
+// The scheme that the environment variable MORTANE_SCHEME (light, dark) or else the system asks
+// for; light where neither tells. Only before the application has a palette of ours.
+Scheme SystemScheme();
+// Light until it is set.
 Scheme CurrentScheme();
+void SetCurrentScheme(Scheme scheme);
+QPalette ThemePalette(Scheme scheme);
 QColor ToneColor(Tone tone);
 
 // The type scale: factors of the system's font at its own size; no family is named.

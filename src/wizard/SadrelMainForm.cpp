@@ -13,7 +13,7 @@
 #include "hub/clsK70.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/Page.h"
-#include "widgets/Style.h"
+#include "widgets/StyleProperties.h"
 #include "wizard/HelpLine.h"
 #include "wizard/SadrelEndingCtl.h"
 #include "wizard/SelSetupItemCtl.h"

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "widgets/AccessibleControls.h"
+#include "accessible/AccessibleControls.h"
 #include "widgets/Named.h"
 #include "widgets/RovingTabStop.h"
 #include "widgets/Theme.h"

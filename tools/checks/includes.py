@@ -19,11 +19,16 @@ LAYERS = (
     ("app",),
     ("wizard",),
 )
-# The kit of controls stands beside them: it sees the texts of the core alone, and only pages and
-# windows see it.
-KIT = "widgets"
+# The kit of controls stands beside them, the drawings made of it above: they see the texts of the
+# core alone, and only pages and windows see them.
+KIT = ("widgets", "drawings")
+# What screen readers are told of kit, drawings and pages; only the windows see it.
+ACCESSIBLE = "accessible"
 AREAS = LAYERS[5]
-PAGES = tuple(f"src/{area}/*Ctl*" for area in AREAS)
+# Pages, and controls that one area alone uses.
+PAGES = (*(f"src/{area}/*Ctl*" for area in AREAS), "src/drives/CaptionedFrame.*",
+         "src/interlocks/SwitchTile.*", "src/objectives/FillNames.h", "src/switches/ReportList.*",
+         "src/switches/ShownField.h")
 
 # Headers of the operating system and of libraries stand in these places only.
 FOREIGN = {
@@ -60,7 +65,7 @@ def is_page(name):
 
 
 def has_qt(name):
-    return room_of(name) in (KIT, "app", "wizard") or is_page(name)
+    return room_of(name) in (*KIT, ACCESSIBLE, "app", "wizard") or is_page(name)
 
 
 def direction_problem(name, target):
@@ -70,10 +75,15 @@ def direction_problem(name, target):
         if is_page(target) and not is_page(name) and own in AREAS:
             return "a unit may not include a page"
         return None
-    if own == KIT:
-        return None if other == "common" else f"{KIT} may not include {other}"
-    if other == KIT:
-        return None if has_qt(name) else f"only pages and windows may include {KIT}"
+    if own in KIT:
+        fits_kit = other == "common" or (other in KIT and KIT.index(other) < KIT.index(own))
+        return None if fits_kit else f"{own} may not include {other}"
+    if other in KIT:
+        return None if has_qt(name) else f"only pages and windows may include {other}"
+    if own == ACCESSIBLE:
+        return None if is_page(target) else f"{own} may not include {other}"
+    if other == ACCESSIBLE:
+        return None if own in ("app", "wizard") else f"only the windows may include {other}"
     if is_page(name) and other == "controller":
         return "a page asks its units, not the controller"
     if rank(own) is None or rank(other) is None or rank(other) >= rank(own):
@@ -169,6 +179,13 @@ GOOD = {
     "src/objectives/clsNosepiece.h": '#include "model/ConnectedMicroscope.h"\n',
     "src/hub/clsK70.h": '#include "objectives/clsNosepiece.h"\n',
     "src/widgets/Card.h": "#include <QWidget>\n",
+    "src/drawings/TurretDrawing.h": '#include <QWidget>\n#include "widgets/Card.h"\n',
+    "src/interlocks/SwitchTile.h": '#include "widgets/Card.h"\n',
+    "src/accessible/Accessible.cpp":
+        '#include <QAccessible>\n#include "drawings/TurretDrawing.h"\n'
+        '#include "interlocks/SwitchTile.h"\n#include "widgets/Card.h"\n',
+    "src/app/ApplyTheme.cpp": '#include "accessible/Accessible.h"\n',
+    "src/accessible/Accessible.h": "",
     "src/objectives/ObjectiveCtl.h":
         '#include "objectives/clsNosepiece.h"\n#include "widgets/Card.h"\n',
     "src/app/main.cpp":
@@ -211,6 +228,15 @@ BAD = {
     "widgets that know the model": (
         {"src/widgets/Card.cpp": '#include "model/ConnectedMicroscope.h"\n'},
         "src/widgets/Card.cpp:1"),
+    "widgets that know the drawings": (
+        {"src/widgets/Card.cpp": '#include "drawings/TurretDrawing.h"\n'},
+        "src/widgets/Card.cpp:1"),
+    "a page that knows the screen reader": (
+        {"src/objectives/ObjectiveCtl.cpp": '#include "accessible/Accessible.h"\n'},
+        "src/objectives/ObjectiveCtl.cpp:1"),
+    "the screen reader with a unit": (
+        {"src/accessible/Items.cpp": '#include "objectives/clsNosepiece.h"\n'},
+        "src/accessible/Items.cpp:1"),
     "a page that knows the windows": (
         {"src/app/Main.h": "", "src/filters/FilterCtl.cpp": '#include "app/Main.h"\n'},
         "src/filters/FilterCtl.cpp:1"),

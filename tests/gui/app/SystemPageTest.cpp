@@ -9,7 +9,7 @@
 #include "AppRig.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
-#include "widgets/MicroscopeDrawing.h"
+#include "drawings/MicroscopeDrawing.h"
 #include "widgets/PageHeader.h"
 #include "widgets/TextField.h"
 

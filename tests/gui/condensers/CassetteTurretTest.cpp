@@ -4,12 +4,12 @@
 #include <QLayout>
 #include <QTest>
 
+#include "drawings/TurretDrawing.h"
 #include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Theme.h"
-#include "widgets/TurretDrawing.h"
 
 namespace mortane::test {
 namespace {

@@ -6,14 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "drawings/MoveCross.h"
+#include "drives/CaptionedFrame.h"
 #include "drives/ControlFocusDriveCtl.h"
 #include "drives/ControlXYStageCtl.h"
 #include "drives/PositionTableCtl.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "hub/clsK70.h"
-#include "widgets/CaptionedFrame.h"
-#include "widgets/MoveCross.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/TextField.h"
 

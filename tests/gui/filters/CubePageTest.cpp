@@ -3,13 +3,13 @@
 #include <QHeaderView>
 #include <QTest>
 
+#include "drawings/TurretDrawing.h"
 #include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
-#include "widgets/TurretDrawing.h"
 #include "widgets/ValueLabel.h"
 
 namespace mortane::test {

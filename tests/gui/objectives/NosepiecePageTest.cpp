@@ -7,6 +7,7 @@
 
 #include "NosepieceRig.h"
 #include "common/Numbers.h"
+#include "drawings/TurretDrawing.h"
 #include "gui/objectives/AccessibleObjectives.h"
 #include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
@@ -14,7 +15,6 @@
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
-#include "widgets/TurretDrawing.h"
 #include "widgets/ValueLabel.h"
 
 namespace mortane::test {

@@ -1,8 +1,8 @@
 // What the tests of the nosepiece's page share.
 #pragma once
 
+#include "drawings/TurretDrawing.h"
 #include "gui/support/PageRig.h"
-#include "widgets/TurretDrawing.h"
 
 namespace mortane::test {
 

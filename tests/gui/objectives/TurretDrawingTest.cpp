@@ -1,5 +1,5 @@
 // The turret from above: places, their names, keys and sizes.
-#include "widgets/TurretDrawing.h"
+#include "drawings/TurretDrawing.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 #include <QTest>
 #include <cmath>
 
-#include "widgets/TurretButton.h"
+#include "drawings/TurretButton.h"
 
 namespace mortane::test {
 namespace {

@@ -6,11 +6,12 @@
 #include <QScrollArea>
 #include <map>
 
+#include "app/ApplyTheme.h"
+#include "drawings/MarkButton.h"
 #include "gui/support/Contrast.h"
 #include "gui/support/FontScope.h"
 #include "gui/support/PageDrill.h"
 #include "gui/support/PageLayout.h"
-#include "widgets/MarkButton.h"
 #include "widgets/Theme.h"
 
 namespace mortane::test {

@@ -4,11 +4,11 @@
 #include <QApplication>
 #include <optional>
 
+#include "app/ApplyTheme.h"
 #include "platform/NamedMutex.h"
 #include "support/TempFolder.h"
 #include "support/TestWatch.h"
 #include "support/UniqueName.h"
-#include "widgets/Theme.h"
 
 namespace {
 

@@ -5,12 +5,12 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include "drawings/SwitchDrawing.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
 #include "switches/FunctionNames.h"
 #include "widgets/ComboBox.h"
-#include "widgets/SwitchDrawing.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 

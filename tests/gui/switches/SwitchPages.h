@@ -6,9 +6,9 @@
 
 #include "hub/clsK70.h"
 #include "switches/JoypadSwitchSettingCtl.h"
+#include "switches/ReportList.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
-#include "widgets/ReportList.h"
 
 namespace mortane::test {
 

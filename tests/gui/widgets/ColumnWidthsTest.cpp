@@ -5,7 +5,7 @@
 #include <QScrollBar>
 
 #include "gui/support/FontScope.h"
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/ListBox.h"
 
 namespace mortane {

@@ -2,7 +2,7 @@
 
 #include <QAbstractItemView>
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 
 namespace mortane {
 namespace {

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 #include "widgets/Theme.h"

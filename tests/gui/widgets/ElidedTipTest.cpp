@@ -3,11 +3,11 @@
 #include <QToolTip>
 #include <set>
 
-#include "gui/widgets/TestWindow.h"
+#include "drawings/MicroscopeDrawing.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/ComboBox.h"
 #include "widgets/ElidedTip.h"
 #include "widgets/ListBox.h"
-#include "widgets/MicroscopeDrawing.h"
 #include "widgets/SectionBar.h"
 #include "widgets/ValueLabel.h"
 

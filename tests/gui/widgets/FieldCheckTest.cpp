@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <stdexcept>
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/ListBox.h"
 #include "widgets/PageButton.h"
 #include "widgets/TextField.h"

@@ -1,6 +1,6 @@
 #include <QClipboard>
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/TextField.h"
 #include "widgets/TextValidator.h"
 

@@ -15,6 +15,9 @@
 #include <QVBoxLayout>
 #include <functional>
 
+#include "app/ApplyTheme.h"
+#include "drawings/MicroscopeDrawing.h"
+#include "switches/ReportList.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/ComboBox.h"
@@ -22,13 +25,11 @@
 #include "widgets/ContainerPage.h"
 #include "widgets/Icons.h"
 #include "widgets/ListBox.h"
-#include "widgets/MicroscopeDrawing.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/PageButton.h"
 #include "widgets/PageHeader.h"
 #include "widgets/ProgressLine.h"
 #include "widgets/Rail.h"
-#include "widgets/ReportList.h"
 #include "widgets/SectionBar.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"

@@ -6,7 +6,8 @@
 #include <QRadioButton>
 #include <string>
 
-#include "gui/widgets/TestWindow.h"
+#include "drawings/TurretDrawing.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/ComboBox.h"
@@ -18,7 +19,6 @@
 #include "widgets/SectionBar.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
-#include "widgets/TurretDrawing.h"
 
 namespace mortane {
 namespace {

@@ -4,7 +4,7 @@
 #include <QScrollBar>
 #include <utility>
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 
 namespace mortane {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QRadioButton>
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 
 namespace mortane {
 namespace {

@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QScrollArea>
 
-#include "gui/widgets/TestWindow.h"
+#include "drawings/TurretButton.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/ListBox.h"
-#include "widgets/TurretButton.h"
 
 namespace mortane {
 namespace {

@@ -1,6 +1,6 @@
 #include "widgets/ProgressLine.h"
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 
 namespace mortane {
 namespace {

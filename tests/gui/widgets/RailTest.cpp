@@ -1,6 +1,6 @@
 #include "widgets/Rail.h"
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/PageButton.h"
 
 namespace mortane {

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"

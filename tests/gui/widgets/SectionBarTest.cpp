@@ -1,6 +1,6 @@
 #include "widgets/SectionBar.h"
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

@@ -1,6 +1,6 @@
 #include "widgets/TabStrip.h"
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/TextField.h"
 
 namespace mortane {

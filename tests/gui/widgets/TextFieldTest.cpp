@@ -7,7 +7,7 @@
 #include <QMimeData>
 #include <QPushButton>
 
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 
 namespace mortane {
 namespace {

@@ -1,3 +1,4 @@
+#include "app/ApplyTheme.h"
 #include "widgets/Theme.h"
 
 #include <QApplication>
@@ -7,8 +8,9 @@
 #include <QPushButton>
 
 #include "gui/support/Contrast.h"
-#include "gui/widgets/TestWindow.h"
+#include "gui/support/TestWindow.h"
 #include "widgets/Style.h"
+#include "widgets/StyleProperties.h"
 
 namespace mortane {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "WizardRig.h"
 #include "common/Failure.h"
-#include "widgets/Style.h"
+#include "widgets/StyleProperties.h"
 
 namespace mortane::test {
 namespace {

@@ -1,0 +1,275 @@
+#include "drawings/TurretDrawing.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QtMath>
+#include <algorithm>
+#include <cmath>
+
+#include "drawings/TurretButton.h"
+#include "widgets/Named.h"
+#include "widgets/OptionGroup.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+// In design pixels.
+constexpr double kSide = 280;
+constexpr double kRadius = 138;
+constexpr double kRim = 5;
+constexpr int kKnurls = 60;
+constexpr double kHub = 13;
+constexpr double kHubHole = 4;
+constexpr double kOrbitEdge = 12;
+constexpr double kLargestPlace = 34;
+constexpr double kBetweenPlaces = 5;
+constexpr double kBetweenTiles = 8;
+constexpr double kNumberGap = 8;  // from the halo to the middle, in pixels of any scale
+constexpr QSizeF kNumberSize{40, 20};
+constexpr double kLeastScale = 0.8;
+constexpr double kMostScale = 1.5;
+constexpr int kLeastButton = 24;
+constexpr int kMostPlaces = 10;
+
+struct Ring {
+  double placeRadius;
+  double orbit;
+};
+
+QPointF Direction(int index, int count) {
+  const double angle = 2 * M_PI * index / qMax(1, count);
+  return {std::sin(angle), -std::cos(angle)};
+}
+
+// Round places fill the disc up to its edge and keep clear of each other, whatever their number.
+Ring RoundPlaces(int count) {
+  const double room = kRadius - kOrbitEdge;
+  if (count < 2) return {kLargestPlace, room - kLargestPlace};
+  const double half = std::sin(M_PI / count);
+  const double radius = qMin(kLargestPlace, (room * half - kBetweenPlaces) / (1 + half));
+  return {radius, room - radius};
+}
+
+// Whether no tile reaches into the halo of its neighbour.
+bool AreTilesApart(int count, const Ring& ring) {
+  for (int i = 0; i + 1 < count; ++i) {
+    const QPointF between = (Direction(i + 1, count) - Direction(i, count)) * ring.orbit;
+    const double width = 2 * ring.placeRadius;
+    const bool apart = qAbs(between.x()) >= width + kBetweenTiles ||
+                       qAbs(between.y()) >= width * TurretButton::TileShape() + kBetweenTiles;
+    if (!apart) return false;
+  }
+  return true;
+}
+
+Ring RingOf(PlaceKind kind, int count) {
+  Ring ring = RoundPlaces(count);
+  if (kind == PlaceKind::Objectives) return ring;
+  while (!AreTilesApart(count, ring)) {
+    ring.placeRadius -= 0.5;
+    ring.orbit += 0.5;
+  }
+  return ring;
+}
+
+}  // namespace
+
+TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
+    : QWidget(parent), kind_(kind), group_(new OptionGroup(this)), leastScale_(kLeastScale) {
+  setFocusPolicy(Qt::NoFocus);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  // All at once, so that they stand at the drawing's place in the order of the Tab key.
+  for (int i = 0; i < kMostPlaces; ++i) MakeButton(i);
+  connect(group_, &OptionGroup::selectionChanged, this, [this](int index) {
+    emit chosen(index);
+    if (buttons_[index]->isPressed()) emit activated(index);
+  });
+}
+
+void TurretDrawing::MakeButton(int index) {
+  auto* button = Named(new TurretButton(kind_, index + 1, this), "place", index + 1);
+  button->hide();
+  group_->add(button, index);
+  connect(button, &TurretButton::toggled, this,
+          [this, index] { update(NumberArea(index).toAlignedRect()); });
+  connect(button, &TurretButton::stepped, this,
+          [this, index](int steps) { Choose((index + steps + count_) % count_); });
+  buttons_.append(button);
+}
+
+void TurretDrawing::Choose(int index) {
+  buttons_[index]->setFocus();
+  buttons_[index]->click();
+}
+
+void TurretDrawing::SetItems(const QVector<TurretItem>& items) {
+  count_ = qMin(kMostPlaces, static_cast<int>(items.size()));
+  if (index() >= count_) setIndex(-1);
+  for (int i = 0; i < kMostPlaces; ++i) {
+    if (i < count_) buttons_[i]->SetItem(items[i]);
+    buttons_[i]->setVisible(i < count_);
+  }
+  UpdateLeastScale();
+  PlaceButtons();
+  Describe();
+}
+
+void TurretDrawing::SetItem(int index, const TurretItem& item) {
+  if (index < 0 || index >= count() || buttons_[index]->item() == item) return;
+  buttons_[index]->SetItem(item);
+  UpdateLeastScale();
+  UpdateMarks();
+  Describe();
+}
+
+// Marks do not scale with the drawing, and must not touch the rings around them.
+void TurretDrawing::UpdateLeastScale() {
+  double least = kLeastScale;
+  const double width = 2 * RingOf(kind_, count_).placeRadius;
+  for (int i = 0; i < count_; ++i) least = qMax(least, buttons_[i]->LeastPlaceWidth() / width);
+  least = qMin(least, kMostScale);
+  if (least == leastScale_) return;
+  leastScale_ = least;
+  updateGeometry();
+  disc_ = {};
+  PlaceButtons();
+}
+
+void TurretDrawing::Describe() {
+  QStringList names;
+  for (int i = 0; i < count_; ++i) names.append(buttons_[i]->accessibleName());
+  setAccessibleDescription(names.join(QStringLiteral("; ")));
+}
+
+QAbstractButton* TurretDrawing::place(int index) const {
+  return index >= 0 && index < count_ ? buttons_[index] : nullptr;
+}
+
+int TurretDrawing::index() const {
+  return group_->selected();
+}
+
+void TurretDrawing::setIndex(int index) {
+  const QSignalBlocker quiet(group_);
+  if (index < 0 || index >= count()) {
+    group_->clear();
+  } else {
+    group_->select(index);
+  }
+}
+
+double TurretDrawing::drawingScale() const {
+  return qBound(leastScale_, height() / kSide, kMostScale);
+}
+
+QSize TurretDrawing::sizeHint() const {
+  const int side = qCeil(kSide * drawingScale());
+  return {side, qMax(qCeil(kSide), minimumSizeHint().height())};
+}
+
+QSize TurretDrawing::minimumSizeHint() const {
+  const int side = qCeil(kSide * leastScale_);
+  return {side, side};
+}
+
+void TurretDrawing::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  disc_ = {};
+  PlaceButtons();
+  updateGeometry();
+}
+
+void TurretDrawing::PlaceButtons() {
+  const double scale = drawingScale();
+  const Ring ring = RingOf(kind_, count());
+  const QPointF center = Center();
+  for (int i = 0; i < count(); ++i) {
+    const QSizeF place = buttons_[i]->PlaceSizeFor(2 * ring.placeRadius * scale);
+    const QSizeF outer = place + QSizeF(2, 2) * TurretButton::HaloRoom();
+    QRectF area(QPointF(), outer.expandedTo({kLeastButton, kLeastButton}));
+    area.moveCenter(center + Direction(i, count()) * ring.orbit * scale);
+    buttons_[i]->setGeometry(area.toAlignedRect());
+    buttons_[i]->SetPlaceSize(place);
+  }
+  UpdateMarks();
+  update();
+}
+
+// In one size: it would seem to mean something if marks differed.
+void TurretDrawing::UpdateMarks() {
+  const auto end = buttons_.begin() + count_;
+  const bool large = std::all_of(buttons_.begin(), end, [](const TurretButton* button) {
+    return button->HasRoomForLargeMark();
+  });
+  std::for_each(buttons_.begin(), end,
+                [large](TurretButton* button) { button->SetLargeMark(large); });
+}
+
+void TurretDrawing::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) disc_ = {};
+  if (event->type() == QEvent::FontChange) UpdateLeastScale();
+}
+
+// The disc without its places is painted once for each size.
+void TurretDrawing::PaintDisc() {
+  const double ratio = devicePixelRatioF();
+  const double scale = drawingScale();
+  disc_ = QPixmap(QSizeF(kSide * scale * ratio, kSide * scale * ratio).toSize());
+  disc_.setDevicePixelRatio(ratio);
+  disc_.fill(Qt::transparent);
+  QPainter painter(&disc_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(scale, scale);
+  painter.translate(kSide / 2, kSide / 2);
+  const QColor line = ToneColor(Tone::DrawingLine);
+  QRadialGradient rim(QPointF(), kRadius);
+  rim.setColorAt(0, ToneColor(Tone::DrawingFill));
+  rim.setColorAt(0.78, ToneColor(Tone::DrawingFill));
+  rim.setColorAt(1, ToneColor(Tone::DrawingShade));
+  painter.setPen(QPen(line, 1.2));
+  painter.setBrush(rim);
+  painter.drawEllipse(QPointF(), kRadius, kRadius);
+  painter.setPen(QPen(line, 0.8));
+  for (int i = 0; i < kKnurls; ++i) {
+    const QPointF direction = Direction(i, kKnurls);
+    painter.drawLine(direction * (kRadius - kRim), direction * kRadius);
+  }
+  painter.setPen(QPen(line, 1.2));
+  painter.setBrush(ToneColor(Tone::DrawingShade));
+  painter.drawEllipse(QPointF(), kHub, kHub);
+  painter.setBrush(ToneColor(Tone::DrawingFill));
+  painter.drawEllipse(QPointF(), kHubHole, kHubHole);
+}
+
+QRectF TurretDrawing::NumberArea(int index) const {
+  const Ring ring = RingOf(kind_, count());
+  const double scale = drawingScale();
+  const QPointF direction = Direction(index, count());
+  const double reach = buttons_[index]->ReachTowards(direction);
+  const double distance = ring.orbit * scale - reach - kNumberGap;
+  QRectF area(QPointF(), kNumberSize);
+  area.moveCenter(Center() + direction * distance);
+  return area;
+}
+
+QPointF TurretDrawing::Center() const {
+  return {width() / 2.0, kSide * drawingScale() / 2};
+}
+
+void TurretDrawing::paintEvent(QPaintEvent*) {
+  if (disc_.isNull() || disc_.devicePixelRatio() != devicePixelRatioF()) PaintDisc();
+  QPainter painter(this);
+  const double side = kSide * drawingScale();
+  painter.drawPixmap(Center() - QPointF(side, side) / 2, disc_);
+  for (int i = 0; i < count(); ++i) {
+    const bool chosen = i == index();
+    painter.setFont(chosen ? BoldFont() : CaptionFont());
+    painter.setPen(palette().color(chosen ? QPalette::WindowText : QPalette::PlaceholderText));
+    painter.drawText(NumberArea(i), Qt::AlignCenter, QString::number(buttons_[i]->address()));
+  }
+}
+
+}  // namespace mortane

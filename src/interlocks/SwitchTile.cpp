@@ -1,0 +1,75 @@
+#include "interlocks/SwitchTile.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "widgets/Card.h"
+#include "widgets/CheckToggle.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kIconSize = 32;
+
+// The measures of a tile on one ground.
+struct Measures {
+  int side;    // left of the icon and right of the texts
+  int gap;     // between icon and texts
+  int edge;    // least distance of the texts from the upper and the lower edge
+  int height;  // that the tile asks for
+};
+
+constexpr Measures kOnCard{20, 20, 8, 96};
+constexpr Measures kInInnerFrame{0, 16, 2, 76};
+
+const Measures& MeasuresOn(SwitchTile::Ground ground) {
+  return ground == SwitchTile::Ground::Card ? kOnCard : kInInnerFrame;
+}
+
+}  // namespace
+
+SwitchTile::SwitchTile(IconName icon, const QString& caption, Ground ground, QWidget* parent)
+    : QWidget(parent),
+      icon_(icon),
+      ground_(ground),
+      label_(new QLabel(caption, this)),
+      toggle_(new CheckToggle(this)) {
+  toggle_->setAccessibleName(caption);
+  label_->setBuddy(toggle_);
+  // The track stands under the first letter; the line of the focus goes round it.
+  label_->setContentsMargins(CheckToggle::kPadding, 0, 0, 0);
+
+  const Measures& measures = MeasuresOn(ground);
+  auto* texts = new QVBoxLayout(this);
+  texts->setContentsMargins(measures.side + kIconSize + measures.gap - CheckToggle::kPadding,
+                            measures.edge, measures.side, measures.edge);
+  texts->setSpacing(grid::kUnit);
+  texts->addStretch();
+  texts->addWidget(label_);
+  texts->addWidget(toggle_);
+  texts->addStretch();
+}
+
+QSize SwitchTile::sizeHint() const {
+  return QWidget::sizeHint().expandedTo({0, MeasuresOn(ground_).height});
+}
+
+void SwitchTile::SetShown(bool shown) {
+  label_->setVisible(shown);
+  toggle_->setVisible(shown);
+  setVisible(shown);
+}
+
+void SwitchTile::paintEvent(QPaintEvent*) {
+  if (ground_ == Ground::Card) DrawInnerFrame(*this);
+  QPainter painter(this);
+  const bool fitted = isEnabledTo(window());
+  DrawIcon(
+      painter, icon_,
+      QRectF(MeasuresOn(ground_).side, (height() - kIconSize) / 2.0, kIconSize, kIconSize),
+      {palette().color(QPalette::WindowText), fitted ? ToneColor(Tone::IconAccent) : QColor()});
+}
+
+}  // namespace mortane

@@ -1,0 +1,47 @@
+#include "switches/ReportList.h"
+
+#include <QAbstractItemDelegate>
+
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+QVector<ListColumn> ColumnsNamed(const QStringList& headers) {
+  QVector<ListColumn> columns;
+  for (const QString& header : headers) columns.append({header, Qt::AlignLeft});
+  return columns;
+}
+
+}  // namespace
+
+ReportList::ReportList(const QStringList& headers, QWidget* parent) : ListBox(parent) {
+  SetColumns(ColumnsNamed(headers));
+}
+
+QString ReportList::cell(int row, int column) const {
+  return topLevelItem(row)->text(column);
+}
+
+void ReportList::SetCell(int row, int column, const QString& text) {
+  topLevelItem(row)->setText(column, text);
+}
+
+int ReportList::WidthOf(const QModelIndex& cell) const {
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  option.font = BoldFont();
+  option.fontMetrics = QFontMetrics(option.font);
+  return itemDelegateForIndex(cell)->sizeHint(option, cell).width();
+}
+
+void ReportList::SetBoldRow(int row) {
+  boldRow_ = row;
+  for (int i = 0; i < rowCount(); ++i) {
+    const QVariant shown = i == row ? QVariant(BoldFont()) : QVariant();
+    for (int column = 0; column < columnCount(); ++column)
+      topLevelItem(i)->setData(column, Qt::FontRole, shown);
+  }
+}
+
+}  // namespace mortane

@@ -1,0 +1,187 @@
+#include "drawings/MoveCross.h"
+
+#include "gui/support/TestWindow.h"
+
+namespace mortane {
+namespace {
+
+class MoveCrossTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    cross = window.Add<MoveCross>(MoveCross::Axes::Both, QStringLiteral("Start"));
+    window.Show();
+  }
+  QPoint PlaceOf(MoveDirection direction, MoveSize size) {
+    return cross->button(direction, size)->geometry().center();
+  }
+  QString Focused() { return QApplication::focusWidget()->objectName(); }
+
+  TestWindow window;
+  MoveCross* cross = nullptr;
+};
+
+TEST_F(MoveCrossTest, SmallStepsStandInsideAndLargeOnesOutside) {
+  const QPoint middle = cross->middle()->geometry().center();
+  struct Row {
+    MoveDirection direction;
+    int right;
+    int down;
+  };
+  for (const Row& row : {Row{MoveDirection::Left, -1, 0}, Row{MoveDirection::Right, 1, 0},
+                         Row{MoveDirection::Up, 0, -1}, Row{MoveDirection::Down, 0, 1}}) {
+    const QPoint inner = PlaceOf(row.direction, MoveSize::Small) - middle;
+    const QPoint outer = PlaceOf(row.direction, MoveSize::Large) - middle;
+    EXPECT_GT(inner.x() * row.right + inner.y() * row.down, 0);
+    EXPECT_GT((outer - inner).x() * row.right + (outer - inner).y() * row.down, 24);
+    EXPECT_LE(qAbs(inner.x() * row.down) + qAbs(inner.y() * row.right), 1) << "on the axis";
+  }
+}
+
+TEST_F(MoveCrossTest, ButtonsAreLargeEnoughAndSayWhatTheyDo) {
+  struct Row {
+    MoveDirection direction;
+    MoveSize size;
+    const char* name;
+    const char* said;
+  };
+  for (const Row& row :
+       {Row{MoveDirection::Up, MoveSize::Large, "ButtonUpLarge", "Up, large step"},
+        Row{MoveDirection::Up, MoveSize::Small, "ButtonUpSmall", "Up, small step"},
+        Row{MoveDirection::Down, MoveSize::Large, "ButtonDownLarge", "Down, large step"},
+        Row{MoveDirection::Down, MoveSize::Small, "ButtonDownSmall", "Down, small step"},
+        Row{MoveDirection::Left, MoveSize::Large, "ButtonLeftLarge", "Left, large step"},
+        Row{MoveDirection::Left, MoveSize::Small, "ButtonLeftSmall", "Left, small step"},
+        Row{MoveDirection::Right, MoveSize::Large, "ButtonRightLarge", "Right, large step"},
+        Row{MoveDirection::Right, MoveSize::Small, "ButtonRightSmall", "Right, small step"}}) {
+    const MoveButton* button = cross->button(row.direction, row.size);
+    EXPECT_EQ(button->objectName(), row.name);
+    EXPECT_EQ(button->accessibleName(), row.said);
+    EXPECT_GE(button->width(), 24);
+    EXPECT_EQ(button->height(), button->width());
+    EXPECT_EQ(button->height(), cross->middle()->height());
+  }
+  EXPECT_EQ(cross->middle()->text(), "Start");
+}
+
+TEST_F(MoveCrossTest, AVerticalOneHasNoButtonsAtItsSides) {
+  const MoveCross vertical(MoveCross::Axes::Vertical, QStringLiteral("Go"));
+  EXPECT_EQ(vertical.button(MoveDirection::Left, MoveSize::Small), nullptr);
+  EXPECT_EQ(vertical.button(MoveDirection::Right, MoveSize::Large), nullptr);
+  EXPECT_NE(vertical.button(MoveDirection::Up, MoveSize::Small), nullptr);
+  EXPECT_NE(vertical.button(MoveDirection::Down, MoveSize::Large), nullptr);
+  EXPECT_EQ(vertical.middle()->text(), "Go");
+}
+
+TEST_F(MoveCrossTest, EachButtonIsDrawnInItsOwnWay) {
+  QVector<QImage> seen;
+  for (auto* button : cross->findChildren<MoveButton*>()) {
+    const QImage image = button->grab().toImage();
+    EXPECT_FALSE(seen.contains(image)) << button->objectName().toStdString();
+    seen.append(image);
+    button->setEnabled(false);
+    EXPECT_NE(button->grab().toImage(), image);
+  }
+  EXPECT_EQ(seen.size(), 8);
+}
+
+// On the axis of a chevron only its tip is dark.
+TEST_F(MoveCrossTest, AChevronPointsWhereItsButtonStands) {
+  for (const auto& [direction, towards] :
+       {std::pair{MoveDirection::Right, QPoint(1, 0)},
+        std::pair{MoveDirection::Left, QPoint(-1, 0)}, std::pair{MoveDirection::Down, QPoint(0, 1)},
+        std::pair{MoveDirection::Up, QPoint(0, -1)}}) {
+    const QImage image = cross->button(direction, MoveSize::Small)->grab().toImage();
+    const QPoint middle = image.rect().center();
+    int before = 0;
+    int behind = 0;
+    for (int step = 1; step < image.width() / 4; ++step) {
+      before += image.pixelColor(middle + step * towards).lightness() < 100 ? 1 : 0;
+      behind += image.pixelColor(middle - step * towards).lightness() < 100 ? 1 : 0;
+    }
+    EXPECT_GT(before, 0) << static_cast<int>(direction);
+    EXPECT_EQ(behind, 0) << static_cast<int>(direction);
+  }
+}
+
+// The largest difference in lightness between two pictures of the same size.
+int Difference(const QImage& one, const QImage& other) {
+  int largest = one.size() == other.size() ? 0 : 255;
+  for (int y = 0; y < one.height() && largest < 255; ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      largest = qMax(largest,
+                     qAbs(one.pixelColor(x, y).lightness() - other.pixelColor(x, y).lightness()));
+    }
+  }
+  return largest;
+}
+
+TEST_F(MoveCrossTest, ChevronsAreTheSameDrawingTurned) {
+  constexpr int kRoundingOfColours = 4;
+  const auto chevron = [this](MoveDirection direction, MoveSize size) {
+    const QImage image = cross->button(direction, size)->grab().toImage();
+    return image.copy(image.rect().adjusted(8, 8, -8, -8));
+  };
+  for (const MoveSize size : {MoveSize::Small, MoveSize::Large}) {
+    const QImage right = chevron(MoveDirection::Right, size);
+    for (const auto& [direction, degrees] :
+         {std::pair{MoveDirection::Down, 90}, std::pair{MoveDirection::Left, 180},
+          std::pair{MoveDirection::Up, 270}}) {
+      const QImage turned = right.transformed(QTransform().rotate(degrees));
+      EXPECT_LE(Difference(chevron(direction, size), turned), kRoundingOfColours) << degrees;
+    }
+  }
+}
+
+TEST_F(MoveCrossTest, ArrowsMoveTheFocusAlongTheCrossAndClickNothing) {
+  QSignalSpy clicks(cross->middle(), &QAbstractButton::clicked);
+  cross->middle()->setFocus();
+  struct Row {
+    Qt::Key key;
+    const char* focused;
+  };
+  for (const Row& row :
+       {Row{Qt::Key_Up, "ButtonUpSmall"}, Row{Qt::Key_Up, "ButtonUpLarge"},
+        Row{Qt::Key_Up, "ButtonUpLarge"}, Row{Qt::Key_Left, "ButtonUpLarge"},
+        Row{Qt::Key_Down, "ButtonUpSmall"}, Row{Qt::Key_Down, ""},
+        Row{Qt::Key_Right, "ButtonRightSmall"}, Row{Qt::Key_Right, "ButtonRightLarge"},
+        Row{Qt::Key_Right, "ButtonRightLarge"}, Row{Qt::Key_Down, "ButtonRightLarge"},
+        Row{Qt::Key_Left, "ButtonRightSmall"}, Row{Qt::Key_Left, ""},
+        Row{Qt::Key_Left, "ButtonLeftSmall"}, Row{Qt::Key_Left, "ButtonLeftLarge"},
+        Row{Qt::Key_Right, "ButtonLeftSmall"}, Row{Qt::Key_Right, ""},
+        Row{Qt::Key_Down, "ButtonDownSmall"}, Row{Qt::Key_Down, "ButtonDownLarge"},
+        Row{Qt::Key_Down, "ButtonDownLarge"}}) {
+    QTest::keyClick(QApplication::focusWidget(), row.key);
+    EXPECT_EQ(Focused(), row.focused);
+  }
+  EXPECT_TRUE(clicks.isEmpty());
+}
+
+TEST_F(MoveCrossTest, AClickActsOnceAndTakesTheFocus) {
+  auto* button = cross->button(MoveDirection::Up, MoveSize::Small);
+  QSignalSpy clicks(button, &QAbstractButton::clicked);
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(clicks.count(), 1);
+  EXPECT_TRUE(button->hasFocus());
+  QTest::keyClick(button, Qt::Key_Space);
+  EXPECT_EQ(clicks.count(), 2);
+}
+
+TEST_F(MoveCrossTest, TheEnterKeyTheWheelAndARepeatingKeyDoNothing) {
+  for (auto* button : cross->findChildren<QPushButton*>()) {
+    QSignalSpy clicks(button, &QAbstractButton::clicked);
+    EXPECT_FALSE(button->autoDefault());
+    EXPECT_FALSE(TurnWheel(button));
+    QTest::keyClick(button, Qt::Key_Return);
+    QTest::keyClick(button, Qt::Key_Enter);
+    for (int i = 0; i < 3; ++i) {
+      QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true);
+      QApplication::sendEvent(button, &press);
+      QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, " ", true);
+      QApplication::sendEvent(button, &release);
+    }
+    EXPECT_TRUE(clicks.isEmpty()) << button->objectName().toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace mortane
