@@ -12,6 +12,7 @@
 
 #include "common/Failure.h"
 #include "drives/clsControlOther.h"
+#include "model/FirmwareVersion.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/OptionGroup.h"
@@ -28,7 +29,6 @@ constexpr std::int32_t kFine = 3;
 
 // From this version on the body keeps the mode of its knobs to itself, and can disable the switches
 // of the hand controller.
-constexpr double kNewBody = 1.3;
 
 constexpr int kAutoOption = 0;
 constexpr int kManualOption = 1;
@@ -227,7 +227,7 @@ void ControlOtherCtl::LoadStageKnob() {
 void ControlOtherCtl::LoadKnobFrame() {
   FrameManualHandle->setVisible(hasFocusKnob_ || hasStageKnob_);
   if (!hasFocusKnob_ && !hasStageKnob_) return;
-  const bool changeable = other_.parent.ReadMicVer(controllerunit::kBody) < kNewBody;
+  const bool changeable = other_.parent.ReadMicVer(controllerunit::kBody) < kFullFirmware;
   for (OptionGroup* group : {optAuto, optXYAuto}) {
     for (int i = 0; i < group->count(); ++i) group->button(i)->setEnabled(changeable);
   }
@@ -252,7 +252,7 @@ void ControlOtherCtl::LoadBodySwitches() {
 }
 
 void ControlOtherCtl::LoadTactorSwitches() {
-  const bool offered = other_.parent.ReadMicVer(controllerunit::kBody) >= kNewBody &&
+  const bool offered = other_.parent.ReadMicVer(controllerunit::kBody) >= kFullFirmware &&
                        other_.parent.Controller(controllerunit::kHandController) &&
                        other_.curTactorSwEnable != kUnknown;
   FrameTactorSwich->setVisible(offered);

@@ -5,14 +5,12 @@
 #include "common/Numbers.h"
 #include "controller/ControllerNumbers.h"
 #include "interlocks/OtherAccessories.h"
+#include "model/FirmwareVersion.h"
 
 namespace mortane {
 namespace {
 
 constexpr std::string_view kFailure = "InterLock Other (";
-
-// From this version on a body also lets ND filter and field stop follow light path and zoom.
-constexpr double kFirstVersionWithStops = 1.3;
 
 // Versions of a body that has no interlock of the stage, both ends included.
 constexpr double kFirstVersionWithoutStage = 1.0;
@@ -142,7 +140,7 @@ void clsInterLockOther::ReadPath(const Change& change) {
   if (!parent.Controller(controllerunit::kBody) && !parent.Controller(controllerunit::kHub)) return;
   ReadFollower(change, accessory::kEpiFieldStop);
   status_.Set(change.accessory, ReadInterlock(parent, accessory::kEpiFieldStop, change.cause));
-  if (parent.ReadMicVer(controllerunit::kBody) < kFirstVersionWithStops) return;
+  if (parent.ReadMicVer(controllerunit::kBody) < kFullFirmware) return;
   ReadFollower(change, accessory::kNDFilter);
   ReadFollower(change, accessory::kDiaFieldStop);
 }

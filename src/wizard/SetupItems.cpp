@@ -1,7 +1,7 @@
 #include "wizard/SetupItems.h"
 
 #include "hub/clsK70.h"
-#include "wizard/FirmwareVersion.h"
+#include "model/FirmwareVersion.h"
 
 namespace mortane {
 namespace {
@@ -38,9 +38,9 @@ bool HasFocusDrive(clsK70& k70) {
 // A simulated hub without a body has the hand controller's tab and yet no such step.
 bool HasSwitches(clsK70& k70) {
   const double body = FirmwareVersion(k70, controllerunit::kBody);
-  if (body >= kFirmwareWithSwitches || body == kSimulatedVersion) return true;
+  if (HasSwitchFunctions(body)) return true;
   return k70.Controller(controllerunit::kHandController) &&
-         FirmwareVersion(k70, controllerunit::kHub) >= kFirmwareWithSwitches;
+         FirmwareVersion(k70, controllerunit::kHub) >= kFullFirmware;
 }
 
 }  // namespace

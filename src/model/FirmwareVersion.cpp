@@ -1,0 +1,14 @@
+#include "model/FirmwareVersion.h"
+
+#include "common/Failure.h"
+
+namespace mortane {
+
+double FirmwareVersion(const ConnectedMicroscope& microscope, std::int32_t unit) {
+  double version = kNoVersion;
+  ErrorTrap trap;
+  trap.Run([&] { version = microscope.ReadMicVer(unit); });
+  return version;
+}
+
+}  // namespace mortane
