@@ -127,12 +127,13 @@ void ControlFocusDriveCtl::LoadLowerLimit() {
 }
 
 void ControlFocusDriveCtl::LoadEscape() {
-  const bool known = drive_.KnowsEscape();
+  const EscapeFirmware firmware = drive_.BodyFirmware();
+  const bool known = firmware == EscapeFirmware::With;
   const bool hasStage = drive_.parent.IsMounted(accessory::kXYStage) != kNotMounted;
   frmEscapeSetting->setEnabled(known);
   EnableEscape(kFocusAxis, known);
   EnableEscape(kStageAxis, known && hasStage);
-  if (!known) {
+  if (firmware == EscapeFirmware::Without) {
     chkEscape[kFocusAxis]->setChecked(true);
     StoreEscape(kFocusAxis);  // also when it was on before
     return;

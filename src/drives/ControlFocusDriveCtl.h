@@ -37,7 +37,7 @@ class ControlFocusDriveCtl : public CardPage {
   ControlFocusDriveCtl(clsControlZDrive& drive, FollowNosepiece follow, QWidget* parent = nullptr);
 
   // Prepares the drive for moves where the nosepiece turns. Of a body without the escape in its
-  // firmware the focus drive's escape is set on.
+  // firmware the focus drive's escape is set on; a version that cannot be read sets nothing.
   void LoadData() override;
   // Stores the positions of all rows. "No Setting" is stored as 0.
   void SaveData() override;

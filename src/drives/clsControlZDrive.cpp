@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "drives/FileSettings.h"
+#include "model/FirmwareVersion.h"
 #include "model/UnitReport.h"
 
 namespace mortane {
@@ -18,7 +20,6 @@ constexpr std::int32_t kFocusAxis = 0;
 constexpr std::int32_t kStageAxis = 1;
 constexpr std::int32_t kUnknownEscapeMode = -1;
 constexpr std::int16_t kUnknownEscape = 2;
-constexpr double kFirstVersionWithEscape = 1.3;
 
 // What the controller wants to hear before real moves.
 constexpr std::int32_t kMoveProfile = 9;
@@ -117,11 +118,10 @@ bool clsControlZDrive::IsEnable() const {
          (HasLowerLimit() && curLowerLimit != kUnknown);
 }
 
-bool clsControlZDrive::KnowsEscape() const {
-  double version = kNoVersion;
-  ErrorTrap trap;
-  trap.Run([&] { version = parent.ReadMicVer(controllerunit::kBody); });
-  return version >= kFirstVersionWithEscape;
+EscapeFirmware clsControlZDrive::BodyFirmware() const {
+  const double version = FirmwareVersion(parent, controllerunit::kBody);
+  if (version == kNoVersion) return EscapeFirmware::Unknown;
+  return version >= kFullFirmware ? EscapeFirmware::With : EscapeFirmware::Without;
 }
 
 std::int32_t clsControlZDrive::CurPosition() const {
@@ -173,12 +173,15 @@ std::string clsControlZDrive::ReadSdk() {
   }
 }
 
+// Flags of a former read must not be sent after one that failed.
 void clsControlZDrive::ReadDrive() {
+  const EscapeFlags former = std::exchange(escape_, {kUnknownEscape, kUnknownEscape});
   curFocusCompensation = parent.Mic.ZDriveDevice().FocusCompensation();
   if (HasLowerLimit()) curLowerLimit = parent.Mic.ZDriveDevice().LowerLimit();
   const std::int32_t mode = parent.Mic.ControllerSettings().EscapeMode();
-  if (mode == kUnknownEscapeMode) escape_ = {kUnknownEscape, kUnknownEscape};
-  if (const EscapeRow* row = FindMode(mode)) escape_ = row->flags;
+  if (mode == kUnknownEscapeMode) return;
+  const EscapeRow* const row = FindMode(mode);
+  escape_ = row == nullptr ? former : row->flags;
 }
 
 std::string clsControlZDrive::ModifySdk(std::string& list) const {

@@ -11,6 +11,8 @@
 
 namespace mortane {
 
+enum class EscapeFirmware { Unknown, Without, With };
+
 // Owned by clsK70. Positions are steps of 0.05 micrometres. Only a drive that can be commanded
 // has settings; -1 is a setting that is unknown or not applicable.
 class clsControlZDrive {
@@ -42,9 +44,9 @@ class clsControlZDrive {
 
   bool IsEnable() const;
 
-  // Whether the body's firmware knows the escape: from version 1.3. A body that does not tell its
-  // version counts as one without.
-  bool KnowsEscape() const;
+  // By the version of the body's firmware, from 1.3 on with; a version that cannot be read is
+  // Unknown.
+  EscapeFirmware BodyFirmware() const;
 
   // Real moves, as DriveMotion tells. MoveStart prepares the hardware for them.
   std::int32_t CurPosition() const;
@@ -57,7 +59,8 @@ class clsControlZDrive {
   void SelectNose(std::int32_t address) const;
   std::int32_t NosePosition() const { return motion_.NosePosition(); }
 
-  // An escape mode that is not known leaves the flags.
+  // A read that fails leaves the escape unknown, which is not written. A mode outside the table
+  // leaves the flags.
   std::string ReadSdk();
   // Does not compare the compensation.
   std::string ModifySdk(std::string& list) const;

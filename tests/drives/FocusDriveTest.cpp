@@ -190,25 +190,30 @@ TEST(FocusDrive, WithoutADriveNothingIsReadComparedOrWritten) {
 struct VersionRow {
   const char* bench;
   const char* version;
-  bool knowsEscape;
+  EscapeFirmware firmware;
 };
 
 TEST(FocusDrive, TheBodysFirmwareKnowsTheEscapeFromVersion13) {
+  using enum EscapeFirmware;
   for (const VersionRow& row :
-       {VersionRow{"Harbour", "V1.3", true}, VersionRow{"Harbour", "V1.30b", true},
-        VersionRow{"Harbour", "V1.29", false}, VersionRow{"Harbour", "V2.0", true},
-        VersionRow{"Harbour", "V1.10", false}, VersionRow{"Harbour", "vDEMO", false},
-        VersionRow{"Harbour", "", false}, VersionRow{"Hub", "V1.3", false}}) {
+       {VersionRow{"Harbour", "V1.3", With}, VersionRow{"Harbour", "V1.30b", With},
+        VersionRow{"Harbour", "V1.29", Without}, VersionRow{"Harbour", "V2.0", With},
+        VersionRow{"Harbour", "V1.10", Without}, VersionRow{"Harbour", "vDEMO", Without},
+        VersionRow{"Harbour", "", Without}, VersionRow{"Hub", "V1.3", Unknown}}) {
     Rig rig(row.bench);
     rig.instrument().Unit(1).version = row.version;
     rig.Connect();
-    EXPECT_EQ(rig.k70.CZDrive.KnowsEscape(), row.knowsEscape) << row.bench << row.version;
+    EXPECT_EQ(rig.k70.CZDrive.BodyFirmware(), row.firmware) << row.bench << row.version;
     EXPECT_LE(rig.journal.CallCount(), 1U);
   }
+}
+
+TEST(FocusDrive, AVersionThatCannotBeReadSaysNothingAboutTheEscape) {
   Rig rig("Harbour");
+  EXPECT_EQ(rig.k70.CZDrive.BodyFirmware(), EscapeFirmware::Unknown);
   rig.Connect();
   rig.faults.Add({"ControllerVersion"});
-  EXPECT_FALSE(rig.k70.CZDrive.KnowsEscape());
+  EXPECT_EQ(rig.k70.CZDrive.BodyFirmware(), EscapeFirmware::Unknown);
 }
 
 TEST(FocusDrive, ACondenserOrItsSensorTakesTheLowerLimitAway) {
@@ -235,18 +240,62 @@ TEST(FocusDrive, AReadThatFailsGivesItsNumberInDecimal) {
   rig.ConnectAndReceive();
   rig.faults.Add({"ZDriveDevice.FocusCompensation"});
   EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "Control Focus Drive (LIB:-2147467259)");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 -1 11");
+  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 -1 22");
 }
 
-TEST(FocusDrive, AReadThatFailsKeepsWhatWasReadBefore) {
+TEST(FocusDrive, AReadThatFailsKeepsWhatItReadBeforeAndLeavesTheEscapeUnknown) {
   Rig rig("Lantern");
   rig.ConnectAndReceive();
   rig.faults.Add({"ControllerSettings.EscapeMode", 0, "COM", 55});
   EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "Control Focus Drive (COM:55)");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "1 1 10");
+  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "1 1 22");
+  SetEscape(rig.k70.CZDrive, 1, 0);
   rig.faults.Add({"ZDriveDevice.LowerLimit"});
   EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "Control Focus Drive (LIB:-2147467259)");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "1 -1 10");
+  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "1 -1 22");
+}
+
+TEST(FocusDrive, AfterAReadThatFailedAtAnyCallNoEscapeModeIsWritten) {
+  const auto make = [] {
+    auto rig = std::make_unique<Rig>("Lantern");
+    rig->Connect();
+    return rig;
+  };
+  const auto read = [](clsK70& k70) { return k70.CZDrive.ReadSdk(); };
+  const std::size_t calls = FailEachCallOf(make, read, [&](Rig& rig, std::size_t k) {
+    EXPECT_NE(read(rig.k70), "") << k;
+    EXPECT_EQ(rig.k70.CZDrive.SetEscape(0), 2) << k;
+    EXPECT_EQ(rig.k70.CZDrive.SetEscape(1), 2) << k;
+    EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "") << k;
+    EXPECT_TRUE(rig.journal.Writes().empty()) << k;
+  });
+  EXPECT_EQ(calls, 6U);
+}
+
+TEST(FocusDrive, TheEscapeOfAMicroscopeIsNotSentToTheNextOneAfterAFailedRead) {
+  Rig rig(List({"Quay", "Harbour", "Lantern"}));
+  ASSERT_TRUE(rig.k70.Connect(1));
+  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
+  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "3 -1 11");
+  rig.k70.Disconnect();
+  ASSERT_TRUE(rig.k70.Connect(2));
+  rig.faults.Add({"ControllerSettings.EscapeMode"});
+  EXPECT_NE(rig.k70.CZDrive.ReadSdk(), "");
+  rig.faults.Clear();
+  rig.journal.Clear();
+  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+  EXPECT_TRUE(rig.journal.Writes().empty());
+}
+
+TEST(FocusDrive, AnEscapeModeThatNobodyKnowsLeavesFlagsThatAreUnknown) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.faults.Add({"ControllerSettings.EscapeMode"});
+  EXPECT_NE(rig.k70.CZDrive.ReadSdk(), "");
+  rig.faults.Clear();
+  rig.instrument().escapeMode = 7;
+  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
+  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "3 -1 22");
 }
 
 TEST(FocusDrive, AComparisonThatFailsGivesItsNumberInHexadecimal) {

@@ -180,14 +180,46 @@ TEST(FocusPage, AVersionOfExactly13ShowsTheEscapeSettings) {
   }
 }
 
-TEST(FocusPage, AVersionThatCannotBeReadCountsAsNoneAndIsNoBox) {
-  FocusRig rig;
+// What the model holds is shown, disabled.
+TEST(FocusPage, AVersionThatCannotBeReadDisablesTheEscapeAndStoresNothing) {
+  for (const std::int16_t flag : {std::int16_t{0}, std::int16_t{1}, std::int16_t{2}}) {
+    FocusRig rig;
+    rig.drive().SetEscape(0, flag);
+    rig.drive().SetEscape(1, flag);
+    rig.faults.Add({"ControllerVersion(1)"});
+    rig.page.LoadData();
+    EXPECT_FALSE(rig.page.frmEscapeSetting->isEnabled());
+    for (std::size_t axis = 0; axis < 2; ++axis) {
+      EXPECT_FALSE(rig.page.chkEscape[axis]->isEnabled());
+      EXPECT_EQ(rig.page.chkEscape[axis]->text(), flag == 1 ? "ON" : "OFF");
+      EXPECT_EQ(rig.page.chkEscape[axis]->isUnknown(), flag == 2);
+    }
+    EXPECT_EQ(rig.drive().SetEscape(0), flag);
+    EXPECT_EQ(rig.drive().SetEscape(1), flag);
+    EXPECT_TRUE(rig.prompts.Boxes().empty());
+  }
+}
+
+TEST(FocusPage, WithoutABodyOrAConnectionTheEscapeStays) {
+  for (const Link link : {Link::None, Link::Reported}) {
+    PageRig rig("Outpost", link);
+    rig.k70().CZDrive.SetEscape(0, 0);
+    auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+    EXPECT_FALSE(page.frmEscapeSetting->isEnabled());
+    EXPECT_EQ(page.chkEscape[0]->text(), "OFF");
+    EXPECT_EQ(rig.k70().CZDrive.SetEscape(0), 0);
+  }
+}
+
+// After a loading that set the escape on, of a body that does not know it.
+TEST(FocusPage, ABodyThatIsLostKeepsTheEscapeOfTheModel) {
+  FocusRig rig("Lantern");
+  ASSERT_EQ(rig.page.chkEscape[0]->text(), "ON");
   rig.drive().SetEscape(0, 0);
   rig.faults.Add({"ControllerVersion(1)"});
   rig.page.LoadData();
-  EXPECT_FALSE(rig.page.frmEscapeSetting->isEnabled());
-  EXPECT_EQ(rig.page.chkEscape[0]->text(), "ON");
-  EXPECT_TRUE(rig.prompts.Boxes().empty());
+  EXPECT_EQ(rig.page.chkEscape[0]->text(), "OFF");
+  EXPECT_EQ(rig.drive().SetEscape(0), 0);
 }
 
 // The page shows it on from the loading before, and what it shows is what is sent.
