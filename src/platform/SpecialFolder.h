@@ -11,4 +11,7 @@ inline constexpr int kApplicationDataFolder = 26;
 // there yet; an empty text for any other number and when the system names none.
 std::string GetSpecialFolder(int folder);
 
+// The user's folder for what a program keeps for him, as above.
+std::string UserDataFolder();
+
 }  // namespace mortane

@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <string>
+#include <vector>
 
+#include "common/Failure.h"
 #include "support/TempFolder.h"
 
 namespace mortane {
@@ -44,6 +48,46 @@ TEST(MakeFolder, AnswersFalseWhereAFileStandsInTheWay) {
 
 TEST(MakeFolder, AnswersFalseForNoName) {
   EXPECT_FALSE(MakeFolder(""));
+}
+
+TEST(NamesInFolder, AreThoseOfFilesAndFolders) {
+  const test::TempFolder folder;
+  EXPECT_TRUE(NamesInFolder(folder.Path("")).empty());
+  folder.Write("a.xml", "x");
+  folder.Write(".hidden", "x");
+  folder.Write("\xC3\xA9 b", "x");
+  ASSERT_TRUE(MakeFolder(folder.Path("sub/deep")));
+  std::vector<std::string> names = NamesInFolder(folder.Path(""));
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (std::vector<std::string>{".hidden", "a.xml", "sub", "\xC3\xA9 b"}));
+}
+
+TEST(NamesInFolder, AreNoneWhereNoFolderIs) {
+  const test::TempFolder folder;
+  const std::string file = folder.Write("a.xml", "x");
+  for (const std::string& path : {file, folder.Path("missing"), std::string()}) {
+    EXPECT_TRUE(NamesInFolder(path).empty()) << path;
+  }
+}
+
+TEST(RemoveFile, RemovesIt) {
+  const test::TempFolder folder;
+  const std::string file = folder.Write("a.xml", "x");
+  folder.Write("b.xml", "x");
+  RemoveFile(file);
+  EXPECT_EQ(NamesInFolder(folder.Path("")), std::vector<std::string>{"b.xml"});
+}
+
+TEST(RemoveFile, TellsOfAFileThatIsMissing) {
+  const test::TempFolder folder;
+  const std::string path = folder.Path("missing.xml");
+  try {
+    RemoveFile(path);
+    FAIL() << "removed what is not there";
+  } catch (const Failure& failure) {
+    EXPECT_TRUE(failure.Description().starts_with("Cannot remove " + path + ": "))
+        << failure.Description();
+  }
 }
 
 }  // namespace

@@ -15,5 +15,11 @@ TEST(GetSpecialFolder, GivesTheApplicationDataWithoutASeparatorAtItsEnd) {
   EXPECT_EQ(std::string("/\\").find(folder.back()), std::string::npos) << folder;
 }
 
+TEST(UserDataFolder, HasNoSeparatorAtItsEnd) {
+  const std::string folder = UserDataFolder();
+  ASSERT_NE(folder, "");
+  EXPECT_EQ(std::string("/\\").find(folder.back()), std::string::npos) << folder;
+}
+
 }  // namespace
 }  // namespace mortane

@@ -22,15 +22,23 @@ std::string WithoutSeparatorAtEnd(std::string folder) {
   return folder;
 }
 
+std::string BaseFolder(const char* variable, const char* belowHome) {
+  // A relative path there is invalid and to be ignored.
+  const std::string configured = EnvironmentVariable(variable);
+  if (configured.starts_with('/')) return WithoutSeparatorAtEnd(configured);
+  const std::string home = HomeFolder();
+  return home.empty() ? std::string() : WithoutSeparatorAtEnd(home) + belowHome;
+}
+
 }  // namespace
 
 std::string GetSpecialFolder(int folder) {
   if (folder != kApplicationDataFolder) return {};
-  // A relative path there is invalid and to be ignored.
-  const std::string configured = EnvironmentVariable("XDG_CONFIG_HOME");
-  if (configured.starts_with('/')) return WithoutSeparatorAtEnd(configured);
-  const std::string home = HomeFolder();
-  return home.empty() ? std::string() : WithoutSeparatorAtEnd(home) + "/.config";
+  return BaseFolder("XDG_CONFIG_HOME", "/.config");
+}
+
+std::string UserDataFolder() {
+  return BaseFolder("XDG_DATA_HOME", "/.local/share");
 }
 
 }  // namespace mortane

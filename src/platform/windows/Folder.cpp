@@ -2,7 +2,11 @@
 
 #include <windows.h>
 
+#include <utility>
+
+#include "platform/windows/FileFailure.h"
 #include "platform/windows/SystemPath.h"
+#include "platform/windows/Wide.h"
 
 namespace mortane {
 namespace {
@@ -33,6 +37,27 @@ bool Make(const std::wstring& folder) {
 bool MakeFolder(const std::string& utf8Path) {
   const std::wstring folder = SystemPath(utf8Path);
   return !folder.empty() && !IsDevicePath(folder) && Make(folder);
+}
+
+std::vector<std::string> NamesInFolder(const std::string& utf8Path) {
+  std::vector<std::string> names;
+  const std::wstring folder = SystemPath(utf8Path);
+  if (folder.empty() || IsDevicePath(folder)) return names;
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW((WithoutSeparatorAtEnd(folder) + L"\\*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    std::string name = ToUtf8(found.cFileName);
+    if (name != "." && name != "..") names.push_back(std::move(name));
+  } while (FindNextFileW(search, &found) != 0);
+  FindClose(search);
+  return names;
+}
+
+void RemoveFile(const std::string& utf8Path) {
+  const std::wstring path = SystemPath(utf8Path);
+  if (path.empty() || IsDevicePath(path)) RaiseNoRegularFile("remove", utf8Path);
+  if (DeleteFileW(path.c_str()) == 0) RaiseFileFailure("remove", utf8Path, GetLastError());
 }
 
 }  // namespace mortane

@@ -18,4 +18,8 @@ std::string GetSpecialFolder(int folder) {
   return TruncateAtNul(ToUtf8({path.data(), path.size()}));
 }
 
+std::string UserDataFolder() {
+  return GetSpecialFolder(kApplicationDataFolder);
+}
+
 }  // namespace mortane

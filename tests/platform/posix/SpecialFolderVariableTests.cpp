@@ -57,6 +57,19 @@ TEST(GetSpecialFolder, FollowsTheConfigurationFolderAndThenHome) {
   }
 }
 
+TEST(UserDataFolder, FollowsTheDataFolderAndThenHome) {
+  const Row rows[] = {
+      {"/d/", "/people/u", "/d"},
+      {nullptr, "/people/u", "/people/u/.local/share"},
+      {"relative", "/people/u/", "/people/u/.local/share"},
+  };
+  for (const Row& row : rows) {
+    const Variable configured("XDG_DATA_HOME", row.configured);
+    const Variable home("HOME", row.home);
+    EXPECT_EQ(UserDataFolder(), row.folder);
+  }
+}
+
 TEST(GetSpecialFolder, AsksTheUserTableWithoutHome) {
   const Variable configured("XDG_CONFIG_HOME", nullptr);
   const Variable home("HOME", nullptr);
