@@ -38,6 +38,9 @@ TransferStep MakeEnabledStep(std::string_view name, Unit& unit) {
 // program: it becomes the line "Unit ", the unit's name and the failure, and the transfer goes on.
 std::string ReportOf(std::string_view unit, const std::function<std::string()>& operation);
 
+// The step before those of the units.
+inline constexpr std::string_view kSystemNameTransfer = "SystemName";
+
 // Steps in the order of Send and Modify.
 using TransferTable = std::vector<TransferStep>;
 

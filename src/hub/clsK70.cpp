@@ -25,11 +25,13 @@ clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts, NamedMu
     : ConnectedMicroscope(prompts),
       library_(library),
       makeMutex_(std::move(makeMutex)),
-      turrets_{{{accessory::kNosepiece,
-                 "Nosepiece Count",
-                 {&curNosepiece.Count, &CXYDrive.NoseCount, &CZDrive.NoseCount}},
-                {accessory::kFilterCube, "Filter Cube Count", {&curFilter.Count}},
-                {accessory::kCondenser, "Condenser Count", {&curCondenser.Count}}}} {
+      turrets_{
+          {{accessory::kNosepiece,
+            "Nosepiece Count",
+            "curNosepiece",
+            {&curNosepiece.Count, &CXYDrive.NoseCount, &CZDrive.NoseCount}},
+           {accessory::kFilterCube, "Filter Cube Count", "curFilter", {&curFilter.Count}},
+           {accessory::kCondenser, "Condenser Count", "curCondenser", {&curCondenser.Count}}}} {
   FillTables();
 }
 

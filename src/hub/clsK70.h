@@ -99,6 +99,11 @@ class clsK70 : public ConnectedMicroscope {
   bool Send();
   std::string Modify();
 
+  // By the name of a row of the transfers, or kSystemNameTransfer: whether the last Receive from
+  // this device read it without a failure, and whether a Send or Modify would run through it now.
+  bool WasRead(std::string_view transfer) const;
+  bool IsSent(std::string_view transfer) const;
+
   // Look up the sections of a settings file, read the wanted ones, write all. What went wrong is
   // shown; reading and writing answer whether nothing did.
   void ReadXMLItems(const std::string& fname);
@@ -121,6 +126,7 @@ class clsK70 : public ConnectedMicroscope {
   struct Turret {
     std::int32_t accessory;
     std::string_view failureLabel;
+    std::string_view transfer;  // that depends on the count
     // Members of units that store the count: the drives, too, keep that of the nosepiece.
     std::vector<std::int32_t*> counts;
   };
@@ -154,6 +160,7 @@ class clsK70 : public ConnectedMicroscope {
   NamedMutexMaker makeMutex_;
   std::unique_ptr<clsMutex> mutex_;
   TransferTable transfers_;
+  std::vector<std::string_view> readTransfers_;
   FileTable fileTable_;
   std::array<Turret, 3> turrets_;
 };

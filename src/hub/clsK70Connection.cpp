@@ -66,6 +66,7 @@ std::string clsK70::DeviceNameOf(std::int32_t index) const {
 }
 
 bool clsK70::Connect(std::int32_t DeviceNo) {
+  readTransfers_.clear();
   bool connected = false;
   try {
     const std::int32_t count = Mic.DeviceList().Count();

@@ -1,4 +1,6 @@
 // Receive, Send and Modify: loops over the table of transfers.
+#include <algorithm>
+
 #include "common/Text.h"
 #include "hub/clsK70.h"
 #include "model/UnitReport.h"
@@ -12,11 +14,15 @@ constexpr std::string_view kSystemNameLine = "System Name";
 
 bool clsK70::Receive() {
   Progress(0);
+  readTransfers_.clear();
   std::string failures = ReadSystemName();
+  if (failures.empty()) readTransfers_.push_back(kSystemNameTransfer);
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
     Progress(i + 1);
     const TransferStep& step = transfers_[i];
-    failures = AppendLine(std::move(failures), ReportOf(step.unit, step.read));
+    const std::string failure = ReportOf(step.unit, step.read);
+    if (failure.empty()) readTransfers_.push_back(step.unit);
+    failures = AppendLine(std::move(failures), failure);
   }
   failures = AppendLine(std::move(failures), ReadTurretCounts());
   Progress(transfers_.size() + 1);
@@ -48,6 +54,17 @@ std::string clsK70::Modify() {
   return differences;
 }
 
+bool clsK70::WasRead(std::string_view transfer) const {
+  return std::find(readTransfers_.begin(), readTransfers_.end(), transfer) != readTransfers_.end();
+}
+
+bool clsK70::IsSent(std::string_view transfer) const {
+  if (transfer == kSystemNameTransfer) return true;
+  const auto step = std::find_if(transfers_.begin(), transfers_.end(),
+                                 [&](const TransferStep& row) { return row.unit == transfer; });
+  return step != transfers_.end() && step->gate();
+}
+
 std::string clsK70::ReadSystemName() {
   return LineIfFailed(kSystemNameLine, [this] { SystemName = Entry().Name(); });
 }
@@ -65,8 +82,10 @@ std::string clsK70::ReadTurretCounts() {
   std::string failures;
   for (const Turret& turret : turrets_) {
     std::int32_t count = 0;
-    failures = AppendLine(std::move(failures),
-                          LineIfFailed(turret.failureLabel, [&] { count = TurretCount(turret); }));
+    const std::string failure =
+        LineIfFailed(turret.failureLabel, [&] { count = TurretCount(turret); });
+    if (!failure.empty()) std::erase(readTransfers_, turret.transfer);
+    failures = AppendLine(std::move(failures), failure);
     for (std::int32_t* stored : turret.counts) *stored = count;
   }
   return failures;
