@@ -16,9 +16,12 @@ LAYERS = (
     ("model",),
     ("objectives", "filters", "condensers", "interlocks", "drives", "switches"),
     ("hub",),
-    ("app",),
+    ("record",),
+    ("app", "ctl"),
     ("wizard",),
 )
+# The program of the command line, which nothing else includes.
+PROGRAM = "ctl"
 # The kit of controls stands beside them, the drawings made of it above: they see the texts of the
 # core alone, and only pages and windows see them.
 KIT = ("widgets", "drawings")
@@ -84,6 +87,8 @@ def direction_problem(name, target):
         return None if is_page(target) else f"{own} may not include {other}"
     if other == ACCESSIBLE:
         return None if own in ("app", "wizard") else f"only the windows may include {other}"
+    if other == PROGRAM:
+        return f"{own} may not include {other}"
     if is_page(name) and other == "controller":
         return "a page asks its units, not the controller"
     if rank(own) is None or rank(other) is None or rank(other) >= rank(own):
@@ -190,6 +195,10 @@ GOOD = {
         '#include "objectives/clsNosepiece.h"\n#include "widgets/Card.h"\n',
     "src/app/main.cpp":
         '#include <QApplication>\n#include "hub/clsK70.h"\n#include "objectives/ObjectiveCtl.h"\n',
+    "src/record/Report.h": '#include "hub/clsK70.h"\n',
+    "src/app/Report.cpp": '#include "record/Report.h"\n',
+    "src/wizard/Report.cpp": '#include "record/Report.h"\n',
+    "src/ctl/Arguments.h": '#include <CLI/CLI.hpp>\n#include "record/Report.h"\n',
     "src/platform/Sleep.h": "",
     "src/platform/posix/Sleep.cpp": "#include <unistd.h>\n",
     "src/platform/windows/Sleep.cpp": "#include <windows.h>\n#ifdef __MINGW32__\n#endif\n",
@@ -243,6 +252,21 @@ BAD = {
     "a room that no layer names": (
         {"src/utils/Misc.h": "", "src/app/Main.cpp": '#include "utils/Misc.h"\n'},
         "src/app/Main.cpp:1"),
+    "the hub that includes the record": (
+        {"src/hub/clsK70.cpp": '#include "record/Report.h"\n'}, "src/hub/clsK70.cpp:1"),
+    "the record that includes the command line": (
+        {"src/record/Report.cpp": '#include "ctl/Arguments.h"\n'}, "src/record/Report.cpp:1"),
+    "a window that includes the command line": (
+        {"src/app/Report.cpp": '#include "ctl/Arguments.h"\n'}, "src/app/Report.cpp:1"),
+    "the wizard that includes the command line": (
+        {"src/wizard/Report.cpp": '#include "ctl/Arguments.h"\n'}, "src/wizard/Report.cpp:1"),
+    "the command line that includes a window": (
+        {"src/app/Main.h": "", "src/ctl/Arguments.cpp": '#include "app/Main.h"\n'},
+        "src/ctl/Arguments.cpp:1"),
+    "the command line with Qt": (
+        {"src/ctl/Arguments.cpp": "#include <QString>\n"}, "src/ctl/Arguments.cpp:1"),
+    "Qt in the record": (
+        {"src/record/Report.cpp": "#include <QString>\n"}, "src/record/Report.cpp:1"),
     "Qt in the core": ({"src/hub/clsK70.cpp": "#include <QString>\n"}, "src/hub/clsK70.cpp:1"),
     "Qt by its module's folder": (
         {"src/common/Text.cpp": "#include <QtCore/QString>\n"}, "src/common/Text.cpp:1"),

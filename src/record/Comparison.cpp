@@ -1,0 +1,211 @@
+#include "record/Comparison.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <optional>
+#include <utility>
+
+#include "common/Text.h"
+#include "controller/ControllerNumbers.h"
+#include "interlocks/OtherAccessories.h"
+#include "record/ItemIndex.h"
+#include "record/ModelItems.h"
+#include "record/SentItems.h"
+
+namespace mortane {
+namespace {
+
+constexpr std::string_view kUnknownWord = "Unknown";
+constexpr std::string_view kBuzzerOn = "False";
+constexpr std::string_view kBuzzerOff = "True";
+constexpr std::string_view kBuzzersDiffer = "2";
+constexpr std::int16_t kSkipWithoutCode = 2;
+
+ConfigurationItem Unknown(ConfigurationItem item) {
+  item.value = kUnknownWord;
+  item.exact.clear();
+  return item;
+}
+
+// The controller holds the limits as one number, and the escapes as another: none is written while
+// one of them has no place in it.
+bool LimitsCanBeSent(const clsK70& k70) {
+  const clsLimitation& limits = k70.curLimit;
+  return limits.curIncrease >= 0 && limits.curSkip >= 0 && limits.curImmersion >= 0 &&
+         limits.curSkip != kSkipWithoutCode;
+}
+
+bool EscapesCanBeSent(const clsK70& k70) {
+  return k70.CZDrive.SetEscape(0) <= 1 && k70.CZDrive.SetEscape(1) <= 1;
+}
+
+bool CanBeSent(const clsK70& k70, ItemKind kind) {
+  if (kind == ItemKind::NosepieceLimit) return LimitsCanBeSent(k70);
+  if (kind == ItemKind::FocusEscape || kind == ItemKind::StageEscape) return EscapesCanBeSent(k70);
+  return true;
+}
+
+// The buzzers that a Send commands: those of body, hub and hand controller where there is a body or
+// a hub, and a remote's, which answers to the hub's number.
+std::vector<std::int32_t> CommandedBuzzers(const clsK70& k70) {
+  struct Row {
+    std::int32_t unit;
+    std::int32_t code;
+  };
+  std::vector<std::int32_t> codes;
+  if (k70.Controller(controllerunit::kBody) || k70.Controller(controllerunit::kHub)) {
+    for (const Row& row :
+         {Row{controllerunit::kBody, buzzer::kBody}, Row{controllerunit::kHub, buzzer::kHub},
+          Row{controllerunit::kHandController, buzzer::kHandController}}) {
+      if (k70.Controller(row.unit)) codes.push_back(row.code);
+    }
+  }
+  if (k70.Controller(controllerunit::kRemote)) codes.push_back(buzzer::kHub);
+  return codes;
+}
+
+ConfigurationItem BuzzerItem(ConfigurationItem item, bool on, bool off) {
+  item.exact.clear();
+  if (on && off) {
+    item.value = kUnknownWord;
+    item.exact = kBuzzersDiffer;
+  } else {
+    item.value = on ? kBuzzerOn : kBuzzerOff;
+  }
+  return item;
+}
+
+class Comparer {
+ public:
+  Comparer(const clsK70& k70, const ConfigurationState& held)
+      : k70_(k70), held_(held.items), sent_(k70) {}
+
+  Comparison Run(const DomDocument* file) {
+    for (const ConfigurationItem& item : ItemsOf(k70_)) Add(item);
+    if (file != nullptr) {
+      const std::vector<ConfigurationItem> items = ItemsOf(*file);
+      const ItemIndex index(items);
+      for (const ConfigurationItem& item : items) {
+        if (index.Counts(item)) AddIfMissing(item);
+      }
+    }
+    return std::move(comparison_);
+  }
+
+ private:
+  ConfigurationItem HeldItem(const ConfigurationItem& wanted) const {
+    const ConfigurationItem* held = held_.Find(wanted.key);
+    return held == nullptr ? Unknown(wanted) : *held;
+  }
+
+  void Add(const ConfigurationItem& wanted) {
+    if (TransferOf(wanted.kind).empty() || IsRepetition(wanted)) return;
+    ConfigurationItem held = HeldItem(wanted);
+    const bool wasRead = k70_.WasRead(TransferOf(wanted.kind));
+    const bool bothKnown = IsKnown(held) && IsKnown(wanted);
+    const bool asks = wanted.kind == ItemKind::Buzzer;
+    if (wasRead && bothKnown && !asks && HaveSameValue(held, wanted)) return;
+    const std::optional<bool> fitted = sent_.IsFitted(wanted);
+    if (fitted == false) return;
+    if (!fitted || !wasRead || !IsKnown(wanted)) {
+      comparison_.unknown.push_back({std::move(held), wanted});
+    } else if (k70_.IsSent(TransferOf(wanted.kind))) {
+      AddSent(std::move(held), wanted);
+    }
+  }
+
+  void AddSent(ConfigurationItem held, ConfigurationItem wanted) {
+    if (!CanBeSent(k70_, wanted.kind)) {
+      comparison_.unknown.push_back({std::move(held), std::move(wanted)});
+      return;
+    }
+    try {
+      if (wanted.kind == ItemKind::Buzzer) {
+        AddBuzzer(std::move(wanted));
+      } else if (IsKnown(held) || !HoldsAlready(wanted)) {
+        comparison_.changed.push_back({std::move(held), std::move(wanted)});
+      }
+    } catch (const Failure&) {
+      comparison_.unknown.push_back({Unknown(wanted), std::move(wanted)});
+    }
+  }
+
+  // All buzzers are commanded, and the model has one value for them.
+  void AddBuzzer(ConfigurationItem wanted) {
+    bool on = false;
+    bool off = false;
+    for (const std::int32_t code : CommandedBuzzers(k70_)) {
+      (k70_.Mic.BuzzerEnabled(code) == 1 ? on : off) = true;
+    }
+    const bool wantsOn = k70_.COther.curBuzzer == 0;
+    if (wantsOn ? !off : !on) return;
+    comparison_.changed.push_back(
+        {BuzzerItem(wanted, on, off), BuzzerItem(wanted, wantsOn, !wantsOn)});
+  }
+
+  // Of what follows light path and zoom a Receive reads less than a Send writes.
+  bool HoldsAlready(const ConfigurationItem& wanted) const {
+    const bool path = wanted.kind == ItemKind::LightPathInterlock;
+    if (!path && wanted.kind != ItemKind::ZoomInterlock) return false;
+    for (const OtherAccessory& row : kOtherAccessories) {
+      if (row.word != wanted.key.position) continue;
+      const std::int32_t state =
+          path ? k70_.ILOther.LightPathStatus(row.number) : k70_.ILOther.ZoomStatus(row.number);
+      return state ==
+             ReadInterlock(k70_, row.number, path ? trigger::kLightPath : trigger::kOpticalZoom);
+    }
+    return false;
+  }
+
+  // Of an item of the file that a Send cannot write.
+  void AddIfMissing(const ConfigurationItem& item) {
+    if (!IsWanted(item.key.section) || !IsKnown(item) || IsRepetition(item)) return;
+    const ConfigurationItem* held = held_.Find(item.key);
+    if (held != nullptr && RightTrim(held->value) == RightTrim(item.value)) return;
+    if (sent_.IsSent(item) == false) comparison_.notOnMicroscope.push_back(item);
+  }
+
+  // A section that the program does not know is nowhere to be left out.
+  bool IsWanted(const std::string& section) const {
+    for (std::size_t i = 0; i < kFileSections.size(); ++i) {
+      if (kFileSections[i].element == section) {
+        return k70_.FileItem(static_cast<std::int16_t>(i)) != 0;
+      }
+    }
+    return true;
+  }
+
+  const clsK70& k70_;
+  ItemIndex held_;
+  SentItems sent_;
+  Comparison comparison_;
+};
+
+}  // namespace
+
+ConfigurationState StateOf(const clsK70& k70) {
+  return {ItemsOf(k70), ItemNames(k70)};
+}
+
+ConfigurationState StateOf(const DomDocument& document) {
+  std::vector<ConfigurationItem> items = ItemsOf(document);
+  ItemNames names(items);
+  return {std::move(items), std::move(names)};
+}
+
+Comparison Compare(const clsK70& k70, const ConfigurationState& held, const DomDocument* file) {
+  return Comparer(k70, held).Run(file);
+}
+
+std::vector<ItemChange> NotTaken(const Comparison& sent, const ConfigurationState& held) {
+  const ItemIndex index(held.items);
+  std::vector<ItemChange> notTaken;
+  for (const ItemChange& change : sent.changed) {
+    const ConfigurationItem* now = index.Find(change.to.key);
+    if (now != nullptr && HaveSameValue(*now, change.to)) continue;
+    notTaken.push_back({now == nullptr ? Unknown(change.to) : *now, change.to});
+  }
+  return notTaken;
+}
+
+}  // namespace mortane

@@ -1,0 +1,15 @@
+// The items of the model of a microscope.
+#pragma once
+
+#include <vector>
+
+#include "hub/clsK70.h"
+#include "record/ConfigurationItems.h"
+
+namespace mortane {
+
+// What a settings file of the model would hold, with the exact values behind its texts. Raises a
+// Failure for a text that XML cannot hold.
+std::vector<ConfigurationItem> ItemsOf(const clsK70& k70);
+
+}  // namespace mortane
