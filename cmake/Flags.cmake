@@ -26,6 +26,12 @@ if(MORTANE_SANITIZE)
   target_link_options(mortane_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Of code that uses the toolkit: no silent conversion between texts and bytes, no keywords that are
+# macros, nothing that was deprecated when the oldest supported release came out.
+add_library(mortane_qt_flags INTERFACE)
+target_compile_definitions(mortane_qt_flags INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
 # Of the tests' code, which is built far more often than it runs: neither instrumented nor
 # optimised. Programs and the objects that they share need the same kind of code to share
 # precompiled headers.

@@ -5,6 +5,8 @@
 #include "accessible/AccessibleClick.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInterface {
@@ -93,7 +95,7 @@ QString AccessibleItems::text(QAccessible::Text part) const {
 
 QString AccessibleItems::itemName(int index) const {
   const QString text = itemText(index);
-  return text.trimmed().isEmpty() ? QStringLiteral("Blank") : text;
+  return text.trimmed().isEmpty() ? u"Blank"_s : text;
 }
 
 QRect AccessibleItems::itemRect(int index) const {

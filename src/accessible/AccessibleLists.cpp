@@ -9,6 +9,8 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 AccessibleList::AccessibleList(ListBox* list)
     : AccessibleItems(list, QAccessible::List, QAccessible::ListItem), list_(*list) {}
 
@@ -27,9 +29,9 @@ QString AccessibleList::itemText(int index) const {
     const QString text = row->text(column);
     if (text.isEmpty()) continue;
     const QString header = list_.isHeaderHidden() ? QString() : list_.headerItem()->text(column);
-    cells.append(header.isEmpty() ? text : header + QLatin1Char(' ') + text);
+    cells.append(header.isEmpty() ? text : header + u' ' + text);
   }
-  return cells.join(QStringLiteral(", "));
+  return cells.join(u", "_s);
 }
 
 QRect AccessibleList::itemArea(int index) const {
@@ -129,7 +131,7 @@ QWidget& AccessibleCombo::itemCanvas() const {
 void AccessibleCombo::choose(int index) {
   if (!combo_.isEnabled() || !TakeFocus(combo_)) return;
   combo_.setCurrentIndex(index);
-  emit combo_.activated(index);
+  Q_EMIT combo_.activated(index);
 }
 
 }  // namespace mortane

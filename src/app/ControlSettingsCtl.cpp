@@ -10,6 +10,8 @@
 #include "widgets/SectionBar.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace controltab;
@@ -32,8 +34,7 @@ constexpr std::array<TabRow, kCount> kTabs{{
 
 ControlSettingsCtl::ControlSettingsCtl(const FormServices& services, const ControlSubPages& pages,
                                        QWidget* parent)
-    : ContainerPage(IconName::Control, QStringLiteral("Controls"), "optControl", parent,
-                    NotOffered::Hidden),
+    : ContainerPage(IconName::Control, u"Controls"_s, "optControl", parent, NotOffered::Hidden),
       optControl(sections()),
       ControlFocusDriveCtl1(pages[kFocusDrive].page),
       ControlXYStageCtl1(pages[kXYStage].page),

@@ -7,6 +7,8 @@
 #include "app/PromptBox.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kOverwritePrompt = 2;
@@ -18,7 +20,7 @@ QString NameFilter(const std::string& filter) {
   const QStringList parts = QString::fromStdString(filter).split(u'|');
   const QString label = parts.front().section(u'(', 0, 0).trimmed();
   const QString patterns = parts.back().split(u';').join(u' ');
-  return QStringLiteral("%1 (%2)").arg(label, patterns);
+  return u"%1 (%2)"_s.arg(label, patterns);
 }
 
 }  // namespace
@@ -27,7 +29,7 @@ FileDialog::FileDialog(AcceptMode mode, const FileQuestion& question, const QStr
     : QFileDialog(ParentOfBoxes()), pathMustExist_((question.flags & kPathMustExist) != 0) {
   setAcceptMode(mode);
   // The system's own dialog gets no title by itself.
-  setWindowTitle(mode == AcceptSave ? QStringLiteral("Save As") : QStringLiteral("Open"));
+  setWindowTitle(mode == AcceptSave ? u"Save As"_s : u"Open"_s);
   setNameFilter(NameFilter(question.filter));
   setFileMode((question.flags & kFileMustExist) != 0 ? ExistingFile : AnyFile);
   setOption(DontConfirmOverwrite, (question.flags & kOverwritePrompt) == 0);

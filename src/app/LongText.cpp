@@ -9,6 +9,8 @@
 #include <algorithm>
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kMostLines = 1000;
@@ -20,7 +22,7 @@ constexpr int kWidthOfLines = 500;
 
 // The field in the place of the box's label.
 void PutInPlaceOfLabel(QMessageBox& box, QPlainTextEdit* field) {
-  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
   auto* grid = static_cast<QGridLayout*>(box.layout());
   int row = 0;
   int column = 0;
@@ -37,8 +39,7 @@ QString FirstLines(const QString& text) {
   const qsizetype lines = text.count(u'\n') + 1;
   if (lines <= kMostLines) return text;
   const qsizetype more = lines - kMostLines;
-  const QString remark =
-      more == 1 ? QStringLiteral("(1 more line)") : QStringLiteral("(%1 more lines)").arg(more);
+  const QString remark = more == 1 ? u"(1 more line)"_s : u"(%1 more lines)"_s.arg(more);
   return text.section(u'\n', 0, kMostLines - 1) + u'\n' + remark;
 }
 

@@ -12,6 +12,8 @@
 #include "widgets/Page.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kWaitAfterSendMs = 3000;
@@ -141,7 +143,7 @@ void MortaneMainForm::NoteConnection() {
 
 void MortaneMainForm::NoteTransfer(SessionNote::Act act, bool whole) {
   if (whole) NoteConnection();
-  note_->ShowDone(act, whole, Now().toString(QStringLiteral("HH:mm")));
+  note_->ShowDone(act, whole, Now().toString(u"HH:mm"_s));
 }
 
 void MortaneMainForm::NoteFile(SessionNote::Act act, const FileResult& file) {

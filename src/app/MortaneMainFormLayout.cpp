@@ -19,6 +19,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kToolbarIcon = 20;
@@ -54,37 +56,37 @@ QAction* MortaneMainForm::AddMenuItem(QMenu& menu, const char* name, const QStri
 }
 
 void MortaneMainForm::BuildMenus() {
-  MenuFile = menuBar()->addMenu("File(&F)");
+  MenuFile = menuBar()->addMenu(u"File(&F)"_s);
   MenuFile->setObjectName("MenuFile");
-  MenuFileOpen = AddMenuItem(*MenuFile, "MenuFileOpen", "Open(&O)", &MortaneMainForm::DoOpen);
-  MenuFileSave = AddMenuItem(*MenuFile, "MenuFileSave", "Save(&S)", &MortaneMainForm::DoSave);
+  MenuFileOpen = AddMenuItem(*MenuFile, "MenuFileOpen", u"Open(&O)"_s, &MortaneMainForm::DoOpen);
+  MenuFileSave = AddMenuItem(*MenuFile, "MenuFileSave", u"Save(&S)"_s, &MortaneMainForm::DoSave);
   MenuSeparator = MenuFile->addSeparator();
   MenuSeparator->setObjectName("MenuSeparator");
-  FileMenuExit = AddMenuItem(*MenuFile, "FileMenuExit", "Exit(&X)", &MortaneMainForm::DoExit);
+  FileMenuExit = AddMenuItem(*MenuFile, "FileMenuExit", u"Exit(&X)"_s, &MortaneMainForm::DoExit);
 
-  MenuConnect = menuBar()->addMenu("Connect(&C)");
+  MenuConnect = menuBar()->addMenu(u"Connect(&C)"_s);
   MenuConnect->setObjectName("MenuConnect");
   MenuConnectSelect =
-      AddMenuItem(*MenuConnect, "MenuConnectSelect", "Select(&L)", &MortaneMainForm::DoSelect);
-  MenuConnectReceive =
-      AddMenuItem(*MenuConnect, "MenuConnectReceive", "Receive(&R)", &MortaneMainForm::DoReceive);
+      AddMenuItem(*MenuConnect, "MenuConnectSelect", u"Select(&L)"_s, &MortaneMainForm::DoSelect);
+  MenuConnectReceive = AddMenuItem(*MenuConnect, "MenuConnectReceive", u"Receive(&R)"_s,
+                                   &MortaneMainForm::DoReceive);
   MenuConnectSend =
-      AddMenuItem(*MenuConnect, "MenuConnectSend", "Send(&N)", &MortaneMainForm::DoSend);
+      AddMenuItem(*MenuConnect, "MenuConnectSend", u"Send(&N)"_s, &MortaneMainForm::DoSend);
 }
 
 void MortaneMainForm::BuildToolbar() {
-  Toolbar1 = addToolBar("Toolbar1");
+  Toolbar1 = addToolBar(u"Toolbar1"_s);
   Toolbar1->setObjectName("Toolbar1");
-  Toolbar1->setAccessibleName("Commands");
+  Toolbar1->setAccessibleName(u"Commands"_s);
   Toolbar1->setMovable(false);
   Toolbar1->setIconSize({kToolbarIcon, kToolbarIcon});
   Toolbar1->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  Toolbar1->addAction(Icon(IconName::Open), "Open");
-  Toolbar1->addAction(Icon(IconName::Save), "Save");
+  Toolbar1->addAction(Icon(IconName::Open), u"Open"_s);
+  Toolbar1->addAction(Icon(IconName::Save), u"Save"_s);
   Toolbar1->addSeparator();
-  Toolbar1->addAction(Icon(IconName::Select), "Select");
-  Toolbar1->addAction(Icon(IconName::Receive), "Receive");
-  Toolbar1->addAction(Icon(IconName::Send), "Send");
+  Toolbar1->addAction(Icon(IconName::Select), u"Select"_s);
+  Toolbar1->addAction(Icon(IconName::Receive), u"Receive"_s);
+  Toolbar1->addAction(Icon(IconName::Send), u"Send"_s);
   connect(Toolbar1, &QToolBar::actionTriggered, this, [this](QAction* button) {
     OnToolbarButton(static_cast<int>(Toolbar1->actions().indexOf(button)) + 1);
   });
@@ -100,7 +102,7 @@ void MortaneMainForm::BuildRail() {
   for (std::size_t i = 0; i < table_.size(); ++i) {
     optMenu[i] = Named(new QRadioButton(FrameOptionButton), "optMenu", static_cast<int>(i));
     ImageButton[i] = PictureMenu->button(PictureMenu->AddPage(table_[i].icon, table_[i].title));
-    EnablePage(i, i == 0, QStringLiteral("No microscope is connected."));
+    EnablePage(i, i == 0, u"No microscope is connected."_s);
     connect(optMenu[i], &QRadioButton::toggled, this, [this, i](bool checked) {
       if (checked) OnMenuChanged(i);
     });
@@ -121,8 +123,8 @@ void MortaneMainForm::BuildCommandBar() {
   for (std::size_t i = 0; i < kCommands.size(); ++i) {
     const CommandRow& row = kCommands[i];
     if (i == 2) bar->row().addStretch();
-    ImageCommand[i] =
-        Named(new CommandKey(row.icon, row.text, Picture2), "ImageCommand", static_cast<int>(i));
+    ImageCommand[i] = Named(new CommandKey(row.icon, QLatin1String(row.text), Picture2),
+                            "ImageCommand", static_cast<int>(i));
     connect(ImageCommand[i], &CommandKey::commanded, this, [this, &row] { Run(row.run); });
     bar->row().addWidget(ImageCommand[i]);
   }

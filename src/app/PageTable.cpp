@@ -15,6 +15,8 @@
 #include "widgets/Named.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 bool IsFitted(const clsK70& k70, std::int32_t accessory) {
@@ -30,27 +32,27 @@ Page* MakeAs(MortaneMainForm& form, const FormServices& services) {
 
 PageTable MainPages() {
   return {{
-      {"System", IconName::System,
+      {u"System"_s, IconName::System,
        MakeAs<MakeSystemSettings, &MortaneMainForm::SystemSettingsCtl1>},
-      {"Objectives", IconName::Objective,
+      {u"Objectives"_s, IconName::Objective,
        MakeAs<MakeObjectiveSettings, &MortaneMainForm::ObjectiveSettingsCtl1>,
        [](const clsK70& k70) { return IsFitted(k70, accessory::kNosepiece); },
-       "No nosepiece is mounted."},
-      {"Filter Cubes", IconName::Cube,
+       u"No nosepiece is mounted."_s},
+      {u"Filter Cubes"_s, IconName::Cube,
        MakeAs<MakeFilterQubeSettings, &MortaneMainForm::FilterQubeSettingsCtl1>,
        [](const clsK70& k70) { return IsFitted(k70, accessory::kFilterCube); },
-       "No filter cube turret is mounted."},
-      {"Condensers", IconName::Condenser,
+       u"No filter cube turret is mounted."_s},
+      {u"Condensers"_s, IconName::Condenser,
        MakeAs<MakeCondenserSettings, &MortaneMainForm::CondenserSettingsCtl1>,
        [](const clsK70& k70) { return k70.Controller(0) && IsFitted(k70, accessory::kCondenser); },
-       "No condenser is mounted, or the body of the microscope is not connected."},
-      {"Interlocks", IconName::Interlock,
+       u"No condenser is mounted, or the body of the microscope is not connected."_s},
+      {u"Interlocks"_s, IconName::Interlock,
        MakeAs<MakeInterlockSettings, &MortaneMainForm::InterlockSettingsCtl1>,
        [](const clsK70& k70) {
          return k70.ILObservation.IsEnable() || k70.ILOther.IsEnable() || k70.ILOffset.IsEnable();
        },
-       "Nothing is mounted that follows another accessory or is compensated."},
-      {"Controls", IconName::Control,
+       u"Nothing is mounted that follows another accessory or is compensated."_s},
+      {u"Controls"_s, IconName::Control,
        [](MortaneMainForm& form, const FormServices& services) -> Page* {
          return form.ControlSettingsCtl1 =
                     Named(new ControlSettingsCtl(services, MakeControlSubPages(services),
@@ -60,7 +62,7 @@ PageTable MainPages() {
        [](const clsK70& k70) {
          return k70.CZDrive.IsEnable() || k70.CXYDrive.IsEnable() || k70.COther.IsEnable();
        },
-       "No drive or other control can be set."},
+       u"No drive or other control can be set."_s},
   }};
 }
 

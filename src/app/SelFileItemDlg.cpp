@@ -7,6 +7,8 @@
 #include "widgets/ListBox.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::int16_t kWanted = -1;
@@ -18,10 +20,10 @@ SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent)
     : QDialog(parent),
       List1(new ListBox(this)),
       Datalist(new ListBox(this)),
-      OkButton(new QPushButton(QStringLiteral("&OK"), this)),
-      CancelButton(new QPushButton(QStringLiteral("&Cancel"), this)),
+      OkButton(new QPushButton(u"&OK"_s, this)),
+      CancelButton(new QPushButton(u"&Cancel"_s, this)),
       k70_(k70) {
-  setWindowTitle(QStringLiteral("Select File Items"));
+  setWindowTitle(u"Select File Items"_s);
   List1->setObjectName("List1");
   List1->setAccessibleName(windowTitle());
   Datalist->setObjectName("Datalist");

@@ -13,6 +13,8 @@
 #include "widgets/ListBox.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char kNotAvailable[] = "Not Available";
@@ -22,13 +24,13 @@ constexpr char kNotAvailable[] = "Not Available";
 SelScopeDlg::SelScopeDlg(clsK70& k70, Prompts& prompts, Availability isDeviceAvailable,
                          QWidget* parent)
     : QDialog(parent),
-      Label1(new QLabel(QStringLiteral("Please Click Microscope Name on the List."), this)),
+      Label1(new QLabel(u"Please Click Microscope Name on the List."_s, this)),
       List1(new ListBox(this)),
-      OkButton(new QPushButton(QStringLiteral("&OK"), this)),
-      CancelButton(new QPushButton(QStringLiteral("&Cancel"), this)),
+      OkButton(new QPushButton(u"&OK"_s, this)),
+      CancelButton(new QPushButton(u"&Cancel"_s, this)),
       prompts_(prompts),
       isDeviceAvailable_(std::move(isDeviceAvailable)) {
-  setWindowTitle(QStringLiteral("Select Microscope Dialog"));
+  setWindowTitle(u"Select Microscope Dialog"_s);
   Label1->setObjectName("Label1");
   Label1->setBuddy(List1);
   List1->setObjectName("List1");

@@ -8,6 +8,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 struct Wording {
@@ -28,20 +30,20 @@ constexpr char kBetweenParts[] = " \u00B7 ";
 }  // namespace
 
 SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
-  setAccessibleName("Session");
+  setAccessibleName(u"Session"_s);
   setFont(CaptionFont());
   setForegroundRole(QPalette::PlaceholderText);
   bar_.installEventFilter(this);
 }
 
 void SessionNote::ShowMicroscope(const QString& name, bool isSimulation) {
-  microscope_ = name.trimmed().isEmpty() ? QStringLiteral("NoName") : name;
-  if (isSimulation) microscope_ += QString::fromUtf8(kBetweenParts) + QStringLiteral("Simulation");
+  microscope_ = name.trimmed().isEmpty() ? u"NoName"_s : name;
+  if (isSimulation) microscope_ += QString::fromUtf8(kBetweenParts) + u"Simulation"_s;
   ShowText();
 }
 
 void SessionNote::ShowNoMicroscope() {
-  microscope_ = QStringLiteral("Not connected");
+  microscope_ = u"Not connected"_s;
   ShowText();
 }
 

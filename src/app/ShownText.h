@@ -6,9 +6,11 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 // Reports break their lines with a carriage return and a line feed; controls want the latter.
 inline QString ShownText(const std::string& text) {
-  return QString::fromStdString(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  return QString::fromStdString(text).replace("\r\n"_L1, "\n"_L1);
 }
 
 }  // namespace mortane

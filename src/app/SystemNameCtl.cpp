@@ -17,6 +17,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNameLength = static_cast<int>(kSystemNameLength);
@@ -34,7 +36,7 @@ constexpr int kReportWidthCharacters = 32;
 constexpr int kNarrowestWindowWithDrawing = 1100;
 
 QFont ReportFont() {
-  QFont font(QStringLiteral("Courier New"));
+  QFont font(u"Courier New"_s);
   font.setStyleHint(QFont::Monospace);
   return font;
 }
@@ -66,7 +68,7 @@ SystemNameCtl::SystemNameCtl(clsK70& k70, QWidget* parent)
 QWidget* SystemNameCtl::BuildNameCard() {
   auto* card = Named(new Card({}, FrameBase), "Frame1");
   Frame1 = card;
-  Label1 = Named(new QLabel(QStringLiteral("System Name:"), Frame1), "Label1");
+  Label1 = Named(new QLabel(u"System Name:"_s, Frame1), "Label1");
   TextSystemName = Named(new TextField(Frame1), "TextSystemName");
   TextSystemName->SetLimit(kNameLength);
   TextSystemName->SetWidthFor(kNameWidthCharacters);
@@ -84,7 +86,7 @@ QWidget* SystemNameCtl::BuildNameCard() {
 QWidget* SystemNameCtl::BuildReportCard() {
   auto* card = new Card({}, FrameBase);
   TextAccessories = Named(new QPlainTextEdit(card), "TextAccessories");
-  TextAccessories->setAccessibleName(QStringLiteral("Accessories"));
+  TextAccessories->setAccessibleName(u"Accessories"_s);
   TextAccessories->setReadOnly(true);
   TextAccessories->setTabChangesFocus(true);
   TextAccessories->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -109,8 +111,7 @@ QWidget* SystemNameCtl::BuildReportCard() {
 
 void SystemNameCtl::LoadData() {
   const bool nameless = Trim(k70_.SystemName).empty();
-  TextSystemName->setText(nameless ? QStringLiteral("NoName")
-                                   : QString::fromStdString(k70_.SystemName));
+  TextSystemName->setText(nameless ? u"NoName"_s : QString::fromStdString(k70_.SystemName));
   TextAccessories->setPlainText(ShownText(k70_.GetAccessories()));
   QVector<DrawnAccessory> drawn;
   for (const AccessoryRow& row : kAccessoryTable) {

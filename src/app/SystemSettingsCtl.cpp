@@ -8,9 +8,11 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 SystemSettingsCtl::SystemSettingsCtl(clsK70& k70, QWidget* parent)
     : Page(parent),
-      Header(Named(new PageHeader(IconName::System, QStringLiteral("System"), this), "Header")),
+      Header(Named(new PageHeader(IconName::System, u"System"_s, this), "Header")),
       SystemNameCtl1(Named(new SystemNameCtl(k70, this), "SystemNameCtl1")) {
   MakePageLayout(this, Header)->addWidget(SystemNameCtl1, 1);
 }

@@ -14,6 +14,8 @@
 #include "platform/SpecialFolder.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize kDesignSize{1152, 740};
@@ -37,8 +39,7 @@ std::string SectionOf(const QWidget& window) {
 
 QString Text(const KeptPlace& place) {
   const QRect& at = place.normal;
-  return QStringLiteral("%1,%2,%3,%4,%5")
-      .arg(at.x())
+  return u"%1,%2,%3,%4,%5"_s.arg(at.x())
       .arg(at.y())
       .arg(at.width())
       .arg(at.height())

@@ -18,6 +18,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kComboWidth = 280;
@@ -39,7 +41,7 @@ std::vector<std::int32_t> NamedOptions(const clsDbCondenser& condensers) {
 
 CondenserCassetteCtl::CondenserCassetteCtl(clsCondenser& cassette, const clsDbCondenser& condensers,
                                            QWidget* parent)
-    : CardPage(QStringLiteral("Set Condenser Data to Each Address"), parent),
+    : CardPage(u"Set Condenser Data to Each Address"_s, parent),
       Label1{},
       Combo1{},
       cassette_(cassette),
@@ -62,7 +64,7 @@ CondenserCassetteCtl::CondenserCassetteCtl(clsCondenser& cassette, const clsDbCo
   columns->addStretch();
   FrameBase->body()->addLayout(columns, 1);
 
-  turret_->setAccessibleName(QStringLiteral("Condenser Turret"));
+  turret_->setAccessibleName(u"Condenser Turret"_s);
   const auto rowAt = [this](int place) { return ShownRows()[static_cast<std::size_t>(place)]; };
   connect(turret_, &TurretDrawing::chosen, this, [=, this](int place) { ChooseRow(rowAt(place)); });
   // Arrows go on along the turret; in the list they would put another condenser there.
@@ -78,7 +80,7 @@ void CondenserCassetteCtl::BuildRow(int row) {
   Label1[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   Label1[i]->setMinimumWidth(QFontMetrics(BoldFont()).horizontalAdvance(number));
   ComboBox* combo = Combo1[i] = Named(new ComboBox(FrameBase), "Combo1", row);
-  combo->setAccessibleName(QStringLiteral("Address ") + number);
+  combo->setAccessibleName(u"Address "_s + number);
   combo->setFixedWidth(kComboWidth);
   Label1[i]->setBuddy(combo);
   combo->installEventFilter(this);

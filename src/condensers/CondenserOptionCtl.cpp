@@ -12,6 +12,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNameLength = static_cast<int>(kOptionNameLength);
@@ -24,7 +26,7 @@ std::int32_t CodeOf(int row) {
 }  // namespace
 
 CondenserOptionCtl::CondenserOptionCtl(clsDbCondenser& condensers, QWidget* parent)
-    : CardPage(QStringLiteral("Add Optional Condenser Data to the List"), parent),
+    : CardPage(u"Add Optional Condenser Data to the List"_s, parent),
       Label11{},
       TextName{},
       condensers_(condensers) {
@@ -39,7 +41,7 @@ QWidget* CondenserOptionCtl::BuildRow(int row) {
   auto* line = new QWidget(FrameBase);
   Label11[i] = Named(new QLabel(number, line), "Label11", row);
   TextField* field = TextName[i] = Named(new TextField(line), "TextName", row);
-  field->setAccessibleName(QStringLiteral("Optional Condenser ") + number);
+  field->setAccessibleName(u"Optional Condenser "_s + number);
   field->setFont(FixedFont());
   field->SetLimit(kNameLength);
   field->SetWidthFor(kNameLength);

@@ -6,23 +6,24 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 CondenserSettingsCtl::CondenserSettingsCtl(clsCondenser& cassette, clsDbCondenser& condensers,
                                            QWidget* parent)
-    : ContainerPage(IconName::Condenser, QStringLiteral("Condensers"), "optCondenserSetting",
-                    parent),
+    : ContainerPage(IconName::Condenser, u"Condensers"_s, "optCondenserSetting", parent),
       optCondenserSetting(sections()),
       CondenserCassetteCtl1(new CondenserCassetteCtl(cassette, condensers)),
       CondenserOptionCtl1(new CondenserOptionCtl(condensers)) {
   const auto hasCondenser = [&cassette] {
     return cassette.parent.IsMounted(accessory::kCondenser) != kNotMounted;
   };
-  SetSections({{"Condenser",
+  SetSections({{u"Condenser"_s,
                 "CondenserCassetteCtl1",
                 CondenserCassetteCtl1,
                 hasCondenser,
                 {},
-                "No condenser is mounted."},
-               {"Optional", "CondenserOptionCtl1", CondenserOptionCtl1}},
+                u"No condenser is mounted."_s},
+               {u"Optional"_s, "CondenserOptionCtl1", CondenserOptionCtl1}},
               {1, 0});
 }
 

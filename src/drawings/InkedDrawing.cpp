@@ -7,6 +7,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 struct Ink {
@@ -25,7 +27,7 @@ constexpr std::array kInks{
 }  // namespace
 
 QByteArray InkedDrawing(const QString& name, const QPalette& palette) {
-  QFile source(QStringLiteral(":/mortane/%1.svg").arg(name));
+  QFile source(u":/mortane/%1.svg"_s.arg(name));
   const bool opened = source.open(QIODevice::ReadOnly);
   Q_ASSERT(opened);
   if (!opened) return {};

@@ -39,7 +39,7 @@ void MarkButton::Place(const QRectF& area) {
 void MarkButton::keyPressEvent(QKeyEvent* event) {
   const int steps = ArrowSteps(event->key());
   if (steps == 0) return QAbstractButton::keyPressEvent(event);
-  emit stepped(steps);
+  Q_EMIT stepped(steps);
 }
 
 // The corners around a large dial belong to the keys beside it.

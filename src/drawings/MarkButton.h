@@ -20,7 +20,7 @@ class MarkButton : public QAbstractButton {
   void Place(const QRectF& area);
   [[nodiscard]] const QRectF& area() const { return area_; }
 
- signals:
+ Q_SIGNALS:
   void stepped(int steps);
 
  protected:

@@ -10,6 +10,8 @@
 #include "widgets/VectorDrawing.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kDotRadius = 5;
@@ -40,7 +42,7 @@ void DrawDot(QPainter& painter, QPointF at, int mounted, const QPalette& palette
 
 MicroscopeDrawing::MicroscopeDrawing(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::NoFocus);
-  setAccessibleName(QStringLiteral("Microscope"));
+  setAccessibleName(u"Microscope"_s);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -51,9 +53,9 @@ void MicroscopeDrawing::SetAccessories(const QVector<DrawnAccessory>& accessorie
     const char* state = accessory.mounted == 0   ? "not mounted"
                         : accessory.mounted == 1 ? "sensed only"
                                                  : "controllable";
-    described.append(accessory.label + QStringLiteral(": ") + QLatin1String(state));
+    described.append(accessory.label + u": "_s + QLatin1String(state));
   }
-  setAccessibleDescription(described.join(QStringLiteral(", ")));
+  setAccessibleDescription(described.join(u", "_s));
   update();
 }
 
@@ -95,7 +97,7 @@ void MicroscopeDrawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const MicroscopeLayout layout = Layout();
-  const VectorDrawing body(InkedDrawing(QStringLiteral("microscope"), palette()));
+  const VectorDrawing body(InkedDrawing(u"microscope"_s, palette()));
   if (!isEnabled()) painter.setOpacity(kDisabledOpacity);
   body.Paint(painter, layout.body);
   painter.setOpacity(1);

@@ -13,6 +13,8 @@
 #include "widgets/VectorDrawing.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kLeastScale = 0.8;
@@ -61,7 +63,7 @@ void SwitchDrawing::SetMarkName(int index, const QString& name) {
   buttonOf(index)->setAccessibleName(name);
   QStringList names;
   for (int i = 0; i < count(); ++i) names.append(buttonOf(i)->accessibleName());
-  setAccessibleDescription(names.join(QStringLiteral("; ")));
+  setAccessibleDescription(names.join(u"; "_s));
 }
 
 QIcon SwitchDrawing::markIcon(int index) const {

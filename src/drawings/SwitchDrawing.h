@@ -62,7 +62,7 @@ class SwitchDrawing : public QWidget {
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
- signals:
+ Q_SIGNALS:
   // For a click or a key of the person only.
   void chosen(int index);
 

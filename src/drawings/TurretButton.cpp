@@ -12,6 +12,8 @@
 #include "widgets/Paint.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kHaloRoom = 8;
@@ -90,7 +92,7 @@ TurretButton::TurretButton(PlaceKind kind, int number, QWidget* parent)
 void TurretButton::SetItem(const TurretItem& item) {
   item_ = item;
   const QString details = item.mark.isEmpty() ? QString(kFree) : item.details;
-  setAccessibleName(QStringLiteral("Address %1, %2").arg(address()).arg(details));
+  setAccessibleName(u"Address %1, %2"_s.arg(address()).arg(details));
   setToolTip(item.mark.isEmpty() ? QString() : item.details);
   update();
 }
@@ -153,7 +155,7 @@ double TurretButton::HaloRoom() {
 void TurretButton::keyPressEvent(QKeyEvent* event) {
   const int steps = ArrowSteps(event->key());
   if (steps == 0) return QAbstractButton::keyPressEvent(event);
-  emit stepped(steps);
+  Q_EMIT stepped(steps);
 }
 
 void TurretButton::keyReleaseEvent(QKeyEvent* event) {

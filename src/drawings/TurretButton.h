@@ -37,7 +37,7 @@ class TurretButton : public QAbstractButton {
   // Room around the place for halo and focus.
   static double HaloRoom();
 
- signals:
+ Q_SIGNALS:
   void stepped(int steps);  // clockwise
 
  protected:

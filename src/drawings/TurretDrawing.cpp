@@ -13,6 +13,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // In design pixels.
@@ -83,8 +85,8 @@ TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
   // All at once, so that they stand at the drawing's place in the order of the Tab key.
   for (int i = 0; i < kMostPlaces; ++i) MakeButton(i);
   connect(group_, &OptionGroup::selectionChanged, this, [this](int index) {
-    emit chosen(index);
-    if (buttons_[index]->isPressed()) emit activated(index);
+    Q_EMIT chosen(index);
+    if (buttons_[index]->isPressed()) Q_EMIT activated(index);
   });
 }
 
@@ -140,7 +142,7 @@ void TurretDrawing::UpdateLeastScale() {
 void TurretDrawing::Describe() {
   QStringList names;
   for (int i = 0; i < count_; ++i) names.append(buttons_[i]->accessibleName());
-  setAccessibleDescription(names.join(QStringLiteral("; ")));
+  setAccessibleDescription(names.join(u"; "_s));
 }
 
 QAbstractButton* TurretDrawing::place(int index) const {

@@ -35,7 +35,7 @@ class TurretDrawing : public QWidget {
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
- signals:
+ Q_SIGNALS:
   // For a click or a key of the person only.
   void chosen(int index);
   // For a click or the Space key. Arrows, Home and End go along the turret and ask for no more.

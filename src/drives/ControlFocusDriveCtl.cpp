@@ -16,6 +16,8 @@
 #include "widgets/OptionGroup.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::int32_t kUnknown = -1;
@@ -49,9 +51,7 @@ const std::array<ControlFocusDriveCtl::StepButton, 4> ControlFocusDriveCtl::kSte
 
 ControlFocusDriveCtl::ControlFocusDriveCtl(clsControlZDrive& drive, FollowNosepiece follow,
                                            QWidget* parent)
-    : CardPage(QStringLiteral("Focus Drive Setting"), parent),
-      drive_(drive),
-      follow_(std::move(follow)) {
+    : CardPage(u"Focus Drive Setting"_s, parent), drive_(drive), follow_(std::move(follow)) {
   Build();
   Connect();
 }

@@ -18,6 +18,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kLowestMicrometres = -100000;
@@ -58,7 +60,7 @@ void ControlFocusDriveCtl::Build() {
 }
 
 InnerFrame* ControlFocusDriveCtl::BuildEscape() {
-  auto* frame = Named(new InnerFrame(QStringLiteral("Escape"), FrameBase), "frmEscapeSetting");
+  auto* frame = Named(new InnerFrame(u"Escape"_s, FrameBase), "frmEscapeSetting");
   auto* cells = new QGridLayout;
   cells->setHorizontalSpacing(grid::kBetweenGroups);
   cells->setVerticalSpacing(grid::kUnit);

@@ -18,6 +18,8 @@
 #include "widgets/OptionGroup.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::int32_t kUnknown = -1;
@@ -95,14 +97,14 @@ bool IsShown(const QWidget& frame) {
 }
 
 bool ReadIntoCaption(InnerFrame& frame) {
-  frame.SetCaption(IsShown(frame) ? QStringLiteral("True") : QStringLiteral("False"));
+  frame.SetCaption(IsShown(frame) ? u"True"_s : u"False"_s);
   return false;
 }
 
 }  // namespace
 
 ControlOtherCtl::ControlOtherCtl(clsControlOther& other, QWidget* parent)
-    : CardPage(QStringLiteral("Other Settings"), parent), other_(other) {
+    : CardPage(u"Other Settings"_s, parent), other_(other) {
   Build();
   StoreEdits();
 }

@@ -17,6 +17,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using Page = ControlOtherCtl;
@@ -163,7 +165,7 @@ QLabel* AddLabel(const OptionRow& row, QFrame* panel) {
 }
 
 void AddKnobControls(Page& page, const KnobControls& knob, const QString& caption, QFrame* panel) {
-  auto* check = Named(new QCheckBox(QStringLiteral("Auto"), panel), knob.checkName);
+  auto* check = Named(new QCheckBox(u"Auto"_s, panel), knob.checkName);
   check->setAccessibleDescription(caption);
   TakeFocusByClicks(*check);
   auto* combo = Named(new ComboBox(panel), knob.comboName);
@@ -184,7 +186,8 @@ void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
   line->setSpacing(grid::kBetweenGroups);
   if (row.row != nullptr) page.*row.row = panel;
   if (row.label != nullptr) page.*row.label = AddLabel(row, panel);
-  const QString subject = row.label != nullptr ? QString(row.caption) : frame->caption();
+  const QString subject =
+      row.label != nullptr ? QString(QLatin1String(row.caption)) : frame->caption();
   auto* group = new OptionGroup(&page);
   page.*row.group = group;
   for (const char* text : row.options) {
@@ -226,12 +229,10 @@ void ControlOtherCtl::Build() {
     AddFrame(*this, frame, stacks[static_cast<std::size_t>(frame.column)]);
   }
   for (QVBoxLayout* stack : stacks) stack->addStretch();
-  Label1 =
-      Named(CaptionLabel(
-                QStringLiteral(
-                    "Select Auto is effective after rotating the nosepiece with interlock mode."),
-                FrameManualHandle),
-            "Label1");
+  Label1 = Named(
+      CaptionLabel(u"Select Auto is effective after rotating the nosepiece with interlock mode."_s,
+                   FrameManualHandle),
+      "Label1");
   Label1->setWordWrap(true);
   FrameManualHandle->body()->addWidget(Label1);
   FrameBase->body()->addLayout(columns_, 1);

@@ -14,6 +14,8 @@
 #include "widgets/OptionGroup.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::int32_t kUnknown = -1;
@@ -58,7 +60,7 @@ const std::array<ControlXYStageCtl::StepButton, 8> ControlXYStageCtl::kStepButto
 }};
 
 ControlXYStageCtl::ControlXYStageCtl(clsControlXYDrive& stage, QWidget* parent)
-    : CardPage(QStringLiteral("XY Stage Setting"), parent), stage_(stage) {
+    : CardPage(u"XY Stage Setting"_s, parent), stage_(stage) {
   Build();
   Connect();
 }

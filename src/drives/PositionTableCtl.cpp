@@ -16,6 +16,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFieldCharacters = 12;
@@ -48,7 +50,7 @@ std::int32_t AddressOf(int row) {
 
 PositionTableCtl::PositionTableCtl(Prompts& prompts, std::vector<PositionColumn> columns,
                                    QWidget* parent)
-    : InnerFrame(QStringLiteral("Nosepiece"), parent),
+    : InnerFrame(u"Nosepiece"_s, parent),
       prompts_(prompts),
       columns_(std::move(columns)),
       fields_(columns_.size()),
@@ -75,7 +77,7 @@ void PositionTableCtl::AddHeaders(QGridLayout& cells) {
 void PositionTableCtl::AddRow(QGridLayout& cells, int row) {
   const QString number = QString::number(AddressOf(row));
   auto* option = Named(new AddressOption(number, prompts_, this), "optNosepiece", row);
-  option->setAccessibleName(QStringLiteral("Address ") + number);
+  option->setAccessibleName(u"Address "_s + number);
   option->hide();
   options_->add(option, row);
   cells.addWidget(option, row + 1, 0);
@@ -88,7 +90,7 @@ void PositionTableCtl::AddRow(QGridLayout& cells, int row) {
 TextField* PositionTableCtl::MakeField(int row, std::size_t column) {
   const PositionColumn& axis = columns_[column];
   auto* field = Named(new TextField(this), axis.arrayName, row);
-  QString name = QStringLiteral("Address %1").arg(AddressOf(row));
+  QString name = u"Address %1"_s.arg(AddressOf(row));
   if (axis.header != nullptr) name += u' ' + QLatin1String(axis.header);
   field->setAccessibleName(name);
   field->setFont(FixedFont());

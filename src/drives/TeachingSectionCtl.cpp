@@ -16,6 +16,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 QWidget* MakeCompensation(const TeachingTexts& texts, TeachingSection& section) {
@@ -35,10 +37,9 @@ QWidget* MakeCompensation(const TeachingTexts& texts, TeachingSection& section) 
 void MakeControl(const TeachingTexts& texts, MoveCross::Axes axes, TeachingSection& section) {
   section.control =
       Named(new InnerFrame(QLatin1String(texts.controlCaption), section.frame), texts.controlName);
-  section.realMove =
-      Named(new QCheckBox(QStringLiteral("Is Real Move ?"), section.control), "CheckRealMove");
+  section.realMove = Named(new QCheckBox(u"Is Real Move ?"_s, section.control), "CheckRealMove");
   TakeFocusByClicks(*section.realMove);
-  section.cross = new MoveCross(axes, QStringLiteral("Start"), section.control);
+  section.cross = new MoveCross(axes, u"Start"_s, section.control);
   Named(section.cross->middle(), "ButtonStart");
   QVBoxLayout* body = section.control->body();
   body->addWidget(section.realMove);

@@ -13,6 +13,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFieldCharacters = 14;
@@ -39,7 +41,7 @@ const std::array<FilterOptionalItemCtl::Column, kFilterItems> FilterOptionalItem
 
 // The blank at the end of the caption is given so.
 FilterOptionalItemCtl::FilterOptionalItemCtl(const FilterItemLists& items, QWidget* parent)
-    : CardPage(QStringLiteral("Add Optional Filter Data "), parent), items_(items) {
+    : CardPage(u"Add Optional Filter Data "_s, parent), items_(items) {
   auto* cells = new QGridLayout;
   cells->setHorizontalSpacing(grid::kBetweenColumns);
   cells->setVerticalSpacing(grid::kUnit);
@@ -71,7 +73,7 @@ void FilterOptionalItemCtl::BuildRow(int row, QGridLayout& cells) {
 
 TextField* FilterOptionalItemCtl::BuildField(const Column& column, int row) {
   auto* field = Named(new TextField(FrameBase), column.fieldName, row);
-  field->setAccessibleName(QStringLiteral("%1 %2").arg(QLatin1String(column.caption)).arg(row + 1));
+  field->setAccessibleName(u"%1 %2"_s.arg(QLatin1String(column.caption)).arg(row + 1));
   field->setFont(FixedFont());
   field->SetLimit(static_cast<int>(kOptionNameLength));
   field->SetWidthFor(kFieldCharacters);

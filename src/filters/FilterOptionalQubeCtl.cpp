@@ -12,6 +12,8 @@
 #include "widgets/ValueLabel.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // Wide letters are half as wide again as figures.
@@ -51,7 +53,7 @@ const std::array<FilterOptionalQubeCtl::Item, kFilterItems> FilterOptionalQubeCt
 
 FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterItemLists& items,
                                              QWidget* parent)
-    : CardPage(QStringLiteral("Add Optional Filter Cube Data to the List"), parent),
+    : CardPage(u"Add Optional Filter Cube Data to the List"_s, parent),
       cubes_(cubes),
       items_(items) {
   RecordForm form(*FrameBase, kOptionPositions, "TabOption", "frm2");

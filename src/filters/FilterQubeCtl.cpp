@@ -17,6 +17,8 @@
 #include "widgets/ValueLabel.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kCharacters = 10;
@@ -68,11 +70,11 @@ const std::array<FilterQubeCtl::Value, 4> FilterQubeCtl::kValues{{
 }};
 
 FilterQubeCtl::FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidget* parent)
-    : CardPage(QStringLiteral("Set Filter Cube Data to Each Address"), parent),
+    : CardPage(u"Set Filter Cube Data to Each Address"_s, parent),
       filterTurret_(turret),
       cubes_(cubes) {
   TabPocket = Named(new TabStrip(FrameBase), "TabPocket");
-  TabPocket->setAccessibleName(QStringLiteral("Address"));
+  TabPocket->setAccessibleName(u"Address"_s);
   FrameBase->body()->addWidget(TabPocket);
   FrameBase->body()->addWidget(BuildList(FrameBase), 1);
   FrameBase->body()->addWidget(BuildValueBox(FrameBase));
@@ -91,9 +93,9 @@ QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
   turret_ = Named(new TurretDrawing(PlaceKind::Cubes, panel), "turret");
-  turret_->setAccessibleName(QStringLiteral("Filter Turret"));
+  turret_->setAccessibleName(u"Filter Turret"_s);
   List1 = Named(new ListBox(panel), "List1");
-  List1->setAccessibleName(QStringLiteral("Filter Cubes"));
+  List1->setAccessibleName(u"Filter Cubes"_s);
   QVector<ListColumn> columns;
   for (const Value& value : kValues) columns.append({QLatin1String(value.caption)});
   List1->SetColumns(columns);

@@ -8,9 +8,11 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 FilterQubeSettingsCtl::FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cubes,
                                              const FilterItemLists& items, QWidget* parent)
-    : ContainerPage(IconName::Cube, QStringLiteral("Filter Cubes"), "optFilterSetting", parent),
+    : ContainerPage(IconName::Cube, u"Filter Cubes"_s, "optFilterSetting", parent),
       optFilterSetting(sections()),
       FilterQubeCtl1(new FilterQubeCtl(turret, cubes)),
       FilterOptionalQubeCtl1(new FilterOptionalQubeCtl(cubes, items)),
@@ -18,14 +20,14 @@ FilterQubeSettingsCtl::FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cub
   const auto hasTurret = [&turret] {
     return turret.parent.IsMounted(accessory::kFilterCube) != kNotMounted;
   };
-  SetSections({{"Filter Cube",
+  SetSections({{u"Filter Cube"_s,
                 "FilterQubeCtl1",
                 FilterQubeCtl1,
                 hasTurret,
                 {},
-                "No filter cube turret is mounted."},
-               {"Optional Cube", "FilterOptionalQubeCtl1", FilterOptionalQubeCtl1},
-               {"Optional Item", "FilterOptionalItemCtl1", FilterOptionalItemCtl1}},
+                u"No filter cube turret is mounted."_s},
+               {u"Optional Cube"_s, "FilterOptionalQubeCtl1", FilterOptionalQubeCtl1},
+               {u"Optional Item"_s, "FilterOptionalItemCtl1", FilterOptionalItemCtl1}},
               {2, 0});
 }
 

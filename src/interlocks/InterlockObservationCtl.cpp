@@ -11,6 +11,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kColumns = 3;
@@ -20,7 +22,7 @@ constexpr int kTilesInColumn = 4;
 
 InterlockObservationCtl::InterlockObservationCtl(clsInterLockObservation& interlocks,
                                                  QWidget* parent)
-    : CardPage(QStringLiteral("Observation Change to"), parent),
+    : CardPage(u"Observation Change to"_s, parent),
       lblAccessories{},
       CheckAccessories{},
       interlocks_(interlocks),

@@ -13,6 +13,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kComboWidth = 96;
@@ -44,7 +46,7 @@ const std::array<InterlockOffsetCtl::Controls, InterlockOffsetCtl::kRowCount>
     }};
 
 InterlockOffsetCtl::InterlockOffsetCtl(clsInterLockOffset& offsets, QWidget* parent)
-    : CardPage(QStringLiteral("Compensation"), parent), offsets_(offsets) {
+    : CardPage(u"Compensation"_s, parent), offsets_(offsets) {
   auto* rows = new QGridLayout;
   rows->setHorizontalSpacing(grid::kBetweenColumns);
   rows->setVerticalSpacing(grid::kBetweenControls);
@@ -53,8 +55,8 @@ InterlockOffsetCtl::InterlockOffsetCtl(clsInterLockOffset& offsets, QWidget* par
   }
   rows->setColumnStretch(rows->columnCount(), 1);
   FrameBase->body()->addLayout(rows);
-  Label2 = Named(CaptionLabel(QStringLiteral("The compensation setting puts the compensation on "
-                                             "the proper value. "),
+  Label2 = Named(CaptionLabel(u"The compensation setting puts the compensation on "
+                              u"the proper value. "_s,
                               FrameBase),
                  "Label2");
   FrameBase->body()->addWidget(Label2);
@@ -66,11 +68,10 @@ void InterlockOffsetCtl::BuildRow(const OffsetAccessory& row, QGridLayout& rows)
   const Controls& names = kControls[i];
   const QString caption = ToQString(row.caption);
   QLabel* label = this->*names.label = Named(new QLabel(caption, FrameBase), names.labelName);
-  Label1[i] =
-      Named(new QLabel(QStringLiteral("Proper value    X"), FrameBase), "Label1", row.pageRow);
+  Label1[i] = Named(new QLabel(u"Proper value    X"_s, FrameBase), "Label1", row.pageRow);
   Label1[i]->setToolTip(
-      QStringLiteral("The proper value is calculated using information such as "
-                     "objective N.A and condenser focal length."));
+      u"The proper value is calculated using information such as "
+      u"objective N.A and condenser focal length."_s);
   ComboBox* list = this->*names.list = Named(new ComboBox(FrameBase), names.listName);
   for (const std::string_view factor : kFactors) list->addRow(ToQString(factor));
   list->setFont(FixedFont());

@@ -13,6 +13,8 @@
 #include "widgets/TileLayout.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kColumns = 3;
@@ -86,7 +88,7 @@ constexpr InterlockOtherCtl::Change InterlockOtherCtl::kZoom{
 
 InterlockOtherCtl::InterlockOtherCtl(clsInterLockOther& interlocks,
                                      const FocusCompensations& compensations, QWidget* parent)
-    : CardPage(QStringLiteral("Other Interlock Settings"), parent),
+    : CardPage(u"Other Interlock Settings"_s, parent),
       interlocks_(interlocks),
       compensations_(compensations) {
   FrameBase->body()->addWidget(BuildFrame(kNosepiece));

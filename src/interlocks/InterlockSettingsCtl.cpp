@@ -11,23 +11,26 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 InterlockSettingsCtl::InterlockSettingsCtl(const Units& units,
                                            const FocusCompensations& compensations, QWidget* parent)
-    : ContainerPage(IconName::Interlock, QStringLiteral("Interlocks"), "optSettings", parent),
+    : ContainerPage(IconName::Interlock, u"Interlocks"_s, "optSettings", parent),
       optSettings(sections()),
       InterlockObservationCtl1(new InterlockObservationCtl(units.observation)),
       InterlockOtherCtl1(new InterlockOtherCtl(units.other, compensations)),
       InterlockOffsetCtl1(new InterlockOffsetCtl(units.offset)),
       other_(units.other) {
   const auto isEnable = [](const auto& unit) { return [&unit] { return unit.IsEnable(); }; };
-  SetSections({{"Observation", "InterlockObservationCtl1", InterlockObservationCtl1,
-                isEnable(units.observation), KeepAsLoaded,
-                "Nothing is mounted that follows the observation method."},
-               {"Other", "InterlockOtherCtl1", InterlockOtherCtl1, isEnable(units.other),
-                KeepAsLoaded, "Nothing is mounted that follows nosepiece, light path or zoom."},
-               {"Compensation", "InterlockOffsetCtl1", InterlockOffsetCtl1, isEnable(units.offset),
-                KeepAsLoaded, "Nothing is mounted that is compensated."}},
-              {2, 1, 0});
+  SetSections(
+      {{u"Observation"_s, "InterlockObservationCtl1", InterlockObservationCtl1,
+        isEnable(units.observation), KeepAsLoaded,
+        u"Nothing is mounted that follows the observation method."_s},
+       {u"Other"_s, "InterlockOtherCtl1", InterlockOtherCtl1, isEnable(units.other), KeepAsLoaded,
+        u"Nothing is mounted that follows nosepiece, light path or zoom."_s},
+       {u"Compensation"_s, "InterlockOffsetCtl1", InterlockOffsetCtl1, isEnable(units.offset),
+        KeepAsLoaded, u"Nothing is mounted that is compensated."_s}},
+      {2, 1, 0});
 }
 
 // A window that comes back from the task bar shows its pages again, spontaneously.

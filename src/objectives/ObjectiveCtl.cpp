@@ -20,6 +20,8 @@
 #include "widgets/ValueLabel.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kSeriesWidth = 150;
@@ -80,11 +82,11 @@ const ObjectiveCtl::Value ObjectiveCtl::kValues[6]{
 
 ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& objectives,
                            QWidget* parent)
-    : CardPage(QStringLiteral("Set Objective Data to Each Address"), parent),
+    : CardPage(u"Set Objective Data to Each Address"_s, parent),
       nosepiece_(nosepiece),
       objectives_(objectives) {
   TabNosepiece = Named(new TabStrip(FrameBase), "TabNosepiece");
-  TabNosepiece->setAccessibleName(QStringLiteral("Address"));
+  TabNosepiece->setAccessibleName(u"Address"_s);
   FrameBase->body()->addWidget(TabNosepiece);
   FrameBase->body()->addWidget(BuildLists(FrameBase), 1);
   FrameBase->body()->addWidget(BuildValueBox(FrameBase));
@@ -104,17 +106,17 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
   turret_ = Named(new TurretDrawing(PlaceKind::Objectives, panel), "turret");
-  turret_->setAccessibleName(QStringLiteral("Nosepiece"));
+  turret_->setAccessibleName(u"Nosepiece"_s);
   ListSeries = Named(new ListBox(panel), "ListSeries");
   ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
   ListSeries->setFixedWidth(kSeriesWidth);
   ListItem = Named(new ListBox(panel), "ListItem");
-  ListItem->setAccessibleName(QStringLiteral("Objectives"));
-  ListItem->SetColumns({{QStringLiteral("Type")},
-                        {QStringLiteral("Mag."), Qt::AlignRight},
-                        {QStringLiteral("W.D."), Qt::AlignRight},
-                        {QStringLiteral("N.A."), Qt::AlignRight},
-                        {QStringLiteral("Name")}});
+  ListItem->setAccessibleName(u"Objectives"_s);
+  ListItem->SetColumns({{u"Type"_s},
+                        {u"Mag."_s, Qt::AlignRight},
+                        {u"W.D."_s, Qt::AlignRight},
+                        {u"N.A."_s, Qt::AlignRight},
+                        {u"Name"_s}});
   ListItem->SetNameColumn(kNameColumn);
   row->addWidget(turret_);
   row->addWidget(ListSeries);
@@ -247,7 +249,7 @@ TurretItem ObjectiveCtl::ItemAt(std::int32_t address) const {
   QString details = mark;
   if (named) {
     const std::string shownName = FirstCharacters(name, kObjectiveNameLength);
-    details += QStringLiteral(", ") + QString::fromStdString(shownName);
+    details += u", "_s + QString::fromStdString(shownName);
   }
   return {mark, details, magnification == 0 ? std::nullopt : std::optional(magnification)};
 }

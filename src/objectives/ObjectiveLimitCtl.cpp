@@ -14,6 +14,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kStageDown = 2;
@@ -84,7 +86,7 @@ const ObjectiveLimitCtl::Rule ObjectiveLimitCtl::kRules[3]{
 };
 
 ObjectiveLimitCtl::ObjectiveLimitCtl(clsLimitation& limits, QWidget* parent)
-    : CardPage(QStringLiteral("Limitation Controls"), parent), limits_(limits) {
+    : CardPage(u"Limitation Controls"_s, parent), limits_(limits) {
   for (const Rule& rule : kRules) AddRule(rule);
   Label2 = NamedCaption(
       "Label2",

@@ -14,6 +14,8 @@
 #include "widgets/ValueLabel.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::string_view kZero = "0";
@@ -36,8 +38,7 @@ const std::array<ObjectiveOptionCtl::Number, 3> ObjectiveOptionCtl::kNumbers{{
 }};
 
 ObjectiveOptionCtl::ObjectiveOptionCtl(clsDbNosepiece& objectives, QWidget* parent)
-    : CardPage(QStringLiteral("Add Optional Objective Data to the List"), parent),
-      objectives_(objectives) {
+    : CardPage(u"Add Optional Objective Data to the List"_s, parent), objectives_(objectives) {
   Build();
   Connect();
 }

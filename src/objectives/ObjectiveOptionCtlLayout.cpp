@@ -18,6 +18,8 @@
 #include "widgets/ValueLabel.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // Wide letters are half as wide again as figures.
@@ -51,7 +53,7 @@ void ObjectiveOptionCtl::Build() {
 void ObjectiveOptionCtl::BuildMagnification(RecordForm& form) {
   auto* value = new QWidget(NosepieceOptionItemFrm);
   TextMag = MakeField(kNumbers[0], value);
-  Label7 = Named(new QLabel(QStringLiteral("x"), value), "Label7");
+  Label7 = Named(new QLabel(u"x"_s, value), "Label7");
   auto* row = new QHBoxLayout(value);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenControls);
@@ -91,9 +93,9 @@ QFrame* ObjectiveOptionCtl::BuildValues(QWidget* parent) {
   }
   fields->setColumnStretch(2, 1);
   frame->body()->addLayout(fields);
-  auto* condenser = Named(new InnerFrame(QStringLiteral("Adoptive"), frame), "FrmCondenser");
+  auto* condenser = Named(new InnerFrame(u"Adoptive"_s, frame), "FrmCondenser");
   FrmCondenser = condenser;
-  Label8 = Named(CaptionLabel(QStringLiteral("DIC / Ph Condenser"), condenser), "Label8");
+  Label8 = Named(CaptionLabel(u"DIC / Ph Condenser"_s, condenser), "Label8");
   ComboCondenser = Named(new ComboBox(condenser), "ComboCondenser");
   ComboCondenser->setAccessibleName(Label8->text());
   Label8->setBuddy(ComboCondenser);

@@ -8,9 +8,11 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 ObjectiveSettingsCtl::ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepiece& objectives,
                                            clsLimitation& limits, QWidget* parent)
-    : ContainerPage(IconName::Objective, QStringLiteral("Objectives"), "optSettings", parent),
+    : ContainerPage(IconName::Objective, u"Objectives"_s, "optSettings", parent),
       optSettings(sections()),
       ObjectiveCtl1(new ObjectiveCtl(nosepiece, objectives)),
       ObjectiveOptionCtl1(new ObjectiveOptionCtl(objectives)),
@@ -19,16 +21,20 @@ ObjectiveSettingsCtl::ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepie
     return limits.parent.IsMounted(accessory::kNosepiece) != kNotMounted;
   };
   const auto isLimited = [&limits] { return limits.IsEnable(); };
-  SetSections(
-      {{"Nosepiece", "ObjectiveCtl1", ObjectiveCtl1, hasNosepiece, {}, "No nosepiece is mounted."},
-       {"Optional Obj.", "ObjectiveOptionCtl1", ObjectiveOptionCtl1},
-       {"Limit Control",
-        "ObjectiveLimitCtl1",
-        ObjectiveLimitCtl1,
-        isLimited,
-        {},
-        "No motorised nosepiece with limits is mounted."}},
-      {1, 2, 0});
+  SetSections({{u"Nosepiece"_s,
+                "ObjectiveCtl1",
+                ObjectiveCtl1,
+                hasNosepiece,
+                {},
+                u"No nosepiece is mounted."_s},
+               {u"Optional Obj."_s, "ObjectiveOptionCtl1", ObjectiveOptionCtl1},
+               {u"Limit Control"_s,
+                "ObjectiveLimitCtl1",
+                ObjectiveLimitCtl1,
+                isLimited,
+                {},
+                u"No motorised nosepiece with limits is mounted."_s}},
+              {1, 2, 0});
 }
 
 }  // namespace mortane

@@ -17,6 +17,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFunctionColumn = 1;
@@ -34,17 +36,15 @@ std::unique_ptr<JoypadAssignments> ReadAssignments(Joystick& joystick,
 
 JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick,
                                                const std::string& applicationData, QWidget* parent)
-    : CardPage(QStringLiteral("Joypad Switch Settings"), parent),
+    : CardPage(u"Joypad Switch Settings"_s, parent),
       Frame1(Named(FrameBase, "Frame1")),
       textSwFunc(ShownField("textSwFunc", "Function", FrameBase)),
-      ListView1(
-          Named(new ReportList({QStringLiteral("Button"), QStringLiteral("Function")}, FrameBase),
-                "ListView1")),
+      ListView1(Named(new ReportList({u"Button"_s, u"Function"_s}, FrameBase), "ListView1")),
       lstSwFunc(Named(new ListBox(FrameBase), "lstSwFunc")),
-      cmdAllClear(Named(new QPushButton(QStringLiteral("All Clear"), FrameBase), "cmdAllClear")),
+      cmdAllClear(Named(new QPushButton(u"All Clear"_s, FrameBase), "cmdAllClear")),
       assignments_(ReadAssignments(joystick, applicationData)) {
-  ListView1->setAccessibleName(QStringLiteral("Button"));
-  lstSwFunc->setAccessibleName(QStringLiteral("Function"));
+  ListView1->setAccessibleName(u"Button"_s);
+  lstSwFunc->setAccessibleName(u"Function"_s);
   TakeFocusByClicks(*cmdAllClear);
   cmdAllClear->setEnabled(assignments_ != nullptr);
   BuildLayout();

@@ -1,6 +1,8 @@
 #include "switches/SwitchCtlPlans.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kBodyDial = 25;
@@ -23,7 +25,7 @@ PlacedMark OnHand(int index, const char* glyph, double x, double y) {
 
 SwitchPlan BodyPlan() {
   using enum MarkKind;
-  return {QStringLiteral("body"),
+  return {u"body"_s,
           {604, 302},
           {
               OnBody(6, BodySwitch, "3", 34, 216.5),
@@ -37,17 +39,15 @@ SwitchPlan BodyPlan() {
               OnBody(8, BodySwitch, "5", 570, 216.5),
               OnBody(9, BodySwitch, "6", 570, 248.5),
           },
-          {{QStringLiteral("Left"), {103, 290}},
-           {QStringLiteral("Front"), {302, 290}},
-           {QStringLiteral("Right"), {501, 290}}}};
+          {{u"Left"_s, {103, 290}}, {u"Front"_s, {302, 290}}, {u"Right"_s, {501, 290}}}};
 }
 
 SwitchPlan HandControllerPlan() {
   const QRectF dial(200 - kHandDial / 2, 32, kHandDial, kHandDial);
-  return {QStringLiteral("handcontroller"),
+  return {u"handcontroller"_s,
           {400, 294},
           {
-              {0, {MarkKind::HandDial, QStringLiteral("CW/CCW")}, dial},
+              {0, {MarkKind::HandDial, u"CW/CCW"_s}, dial},
               OnHand(1, "L", 128, 147),
               OnHand(2, "R", 272, 147),
               OnHand(3, "1", 128, 219),

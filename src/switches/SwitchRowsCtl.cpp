@@ -14,6 +14,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFunctionColumn = 1;
@@ -29,15 +31,14 @@ void SwitchRowsCtl::MakeDrawing(const SwitchPlan& plan, QWidget* parent) {
   optBtn = new SwitchDrawing(plan, "optBtn", frame);
   frame->body()->setContentsMargins(grid::kUnit, grid::kUnit, grid::kUnit, grid::kUnit);
   frame->body()->addWidget(optBtn);
-  optBtn->setAccessibleName(QStringLiteral("Switch"));
+  optBtn->setAccessibleName(u"Switch"_s);
   connect(optBtn, &SwitchDrawing::chosen, this, [this](int index) { Select(index); });
 }
 
 void SwitchRowsCtl::MakeList(QWidget* parent) {
-  ListView1 = Named(new ReportList({QStringLiteral("Switch"), QStringLiteral("Function")}, parent),
-                    "ListView1");
+  ListView1 = Named(new ReportList({u"Switch"_s, u"Function"_s}, parent), "ListView1");
   ListView1->setIconSize({kMarkIconSide, kMarkIconSide});
-  ListView1->setAccessibleName(QStringLiteral("Switch"));
+  ListView1->setAccessibleName(u"Switch"_s);
   connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { Select(row); });
 }
 
@@ -46,7 +47,7 @@ void SwitchRowsCtl::MakeCombos(QWidget* parent) {
   ComboFunction = Named(new ComboBox(parent), "ComboFunction");
   ComboFunction->hide();
   for (ComboBox* combo : {ComboCWCCW, ComboFunction}) {
-    combo->setAccessibleName(QStringLiteral("Function"));
+    combo->setAccessibleName(u"Function"_s);
   }
   connect(ComboCWCCW, &ComboBox::selectionChanged, this, [this](int entry) {
     ChooseDialFunction(ComboCWCCW->itemText(entry), EntryCode(*ComboCWCCW, entry));
@@ -57,8 +58,8 @@ void SwitchRowsCtl::MakeCombos(QWidget* parent) {
 }
 
 void SwitchRowsCtl::MakeButtons(QWidget* parent) {
-  cmdDefault = Named(new QPushButton(QStringLiteral("Default"), parent), "cmdDefault");
-  cmdAllClear = Named(new QPushButton(QStringLiteral("All Clear"), parent), "cmdAllClear");
+  cmdDefault = Named(new QPushButton(u"Default"_s, parent), "cmdDefault");
+  cmdAllClear = Named(new QPushButton(u"All Clear"_s, parent), "cmdAllClear");
   for (QPushButton* button : {cmdDefault, cmdAllClear}) TakeFocusByClicks(*button);
   connect(cmdDefault, &QPushButton::clicked, this, [this] { SetDefaults(); });
   connect(cmdAllClear, &QPushButton::clicked, this, [this] { ClearAll(); });
@@ -119,7 +120,7 @@ QString SwitchRowsCtl::ShownFunction(int row) const {
 }
 
 void SwitchRowsCtl::ShowNameOfMark(int row) {
-  optBtn->SetMarkName(row, ListView1->cells(row).join(QStringLiteral(", ")));
+  optBtn->SetMarkName(row, ListView1->cells(row).join(u", "_s));
 }
 
 void SwitchRowsCtl::Select(int row) {

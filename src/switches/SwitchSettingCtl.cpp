@@ -16,6 +16,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // Shares of the width of drawing and list.
@@ -43,7 +45,7 @@ int ListWidth() {
 SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor& tactor,
                                    KnobModes knobs, QWidget* parent)
     : SwitchRowsCtl(
-          QStringLiteral("K70 Switch Setting"),
+          u"K70 Switch Setting"_s,
           KnobCheck(switches, tactor, knobs, TactorSearch::IfPresent, switches.parent.prompts()),
           parent),
       Frame1(Named(FrameBase, "Frame1")),

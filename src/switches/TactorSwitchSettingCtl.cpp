@@ -14,6 +14,8 @@
 #include "widgets/TextField.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPageA = 1;
@@ -30,7 +32,7 @@ bool IsOption(std::int16_t mode) {
 TactorSwitchSettingCtl::TactorSwitchSettingCtl(clsControlTactor& tactor, const clsDbSwitch& body,
                                                KnobModes knobs, TactorProgram program,
                                                QWidget* parent)
-    : SwitchRowsCtl(QStringLiteral("Tactor Switch Setting"),
+    : SwitchRowsCtl(u"Tactor Switch Setting"_s,
                     KnobCheck(body, tactor, knobs, TactorSearch::Always, tactor.parent.prompts()),
                     parent),
       CommonDialog1{0, "XML File (*.xml)|*.xml", ".xml"},
@@ -46,7 +48,7 @@ TactorSwitchSettingCtl::TactorSwitchSettingCtl(clsControlTactor& tactor, const c
     ChoosePushFunction(ComboSWFunc->itemText(entry), EntryCode(*ComboSWFunc, entry));
   });
   connect(btnNewFileOpen, &QPushButton::clicked, this,
-          [this] { TabSwitch->AppendTab(QStringLiteral("New File")); });
+          [this] { TabSwitch->AppendTab(u"New File"_s); });
   connect(btnReadFileOpen, &QPushButton::clicked, this, [this] { OpenFile(); });
   connect(Command1, &QPushButton::clicked, this, [this] { SaveFile(); });
 }
@@ -56,7 +58,7 @@ void TactorSwitchSettingCtl::LoadData() {
   LoadRows();
   FillFunctions();
   Fill(*ComboSWFunc, AllSwitchFunctions());
-  TabSwitch->SetTabs({QStringLiteral("Setting")});
+  TabSwitch->SetTabs({u"Setting"_s});
   LoadMode();
   LoadHandle();
   for (int row = 0; row < ListView1->rowCount(); ++row) ShowFunction(row, TextOf(row));

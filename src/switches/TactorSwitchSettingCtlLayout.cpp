@@ -20,6 +20,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFileIconSide = 20;
@@ -57,18 +59,18 @@ InnerFrame* OptionFrame(const char* caption, const char* name, const char* optio
 void TactorSwitchSettingCtl::BuildControls() {
   frmSetup = Named(new QWidget(FrameBase), "frmSetup");
   TabSwitch = Named(new TabStrip(frmSetup), "TabSwitch");
-  TabSwitch->setAccessibleName(QStringLiteral("Setting"));
+  TabSwitch->setAccessibleName(u"Setting"_s);
   btnNewFileOpen = FileButton(IconName::NewSheet, "New File", "btnNewFileOpen", frmSetup);
   btnReadFileOpen = FileButton(IconName::Open, "Open", "btnReadFileOpen", frmSetup);
   Command1 = FileButton(IconName::Save, "Save", "Command1", frmSetup);
   MakeDrawing(HandControllerPlan(), frmSetup);
   optBtn->setObjectName("handController");
   OptMode = new OptionGroup(this);
-  frmMode = OptionFrame("Mode", "frmMode", "OptMode",
-                        {QStringLiteral("Standard"), QStringLiteral("Extend")}, *OptMode, frmSetup);
+  frmMode =
+      OptionFrame("Mode", "frmMode", "OptMode", {u"Standard"_s, u"Extend"_s}, *OptMode, frmSetup);
   optHandle = new OptionGroup(this);
-  frmHandle = OptionFrame("XY Knob", "frmHandle", "optHandle",
-                          {QStringLiteral("Right"), QStringLiteral("Left")}, *optHandle, frmSetup);
+  frmHandle = OptionFrame("XY Knob", "frmHandle", "optHandle", {u"Right"_s, u"Left"_s}, *optHandle,
+                          frmSetup);
   BuildPageOptions();
   MakeButtons(frmSetup);
   MakeList(frmSetup);
@@ -80,7 +82,7 @@ void TactorSwitchSettingCtl::BuildControls() {
 
 void TactorSwitchSettingCtl::BuildPageOptions() {
   optChg = new OptionGroup(this);
-  const QStringList captions{QStringLiteral("A"), QStringLiteral("B")};
+  const QStringList captions{u"A"_s, u"B"_s};
   for (int i = 0; i < captions.size(); ++i) {
     auto* option =
         Named(new SectionOption(captions[i], frmSetup, ChosenLook::Blue), "optChg", i + 1);

@@ -8,6 +8,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTrackWidth = 36;
@@ -16,10 +18,10 @@ constexpr int kGap = 9;
 constexpr double kKnobInset = 3;
 
 QString On() {
-  return QStringLiteral("ON");
+  return u"ON"_s;
 }
 QString Off() {
-  return QStringLiteral("OFF");
+  return u"OFF"_s;
 }
 
 }  // namespace
@@ -48,7 +50,7 @@ void CheckToggle::SetUnknown() {
   }
   unknown_ = true;
   update();
-  if (changed) emit toggled(false);
+  if (changed) Q_EMIT toggled(false);
 }
 
 void CheckToggle::checkStateSet() {

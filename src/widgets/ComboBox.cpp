@@ -19,8 +19,8 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   setMaxVisibleItems(16);
   connect(this, &QComboBox::activated, this, [this](int row) {
-    emit chosen(row);
-    emit selectionChanged(row);
+    Q_EMIT chosen(row);
+    Q_EMIT selectionChanged(row);
   });
 }
 
@@ -40,7 +40,7 @@ void ComboBox::clearRows() {
 void ComboBox::setIndex(int row) {
   const int before = currentIndex();
   setCurrentIndex(row >= 0 && row < count() ? row : -1);
-  if (currentIndex() >= 0 && currentIndex() != before) emit selectionChanged(currentIndex());
+  if (currentIndex() >= 0 && currentIndex() != before) Q_EMIT selectionChanged(currentIndex());
 }
 
 // An elided entry shows its whole text.

@@ -22,7 +22,7 @@ class ComboBox : public QComboBox {
   [[nodiscard]] QVariant data(int row) const { return itemData(row); }
   [[nodiscard]] int rowOf(const QVariant& data) const { return findData(data); }
 
- signals:
+ Q_SIGNALS:
   void chosen(int row);
   void selectionChanged(int row);
 

@@ -39,7 +39,7 @@ CommandKey::CommandKey(IconName icon, const QString& text, QWidget* parent)
   setAttribute(Qt::WA_Hover);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   connect(this, &QAbstractButton::clicked, this, [this] {
-    if (releasedPlainly_) emit commanded();
+    if (releasedPlainly_) Q_EMIT commanded();
   });
 }
 

@@ -22,7 +22,7 @@ class CommandKey : public QAbstractButton {
   [[nodiscard]] bool isPressedLook() const;
   [[nodiscard]] QSize sizeHint() const override;
 
- signals:
+ Q_SIGNALS:
   void commanded();
 
  protected:

@@ -92,7 +92,7 @@ void ContainerPage::Open(int index) {
     shown_->LoadData();
   }
   shown_->show();
-  emit Change(index);
+  Q_EMIT Change(index);
 }
 
 const Section& ContainerPage::section(int index) const {

@@ -53,7 +53,7 @@ class ContainerPage : public Page {
 
   PageHeader* Header;
 
- signals:
+ Q_SIGNALS:
   // At the end of every selection, when the sub-page is shown.
   void Change(int index);
 

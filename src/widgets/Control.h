@@ -8,6 +8,8 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 // A pointer to a control that its page makes and the toolkit owns. The widget that is put in gets
 // the name of the member, by which styles, tests and screen readers' scripts find it.
 template <typename Widget>
@@ -41,7 +43,7 @@ class Controls {
   Controls& operator=(const Controls&) = delete;
 
   void Set(std::size_t index, Widget* made) {
-    made->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name_)).arg(index));
+    made->setObjectName(u"%1_%2"_s.arg(QLatin1String(name_)).arg(index));
     widgets_.at(index) = made;
   }
 

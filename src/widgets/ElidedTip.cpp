@@ -20,7 +20,7 @@ void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text
   QStringList lines;
   if (fits == Fits::No) lines.append(text);
   if (!control.toolTip().isEmpty()) lines.append(control.toolTip());
-  QToolTip::showText(help.globalPos(), lines.join(QLatin1Char('\n')), &control, area);
+  QToolTip::showText(help.globalPos(), lines.join(u'\n'), &control, area);
 }
 
 void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text, Fits fits) {

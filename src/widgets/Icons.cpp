@@ -13,6 +13,8 @@
 #include "widgets/VectorDrawing.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::array<std::string_view, kIconCount> kFiles{
@@ -29,9 +31,8 @@ constexpr char kAccentInFile[] = "#0000ff";
 
 QByteArray ReadDrawing(IconName name) {
   const std::string_view file = kFiles[static_cast<std::size_t>(name)];
-  QFile source(QStringLiteral(":/mortane/icons/") +
-               QString::fromLatin1(file.data(), static_cast<qsizetype>(file.size())) +
-               QStringLiteral(".svg"));
+  QFile source(u":/mortane/icons/"_s +
+               QString::fromLatin1(file.data(), static_cast<qsizetype>(file.size())) + u".svg"_s);
   const bool opened = source.open(QIODevice::ReadOnly);
   Q_ASSERT(opened);
   return opened ? source.readAll() : QByteArray();
@@ -46,8 +47,7 @@ QByteArray Tinted(IconName name, const IconTint& tint) {
 }
 
 QString CacheKey(IconName name, int size, const IconTint& tint, double ratio) {
-  return QStringLiteral("mortane-%1-%2-%3-%4-%5")
-      .arg(static_cast<int>(name))
+  return u"mortane-%1-%2-%3-%4-%5"_s.arg(static_cast<int>(name))
       .arg(size)
       .arg(tint.line.rgba())
       .arg(tint.accent.isValid() ? tint.accent.rgba() : 0U)

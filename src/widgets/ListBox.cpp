@@ -13,6 +13,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kIconSide = 22;
@@ -31,8 +33,7 @@ class HeaderCorner : public QWidget {
 };
 
 double AverageCharacter(const QFontMetrics& metrics) {
-  static const QString kLetters =
-      QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+  static const QString kLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"_s;
   return static_cast<double>(metrics.horizontalAdvance(kLetters)) /
          static_cast<double>(kLetters.size());
 }
@@ -62,7 +63,7 @@ ListBox::ListBox(QWidget* parent) : RowView(parent), headerCorner_(new HeaderCor
     const bool checked = item->checkState(0) == Qt::Checked;
     if (item->data(0, kCheckedRole).toBool() == checked) return;
     item->setData(0, kCheckedRole, checked);
-    emit rowChecked(row, checked);
+    Q_EMIT rowChecked(row, checked);
   });
 }
 
@@ -177,7 +178,7 @@ void ListBox::clearRows() {
 }
 
 QString ListBox::text(int row) const {
-  return cells(row).join(QLatin1Char('\t'));
+  return cells(row).join(u'\t');
 }
 
 QStringList ListBox::cells(int row) const {
@@ -204,7 +205,7 @@ int ListBox::index() const {
 void ListBox::setIndex(int row) {
   const int before = index();
   SelectQuietly(row);
-  if (index() >= 0 && index() != before) emit selectionChanged(index());
+  if (index() >= 0 && index() != before) Q_EMIT selectionChanged(index());
 }
 
 void ListBox::SelectQuietly(int row) {
@@ -266,13 +267,13 @@ void ListBox::mousePressEvent(QMouseEvent* event) {
   if (row < 0) return;
   RowView::mousePressEvent(event);
   SelectQuietly(row);
-  emit selectionChanged(row);
+  Q_EMIT selectionChanged(row);
 }
 
 void ListBox::mouseMoveEvent(QMouseEvent* event) {
   const int before = index();
   RowView::mouseMoveEvent(event);
-  if (index() >= 0 && index() != before) emit selectionChanged(index());
+  if (index() >= 0 && index() != before) Q_EMIT selectionChanged(index());
 }
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -286,7 +287,7 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
 void ListBox::keyPressEvent(QKeyEvent* event) {
   const int before = index();
   RowView::keyPressEvent(event);
-  if (index() >= 0 && index() != before) emit selectionChanged(index());
+  if (index() >= 0 && index() != before) Q_EMIT selectionChanged(index());
 }
 
 // A view that gets the focus with no current row would make the first one current.

@@ -66,7 +66,7 @@ class ListBox : public RowView {
   void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                    const QList<int>& roles) override;
 
- signals:
+ Q_SIGNALS:
   // Hides a handler of the view, which the view alone calls.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Woverloaded-virtual"

@@ -6,6 +6,8 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 // Gives the control its name and hands it back.
 template <typename Control>
 Control* Named(Control* control, const char* name) {
@@ -16,7 +18,7 @@ Control* Named(Control* control, const char* name) {
 // The name of an element of an array of controls: "Label1_0".
 template <typename Control>
 Control* Named(Control* control, const char* arrayName, int index) {
-  control->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(arrayName)).arg(index));
+  control->setObjectName(u"%1_%2"_s.arg(QLatin1String(arrayName)).arg(index));
   return control;
 }
 

@@ -40,7 +40,7 @@ void OptionGroup::select(int index) {
   QAbstractButton* wanted = group_.button(index);
   if (wanted == nullptr || wanted->isChecked()) return;
   wanted->setChecked(true);
-  emit selectionChanged(index);
+  Q_EMIT selectionChanged(index);
 }
 
 void OptionGroup::clear() {

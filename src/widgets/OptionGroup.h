@@ -29,7 +29,7 @@ class OptionGroup : public QObject {
   void select(int index);
   void clear();
 
- signals:
+ Q_SIGNALS:
   void selectionChanged(int index);
 
  protected:

@@ -10,8 +10,10 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 Rail::Rail(QWidget* parent) : QWidget(parent), stop_(new RovingTabStop(this)) {
-  setAccessibleName(QStringLiteral("Pages"));
+  setAccessibleName(u"Pages"_s);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, grid::kBetweenControls, 0, 0);
   column->setSpacing(2);
@@ -35,7 +37,7 @@ void Rail::select(int index) {
   selected_ = index;
   buttons_[index]->SetSelected(true);
   stop_->SetStop(index);
-  emit selectionChanged(index);
+  Q_EMIT selectionChanged(index);
 }
 
 void Rail::SetPageEnabled(int index, bool enabled) {

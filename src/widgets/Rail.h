@@ -27,7 +27,7 @@ class Rail : public QWidget {
   void select(int index);
   void SetPageEnabled(int index, bool enabled);
 
- signals:
+ Q_SIGNALS:
   void selectionChanged(int index);
 
  protected:

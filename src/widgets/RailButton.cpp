@@ -28,7 +28,7 @@ RailButton::RailButton(IconName icon, const QString& text, QWidget* parent)
 
 void RailButton::ChooseBy(const QMouseEvent& event) {
   if (event.button() == Qt::LeftButton && event.modifiers() == Qt::NoModifier && TakeFocus(*this))
-    emit chosen();
+    Q_EMIT chosen();
 }
 
 QColor RailButton::Background() const {
@@ -63,7 +63,7 @@ void RailButton::mouseReleaseEvent(QMouseEvent* event) {
 
 void RailButton::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
-    emit chosen();
+    Q_EMIT chosen();
     return;
   }
   event->ignore();

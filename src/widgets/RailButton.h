@@ -17,7 +17,7 @@ class RailButton : public QAbstractButton {
  public:
   RailButton(IconName icon, const QString& text, QWidget* parent);
 
- signals:
+ Q_SIGNALS:
   void chosen();
 
  protected:

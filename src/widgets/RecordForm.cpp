@@ -13,6 +13,8 @@
 #include "widgets/ValueLabel.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 enum Row { kCaptionRow, kValueRow, kListRow };
@@ -23,7 +25,7 @@ RecordForm::RecordForm(Card& card, int records, const char* tabsName, const char
     : tabs_(Named(new TabStrip(&card), tabsName)),
       frame_(Named(new QFrame(&card), frameName)),
       columns_(new QGridLayout) {
-  tabs_->setAccessibleName(QStringLiteral("Position"));
+  tabs_->setAccessibleName(u"Position"_s);
   tabs_->SetNumberedTabs(records);
   auto* rows = new QVBoxLayout(frame_);
   rows->setContentsMargins({});
@@ -40,7 +42,7 @@ RecordForm::RecordForm(Card& card, int records, const char* tabsName, const char
 
 RecordForm::Name RecordForm::AddName(const char* labelName, const char* fieldName, int limit,
                                      int shown) {
-  const Name name{Named(new QLabel(QStringLiteral("Name"), frame_), labelName),
+  const Name name{Named(new QLabel(u"Name"_s, frame_), labelName),
                   Named(new TextField(frame_), fieldName)};
   name.field->SetLimit(limit);
   name.field->SetWidthFor(shown);

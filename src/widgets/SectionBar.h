@@ -49,7 +49,7 @@ class SectionBar : public QWidget {
   void SetOptionEnabled(int index, bool enabled, const QString& whyDisabled = {});
   void SetOptionVisible(int index, bool visible);
 
- signals:
+ Q_SIGNALS:
   // For every click of the person, and for a new selection that the program makes.
   void selectionChanged(int index);
 

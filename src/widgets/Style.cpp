@@ -12,6 +12,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kIndicatorSide = 16;
@@ -40,7 +42,7 @@ bool IsPictureOnly(const QStyleOption& option) {
 
 }  // namespace
 
-Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+Style::Style() : QProxyStyle(u"Fusion"_s) {}
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
                        const QWidget* widget) const {

@@ -55,7 +55,7 @@ void TabStrip::mousePressEvent(QMouseEvent* event) {
   const int index = tabAt(event->position().toPoint());
   if (index < 0 || !isTabEnabled(index) || !TakeFocus(*this)) return;
   setIndex(index);
-  emit chosen(index);
+  Q_EMIT chosen(index);
 }
 
 void TabStrip::keyPressEvent(QKeyEvent* event) {
@@ -68,7 +68,7 @@ void TabStrip::keyPressEvent(QKeyEvent* event) {
       QTabBar::keyPressEvent(event);
     }
   }
-  if (currentIndex() != before) emit chosen(currentIndex());
+  if (currentIndex() != before) Q_EMIT chosen(currentIndex());
 }
 
 void TabStrip::GoToEnd(bool last) {

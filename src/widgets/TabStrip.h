@@ -23,7 +23,7 @@ class TabStrip : public QTabBar {
   void setIndex(int index);
   [[nodiscard]] QString caption() const { return tabText(currentIndex()); }
 
- signals:
+ Q_SIGNALS:
   // For a click or a key of the person only.
   void chosen(int index);
 

@@ -38,7 +38,7 @@ class FieldFlag {
 };
 
 bool IsBlank(const QString& text) {
-  return std::all_of(text.begin(), text.end(), [](QChar c) { return c == QLatin1Char(' '); });
+  return std::all_of(text.begin(), text.end(), [](QChar c) { return c == u' '; });
 }
 
 }  // namespace
@@ -84,7 +84,7 @@ bool TextField::Commit() {
     if (complain) complain();
     return false;
   }
-  emit committed(text());
+  Q_EMIT committed(text());
   return !checking.IsLost();
 }
 
@@ -100,7 +100,7 @@ bool TextField::isRefused() const {
 }
 
 void TextField::SetWidthFor(int characters) {
-  const int text = fontMetrics().horizontalAdvance(QString(characters, QLatin1Char('0')));
+  const int text = fontMetrics().horizontalAdvance(QString(characters, u'0'));
   setFixedWidth(text + 2 * kTextMargin + 2 * grid::kBetweenControls);
 }
 

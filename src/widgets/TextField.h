@@ -41,7 +41,7 @@ class TextField : public QLineEdit {
   // Wide enough for that many characters of text, at the height of the grid.
   void SetWidthFor(int characters);
 
- signals:
+ Q_SIGNALS:
   void committed(const QString& text);
 
  protected:

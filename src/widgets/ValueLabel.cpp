@@ -27,11 +27,11 @@ void ValueLabel::setText(const QString& text) {
 }
 
 QSize ValueLabel::sizeHint() const {
-  return {fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters_, fontMetrics().height()};
+  return {fontMetrics().horizontalAdvance(u'0') * characters_, fontMetrics().height()};
 }
 
 QSize ValueLabel::minimumSizeHint() const {
-  return {fontMetrics().horizontalAdvance(QLatin1Char('0')) * qMin(kLeastCharacters, characters_),
+  return {fontMetrics().horizontalAdvance(u'0') * qMin(kLeastCharacters, characters_),
           fontMetrics().height()};
 }
 

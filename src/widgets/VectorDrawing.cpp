@@ -8,6 +8,8 @@
 #include "widgets/PathData.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::array<QStringView, 3> kFrames{u"svg", u"g", u"use"};
@@ -51,7 +53,7 @@ QPainterPath EllipsePath(const QXmlStreamReader& reader) {
 }
 
 std::optional<QPainterPath> PathOf(const QXmlStreamReader& reader) {
-  if (reader.name() == u"path") return ParsePathData(reader.attributes().value(QLatin1String("d")));
+  if (reader.name() == u"path") return ParsePathData(reader.attributes().value("d"_L1));
   if (reader.name() == u"rect") return RectPath(reader);
   if (reader.name() == u"circle" || reader.name() == u"ellipse") return EllipsePath(reader);
   return std::nullopt;
@@ -83,7 +85,7 @@ VectorDrawing::VectorDrawing(const QByteArray& svg) {
 
 void VectorDrawing::ReadElement(QXmlStreamReader& reader, Style style) {
   const QString name = reader.name().toString();
-  const QString id = reader.attributes().value(QLatin1String("id")).toString();
+  const QString id = reader.attributes().value("id"_L1).toString();
   const std::size_t first = shapes_.size();
   ReadAttributes(reader, style);
   const bool frame = IsOneOf(kFrames, name);
@@ -158,7 +160,7 @@ bool VectorDrawing::AddShape(const QXmlStreamReader& reader, const Style& style)
 
 // The shapes of a part that stands further up, once more. Its own frame is theirs already.
 bool VectorDrawing::Repeat(const QXmlStreamReader& reader, const Style& style) {
-  const QString name = reader.attributes().value(QLatin1String("xlink:href")).toString();
+  const QString name = reader.attributes().value("xlink:href"_L1).toString();
   const auto part = named_.constFind(name.mid(1));
   if (part == named_.cend()) return false;
   for (std::size_t i = part->first; i < part->last; ++i) {

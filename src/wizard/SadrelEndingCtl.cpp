@@ -14,6 +14,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kWaitAfterSendMs = 3000;
@@ -23,13 +25,12 @@ constexpr std::int16_t kSent = -1;
 
 SadrelEndingCtl::SadrelEndingCtl(clsK70& k70, QWidget* parent)
     : Page(parent),
-      Header(Named(new PageHeader(IconName::Flag, QStringLiteral("Ending"), this), "Header")),
-      FrameBase(Named(new Card(QStringLiteral("Ending"), this), "FrameBase")),
+      Header(Named(new PageHeader(IconName::Flag, u"Ending"_s, this), "Header")),
+      FrameBase(Named(new Card(u"Ending"_s, this), "FrameBase")),
       TextResult(Named(new QPlainTextEdit(FrameBase), "TextResult")),
-      ButtonSend(
-          Named(new QPushButton(QStringLiteral("Send to Microscope"), FrameBase), "ButtonSend")),
+      ButtonSend(Named(new QPushButton(u"Send to Microscope"_s, FrameBase), "ButtonSend")),
       k70_(k70) {
-  TextResult->setAccessibleName(QStringLiteral("Changes"));
+  TextResult->setAccessibleName(u"Changes"_s);
   TextResult->setReadOnly(true);
   TextResult->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   TextResult->setTabChangesFocus(true);
@@ -59,7 +60,7 @@ void SadrelEndingCtl::LoadData() {
 void SadrelEndingCtl::Send() {
   RunStep(k70_.prompts(), [this] { k70_.Send(); });
   sent = kSent;
-  emit Sent();
+  Q_EMIT Sent();
 }
 
 // The window closes on the event of the sending, so nothing of this page is used after it.

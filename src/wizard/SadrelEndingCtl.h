@@ -35,7 +35,7 @@ class SadrelEndingCtl : public Page {
   QPlainTextEdit* TextResult;
   QPushButton* ButtonSend;
 
- signals:
+ Q_SIGNALS:
   // The sending is done.
   void Sent();
 

@@ -21,6 +21,8 @@
 #include "wizard/StepRail.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::int16_t kOn = -1;
@@ -36,7 +38,7 @@ void SadrelMainForm::Load() {
   ShowVersion();
   for (int step = 0; step < kStepCount; ++step) {
     const bool always = step == kSystemStep || step == kItemStep || step == kEndingStep;
-    EnableStep(step, always, QStringLiteral("No microscope is connected."));
+    EnableStep(step, always, u"No microscope is connected."_s);
   }
 }
 
@@ -50,7 +52,7 @@ void SadrelMainForm::OnConnected(bool) {
 }
 
 void SadrelMainForm::OnItemChanged(int item, bool enabled) {
-  EnableStep(item + kFirstItem, enabled, QStringLiteral("Left out in Setup Items."));
+  EnableStep(item + kFirstItem, enabled, u"Left out in Setup Items."_s);
 }
 
 void SadrelMainForm::EnableStep(int step, bool enabled, const QString& whyOff) {
@@ -83,13 +85,13 @@ void SadrelMainForm::OnTab(int step, int tab) {
 void SadrelMainForm::GoToStep(int step) {
   if (stepEnabled[static_cast<std::size_t>(step)] == kOff || step == currentStep) return;
   currentStep = step;
-  ButtonFinish->setText(QStringLiteral("&Finish"));
+  ButtonFinish->setText(u"&Finish"_s);
   ButtonPrevious->setEnabled(true);
   ButtonNext->setEnabled(true);
   if (step == kEndingStep) {
     const HourglassScope hourglass(prompts());
     EnterStep(step);
-    ButtonFinish->setText(QStringLiteral("&Exit"));
+    ButtonFinish->setText(u"&Exit"_s);
     ButtonNext->setEnabled(false);
   } else {
     EnterStep(step);

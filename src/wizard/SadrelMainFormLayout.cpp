@@ -16,6 +16,8 @@
 #include "wizard/StepRail.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kButtonWidth = 104;
@@ -88,15 +90,12 @@ QPushButton* SadrelMainForm::AddButton(const char* name, const QString& text, Ac
 
 QWidget* SadrelMainForm::BuildButtons() {
   auto* bar = new CommandBar(this);
-  ButtonCancel =
-      AddButton("ButtonCancel", QStringLiteral("&Cancel"), &SadrelMainForm::DoCancel, bar);
+  ButtonCancel = AddButton("ButtonCancel", u"&Cancel"_s, &SadrelMainForm::DoCancel, bar);
   bar->row().addStretch();
-  ButtonPrevious =
-      AddButton("ButtonPrevious", QStringLiteral("&Previous"), &SadrelMainForm::DoPrevious, bar);
-  ButtonNext = AddButton("ButtonNext", QStringLiteral("&Next"), &SadrelMainForm::DoNext, bar);
+  ButtonPrevious = AddButton("ButtonPrevious", u"&Previous"_s, &SadrelMainForm::DoPrevious, bar);
+  ButtonNext = AddButton("ButtonNext", u"&Next"_s, &SadrelMainForm::DoNext, bar);
   bar->row().addSpacing(grid::kBetweenColumns);
-  ButtonFinish =
-      AddButton("ButtonFinish", QStringLiteral("&Finish"), &SadrelMainForm::DoFinish, bar);
+  ButtonFinish = AddButton("ButtonFinish", u"&Finish"_s, &SadrelMainForm::DoFinish, bar);
   return bar;
 }
 

@@ -14,6 +14,8 @@
 #include "widgets/PageHeader.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // Types of the microscope.
@@ -42,8 +44,7 @@ SadrelControlOtherCtl::SadrelControlOtherCtl(clsK70& k70, QWidget* parent)
     : SadrelControlOtherCtl(k70, MakeOther(k70), parent) {}
 
 SadrelControlOtherCtl::SadrelControlOtherCtl(clsK70& k70, ControlOtherCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::Loudspeaker, QStringLiteral("Control"), inner, "ControlOtherCtl1",
-                 parent),
+    : SadrelPage(IconName::Loudspeaker, u"Control"_s, inner, "ControlOtherCtl1", parent),
       ControlOtherCtl1(inner),
       k70_(k70) {}
 
@@ -69,8 +70,7 @@ SadrelControlFocusDriveCtl::SadrelControlFocusDriveCtl(clsK70& k70, QWidget* par
     : SadrelControlFocusDriveCtl(MakeFocusDrive(k70), parent) {}
 
 SadrelControlFocusDriveCtl::SadrelControlFocusDriveCtl(ControlFocusDriveCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::ZFocus, QStringLiteral("Z Focus"), inner, "ControlFocusDriveCtl1",
-                 parent),
+    : SadrelPage(IconName::ZFocus, u"Z Focus"_s, inner, "ControlFocusDriveCtl1", parent),
       ControlFocusDriveCtl1(inner) {}
 
 void SadrelControlFocusDriveCtl::SetNosePositgion() {
@@ -81,8 +81,7 @@ SadrelControlXYStageCtl::SadrelControlXYStageCtl(clsK70& k70, QWidget* parent)
     : SadrelControlXYStageCtl(MakeXYStage(k70), parent) {}
 
 SadrelControlXYStageCtl::SadrelControlXYStageCtl(ControlXYStageCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::XYStage, QStringLiteral("XY Stage"), inner, "ControlXYStageCtl1",
-                 parent),
+    : SadrelPage(IconName::XYStage, u"XY Stage"_s, inner, "ControlXYStageCtl1", parent),
       ControlXYStageCtl1(inner) {}
 
 void SadrelControlXYStageCtl::SetNosePosition() {
@@ -90,15 +89,15 @@ void SadrelControlXYStageCtl::SetNosePosition() {
 }
 
 SadrelControlTactorSwitch::SadrelControlTactorSwitch(clsK70& k70, Prompts& prompts, QWidget* parent)
-    : ContainerPage(IconName::HandController, QStringLiteral("Controller"), "optSettings", parent,
+    : ContainerPage(IconName::HandController, u"Controller"_s, "optSettings", parent,
                     NotOffered::Hidden),
       optSettings(sections()),
       SwitchSettingCtl1(MakeBodySwitches(k70)),
       TactorSwitchSettingCtl1(MakeTactorSwitches(k70, prompts)),
       k70_(k70) {
-  SetSections({{"K70 Switch", "SwitchSettingCtl1", SwitchSettingCtl1,
+  SetSections({{u"K70 Switch"_s, "SwitchSettingCtl1", SwitchSettingCtl1,
                 [&k70] { return FindSwitchTabs(k70).k70; }, KeepAsLoaded},
-               {"Tactor Switch", "TactorSwitchSettingCtl1", TactorSwitchSettingCtl1,
+               {u"Tactor Switch"_s, "TactorSwitchSettingCtl1", TactorSwitchSettingCtl1,
                 [&k70] { return FindSwitchTabs(k70).tactor; }, KeepAsLoaded}},
               {1, 0});
 }

@@ -19,6 +19,8 @@
 #include "wizard/SetupItems.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kStandard = 0;
@@ -70,8 +72,7 @@ class ReleaseList : public ListBox {
 SelSetupItemCtl::SelSetupItemCtl(clsK70& k70, QWidget* parent)
     : Page(parent),
       CommonDialog1(SettingsFileQuestion()),
-      Header(Named(new PageHeader(IconName::CheckList, QStringLiteral("Setup Items"), this),
-                   "Header")),
+      Header(Named(new PageHeader(IconName::CheckList, u"Setup Items"_s, this), "Header")),
       FrameBase(Named(new Card({}, this), "FrameBase")),
       List1(Named(new ListBox(FrameBase), "List1")),
       Frame1(BuildOptions()),
@@ -167,7 +168,7 @@ void SelSetupItemCtl::AddRow(ListBox& list, int item, bool checked) {
 }
 
 void SelSetupItemCtl::RaiseRow(const ListBox& list, int row) {
-  emit ItemChanged(list.data(row).toInt(), list.isRowChecked(row));
+  Q_EMIT ItemChanged(list.data(row).toInt(), list.isRowChecked(row));
 }
 
 void SelSetupItemCtl::RaiseRows(const ListBox& list) {
@@ -176,7 +177,7 @@ void SelSetupItemCtl::RaiseRows(const ListBox& list) {
 
 void SelSetupItemCtl::OnMode(int mode) {
   ListCustom->setEnabled(mode == kCustom);
-  emit ModeChanged(mode);
+  Q_EMIT ModeChanged(mode);
   if (mode == kStandard) RaiseRows(*ListStandard);
   if (mode == kCustom) RaiseRows(*ListCustom);
 }
@@ -189,7 +190,7 @@ void SelSetupItemCtl::OnFile() {
   OpenSettings(k70_.prompts(), CommonDialog1, this);
   k70_.SystemName = name;
   for (int row = 0; row < ListStandard->rowCount(); ++row) {
-    emit ItemChanged(ListStandard->data(row).toInt(), true);
+    Q_EMIT ItemChanged(ListStandard->data(row).toInt(), true);
   }
 }
 

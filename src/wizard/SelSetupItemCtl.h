@@ -43,7 +43,7 @@ class SelSetupItemCtl : public Page {
   ListBox* ListStandard;
   ListBox* ListCustom;
 
- signals:
+ Q_SIGNALS:
   void ModeChanged(int mode);
   // The step of an item is on or off.
   void ItemChanged(int item, bool enabled);

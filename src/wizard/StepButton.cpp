@@ -7,6 +7,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kHeight = 54;
@@ -33,9 +35,8 @@ void StepButton::SetState(StepState state) {
   state_ = state;
   setEnabled(state != StepState::Off);
   setChecked(state == StepState::Current);
-  setAccessibleDescription(QStringLiteral("Step %1, %2")
-                               .arg(number_)
-                               .arg(QLatin1String(kStateTexts[static_cast<std::size_t>(state)])));
+  setAccessibleDescription(u"Step %1, %2"_s.arg(number_).arg(
+      QLatin1String(kStateTexts[static_cast<std::size_t>(state)])));
   update();
 }
 

@@ -12,6 +12,8 @@
 
 namespace mortane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
@@ -24,7 +26,7 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
 
 StepRail::StepRail(QWidget* parent) : QWidget(parent), stop_(new RovingTabStop(this)) {
   QAccessible::installFactory(&MakeInterface);  // once, however often it is called
-  setAccessibleName(QStringLiteral("Steps"));
+  setAccessibleName(u"Steps"_s);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, grid::kBetweenControls, 0, 0);
   column->setSpacing(0);
@@ -40,7 +42,7 @@ int StepRail::AddStep(IconName icon, const QString& text) {
   enabled_.append(false);
   static_cast<QVBoxLayout*>(layout())->insertWidget(index, button);
   stop_->Add(button);
-  connect(button, &StepButton::chosen, this, [this, index] { emit chosen(index); });
+  connect(button, &StepButton::chosen, this, [this, index] { Q_EMIT chosen(index); });
   return index;
 }
 

@@ -27,7 +27,7 @@ class StepRail : public QWidget {
   // -1: none.
   void SetCurrent(int index);
 
- signals:
+ Q_SIGNALS:
   void chosen(int index);
 
  protected:

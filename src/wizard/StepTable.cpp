@@ -17,6 +17,8 @@
 #include "wizard/SelSetupItemCtl.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // Before the first selection the first tab counts.
@@ -74,63 +76,64 @@ void KeepLists(Page&) {}
 
 StepTable WizardSteps() {
   return {{
-      {"System",
+      {u"System"_s,
        IconName::System,
-       {"Please input System Name."},
+       {u"Please input System Name."_s},
        MakeAs<MakeSystemSettings, &SadrelMainForm::SystemSettingsCtl1>},
-      {"Setup Items",
+      {u"Setup Items"_s,
        IconName::CheckList,
-       {"Please select wizard type."},
+       {u"Please select wizard type."_s},
        MakeItems,
        {},
        KeepLists},
-      {"Objective",
+      {u"Objective"_s,
        IconName::Objective,
-       {"Click Address Number Tab and Select Series and Description from the list.",
-        "Click Number Tab and Input  Objective Name, W.D., N.A. and select Series, Type and Mag "
-        "from the lists.",
-        "Set the Limit Controls."},
+       {u"Click Address Number Tab and Select Series and Description from the list."_s,
+        u"Click Number Tab and Input  Objective Name, W.D., N.A. and select Series, Type and Mag "
+        u"from the lists."_s,
+        u"Set the Limit Controls."_s},
        MakeAs<MakeObjectiveSettings, &SadrelMainForm::ObjectiveSettingsCtl1>,
        CurrentTab},
-      {"Filter Cube",
+      {u"Filter Cube"_s,
        IconName::Cube,
-       {"Click Address Number Tab and Select Filter Cube from the List.",
-        "Click Number Tab, Input Filter Cube Name and Select Exciter / Dichroic / Barrier from the "
-        "list.",
-        "Input Exciter / Dichroic / Barrier Name."},
+       {u"Click Address Number Tab and Select Filter Cube from the List."_s,
+        u"Click Number Tab, Input Filter Cube Name and Select Exciter / Dichroic / Barrier from "
+        u"the "
+        u"list."_s,
+        u"Input Exciter / Dichroic / Barrier Name."_s},
        MakeAs<MakeFilterQubeSettings, &SadrelMainForm::FilterQubeSettingsCtl1>,
        CurrentTab},
-      {"Condenser",
+      {u"Condenser"_s,
        IconName::Condenser,
-       {"Select Condenser Module of Each Address from the List.",
-        "Input Name of Optional Condenser Module."},
+       {u"Select Condenser Module of Each Address from the List."_s,
+        u"Input Name of Optional Condenser Module."_s},
        MakeAs<MakeCondenserSettings, &SadrelMainForm::CondenserSettingsCtl1>,
        CurrentTab},
-      {"Control",
+      {u"Control"_s,
        IconName::Loudspeaker,
-       {"Set Other Settigs.", "Select Buzzer On or Off."},
+       {u"Set Other Settigs."_s, u"Select Buzzer On or Off."_s},
        MakeControls,
        HelpOfControls},
-      {"InterLock",
+      {u"InterLock"_s,
        IconName::Interlock,
-       {"Set whether each accessory is interlocked when Observation Method is changed.",
-        "Set whether each accessory is interlocked when each of Nosepiece / LightPath / Optical "
-        "Zoom is changed.",
-        "Set the compensation on the proper value. The proper value is calculated using "
-        "information such as objective N.A and condenser focal length."},
+       {u"Set whether each accessory is interlocked when Observation Method is changed."_s,
+        u"Set whether each accessory is interlocked when each of Nosepiece / LightPath / Optical "
+        u"Zoom is changed."_s,
+        u"Set the compensation on the proper value. The proper value is calculated using "
+        u"information such as objective N.A and condenser focal length."_s},
        MakeAs<MakeInterlockSettings, &SadrelMainForm::InterlockSettingsCtl1>,
        CurrentTab},
-      {"Z Focus",
+      {u"Z Focus"_s,
        IconName::ZFocus,
-       {"Set Focus Drive settings."},
+       {u"Set Focus Drive settings."_s},
        MakeFocusStep,
        {},
        EnterFocusStep},
-      {"Controller",
+      {u"Controller"_s,
        IconName::HandController,
-       {"Set Switch Functions of K70 Microscope ", "Set Tactor Controller settings."},
+       {u"Set Switch Functions of K70 Microscope "_s, u"Set Tactor Controller settings."_s},
        MakeSwitches},
-      {"Ending", IconName::Flag, {"Check data to set."}, MakeEnding},
+      {u"Ending"_s, IconName::Flag, {u"Check data to set."_s}, MakeEnding},
   }};
 }
 

@@ -7,6 +7,8 @@
 #include "widgets/PageHeader.h"
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using controller::FiberData;
@@ -38,7 +40,7 @@ TEST(ControlPage, BearsItsTabsAndSubPages) {
   for (int i = 0; i < 6; ++i) {
     const TabRow& row = kTabs[static_cast<std::size_t>(i)];
     EXPECT_EQ(Tab(page, i).text(), row.caption);
-    EXPECT_EQ(Tab(page, i).objectName(), QStringLiteral("optControl_%1").arg(i));
+    EXPECT_EQ(Tab(page, i).objectName(), u"optControl_%1"_s.arg(i));
     EXPECT_EQ(rig.pages[static_cast<std::size_t>(i)]->objectName(), row.subPage);
   }
   EXPECT_EQ(page.ControlFocusDriveCtl1, rig.pages[0]);

@@ -17,6 +17,8 @@
 #include "widgets/CommandKey.h"
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::array kKeys{Qt::Key_Tab,    Qt::Key_Backtab,  Qt::Key_Space, Qt::Key_Return,
@@ -38,7 +40,7 @@ bool IsInSight(const QWidget& widget) {
 bool IsWorkable(const QWidget& widget) {
   if (!IsInSight(widget)) return false;
   // Exit would end the walk.
-  if (widget.objectName() == QLatin1String("ImageCommand_3")) return false;
+  if (widget.objectName() == "ImageCommand_3"_L1) return false;
   return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
          qobject_cast<const QLineEdit*>(&widget) != nullptr ||
          qobject_cast<const QComboBox*>(&widget) != nullptr ||

@@ -3,12 +3,14 @@
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 QVector<DrawnAccessory> All(int mounted) {
   QVector<DrawnAccessory> accessories;
   for (int number = 1; number <= 14; ++number)
-    accessories.append({number, QStringLiteral("Part %1").arg(number), mounted});
+    accessories.append({number, u"Part %1"_s.arg(number), mounted});
   return accessories;
 }
 

@@ -6,12 +6,14 @@
 #include "gui/support/FontScope.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 QVector<DrawnAccessory> Accessories() {
   QVector<DrawnAccessory> accessories;
   for (int number = 1; number <= 14; ++number) {
-    accessories.append({number, QStringLiteral("DIA Aperture Stop %1").arg(number), 2});
+    accessories.append({number, u"DIA Aperture Stop %1"_s.arg(number), 2});
   }
   return accessories;
 }

@@ -3,12 +3,14 @@
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class MoveCrossTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    cross = window.Add<MoveCross>(MoveCross::Axes::Both, QStringLiteral("Start"));
+    cross = window.Add<MoveCross>(MoveCross::Axes::Both, u"Start"_s);
     window.Show();
   }
   QPoint PlaceOf(MoveDirection direction, MoveSize size) {
@@ -64,7 +66,7 @@ TEST_F(MoveCrossTest, ButtonsAreLargeEnoughAndSayWhatTheyDo) {
 }
 
 TEST_F(MoveCrossTest, AVerticalOneHasNoButtonsAtItsSides) {
-  const MoveCross vertical(MoveCross::Axes::Vertical, QStringLiteral("Go"));
+  const MoveCross vertical(MoveCross::Axes::Vertical, u"Go"_s);
   EXPECT_EQ(vertical.button(MoveDirection::Left, MoveSize::Small), nullptr);
   EXPECT_EQ(vertical.button(MoveDirection::Right, MoveSize::Large), nullptr);
   EXPECT_NE(vertical.button(MoveDirection::Up, MoveSize::Small), nullptr);

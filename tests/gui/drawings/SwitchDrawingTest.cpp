@@ -8,19 +8,21 @@
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSizeF kDesign{604, 302};
 
 // Two columns; the keys go through the right one first.
 SwitchPlan Plan() {
-  return {QStringLiteral("body"),
+  return {u"body"_s,
           kDesign,
           {{2, {MarkKind::BodyDial, "3"}, {500, 100, 25, 25}},
            {3, {MarkKind::BodySwitch, "4"}, {500, 131, 23, 23}},
            {0, {MarkKind::HandDial, "CW/CCW"}, {60, 40, 100, 100}},
            {1, {MarkKind::HandKey, "L"}, {20, 130, 62, 44}}},
-          {{QStringLiteral("Left"), {103, 290}}}};
+          {{u"Left"_s, {103, 290}}}};
 }
 
 class SwitchDrawingTest : public testing::Test {
@@ -56,7 +58,7 @@ class SwitchDrawingTest : public testing::Test {
 
 TEST_F(SwitchDrawingTest, MarksAreNamedByTheirRowsFromOne) {
   for (int i = 0; i < 4; ++i) {
-    EXPECT_EQ(drawing->mark(i)->objectName(), QStringLiteral("optBtn_%1").arg(i + 1));
+    EXPECT_EQ(drawing->mark(i)->objectName(), u"optBtn_%1"_s.arg(i + 1));
   }
 }
 
@@ -195,7 +197,7 @@ TEST_F(SwitchDrawingTest, SpaceChoosesTheMarkWithTheFocus) {
 }
 
 TEST_F(SwitchDrawingTest, TellsTheNamesOfItsMarksInTheOrderOfTheRows) {
-  for (int i = 0; i < 4; ++i) drawing->SetMarkName(i, QStringLiteral("Row %1").arg(i));
+  for (int i = 0; i < 4; ++i) drawing->SetMarkName(i, u"Row %1"_s.arg(i));
   EXPECT_EQ(drawing->mark(2)->accessibleName(), "Row 2");
   EXPECT_EQ(drawing->accessibleDescription(), "Row 0; Row 1; Row 2; Row 3");
 }
@@ -244,7 +246,7 @@ TEST_F(SwitchDrawingTest, ABusyWindowChangesNothing) {
 TEST_F(SwitchDrawingTest, MirroredItHasItsMarksAndTextsInPlace) {
   drawing->hide();
   SwitchPlan plan = Plan();
-  plan.drawing = QStringLiteral("handcontroller");
+  plan.drawing = u"handcontroller"_s;
   SwitchDrawing hand(plan, "optBtn");
   hand.resize(604, 302);
   const QImage usual = hand.grab().toImage();

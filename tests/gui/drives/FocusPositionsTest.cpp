@@ -8,6 +8,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class FocusPositions : public testing::Test {
@@ -49,7 +51,7 @@ TEST_F(FocusPositions, HaveNoRowBeforeTheFirstLoading) {
 TEST_F(FocusPositions, StandInFixedPitchUnderTheirAddress) {
   FocusRig rig;
   for (int row = 0; row < 7; ++row) {
-    const QString address = QStringLiteral("Address %1").arg(row + 1);
+    const QString address = u"Address %1"_s.arg(row + 1);
     EXPECT_EQ(rig.field(row).font(), FixedFont());
     EXPECT_EQ(rig.field(row).accessibleName(), address);
     EXPECT_EQ(rig.page.optNosepiece->button(row)->accessibleName(), address);

@@ -18,6 +18,8 @@
 
 namespace mortane::test {
 
+using namespace Qt::StringLiterals;
+
 inline constexpr int kPatienceMs = 20000;
 
 // The process ends with this one, also when this one is killed: a program that lived on would hold
@@ -119,7 +121,7 @@ class BuiltProgram : public testing::Test {
   }
   // Of the program so far, as user and as system.
   qint64 ProcessorTicks() {
-    QFile statistics(QStringLiteral("/proc/%1/stat").arg(program_.processId()));
+    QFile statistics(u"/proc/%1/stat"_s.arg(program_.processId()));
     if (!statistics.open(QIODevice::ReadOnly)) return 0;
     const QByteArrayList fields = statistics.readAll().split(')').back().split(' ');
     constexpr qsizetype kUserTicks = 12;  // counted behind the program's name

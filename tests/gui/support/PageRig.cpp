@@ -6,6 +6,8 @@
 #include <stdexcept>
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // The room that a page has in the main window at its design size.
@@ -37,7 +39,7 @@ void PageRig::ShowPage(Page* page) {
   auto* column = new QVBoxLayout(window_.get());
   column->setContentsMargins({});
   column->addWidget(page);
-  elsewhere_ = new QPushButton(QStringLiteral("elsewhere"));
+  elsewhere_ = new QPushButton(u"elsewhere"_s);
   elsewhere_->setObjectName("elsewhere");
   column->addWidget(elsewhere_);
   window_->resize(kPageRoom);

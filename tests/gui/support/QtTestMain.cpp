@@ -37,8 +37,8 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   // Where the offscreen platform knows fonts by their names alone.
-  QFont::insertSubstitution(QStringLiteral("monospace"), QStringLiteral("DejaVu Sans Mono"));
-  QApplication::setApplicationName(QStringLiteral("Mortane"));
+  QFont::insertSubstitution(u"monospace"_s, u"DejaVu Sans Mono"_s);
+  QApplication::setApplicationName(u"Mortane"_s);
   QApplication::setQuitOnLastWindowClosed(false);
   mortane::ApplyTheme(application, mortane::Scheme::Light);
   return RUN_ALL_TESTS();

@@ -9,6 +9,8 @@
 #include "widgets/VectorDrawing.h"
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 const PlacedMark& MarkAt(const SwitchPlan& plan, int index) {
@@ -69,7 +71,7 @@ TEST(SwitchPlans, HaveTheMarksOfAPlateInLine) {
 
 TEST(SwitchPlans, AreAsLargeAsTheirPictures) {
   for (const SwitchPlan& plan : {BodyPlan(), HandControllerPlan()}) {
-    QFile picture(QStringLiteral(":/mortane/%1.svg").arg(plan.drawing));
+    QFile picture(u":/mortane/%1.svg"_s.arg(plan.drawing));
     ASSERT_TRUE(picture.open(QIODevice::ReadOnly)) << plan.drawing.toStdString();
     EXPECT_EQ(VectorDrawing(picture.readAll()).Size(), plan.size) << plan.drawing.toStdString();
   }

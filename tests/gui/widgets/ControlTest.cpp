@@ -5,6 +5,8 @@
 #include <QLabel>
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class Panel : public QWidget {
@@ -21,12 +23,12 @@ TEST(ControlTest, IsNothingBeforeItsWidgetIsMade) {
 
 TEST(ControlTest, GivesItsWidgetTheNameOfTheMember) {
   Panel panel;
-  auto* made = new QLabel(QStringLiteral("text"), &panel);
+  auto* made = new QLabel(u"text"_s, &panel);
   panel.Label1 = made;
   EXPECT_EQ(panel.Label1, made);
   EXPECT_EQ(&*panel.Label1, made);
-  EXPECT_EQ(panel.Label1->text(), QStringLiteral("text"));
-  EXPECT_EQ(made->objectName(), QStringLiteral("Label1"));
+  EXPECT_EQ(panel.Label1->text(), u"text"_s);
+  EXPECT_EQ(made->objectName(), u"Label1"_s);
 }
 
 TEST(ControlTest, NumbersTheElementsOfAnArrayFromZero) {
@@ -34,7 +36,7 @@ TEST(ControlTest, NumbersTheElementsOfAnArrayFromZero) {
   auto* made = new QLabel(&panel);
   panel.lblAddress.Set(2, made);
   EXPECT_EQ(panel.lblAddress[2], made);
-  EXPECT_EQ(made->objectName(), QStringLiteral("lblAddress_2"));
+  EXPECT_EQ(made->objectName(), u"lblAddress_2"_s);
   EXPECT_EQ(panel.lblAddress.size(), 3U);
   EXPECT_EQ(*(panel.lblAddress.end() - 1), made);
 }

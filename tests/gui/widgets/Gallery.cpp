@@ -36,6 +36,8 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // A state that only the mouse or the keyboard brings about is painted by giving the control the
@@ -326,8 +328,8 @@ class ListsPage : public Page {
                        {"N.A.", Qt::AlignRight},
                        {"Name", Qt::AlignLeft}});
     for (int i = 0; i < 20; ++i)
-      items->addCells({"DIC", QStringLiteral("%1x").arg((i + 1) * 5), "0.66", "0.75",
-                       QStringLiteral("Plan SA %1x DIC").arg((i + 1) * 5)});
+      items->addCells({"DIC", u"%1x"_s.arg((i + 1) * 5), "0.66", "0.75",
+                       u"Plan SA %1x DIC"_s.arg((i + 1) * 5)});
     items->setIndex(5);
     row->addWidget(items, 1);
     auto* report = new ReportList({"Switch", "Function"});

@@ -12,6 +12,8 @@
 #include "wizard/HelpLine.h"
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 struct HelpRow {
@@ -107,7 +109,7 @@ TEST(HelpRoom, HoldsTwoLinesAtLeast) {
 }
 
 TEST(HelpRoom, IsThatOfTheLongestTextAtItsWidth) {
-  const QString text = QStringLiteral("word ").repeated(60);
+  const QString text = u"word "_s.repeated(60);
   HelpLine line;
   line.SetTexts({"short", text});
   line.show();
