@@ -10,6 +10,8 @@
 #include "support/TestWatch.h"
 #include "support/UniqueName.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The user's own settings are neither read nor written, the toolkit's among them. The child of a
