@@ -1,10 +1,16 @@
 #include "controller/CallLine.h"
 
+#include <algorithm>
+#include <array>
+
 #include "common/Failure.h"
 #include "common/Numbers.h"
 
 namespace mortane::controller {
 namespace {
+
+// Calls that only ask.
+constexpr std::array<std::string_view, 2> kQuestions{"QueryCommand", "WaitMove"};
 
 std::string LeftSide(const CallSite& site) {
   std::string text = site.Path();
@@ -31,6 +37,12 @@ std::string FailedCallLine(const CallSite& site, const Failure& failure) {
 
 std::string FailedReadLine(std::string_view path, const Failure& failure) {
   return std::string(path) + " ! " + failure.Source() + ":" + Hex(failure.Number());
+}
+
+bool IsCommand(const CallSite& site) {
+  if (site.kind == CallKind::Put) return true;
+  return site.kind == CallKind::Call &&
+         std::find(kQuestions.begin(), kQuestions.end(), site.member) == kQuestions.end();
 }
 
 }  // namespace mortane::controller

@@ -23,4 +23,7 @@ std::string ReadLine(std::string_view path, const Value& value);
 std::string FailedCallLine(const CallSite& site, const Failure& failure);
 std::string FailedReadLine(std::string_view path, const Failure& failure);
 
+// Whether the call changes something: every Put, and every call but those that only ask.
+bool IsCommand(const CallSite& site);
+
 }  // namespace mortane::controller

@@ -1,22 +1,10 @@
 #include "controller/Journal.h"
 
-#include <algorithm>
-#include <array>
-
 #include "controller/CallLine.h"
 #include "controller/ControllerError.h"
 
 namespace mortane::controller {
 namespace {
-
-// Calls that only ask.
-constexpr std::array<std::string_view, 2> kQuestions{"QueryCommand", "WaitMove"};
-
-bool IsCommand(const CallSite& site) {
-  if (site.kind == CallKind::Put) return true;
-  return site.kind == CallKind::Call &&
-         std::find(kQuestions.begin(), kQuestions.end(), site.member) == kQuestions.end();
-}
 
 bool IsNavigation(const CallSite& site, const Value& result) {
   return site.kind == CallKind::Create || site.kind == CallKind::EnumeratorNext ||

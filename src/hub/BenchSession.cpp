@@ -39,6 +39,10 @@ void BenchSession::Keep() {
   if (changed_) Exchange();
 }
 
+void BenchSession::Renew() {
+  if (file_) Exchange();
+}
+
 void BenchSession::Exchange() {
   changed_ = false;
   try {

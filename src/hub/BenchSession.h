@@ -33,6 +33,8 @@ class BenchSession {
   // Writes what changed since the last time. A file that cannot be written keeps its old content;
   // one line tells it, and the next change or the end of the session tries again.
   void Keep();
+  // The same, and takes what other programs wrote to the file, also for connected instruments.
+  void Renew();
 
  private:
   void Exchange();

@@ -57,4 +57,8 @@ void SessionLibrary::Keep() {
   if (bench_) bench_->Keep();
 }
 
+void SessionLibrary::Renew() {
+  if (bench_) bench_->Renew();
+}
+
 }  // namespace mortane

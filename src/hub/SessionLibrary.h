@@ -40,6 +40,8 @@ class SessionLibrary {
 
   // Writes into the bench file what changed since the last time.
   void Keep();
+  // The same, and takes what other programs wrote there.
+  void Renew();
 
  private:
   void OpenInstalled(const LibraryWish& wish);
