@@ -38,10 +38,11 @@ class NamedMutex {
   void Unlock();
 
  private:
-  struct Handle;
+  // What the system holds for the open name.
+  struct Names;
 
   inline static std::string scope_;
-  std::unique_ptr<Handle> handle_;
+  std::unique_ptr<Names> names_;
 };
 
 using NamedMutexMaker = std::function<std::unique_ptr<NamedMutex>()>;

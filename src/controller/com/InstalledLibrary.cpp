@@ -19,7 +19,7 @@ std::string ProgIdOf(const std::vector<ComClass>& classes, std::string_view name
   return row == classes.end() ? std::string(name) : row->progId;
 }
 
-// The system's own texts for a class that nobody registered puzzle more than they tell.
+// COM's own text for an unregistered class does not help the user.
 std::string ReasonOf(const ControllerError& error) {
   const auto result = static_cast<HRESULT>(error.Number());
   const bool unknown = result == CO_E_CLASSSTRING || result == REGDB_E_CLASSNOTREG;

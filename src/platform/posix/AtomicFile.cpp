@@ -85,9 +85,9 @@ void RemoveLeftTemporaries(const std::filesystem::path& folder) {
 }
 
 // A temporary file beside the target, removed unless it was renamed.
-class Temporary {
+class ReplacementFile {
  public:
-  explicit Temporary(const std::string& target) : target_(target) {
+  explicit ReplacementFile(const std::string& target) : target_(target) {
     const std::filesystem::path folder = std::filesystem::path(target).parent_path();
     for (int number = 0; number < kTemporaryNames; ++number) {
       path_ = (folder / TemporaryName(::getpid(), number)).string();
@@ -101,11 +101,11 @@ class Temporary {
     }
     RaiseFileFailure("write", target_, errno);
   }
-  ~Temporary() {
+  ~ReplacementFile() {
     if (!path_.empty()) ::unlink(path_.c_str());
   }
-  Temporary(const Temporary&) = delete;
-  Temporary& operator=(const Temporary&) = delete;
+  ReplacementFile(const ReplacementFile&) = delete;
+  ReplacementFile& operator=(const ReplacementFile&) = delete;
 
   void TakePermissions(const struct stat& status) {
     // Only a privileged user can change the owner; the new file of another user is his own.
@@ -182,10 +182,10 @@ void WriteFileAtomically(const std::string& utf8Path, std::string_view bytes) {
   const std::string target = FollowLinks(utf8Path);
   const std::optional<struct stat> existing = CheckTarget(target);
   RemoveLeftTemporaries(std::filesystem::path(target).parent_path());
-  Temporary temporary(target);
-  if (existing) temporary.TakePermissions(*existing);
-  temporary.Write(bytes);
-  temporary.RenameToTarget();
+  ReplacementFile replacement(target);
+  if (existing) replacement.TakePermissions(*existing);
+  replacement.Write(bytes);
+  replacement.RenameToTarget();
 }
 
 }  // namespace mortane

@@ -14,7 +14,7 @@
 
 namespace mortane {
 
-struct NamedMutex::Handle {
+struct NamedMutex::Names {
   Descriptor file;
 };
 
@@ -94,21 +94,21 @@ NamedMutex::Opened NamedMutex::Open(std::string_view name) {
     result = ::flock(file.Get(), LOCK_EX | LOCK_NB);
   } while (result != 0 && errno == EINTR);
   if (result != 0 && errno != EWOULDBLOCK) return Opened::Failed;
-  handle_ = std::make_unique<Handle>(Handle{std::move(file)});
+  names_ = std::make_unique<Names>(Names{std::move(file)});
   return result == 0 ? Opened::First : Opened::AlreadyExisted;
 }
 
 void NamedMutex::Close() {
-  handle_.reset();
+  names_.reset();
 }
 
 bool NamedMutex::IsOpen() const {
-  return handle_ != nullptr;
+  return names_ != nullptr;
 }
 
 void NamedMutex::Lock(int milliseconds) {
   if (!IsOpen()) return;
-  for (int waited = 0; !SetOwnership(handle_->file.Get(), F_WRLCK);) {
+  for (int waited = 0; !SetOwnership(names_->file.Get(), F_WRLCK);) {
     if (errno != EAGAIN && errno != EACCES && errno != EINTR) return;
     if (milliseconds >= 0 && waited >= milliseconds) return;
     SleepMilliseconds(kPollMilliseconds);
@@ -117,7 +117,7 @@ void NamedMutex::Lock(int milliseconds) {
 }
 
 void NamedMutex::Unlock() {
-  if (IsOpen()) SetOwnership(handle_->file.Get(), F_UNLCK);
+  if (IsOpen()) SetOwnership(names_->file.Get(), F_UNLCK);
 }
 
 }  // namespace mortane

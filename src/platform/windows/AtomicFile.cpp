@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "platform/windows/FileFailure.h"
+#include "platform/windows/ReplacementFile.h"
 #include "platform/windows/SystemPath.h"
-#include "platform/windows/Temporary.h"
 
 namespace mortane {
 namespace {
@@ -73,10 +73,10 @@ std::string ReadWholeFile(const std::string& utf8Path, std::size_t limit) {
 void WriteFileAtomically(const std::string& utf8Path, std::string_view bytes) {
   const SaveTarget target = CheckedTarget(utf8Path);
   RemoveLeftTemporaries(FolderOf(target.path));
-  Temporary temporary(target);
-  temporary.TakeAccessRights();
-  temporary.Write(bytes);
-  temporary.RenameToTarget();
+  ReplacementFile replacement(target);
+  replacement.TakeAccessRights();
+  replacement.Write(bytes);
+  replacement.RenameToTarget();
 }
 
 }  // namespace mortane

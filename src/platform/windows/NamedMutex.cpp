@@ -12,9 +12,9 @@ namespace mortane {
 // Every session of a user has names of its own; "Global\" has those of the machine. A device
 // belongs to the machine, so the name is taken there, for users that are logged on beside each
 // other. Other programs know a device by the session's name, so that is taken, too.
-struct NamedMutex::Handle {
-  mortane::Handle machine;
-  mortane::Handle session;
+struct NamedMutex::Names {
+  Handle machine;
+  Handle session;
 };
 
 namespace {
@@ -70,26 +70,26 @@ NamedMutex::Opened NamedMutex::Open(std::string_view name) {
   Made session = Make(scoped);
   if (!machine.mutex.IsOpen() || !session.mutex.IsOpen()) return Opened::Failed;
   const bool existed = machine.existed || session.existed;
-  handle_ = std::make_unique<Handle>(Handle{std::move(machine.mutex), std::move(session.mutex)});
+  names_ = std::make_unique<Names>(Names{std::move(machine.mutex), std::move(session.mutex)});
   return existed ? Opened::AlreadyExisted : Opened::First;
 }
 
 void NamedMutex::Close() {
-  handle_.reset();
+  names_.reset();
 }
 
 bool NamedMutex::IsOpen() const {
-  return handle_ != nullptr;
+  return names_ != nullptr;
 }
 
 void NamedMutex::Lock(int milliseconds) {
   if (!IsOpen()) return;
-  WaitForSingleObject(handle_->machine.Get(),
+  WaitForSingleObject(names_->machine.Get(),
                       milliseconds < 0 ? INFINITE : static_cast<DWORD>(milliseconds));
 }
 
 void NamedMutex::Unlock() {
-  if (IsOpen()) ReleaseMutex(handle_->machine.Get());
+  if (IsOpen()) ReleaseMutex(names_->machine.Get());
 }
 
 }  // namespace mortane

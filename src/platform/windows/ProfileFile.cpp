@@ -48,9 +48,9 @@ std::wstring FolderForTemporaryFiles() {
 
 // An empty file in the system's folder for temporary files, gone with its owner. Its name is that
 // of a save's, so that a later edit removes what a killed process left.
-class TemporaryFile {
+class ScratchFile {
  public:
-  TemporaryFile() {
+  ScratchFile() {
     const std::wstring folder = FolderForTemporaryFiles();
     DWORD error = ERROR_FILE_EXISTS;
     for (int number = 0; error == ERROR_FILE_EXISTS && number < kTemporaryNames; ++number) {
@@ -62,9 +62,9 @@ class TemporaryFile {
     }
     RaiseFileFailure("write", ToUtf8(path_), error);
   }
-  ~TemporaryFile() { DeleteFileW(path_.c_str()); }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~ScratchFile() { DeleteFileW(path_.c_str()); }
+  ScratchFile(const ScratchFile&) = delete;
+  ScratchFile& operator=(const ScratchFile&) = delete;
 
   const std::wstring& Path() const { return path_; }
 
@@ -87,7 +87,7 @@ template <typename Edit>
 bool EditCopy(const std::string& path, Edit&& edit) {
   try {
     const std::string before = ContentOf(path);
-    const TemporaryFile copy;
+    const ScratchFile copy;
     const std::string copyPath = ToUtf8(copy.Path());
     WriteFileAtomically(copyPath, before);
     if (!edit(copy.Path().c_str())) return false;
@@ -120,7 +120,7 @@ class ReadableFile {
 
  private:
   std::wstring path_;
-  std::optional<TemporaryFile> copy_;
+  std::optional<ScratchFile> copy_;
 };
 
 // Deletes a key; without one the section.

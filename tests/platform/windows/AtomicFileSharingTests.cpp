@@ -11,7 +11,7 @@
 #include "platform/AtomicFile.h"
 #include "platform/Sleep.h"
 #include "platform/windows/Handle.h"
-#include "platform/windows/Temporary.h"
+#include "platform/windows/ReplacementFile.h"
 #include "platform/windows/Wide.h"
 #include "support/SecondProcess.h"
 #include "support/TempFolder.h"

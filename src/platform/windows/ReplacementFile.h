@@ -22,12 +22,12 @@ struct SaveTarget {
 
 // Gone with its owner unless it was put in the target's place. Every step raises a Failure when it
 // fails.
-class Temporary {
+class ReplacementFile {
  public:
-  explicit Temporary(const SaveTarget& target);
-  ~Temporary();
-  Temporary(const Temporary&) = delete;
-  Temporary& operator=(const Temporary&) = delete;
+  explicit ReplacementFile(const SaveTarget& target);
+  ~ReplacementFile();
+  ReplacementFile(const ReplacementFile&) = delete;
+  ReplacementFile& operator=(const ReplacementFile&) = delete;
 
   void TakeAccessRights();
   void Write(std::string_view bytes);

@@ -1,4 +1,4 @@
-#include "platform/windows/Temporary.h"
+#include "platform/windows/ReplacementFile.h"
 
 #include <algorithm>
 #include <cstring>
@@ -70,7 +70,7 @@ std::wstring UnusedName(const std::wstring& folder) {
 }  // namespace
 
 // Open without sharing, so that no save on another machine takes it for left.
-Temporary::Temporary(const SaveTarget& target) : target_(target) {
+ReplacementFile::ReplacementFile(const SaveTarget& target) : target_(target) {
   const std::wstring folder = FolderOf(target.path);
   const DWORD kept = target.attributes & kKeptAttributes;
   DWORD error = ERROR_FILE_EXISTS;
@@ -84,16 +84,16 @@ Temporary::Temporary(const SaveTarget& target) : target_(target) {
   RaiseFileFailure("write", target_.shownPath, error);
 }
 
-Temporary::~Temporary() {
+ReplacementFile::~ReplacementFile() {
   file_.Close();
   if (!path_.empty()) DeleteFileW(path_.c_str());
 }
 
-void Temporary::Raise() const {
+void ReplacementFile::Raise() const {
   RaiseFileFailure("write", target_.shownPath, GetLastError());
 }
 
-void Temporary::TakeAccessRights() {
+void ReplacementFile::TakeAccessRights() {
   if (!target_.exists) return;
   const std::vector<std::byte> rights = AccessRightsOf(OpenShared(target_.path, READ_CONTROL));
   if (rights.empty()) return;
@@ -101,7 +101,7 @@ void Temporary::TakeAccessRights() {
   if (!own.IsOpen() || !SetAccessRights(own, rights)) Raise();
 }
 
-void Temporary::Write(std::string_view bytes) {
+void ReplacementFile::Write(std::string_view bytes) {
   while (!bytes.empty()) {
     const auto step = static_cast<DWORD>(std::min(bytes.size(), kLargestStep));
     DWORD written = 0;
@@ -111,32 +111,32 @@ void Temporary::Write(std::string_view bytes) {
   if (!FlushFileBuffers(file_.Get())) Raise();
 }
 
-void Temporary::RenameToTarget() {
+void ReplacementFile::RenameToTarget() {
   if (!PutInPlace()) Raise();
   path_.clear();
 }
 
-bool Temporary::PutInPlace() {
+bool ReplacementFile::PutInPlace() {
   if (RenameOver()) return file_.Close();
   if (!file_.Close()) return false;
   return Move() || (target_.exists && Replace());
 }
 
 // NTFS knows this rename from Windows 10 on; a network or a memory stick may not.
-bool Temporary::RenameOver() {
+bool ReplacementFile::RenameOver() {
   std::vector<std::byte> request = RenameRequest(target_.path);
   return SetFileInformationByHandle(file_.Get(), kRenameInfoEx, request.data(),
                                     static_cast<DWORD>(request.size())) != 0;
 }
 
-bool Temporary::Move() const {
+bool ReplacementFile::Move() const {
   constexpr DWORD kFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
   return MoveFileExW(path_.c_str(), target_.path.c_str(), kFlags) != 0;
 }
 
 // Takes two renames where Move takes one, and can also replace a file that others have open. That
 // one gets another name, under which the next save finds it should it be left.
-bool Temporary::Replace() const {
+bool ReplacementFile::Replace() const {
   const std::wstring old = UnusedName(FolderOf(path_));
   const BOOL replaced =
       ReplaceFileW(target_.path.c_str(), path_.c_str(), old.c_str(), 0, nullptr, nullptr);
