@@ -9,7 +9,6 @@ namespace mortane {
 namespace {
 
 constexpr std::int32_t kNothingFound = -1;
-constexpr std::int32_t kSimulator = 0;
 constexpr std::int32_t kOnlyMicroscope = 1;
 // Entries of the device list, simulator included, from which a person has to choose.
 constexpr std::int32_t kChoiceNeeded = 3;

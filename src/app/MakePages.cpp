@@ -25,6 +25,13 @@ KnobModes KnobsOf(clsK70& k70) {
   return {k70.COther.curAutoZ, k70.COther.curAutoXY};
 }
 
+DriveFollowers FollowersOf(clsK70& k70) {
+  const auto follow = [](std::int32_t& mode) {
+    return [&mode](bool follows) { mode = compensation::ModeOf(follows); };
+  };
+  return {follow(k70.CZDrive.curFocusCompensation), follow(k70.CXYDrive.curFocusCompensation)};
+}
+
 }  // namespace
 
 SystemSettingsCtl* MakeSystemSettings(clsK70& k70, QWidget* parent) {
@@ -49,15 +56,12 @@ CondenserSettingsCtl* MakeCondenserSettings(clsK70& k70, QWidget* parent) {
 
 InterlockSettingsCtl* MakeInterlockSettings(clsK70& k70, QWidget* parent) {
   const InterlockSettingsCtl::Units units{k70.ILObservation, k70.ILOther, k70.ILOffset};
-  const FocusCompensations compensations{k70.CZDrive.curFocusCompensation,
-                                         k70.CXYDrive.curFocusCompensation};
-  return Named(new InterlockSettingsCtl(units, compensations, parent), "InterlockSettingsCtl1");
+  return Named(new InterlockSettingsCtl(units, FollowersOf(k70), parent), "InterlockSettingsCtl1");
 }
 
-// A compensation that is switched on makes the focus drive follow the nosepiece.
 ControlFocusDriveCtl* MakeFocusDrive(clsK70& k70) {
-  return new ControlFocusDriveCtl(k70.CZDrive, [&k70](std::int32_t state) {
-    k70.ILOther.Status(accessory::kZFocusDrive, state);
+  return new ControlFocusDriveCtl(k70.CZDrive, [&k70](bool follows) {
+    k70.ILOther.Status(accessory::kZFocusDrive, follows ? kInterlockOn : kInterlockOff);
   });
 }
 

@@ -138,7 +138,7 @@ void MortaneMainForm::NoteConnection() {
   const clsK70& k70 = GetK70();
   if (k70.lConnectDevice < 0) return note_->ShowNoMicroscope();
   note_->ShowMicroscope(QString::fromStdString(FirstCharacters(k70.SystemName, kSystemNameLength)),
-                        k70.lConnectDevice == 0);
+                        k70.lConnectDevice == kSimulator);
 }
 
 void MortaneMainForm::NoteTransfer(SessionNote::Act act, bool whole) {

@@ -48,9 +48,7 @@ PageTable MainPages() {
        u"No condenser is mounted, or the body of the microscope is not connected."_s},
       {u"Interlocks"_s, IconName::Interlock,
        MakeAs<MakeInterlockSettings, &MortaneMainForm::InterlockSettingsCtl1>,
-       [](const clsK70& k70) {
-         return k70.ILObservation.IsEnable() || k70.ILOther.IsEnable() || k70.ILOffset.IsEnable();
-       },
+       [](const clsK70& k70) { return k70.IsInterlockEnable(); },
        u"Nothing is mounted that follows another accessory or is compensated."_s},
       {u"Controls"_s, IconName::Control,
        [](MortaneMainForm& form, const FormServices& services) -> Page* {

@@ -1,11 +1,9 @@
-// Failures of the core, their texts, and a trap that lets a sequence of calls go on after one
-// failed.
+// Failures of the core: what raises them and what they tell.
 #pragma once
 
 #include <cstdint>
 #include <exception>
 #include <string>
-#include <string_view>
 #include <utility>
 
 namespace mortane {
@@ -36,39 +34,5 @@ inline constexpr std::int32_t kAlreadyOpenError = 55;
 inline constexpr std::int32_t kNoObjectError = 91;
 
 [[noreturn]] void RaiseOwnFailure(std::int32_t number, std::string description);
-
-// The index, from 0, of the entry numbered `index` in a table of `count` entries whose numbers
-// begin at `first`. Raises kSubscriptError for a number outside the table.
-std::size_t CheckedIndex(std::int32_t index, std::int32_t first, std::size_t count);
-
-// A unit's line: `opening`, which ends with its bracket, then source, colon, number in
-// hexadecimal and the closing bracket: "Nosepiece Limit (LIB:80004005)".
-std::string FailureLine(std::string_view opening, const Failure& failure);
-
-// The text of a failed operation of the microscope object: "*** Connect Error!!(37)".
-std::string OperationError(std::string_view operation, const Failure& failure);
-
-// Runs statements one by one and remembers that one of them failed. A later success does not clear
-// the mark, only TakeFailed does.
-class ErrorTrap {
- public:
-  // Runs the statement; true when it raised no Failure.
-  template <typename Statement>
-  bool Run(Statement&& statement) {
-    try {
-      std::forward<Statement>(statement)();
-      return true;
-    } catch (const Failure&) {
-      failed_ = true;
-      return false;
-    }
-  }
-
-  // True when a statement failed since the last call; clears the mark.
-  bool TakeFailed() { return std::exchange(failed_, false); }
-
- private:
-  bool failed_ = false;
-};
 
 }  // namespace mortane

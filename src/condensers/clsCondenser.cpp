@@ -5,7 +5,7 @@
 namespace mortane {
 namespace {
 
-// The four label spellings differ on purpose.
+// Kept: four spellings of one label.
 constexpr TurretKind kCassette{
     accessory::kCondenser, kCondenserOptionBase + kOptionPositions,
     "Condenser Casset (",  "Condenser[",

@@ -3,7 +3,7 @@
 namespace mortane {
 namespace {
 
-// The labels of a difference and of a failed write differ on purpose.
+// Kept: the labels of a difference and of a failed write differ.
 constexpr NameListKind kCondensers{
     accessory::kCondenser,
     [](const controller::AccessoryDatabase& database) {

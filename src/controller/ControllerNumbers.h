@@ -6,13 +6,14 @@
 
 namespace mortane {
 
-// The units as the model counts them. Nothing depends on unit 3, which has no name.
+// The units as the model counts them, from 0. Units 2 and 5 are known by their number alone, and
+// nothing depends on unit 3.
 namespace controllerunit {
 inline constexpr std::int32_t kBody = 0;
 inline constexpr std::int32_t kHub = 1;
-inline constexpr std::int32_t kThirdKind = 2;
+inline constexpr std::int32_t kUnit2 = 2;
 inline constexpr std::int32_t kHandController = 4;
-inline constexpr std::int32_t kFifthKind = 5;
+inline constexpr std::int32_t kUnit5 = 5;
 inline constexpr std::int32_t kRemote = 6;
 inline constexpr std::int32_t kCount = 7;
 
@@ -34,7 +35,7 @@ namespace buzzer {
 inline constexpr std::int32_t kBody = 1;
 inline constexpr std::int32_t kHub = 2;
 inline constexpr std::int32_t kHandController = 5;
-inline constexpr std::int32_t kFifthKind = 6;
+inline constexpr std::int32_t kUnit5 = 6;
 }  // namespace buzzer
 
 // As the interlocks use them.

@@ -20,7 +20,6 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
-constexpr std::int32_t kUnknown = -1;
 constexpr int kAbsolute = 0;
 constexpr int kRelative = 1;
 constexpr int kFocusAxis = 0;
@@ -28,7 +27,6 @@ constexpr int kStageAxis = 1;
 constexpr std::int16_t kUnknownEscape = 2;
 
 // The position that means that none is set.
-constexpr std::int32_t kSimulator = 0;
 constexpr std::int32_t kNoSettingOfSimulator = 20000;
 constexpr std::int32_t kNoSetting = -900000;
 
@@ -67,7 +65,7 @@ void ControlFocusDriveCtl::Connect() {
           [this](int index) { drive_.curLowerLimit = index == 0 ? 0 : 1; });
   connect(optFocusCompensation, &OptionGroup::selectionChanged, this, [this](int index) {
     drive_.curFocusCompensation = kCompensationCodes[static_cast<std::size_t>(index)];
-    follow_(index == kRelative ? 1 : 0);
+    follow_(index == kRelative);
   });
   connect(CheckRealMove, &QCheckBox::toggled, this, &ControlFocusDriveCtl::OnRealMove);
   connect(optNosepiece, &OptionGroup::selectionChanged, this, &ControlFocusDriveCtl::OnRow);
@@ -82,7 +80,7 @@ void ControlFocusDriveCtl::LoadData() {
   LoadCompensation();
   LoadPositions();
   const ConnectedMicroscope& microscope = drive_.parent;
-  const bool turns = microscope.IsMounted(accessory::kNosepiece) == kControllable;
+  const bool turns = microscope.IsControllable(accessory::kNosepiece);
   if (turns && microscope.IsMounted(accessory::kZFocusDrive) != kNotMounted) {
     CheckRealMove->setChecked(true);  // prepares the drive by itself when it was not ticked
     drive_.MoveStart();

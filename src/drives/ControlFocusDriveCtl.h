@@ -4,10 +4,10 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <memory>
 
 #include "drives/MoveScope.h"
+#include "model/DriveCompensation.h"
 #include "widgets/CardPage.h"
 
 class QCheckBox;
@@ -31,9 +31,7 @@ class ControlFocusDriveCtl : public CardPage {
   Q_OBJECT
 
  public:
-  // Told whether the focus drive follows a change of the nosepiece: 1 yes, 0 no.
-  using FollowNosepiece = std::function<void(std::int32_t state)>;
-
+  // `follow` is told when the compensation is chosen.
   ControlFocusDriveCtl(clsControlZDrive& drive, FollowNosepiece follow, QWidget* parent = nullptr);
 
   // Prepares the drive for moves where the nosepiece turns. Of a body without the escape in its

@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-#include "common/Failure.h"
+#include "common/CheckedIndex.h"
 #include "drives/clsControlOther.h"
 #include "model/FirmwareVersion.h"
 #include "widgets/Card.h"
@@ -22,7 +22,6 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
-constexpr std::int32_t kUnknown = -1;
 constexpr std::int32_t kManual = 0;
 constexpr std::int32_t kAutomatic = 1;
 constexpr std::int32_t kEnabled = 1;
@@ -193,7 +192,7 @@ void ControlOtherCtl::LoadStep(int step) {
 // The sensitivity is taken before the mode is selected, which makes it coarse; its own selection
 // gives it back. The focus knob's list and check box are never shown.
 void ControlOtherCtl::LoadFocusKnob() {
-  const bool fitted = other_.parent.IsMounted(accessory::kZFocusDrive) == kControllable;
+  const bool fitted = other_.parent.IsControllable(accessory::kZFocusDrive);
   const std::int32_t automatic = fitted ? other_.curAutoZ : kUnknown;
   const std::int32_t sensitivity = other_.curSensitivityZ;
   hasFocusKnob_ = automatic != kUnknown;
@@ -238,7 +237,7 @@ void ControlOtherCtl::LoadKnobFrame() {
 void ControlOtherCtl::LoadBuzzer() {
   using namespace controllerunit;
   bool hasBuzzer = false;
-  for (const std::int32_t unit : {kBody, kHub, kHandController, kFifthKind}) {
+  for (const std::int32_t unit : {kBody, kHub, kHandController, kUnit5}) {
     hasBuzzer = hasBuzzer || other_.parent.Controller(unit);
   }
   hasBuzzer = hasBuzzer && other_.curBuzzer != kUnknown;

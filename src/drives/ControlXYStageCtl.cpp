@@ -18,7 +18,6 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
-constexpr std::int32_t kUnknown = -1;
 constexpr double kFarthestMicrometres = 50000;  // either way
 
 constexpr std::int32_t kLargeStep = 50;
@@ -112,7 +111,7 @@ void ControlXYStageCtl::LoadData() {
   FrameNosepiece->Load(stage_.NoseCount);
   const ConnectedMicroscope& microscope = stage_.parent;
   const bool hasStage = microscope.IsMounted(accessory::kXYStage) != kNotMounted;
-  const bool turns = microscope.IsMounted(accessory::kNosepiece) == kControllable;
+  const bool turns = microscope.IsControllable(accessory::kNosepiece);
   FrameXYControl->setVisible(turns || !hasStage);
   if (hasStage && !turns) return;
   CheckRealMove->setChecked(true);  // prepares the stage by itself when it was not ticked

@@ -1,5 +1,7 @@
 #include "drives/DriveMotion.h"
 
+#include "common/ErrorTrap.h"
+
 #include <limits>
 
 namespace mortane {
@@ -52,7 +54,8 @@ bool DriveMotion::IsMoveAsyncEnd() const {
 }
 
 void DriveMotion::SelectNose(std::int32_t address, std::int32_t lastAddress) const {
-  if (!CanTurnNosepiece() || address < 1 || address > lastAddress) return;
+  if (!microscope_.IsControllable(accessory::kNosepiece) || address < 1 || address > lastAddress)
+    return;
   Run("SelectNose", [&] {
     microscope_.Mic.NosepieceDevice().BeginPositioning();
     microscope_.Mic.NosepieceDevice().PutPosition(address);
@@ -61,13 +64,9 @@ void DriveMotion::SelectNose(std::int32_t address, std::int32_t lastAddress) con
 
 std::int32_t DriveMotion::NosePosition() const {
   std::int32_t address = 0;
-  if (!CanTurnNosepiece()) return address;
+  if (!microscope_.IsControllable(accessory::kNosepiece)) return address;
   Run("NosePosition", [&] { address = microscope_.Mic.NosepieceDevice().Position().Number(); });
   return address;
-}
-
-bool DriveMotion::CanTurnNosepiece() const {
-  return microscope_.IsMounted(accessory::kNosepiece) == kControllable;
 }
 
 controller::DeviceEntry DriveMotion::Entry() const {

@@ -62,7 +62,6 @@ class DriveMotion {
   std::int32_t NosePosition() const;
 
  private:
-  bool CanTurnNosepiece() const;
   controller::DeviceEntry Entry() const;
   void Start(std::initializer_list<AxisTarget> targets) const;
   void ShowError(std::string_view name) const;

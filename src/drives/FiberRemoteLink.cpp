@@ -1,13 +1,12 @@
 #include "drives/FiberRemoteLink.h"
 
-#include "common/Failure.h"
+#include "common/ErrorTrap.h"
 #include "drives/clsControlOther.h"
 
 namespace mortane {
 namespace {
 
 constexpr std::int32_t kOpenTimeoutMs = 1000;
-constexpr std::int32_t kUnknown = -1;
 
 }  // namespace
 

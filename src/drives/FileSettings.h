@@ -1,16 +1,24 @@
 // Settings that a unit keeps in the children of its element of the settings file.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "common/Text.h"
 #include "document/Dom.h"
-#include "drives/FileWords.h"
+#include "model/DriveCompensation.h"
 #include "model/ElementFields.h"
+#include "model/FileWords.h"
 
 namespace mortane {
+
+// The compensation of either drive.
+inline constexpr std::array<FileWord, 3> kCompensationWords{
+    {{"None", compensation::kNone},
+     {"Absolute", compensation::kAbsolute},
+     {"Relative", compensation::kRelative}}};
 
 // One attribute of one child. What is written need not be what is read; a setting without words to
 // write is only read.

@@ -9,7 +9,8 @@
 
 namespace mortane {
 
-// Whether the page that owns it is making a move; gone with the page.
+// True while a page makes a move. The page holds the only strong reference, so an expired one means
+// that the page was destroyed.
 using MoveFlag = std::shared_ptr<bool>;
 
 // Boxes run the event loop: when one has closed, the page may have been destroyed or another

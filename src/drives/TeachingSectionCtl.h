@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "drawings/MoveCross.h"
+#include "model/DriveCompensation.h"
 
 class QCheckBox;
 
@@ -19,7 +20,8 @@ class Prompts;
 struct PositionColumn;
 
 // The value of the drive's compensation that each option stands for: absolute, relative, none.
-inline constexpr std::array<std::int32_t, 3> kCompensationCodes{2, 3, 1};
+inline constexpr std::array<std::int32_t, 3> kCompensationCodes{
+    compensation::kAbsolute, compensation::kRelative, compensation::kNone};
 
 // The option of a compensation; -1 for a value that is none of them.
 int CompensationIndex(std::int32_t code);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "common/CheckedIndex.h"
 #include "controller/ControllerNumbers.h"
 #include "model/UnitReport.h"
 
@@ -12,7 +13,6 @@ namespace {
 using controller::Microscope;
 
 constexpr std::string_view kFailure = "Control Other (";
-constexpr std::int32_t kUnknown = -1;
 
 struct Knob {
   std::int32_t accessory;
@@ -43,22 +43,22 @@ enum Slot : std::size_t { kBodySlot, kHubSlot, kHandSlot, kSlots };
 using BuzzerStates = std::array<std::int32_t, kSlots>;
 
 struct ReadBuzzer {
-  std::int32_t unit;
+  std::int32_t controller;
   std::int32_t code;
   Slot slot;
 };
 
-// In this order: the fifth kind of controller takes the place of the hub. The hand controller's
-// buzzer is asked, and its answer not used.
+// In this order: controller unit 5 takes the place of the hub. Kept: the hand controller's buzzer
+// is asked, and its answer not used.
 constexpr std::array<ReadBuzzer, 4> kReadBuzzers{{
     {controllerunit::kBody, buzzer::kBody, kBodySlot},
     {controllerunit::kHub, buzzer::kHub, kHubSlot},
     {controllerunit::kHandController, buzzer::kHandController, kHandSlot},
-    {controllerunit::kFifthKind, buzzer::kFifthKind, kHubSlot},
+    {controllerunit::kUnit5, buzzer::kUnit5, kHubSlot},
 }};
 
 struct WrittenBuzzer {
-  std::int32_t unit;
+  std::int32_t controller;
   std::int32_t code;
   std::string_view refused;
 };
@@ -68,25 +68,25 @@ constexpr std::array<WrittenBuzzer, 3> kWrittenBuzzers{{
     {controllerunit::kHub, buzzer::kHub, "Control Other Buzzer QH_R"},
     {controllerunit::kHandController, buzzer::kHandController, "Control Other Buzzer Tactor"},
 }};
-// The remote's buzzer answers to the hub's code.
+// Kept: the remote's buzzer answers to the hub's code, and its line is the hub's.
 constexpr WrittenBuzzer kRemoteBuzzer{controllerunit::kRemote, buzzer::kHub,
                                       "Control Other Buzzer QH_R"};
 
-// Their buzzer is compared: more units than WriteSdk commands.
-constexpr std::initializer_list<std::int32_t> kBuzzerUnits{
-    controllerunit::kBody, controllerunit::kHub, controllerunit::kFifthKind,
-    controllerunit::kRemote};
+// The controllers whose buzzer is compared: more than WriteSdk commands.
+constexpr std::initializer_list<std::int32_t> kComparedBuzzers{
+    controllerunit::kBody, controllerunit::kHub, controllerunit::kUnit5, controllerunit::kRemote};
 
 constexpr std::int32_t kBuzzersDiffer = 2;
 
-// Whose buzzer speaks for the microscope, by its type from 0.
-enum class Speaker { Nobody, Body, Hub, BodyAndHub };
-constexpr std::array kSpeakers{Speaker::Body, Speaker::Hub, Speaker::Nobody, Speaker::BodyAndHub,
-                               Speaker::Body, Speaker::Hub, Speaker::Hub};
+// The controller whose buzzer is shown, by microscope type 0 to 6.
+enum class BuzzerSource { Nobody, Body, Hub, BodyAndHub };
+constexpr std::array kBuzzerSources{
+    BuzzerSource::Body, BuzzerSource::Hub, BuzzerSource::Nobody, BuzzerSource::BodyAndHub,
+    BuzzerSource::Body, BuzzerSource::Hub, BuzzerSource::Hub};
 
 struct SwitchGroup {
-  std::int32_t unit;
-  std::int32_t switches;  // their number in the controller, which is not the unit's
+  std::int32_t controller;
+  std::int32_t switches;  // their number in the library, another than the controller's
   std::int32_t clsControlOther::*enabled;
   std::string_view difference;
   std::string_view refused;
@@ -103,50 +103,47 @@ constexpr SwitchGroup kRemoteSwitches{
     "Control Other[B_KM_R Switch]", "Control Other B_KM_R Switch"};
 constexpr std::array kSwitchGroups{kBodySwitches, kHandSwitches, kRemoteSwitches};
 
-bool HasAnyOf(const ConnectedMicroscope& microscope, std::initializer_list<std::int32_t> units) {
-  return std::any_of(units.begin(), units.end(),
-                     [&](std::int32_t unit) { return microscope.Controller(unit); });
+bool HasAnyOf(const ConnectedMicroscope& microscope,
+              std::initializer_list<std::int32_t> controllers) {
+  return std::any_of(controllers.begin(), controllers.end(),
+                     [&](std::int32_t index) { return microscope.Controller(index); });
 }
 
-bool HasDrive(const ConnectedMicroscope& microscope, const Knob& knob) {
-  return microscope.IsMounted(knob.accessory) == kControllable;
+bool KnobDiffers(const clsControlOther& other, const Knob& knob) {
+  const std::int32_t automatic = other.*knob.automatic;
+  return other.parent.IsControllable(knob.accessory) && automatic != kUnknown &&
+         automatic != knob.getAuto(other.parent.Mic);
 }
 
-bool KnobDiffers(const clsControlOther& unit, const Knob& knob) {
-  const std::int32_t automatic = unit.*knob.automatic;
-  return HasDrive(unit.parent, knob) && automatic != kUnknown &&
-         automatic != knob.getAuto(unit.parent.Mic);
-}
-
-std::string WriteKnob(const clsControlOther& unit, const Knob& knob) {
+std::string WriteKnob(const clsControlOther& other, const Knob& knob) {
   return LineIfFailed(knob.refused, [&] {
-    if (KnobDiffers(unit, knob)) knob.putAuto(unit.parent.Mic, unit.*knob.automatic);
+    if (KnobDiffers(other, knob)) knob.putAuto(other.parent.Mic, other.*knob.automatic);
   });
 }
 
-std::string WriteBuzzer(const clsControlOther& unit, const WrittenBuzzer& row) {
-  if (unit.curBuzzer == kUnknown || !unit.parent.Controller(row.unit)) return {};
+std::string WriteBuzzer(const clsControlOther& other, const WrittenBuzzer& row) {
+  if (other.curBuzzer == kUnknown || !other.parent.Controller(row.controller)) return {};
   return LineIfFailed(row.refused, [&] {
-    if (unit.curBuzzer == 0) {
-      unit.parent.Mic.BuzzerOn(row.code);
+    if (other.curBuzzer == 0) {
+      other.parent.Mic.BuzzerOn(row.code);
     } else {
-      unit.parent.Mic.BuzzerOff(row.code);
+      other.parent.Mic.BuzzerOff(row.code);
     }
   });
 }
 
 // Asks the controller also when there is nothing to write, so that one that does not answer is
 // reported.
-std::string WriteSwitches(const clsControlOther& unit, const SwitchGroup& group) {
-  if (!unit.parent.Controller(group.unit)) return {};
+std::string WriteSwitches(const clsControlOther& other, const SwitchGroup& group) {
+  if (!other.parent.Controller(group.controller)) return {};
   return LineIfFailed(group.refused, [&] {
-    const std::int32_t enabled = unit.*group.enabled;
-    const std::int32_t held = unit.parent.Mic.SwitchEnabled(group.switches);
+    const std::int32_t enabled = other.*group.enabled;
+    const std::int32_t held = other.parent.Mic.SwitchEnabled(group.switches);
     if (enabled == kUnknown || enabled == held) return;
     if (enabled == 1) {
-      unit.parent.Mic.EnableSwitch(group.switches);
+      other.parent.Mic.EnableSwitch(group.switches);
     } else {
-      unit.parent.Mic.DisableSwitch(group.switches);
+      other.parent.Mic.DisableSwitch(group.switches);
     }
   });
 }
@@ -156,32 +153,32 @@ bool IsLed(std::int32_t value) {
   return value >= 0 && value <= 2;
 }
 
-// The controller says 1 for a buzzer that is on, the unit 0.
+// The library says 1 for a buzzer that is on, the model 0.
 std::int32_t Inverted(std::int32_t state) {
   return state == 0 || state == 1 ? 1 - state : kUnknown;
 }
 
 std::int32_t BuzzerOfType(std::int32_t type, const BuzzerStates& states) {
-  const Speaker speaker = kSpeakers[CheckedIndex(type, 0, kSpeakers.size())];
-  if (speaker == Speaker::Nobody) return kUnknown;
-  if (speaker == Speaker::BodyAndHub && states[kBodySlot] != states[kHubSlot]) {
+  const BuzzerSource source = kBuzzerSources[CheckedIndex(type, 0, kBuzzerSources.size())];
+  if (source == BuzzerSource::Nobody) return kUnknown;
+  if (source == BuzzerSource::BodyAndHub && states[kBodySlot] != states[kHubSlot]) {
     return kBuzzersDiffer;
   }
-  return Inverted(states[speaker == Speaker::Hub ? kHubSlot : kBodySlot]);
+  return Inverted(states[source == BuzzerSource::Hub ? kHubSlot : kBodySlot]);
 }
 
 }  // namespace
 
 bool clsControlOther::IsEnable() const {
   const auto knobKnown = [this](const Knob& knob) {
-    return HasDrive(parent, knob) && this->*knob.automatic != kUnknown;
+    return parent.IsControllable(knob.accessory) && this->*knob.automatic != kUnknown;
   };
   const auto switchKnown = [this](const SwitchGroup& group) {
-    return parent.Controller(group.unit) && this->*group.enabled != kUnknown;
+    return parent.Controller(group.controller) && this->*group.enabled != kUnknown;
   };
   return std::any_of(kKnobs.begin(), kKnobs.end(), knobKnown) ||
          (HasAnyOf(parent, {controllerunit::kBody, controllerunit::kHub}) && curBuzzer >= 0) ||
-         parent.Controller(controllerunit::kFifthKind) ||
+         parent.Controller(controllerunit::kUnit5) ||
          std::any_of(kSwitchGroups.begin(), kSwitchGroups.end(), switchKnown);
 }
 
@@ -194,17 +191,17 @@ std::string clsControlOther::ReadSdk() {
 
 void clsControlOther::ReadControls() {
   for (const Knob& knob : kKnobs) {
-    if (!HasDrive(parent, knob)) continue;
+    if (!parent.IsControllable(knob.accessory)) continue;
     this->*knob.automatic = knob.getAuto(parent.Mic);
     if (this->*knob.automatic == 0) this->*knob.sensitivity = knob.getSensitivity(parent.Mic);
   }
   BuzzerStates states{};
   states.fill(kUnknown);
   for (const ReadBuzzer& row : kReadBuzzers) {
-    if (parent.Controller(row.unit)) states[row.slot] = parent.Mic.BuzzerEnabled(row.code);
+    if (parent.Controller(row.controller)) states[row.slot] = parent.Mic.BuzzerEnabled(row.code);
   }
   for (const SwitchGroup& group : kSwitchGroups) {
-    if (parent.Controller(group.unit)) {
+    if (parent.Controller(group.controller)) {
       this->*group.enabled = parent.Mic.SwitchEnabled(group.switches);
     }
   }
@@ -225,7 +222,7 @@ void clsControlOther::ListDifferences(std::string& lines) const {
   list(BuzzerDiffers(), "Control Other[Buzzer]");
   for (const SwitchGroup& group : kSwitchGroups) {
     const std::int32_t enabled = this->*group.enabled;
-    list(parent.Controller(group.unit) && enabled != kUnknown &&
+    list(parent.Controller(group.controller) && enabled != kUnknown &&
              enabled != parent.Mic.SwitchEnabled(group.switches),
          group.difference);
   }
@@ -234,7 +231,7 @@ void clsControlOther::ListDifferences(std::string& lines) const {
 }
 
 bool clsControlOther::BuzzerDiffers() const {
-  return HasAnyOf(parent, kBuzzerUnits) && readBuzzer_ != kUnknown && curBuzzer != kUnknown &&
+  return HasAnyOf(parent, kComparedBuzzers) && readBuzzer_ != kUnknown && curBuzzer != kUnknown &&
          curBuzzer != readBuzzer_;
 }
 

@@ -24,7 +24,7 @@ class clsControlOther {
   // 1 coarse, 2 medium, 3 fine; read of a manual knob alone, and never sent.
   std::int32_t curSensitivityZ = kUnknown;
   std::int32_t curSensitivityXY = kUnknown;
-  // 0 on, 1 off, 2 body and hub differ. Sending anything but 0 switches all buzzers off.
+  // 0 on, 1 off, 2 body and hub differ. Kept: sending anything but 0 switches all off.
   std::int32_t curBuzzer = kUnknown;
   // Switches of the body, the hand controller and the remote: 1 enabled, 0 disabled.
   std::int32_t curSwEnable = kUnknown;
@@ -52,8 +52,6 @@ class clsControlOther {
   void WriteDom(DomDocument& document, DomNode section) const;
 
  private:
-  static constexpr std::int32_t kUnknown = -1;
-
   void ReadControls();
   void ListDifferences(std::string& lines) const;
   bool BuzzerDiffers() const;

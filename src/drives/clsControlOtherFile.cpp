@@ -12,11 +12,11 @@ constexpr std::string_view kCode = "CODE";
 
 constexpr std::array<FileWord, 2> kTruth{{{"False", 0}, {"True", 1}}};
 constexpr std::array<FileWord, 3> kSensitivity{{{"Coarse", 1}, {"Medium", 2}, {"Fine", 3}}};
-// Not the numbers that are written: after a file "Bright" is dark, and "Off" is 3.
+// Kept: not the numbers that are written. After a file "Bright" is dark, and "Off" is 3.
 constexpr std::array<FileWord, 3> kReadLed{{{"Bright", 1}, {"Dark", 2}, {"Off", 3}}};
 constexpr std::array<FileWord, 3> kWrittenLed{{{"Off", 0}, {"Dark", 1}, {"Bright", 2}}};
 
-// One line for three children.
+// Kept: one line for three children.
 constexpr std::string_view kSwitchRefused = "Control Other TactorSwitch";
 
 template <std::int32_t clsControlOther::*Field>
@@ -25,7 +25,7 @@ constexpr OtherSetting Truth(std::string_view child, std::string_view attribute,
   return FieldSetting<clsControlOther, Field>(child, attribute, kTruth, kTruth, refused);
 }
 
-// The sensitivity is not written, but files that hold it are understood.
+// Kept: the sensitivity is not written, but files that hold it are understood.
 template <std::int32_t clsControlOther::*Field>
 constexpr OtherSetting Sensitivity(std::string_view child, std::string_view refused) {
   return FieldSetting<clsControlOther, Field>(child, kCode, kSensitivity, {}, refused);

@@ -1,5 +1,6 @@
 #include "drives/clsControlXYDrive.h"
 
+#include "common/CheckedIndex.h"
 #include "drives/FileSettings.h"
 #include "model/UnitReport.h"
 
@@ -9,9 +10,7 @@ namespace {
 constexpr std::string_view kFailure = "Control XY Stage (";
 constexpr std::string_view kRefused = "Control XY Stage FocusCompensation";
 
-constexpr std::int32_t kNoCompensation = 1;
-
-// What the controller wants to hear before real moves.
+// Values that the controller requires before real moves.
 constexpr std::int32_t kMoveProfile = 9;
 
 constexpr DriveAxis kAxisX{
@@ -46,12 +45,8 @@ void clsControlXYDrive::Store(Positions& positions, std::int32_t address,
   if (IsSlot(address)) positions[CheckedIndex(address, 1, positions.size())] = steps;
 }
 
-bool clsControlXYDrive::IsControllable() const {
-  return parent.IsMounted(accessory::kXYStage) == kControllable;
-}
-
 bool clsControlXYDrive::IsEnable() const {
-  return IsControllable() && parent.IsMounted(accessory::kNosepiece) == kControllable;
+  return parent.IsControllable(accessory::kXYStage) && parent.IsControllable(accessory::kNosepiece);
 }
 
 std::int32_t clsControlXYDrive::CurPositionX() const {
@@ -90,14 +85,15 @@ std::string clsControlXYDrive::ReadSdk() {
   positionsX_.fill(0);
   positionsY_.fill(0);
   return FailureOf(kFailure, [this] {
-    curFocusCompensation =
-        IsControllable() ? parent.Mic.XYDriveDevice().FocusCompensation() : kNoCompensation;
+    curFocusCompensation = parent.IsControllable(accessory::kXYStage)
+                               ? parent.Mic.XYDriveDevice().FocusCompensation()
+                               : compensation::kNone;
   });
 }
 
 // Asks the controller only for a stage and a compensation that can be written.
 bool clsControlXYDrive::Differs() const {
-  return IsControllable() && curFocusCompensation != kUnknown &&
+  return parent.IsControllable(accessory::kXYStage) && curFocusCompensation != kUnknown &&
          curFocusCompensation != parent.Mic.XYDriveDevice().FocusCompensation();
 }
 

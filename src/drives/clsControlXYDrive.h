@@ -21,13 +21,13 @@ class clsControlXYDrive {
 
   ConnectedMicroscope& parent;
 
-  // 1 none, 2 absolute, 3 relative; -1 is unknown. A read that finds no stage makes it 1.
+  // 1 none, 2 absolute, 3 relative; -1 is unknown. Kept: a read without a stage makes it 1.
   std::int32_t curFocusCompensation = kUnknown;
   // Nosepiece addresses; told by the microscope object on connecting and on each read.
   std::int32_t NoseCount = 0;
 
-  // The position of address 1 to NoseCount + 1; for other addresses -1, and nothing is stored. An
-  // address above 10 within these bounds raises error 9.
+  // Kept: the position of address 1 to NoseCount + 1; for other addresses -1, and nothing is
+  // stored. An address above 10 within these bounds raises error 9.
   std::int32_t PositionX(std::int32_t address) const { return Stored(positionsX_, address); }
   void PositionX(std::int32_t address, std::int32_t steps) { Store(positionsX_, address, steps); }
   std::int32_t PositionY(std::int32_t address) const { return Stored(positionsY_, address); }
@@ -44,7 +44,8 @@ class clsControlXYDrive {
   // Starts X, then Y.
   void MoveAsyncStart(std::int32_t posx, std::int32_t posy) const;
   bool IsMoveAsyncEnd() const { return motion_.IsMoveAsyncEnd(); }
-  // The controller cannot be told to stop: a stage that was started arrives.
+  // Kept: does nothing, since the controller cannot be told to stop. A stage that was started
+  // arrives.
   void MoveStop() const {}
   void SelectNose(std::int32_t address) const;
   std::int32_t NosePosition() const { return motion_.NosePosition(); }
@@ -58,11 +59,8 @@ class clsControlXYDrive {
   void WriteDom(DomDocument& document, DomNode section) const;
 
  private:
-  static constexpr std::int32_t kUnknown = -1;
-
   using Positions = std::array<std::int32_t, 10>;
 
-  bool IsControllable() const;
   bool IsSlot(std::int32_t address) const;
   std::int32_t Stored(const Positions& positions, std::int32_t address) const;
   void Store(Positions& positions, std::int32_t address, std::int32_t steps) const;

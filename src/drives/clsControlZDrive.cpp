@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "common/CheckedIndex.h"
+#include "common/ErrorTrap.h"
 #include "drives/FileSettings.h"
 #include "model/FirmwareVersion.h"
 #include "model/UnitReport.h"
@@ -21,7 +23,7 @@ constexpr std::int32_t kStageAxis = 1;
 constexpr std::int32_t kUnknownEscapeMode = -1;
 constexpr std::int16_t kUnknownEscape = 2;
 
-// What the controller wants to hear before real moves.
+// Values that the controller requires before real moves.
 constexpr std::int32_t kMoveProfile = 9;
 constexpr std::int32_t kMoveOption = 0;
 
@@ -103,18 +105,14 @@ void clsControlZDrive::Position(std::int32_t address, std::int32_t steps) {
   positions_[static_cast<std::size_t>(address - 1)] = steps;
 }
 
-bool clsControlZDrive::IsControllable() const {
-  return parent.IsMounted(accessory::kZFocusDrive) == kControllable;
-}
-
 // A condenser that is only sensed rules it out as well.
 bool clsControlZDrive::HasLowerLimit() const {
   return parent.IsMounted(accessory::kCondenser) == kNotMounted;
 }
 
 bool clsControlZDrive::IsEnable() const {
-  if (!IsControllable()) return false;
-  return parent.IsMounted(accessory::kNosepiece) == kControllable ||
+  if (!parent.IsControllable(accessory::kZFocusDrive)) return false;
+  return parent.IsControllable(accessory::kNosepiece) ||
          (HasLowerLimit() && curLowerLimit != kUnknown);
 }
 
@@ -165,10 +163,10 @@ std::string clsControlZDrive::ReadSdk() {
   curFocusCompensation = curLowerLimit = kUnknown;
   positions_.fill(0);
   try {
-    if (IsControllable()) ReadDrive();
+    if (parent.IsControllable(accessory::kZFocusDrive)) ReadDrive();
     return {};
   } catch (const Failure& failure) {
-    // The one report that people know with the number in decimal.
+    // Kept: this report alone has its number in decimal.
     return std::string(kFailure) + failure.Source() + ":" + std::to_string(failure.Number()) + ")";
   }
 }
@@ -186,7 +184,7 @@ void clsControlZDrive::ReadDrive() {
 
 std::string clsControlZDrive::ModifySdk(std::string& list) const {
   return CollectDifferences(list, kFailure, [this](std::string& lines) {
-    if (IsControllable()) ListDifferences(lines);
+    if (parent.IsControllable(accessory::kZFocusDrive)) ListDifferences(lines);
   });
 }
 
@@ -203,7 +201,7 @@ void clsControlZDrive::ListDifferences(std::string& lines) const {
 }
 
 std::string clsControlZDrive::WriteSdk() const {
-  if (!IsControllable()) return {};
+  if (!parent.IsControllable(accessory::kZFocusDrive)) return {};
   std::string report = WriteCompensation();
   if (HasLowerLimit()) report = AppendLine(report, WriteLowerLimit());
   return AppendLine(report, WriteEscape());

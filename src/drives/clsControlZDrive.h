@@ -11,6 +11,8 @@
 
 namespace mortane {
 
+class ErrorTrap;
+
 enum class EscapeFirmware { Unknown, Without, With };
 
 // Owned by clsK70. Positions are steps of 0.05 micrometres. Only a drive that can be commanded
@@ -28,7 +30,7 @@ class clsControlZDrive {
   std::int32_t curFocusCompensation = kUnknown;
   // 0 is -15 mm, 1 is -25 mm. Applies only where no condenser is fitted, not even a sensed one.
   std::int32_t curLowerLimit = kUnknown;
-  // 0 or 1; the page's own, neither sent nor saved.
+  // Kept: 0 or 1 as the page shows it, neither sent nor saved.
   std::int32_t curUpperLimit = 0;
   // Nosepiece addresses; told by the microscope object on connecting and on each read.
   std::int32_t NoseCount = 0;
@@ -54,7 +56,8 @@ class clsControlZDrive {
   void Move(std::int32_t delta) const;
   void MoveAsyncStart(std::int32_t target) const;
   bool IsMoveAsyncEnd() const { return motion_.IsMoveAsyncEnd(); }
-  // The controller cannot be told to stop: a drive that was started arrives.
+  // Kept: does nothing, since the controller cannot be told to stop. A drive that was started
+  // arrives.
   void MoveStop() const {}
   void SelectNose(std::int32_t address) const;
   std::int32_t NosePosition() const { return motion_.NosePosition(); }
@@ -62,7 +65,7 @@ class clsControlZDrive {
   // A read that fails leaves the escape unknown, which is not written. A mode outside the table
   // leaves the flags.
   std::string ReadSdk();
-  // Does not compare the compensation.
+  // Kept: does not compare the compensation, which WriteSdk writes.
   std::string ModifySdk(std::string& list) const;
   // Writes the escape mode whether it changed or not. A lower limit that it writes above the upper
   // one is shown and stays.
@@ -79,7 +82,6 @@ class clsControlZDrive {
   bool MoveVerified(std::int32_t target) const;
 
  private:
-  static constexpr std::int32_t kUnknown = -1;
   static constexpr std::int32_t kAddresses = 10;
 
   // Focus drive, stage.
@@ -88,7 +90,6 @@ class clsControlZDrive {
   static const std::array<EscapeRow, 4> kEscapeModes;
 
   static const EscapeRow* FindMode(std::int32_t mode);
-  bool IsControllable() const;
   bool HasLowerLimit() const;
   bool IsAt(std::int32_t target) const;
   void ReadDrive();

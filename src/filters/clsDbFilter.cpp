@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "common/CheckedIndex.h"
+#include "common/ErrorTrap.h"
 #include "common/Numbers.h"
 #include "model/ElementFields.h"
 #include "model/OptionRecords.h"
@@ -14,7 +16,7 @@ using controller::FilterCubeRecord;
 
 constexpr std::size_t kCodes = kHighestCode + 1;
 
-// Only ModifySdk's line has no blank before the bracket.
+// Kept: ModifySdk's line has no blank before the bracket.
 constexpr std::string_view kFailure = "Filter Cube Optional Cube (";
 constexpr std::string_view kModifyFailure = "Filter Cube Optional Cube(";
 constexpr std::string_view kItem = "Filter Cube Optional Cube[";

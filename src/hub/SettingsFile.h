@@ -52,8 +52,10 @@ struct FileElement {
   std::size_t fileItem;
   std::string_view name;
   NameMatch match;
-  std::function<std::string(DomNode)> read;          // returns the lines of what was refused
-  std::function<void(DomDocument&, DomNode)> write;  // may be empty
+  // Returns the lines of what was refused. Raises a Failure for data that no conversion can take.
+  std::function<std::string(DomNode)> read;
+  // May be empty. Raises a Failure for a text that XML cannot hold.
+  std::function<void(DomDocument&, DomNode)> write;
 };
 
 // Rows in the order of writing.

@@ -1,6 +1,7 @@
 #include "hub/Transfers.h"
 
 #include "common/Failure.h"
+#include "common/FailureText.h"
 
 namespace mortane {
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "common/ErrorTrap.h"
+#include "common/FailureText.h"
 #include "common/Numbers.h"
 #include "common/Text.h"
 #include "controller/ControllerNumbers.h"
@@ -71,7 +73,7 @@ void clsK70::FillTables() {
       MakeTransferStep("curNosepiece", curNosepiece, mounted(accessory::kNosepiece)),
       MakeTransferStep("DbNosepiece", DbNosepiece, mounted(accessory::kNosepiece)),
       MakeTransferStep("curLimit", curLimit,
-                       [this] { return IsMounted(accessory::kNosepiece) == kControllable; }),
+                       [this] { return IsControllable(accessory::kNosepiece); }),
       MakeTransferStep("curFilter", curFilter, mounted(accessory::kFilterCube)),
       MakeTransferStep("dbFilter", dbFilter, mounted(accessory::kFilterCube)),
       MakeTransferStep("Exciter", Exciter, mounted(accessory::kFilterCube)),

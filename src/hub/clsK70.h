@@ -72,6 +72,11 @@ class clsK70 : public ConnectedMicroscope {
   clsControlTactor curTactor{*this};
   clsDbSwitch curSwitch{*this};
 
+  // Whether one of the three units of the interlocks is enabled.
+  bool IsInterlockEnable() const {
+    return ILObservation.IsEnable() || ILOther.IsEnable() || ILOffset.IsEnable();
+  }
+
   // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;
   // others read 0 and store nothing.
   std::int16_t FileItem(std::int16_t pos) const;
@@ -87,8 +92,11 @@ class clsK70 : public ConnectedMicroscope {
   // Name of an entry; empty after a failure, which is shown.
   std::string DeviceName(std::int32_t index);
 
-  // Connects, and detects controllers and accessories. After a failure behind the device's answer
-  // the result is true and lConnectDevice is -1.
+  // Connects entry `DeviceNo` of the device list, and detects controllers and accessories. A
+  // negative number means entry 1; a list of one entry has its entry 0 connected, whatever the
+  // number; a number beyond the list is a failure. If the device does not answer, the result is
+  // false and lConnectDevice is -1. If the device answers, but detecting its accessories or turrets
+  // fails, the result is true and lConnectDevice is -1.
   bool Connect(std::int32_t DeviceNo);
   void Disconnect();
 

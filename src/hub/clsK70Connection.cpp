@@ -1,4 +1,5 @@
 // Connection, and detection of controllers and accessories.
+#include "common/FailureText.h"
 #include "common/Text.h"
 #include "hub/AccessoryTable.h"
 #include "hub/clsK70.h"
@@ -29,8 +30,8 @@ bool Matches(const TypeRow& row, const std::array<bool, controllerunit::kCount>&
   return true;
 }
 
-// Maps a device index to a list index: negative to 1, beyond `count` to 0; `count` passes through
-// and Item fails.
+// Maps a device index to a list index: negative to 1, beyond `count` to 0. Kept: `count` passes
+// through, and Item fails.
 std::int32_t EntryIndex(std::int32_t index, std::int32_t count) {
   if (count == 1 || index == 0 || index > count) return 0;
   return index < 0 ? 1 : index;
@@ -125,7 +126,7 @@ void clsK70::DetectControllers() {
     controllers_[static_cast<std::size_t>(unit)] =
         Mic.ControllerPresent(controllerunit::NumberInLibrary(unit)) == 1;
   }
-  // If no row matches, curType keeps its previous value.
+  // Kept: if no row matches, curType has its value of before.
   for (const TypeRow& row : kTypeTable) {
     if (Matches(row, controllers_)) curType = row.type;
   }

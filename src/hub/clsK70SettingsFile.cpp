@@ -8,7 +8,7 @@
 namespace mortane {
 namespace {
 
-// Kept oddity: one less than the controller takes, so a name of 15 characters is written to a file
+// Kept: one less than the controller takes, so a name of 15 characters is written to a file
 // and refused when read.
 constexpr std::size_t kLongestNameInFile = kSystemNameLength - 1;
 

@@ -77,7 +77,7 @@ std::string clsK70::WriteSystemName() {
   });
 }
 
-// Unlike Connect, this changes no mounted value when a turret has lost its addresses.
+// Kept: unlike Connect, this changes no mounted value when a turret has lost its addresses.
 std::string clsK70::ReadTurretCounts() {
   std::string failures;
   for (const Turret& turret : turrets_) {

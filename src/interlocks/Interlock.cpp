@@ -1,27 +1,12 @@
 #include "interlocks/Interlock.h"
 
-#include <algorithm>
-
 #include "model/ElementFields.h"
+#include "model/FileWords.h"
 
 namespace mortane {
 namespace {
 
-struct StateWord {
-  std::string_view word;
-  std::int32_t state;
-};
-
-constexpr std::string_view kUnknownWord = "Unknown";
-constexpr std::array<StateWord, 3> kStateWords{
-    {{"True", kInterlockOn}, {"False", kInterlockOff}, {kUnknownWord, kInterlockUnknown}}};
-
-std::string_view WordOf(std::int32_t state) {
-  const auto* const row =
-      std::find_if(kStateWords.begin(), kStateWords.end(),
-                   [state](const StateWord& known) { return known.state == state; });
-  return row == kStateWords.end() ? kUnknownWord : row->word;
-}
+constexpr std::array<FileWord, 2> kStateWords{{{"True", kInterlockOn}, {"False", kInterlockOff}}};
 
 }  // namespace
 
@@ -42,19 +27,14 @@ void WriteInterlock(const ConnectedMicroscope& microscope, std::int32_t item, st
 
 InterlockElement ReadInterlockElement(const DomNode& node) {
   const ElementFields fields(node);
-  const std::string code = fields.Text("CODE");
-  InterlockElement element{fields.Text("POSITION"), std::nullopt};
-  for (const StateWord& known : kStateWords) {
-    if (EqualsIgnoringCase(known.word, code)) element.state = known.state;
-  }
-  return element;
+  return {fields.Text("POSITION"), ValueOf(kStateWords, fields.Text("CODE"), kUnknown)};
 }
 
 void AppendInterlockElement(DomDocument& document, DomNode section, std::string_view element,
                             std::string_view position, std::int32_t state) {
   DomNode node = document.CreateElement(element);
   node.SetAttribute("POSITION", position);
-  node.SetAttribute("CODE", WordOf(state));
+  node.SetAttribute("CODE", WordOf(kStateWords, state));
   section.Append(node);
 }
 

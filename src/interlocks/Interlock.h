@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "common/Failure.h"
+#include "common/CheckedIndex.h"
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
 #include "model/UnitReport.h"
@@ -16,7 +16,6 @@
 namespace mortane {
 
 // Whether an accessory follows. Unknown was not read, or the accessory takes no part.
-inline constexpr std::int32_t kInterlockUnknown = -1;
 inline constexpr std::int32_t kInterlockOff = 0;
 inline constexpr std::int32_t kInterlockOn = 1;
 
@@ -27,7 +26,7 @@ class InterlockStates {
  public:
   InterlockStates() { Forget(); }
 
-  void Forget() { states_.fill(kInterlockUnknown); }
+  void Forget() { states_.fill(kUnknown); }
 
   std::int32_t Get(std::int32_t item) const { return states_[CheckedIndex(item, 1, kCount)]; }
   void Set(std::int32_t item, std::int32_t state) {
@@ -35,7 +34,7 @@ class InterlockStates {
   }
   // Leaves an unknown state as it is.
   void SetKnown(std::int32_t item, std::int32_t state) {
-    if (Get(item) != kInterlockUnknown) Set(item, state);
+    if (Get(item) != kUnknown) Set(item, state);
   }
 
  private:
@@ -58,19 +57,5 @@ InterlockElement ReadInterlockElement(const DomNode& node);
 // A state that is neither on nor off is written as unknown.
 void AppendInterlockElement(DomDocument& document, DomNode section, std::string_view element,
                             std::string_view position, std::int32_t state);
-
-// Runs `collect` with a text for its lines. They join `list` only when all could be compared;
-// otherwise the failure's line is the answer.
-template <typename Collect>
-std::string CollectWhenComplete(std::string& list, std::string_view opening, Collect&& collect) {
-  std::string lines;
-  std::string failure = FailureOf(opening, [&] { std::forward<Collect>(collect)(lines); });
-  if (failure.empty()) list = AppendLine(list, lines);
-  return failure;
-}
-
-inline bool IsControllable(const ConnectedMicroscope& microscope, std::int32_t item) {
-  return microscope.IsMounted(item) == kControllable;
-}
 
 }  // namespace mortane

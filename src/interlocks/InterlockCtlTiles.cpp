@@ -1,5 +1,6 @@
 #include "interlocks/InterlockCtlTiles.h"
 
+#include "common/CheckedIndex.h"
 #include "interlocks/Interlock.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/ShownName.h"

@@ -55,9 +55,9 @@ SwitchTile* InterlockObservationCtl::BuildTile(const ObservationAccessory& row) 
 void InterlockObservationCtl::LoadData() {
   for (const ObservationAccessory& row : kObservationAccessories) {
     SwitchTile& tile = *tiles_[static_cast<std::size_t>(row.pageIndex)];
-    const bool mounted = IsControllable(interlocks_.parent, row.number);
+    const bool mounted = interlocks_.parent.IsControllable(row.number);
     const std::int32_t state = interlocks_.Status(row.number);
-    tile.setEnabled(mounted && state != kInterlockUnknown);
+    tile.setEnabled(mounted && state != kUnknown);
     if (mounted) ShowState(*tile.toggle(), state);
   }
 }

@@ -92,8 +92,7 @@ void InterlockOffsetCtl::LoadData() {
 void InterlockOffsetCtl::LoadRow(const OffsetAccessory& row) {
   const Controls& controls = kControls[static_cast<std::size_t>(row.pageRow)];
   const std::int32_t code = offsets_.*row.value;
-  const bool compensated =
-      IsControllable(offsets_.parent, row.number) && code != clsInterLockOffset::kUnknown;
+  const bool compensated = offsets_.parent.IsControllable(row.number) && code != kUnknown;
   (this->*controls.label)->setEnabled(compensated);
   (this->*controls.list)->setEnabled(compensated);
   if (compensated) (this->*controls.list)->setIndex(code);

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <utility>
 
 #include "interlocks/InterlockCtlTiles.h"
 #include "interlocks/OtherAccessories.h"
@@ -18,10 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kColumns = 3;
-
-// Focus compensation modes.
-constexpr std::int32_t kNoCompensation = 1;
-constexpr std::int32_t kRelativeCompensation = 3;
 
 }  // namespace
 
@@ -86,11 +83,11 @@ constexpr InterlockOtherCtl::Change InterlockOtherCtl::kZoom{
     &InterlockOtherCtl::zoomTiles_,
 };
 
-InterlockOtherCtl::InterlockOtherCtl(clsInterLockOther& interlocks,
-                                     const FocusCompensations& compensations, QWidget* parent)
+InterlockOtherCtl::InterlockOtherCtl(clsInterLockOther& interlocks, DriveFollowers drives,
+                                     QWidget* parent)
     : CardPage(u"Other Interlock Settings"_s, parent),
       interlocks_(interlocks),
-      compensations_(compensations) {
+      drives_(std::move(drives)) {
   FrameBase->body()->addWidget(BuildFrame(kNosepiece));
   auto* paths = new QHBoxLayout;
   paths->setSpacing(grid::kBetweenColumns);
@@ -127,9 +124,8 @@ void InterlockOtherCtl::BuildTile(const Change& change, const OtherAccessory& ro
 // The drives follow the nosepiece alone.
 void InterlockOtherCtl::OnToggled(const Change& change, std::int32_t accessory, bool on) {
   (interlocks_.*change.store)(accessory, on ? kInterlockOn : kInterlockOff);
-  const std::int32_t mode = on ? kRelativeCompensation : kNoCompensation;
-  if (accessory == accessory::kZFocusDrive) compensations_.zDrive = mode;
-  if (accessory == accessory::kXYStage) compensations_.xyDrive = mode;
+  if (accessory == accessory::kZFocusDrive) drives_.zDrive(on);
+  if (accessory == accessory::kXYStage) drives_.xyDrive(on);
 }
 
 void InterlockOtherCtl::LoadData() {
@@ -139,7 +135,7 @@ void InterlockOtherCtl::LoadData() {
 }
 
 void InterlockOtherCtl::LoadNosepiece() {
-  const bool mounted = IsControllable(interlocks_.parent, accessory::kNosepiece);
+  const bool mounted = interlocks_.parent.IsControllable(accessory::kNosepiece);
   bool somethingToShow = false;
   for (const OtherAccessory* row : InPageOrder(kOtherAccessories, kNosepiece.place)) {
     if (LoadFollower(*row, mounted)) somethingToShow = true;
@@ -150,9 +146,9 @@ void InterlockOtherCtl::LoadNosepiece() {
 // True when the switch shows a state that is on or off.
 bool InterlockOtherCtl::LoadFollower(const OtherAccessory& row, bool nosepieceMounted) {
   SwitchTile& tile = *nosepieceTiles_[static_cast<std::size_t>(row.nosepieceIndex)];
-  const bool mounted = nosepieceMounted && IsControllable(interlocks_.parent, row.number);
-  const std::int32_t state = mounted ? interlocks_.Status(row.number) : kInterlockUnknown;
-  const bool follows = state != kInterlockUnknown;
+  const bool mounted = nosepieceMounted && interlocks_.parent.IsControllable(row.number);
+  const std::int32_t state = mounted ? interlocks_.Status(row.number) : kUnknown;
+  const bool follows = state != kUnknown;
   tile.setEnabled(follows);
   ShowState(*tile.toggle(), state);
   if (row.number == accessory::kXYStage) {
@@ -166,9 +162,9 @@ void InterlockOtherCtl::LoadPath(const Change& change) {
   const bool present = interlocks_.parent.IsMounted(change.accessory) != kNotMounted;
   for (const OtherAccessory* row : InPageOrder(kOtherAccessories, change.place)) {
     SwitchTile& tile = *(this->*change.tiles)[static_cast<std::size_t>(row->*change.place)];
-    const bool mounted = present && IsControllable(interlocks_.parent, row->number);
+    const bool mounted = present && interlocks_.parent.IsControllable(row->number);
     const std::int32_t state = (interlocks_.*change.state)(row->number);
-    const bool known = state != kInterlockUnknown;
+    const bool known = state != kUnknown;
     tile.setEnabled(mounted && known);
     if (mounted) ShowState(*tile.toggle(), known ? state : kInterlockOn);
   }

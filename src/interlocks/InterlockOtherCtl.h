@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "model/DriveCompensation.h"
 #include "widgets/CardPage.h"
 
 class QLabel;
@@ -16,19 +17,17 @@ class SwitchTile;
 class clsInterLockOther;
 struct OtherAccessory;
 
-// The focus compensation modes of the drives, which follow the nosepiece too.
-struct FocusCompensations {
-  std::int32_t& zDrive;
-  std::int32_t& xyDrive;
+// Told when the switch of a drive changes, also when loading changes it.
+struct DriveFollowers {
+  FollowNosepiece zDrive;
+  FollowNosepiece xyDrive;
 };
 
-// The switches of the drives set the compensation mode of their drive whenever they change, also
-// when loading changes them.
 class InterlockOtherCtl : public CardPage {
   Q_OBJECT
 
  public:
-  InterlockOtherCtl(clsInterLockOther& interlocks, const FocusCompensations& compensations,
+  InterlockOtherCtl(clsInterLockOther& interlocks, DriveFollowers drives,
                     QWidget* parent = nullptr);
 
   void LoadData() override;
@@ -57,7 +56,7 @@ class InterlockOtherCtl : public CardPage {
   void OnToggled(const Change& change, std::int32_t accessory, bool on);
 
   clsInterLockOther& interlocks_;
-  FocusCompensations compensations_;
+  DriveFollowers drives_;
   std::vector<SwitchTile*> nosepieceTiles_;
   std::vector<SwitchTile*> lightPathTiles_;
   std::vector<SwitchTile*> zoomTiles_;

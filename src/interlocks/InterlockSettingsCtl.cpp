@@ -13,12 +13,12 @@ namespace mortane {
 
 using namespace Qt::StringLiterals;
 
-InterlockSettingsCtl::InterlockSettingsCtl(const Units& units,
-                                           const FocusCompensations& compensations, QWidget* parent)
+InterlockSettingsCtl::InterlockSettingsCtl(const Units& units, const DriveFollowers& drives,
+                                           QWidget* parent)
     : ContainerPage(IconName::Interlock, u"Interlocks"_s, "optSettings", parent),
       optSettings(sections()),
       InterlockObservationCtl1(new InterlockObservationCtl(units.observation)),
-      InterlockOtherCtl1(new InterlockOtherCtl(units.other, compensations)),
+      InterlockOtherCtl1(new InterlockOtherCtl(units.other, drives)),
       InterlockOffsetCtl1(new InterlockOffsetCtl(units.offset)),
       other_(units.other) {
   const auto isEnable = [](const auto& unit) { return [&unit] { return unit.IsEnable(); }; };
@@ -36,7 +36,7 @@ InterlockSettingsCtl::InterlockSettingsCtl(const Units& units,
 // A window that comes back from the task bar shows its pages again, spontaneously.
 void InterlockSettingsCtl::showEvent(QShowEvent* event) {
   ContainerPage::showEvent(event);
-  if (event->spontaneous() || other_.parent.Controller(controllerunit::kFifthKind)) return;
+  if (event->spontaneous() || other_.parent.Controller(controllerunit::kUnit5)) return;
   InterlockOtherCtl1->LoadData();
 }
 

@@ -11,7 +11,7 @@ class InterlockOtherCtl;
 class clsInterLockObservation;
 class clsInterLockOffset;
 class clsInterLockOther;
-struct FocusCompensations;
+struct DriveFollowers;
 
 // A section is enabled where its unit is; the page opens on the first such one. The drives' own
 // pages change what the second section shows, so that one is loaded whenever the program shows the
@@ -26,8 +26,7 @@ class InterlockSettingsCtl : public ContainerPage {
     clsInterLockOffset& offset;
   };
 
-  InterlockSettingsCtl(const Units& units, const FocusCompensations& compensations,
-                       QWidget* parent = nullptr);
+  InterlockSettingsCtl(const Units& units, const DriveFollowers& drives, QWidget* parent = nullptr);
 
   SectionBar* optSettings;
   InterlockObservationCtl* InterlockObservationCtl1;

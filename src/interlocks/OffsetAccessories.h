@@ -27,7 +27,7 @@ inline constexpr std::array<OffsetAccessory, 4> kOffsetAccessories{{
     {accessory::kDiaFieldStop, &clsInterLockOffset::curFStop,
      &controller::Microscope::FieldStopDevice, "DiaFStop", "InterLock Offset[Dia F.Stop]",
      "InterLock Offset[Dia F.Stop]", "DIA Field Stop       ( : 1.00 )", 1},
-    // The line of a failed write is the one that people know from the reports.
+    // Kept: a failed write of the epi field stop is reported as [Condenser].
     {accessory::kEpiFieldStop, &clsInterLockOffset::curEpiFStop,
      &controller::Microscope::EpiFieldStopDevice, "EpiFStop", "InterLock Offset[Epi F.Stop]",
      "InterLock Offset[Condenser]", "EPI Field Stop       ( : 1.00 )", 3},

@@ -27,7 +27,7 @@ struct OtherAccessory {
 };
 
 // In the order of the accessory numbers. The zoom and the light path follow nothing: settings files
-// have an entry for each. "Foucus" is the spelling of the files and reports that people have.
+// have an entry for each. Kept: "Foucus" in files and reports.
 inline constexpr std::array<OtherAccessory, 9> kOtherAccessories{{
     {accessory::kNDFilter, "ND", "InterLock Other[ND]", "ND Filter", "ND Filter", 0, 1},
     {accessory::kDiaFieldStop, "DiaFStop", "InterLock Other[Dia F.Stop]", "FieldStop",

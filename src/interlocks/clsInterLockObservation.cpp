@@ -16,14 +16,14 @@ bool HasBody(const ConnectedMicroscope& microscope) {
 }
 
 bool HasUnit5Or6(const ConnectedMicroscope& microscope) {
-  return microscope.Controller(controllerunit::kFifthKind) ||
+  return microscope.Controller(controllerunit::kUnit5) ||
          microscope.Controller(controllerunit::kRemote);
 }
 
 template <typename Visit>
 void ForEachMounted(const ConnectedMicroscope& microscope, Visit&& visit) {
   for (const ObservationAccessory& row : kObservationAccessories) {
-    if (IsControllable(microscope, row.number)) visit(row);
+    if (microscope.IsControllable(row.number)) visit(row);
   }
 }
 
@@ -46,8 +46,7 @@ bool clsInterLockObservation::IsEnable() const {
   if (!HasBody(parent) && !HasUnit5Or6(parent)) return false;
   return std::any_of(kObservationAccessories.begin(), kObservationAccessories.end(),
                      [this](const ObservationAccessory& row) {
-                       return IsControllable(parent, row.number) &&
-                              Status(row.number) != kInterlockUnknown;
+                       return parent.IsControllable(row.number) && Status(row.number) != kUnknown;
                      });
 }
 
@@ -65,7 +64,7 @@ std::string clsInterLockObservation::ModifySdk(std::string& list) const {
   return CollectWhenComplete(list, kFailure, [this](std::string& lines) {
     ForEachWalk(parent, [&](const ObservationAccessory& row, bool named) {
       const std::int32_t state = Status(row.number);
-      if (state == kInterlockUnknown) return;
+      if (state == kUnknown) return;
       if (state == ReadInterlock(parent, row.number, kCause) || !named) return;
       lines = AppendLine(lines, row.line);
     });
@@ -75,15 +74,13 @@ std::string clsInterLockObservation::ModifySdk(std::string& list) const {
 std::string clsInterLockObservation::WriteSdk() const {
   std::string lines;
   ForEachWalk(parent, [&](const ObservationAccessory& row, bool named) {
-    ErrorTrap trap;
-    trap.Run([&] {
+    AppendIfFailed(lines, named ? row.line : std::string_view(), [&] {
       // Read for an unknown state too: a controller that gives no answer is reported.
       const std::int32_t present = ReadInterlock(parent, row.number, kCause);
       const std::int32_t state = Status(row.number);
-      if (state == kInterlockUnknown || state == present) return;
+      if (state == kUnknown || state == present) return;
       WriteInterlock(parent, row.number, kCause, state);
     });
-    if (trap.TakeFailed() && named) lines = AppendLine(lines, row.line);
   });
   return lines;
 }
@@ -96,7 +93,7 @@ std::string clsInterLockObservation::ReadDom(const DomNode& node) {
   if (row == kObservationAccessories.end() || !element.state) {
     return std::string(kRefused) + element.position + "]";
   }
-  if (*element.state != kInterlockUnknown) states_.Set(row->number, *element.state);
+  if (*element.state != kUnknown) states_.Set(row->number, *element.state);
   return {};
 }
 

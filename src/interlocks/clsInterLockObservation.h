@@ -27,8 +27,8 @@ class clsInterLockObservation {
   bool IsEnable() const;
 
   std::string ReadSdk();
-  // On a microscope that has the body and controller unit 5 or 6 the accessories that both name
-  // stand twice in the list.
+  // Kept: on a microscope that has the body and controller unit 5 or 6 the accessories that both
+  // name stand twice in the list.
   std::string ModifySdk(std::string& list) const;
   std::string WriteSdk() const;
 

@@ -22,7 +22,7 @@ template <typename Visit>
 void ForEachMounted(const ConnectedMicroscope& microscope, Visit&& visit) {
   if (!microscope.Controller(controllerunit::kBody)) return;
   for (const OffsetAccessory& row : kOffsetAccessories) {
-    if (IsControllable(microscope, row.number)) visit(row);
+    if (microscope.IsControllable(row.number)) visit(row);
   }
 }
 
@@ -30,7 +30,7 @@ void ForEachMounted(const ConnectedMicroscope& microscope, Visit&& visit) {
 template <typename Visit>
 void ForEachKnown(const clsInterLockOffset& unit, Visit&& visit) {
   ForEachMounted(unit.parent, [&](const OffsetAccessory& row) {
-    if (unit.*row.value != clsInterLockOffset::kUnknown) visit(row);
+    if (unit.*row.value != kUnknown) visit(row);
   });
 }
 
@@ -63,12 +63,10 @@ std::string clsInterLockOffset::ModifySdk(std::string& list) const {
 std::string clsInterLockOffset::WriteSdk() const {
   std::string lines;
   ForEachKnown(*this, [&](const OffsetAccessory& row) {
-    ErrorTrap trap;
-    trap.Run([&] {
+    AppendIfFailed(lines, row.failed, [&] {
       const controller::OffsetDevice device = DeviceOf(*this, row);
       if (device.OffsetCode() != this->*row.value) device.PutOffsetCode(this->*row.value);
     });
-    if (trap.TakeFailed()) lines = AppendLine(lines, row.failed);
   });
   return lines;
 }

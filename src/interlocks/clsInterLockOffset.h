@@ -17,14 +17,13 @@ class clsInterLockOffset {
   explicit clsInterLockOffset(ConnectedMicroscope& microscope) : parent(microscope) {}
 
   static constexpr std::string_view kElement = "OFFSET";
-  static constexpr std::int32_t kUnknown = -1;
 
   ConnectedMicroscope& parent;
 
-  std::int32_t curND = kUnknown;
-  std::int32_t curFStop = kUnknown;
-  std::int32_t curEpiFStop = kUnknown;
-  std::int32_t curAStop = kUnknown;
+  std::int32_t curND = kUnknown;        // ND filter, accessory 1
+  std::int32_t curFStop = kUnknown;     // dia field stop, accessory 2
+  std::int32_t curEpiFStop = kUnknown;  // epi field stop, accessory 13
+  std::int32_t curAStop = kUnknown;     // dia aperture stop, accessory 3
 
   bool IsEnable() const;
 

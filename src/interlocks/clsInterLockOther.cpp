@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/ErrorTrap.h"
 #include "common/Numbers.h"
 #include "controller/ControllerNumbers.h"
 #include "interlocks/OtherAccessories.h"
@@ -91,30 +92,29 @@ constexpr clsInterLockOther::Change clsInterLockOther::kZoom{
 bool clsInterLockOther::TakesPart(const Change& change, const OtherAccessory& follower) const {
   return (follower.*change.isFollowed)() &&
          parent.IsMounted(change.accessory) >= change.leastMounted &&
-         IsControllable(parent, follower.number);
+         parent.IsControllable(follower.number);
 }
 
 // Asks the controller for a known state only.
 bool clsInterLockOther::Differs(const Change& change, const OtherAccessory& follower) const {
   const std::int32_t state = (this->*change.states).Get(follower.number);
-  return state != kInterlockUnknown &&
-         state != ReadInterlock(parent, follower.number, change.cause);
+  return state != kUnknown && state != ReadInterlock(parent, follower.number, change.cause);
 }
 
-// Stricter than reading and writing: a zoom or a light path that is only sensed does not enable,
-// and of the light path the epi field stop must be controllable too.
+// Kept: stricter than reading and writing. A zoom or a light path that is only sensed does not
+// enable, and of the light path the epi field stop must be controllable too.
 bool clsInterLockOther::IsEnable() const {
   const auto follows = [this](const OtherAccessory& row) {
     return row.number != accessory::kXYStage && TakesPart(kNosepiece, row) &&
-           Status(row.number) != kInterlockUnknown;
+           Status(row.number) != kUnknown;
   };
   if (std::any_of(kOtherAccessories.begin(), kOtherAccessories.end(), follows)) return true;
-  const bool zoom = Status(accessory::kOpticalZoom) != kInterlockUnknown &&
-                    IsControllable(parent, accessory::kOpticalZoom) &&
+  const bool zoom = Status(accessory::kOpticalZoom) != kUnknown &&
+                    parent.IsControllable(accessory::kOpticalZoom) &&
                     IsPresent(parent, accessory::kEpiFieldStop);
-  const bool lightPath = Status(accessory::kLightPath) != kInterlockUnknown &&
-                         IsControllable(parent, accessory::kLightPath) &&
-                         IsControllable(parent, accessory::kEpiFieldStop);
+  const bool lightPath = Status(accessory::kLightPath) != kUnknown &&
+                         parent.IsControllable(accessory::kLightPath) &&
+                         parent.IsControllable(accessory::kEpiFieldStop);
   return zoom || lightPath;
 }
 
@@ -183,12 +183,10 @@ std::string clsInterLockOther::ModifySdk(std::string& list) const {
 void clsInterLockOther::WriteFollowers(const Change& change, std::string& lines) const {
   for (const OtherAccessory& row : kOtherAccessories) {
     if (!TakesPart(change, row)) continue;
-    ErrorTrap trap;
-    trap.Run([&] {
+    AppendIfFailed(lines, change.FailedLine(row), [&] {
       if (!Differs(change, row)) return;
       WriteInterlock(parent, row.number, change.cause, (this->*change.states).Get(row.number));
     });
-    if (trap.TakeFailed()) lines = AppendLine(lines, change.FailedLine(row));
   }
 }
 
@@ -200,11 +198,11 @@ std::string clsInterLockOther::WriteSdk() const {
   return lines;
 }
 
-// The CODE is looked at first: a bad one is told of an accessory that nobody knows, too.
+// CODE is checked before POSITION, so a bad CODE is reported even for an unknown accessory.
 std::string clsInterLockOther::ReadEntry(const Change& change, const DomNode& node) {
   const InterlockElement element = ReadInterlockElement(node);
   if (!element.state) return std::string(change.refused) + element.position + "]";
-  if (*element.state == kInterlockUnknown) return {};
+  if (*element.state == kUnknown) return {};
   for (const OtherAccessory& row : kOtherAccessories) {
     if (change.hasEntry(row) && EqualsIgnoringCase(row.word, element.position)) {
       (this->*change.states).Set(row.number, *element.state);
@@ -229,7 +227,7 @@ void clsInterLockOther::AppendEntries(const Change& change, DomDocument& documen
                                       DomNode section) const {
   for (const OtherAccessory& row : kOtherAccessories) {
     const std::int32_t state = (this->*change.states).Get(row.number);
-    if (state == kInterlockUnknown) continue;
+    if (state == kUnknown) continue;
     AppendInterlockElement(document, section, change.element, row.word, state);
   }
 }

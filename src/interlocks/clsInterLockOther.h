@@ -24,8 +24,8 @@ class clsInterLockOther {
   ConnectedMicroscope& parent;
 
   // What follows the nosepiece, the light path and the zoom, for accessory number 1 to 14; any
-  // other raises kSubscriptError. Storing changes a known state only. Status(10) and Status(11)
-  // hold what the controller told of the epi field stop after the zoom and after the light path.
+  // other raises kSubscriptError. Storing changes a known state only. Kept: Status(10) and
+  // Status(11) hold the interlock of the epi field stop after the zoom and after the light path.
   std::int32_t Status(std::int32_t i) const { return status_.Get(i); }
   void Status(std::int32_t i, std::int32_t state) { status_.SetKnown(i, state); }
   std::int32_t LightPathStatus(std::int32_t i) const { return lightPathStatus_.Get(i); }
@@ -33,7 +33,7 @@ class clsInterLockOther {
   std::int32_t ZoomStatus(std::int32_t i) const { return zoomStatus_.Get(i); }
   void ZoomStatus(std::int32_t i, std::int32_t state) { zoomStatus_.SetKnown(i, state); }
 
-  // The stage alone does not enable.
+  // Kept: the stage alone does not enable.
   bool IsEnable() const;
 
   // Whether the body's firmware is of the versions 1.0 to 1.2, which have no interlock of the

@@ -17,6 +17,12 @@ inline constexpr std::int32_t kNotMounted = 0;
 inline constexpr std::int32_t kSensorOnly = 1;
 inline constexpr std::int32_t kControllable = 2;
 
+// A value that was not read or that does not apply.
+inline constexpr std::int32_t kUnknown = -1;
+
+// Index of the simulated microscope in the device list.
+inline constexpr std::int32_t kSimulator = 0;
+
 using controller::kSystemNameLength;
 
 // What ReadMicVer returns for an absent unit and for the simulator.
@@ -44,6 +50,11 @@ class ConnectedMicroscope {
 
   // kNotMounted, kSensorOnly or kControllable for accessory 1 to 14; kNotMounted for others.
   std::int32_t IsMounted(std::int32_t index) const;
+
+  // Whether accessory 1 to 14 can be driven, not only sensed.
+  bool IsControllable(std::int32_t accessory) const {
+    return IsMounted(accessory) == kControllable;
+  }
 
   // Firmware version of controller unit 0 to 6, kNoVersion or kSimulatedVersion. Raises what
   // the library raises.

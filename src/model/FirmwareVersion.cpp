@@ -1,6 +1,6 @@
 #include "model/FirmwareVersion.h"
 
-#include "common/Failure.h"
+#include "common/ErrorTrap.h"
 
 namespace mortane {
 

@@ -1,5 +1,6 @@
 #include "model/OptionNames.h"
 
+#include "common/CheckedIndex.h"
 #include "model/ElementFields.h"
 #include "model/OptionRecords.h"
 

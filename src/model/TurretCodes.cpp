@@ -1,5 +1,6 @@
 #include "model/TurretCodes.h"
 
+#include "common/CheckedIndex.h"
 #include "model/ElementFields.h"
 
 namespace mortane {

@@ -5,7 +5,9 @@
 #include <string_view>
 #include <utility>
 
+#include "common/ErrorTrap.h"
 #include "common/Failure.h"
+#include "common/FailureText.h"
 #include "common/Text.h"
 
 namespace mortane {
@@ -28,6 +30,12 @@ std::string LineIfFailed(std::string_view line, Statement&& statement) {
   return trap.Run(std::forward<Statement>(statement)) ? std::string() : std::string(line);
 }
 
+// The same, and appends the item's line to `lines`.
+template <typename Statement>
+void AppendIfFailed(std::string& lines, std::string_view line, Statement&& statement) {
+  lines = AppendLine(std::move(lines), LineIfFailed(line, std::forward<Statement>(statement)));
+}
+
 // Runs `collect` with a text for its lines, and appends the lines to `list`, also after a failure.
 // Returns the failure's line.
 template <typename Collect>
@@ -35,6 +43,15 @@ std::string CollectDifferences(std::string& list, std::string_view opening, Coll
   std::string lines;
   std::string failure = FailureOf(opening, [&] { std::forward<Collect>(collect)(lines); });
   list = AppendLine(std::move(list), lines);
+  return failure;
+}
+
+// The same, but the lines join `list` only when all could be compared.
+template <typename Collect>
+std::string CollectWhenComplete(std::string& list, std::string_view opening, Collect&& collect) {
+  std::string lines;
+  std::string failure = FailureOf(opening, [&] { std::forward<Collect>(collect)(lines); });
+  if (failure.empty()) list = AppendLine(std::move(list), lines);
   return failure;
 }
 

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "common/CheckedIndex.h"
+#include "common/ErrorTrap.h"
+#include "common/FailureText.h"
 #include "common/Numbers.h"
 #include "model/ElementFields.h"
 #include "model/OptionRecords.h"
@@ -9,7 +12,7 @@
 namespace mortane {
 namespace {
 
-// Only ReadSdk's line says "Nosepieces".
+// Kept: ReadSdk's line alone says "Nosepieces".
 constexpr std::string_view kReadFailure = "Nosepieces Optional (";
 constexpr std::string_view kFailure = "Nosepiece Optional (";
 constexpr std::string_view kItem = "Nosepiece Optional[";
@@ -149,7 +152,7 @@ void clsDbNosepiece::Set_DbNosepiece(std::int32_t npos, std::string_view sName,
 }
 
 std::string clsDbNosepiece::ReadSdk() {
-  // The condensers are not cleared; they change only when a record with a code is read.
+  // Kept: the condensers are not cleared; they change only when a record with a code is read.
   objectives_.assign(kCodes, {});
   if (!lists_.IsLoaded()) ReadDB();
   if (parent.IsMounted(accessory::kNosepiece) == kNotMounted) return {};
@@ -159,7 +162,7 @@ std::string clsDbNosepiece::ReadSdk() {
   });
 }
 
-// After a failure IsLoaded() can be true already, so no read retries.
+// Kept: after a failure IsLoaded() can be true already, and no later read loads the rest.
 void clsDbNosepiece::ReadDB() {
   try {
     lists_.Load(parent.Mic.AccessoryDatabase());

@@ -17,6 +17,8 @@
 
 namespace mortane {
 
+class ErrorTrap;
+
 // The longest name of an objective, and how much of it the page of the user's objectives shows.
 inline constexpr std::size_t kObjectiveNameLength = 20;
 inline constexpr std::size_t kShownObjectiveNameLength = 15;
@@ -75,8 +77,8 @@ class clsDbNosepiece {
                              std::int32_t& nType, std::string& sMag, std::string& sWD,
                              std::string& sNA, std::int32_t& nCondenser) const;
 
-  // Stores at position 0 to 9, the name cut to 20 characters. A text that is no number is 0. Kept
-  // oddity: position 0 overwrites the fixed objective of code 240.
+  // Stores at position 0 to 9, the name cut to 20 characters. A text that is no number is 0.
+  // Kept: position 0 overwrites the fixed objective of code 240.
   void Set_DbNosepiece(std::int32_t npos, std::string_view sName, std::int32_t nSeries,
                        std::int32_t nType, std::string_view sMag, std::string_view sWD,
                        std::string_view sNA, std::int32_t nCondenser);

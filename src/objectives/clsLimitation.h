@@ -42,12 +42,8 @@ class clsLimitation {
   void WriteDom(DomDocument& document, DomNode section) const;
 
  private:
-  static constexpr std::int16_t kUnknown = -1;
-
   struct Rule;
   static const std::array<Rule, 3> kRules;
-
-  bool IsControllable() const;
 
   std::array<std::int16_t, 3> untouched_{kUnknown, kUnknown, kUnknown};  // in the rules' order
 };

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "common/Failure.h"
+#include "common/CheckedIndex.h"
 #include "platform/Folder.h"
 #include "switches/GTJoy.h"
 #include "switches/ShortNumber.h"

@@ -1,7 +1,7 @@
 #include "switches/SwitchCodes.h"
 
+#include "common/CheckedIndex.h"
 #include "common/DigitCode.h"
-#include "common/Failure.h"
 #include "switches/SwitchFunctions.h"
 
 namespace mortane {
@@ -39,17 +39,13 @@ void SwitchCodes::ListDifferences(const ConnectedMicroscope& microscope, std::st
 }
 
 void SwitchCodes::Write(const ConnectedMicroscope& microscope, std::string& failures) const {
-  ErrorTrap trap;
   for (std::int16_t position = 1; position <= unit_.count; ++position) {
     const std::int16_t code = Code(position);
-    trap.Run([&] {
+    AppendIfFailed(failures, unit_.failedLine(position, code), [&] {
       if (Held(microscope, position) == code) return;
       microscope.Mic.ControllerSettings().SetSwitchFunction(unit_.number, DigitToChar(position),
                                                             DigitToChar(code));
     });
-    if (trap.TakeFailed()) {
-      failures = AppendLine(std::move(failures), unit_.failedLine(position, code));
-    }
   }
 }
 

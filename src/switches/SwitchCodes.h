@@ -55,14 +55,4 @@ class SwitchCodes {
   std::array<std::int16_t, 16> codes_{};
 };
 
-// Runs `collect` with a text for its lines, which join `list` unless it fails; then the failure's
-// line is the answer.
-template <typename Collect>
-std::string CollectUnlessFailed(std::string& list, std::string_view opening, Collect&& collect) {
-  std::string lines;
-  std::string failure = FailureOf(opening, [&] { std::forward<Collect>(collect)(lines); });
-  if (failure.empty()) list = AppendLine(std::move(list), lines);
-  return failure;
-}
-
 }  // namespace mortane

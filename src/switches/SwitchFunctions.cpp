@@ -79,7 +79,7 @@ constexpr std::array<std::string_view, 6> kJoypadOwn{
     "Z Focus Position Up",  "Z Focus Position Down", "X Position Move(X>0)",
     "X Position Move(X<0)", "Y Position Move(Y>0)",  "Y Position Move(Y<0)"};
 
-// Reports give each of these the name of the other.
+// Kept: reports give each of these the name of the other.
 constexpr std::int32_t kExchanged = 3;
 constexpr std::int32_t kExchangedWith = 4;
 

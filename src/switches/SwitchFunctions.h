@@ -40,8 +40,8 @@ std::string_view FunctionName(const SwitchFunctionList& list, std::int32_t code)
 // The code of a dial's other direction; a dial without a function has none in either.
 std::int16_t SecondOfPair(std::int16_t firstCode);
 
-// What the units' reports call a function: as in AllSwitchFunctions, but with the names of codes 3
-// and 4 exchanged, as people know them from there. "Nothing" for a code outside 0 to 51.
+// What the units' reports call a function: as in AllSwitchFunctions; "Nothing" for a code outside 0
+// to 51. Kept: the names of codes 3 and 4 are exchanged.
 std::string_view ReportedName(std::int32_t code);
 // Whether a function has that code.
 bool IsSwitchFunction(std::int32_t code);

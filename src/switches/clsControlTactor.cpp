@@ -17,7 +17,7 @@ constexpr std::string_view kFailure = "TactorController SW Function (";
 constexpr std::string_view kRefused = "Tactor[";
 constexpr std::string_view kSettingElement = "SETTING";
 
-// One more than the last function: the controller takes it as it takes the others.
+// Kept: one more than the last function, which the controller takes as it takes the others.
 constexpr std::int32_t kHighestCodeInFile = 52;
 
 std::string Label(std::int16_t position) {
@@ -37,15 +37,6 @@ bool IsMode(std::int32_t value) {
   return value == 0 || value == 1;
 }
 
-// Appends the line of an item that could not be written.
-template <typename Statement>
-void TryItem(std::string& failures, std::string_view label, std::int16_t value,
-             Statement&& statement) {
-  ErrorTrap trap;
-  if (trap.Run(std::forward<Statement>(statement))) return;
-  failures = AppendLine(std::move(failures), ItemLine(label, value));
-}
-
 }  // namespace
 
 clsControlTactor::clsControlTactor(ConnectedMicroscope& microscope)
@@ -53,10 +44,6 @@ clsControlTactor::clsControlTactor(ConnectedMicroscope& microscope)
 
 bool clsControlTactor::IsPresent() const {
   return parent.Controller(controllerunit::kHandController);
-}
-
-bool clsControlTactor::HasKnob() const {
-  return parent.IsMounted(accessory::kXYStage) == kControllable;
 }
 
 // Unlike the switches' codes the mode is a number in full; a text that holds none of 16 bits is 0.
@@ -74,13 +61,15 @@ std::string clsControlTactor::ReadSdk() {
 
 void clsControlTactor::ReadAll() {
   ControlMode = HeldMode();
-  if (HasKnob()) HandleMode = static_cast<std::int16_t>(parent.Mic.XYDriveDevice().HandleMode());
+  if (parent.IsControllable(accessory::kXYStage)) {
+    HandleMode = static_cast<std::int16_t>(parent.Mic.XYDriveDevice().HandleMode());
+  }
   codes_.Read(parent);
 }
 
 std::string clsControlTactor::ModifySdk(std::string& list) const {
   if (!IsPresent()) return {};
-  return CollectUnlessFailed(list, kFailure,
+  return CollectWhenComplete(list, kFailure,
                              [this](std::string& lines) { ListDifferences(lines); });
 }
 
@@ -89,7 +78,8 @@ void clsControlTactor::ListDifferences(std::string& lines) const {
     lines = "TactorSwitch Function[Mode] : ";
     lines += NameOf(ControlMode, "Standard", "Extend");
   }
-  if (HasKnob() && HandleMode != parent.Mic.XYDriveDevice().HandleMode()) {
+  if (parent.IsControllable(accessory::kXYStage) &&
+      HandleMode != parent.Mic.XYDriveDevice().HandleMode()) {
     std::string line = "TactorSwitch Function[XY Knob] : ";
     line += NameOf(HandleMode, "Right", "Left");
     lines = AppendLine(std::move(lines), line);
@@ -100,13 +90,13 @@ void clsControlTactor::ListDifferences(std::string& lines) const {
 std::string clsControlTactor::WriteSdk() const {
   if (!IsPresent()) return {};
   std::string failures;
-  TryItem(failures, "TactorSwitch Control Mode[", ControlMode, [this] {
+  AppendIfFailed(failures, ItemLine("TactorSwitch Control Mode[", ControlMode), [this] {
     if (ControlMode == HeldMode()) return;
     parent.Mic.ControllerSettings().SetSwitchFunction(switchunit::kHandController, kModeKey,
                                                       std::to_string(ControlMode));
   });
-  if (HasKnob()) {
-    TryItem(failures, "TactorSwitch Handle Mode[", HandleMode, [this] {
+  if (parent.IsControllable(accessory::kXYStage)) {
+    AppendIfFailed(failures, ItemLine("TactorSwitch Handle Mode[", HandleMode), [this] {
       const controller::XYDriveDevice stage = parent.Mic.XYDriveDevice();
       if (stage.HandleMode() != HandleMode) stage.PutHandleMode(HandleMode);
     });
@@ -138,7 +128,7 @@ std::string clsControlTactor::ReadSetting(const DomNode& node) {
   const ElementFields fields(node);
   std::string refused;
   for (const Row& row : kRows) {
-    // An attribute that is not there counts as 0 here.
+    // Kept: an attribute that is not there counts as 0 here.
     const std::int32_t value = ToLong(fields.Text(row.attribute), PointFormat());
     if (IsMode(value)) {
       this->*row.mode = static_cast<std::int16_t>(value);

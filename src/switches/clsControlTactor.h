@@ -24,7 +24,7 @@ class clsControlTactor {
 
   // 0 standard, 1 extended. The controller may hold another number.
   std::int16_t ControlMode = 0;
-  // The side of the XY knob: 0 right, 1 left. Kept, not compared and not sent unless the stage can
+  // The side of the XY knob: 0 right, 1 left. Neither read, compared nor sent unless the stage can
   // be controlled.
   std::int16_t HandleMode = 0;
 
@@ -41,13 +41,12 @@ class clsControlTactor {
   std::string ModifySdk(std::string& list) const;
   std::string WriteSdk() const;
 
-  // One "SWITCH" element holds all, in children. What is refused of them stands in the answer
-  // without a line break between.
+  // One "SWITCH" element holds all, in children. Kept: what is refused of them stands in the
+  // answer without a line break between.
   std::string ReadDom(const DomNode& node);
   void WriteDom(DomDocument& document, DomNode section) const;
 
  private:
-  bool HasKnob() const;
   std::int16_t HeldMode() const;
   void ReadAll();
   void ListDifferences(std::string& lines) const;

@@ -9,9 +9,9 @@ namespace mortane {
 namespace {
 
 constexpr std::string_view kFailure = "Switch Function (";
-// The hand controller's word; people know it from the reports of both.
+// Kept: the hand controller's word also in the reports of the body.
 constexpr std::string_view kRefused = "Tactor[";
-// One more than there are: the position behind the last is looked at, and not there.
+// Kept: one more than there are. Position 17 passes the check of the file and fails in the table.
 constexpr std::int32_t kLastPositionInFile = clsDbSwitch::SwitchCount + 1;
 
 std::string Label(std::int16_t position) {
@@ -35,7 +35,7 @@ std::string clsDbSwitch::ReadSdk() {
 
 std::string clsDbSwitch::ModifySdk(std::string& list) const {
   if (!parent.Controller(controllerunit::kBody)) return {};
-  return CollectUnlessFailed(list, kFailure,
+  return CollectWhenComplete(list, kFailure,
                              [this](std::string& lines) { codes_.ListDifferences(parent, lines); });
 }
 

@@ -28,7 +28,7 @@ bool HasControls(clsK70& k70) {
 }
 
 bool HasInterlocks(clsK70& k70) {
-  return k70.ILObservation.IsEnable() || k70.ILOther.IsEnable() || k70.ILOffset.IsEnable();
+  return k70.IsInterlockEnable();
 }
 
 bool HasFocusDrive(clsK70& k70) {

@@ -1,4 +1,7 @@
+#include "common/CheckedIndex.h"
+#include "common/ErrorTrap.h"
 #include "common/Failure.h"
+#include "common/FailureText.h"
 
 #include <gtest/gtest.h>
 

@@ -156,7 +156,7 @@ TEST(OtherBenches, HaveWhatTheyAreThereFor) {
   EXPECT_EQ(pair.buzzers.hub, 0);
   EXPECT_EQ(pair.xyDrive.knobAuto, 1);
   EXPECT_EQ(benches::InstrumentNamed("Outpost").zDrive.lowerLimit, 0);
-  EXPECT_EQ(benches::InstrumentNamed("Deck").buzzers.fifthUnit, 1);
+  EXPECT_EQ(benches::InstrumentNamed("Deck").buzzers.unit5, 1);
   const Instrument remote = benches::InstrumentNamed("DeckRemote");
   EXPECT_EQ(remote.switches.remote, 1);
   EXPECT_EQ(remote.switches.remoteLed, 2);

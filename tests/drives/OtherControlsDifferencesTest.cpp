@@ -73,7 +73,7 @@ TEST(OtherControlsDifferences, TheBuzzerIsComparedWithTheLastReadAndNotAskedFor)
   rig.k70.COther.curBuzzer = 1;
   EXPECT_EQ(Differences(rig.k70.COther), "Control Other[Buzzer]");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
-  rig.instrument().buzzers.fifthUnit = 0;
+  rig.instrument().buzzers.unit5 = 0;
   EXPECT_EQ(Differences(rig.k70.COther), "Control Other[Buzzer]");
   EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
   EXPECT_EQ(rig.k70.COther.curBuzzer, 1);

@@ -124,7 +124,7 @@ TEST(OtherControls, TheTypeOfTheMicroscopeDecidesWhoseBuzzerCounts) {
   }
 }
 
-TEST(OtherControls, TheFifthKindOfControllerTakesTheHubsPlace) {
+TEST(OtherControls, ControllerUnit5TakesTheHubsPlace) {
   UnitsRig rig({1, 5});
   rig.instrument().buzzers = {0, 1, 1, 0};
   rig.k70.curType = 1;
@@ -171,7 +171,7 @@ TEST(OtherControls, AreEnabledByAnythingThatIsKnownOfAPartThatIsThere) {
        {0, 1, 6},
        [](clsControlOther& other) { other.curTactorSwEnable = 0; },
        false},
-      {"the fifth kind", {5}, [](clsControlOther&) {}, true},
+      {"unit 5", {5}, [](clsControlOther&) {}, true},
       {"remote switches", {6}, [](clsControlOther& other) { other.curR_TLPOSwEnable = 0; }, true},
       {"switches of no remote",
        {0, 1, 4},

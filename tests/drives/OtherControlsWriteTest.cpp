@@ -100,7 +100,7 @@ TEST(OtherControlsWrite, BuzzersAreSwitchedByTheControllersThatAreThere) {
         BuzzerRow{{0, 4}, {"BuzzerOff(1)", "BuzzerOff(5)"}},
         BuzzerRow{{1, 4}, {"BuzzerOff(2)", "BuzzerOff(5)"}},
         BuzzerRow{{0, 1, 4}, {"BuzzerOff(1)", "BuzzerOff(2)", "BuzzerOff(5)"}}, BuzzerRow{{2}, {}},
-        // The buzzer that is read of the fifth kind is never written, and with the remote the
+        // The buzzer that is read of unit 5 is never written, and with the remote the
         // hub's is.
         BuzzerRow{{5}, {}}, BuzzerRow{{5, 6}, {"BuzzerOff(2)"}}, BuzzerRow{{6}, {"BuzzerOff(2)"}},
         BuzzerRow{{0, 6}, {"BuzzerOff(1)", "BuzzerOff(2)"}},

@@ -219,7 +219,7 @@ const std::vector<OtherFileRow> kSending{
     {{}, {"Attic"}, "Nosepiece Optional[7]\r\nNosepiece Optional[8]\r\nNosepiece Optional[9]"},
     {{"Lantern"}, {"Outpost", "Hollow"}, "Upper Limit lower than Lower Limit."}};
 
-// No buzzer command goes to the fifth kind of controller.
+// No buzzer command goes to controller unit 5.
 const std::vector<OtherFileRow> kRemaining{
     {{"Attic"}, {"Attic"}, "Control FocusDrive[EscapeMode]Z:OFF XY:OFF"},
     {{"Hub", "Relay", "Shell", "Hollow", "Crowd"},

@@ -39,7 +39,7 @@ inline constexpr std::array kBenchFields<BuzzerData>{
     BenchField<BuzzerData>{"Body", &BuzzerData::body},
     BenchField<BuzzerData>{"Hub", &BuzzerData::hub},
     BenchField<BuzzerData>{"HandController", &BuzzerData::handController},
-    BenchField<BuzzerData>{"FifthUnit", &BuzzerData::fifthUnit},
+    BenchField<BuzzerData>{"FifthUnit", &BuzzerData::unit5},
 };
 
 template <>

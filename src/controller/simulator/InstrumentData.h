@@ -24,7 +24,7 @@ struct BuzzerData {
   std::int32_t body = 0;
   std::int32_t hub = 0;
   std::int32_t handController = 0;
-  std::int32_t fifthUnit = 0;
+  std::int32_t unit5 = 0;
 
   bool operator==(const BuzzerData&) const = default;
 };

@@ -14,9 +14,9 @@ Instrument Harbour();     // body and hand controller, everything fitted and con
 Instrument Lantern();     // old body, no condenser, some accessories only sensed
 Instrument Hub();         // hub and hand controller without a body
 Instrument Pair();        // body and hub that disagree on the buzzer
-Instrument Outpost();     // the third kind of unit alone
-Instrument Relay();       // body and third kind of unit, a stage without a nosepiece
-Instrument Deck();        // the fifth kind of unit alone
+Instrument Outpost();     // controller unit 2 alone
+Instrument Relay();       // body and controller unit 2, a stage without a nosepiece
+Instrument Deck();        // controller unit 5 alone
 Instrument DeckRemote();  // the same with the remote
 Instrument Watch();       // everything only sensed
 Instrument Shell();       // nothing answers

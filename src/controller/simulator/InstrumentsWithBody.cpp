@@ -119,7 +119,7 @@ Instrument Pair() {
 
 Instrument Relay() {
   Instrument relay = WithBody("Relay", "V1.3");
-  AddUnit(relay, controllerunit::kThirdKind, "V1.3");
+  AddUnit(relay, controllerunit::kUnit2, "V1.3");
   AddUnit(relay, controllerunit::kHandController, "V1.3");
   FitAccessories(relay, {accessory::kXYStage, accessory::kZFocusDrive}, Fit::Controllable);
   FitAccessories(relay, {accessory::kCondenser}, Fit::Sensed);

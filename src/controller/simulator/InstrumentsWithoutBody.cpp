@@ -30,7 +30,7 @@ Instrument Hub() {
 }
 
 Instrument Outpost() {
-  Instrument outpost = WithUnit("Outpost", controllerunit::kThirdKind);
+  Instrument outpost = WithUnit("Outpost", controllerunit::kUnit2);
   FitAccessories(outpost, {accessory::kNosepiece}, Fit::Sensed);
   FitAccessories(outpost, {accessory::kFilterCube, accessory::kZFocusDrive}, Fit::Controllable);
   outpost.nosepiece = Places({1, 4, 7, 10, 14, 18});
@@ -39,14 +39,14 @@ Instrument Outpost() {
 }
 
 Instrument Deck() {
-  Instrument deck = WithUnit("Deck", controllerunit::kFifthKind);
+  Instrument deck = WithUnit("Deck", controllerunit::kUnit5);
   FitAccessories(
       deck,
       {accessory::kNosepiece, accessory::kFilterCube, accessory::kEpiShutter, accessory::kDiaLamp},
       Fit::Controllable);
   deck.nosepiece = Places({1, 4, 7, 10, 14, 18});
   deck.filterCubes = Places({2, 3, 5, 7, 8, 1});
-  deck.buzzers.fifthUnit = 1;
+  deck.buzzers.unit5 = 1;
   return deck;
 }
 

@@ -19,7 +19,7 @@ struct CodeRow {
 constexpr std::array kBuzzers{CodeRow{buzzer::kBody, &BuzzerData::body},
                               CodeRow{buzzer::kHub, &BuzzerData::hub},
                               CodeRow{buzzer::kHandController, &BuzzerData::handController},
-                              CodeRow{buzzer::kFifthKind, &BuzzerData::fifthUnit}};
+                              CodeRow{buzzer::kUnit5, &BuzzerData::unit5}};
 
 struct UnitRow {
   std::int32_t unit;

@@ -31,8 +31,8 @@ inline constexpr const char* kTeach =
 inline constexpr const char* kTeachCaption = "Move Focus Postion";
 
 inline ControlFocusDriveCtl* MakeControlFocusDriveCtl(clsK70& k70) {
-  return new ControlFocusDriveCtl(k70.CZDrive, [&k70](std::int32_t state) {
-    k70.ILOther.Status(accessory::kZFocusDrive, state);
+  return new ControlFocusDriveCtl(k70.CZDrive, [&k70](bool follows) {
+    k70.ILOther.Status(accessory::kZFocusDrive, follows ? kInterlockOn : kInterlockOff);
   });
 }
 

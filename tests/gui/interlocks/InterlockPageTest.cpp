@@ -120,7 +120,7 @@ TEST(InterlockPageAlone, WithControllerUnitFiveShowingItLoadsNothing) {
   SetUnits(bench.instruments.back(), {0, 4, 5});
   PageRig rig(std::move(bench));
   auto& page = rig.Show(MakeInterlockSettingsCtl(rig.k70()));
-  ASSERT_TRUE(rig.k70().Controller(controllerunit::kFifthKind));
+  ASSERT_TRUE(rig.k70().Controller(controllerunit::kUnit5));
   ChangeModel(rig.k70());
   page.hide();
   page.show();

@@ -9,8 +9,11 @@
 
 namespace mortane::test {
 
-inline FocusCompensations CompensationsOf(clsK70& k70) {
-  return {k70.CZDrive.curFocusCompensation, k70.CXYDrive.curFocusCompensation};
+inline DriveFollowers FollowersOf(clsK70& k70) {
+  const auto follow = [](std::int32_t& mode) {
+    return [&mode](bool follows) { mode = compensation::ModeOf(follows); };
+  };
+  return {follow(k70.CZDrive.curFocusCompensation), follow(k70.CXYDrive.curFocusCompensation)};
 }
 
 inline InterlockObservationCtl* MakeInterlockObservationCtl(clsK70& k70) {
@@ -18,7 +21,7 @@ inline InterlockObservationCtl* MakeInterlockObservationCtl(clsK70& k70) {
 }
 
 inline InterlockOtherCtl* MakeInterlockOtherCtl(clsK70& k70) {
-  return new InterlockOtherCtl(k70.ILOther, CompensationsOf(k70));
+  return new InterlockOtherCtl(k70.ILOther, FollowersOf(k70));
 }
 
 inline InterlockOffsetCtl* MakeInterlockOffsetCtl(clsK70& k70) {
@@ -26,8 +29,7 @@ inline InterlockOffsetCtl* MakeInterlockOffsetCtl(clsK70& k70) {
 }
 
 inline InterlockSettingsCtl* MakeInterlockSettingsCtl(clsK70& k70) {
-  return new InterlockSettingsCtl({k70.ILObservation, k70.ILOther, k70.ILOffset},
-                                  CompensationsOf(k70));
+  return new InterlockSettingsCtl({k70.ILObservation, k70.ILOther, k70.ILOffset}, FollowersOf(k70));
 }
 
 }  // namespace mortane::test

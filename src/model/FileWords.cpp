@@ -1,4 +1,4 @@
-#include "drives/FileWords.h"
+#include "model/FileWords.h"
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
 // Words that stand for numbers in the settings file.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -16,10 +15,6 @@ struct FileWord {
 using FileWords = std::span<const FileWord>;
 
 inline constexpr std::string_view kUnknownWord = "Unknown";
-
-// The compensation of either drive.
-inline constexpr std::array<FileWord, 3> kCompensationWords{
-    {{"None", 1}, {"Absolute", 2}, {"Relative", 3}}};
 
 // The word of a value, kUnknownWord when it has none.
 std::string_view WordOf(FileWords words, std::int32_t value);
