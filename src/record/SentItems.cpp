@@ -36,7 +36,7 @@ bool HasFollower(const clsK70& k70, const ConfigurationItem& item, std::int32_t 
                  std::int32_t leastMounted, bool (OtherAccessory::*follows)() const) {
   return k70.IsMounted(changing) >= leastMounted &&
          HasAccessory(kOtherAccessories, item, [&](const OtherAccessory& row) {
-           return (row.*follows)() && IsControllable(k70, row.number);
+           return (row.*follows)() && k70.IsControllable(row.number);
          });
 }
 
@@ -52,7 +52,7 @@ bool HasParts(const clsK70& k70, const ConfigurationItem& item) {
       return IsMounted(k70, accessory::kNosepiece);
     case NosepieceLimit: {
       const auto rules = PositionWords(NosepieceLimit);
-      return IsControllable(k70, accessory::kNosepiece) &&
+      return k70.IsControllable(accessory::kNosepiece) &&
              std::find(rules.begin(), rules.end(), item.key.position) != rules.end();
     }
     case CubeAddress:
@@ -68,10 +68,10 @@ bool HasParts(const clsK70& k70, const ConfigurationItem& item) {
     case CondenserName:
       return IsMounted(k70, accessory::kCondenser);
     case ObservationInterlock:
-      return (k70.Controller(controllerunit::kBody) || k70.Controller(controllerunit::kFifthKind) ||
+      return (k70.Controller(controllerunit::kBody) || k70.Controller(controllerunit::kUnit5) ||
               k70.Controller(controllerunit::kRemote)) &&
              HasAccessory(kObservationAccessories, item, [&](const ObservationAccessory& row) {
-               return IsControllable(k70, row.number);
+               return k70.IsControllable(row.number);
              });
     case NosepieceInterlock:
       return HasFollower(k70, item, accessory::kNosepiece, kControllable,
@@ -85,18 +85,18 @@ bool HasParts(const clsK70& k70, const ConfigurationItem& item) {
     case Offset:
       return k70.Controller(controllerunit::kBody) &&
              HasAccessory(kOffsetAccessories, item, [&](const OffsetAccessory& row) {
-               return IsControllable(k70, row.number);
+               return k70.IsControllable(row.number);
              });
     case FocusCompensation:
     case FocusEscape:
     case StageEscape:
     case FocusKnob:
-      return IsControllable(k70, accessory::kZFocusDrive);
+      return k70.IsControllable(accessory::kZFocusDrive);
     case LowerLimit:
-      return IsControllable(k70, accessory::kZFocusDrive) && !IsMounted(k70, accessory::kCondenser);
+      return k70.IsControllable(accessory::kZFocusDrive) && !IsMounted(k70, accessory::kCondenser);
     case StageCompensation:
     case StageKnob:
-      return IsControllable(k70, accessory::kXYStage);
+      return k70.IsControllable(accessory::kXYStage);
     case Buzzer:
       return k70.Controller(controllerunit::kBody) || k70.Controller(controllerunit::kHub) ||
              k70.Controller(controllerunit::kRemote);
@@ -112,7 +112,7 @@ bool HasParts(const clsK70& k70, const ConfigurationItem& item) {
       return k70.Controller(controllerunit::kBody) && IsWithin(item, clsDbSwitch::SwitchCount);
     case HandSide:
       return k70.Controller(controllerunit::kHandController) &&
-             IsControllable(k70, accessory::kXYStage);
+             k70.IsControllable(accessory::kXYStage);
     case HandSwitch:
       return k70.Controller(controllerunit::kHandController) &&
              IsWithin(item, clsControlTactor::SwitchCount);
