@@ -56,3 +56,12 @@ set(EMULATOR \"${CMAKE_CROSSCOMPILING_EMULATOR}\")\ninclude(\"${script}\")\n")
     -D "LIST=${list}" -P "${script}")
   set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${list}")
 endfunction()
+
+# mortane_test_paths(source NAME=path ...)
+# Paths as texts in definitions, of that source alone: the others compile alike in every checkout.
+function(mortane_test_paths source)
+  foreach(path IN LISTS ARGN)
+    string(REGEX REPLACE "^([A-Z_]+)=(.*)$" "\\1=\"\\2\"" definition "${path}")
+    set_property(SOURCE ${source} APPEND PROPERTY COMPILE_DEFINITIONS "${definition}")
+  endforeach()
+endfunction()
