@@ -1,6 +1,7 @@
 #include "interlocks/InterlockSettingsCtl.h"
 
 #include <QShowEvent>
+#include <array>
 
 #include "interlocks/InterlockObservationCtl.h"
 #include "interlocks/InterlockOffsetCtl.h"
@@ -31,6 +32,15 @@ InterlockSettingsCtl::InterlockSettingsCtl(const Units& units, const DriveFollow
        {u"Compensation"_s, "InterlockOffsetCtl1", InterlockOffsetCtl1, isEnable(units.offset),
         KeepAsLoaded, u"Nothing is mounted that is compensated."_s}},
       {2, 1, 0});
+}
+
+void InterlockSettingsCtl::LoadData() {
+  ContainerPage::LoadData();
+  const std::array<Page*, 3> subPages{InterlockObservationCtl1, InterlockOtherCtl1,
+                                      InterlockOffsetCtl1};
+  for (std::size_t i = 0; i < subPages.size(); ++i) {
+    subPages[i]->setEnabled(IsOffered(static_cast<int>(i)));
+  }
 }
 
 // A window that comes back from the task bar shows its pages again, spontaneously.

@@ -28,6 +28,10 @@ class InterlockSettingsCtl : public ContainerPage {
 
   InterlockSettingsCtl(const Units& units, const DriveFollowers& drives, QWidget* parent = nullptr);
 
+  // A sub-page that is not loaded, since its section is not offered, is disabled: the first one is
+  // on show all the same where no section is offered.
+  void LoadData() override;
+
   SectionBar* optSettings;
   InterlockObservationCtl* InterlockObservationCtl1;
   InterlockOtherCtl* InterlockOtherCtl1;

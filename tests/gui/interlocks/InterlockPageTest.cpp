@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QShowEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -262,6 +263,48 @@ TEST(InterlockPageAlone, ASectionThatIsNotOfferedTakesNoClick) {
   ClickButton(*page.optSettings->option(kCompensation));
   EXPECT_EQ(page.CurrentItem(), kOther);
   EXPECT_TRUE(page.InterlockOtherCtl1->isVisible());
+}
+
+std::vector<bool> EnabledSwitches(const InterlockObservationCtl& page) {
+  std::vector<bool> enabled;
+  for (const CheckToggle* box : page.CheckAccessories) enabled.push_back(box->isEnabled());
+  return enabled;
+}
+
+// A section that is not offered is not loaded; the first one is on show all the same where none is.
+TEST(InterlockPageAlone, WhatAFailedReadLeftUnloadedCannotBeClicked) {
+  PageRig rig("Deck");
+  auto& page = rig.Show(MakeInterlockSettingsCtl(rig.k70()));
+  InterlockObservationCtl& first = *page.InterlockObservationCtl1;
+  clsInterLockObservation& states = rig.k70().ILObservation;
+  const std::vector<bool> loaded = EnabledSwitches(first);
+  const std::vector<bool> none(loaded.size(), false);
+  EXPECT_NE(loaded, none);
+  rig.faults.FailCall(1);
+  EXPECT_NE(states.ReadSdk(), "");
+  ASSERT_FALSE(states.IsEnable());
+  page.LoadData();
+  EXPECT_TRUE(first.isVisible());
+  EXPECT_EQ(EnabledSwitches(first), none);
+  for (std::size_t i = 0; i < loaded.size(); ++i) {
+    const bool on = first.CheckAccessories[i]->isChecked();
+    EXPECT_FALSE(first.lblAccessories[i]->isEnabled()) << i;
+    ClickButton(*first.CheckAccessories[i]);
+    EXPECT_EQ(first.CheckAccessories[i]->isChecked(), on) << i;
+  }
+  rig.faults.Clear();
+  EXPECT_EQ(states.ReadSdk(), "");
+  page.LoadData();
+  EXPECT_EQ(EnabledSwitches(first), loaded);
+}
+
+TEST(InterlockPageAlone, AFirstSectionThatWasNeverLoadedCannotBeClicked) {
+  for (const char* bench : {"Outpost", "Shell"}) {
+    PageRig rig(bench);
+    auto& page = rig.Show(MakeInterlockSettingsCtl(rig.k70()));
+    EXPECT_TRUE(page.InterlockObservationCtl1->isVisible()) << bench;
+    EXPECT_EQ(EnabledSwitches(*page.InterlockObservationCtl1), std::vector<bool>(11, false));
+  }
 }
 
 TEST(InterlockPageAlone, GoesToTheSectionThatTheNextMicroscopeHas) {
