@@ -118,6 +118,11 @@ void ControlXYStageCtl::LoadData() {
   stage_.MoveStart();
 }
 
+void ControlXYStageCtl::showEvent(QShowEvent* event) {
+  CardPage::showEvent(event);
+  LoadCompensation();
+}
+
 void ControlXYStageCtl::LoadCompensation() {
   OptionGroup& options = *optFocusCompensation;
   const std::int32_t code = stage_.curFocusCompensation;

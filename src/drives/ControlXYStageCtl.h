@@ -56,6 +56,10 @@ class ControlXYStageCtl : public CardPage {
   MoveButton* ButtonDownSmall;
   QCheckBox* CheckRealMove;
 
+ protected:
+  // The interlock page changes the compensation too, so it is shown anew.
+  void showEvent(QShowEvent* event) override;
+
  private:
   struct Axis;
   struct StepButton;

@@ -91,6 +91,39 @@ TEST(StagePage, ACompensationThatIsNoOptionSelectsNone) {
   EXPECT_EQ(rig.stage().curFocusCompensation, 7);
 }
 
+// Another page changes it meanwhile.
+TEST(StagePage, ShowsTheCompensationOfTheUnitWheneverItIsShown) {
+  StageRig rig;
+  struct Row {
+    std::int32_t code;
+    int selected;
+  };
+  for (const Row& row : {Row{1, 2}, Row{2, 0}, Row{3, 1}, Row{7, -1}, Row{1, 2}}) {
+    rig.page.hide();
+    rig.stage().curFocusCompensation = row.code;
+    rig.page.show();
+    EXPECT_EQ(rig.page.optFocusCompensation->selected(), row.selected) << row.code;
+    EXPECT_EQ(rig.stage().curFocusCompensation, row.code);
+  }
+}
+
+TEST(StagePage, ShowingItLoadsNothingElseAndAsksNothing) {
+  StageRig rig;
+  rig.fieldX(0).setText("1.5");
+  rig.page.CheckRealMove->setChecked(false);
+  rig.Forget();
+  rig.stage().NoseCount = 5;
+  rig.stage().PositionX(2, 77);
+  rig.page.hide();
+  rig.page.show();
+  EXPECT_EQ(rig.shownX(0), "1.5");
+  EXPECT_EQ(rig.shownX(1), "0");
+  EXPECT_TRUE(rig.fieldX(5).isVisible());
+  EXPECT_FALSE(rig.page.CheckRealMove->isChecked());
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+  EXPECT_TRUE(rig.prompts.Log().empty());
+}
+
 TEST(StagePage, TheCompensationIsOfTheStageAloneAndLeavesTheInterlocks) {
   StageRig rig;
   auto& interlock = rig.k70().ILOther;
