@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QLabel>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <array>
 #include <cstdint>
@@ -165,6 +166,7 @@ void ControlOtherCtl::R_TLPORemoteVisible(bool visible) {
 
 void ControlOtherCtl::LoadData() {
   constexpr int kFiberStep = 8;
+  const QPointer<ControlOtherCtl> page(this);
   Prompts& prompts = other_.parent.prompts();
   std::optional<HourglassScope> hourglass;
   int step = 1;
@@ -176,7 +178,8 @@ void ControlOtherCtl::LoadData() {
   } catch (const std::exception&) {
     prompts.MsgBox("Data_Load Error" + std::to_string(step), box::kOk);
   }
-  ArrangeColumns();
+  // The box runs the event loop, which may have destroyed the page.
+  if (page) ArrangeColumns();
   prompts.FlushInput();
 }
 
@@ -189,8 +192,8 @@ void ControlOtherCtl::LoadStep(int step) {
   (this->*kSteps[CheckedIndex(step, 1, kSteps.size())])();
 }
 
-// The sensitivity is taken before the mode is selected, which makes it coarse; its own selection
-// gives it back. The focus knob's list and check box are never shown.
+// Selecting Manual sets the sensitivity to coarse, so it is read before and selected again after.
+// The focus knob's list and check box are never shown.
 void ControlOtherCtl::LoadFocusKnob() {
   const bool fitted = other_.parent.IsControllable(accessory::kZFocusDrive);
   const std::int32_t automatic = fitted ? other_.curAutoZ : kUnknown;
@@ -200,6 +203,7 @@ void ControlOtherCtl::LoadFocusKnob() {
   CheckFocusAuto->hide();
   ComboFocus->hide();
   SelectMode(*optAuto, automatic);
+  other_.curSensitivityZ = sensitivity;
   if (fitted && sensitivity >= kCoarse && sensitivity <= kFine) {
     ComboFocus->setIndex(sensitivity - kCoarse);
   }
@@ -210,7 +214,8 @@ void ControlOtherCtl::LoadFocusKnob() {
 void ControlOtherCtl::LoadStageKnob() {
   const bool fitted = other_.parent.IsMounted(accessory::kXYStage) != kNotMounted;
   const std::int32_t automatic = fitted ? other_.curAutoXY : kUnknown;
-  const std::int32_t sensitivity = fitted ? other_.curSensitivityXY : kUnknown;
+  const std::int32_t read = other_.curSensitivityXY;
+  const std::int32_t sensitivity = fitted ? read : kUnknown;
   hasStageKnob_ = automatic != kUnknown;
   Frame1->setVisible(fitted);
   for (int i = 0; i < optXYAuto->count(); ++i) optXYAuto->button(i)->setVisible(fitted);
@@ -218,6 +223,7 @@ void ControlOtherCtl::LoadStageKnob() {
   CheckStageAuto->setVisible(hasStageKnob_);
   ComboStage->setVisible(sensitivity != kUnknown);
   SelectMode(*optXYAuto, automatic);
+  other_.curSensitivityXY = read;
   if (sensitivity != kUnknown) {
     CheckedIndex(sensitivity, kCoarse - 1, static_cast<std::size_t>(ComboStage->count()) + 1);
     ComboStage->setIndex(sensitivity - kCoarse);

@@ -1,4 +1,6 @@
 // Loading the page of the other controls: its steps, and what each may fail of.
+#include <QPointer>
+
 #include "common/Failure.h"
 #include "gui/drives/OtherPage.h"
 
@@ -101,7 +103,8 @@ TEST(OtherPageLoad, AStageSensitivityOfTheControllerBeyondTheListFailsTheSecondS
   rig.prompts.ExpectBox("Data_Load Error2", box::kOk);
   auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
   EXPECT_EQ(page.ComboFocus->index(), -1);
-  EXPECT_EQ(rig.k70().COther.curSensitivityZ, 1) << "the selection of manual made it coarse";
+  EXPECT_EQ(rig.k70().COther.curSensitivityZ, 7);
+  EXPECT_EQ(rig.k70().COther.curSensitivityXY, 7);
 }
 
 TEST(OtherPageLoad, AVersionThatCannotBeReadFailsTheStepThatAsks) {
@@ -147,24 +150,6 @@ struct Coupling {
 // A selection that the loading makes is a click, and stores what the option stands for.
 TEST(OtherPageLoad, ANewSelectionStoresItsOwnValue) {
   for (const Coupling& row : {
-           Coupling{"a manual knob of unknown sensitivity becomes coarse",
-                    [](clsControlOther& other) {
-                      other.curAutoZ = 0;
-                      other.curSensitivityZ = -1;
-                    },
-                    &clsControlOther::curSensitivityZ, 1},
-           Coupling{"a known sensitivity is restored by its row",
-                    [](clsControlOther& other) {
-                      other.curAutoZ = 0;
-                      other.curSensitivityZ = 3;
-                    },
-                    &clsControlOther::curSensitivityZ, 3},
-           Coupling{"but not by a row that was already selected",
-                    [](clsControlOther& other) {
-                      other.curAutoXY = 0;
-                      other.curSensitivityXY = 3;
-                    },
-                    &clsControlOther::curSensitivityXY, 1},
            Coupling{"a mode that is neither is kept",
                     [](clsControlOther& other) { other.curAutoXY = 2; },
                     &clsControlOther::curAutoXY, 2},
@@ -181,6 +166,55 @@ TEST(OtherPageLoad, ANewSelectionStoresItsOwnValue) {
     page.LoadData();
     EXPECT_EQ(other.*row.field, row.after) << row.what;
   }
+}
+
+struct KnobRow {
+  std::int32_t clsControlOther::*automatic;
+  std::int32_t clsControlOther::*sensitivity;
+  ComboBox* ControlOtherCtl::*list;
+};
+
+// Selecting manual makes the sensitivity coarse, but what was read counts, whatever the list and
+// the options showed before.
+TEST(OtherPageLoad, FieldAndListShowTheSensitivityThatWasRead) {
+  for (const KnobRow& knob :
+       {KnobRow{&clsControlOther::curAutoZ, &clsControlOther::curSensitivityZ,
+                &ControlOtherCtl::ComboFocus},
+        KnobRow{&clsControlOther::curAutoXY, &clsControlOther::curSensitivityXY,
+                &ControlOtherCtl::ComboStage}}) {
+    for (const std::int32_t modeBefore : {1, 0, -1}) {
+      for (const std::int32_t before : {1, 3}) {
+        for (const std::int32_t read : {1, 2, 3, -1}) {
+          OtherRig rig("Quay");
+          auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
+          clsControlOther& other = rig.k70().COther;
+          other.*knob.sensitivity = before;
+          page.LoadData();
+          other.*knob.automatic = modeBefore;
+          page.LoadData();
+          other.*knob.automatic = 0;
+          other.*knob.sensitivity = read;
+          page.LoadData();
+          EXPECT_EQ(other.*knob.sensitivity, read) << modeBefore << before;
+          EXPECT_EQ(other.*knob.automatic, 0);
+          if (read > 0) {
+            EXPECT_EQ((page.*knob.list)->index(), read - 1) << modeBefore << before;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(OtherPageLoad, APageThatIsDestroyedWhileItsBoxStandsIsNotReadAgain) {
+  OtherRig rig("Harbour");
+  const QPointer<ControlOtherCtl> page = &rig.Show(MakeControlOtherCtl(rig.k70()));
+  rig.prompts.ClearRecords();
+  rig.k70().COther.curBuzzer = 3;
+  rig.prompts.ExpectBox("Data_Load Error4", box::kOk, Answer::Ok, "", [&page] { delete page; });
+  page->LoadData();
+  EXPECT_EQ(page, nullptr);
+  EXPECT_EQ(rig.prompts.Log(), (Lines{"box 0: Data_Load Error4", "flush"}));
 }
 
 TEST(OtherPageLoad, ABuzzerOfTwoControllersThatDisagreeSelectsTheOptionWithoutACaption) {
