@@ -3,12 +3,11 @@
 
 #include <algorithm>
 
-#include "support/UnitDrill.h"
+#include "condensers/CondenserUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
-
-using Lines = std::vector<std::string>;
 
 controller::CondenserData& Record(Rig& rig, std::int32_t code) {
   auto& records = rig.instrument().database.condensers;
@@ -17,15 +16,15 @@ controller::CondenserData& Record(Rig& rig, std::int32_t code) {
       [&](const controller::CondenserData& record) { return record.code == code; });
 }
 
-std::string Modified(const clsK70& k70) {
+std::string Modified(const CondenserUnits& units) {
   std::string list;
-  EXPECT_EQ(k70.dbcon.ModifySdk(list), "");
+  EXPECT_EQ(units.dbcon.ModifySdk(list), "");
   return list;
 }
 
 TEST(CondenserNames, AnswerAndStoreForCodesUpTo149) {
   Rig rig("Harbour");
-  clsDbCondenser& names = rig.k70.dbcon;
+  clsDbCondenser& names = rig.units.dbcon;
   for (const std::int32_t code : {0, 1, 140, 141, 149}) {
     names.Name(code, "N" + std::to_string(code));
     EXPECT_EQ(names.Name(code), "N" + std::to_string(code));
@@ -38,20 +37,20 @@ TEST(CondenserNames, AnswerAndStoreForCodesUpTo149) {
 
 TEST(CondenserNames, KeepTenCharacters) {
   Rig rig("Harbour");
-  rig.k70.dbcon.Name(141, "ABCDEFGHIJKLM");
-  EXPECT_EQ(rig.k70.dbcon.Name(141), "ABCDEFGHIJ");
-  rig.k70.dbcon.Name(141, "äöüäöüäöüäöü");
-  EXPECT_EQ(rig.k70.dbcon.Name(141), "äöüäöüäöüä");
+  rig.units.dbcon.Name(141, "ABCDEFGHIJKLM");
+  EXPECT_EQ(rig.units.dbcon.Name(141), "ABCDEFGHIJ");
+  rig.units.dbcon.Name(141, "äöüäöüäöüäöü");
+  EXPECT_EQ(rig.units.dbcon.Name(141), "äöüäöüäöüä");
 }
 
 TEST(CondenserNames, AreReadWhole) {
   Rig rig("Harbour");
   Record(rig, 141).name = "Twelve chars";
-  rig.k70.dbcon.Name(100, "Stale");
+  rig.units.dbcon.Name(100, "Stale");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.dbcon.Name(1), "Bright");
-  EXPECT_EQ(rig.k70.dbcon.Name(141), "Twelve chars");
-  EXPECT_EQ(rig.k70.dbcon.Name(100), "");
+  EXPECT_EQ(rig.units.dbcon.Name(1), "Bright");
+  EXPECT_EQ(rig.units.dbcon.Name(141), "Twelve chars");
+  EXPECT_EQ(rig.units.dbcon.Name(100), "");
 }
 
 TEST(CondenserNames, ACodeBeyondTheTableEndsTheRead) {
@@ -59,44 +58,44 @@ TEST(CondenserNames, ACodeBeyondTheTableEndsTheRead) {
     Rig rig("Harbour");
     Record(rig, 2).code = code;
     rig.Connect();
-    EXPECT_EQ(rig.k70.dbcon.ReadSdk(), "Condenser Option (Mortane:9)");
-    EXPECT_EQ(rig.k70.dbcon.Name(1), "Bright");
-    EXPECT_EQ(rig.k70.dbcon.Name(3), "");
+    EXPECT_EQ(rig.units.dbcon.ReadSdk(), "Condenser Option (Mortane:9)");
+    EXPECT_EQ(rig.units.dbcon.Name(1), "Bright");
+    EXPECT_EQ(rig.units.dbcon.Name(3), "");
   }
 }
 
 TEST(CondenserNames, WithoutACondenserStayEmptyAndAreComparedAndWrittenAllTheSame) {
   Rig rig("Lantern");
-  rig.k70.dbcon.Name(1, "Stale");
+  rig.units.dbcon.Name(1, "Stale");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.dbcon.ReadSdk(), "");
+  EXPECT_EQ(rig.units.dbcon.ReadSdk(), "");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
-  for (std::int32_t code = 0; code < 150; ++code) EXPECT_EQ(rig.k70.dbcon.Name(code), "");
-  EXPECT_TRUE(Modified(rig.k70).starts_with("Optional Condenser[1] \r\nOptional Condenser[2] "));
-  EXPECT_EQ(rig.k70.dbcon.WriteSdk(), "");
+  for (std::int32_t code = 0; code < 150; ++code) EXPECT_EQ(rig.units.dbcon.Name(code), "");
+  EXPECT_TRUE(Modified(rig.units).starts_with("Optional Condenser[1] \r\nOptional Condenser[2] "));
+  EXPECT_EQ(rig.units.dbcon.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes().size(), 9U);
   EXPECT_EQ(Record(rig, 141).name, "");
-  EXPECT_EQ(Modified(rig.k70), "");
+  EXPECT_EQ(Modified(rig.units), "");
 }
 
 TEST(CondenserNames, BlanksBehindANameDoNotCount) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   Record(rig, 141).name = "Slit  ";
-  EXPECT_EQ(Modified(rig.k70), "");
+  EXPECT_EQ(Modified(rig.units), "");
   Record(rig, 141).name = "  Slit";
-  EXPECT_EQ(Modified(rig.k70), "Optional Condenser[1] Slit");
+  EXPECT_EQ(Modified(rig.units), "Optional Condenser[1] Slit");
 }
 
 TEST(CondenserNames, OnlyOptionsAreComparedAndWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.dbcon.Name(1, "Dark");
-  EXPECT_EQ(Modified(rig.k70), "");
-  EXPECT_EQ(rig.k70.dbcon.WriteSdk(), "");
+  rig.units.dbcon.Name(1, "Dark");
+  EXPECT_EQ(Modified(rig.units), "");
+  EXPECT_EQ(rig.units.dbcon.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
   Record(rig, 1).option = true;
-  EXPECT_EQ(Modified(rig.k70), "Optional Condenser[-139] Dark");
+  EXPECT_EQ(Modified(rig.units), "Optional Condenser[-139] Dark");
 }
 
 struct WriteFault {
@@ -123,10 +122,10 @@ TEST(CondenserNames, AFailureIsALineAndTheScanGoesOn) {
         WriteFault{"AccessoryDatabase.Condensers", "Condenser Option (LIB:80004005)", {}}}) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    rig.k70.dbcon.Name(141, "One");
-    rig.k70.dbcon.Name(142, "Two");
+    rig.units.dbcon.Name(141, "One");
+    rig.units.dbcon.Name(142, "Two");
     rig.faults.Add({fault.call});
-    EXPECT_EQ(rig.k70.dbcon.WriteSdk(), fault.lines) << fault.call;
+    EXPECT_EQ(rig.units.dbcon.WriteSdk(), fault.lines) << fault.call;
     EXPECT_EQ(rig.journal.Writes(), fault.writes) << fault.call;
   }
 }
@@ -135,22 +134,22 @@ TEST(CondenserNames, AnOptionBeyondTheTableIsItsLineAndIsNotWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   Record(rig, 149).code = 150;
-  EXPECT_EQ(rig.k70.dbcon.WriteSdk(), "Condenser Option[10]");
+  EXPECT_EQ(rig.units.dbcon.WriteSdk(), "Condenser Option[10]");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
 TEST(CondenserNames, OfTenCharactersAreTakenFromAFileWithoutTheBlanksBehindThem) {
   Rig rig("Harbour");
-  EXPECT_EQ(ReadElement(rig.k70.dbcon, "<OPTION POSITION=\"9\" NAME=\"äöüäöüäöüä   \"/>"), "");
-  EXPECT_EQ(rig.k70.dbcon.Name(149), "äöüäöüäöüä");
-  EXPECT_EQ(ReadElement(rig.k70.dbcon, "<OPTION POSITION=\"9\"/>"), "");
-  EXPECT_EQ(rig.k70.dbcon.Name(149), "");
+  EXPECT_EQ(ReadElement(rig.units.dbcon, "<OPTION POSITION=\"9\" NAME=\"äöüäöüäöüä   \"/>"), "");
+  EXPECT_EQ(rig.units.dbcon.Name(149), "äöüäöüäöüä");
+  EXPECT_EQ(ReadElement(rig.units.dbcon, "<OPTION POSITION=\"9\"/>"), "");
+  EXPECT_EQ(rig.units.dbcon.Name(149), "");
 }
 
 TEST(CondenserNames, AreWrittenToAFileInNineElementsAsTheyAre) {
   Rig rig("Harbour");
-  rig.k70.dbcon.Name(141, "Slit ");
-  const std::string text = FileTextOf(rig.k70.dbcon);
+  rig.units.dbcon.Name(141, "Slit ");
+  const std::string text = FileTextOf(rig.units.dbcon);
   EXPECT_TRUE(
       text.starts_with("<SECTION><OPTION POSITION=\"1\" NAME=\"Slit \"/>"
                        "<OPTION POSITION=\"2\" NAME=\"\"/>"));

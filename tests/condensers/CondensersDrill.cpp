@@ -1,4 +1,5 @@
 // The drill of the condenser units.
+#include "condensers/CondenserUnits.h"
 #include "support/UnitDrill.h"
 
 namespace mortane::test {
@@ -8,18 +9,18 @@ UnitDrillData Cassette() {
   UnitDrillData data;
   data.name = "Condenser";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::curCondenser);
+  data.unit = OperationsOf(&CondenserUnits::curCondenser);
   data.edits = {
       {"first address",
-       [](clsK70& k70) { k70.curCondenser.code(1, 9); },
+       [](CondenserUnits& units) { units.curCondenser.code(1, 9); },
        "Condenser[1] Ph 3",
        {"CondenserDevice.Positions(1).Code = 9"}},
       {"nothing in the middle",
-       [](clsK70& k70) { k70.curCondenser.code(4, 0); },
+       [](CondenserUnits& units) { units.curCondenser.code(4, 0); },
        "Condenser[4] ",
        {"CondenserDevice.Positions(4).Code = 0"}},
       {"the user's condenser at the last address",
-       [](clsK70& k70) { k70.curCondenser.code(7, 141); },
+       [](CondenserUnits& units) { units.curCondenser.code(7, 141); },
        "Condenser[7] Slit",
        {"CondenserDevice.Positions(7).Code = 141"}},
   };
@@ -43,18 +44,18 @@ UnitDrillData Names() {
   UnitDrillData data;
   data.name = "DbCondenser";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::dbcon);
+  data.unit = OperationsOf(&CondenserUnits::dbcon);
   data.edits = {
       {"first option",
-       [](clsK70& k70) { k70.dbcon.Name(141, "Slot"); },
+       [](CondenserUnits& units) { units.dbcon.Name(141, "Slot"); },
        "Optional Condenser[1] Slot",
        {"AccessoryDatabase.Condensers.Item(10).Name = \"Slot\""}},
       {"no name",
-       [](clsK70& k70) { k70.dbcon.Name(142, ""); },
+       [](CondenserUnits& units) { units.dbcon.Name(142, ""); },
        "Optional Condenser[2] ",
        {"AccessoryDatabase.Condensers.Item(11).Name = \"\""}},
       {"last option",
-       [](clsK70& k70) { k70.dbcon.Name(149, "Ten chars!"); },
+       [](CondenserUnits& units) { units.dbcon.Name(149, "Ten chars!"); },
        "Optional Condenser[9] Ten chars!",
        {"AccessoryDatabase.Condensers.Item(18).Name = \"Ten chars!\""}},
   };

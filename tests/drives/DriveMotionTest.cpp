@@ -94,21 +94,21 @@ TEST(DriveMotion, AfterAnAsynchronousStartTheDeviceBlocksAgain) {
 
 // Whichever call fails: of the first look-up there is nothing to set back.
 TEST(DriveMotion, TheDeviceBlocksAgainAfterEachCallOfAnAsynchronousStartThatFails) {
-  const std::vector<std::function<void(clsK70&)>> starts{
-      [](clsK70& k70) { k70.CZDrive.MoveAsyncStart(900); },
-      [](clsK70& k70) { k70.CXYDrive.MoveAsyncStart(900, 900); }};
+  const std::vector<std::function<void(DriveUnits&)>> starts{
+      [](DriveUnits& units) { units.CZDrive.MoveAsyncStart(900); },
+      [](DriveUnits& units) { units.CXYDrive.MoveAsyncStart(900, 900); }};
   for (const auto& start : starts) {
     FailEachCallOf(MakeMotionRig, start, [&](Rig& rig, std::size_t k) {
       rig.prompts.ExpectBox("MoveAsyncStart Error!!", 16);
-      start(rig.k70);
+      start(rig.units);
       const Lines writes = rig.journal.Writes();
       const bool lookedUp = k > 2;
       EXPECT_EQ(!writes.empty() && writes.back() == "DeviceList.Item(1).AsyncMode = false",
                 lookedUp)
           << "call " << k;
-      const std::int32_t before = rig.k70.CXYDrive.CurPositionY();
-      rig.k70.CXYDrive.MoveY(5000);
-      EXPECT_EQ(rig.k70.CXYDrive.CurPositionY(), before + 5000) << "call " << k;
+      const std::int32_t before = rig.units.CXYDrive.CurPositionY();
+      rig.units.CXYDrive.MoveY(5000);
+      EXPECT_EQ(rig.units.CXYDrive.CurPositionY(), before + 5000) << "call " << k;
     });
   }
 }

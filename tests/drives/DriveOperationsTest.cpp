@@ -8,16 +8,16 @@ namespace {
 // journal holds when all goes well.
 struct MotionRow {
   const char* what;
-  std::function<std::int32_t(clsK70&)> run;
+  std::function<std::int32_t(DriveUnits&)> run;
   const char* box;
   std::int32_t answer;
   Lines journal;
 };
 
 template <typename Operation>
-std::function<std::int32_t(clsK70&)> Silent(Operation operation) {
-  return [operation](clsK70& k70) {
-    operation(k70);
+std::function<std::int32_t(DriveUnits&)> Silent(Operation operation) {
+  return [operation](DriveUnits& units) {
+    operation(units);
     return 0;
   };
 }
@@ -25,85 +25,85 @@ std::function<std::int32_t(clsK70&)> Silent(Operation operation) {
 const std::vector<MotionRow>& AllMotions() {
   static const std::vector<MotionRow> rows{
       {"Z CurPosition",
-       [](clsK70& k70) { return k70.CZDrive.CurPosition(); },
+       [](DriveUnits& units) { return units.CZDrive.CurPosition(); },
        "GetPosition Error!!",
        400,
        {"ZDriveDevice.Position -> 400"}},
       {"Z MoveStart",
-       Silent([](clsK70& k70) { k70.CZDrive.MoveStart(); }),
+       Silent([](DriveUnits& units) { units.CZDrive.MoveStart(); }),
        "MoveStart Error!!",
        0,
        {"NosepieceDevice.BeginZPositioning()", "ZDriveDevice.MoveProfile = 9",
         "ZDriveDevice.MoveOption = 0"}},
       {"Z Move",
-       Silent([](clsK70& k70) { k70.CZDrive.Move(-50); }),
+       Silent([](DriveUnits& units) { units.CZDrive.Move(-50); }),
        "Move Error!!",
        0,
        {"ZDriveDevice.Position -> 400", "ZDriveDevice.Position = 350"}},
       {"Z MoveAsyncStart",
-       Silent([](clsK70& k70) { k70.CZDrive.MoveAsyncStart(1000); }),
+       Silent([](DriveUnits& units) { units.CZDrive.MoveAsyncStart(1000); }),
        "MoveAsyncStart Error!!",
        0,
        {"DeviceList.Item(1).AsyncMode = true", "ZDriveDevice.Position = 1000",
         "DeviceList.Item(1).AsyncMode = false"}},
       {"Z IsMoveAsyncEnd",
-       [](clsK70& k70) { return k70.CZDrive.IsMoveAsyncEnd() ? 1 : 0; },
+       [](DriveUnits& units) { return units.CZDrive.IsMoveAsyncEnd() ? 1 : 0; },
        "MoveAsyncEnd Error!!",
        1,
        {"DeviceList.Item(1).WaitMove(1) -> 0"}},
       {"Z SelectNose",
-       Silent([](clsK70& k70) { k70.CZDrive.SelectNose(2); }),
+       Silent([](DriveUnits& units) { units.CZDrive.SelectNose(2); }),
        "SelectNose Error!!",
        0,
        {"NosepieceDevice.BeginPositioning()", "NosepieceDevice.Position = 2"}},
       {"Z NosePosition",
-       [](clsK70& k70) { return k70.CZDrive.NosePosition(); },
+       [](DriveUnits& units) { return units.CZDrive.NosePosition(); },
        "NosePosition Error!!",
        3,
        {"NosepieceDevice.Position -> 3"}},
       {"CurPositionX",
-       [](clsK70& k70) { return k70.CXYDrive.CurPositionX(); },
+       [](DriveUnits& units) { return units.CXYDrive.CurPositionX(); },
        "GetPositionX Error!!",
        -50,
        {"XYDriveDevice.PositionX -> -50"}},
       {"CurPositionY",
-       [](clsK70& k70) { return k70.CXYDrive.CurPositionY(); },
+       [](DriveUnits& units) { return units.CXYDrive.CurPositionY(); },
        "GetPositionY Error!!",
        60,
        {"XYDriveDevice.PositionY -> 60"}},
       {"XY MoveStart",
-       Silent([](clsK70& k70) { k70.CXYDrive.MoveStart(); }),
+       Silent([](DriveUnits& units) { units.CXYDrive.MoveStart(); }),
        "MoveStart Error!!",
        0,
        {"NosepieceDevice.BeginPositioning()", "XYDriveDevice.MoveProfile = 9"}},
       {"MoveX",
-       Silent([](clsK70& k70) { k70.CXYDrive.MoveX(50); }),
+       Silent([](DriveUnits& units) { units.CXYDrive.MoveX(50); }),
        "MoveX Error!!",
        0,
        {"XYDriveDevice.PositionX -> -50", "XYDriveDevice.PositionX = 0"}},
       {"MoveY",
-       Silent([](clsK70& k70) { k70.CXYDrive.MoveY(-1); }),
+       Silent([](DriveUnits& units) { units.CXYDrive.MoveY(-1); }),
        "MoveY Error!!",
        0,
        {"XYDriveDevice.PositionY -> 60", "XYDriveDevice.PositionY = 59"}},
       {"XY MoveAsyncStart",
-       Silent([](clsK70& k70) { k70.CXYDrive.MoveAsyncStart(7, -8); }),
+       Silent([](DriveUnits& units) { units.CXYDrive.MoveAsyncStart(7, -8); }),
        "MoveAsyncStart Error!!",
        0,
        {"DeviceList.Item(1).AsyncMode = true", "XYDriveDevice.PositionX = 7",
         "XYDriveDevice.PositionY = -8", "DeviceList.Item(1).AsyncMode = false"}},
       {"XY IsMoveAsyncEnd",
-       [](clsK70& k70) { return k70.CXYDrive.IsMoveAsyncEnd() ? 1 : 0; },
+       [](DriveUnits& units) { return units.CXYDrive.IsMoveAsyncEnd() ? 1 : 0; },
        "MoveAsyncEnd Error!!",
        1,
        {"DeviceList.Item(1).WaitMove(1) -> 0"}},
       {"XY SelectNose",
-       Silent([](clsK70& k70) { k70.CXYDrive.SelectNose(6); }),
+       Silent([](DriveUnits& units) { units.CXYDrive.SelectNose(6); }),
        "SelectNose Error!!",
        0,
        {"NosepieceDevice.BeginPositioning()", "NosepieceDevice.Position = 6"}},
       {"XY NosePosition",
-       [](clsK70& k70) { return k70.CXYDrive.NosePosition(); },
+       [](DriveUnits& units) { return units.CXYDrive.NosePosition(); },
        "NosePosition Error!!",
        3,
        {"NosepieceDevice.Position -> 3"}},
@@ -114,7 +114,7 @@ const std::vector<MotionRow>& AllMotions() {
 TEST(DriveOperations, EachOperationMakesItsCallsInOrder) {
   for (const MotionRow& row : AllMotions()) {
     const auto rig = MakeMotionRig();
-    EXPECT_EQ(row.run(rig->k70), row.answer) << row.what;
+    EXPECT_EQ(row.run(rig->units), row.answer) << row.what;
     EXPECT_EQ(rig->journal.Lines(), row.journal) << row.what;
   }
 }
@@ -124,7 +124,7 @@ TEST(DriveOperations, EachCallThatFailsIsOneCriticalBoxAndTheAnswerIsNone) {
   for (const MotionRow& row : AllMotions()) {
     const std::size_t calls = FailEachCallOf(MakeMotionRig, row.run, [&](Rig& rig, std::size_t k) {
       rig.prompts.ExpectBox(row.box, 16, Answer::Ok, "");
-      EXPECT_EQ(row.run(rig.k70), 0) << row.what << " call " << k;
+      EXPECT_EQ(row.run(rig.units), 0) << row.what << " call " << k;
       EXPECT_TRUE(rig.prompts.AllAnswersUsed()) << row.what << " call " << k;
     });
     EXPECT_GE(calls, 2U) << row.what;
@@ -136,7 +136,7 @@ TEST(DriveOperations, AFailureEndsAnOperationBeforeItsLaterWrites) {
   for (const MotionRow& row : AllMotions()) {
     FailEachCallOf(MakeMotionRig, row.run, [&](Rig& rig, std::size_t k) {
       rig.prompts.AcceptAnyBox();
-      row.run(rig.k70);
+      row.run(rig.units);
       Lines writes;
       for (const std::string& line : rig.journal.Writes()) {
         if (line.find("AsyncMode = false") == std::string::npos) writes.push_back(line);
@@ -151,29 +151,31 @@ TEST(DriveOperations, AFailureEndsAnOperationBeforeItsLaterWrites) {
 TEST(DriveOperations, WithoutAConnectionEachOperationSaysSo) {
   for (const MotionRow& row : AllMotions()) {
     const auto rig = MakeMotionRig();
-    rig->k70.Disconnect();
+    rig->units.Disconnect();
     rig->prompts.ExpectBox(row.box, 16);
-    EXPECT_EQ(row.run(rig->k70), 0) << row.what;
+    EXPECT_EQ(row.run(rig->units), 0) << row.what;
   }
 }
 
 // Nothing decides beforehand whether a drive is there.
 TEST(DriveOperations, ADriveThatIsNotThereIsAskedAllTheSame) {
-  const std::vector<std::pair<const char*, std::function<void(clsK70&)>>> rows{
-      {"GetPosition Error!!", [](clsK70& k70) { EXPECT_EQ(k70.CZDrive.CurPosition(), 0); }},
-      {"MoveStart Error!!", [](clsK70& k70) { k70.CZDrive.MoveStart(); }},
-      {"Move Error!!", [](clsK70& k70) { k70.CZDrive.Move(1); }},
-      {"MoveAsyncStart Error!!", [](clsK70& k70) { k70.CZDrive.MoveAsyncStart(1); }},
-      {"GetPositionX Error!!", [](clsK70& k70) { EXPECT_EQ(k70.CXYDrive.CurPositionX(), 0); }},
-      {"GetPositionY Error!!", [](clsK70& k70) { EXPECT_EQ(k70.CXYDrive.CurPositionY(), 0); }},
-      {"MoveStart Error!!", [](clsK70& k70) { k70.CXYDrive.MoveStart(); }},
-      {"MoveX Error!!", [](clsK70& k70) { k70.CXYDrive.MoveX(1); }},
-      {"MoveY Error!!", [](clsK70& k70) { k70.CXYDrive.MoveY(1); }},
-      {"MoveAsyncStart Error!!", [](clsK70& k70) { k70.CXYDrive.MoveAsyncStart(1, 1); }}};
+  const std::vector<std::pair<const char*, std::function<void(DriveUnits&)>>> rows{
+      {"GetPosition Error!!", [](DriveUnits& units) { EXPECT_EQ(units.CZDrive.CurPosition(), 0); }},
+      {"MoveStart Error!!", [](DriveUnits& units) { units.CZDrive.MoveStart(); }},
+      {"Move Error!!", [](DriveUnits& units) { units.CZDrive.Move(1); }},
+      {"MoveAsyncStart Error!!", [](DriveUnits& units) { units.CZDrive.MoveAsyncStart(1); }},
+      {"GetPositionX Error!!",
+       [](DriveUnits& units) { EXPECT_EQ(units.CXYDrive.CurPositionX(), 0); }},
+      {"GetPositionY Error!!",
+       [](DriveUnits& units) { EXPECT_EQ(units.CXYDrive.CurPositionY(), 0); }},
+      {"MoveStart Error!!", [](DriveUnits& units) { units.CXYDrive.MoveStart(); }},
+      {"MoveX Error!!", [](DriveUnits& units) { units.CXYDrive.MoveX(1); }},
+      {"MoveY Error!!", [](DriveUnits& units) { units.CXYDrive.MoveY(1); }},
+      {"MoveAsyncStart Error!!", [](DriveUnits& units) { units.CXYDrive.MoveAsyncStart(1, 1); }}};
   for (const auto& [box, run] : rows) {
     MotionRig rig("Shell");
     rig.prompts.ExpectBox(box, 16);
-    run(rig.k70);
+    run(rig.units);
   }
 }
 

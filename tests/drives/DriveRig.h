@@ -6,18 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "support/UnitDrill.h"
+#include "drives/DriveUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
-
-using Lines = std::vector<std::string>;
-
-// How an accessory is fitted, as IsMounted tells it.
-inline void Fit(Instrument& instrument, std::int32_t accessory, std::int32_t mounted) {
-  controller::AccessoryData& data = instrument.Accessory(accessory);
-  data.state = mounted == kNotMounted ? 0 : 1;
-  data.readOnly = mounted == kSensorOnly;
-}
 
 // Compensation, lower limit, and the escape flags as two digits.
 inline std::string ValuesOf(const clsControlZDrive& drive) {
@@ -41,7 +33,7 @@ std::size_t FailEachCallOf(Make&& make, Operation&& operation, Check&& check) {
   {
     const auto rig = make();
     rig->journal.Clear();
-    operation(rig->k70);
+    operation(rig->units);
     calls = rig->journal.CallCount();
   }
   for (std::size_t k = 1; k <= calls; ++k) {

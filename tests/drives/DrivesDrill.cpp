@@ -1,4 +1,5 @@
 // The drill of the drive units.
+#include "drives/DriveUnits.h"
 #include "support/UnitDrill.h"
 
 namespace mortane::test {
@@ -12,12 +13,12 @@ UnitDrillData FocusDrive() {
   UnitDrillData data;
   data.name = "ControlZDrive";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::CZDrive);
+  data.unit = OperationsOf(&DriveUnits::CZDrive);
   data.edits = {
       {"the compensation, which is not compared, and the escape",
-       [](clsK70& k70) {
-         k70.CZDrive.curFocusCompensation = 1;
-         k70.CZDrive.SetEscape(0, 0);
+       [](DriveUnits& units) {
+         units.CZDrive.curFocusCompensation = 1;
+         units.CZDrive.SetEscape(0, 0);
        },
        "Control FocusDrive[EscapeMode]Z:OFF XY:ON",
        {"ZDriveDevice.FocusCompensation = 1", "ControllerSettings.EscapeMode = 2"}},
@@ -58,13 +59,13 @@ UnitDrillData FocusDriveWithALimit() {
   data.bench = "Lantern";
   data.edits = {
       {"lower limit",
-       [](clsK70& k70) { k70.CZDrive.curLowerLimit = 0; },
+       [](DriveUnits& units) { units.CZDrive.curLowerLimit = 0; },
        "Control FocusDrive[DownLimitation]",
        {"ZDriveDevice.LowerLimit = 0", "ControllerSettings.EscapeMode = 1"}},
       {"the compensation, which is not compared, and the escape",
-       [](clsK70& k70) {
-         k70.CZDrive.curFocusCompensation = 3;
-         k70.CZDrive.SetEscape(1, 1);
+       [](DriveUnits& units) {
+         units.CZDrive.curFocusCompensation = 3;
+         units.CZDrive.SetEscape(1, 1);
        },
        "Control FocusDrive[EscapeMode]Z:ON XY:ON",
        {"ZDriveDevice.FocusCompensation = 3", "ControllerSettings.EscapeMode = 3"}},
@@ -84,10 +85,10 @@ UnitDrillData XYStage() {
   UnitDrillData data;
   data.name = "ControlXYDrive";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::CXYDrive);
+  data.unit = OperationsOf(&DriveUnits::CXYDrive);
   data.edits = {
       {"compensation",
-       [](clsK70& k70) { k70.CXYDrive.curFocusCompensation = 2; },
+       [](DriveUnits& units) { units.CXYDrive.curFocusCompensation = 2; },
        "Control XYStage[FocusCompensation]",
        {"XYDriveDevice.FocusCompensation = 2"}},
   };
@@ -124,19 +125,19 @@ UnitDrillData OtherControls() {
   UnitDrillData data;
   data.name = "ControlOther";
   data.bench = "Quay";
-  data.unit = OperationsOf(&clsK70::COther);
+  data.unit = OperationsOf(&DriveUnits::COther);
   data.edits = {
-      {"focus knob", [](clsK70& k70) { k70.COther.curAutoZ = 0; }, "Control Other[FocusDrive Auto]",
-       before("ZDriveDevice.KnobAuto = 0")},
-      {"stage knob", [](clsK70& k70) { k70.COther.curAutoXY = 1; }, "Control Other[XYStage Auto]",
-       before("XYDriveDevice.KnobAuto = 1")},
+      {"focus knob", [](DriveUnits& units) { units.COther.curAutoZ = 0; },
+       "Control Other[FocusDrive Auto]", before("ZDriveDevice.KnobAuto = 0")},
+      {"stage knob", [](DriveUnits& units) { units.COther.curAutoXY = 1; },
+       "Control Other[XYStage Auto]", before("XYDriveDevice.KnobAuto = 1")},
       {"buzzer",
-       [](clsK70& k70) { k70.COther.curBuzzer = 1; },
+       [](DriveUnits& units) { units.COther.curBuzzer = 1; },
        "Control Other[Buzzer]",
        {"BuzzerOff(1)", "BuzzerOff(2)", "BuzzerOff(5)"}},
-      {"body switches", [](clsK70& k70) { k70.COther.curSwEnable = 0; }, "Control Other[Switch]",
-       behind("DisableSwitch(0, 0)")},
-      {"hand controller's switches", [](clsK70& k70) { k70.COther.curTactorSwEnable = 0; },
+      {"body switches", [](DriveUnits& units) { units.COther.curSwEnable = 0; },
+       "Control Other[Switch]", behind("DisableSwitch(0, 0)")},
+      {"hand controller's switches", [](DriveUnits& units) { units.COther.curTactorSwEnable = 0; },
        "Control Other[Tactor Switch]", behind("DisableSwitch(4, 0)")},
   };
   data.alwaysWritten = on;

@@ -48,7 +48,7 @@ struct LinkRig : Rig {
     link.emplace(library);
     journal.Clear();
   }
-  clsControlOther& other() { return k70.COther; }
+  clsControlOther& other() { return units.COther; }
 
   std::optional<FiberRemoteLink> link;
 };

@@ -33,11 +33,11 @@ TEST(FocusDriveFile, HasAWordForEachSetting) {
                 R"(<FocusCompensation CODE="Unknown"/><DownLimitation CODE="-300000"/>)"
                 R"(<Escape_ZDrive CODE="Off"/><Escape_XYStage CODE="Off"/>)"}}) {
     Rig rig("Harbour");
-    rig.k70.CZDrive.curFocusCompensation = row.compensation;
-    rig.k70.CZDrive.curLowerLimit = row.limit;
-    rig.k70.CZDrive.SetEscape(0, row.focus);
-    rig.k70.CZDrive.SetEscape(1, row.stage);
-    EXPECT_EQ(FileTextOf(rig.k70.CZDrive),
+    rig.units.CZDrive.curFocusCompensation = row.compensation;
+    rig.units.CZDrive.curLowerLimit = row.limit;
+    rig.units.CZDrive.SetEscape(0, row.focus);
+    rig.units.CZDrive.SetEscape(1, row.stage);
+    EXPECT_EQ(FileTextOf(rig.units.CZDrive),
               "<SECTION><FOCUSDRIVE>" + std::string(row.children) + "</FOCUSDRIVE></SECTION>");
   }
 }
@@ -59,30 +59,31 @@ TEST(FocusDriveFile, IsReadWithoutRegardToCase) {
                              ReadRow{R"(<Escape_XYStage CODE="On" code="Off"/>)", "-1 -1 00"}}) {
     Rig rig("Harbour");
     EXPECT_EQ(
-        ReadElement(rig.k70.CZDrive, "<FOCUSDRIVE>" + std::string(row.child) + "</FOCUSDRIVE>"),
+        ReadElement(rig.units.CZDrive, "<FOCUSDRIVE>" + std::string(row.child) + "</FOCUSDRIVE>"),
         "");
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), row.values) << row.child;
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), row.values) << row.child;
   }
 }
 
 TEST(FocusDriveFile, OffClearsAFlag) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(ReadElement(rig.k70.CZDrive, R"(<FOCUSDRIVE><Escape_ZDrive CODE="OFF"/></FOCUSDRIVE>)"),
-            "");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "3 -1 01");
+  EXPECT_EQ(
+      ReadElement(rig.units.CZDrive, R"(<FOCUSDRIVE><Escape_ZDrive CODE="OFF"/></FOCUSDRIVE>)"),
+      "");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "3 -1 01");
 }
 
 TEST(FocusDriveFile, OfOurOwnIsReadInSilenceOnEveryInstrument) {
   for (const std::string& bench : benches::Names()) {
     Rig rig(bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
-    const std::string before = ValuesOf(rig.k70.CZDrive);
+    EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
+    const std::string before = ValuesOf(rig.units.CZDrive);
     DomDocument document;
-    ASSERT_TRUE(document.LoadText(FileTextOf(rig.k70.CZDrive)));
-    EXPECT_EQ(rig.k70.CZDrive.ReadDom(document.Children().at(0).Children().at(0)), "") << bench;
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), before) << bench;
+    ASSERT_TRUE(document.LoadText(FileTextOf(rig.units.CZDrive)));
+    EXPECT_EQ(rig.units.CZDrive.ReadDom(document.Children().at(0).Children().at(0)), "") << bench;
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), before) << bench;
   }
 }
 
@@ -90,43 +91,43 @@ TEST(FocusDriveFile, OfUnknownsLeavesWhatWasRead) {
   for (const char* bench : {"Harbour", "Lantern", "Attic", "Shell"}) {
     Rig rig(bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
-    const std::string before = ValuesOf(rig.k70.CZDrive);
-    EXPECT_EQ(ReadElement(rig.k70.CZDrive,
+    EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
+    const std::string before = ValuesOf(rig.units.CZDrive);
+    EXPECT_EQ(ReadElement(rig.units.CZDrive,
                           R"(<FOCUSDRIVE><FocusCompensation CODE="Unknown"/>)"
                           R"(<DownLimitation CODE="Unknown"/><Escape_ZDrive CODE="Unknown"/>)"
                           R"(<Escape_XYStage CODE="Unknown"/></FOCUSDRIVE>)"),
               "");
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), before) << bench;
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), before) << bench;
   }
 }
 
 TEST(FocusDriveFile, AChildThatIsRefusedLeavesTheOthersToBeTaken) {
   Rig rig("Harbour");
-  EXPECT_EQ(
-      ReadElement(rig.k70.CZDrive, R"(<FOCUSDRIVE><FocusCompensation CODE="No"/>)"
-                                   R"(<DownLimitation CODE="-500000"/><Escape_XYStage CODE="On"/>)"
-                                   R"(</FOCUSDRIVE>)"),
-      "Control Focus Drive FocusCompensation");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 1 01");
+  EXPECT_EQ(ReadElement(rig.units.CZDrive,
+                        R"(<FOCUSDRIVE><FocusCompensation CODE="No"/>)"
+                        R"(<DownLimitation CODE="-500000"/><Escape_XYStage CODE="On"/>)"
+                        R"(</FOCUSDRIVE>)"),
+            "Control Focus Drive FocusCompensation");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "-1 1 01");
 }
 
 TEST(FocusDriveFile, AChildThatOccursTwiceCountsTheLastTime) {
   Rig rig("Harbour");
-  EXPECT_EQ(ReadElement(rig.k70.CZDrive, R"(<FOCUSDRIVE><FocusCompensation CODE="None"/>)"
-                                         R"(<FocusCompensation CODE="Relative"/></FOCUSDRIVE>)"),
+  EXPECT_EQ(ReadElement(rig.units.CZDrive, R"(<FOCUSDRIVE><FocusCompensation CODE="None"/>)"
+                                           R"(<FocusCompensation CODE="Relative"/></FOCUSDRIVE>)"),
             "");
-  EXPECT_EQ(rig.k70.CZDrive.curFocusCompensation, 3);
+  EXPECT_EQ(rig.units.CZDrive.curFocusCompensation, 3);
 }
 
 TEST(FocusDriveFile, HoldsNeitherPositionsNorTheUpperLimit) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  const std::string before = FileTextOf(rig.k70.CZDrive);
-  rig.k70.CZDrive.Position(1, 100);
-  rig.k70.CZDrive.curUpperLimit = 1;
-  EXPECT_EQ(FileTextOf(rig.k70.CZDrive), before);
-  EXPECT_EQ(Differences(rig.k70.CZDrive), "");
+  const std::string before = FileTextOf(rig.units.CZDrive);
+  rig.units.CZDrive.Position(1, 100);
+  rig.units.CZDrive.curUpperLimit = 1;
+  EXPECT_EQ(FileTextOf(rig.units.CZDrive), before);
+  EXPECT_EQ(Differences(rig.units.CZDrive), "");
 }
 
 }  // namespace

@@ -11,13 +11,13 @@ void SetEscape(clsControlZDrive& drive, std::int16_t focus, std::int16_t stage) 
 
 TEST(FocusDrive, IsUnknownBeforeTheFirstRead) {
   Rig rig("Harbour");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 -1 00");
-  EXPECT_EQ(rig.k70.CZDrive.curUpperLimit, 0);
-  EXPECT_EQ(rig.k70.CZDrive.NoseCount, 0);
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "-1 -1 00");
+  EXPECT_EQ(rig.units.CZDrive.curUpperLimit, 0);
+  EXPECT_EQ(rig.units.CZDrive.NoseCount, 0);
   for (std::int32_t address = 1; address <= 10; ++address) {
-    EXPECT_EQ(rig.k70.CZDrive.Position(address), 0);
+    EXPECT_EQ(rig.units.CZDrive.Position(address), 0);
   }
-  EXPECT_FALSE(rig.k70.CZDrive.IsEnable());
+  EXPECT_FALSE(rig.units.CZDrive.IsEnable());
 }
 
 struct BenchRow {
@@ -40,11 +40,11 @@ TEST(FocusDrive, ReadsWhatEachInstrumentHas) {
         BenchRow{"Attic", "2 -1 22", true, 10, "Control FocusDrive[EscapeMode]Z:OFF XY:OFF"}}) {
     Rig rig(row.bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), row.values) << row.bench;
-    EXPECT_EQ(rig.k70.CZDrive.IsEnable(), row.enabled) << row.bench;
-    EXPECT_EQ(rig.k70.CZDrive.NoseCount, row.noseCount) << row.bench;
-    EXPECT_EQ(Differences(rig.k70.CZDrive), row.differences) << row.bench;
+    EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), row.values) << row.bench;
+    EXPECT_EQ(rig.units.CZDrive.IsEnable(), row.enabled) << row.bench;
+    EXPECT_EQ(rig.units.CZDrive.NoseCount, row.noseCount) << row.bench;
+    EXPECT_EQ(Differences(rig.units.CZDrive), row.differences) << row.bench;
   }
 }
 
@@ -66,7 +66,7 @@ TEST(FocusDrive, IsEnabledByANosepieceThatTurnsOrByALowerLimit) {
     Fit(rig.instrument(), accessory::kZFocusDrive, row.drive);
     Fit(rig.instrument(), accessory::kCondenser, row.condenser);
     rig.ConnectAndReceive();
-    EXPECT_EQ(rig.k70.CZDrive.IsEnable(), row.enabled)
+    EXPECT_EQ(rig.units.CZDrive.IsEnable(), row.enabled)
         << row.nosepiece << row.drive << row.condenser;
   }
 }
@@ -74,22 +74,22 @@ TEST(FocusDrive, IsEnabledByANosepieceThatTurnsOrByALowerLimit) {
 TEST(FocusDrive, IsNotEnabledByALowerLimitThatIsUnknown) {
   Rig rig("Outpost");
   rig.ConnectAndReceive();
-  rig.k70.CZDrive.curLowerLimit = -1;
-  EXPECT_FALSE(rig.k70.CZDrive.IsEnable());
+  rig.units.CZDrive.curLowerLimit = -1;
+  EXPECT_FALSE(rig.units.CZDrive.IsEnable());
 }
 
 // A file may set a limit that does not apply.
 TEST(FocusDrive, IsNotEnabledByALowerLimitUnderACondenser) {
   Rig rig("Relay");
   rig.ConnectAndReceive();
-  rig.k70.CZDrive.curLowerLimit = 1;
-  EXPECT_FALSE(rig.k70.CZDrive.IsEnable());
+  rig.units.CZDrive.curLowerLimit = 1;
+  EXPECT_FALSE(rig.units.CZDrive.IsEnable());
 }
 
 TEST(FocusDrive, AsksForItsSettingsInOrder) {
   Rig rig("Lantern");
   rig.Connect();
-  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
+  EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"ZDriveDevice.FocusCompensation -> 1", "ZDriveDevice.LowerLimit -> 1",
                    "ControllerSettings.EscapeMode -> 1"}));
@@ -107,7 +107,7 @@ TEST(FocusDrive, EscapeModesAreTwoFlags) {
     Rig rig("Harbour");
     rig.instrument().escapeMode = row.mode;
     rig.ConnectAndReceive();
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), row.values) << row.mode;
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), row.values) << row.mode;
   }
 }
 
@@ -117,17 +117,17 @@ TEST(FocusDrive, AnEscapeModeThatNobodyKnowsLeavesTheFlags) {
     rig.instrument().escapeMode = 2;
     rig.ConnectAndReceive();
     rig.instrument().escapeMode = mode;
-    EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "3 -1 01") << mode;
+    EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), "3 -1 01") << mode;
   }
 }
 
 TEST(FocusDrive, AReadWithoutADriveLeavesTheEscapeFlags) {
   Rig rig("Watch");
   rig.ConnectAndReceive();
-  SetEscape(rig.k70.CZDrive, 1, 2);
-  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 -1 12");
+  SetEscape(rig.units.CZDrive, 1, 2);
+  EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "-1 -1 12");
 }
 
 TEST(FocusDrive, EscapeFlagsOfAnyOtherAxisAreAFault) {
@@ -135,27 +135,27 @@ TEST(FocusDrive, EscapeFlagsOfAnyOtherAxisAreAFault) {
   for (const std::int32_t axis : {-1, 2, 100}) {
     for (const bool set : {false, true}) {
       try {
-        if (set) rig.k70.CZDrive.SetEscape(axis, 1);
-        if (!set) rig.k70.CZDrive.SetEscape(axis);
+        if (set) rig.units.CZDrive.SetEscape(axis, 1);
+        if (!set) rig.units.CZDrive.SetEscape(axis);
         ADD_FAILURE() << axis;
       } catch (const Failure& failure) {
         EXPECT_EQ(failure.Number(), 9) << axis;
       }
     }
   }
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 -1 00");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "-1 -1 00");
 }
 
 TEST(FocusDrive, PositionsOutsideOneToTenReadMinusOneAndAreDropped) {
   Rig rig("Harbour");
   for (std::int32_t address = -1; address <= 12; ++address) {
-    rig.k70.CZDrive.Position(address, 100 + address);
+    rig.units.CZDrive.Position(address, 100 + address);
   }
   for (std::int32_t address = 1; address <= 10; ++address) {
-    EXPECT_EQ(rig.k70.CZDrive.Position(address), 100 + address);
+    EXPECT_EQ(rig.units.CZDrive.Position(address), 100 + address);
   }
   for (const std::int32_t address : {0, 11, -1, 12, 2147483647, -2147483647}) {
-    EXPECT_EQ(rig.k70.CZDrive.Position(address), -1) << address;
+    EXPECT_EQ(rig.units.CZDrive.Position(address), -1) << address;
   }
 }
 
@@ -163,11 +163,11 @@ TEST(FocusDrive, AReadClearsThePositionsWithOrWithoutADrive) {
   for (const char* bench : {"Harbour", "Shell"}) {
     Rig rig(bench);
     rig.ConnectAndReceive();
-    rig.k70.CZDrive.Position(1, 5);
-    rig.k70.CZDrive.Position(10, -7);
-    EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.CZDrive.Position(1), 0) << bench;
-    EXPECT_EQ(rig.k70.CZDrive.Position(10), 0) << bench;
+    rig.units.CZDrive.Position(1, 5);
+    rig.units.CZDrive.Position(10, -7);
+    EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
+    EXPECT_EQ(rig.units.CZDrive.Position(1), 0) << bench;
+    EXPECT_EQ(rig.units.CZDrive.Position(10), 0) << bench;
   }
 }
 
@@ -175,15 +175,15 @@ TEST(FocusDrive, WithoutADriveNothingIsReadComparedOrWritten) {
   for (const char* bench : {"Hub", "Shell", "Watch", "Pair"}) {
     Rig rig(bench);
     rig.ConnectAndReceive();
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 -1 00") << bench;
-    rig.k70.CZDrive.curFocusCompensation = 2;
-    rig.k70.CZDrive.curLowerLimit = 1;
-    SetEscape(rig.k70.CZDrive, 1, 1);
-    EXPECT_EQ(Differences(rig.k70.CZDrive), "") << bench;
-    EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "") << bench;
-    EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "") << bench;
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), "-1 -1 00") << bench;
+    rig.units.CZDrive.curFocusCompensation = 2;
+    rig.units.CZDrive.curLowerLimit = 1;
+    SetEscape(rig.units.CZDrive, 1, 1);
+    EXPECT_EQ(Differences(rig.units.CZDrive), "") << bench;
+    EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "") << bench;
+    EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "") << bench;
     EXPECT_EQ(rig.journal.CallCount(), 0U) << bench;
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 -1 11") << bench;
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), "-1 -1 11") << bench;
   }
 }
 
@@ -203,17 +203,17 @@ TEST(FocusDrive, TheBodysFirmwareKnowsTheEscapeFromVersion13) {
     Rig rig(row.bench);
     rig.instrument().Unit(1).version = row.version;
     rig.Connect();
-    EXPECT_EQ(rig.k70.CZDrive.BodyFirmware(), row.firmware) << row.bench << row.version;
+    EXPECT_EQ(rig.units.CZDrive.BodyFirmware(), row.firmware) << row.bench << row.version;
     EXPECT_LE(rig.journal.CallCount(), 1U);
   }
 }
 
 TEST(FocusDrive, AVersionThatCannotBeReadSaysNothingAboutTheEscape) {
   Rig rig("Harbour");
-  EXPECT_EQ(rig.k70.CZDrive.BodyFirmware(), EscapeFirmware::Unknown);
+  EXPECT_EQ(rig.units.CZDrive.BodyFirmware(), EscapeFirmware::Unknown);
   rig.Connect();
   rig.faults.Add({"ControllerVersion"});
-  EXPECT_EQ(rig.k70.CZDrive.BodyFirmware(), EscapeFirmware::Unknown);
+  EXPECT_EQ(rig.units.CZDrive.BodyFirmware(), EscapeFirmware::Unknown);
 }
 
 TEST(FocusDrive, ACondenserOrItsSensorTakesTheLowerLimitAway) {
@@ -222,13 +222,13 @@ TEST(FocusDrive, ACondenserOrItsSensorTakesTheLowerLimitAway) {
     Fit(rig.instrument(), accessory::kCondenser, mounted);
     rig.instrument().condensers = {{1, 1}};
     rig.ConnectAndReceive();
-    EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "1 -1 10") << mounted;
-    EXPECT_NE(FileTextOf(rig.k70.CZDrive).find(R"(<DownLimitation CODE="Unknown"/>)"),
+    EXPECT_EQ(ValuesOf(rig.units.CZDrive), "1 -1 10") << mounted;
+    EXPECT_NE(FileTextOf(rig.units.CZDrive).find(R"(<DownLimitation CODE="Unknown"/>)"),
               std::string::npos);
-    rig.k70.CZDrive.curLowerLimit = 0;
+    rig.units.CZDrive.curLowerLimit = 0;
     rig.journal.Clear();
-    EXPECT_EQ(Differences(rig.k70.CZDrive), "");
-    EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+    EXPECT_EQ(Differences(rig.units.CZDrive), "");
+    EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
     for (const std::string& line : rig.journal.Lines()) {
       EXPECT_EQ(line.find("LowerLimit"), std::string::npos) << line;
     }
@@ -239,20 +239,20 @@ TEST(FocusDrive, AReadThatFailsGivesItsNumberInDecimal) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"ZDriveDevice.FocusCompensation"});
-  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "Control Focus Drive (LIB:-2147467259)");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "-1 -1 22");
+  EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "Control Focus Drive (LIB:-2147467259)");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "-1 -1 22");
 }
 
 TEST(FocusDrive, AReadThatFailsKeepsWhatItReadBeforeAndLeavesTheEscapeUnknown) {
   Rig rig("Lantern");
   rig.ConnectAndReceive();
   rig.faults.Add({"ControllerSettings.EscapeMode", 0, "COM", 55});
-  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "Control Focus Drive (COM:55)");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "1 1 22");
-  SetEscape(rig.k70.CZDrive, 1, 0);
+  EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "Control Focus Drive (COM:55)");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "1 1 22");
+  SetEscape(rig.units.CZDrive, 1, 0);
   rig.faults.Add({"ZDriveDevice.LowerLimit"});
-  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "Control Focus Drive (LIB:-2147467259)");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "1 -1 22");
+  EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "Control Focus Drive (LIB:-2147467259)");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "1 -1 22");
 }
 
 TEST(FocusDrive, AfterAReadThatFailedAtAnyCallNoEscapeModeIsWritten) {
@@ -261,12 +261,12 @@ TEST(FocusDrive, AfterAReadThatFailedAtAnyCallNoEscapeModeIsWritten) {
     rig->Connect();
     return rig;
   };
-  const auto read = [](clsK70& k70) { return k70.CZDrive.ReadSdk(); };
+  const auto read = [](DriveUnits& units) { return units.CZDrive.ReadSdk(); };
   const std::size_t calls = FailEachCallOf(make, read, [&](Rig& rig, std::size_t k) {
-    EXPECT_NE(read(rig.k70), "") << k;
-    EXPECT_EQ(rig.k70.CZDrive.SetEscape(0), 2) << k;
-    EXPECT_EQ(rig.k70.CZDrive.SetEscape(1), 2) << k;
-    EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "") << k;
+    EXPECT_NE(read(rig.units), "") << k;
+    EXPECT_EQ(rig.units.CZDrive.SetEscape(0), 2) << k;
+    EXPECT_EQ(rig.units.CZDrive.SetEscape(1), 2) << k;
+    EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "") << k;
     EXPECT_TRUE(rig.journal.Writes().empty()) << k;
   });
   EXPECT_EQ(calls, 6U);
@@ -274,16 +274,16 @@ TEST(FocusDrive, AfterAReadThatFailedAtAnyCallNoEscapeModeIsWritten) {
 
 TEST(FocusDrive, TheEscapeOfAMicroscopeIsNotSentToTheNextOneAfterAFailedRead) {
   Rig rig(List({"Quay", "Harbour", "Lantern"}));
-  ASSERT_TRUE(rig.k70.Connect(1));
-  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "3 -1 11");
-  rig.k70.Disconnect();
-  ASSERT_TRUE(rig.k70.Connect(2));
+  rig.units.Connect(1);
+  EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "3 -1 11");
+  rig.units.Disconnect();
+  rig.units.Connect(2);
   rig.faults.Add({"ControllerSettings.EscapeMode"});
-  EXPECT_NE(rig.k70.CZDrive.ReadSdk(), "");
+  EXPECT_NE(rig.units.CZDrive.ReadSdk(), "");
   rig.faults.Clear();
   rig.journal.Clear();
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
@@ -291,11 +291,11 @@ TEST(FocusDrive, AnEscapeModeThatNobodyKnowsLeavesFlagsThatAreUnknown) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"ControllerSettings.EscapeMode"});
-  EXPECT_NE(rig.k70.CZDrive.ReadSdk(), "");
+  EXPECT_NE(rig.units.CZDrive.ReadSdk(), "");
   rig.faults.Clear();
   rig.instrument().escapeMode = 7;
-  EXPECT_EQ(rig.k70.CZDrive.ReadSdk(), "");
-  EXPECT_EQ(ValuesOf(rig.k70.CZDrive), "3 -1 22");
+  EXPECT_EQ(rig.units.CZDrive.ReadSdk(), "");
+  EXPECT_EQ(ValuesOf(rig.units.CZDrive), "3 -1 22");
 }
 
 TEST(FocusDrive, AComparisonThatFailsGivesItsNumberInHexadecimal) {
@@ -304,7 +304,7 @@ TEST(FocusDrive, AComparisonThatFailsGivesItsNumberInHexadecimal) {
     rig.ConnectAndReceive();
     rig.faults.Add({call});
     std::string list;
-    EXPECT_EQ(rig.k70.CZDrive.ModifySdk(list), "Control Focus Drive (LIB:80004005)") << call;
+    EXPECT_EQ(rig.units.CZDrive.ModifySdk(list), "Control Focus Drive (LIB:80004005)") << call;
     EXPECT_EQ(list, "") << call;
   }
 }
@@ -312,21 +312,21 @@ TEST(FocusDrive, AComparisonThatFailsGivesItsNumberInHexadecimal) {
 TEST(FocusDrive, ALineFoundBeforeAFailureStays) {
   Rig rig("Lantern");
   rig.ConnectAndReceive();
-  rig.k70.CZDrive.curLowerLimit = 0;
-  SetEscape(rig.k70.CZDrive, 0, 0);
+  rig.units.CZDrive.curLowerLimit = 0;
+  SetEscape(rig.units.CZDrive, 0, 0);
   rig.faults.Add({"ControllerSettings.EscapeMode"});
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.CZDrive.ModifySdk(list), "Control Focus Drive (LIB:80004005)");
+  EXPECT_EQ(rig.units.CZDrive.ModifySdk(list), "Control Focus Drive (LIB:80004005)");
   EXPECT_EQ(list, "Before\r\nControl FocusDrive[DownLimitation]");
 }
 
 TEST(FocusDrive, TheCompensationIsWrittenButNotCompared) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.CZDrive.curFocusCompensation = 1;
-  EXPECT_EQ(Differences(rig.k70.CZDrive), "");
+  rig.units.CZDrive.curFocusCompensation = 1;
+  EXPECT_EQ(Differences(rig.units.CZDrive), "");
   EXPECT_EQ(rig.journal.Lines(), Lines{"ControllerSettings.EscapeMode -> 3"});
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
   EXPECT_EQ(rig.instrument().zDrive.focusCompensation, 1);
 }
 
@@ -355,8 +355,9 @@ TEST(FocusDrive, AnEscapeThatDiffersIsListedAsItWouldBe) {
     Rig rig("Harbour");
     rig.instrument().escapeMode = row.mode;
     rig.Connect();
-    SetEscape(rig.k70.CZDrive, row.focus, row.stage);
-    EXPECT_EQ(Differences(rig.k70.CZDrive), row.line) << row.mode << ' ' << row.focus << row.stage;
+    SetEscape(rig.units.CZDrive, row.focus, row.stage);
+    EXPECT_EQ(Differences(rig.units.CZDrive), row.line)
+        << row.mode << ' ' << row.focus << row.stage;
   }
 }
 

@@ -15,17 +15,17 @@ struct LimitRig : Rig {
   explicit LimitRig(std::int32_t upper = 0) : Rig("Outpost") {
     instrument().zDrive.upperLimit = upper;
     ConnectAndReceive();
-    k70.CZDrive.curLowerLimit = 1;
+    units.CZDrive.curLowerLimit = 1;
   }
 };
 
 TEST(FocusDriveWrite, GoesOverItsThreeBlocksInOrder) {
   Rig rig("Lantern");
   rig.ConnectAndReceive();
-  rig.k70.CZDrive.curFocusCompensation = 2;
-  rig.k70.CZDrive.curLowerLimit = 0;
-  rig.k70.CZDrive.SetEscape(1, 1);
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+  rig.units.CZDrive.curFocusCompensation = 2;
+  rig.units.CZDrive.curLowerLimit = 0;
+  rig.units.CZDrive.SetEscape(1, 1);
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"ZDriveDevice.FocusCompensation -> 1", "ZDriveDevice.FocusCompensation = 2",
                    "ZDriveDevice.LowerLimit -> 1", "ZDriveDevice.LowerLimit = 0",
@@ -36,7 +36,7 @@ TEST(FocusDriveWrite, GoesOverItsThreeBlocksInOrder) {
 TEST(FocusDriveWrite, WritesTheEscapeModeAlsoWhenNothingDiffers) {
   Rig rig("Lantern");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"ZDriveDevice.FocusCompensation -> 1", "ZDriveDevice.LowerLimit -> 1",
                    "ControllerSettings.EscapeMode = 1"}));
@@ -45,10 +45,10 @@ TEST(FocusDriveWrite, WritesTheEscapeModeAlsoWhenNothingDiffers) {
 TEST(FocusDriveWrite, NeitherAsksForNorWritesWhatIsUnknown) {
   Rig rig("Lantern");
   rig.ConnectAndReceive();
-  rig.k70.CZDrive.curFocusCompensation = rig.k70.CZDrive.curLowerLimit = -1;
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+  rig.units.CZDrive.curFocusCompensation = rig.units.CZDrive.curLowerLimit = -1;
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(), Lines{"ControllerSettings.EscapeMode = 1"});
-  EXPECT_EQ(Differences(rig.k70.CZDrive), "");
+  EXPECT_EQ(Differences(rig.units.CZDrive), "");
 }
 
 struct FlagsRow {
@@ -66,9 +66,9 @@ TEST(FocusDriveWrite, FlagsAreAModeUnlessOneOfThemIsUnknown) {
                               FlagsRow{0, 2, {}}, FlagsRow{1, 2, {}}, FlagsRow{-1, 0, {}}}) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    rig.k70.CZDrive.SetEscape(0, row.focus);
-    rig.k70.CZDrive.SetEscape(1, row.stage);
-    EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+    rig.units.CZDrive.SetEscape(0, row.focus);
+    rig.units.CZDrive.SetEscape(1, row.stage);
+    EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
     EXPECT_EQ(rig.journal.Writes(), row.writes) << row.focus << row.stage;
   }
 }
@@ -76,29 +76,29 @@ TEST(FocusDriveWrite, FlagsAreAModeUnlessOneOfThemIsUnknown) {
 TEST(FocusDriveWrite, ALowerLimitAboveTheUpperOneIsShownAndStays) {
   LimitRig rig;
   rig.prompts.ExpectBox(kWarning, 48);
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
   EXPECT_EQ(rig.instrument().zDrive.lowerLimit, 1);
 }
 
 TEST(FocusDriveWrite, ALowerLimitThatWasNotWrittenIsNotShown) {
   Rig rig("Lantern");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), "");
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), "");
   EXPECT_EQ(rig.instrument().zDrive.lowerLimit, 1);
   EXPECT_EQ(rig.instrument().zDrive.upperLimit, 0);
 }
 
 TEST(FocusDriveWrite, ALowerLimitNotAboveTheUpperOneIsNotShown) {
   LimitRig same(1);
-  EXPECT_EQ(same.k70.CZDrive.WriteSdk(), "");
+  EXPECT_EQ(same.units.CZDrive.WriteSdk(), "");
   LimitRig below(2);
-  EXPECT_EQ(below.k70.CZDrive.WriteSdk(), "");
+  EXPECT_EQ(below.units.CZDrive.WriteSdk(), "");
 }
 
 TEST(FocusDriveWrite, ALowerLimitThatCannotBeReadIsNotWritten) {
   LimitRig rig;
   rig.faults.Add({"get ZDriveDevice.LowerLimit", 1});
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), kLimitLine);
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), kLimitLine);
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"ZDriveDevice.FocusCompensation -> 1", "ZDriveDevice.LowerLimit ! LIB:80004005",
                    "ControllerSettings.EscapeMode = 0"}));
@@ -110,7 +110,7 @@ TEST(FocusDriveWrite, AfterAWriteThatFailedTheLimitsAreStillCompared) {
   rig.instrument().zDrive.upperLimit = -1;
   rig.faults.Add({"put ZDriveDevice.LowerLimit"});
   rig.prompts.ExpectBox(kWarning, 48);
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), kLimitLine);
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), kLimitLine);
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"ZDriveDevice.FocusCompensation -> 1", "ZDriveDevice.LowerLimit -> 0",
                    "ZDriveDevice.LowerLimit = 1 ! LIB:80004005", "ZDriveDevice.LowerLimit -> 0",
@@ -120,24 +120,24 @@ TEST(FocusDriveWrite, AfterAWriteThatFailedTheLimitsAreStillCompared) {
 TEST(FocusDriveWrite, LimitsThatCannotBeReadBackAreALineAndNoBox) {
   LimitRig lower;
   lower.faults.Add({"get ZDriveDevice.LowerLimit", 2});
-  EXPECT_EQ(lower.k70.CZDrive.WriteSdk(), kLimitLine);
+  EXPECT_EQ(lower.units.CZDrive.WriteSdk(), kLimitLine);
   EXPECT_EQ(lower.instrument().zDrive.lowerLimit, 1);
   EXPECT_EQ(lower.journal.Lines()[4], "ZDriveDevice.UpperLimit -> 0");
   LimitRig upper;
   upper.faults.Add({"get ZDriveDevice.UpperLimit"});
-  EXPECT_EQ(upper.k70.CZDrive.WriteSdk(), kLimitLine);
+  EXPECT_EQ(upper.units.CZDrive.WriteSdk(), kLimitLine);
   EXPECT_EQ(upper.instrument().zDrive.lowerLimit, 1);
 }
 
 TEST(FocusDriveWrite, EachBlockThatFailsIsItsLineAndTheNextOnesGoOn) {
   LimitRig rig;
-  rig.k70.CZDrive.curFocusCompensation = 3;
+  rig.units.CZDrive.curFocusCompensation = 3;
   rig.prompts.AcceptAnyBox();
   for (const char* call : {"put ZDriveDevice.FocusCompensation", "put ZDriveDevice.LowerLimit",
                            "put ControllerSettings.EscapeMode"}) {
     rig.faults.Add({call});
   }
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(),
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(),
             std::string(kCompensationLine) + "\r\n" + kLimitLine + "\r\n" + kEscapeLine);
   EXPECT_TRUE(rig.prompts.Boxes().empty()) << "the old limits agree";
 }
@@ -145,9 +145,9 @@ TEST(FocusDriveWrite, EachBlockThatFailsIsItsLineAndTheNextOnesGoOn) {
 TEST(FocusDriveWrite, ACompensationThatCannotBeReadIsNotWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.CZDrive.curFocusCompensation = 1;
+  rig.units.CZDrive.curFocusCompensation = 1;
   rig.faults.Add({"get ZDriveDevice.FocusCompensation"});
-  EXPECT_EQ(rig.k70.CZDrive.WriteSdk(), kCompensationLine);
+  EXPECT_EQ(rig.units.CZDrive.WriteSdk(), kCompensationLine);
   EXPECT_EQ(rig.journal.Writes(), Lines{"ControllerSettings.EscapeMode = 3"});
 }
 
@@ -157,12 +157,12 @@ TEST(FocusDriveWrite, EachCallThatFailsIsTheLineOfItsBlock) {
   Lines lines;
   const auto make = [] {
     auto rig = std::make_unique<LimitRig>();
-    rig->k70.CZDrive.curFocusCompensation = 3;
+    rig->units.CZDrive.curFocusCompensation = 3;
     rig->prompts.AcceptAnyBox();
     return rig;
   };
-  const auto write = [](clsK70& k70) { return k70.CZDrive.WriteSdk(); };
-  FailEachCallOf(make, write, [&](Rig& rig, std::size_t) { lines.push_back(write(rig.k70)); });
+  const auto write = [](DriveUnits& units) { return units.CZDrive.WriteSdk(); };
+  FailEachCallOf(make, write, [&](Rig& rig, std::size_t) { lines.push_back(write(rig.units)); });
   Lines expected(3, kCompensationLine);
   expected.insert(expected.end(), 8, kLimitLine);
   expected.insert(expected.end(), 2, kEscapeLine);

@@ -10,8 +10,8 @@ inline constexpr const char* kFailed = " ! LIB:80004005";
 
 struct MotionRig : Rig {
   explicit MotionRig(std::string_view bench = "Harbour") : Rig(bench) { Connect(); }
-  clsControlZDrive& z() { return k70.CZDrive; }
-  clsControlXYDrive& xy() { return k70.CXYDrive; }
+  clsControlZDrive& z() { return units.CZDrive; }
+  clsControlXYDrive& xy() { return units.CXYDrive; }
 };
 
 // Z at 400, X at -50, Y at 60, the nosepiece at address 3.

@@ -36,11 +36,11 @@ struct WatchRig : MotionRig {
 TEST(MoveScope, SetsTheFlagAsLongAsOneOfThemLives) {
   WatchRig rig;
   {
-    const MoveScope outer(rig.moving, rig.k70);
+    const MoveScope outer(rig.moving, rig.units);
     EXPECT_TRUE(*rig.moving);
     {
       // Its end leaves the flag to the outer one.
-      const MoveScope inner(rig.moving, rig.k70);
+      const MoveScope inner(rig.moving, rig.units);
     }
     EXPECT_TRUE(*rig.moving);
   }
@@ -49,7 +49,7 @@ TEST(MoveScope, SetsTheFlagAsLongAsOneOfThemLives) {
 
 TEST(MoveScope, IsLostWithItsPage) {
   WatchRig rig;
-  const MoveScope scope(rig.moving, rig.k70);
+  const MoveScope scope(rig.moving, rig.units);
   EXPECT_FALSE(scope.IsLost());
   rig.moving.reset();
   EXPECT_TRUE(scope.IsLost());
@@ -57,17 +57,17 @@ TEST(MoveScope, IsLostWithItsPage) {
 
 TEST(MoveScope, IsLostWithItsConnection) {
   WatchRig rig;
-  const MoveScope scope(rig.moving, rig.k70);
-  rig.k70.Disconnect();
+  const MoveScope scope(rig.moving, rig.units);
+  rig.units.Disconnect();
   EXPECT_TRUE(scope.IsLost());
-  ASSERT_TRUE(rig.k70.Connect(0));
+  rig.units.Connect(0);
   EXPECT_TRUE(scope.IsLost());
 }
 
 TEST(WatchMove, AnAnswerStopsAndAsksNothing) {
   for (const Answer answer : {Answer::Ok, Answer::Cancel}) {
     WatchRig rig;
-    const MoveScope scope(rig.moving, rig.k70);
+    const MoveScope scope(rig.moving, rig.units);
     rig.ExpectWatch(1000, answer);
     WatchMove(scope, rig.prompts, rig.Move(0, {}, {}));
     EXPECT_EQ(rig.asked, Lines{"stop"});
@@ -84,7 +84,7 @@ TEST(WatchMove, AsksForTheTargetThenForTheEndAndGoesOnIfBothAreNot) {
   for (const RoundRow& row : {RoundRow{true, true, false}, RoundRow{true, false, false},
                               RoundRow{false, true, false}, RoundRow{false, false, true}}) {
     WatchRig rig;
-    const MoveScope scope(rig.moving, rig.k70);
+    const MoveScope scope(rig.moving, rig.units);
     rig.ExpectWatch(1000, Answer::TimedOut);
     if (row.again) rig.ExpectWatch(1000, Answer::Ok);
     WatchMove(scope, rig.prompts, rig.Move(0, {row.atTarget}, {row.ended}));
@@ -105,7 +105,7 @@ TEST(WatchMove, ItsTimeIsAMillisecondForEachMicrometreAndASecond) {
        {TimeRow{0, 1000}, TimeRow{9, 1000}, TimeRow{10, 1000}, TimeRow{11, 1001}, TimeRow{20, 1001},
         TimeRow{30, 1002}, TimeRow{4294967295, 214749365}, TimeRow{8589934590, 429497730}}) {
     WatchRig rig;
-    const MoveScope scope(rig.moving, rig.k70);
+    const MoveScope scope(rig.moving, rig.units);
     rig.ExpectWatch(row.milliseconds, Answer::Ok);
     WatchMove(scope, rig.prompts, rig.Move(row.distance, {}, {}));
   }
@@ -115,7 +115,7 @@ TEST(WatchMove, AsksNothingMoreOfAMoveThatIsLost) {
   for (std::size_t loseAfter = 1; loseAfter <= 4; ++loseAfter) {
     WatchRig rig;
     rig.loseAfter = loseAfter;
-    const MoveScope scope(rig.moving, rig.k70);
+    const MoveScope scope(rig.moving, rig.units);
     rig.ExpectWatch(1000, Answer::TimedOut);
     if (loseAfter > 2) rig.ExpectWatch(1000, Answer::TimedOut);
     WatchMove(scope, rig.prompts, rig.Move(0, {false, false}, {false, false}));
@@ -125,7 +125,7 @@ TEST(WatchMove, AsksNothingMoreOfAMoveThatIsLost) {
 
 TEST(WatchMove, ShowsNoBoxForAMoveThatWasLostBefore) {
   WatchRig rig;
-  const MoveScope scope(rig.moving, rig.k70);
+  const MoveScope scope(rig.moving, rig.units);
   rig.moving.reset();
   WatchMove(scope, rig.prompts, rig.Move(0, {}, {}));
   EXPECT_TRUE(rig.asked.empty());

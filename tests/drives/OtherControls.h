@@ -22,11 +22,11 @@ inline std::string ValuesOf(const clsControlOther& other) {
 
 inline constexpr const char* kAllUnknown = "-1 -1 -1 -1 -1 -1 -1 -1 -1";
 
-// Harbour without its accessories, with these controller units (0 to 6) answering.
+// Harbour without its accessories, with these controllers (0 to 6) answering.
 struct UnitsRig : Rig {
-  explicit UnitsRig(std::initializer_list<int> units, bool drives = false) : Rig("Harbour") {
+  explicit UnitsRig(std::initializer_list<int> controllers, bool drives = false) : Rig("Harbour") {
     for (int number = 1; number <= 7; ++number) instrument().Unit(number) = {};
-    for (const int unit : units) instrument().Unit(unit + 1) = {1, "V1.30"};
+    for (const int unit : controllers) instrument().Unit(unit + 1) = {1, "V1.30"};
     if (!drives) {
       for (int number = 1; number <= accessory::kCount; ++number) {
         Fit(instrument(), number, kNotMounted);

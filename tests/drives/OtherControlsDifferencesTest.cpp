@@ -7,7 +7,7 @@ namespace {
 // Every unit but the third and fourth and both drives, all of it changed.
 std::unique_ptr<Rig> MakeChangedRig() {
   auto rig = std::make_unique<UnitsRig>(std::initializer_list<int>{0, 1, 4, 5, 6}, true);
-  clsControlOther& other = rig->k70.COther;
+  clsControlOther& other = rig->units.COther;
   other.curAutoZ = other.curAutoXY = 1;
   other.curBuzzer = 1;
   other.curSwEnable = other.curTactorSwEnable = 0;
@@ -16,27 +16,27 @@ std::unique_ptr<Rig> MakeChangedRig() {
 }
 
 TEST(OtherControlsDifferences, AreListedInOrder) {
-  EXPECT_EQ(Differences(MakeChangedRig()->k70.COther),
+  EXPECT_EQ(Differences(MakeChangedRig()->units.COther),
             "Control Other[FocusDrive Auto]\r\nControl Other[XYStage Auto]\r\n"
             "Control Other[Buzzer]\r\nControl Other[Switch]\r\nControl Other[Tactor Switch]\r\n"
             "Control Other[B_KM_R Switch]\r\nControl Other[B_KM_R SwitchLED]");
 }
 
 TEST(OtherControlsDifferences, EachCallOfAReadOrComparisonThatFailsIsTheUnitsLine) {
-  const auto read = [](clsK70& k70) { return k70.COther.ReadSdk(); };
+  const auto read = [](DriveUnits& units) { return units.COther.ReadSdk(); };
   EXPECT_EQ(FailEachCallOf(MakeChangedRig, read,
                            [&](Rig& rig, std::size_t k) {
-                             EXPECT_EQ(read(rig.k70), "Control Other (LIB:80004005)") << k;
-                             EXPECT_EQ(rig.k70.COther.curBuzzer, -1) << k;
+                             EXPECT_EQ(read(rig.units), "Control Other (LIB:80004005)") << k;
+                             EXPECT_EQ(rig.units.COther.curBuzzer, -1) << k;
                            }),
             16U);
-  const auto modify = [](clsK70& k70) {
+  const auto modify = [](DriveUnits& units) {
     std::string list;
-    return k70.COther.ModifySdk(list);
+    return units.COther.ModifySdk(list);
   };
   EXPECT_EQ(FailEachCallOf(MakeChangedRig, modify,
                            [&](Rig& rig, std::size_t k) {
-                             EXPECT_EQ(modify(rig.k70), "Control Other (LIB:80004005)") << k;
+                             EXPECT_EQ(modify(rig.units), "Control Other (LIB:80004005)") << k;
                            }),
             8U);
 }
@@ -45,7 +45,7 @@ TEST(OtherControlsDifferences, WhatIsUnknownIsNeitherAskedForNorListed) {
   for (const char* bench : {"Quay", "DeckRemote", "Harbour"}) {
     Rig rig(bench);
     rig.ConnectAndReceive();
-    clsControlOther other(rig.k70);
+    clsControlOther other(rig.units);
     EXPECT_EQ(Differences(other), "") << bench;
     EXPECT_EQ(rig.journal.CallCount(), 0U) << bench;
   }
@@ -54,8 +54,8 @@ TEST(OtherControlsDifferences, WhatIsUnknownIsNeitherAskedForNorListed) {
 TEST(OtherControlsDifferences, ABuzzerThatIsUnknownIsNotListed) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.COther.curBuzzer = -1;
-  EXPECT_EQ(Differences(rig.k70.COther), "");
+  rig.units.COther.curBuzzer = -1;
+  EXPECT_EQ(Differences(rig.units.COther), "");
 }
 
 TEST(OtherControlsDifferences, ABuzzerThatWasNeverReadIsNotListed) {
@@ -63,21 +63,21 @@ TEST(OtherControlsDifferences, ABuzzerThatWasNeverReadIsNotListed) {
   rig.ConnectAndReceive();
   rig.instrument().Unit(1) = {1, "V1.30"};
   rig.Connect();
-  rig.k70.COther.curBuzzer = 1;
-  EXPECT_EQ(Differences(rig.k70.COther), "");
+  rig.units.COther.curBuzzer = 1;
+  EXPECT_EQ(Differences(rig.units.COther), "");
 }
 
 TEST(OtherControlsDifferences, TheBuzzerIsComparedWithTheLastReadAndNotAskedFor) {
   Rig rig("Deck");
   rig.ConnectAndReceive();
-  rig.k70.COther.curBuzzer = 1;
-  EXPECT_EQ(Differences(rig.k70.COther), "Control Other[Buzzer]");
+  rig.units.COther.curBuzzer = 1;
+  EXPECT_EQ(Differences(rig.units.COther), "Control Other[Buzzer]");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
   rig.instrument().buzzers.unit5 = 0;
-  EXPECT_EQ(Differences(rig.k70.COther), "Control Other[Buzzer]");
-  EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.COther.curBuzzer, 1);
-  EXPECT_EQ(Differences(rig.k70.COther), "");
+  EXPECT_EQ(Differences(rig.units.COther), "Control Other[Buzzer]");
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+  EXPECT_EQ(rig.units.COther.curBuzzer, 1);
+  EXPECT_EQ(Differences(rig.units.COther), "");
 }
 
 // What the read before it found is still what a change is measured by.
@@ -85,13 +85,13 @@ TEST(OtherControlsDifferences, AReadThatFailsLeavesTheBuzzerToCompareWith) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"SwitchEnabled(4, 0)", 1});
-  EXPECT_EQ(rig.k70.COther.ReadSdk(), "Control Other (LIB:80004005)");
-  EXPECT_EQ(rig.k70.COther.curBuzzer, -1);
-  EXPECT_EQ(Differences(rig.k70.COther), "");
-  rig.k70.COther.curBuzzer = 0;
-  EXPECT_EQ(Differences(rig.k70.COther), "");
-  rig.k70.COther.curBuzzer = 1;
-  EXPECT_EQ(Differences(rig.k70.COther), "Control Other[Buzzer]");
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "Control Other (LIB:80004005)");
+  EXPECT_EQ(rig.units.COther.curBuzzer, -1);
+  EXPECT_EQ(Differences(rig.units.COther), "");
+  rig.units.COther.curBuzzer = 0;
+  EXPECT_EQ(Differences(rig.units.COther), "");
+  rig.units.COther.curBuzzer = 1;
+  EXPECT_EQ(Differences(rig.units.COther), "Control Other[Buzzer]");
 }
 
 struct GateRow {
@@ -107,9 +107,9 @@ TEST(OtherControlsDifferences, ABuzzerThatDiffersIsListedForFourControllers) {
     rig.instrument().Unit(1) = {};
     rig.instrument().Unit(row.unit + 1) = {1, "V1.30"};
     rig.Connect();
-    rig.k70.COther.curBuzzer = rig.k70.COther.curBuzzer == 0 ? 1 : 0;
-    rig.k70.COther.curSwEnable = -1;
-    EXPECT_EQ(Differences(rig.k70.COther), row.listed ? "Control Other[Buzzer]" : "") << row.unit;
+    rig.units.COther.curBuzzer = rig.units.COther.curBuzzer == 0 ? 1 : 0;
+    rig.units.COther.curSwEnable = -1;
+    EXPECT_EQ(Differences(rig.units.COther), row.listed ? "Control Other[Buzzer]" : "") << row.unit;
   }
 }
 
@@ -126,8 +126,8 @@ TEST(OtherControlsDifferences, AnLedThatDiffersIsListedWhereItIsOffDarkOrBright)
     Rig rig("DeckRemote");
     rig.instrument().switches.remoteLed = row.held;
     rig.ConnectAndReceive();
-    rig.k70.COther.curR_TLPOLED = row.value;
-    EXPECT_EQ(Differences(rig.k70.COther), row.listed ? "Control Other[B_KM_R SwitchLED]" : "")
+    rig.units.COther.curR_TLPOLED = row.value;
+    EXPECT_EQ(Differences(rig.units.COther), row.listed ? "Control Other[B_KM_R SwitchLED]" : "")
         << row.held << row.value;
     EXPECT_EQ(rig.journal.Lines().back(), "RemoteLED(7) -> " + std::to_string(row.held));
   }
@@ -136,9 +136,9 @@ TEST(OtherControlsDifferences, AnLedThatDiffersIsListedWhereItIsOffDarkOrBright)
 TEST(OtherControlsDifferences, NeitherSensitivityIsComparedOrWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.COther.curSensitivityZ = rig.k70.COther.curSensitivityXY = 3;
-  EXPECT_EQ(Differences(rig.k70.COther), "");
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
+  rig.units.COther.curSensitivityZ = rig.units.COther.curSensitivityXY = 3;
+  EXPECT_EQ(Differences(rig.units.COther), "");
+  EXPECT_EQ(rig.units.COther.WriteSdk(), "");
   for (const std::string& line : rig.journal.Lines()) {
     EXPECT_EQ(line.find("Sensitivity"), std::string::npos) << line;
   }
@@ -147,12 +147,12 @@ TEST(OtherControlsDifferences, NeitherSensitivityIsComparedOrWritten) {
 TEST(OtherControlsDifferences, ALineFoundBeforeAFailureStays) {
   Rig rig("Quay");
   rig.ConnectAndReceive();
-  rig.k70.COther.curAutoZ = 0;
-  rig.k70.COther.curBuzzer = 1;
-  rig.k70.COther.curSwEnable = 0;
+  rig.units.COther.curAutoZ = 0;
+  rig.units.COther.curBuzzer = 1;
+  rig.units.COther.curSwEnable = 0;
   rig.faults.Add({"SwitchEnabled(0, 0)"});
   std::string list;
-  EXPECT_EQ(rig.k70.COther.ModifySdk(list), "Control Other (LIB:80004005)");
+  EXPECT_EQ(rig.units.COther.ModifySdk(list), "Control Other (LIB:80004005)");
   EXPECT_EQ(list, "Control Other[FocusDrive Auto]\r\nControl Other[Buzzer]");
 }
 

@@ -6,11 +6,11 @@ namespace {
 
 TEST(OtherControls, AreUnknownBeforeTheFirstRead) {
   Rig rig("Harbour");
-  EXPECT_EQ(ValuesOf(rig.k70.COther), kAllUnknown);
-  EXPECT_EQ(rig.k70.COther.curFiberSwEnable, -1);
-  EXPECT_EQ(rig.k70.COther.curFiberLED, -1);
-  EXPECT_FALSE(rig.k70.COther.curFiberStatus);
-  EXPECT_FALSE(rig.k70.COther.IsEnable());
+  EXPECT_EQ(ValuesOf(rig.units.COther), kAllUnknown);
+  EXPECT_EQ(rig.units.COther.curFiberSwEnable, -1);
+  EXPECT_EQ(rig.units.COther.curFiberLED, -1);
+  EXPECT_FALSE(rig.units.COther.curFiberStatus);
+  EXPECT_FALSE(rig.units.COther.IsEnable());
 }
 
 struct BenchRow {
@@ -35,16 +35,16 @@ TEST(OtherControls, AreReadFromEachInstrument) {
         BenchRow{"Attic", "0 0 1 1 1 0 0 -1 -1", true}}) {
     Rig rig(row.bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
-    EXPECT_EQ(ValuesOf(rig.k70.COther), row.values) << row.bench;
-    EXPECT_EQ(rig.k70.COther.IsEnable(), row.enabled) << row.bench;
+    EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+    EXPECT_EQ(ValuesOf(rig.units.COther), row.values) << row.bench;
+    EXPECT_EQ(rig.units.COther.IsEnable(), row.enabled) << row.bench;
   }
 }
 
 TEST(OtherControls, AreAskedForInOrder) {
   Rig quay("Quay");
   quay.Connect();
-  EXPECT_EQ(quay.k70.COther.ReadSdk(), "");
+  EXPECT_EQ(quay.units.COther.ReadSdk(), "");
   EXPECT_EQ(
       quay.journal.Lines(),
       (Lines{"ZDriveDevice.KnobAuto -> 1", "XYDriveDevice.KnobAuto -> 0",
@@ -52,7 +52,7 @@ TEST(OtherControls, AreAskedForInOrder) {
              "BuzzerEnabled(5) -> 1", "SwitchEnabled(0, 0) -> 1", "SwitchEnabled(4, 0) -> 1"}));
   Rig deck("DeckRemote");
   deck.Connect();
-  EXPECT_EQ(deck.k70.COther.ReadSdk(), "");
+  EXPECT_EQ(deck.units.COther.ReadSdk(), "");
   EXPECT_EQ(deck.journal.Lines(),
             (Lines{"BuzzerEnabled(6) -> 1", "SwitchEnabled(7, 0) -> 1", "RemoteLED(7) -> 2"}));
 }
@@ -63,10 +63,10 @@ TEST(OtherControls, AnAutomaticKnobIsNotAskedForItsSensitivity) {
     rig.instrument().zDrive.knobAuto = rig.instrument().xyDrive.knobAuto = automatic;
     rig.instrument().zDrive.knobSensitivity = rig.instrument().xyDrive.knobSensitivity = 3;
     rig.ConnectAndReceive();
-    EXPECT_EQ(rig.k70.COther.curAutoZ, automatic);
-    EXPECT_EQ(rig.k70.COther.curSensitivityZ, -1);
-    EXPECT_EQ(rig.k70.COther.curSensitivityXY, -1);
-    rig.k70.COther.ReadSdk();
+    EXPECT_EQ(rig.units.COther.curAutoZ, automatic);
+    EXPECT_EQ(rig.units.COther.curSensitivityZ, -1);
+    EXPECT_EQ(rig.units.COther.curSensitivityXY, -1);
+    rig.units.COther.ReadSdk();
     for (const std::string& line : rig.journal.Lines()) {
       EXPECT_EQ(line.find("Sensitivity"), std::string::npos) << line;
     }
@@ -75,14 +75,15 @@ TEST(OtherControls, AnAutomaticKnobIsNotAskedForItsSensitivity) {
 
 TEST(OtherControls, ASystemWithoutControllersAndDrivesReadsReportsAndWritesNothing) {
   UnitsRig rig({});
-  rig.k70.COther.curAutoZ = rig.k70.COther.curAutoXY = 1;
-  rig.k70.COther.curBuzzer = rig.k70.COther.curSwEnable = rig.k70.COther.curTactorSwEnable = 0;
-  rig.k70.COther.curR_TLPOSwEnable = rig.k70.COther.curR_TLPOLED = 1;
-  EXPECT_EQ(Differences(rig.k70.COther), "");
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
-  EXPECT_FALSE(rig.k70.COther.IsEnable());
-  EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
-  EXPECT_EQ(ValuesOf(rig.k70.COther), kAllUnknown);
+  rig.units.COther.curAutoZ = rig.units.COther.curAutoXY = 1;
+  rig.units.COther.curBuzzer = rig.units.COther.curSwEnable = rig.units.COther.curTactorSwEnable =
+      0;
+  rig.units.COther.curR_TLPOSwEnable = rig.units.COther.curR_TLPOLED = 1;
+  EXPECT_EQ(Differences(rig.units.COther), "");
+  EXPECT_EQ(rig.units.COther.WriteSdk(), "");
+  EXPECT_FALSE(rig.units.COther.IsEnable());
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+  EXPECT_EQ(ValuesOf(rig.units.COther), kAllUnknown);
   EXPECT_EQ(rig.journal.CallCount(), 0U);
 }
 
@@ -90,13 +91,13 @@ TEST(OtherControls, ASystemWithoutControllersAndDrivesReadsReportsAndWritesNothi
 TEST(OtherControls, AReadLeavesTheFiberIlluminator) {
   Rig rig("Quay");
   rig.ConnectAndReceive();
-  rig.k70.COther.curFiberSwEnable = 1;
-  rig.k70.COther.curFiberLED = 2;
-  rig.k70.COther.curFiberStatus = true;
-  EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.COther.curFiberSwEnable, 1);
-  EXPECT_EQ(rig.k70.COther.curFiberLED, 2);
-  EXPECT_TRUE(rig.k70.COther.curFiberStatus);
+  rig.units.COther.curFiberSwEnable = 1;
+  rig.units.COther.curFiberLED = 2;
+  rig.units.COther.curFiberStatus = true;
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+  EXPECT_EQ(rig.units.COther.curFiberSwEnable, 1);
+  EXPECT_EQ(rig.units.COther.curFiberLED, 2);
+  EXPECT_TRUE(rig.units.COther.curFiberStatus);
 }
 
 struct BuzzerRow {
@@ -118,30 +119,30 @@ TEST(OtherControls, TheTypeOfTheMicroscopeDecidesWhoseBuzzerCounts) {
         BuzzerRow{2, 1, 1, -1}, BuzzerRow{2, 0, 0, -1},  BuzzerRow{0, 7, 1, -1}}) {
     UnitsRig rig({0, 1});
     rig.instrument().buzzers = {row.body, row.hub, 1, 1};
-    rig.k70.curType = row.type;
-    EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.COther.curBuzzer, row.buzzer) << row.type << ' ' << row.body << row.hub;
+    rig.units.curType = row.type;
+    EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+    EXPECT_EQ(rig.units.COther.curBuzzer, row.buzzer) << row.type << ' ' << row.body << row.hub;
   }
 }
 
 TEST(OtherControls, ControllerUnit5TakesTheHubsPlace) {
   UnitsRig rig({1, 5});
   rig.instrument().buzzers = {0, 1, 1, 0};
-  rig.k70.curType = 1;
-  EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.COther.curBuzzer, 1);
+  rig.units.curType = 1;
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+  EXPECT_EQ(rig.units.COther.curBuzzer, 1);
 }
 
 TEST(OtherControls, TheTypeOfAFormerDeviceHasNoBuzzerWhereNothingAnswers) {
   Rig rig(List({"Quay", "Pair", "Shell"}));
-  ASSERT_TRUE(rig.k70.Connect(1));
-  EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.COther.curBuzzer, 2);
-  ASSERT_TRUE(rig.k70.Connect(2));
-  EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.curType, 3);
-  EXPECT_EQ(ValuesOf(rig.k70.COther), kAllUnknown);
-  EXPECT_EQ(Differences(rig.k70.COther), "");
+  rig.units.Connect(1);
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+  EXPECT_EQ(rig.units.COther.curBuzzer, 2);
+  rig.units.Connect(2);
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+  EXPECT_EQ(rig.units.curType, 3);
+  EXPECT_EQ(ValuesOf(rig.units.COther), kAllUnknown);
+  EXPECT_EQ(Differences(rig.units.COther), "");
 }
 
 struct EnableRow {
@@ -187,7 +188,7 @@ TEST(OtherControls, AreEnabledByAnythingThatIsKnownOfAPartThatIsThere) {
     UnitsRig rig({});
     for (const int unit : row.units) rig.instrument().Unit(unit + 1) = {1, "V1.30"};
     rig.Connect();
-    clsControlOther other(rig.k70);
+    clsControlOther other(rig.units);
     row.set(other);
     EXPECT_EQ(other.IsEnable(), row.enabled) << row.what;
   }
@@ -211,7 +212,7 @@ TEST(OtherControls, AreEnabledByAKnobOfADriveThatCanBeCommanded) {
     UnitsRig rig({});
     Fit(rig.instrument(), row.accessory, row.mounted);
     rig.Connect();
-    clsControlOther other(rig.k70);
+    clsControlOther other(rig.units);
     other.*row.automatic = 0;
     EXPECT_EQ(other.IsEnable(), row.enabled) << row.accessory << ' ' << row.mounted;
   }
@@ -221,8 +222,8 @@ TEST(OtherControls, AReadThatFailsKeepsWhatWasReadBefore) {
   Rig rig("DeckRemote");
   rig.ConnectAndReceive();
   rig.faults.Add({"RemoteLED(7)"});
-  EXPECT_EQ(rig.k70.COther.ReadSdk(), "Control Other (LIB:80004005)");
-  EXPECT_EQ(ValuesOf(rig.k70.COther), "-1 -1 -1 -1 -1 -1 -1 1 -1");
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "Control Other (LIB:80004005)");
+  EXPECT_EQ(ValuesOf(rig.units.COther), "-1 -1 -1 -1 -1 -1 -1 1 -1");
 }
 
 }  // namespace

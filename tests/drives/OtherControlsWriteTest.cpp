@@ -7,7 +7,7 @@ namespace {
 // Every unit but the third and fourth, and both drives.
 struct FullRig : UnitsRig {
   FullRig() : UnitsRig({0, 1, 4, 5, 6}, true) {
-    clsControlOther& other = k70.COther;
+    clsControlOther& other = units.COther;
     other.curAutoZ = other.curAutoXY = 1;
     other.curBuzzer = 0;
     other.curSwEnable = other.curTactorSwEnable = 0;
@@ -29,7 +29,7 @@ std::string Joined(const Lines& lines) {
 
 TEST(OtherControlsWrite, GoesOverItsStepsInOrder) {
   FullRig rig;
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
+  EXPECT_EQ(rig.units.COther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"ZDriveDevice.KnobAuto -> 0", "ZDriveDevice.KnobAuto = 1",
                    "XYDriveDevice.KnobAuto -> 0", "XYDriveDevice.KnobAuto = 1", "BuzzerOn(1)",
@@ -45,7 +45,7 @@ TEST(OtherControlsWrite, EachStepThatFailsIsItsLineAndTheNextOnesGoOn) {
                            "DisableSwitch", "EnableSwitch", "put RemoteLED(7)"}) {
     rig.faults.Add({call});
   }
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), Joined(kAllLines));
+  EXPECT_EQ(rig.units.COther.WriteSdk(), Joined(kAllLines));
 }
 
 TEST(OtherControlsWrite, AValueThatCannotBeReadIsNotWritten) {
@@ -54,17 +54,17 @@ TEST(OtherControlsWrite, AValueThatCannotBeReadIsNotWritten) {
                            "SwitchEnabled", "get RemoteLED(7)"}) {
     rig.faults.Add({call});
   }
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), Joined({kAllLines[0], kAllLines[1], kAllLines[5],
-                                               kAllLines[6], kAllLines[8], kAllLines[9]}));
+  EXPECT_EQ(rig.units.COther.WriteSdk(), Joined({kAllLines[0], kAllLines[1], kAllLines[5],
+                                                 kAllLines[6], kAllLines[8], kAllLines[9]}));
   EXPECT_EQ(rig.journal.Writes(),
             (Lines{"BuzzerOn(1)", "BuzzerOn(2)", "BuzzerOn(5)", "BuzzerOn(2)"}));
 }
 
 TEST(OtherControlsWrite, EachCallThatFailsIsTheLineOfItsStep) {
   Lines lines;
-  const auto write = [](clsK70& k70) { return k70.COther.WriteSdk(); };
+  const auto write = [](DriveUnits& units) { return units.COther.WriteSdk(); };
   FailEachCallOf([] { return std::make_unique<FullRig>(); }, write,
-                 [&](Rig& rig, std::size_t) { lines.push_back(write(rig.k70)); });
+                 [&](Rig& rig, std::size_t) { lines.push_back(write(rig.units)); });
   Lines expected;
   // Device, read and device, write for a knob; one call for a buzzer; read and write for the rest.
   const std::vector<std::size_t> calls{4, 4, 1, 1, 1, 2, 2, 1, 2, 2};
@@ -76,7 +76,7 @@ TEST(OtherControlsWrite, EachCallThatFailsIsTheLineOfItsStep) {
 
 TEST(OtherControlsWrite, WhatIsUnknownIsNotWrittenAndOnlySwitchesAreAskedFor) {
   FullRig rig;
-  const clsControlOther other(rig.k70);
+  const clsControlOther other(rig.units);
   EXPECT_EQ(other.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(), (Lines{"SwitchEnabled(0, 0) -> 1", "SwitchEnabled(4, 0) -> 1",
                                         "SwitchEnabled(7, 0) -> 0"}));
@@ -84,7 +84,7 @@ TEST(OtherControlsWrite, WhatIsUnknownIsNotWrittenAndOnlySwitchesAreAskedFor) {
 
 TEST(OtherControlsWrite, SwitchesThatCannotBeAskedAreReportedAlsoWhenTheyAreUnknown) {
   FullRig rig;
-  const clsControlOther other(rig.k70);
+  const clsControlOther other(rig.units);
   rig.faults.Add({"SwitchEnabled"});
   EXPECT_EQ(other.WriteSdk(), Joined({kAllLines[5], kAllLines[6], kAllLines[8]}));
 }
@@ -106,7 +106,7 @@ TEST(OtherControlsWrite, BuzzersAreSwitchedByTheControllersThatAreThere) {
         BuzzerRow{{0, 6}, {"BuzzerOff(1)", "BuzzerOff(2)"}},
         BuzzerRow{{1, 6}, {"BuzzerOff(2)", "BuzzerOff(2)"}}}) {
     UnitsRig rig(row.units);
-    clsControlOther other(rig.k70);
+    clsControlOther other(rig.units);
     other.curBuzzer = 1;
     EXPECT_EQ(other.WriteSdk(), "");
     EXPECT_EQ(rig.journal.Writes(), row.calls) << testing::PrintToString(row.calls);
@@ -116,21 +116,21 @@ TEST(OtherControlsWrite, BuzzersAreSwitchedByTheControllersThatAreThere) {
 TEST(OtherControlsWrite, AnythingButZeroSwitchesTheBuzzersOff) {
   for (const std::int32_t buzzer : {1, 2, 3}) {
     UnitsRig rig({0, 6});
-    rig.k70.COther.curBuzzer = buzzer;
-    EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
+    rig.units.COther.curBuzzer = buzzer;
+    EXPECT_EQ(rig.units.COther.WriteSdk(), "");
     EXPECT_EQ(rig.journal.Writes(), (Lines{"BuzzerOff(1)", "BuzzerOff(2)"})) << buzzer;
   }
   UnitsRig rig({0, 6});
-  rig.k70.COther.curBuzzer = 0;
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
+  rig.units.COther.curBuzzer = 0;
+  EXPECT_EQ(rig.units.COther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), (Lines{"BuzzerOn(1)", "BuzzerOn(2)"}));
 }
 
 TEST(OtherControlsWrite, TwoControllersThatDisagreeAreBothSwitchedOff) {
   Rig rig("Pair");
   rig.ConnectAndReceive();
-  ASSERT_EQ(rig.k70.COther.curBuzzer, 2);
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
+  ASSERT_EQ(rig.units.COther.curBuzzer, 2);
+  EXPECT_EQ(rig.units.COther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), (Lines{"BuzzerOff(1)", "BuzzerOff(2)"}));
   EXPECT_EQ(rig.instrument().buzzers.body, 0);
   EXPECT_EQ(rig.instrument().buzzers.hub, 0);
@@ -140,9 +140,9 @@ TEST(OtherControlsWrite, SwitchesAreEnabledByOneAndDisabledByAnythingElse) {
   for (const std::int32_t enabled : {0, 1, 2}) {
     UnitsRig rig({0});
     rig.instrument().switches.body = enabled == 1 ? 0 : 1;
-    rig.k70.COther.curBuzzer = -1;
-    rig.k70.COther.curSwEnable = enabled;
-    EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
+    rig.units.COther.curBuzzer = -1;
+    rig.units.COther.curSwEnable = enabled;
+    EXPECT_EQ(rig.units.COther.WriteSdk(), "");
     EXPECT_EQ(rig.journal.Writes(),
               Lines{enabled == 1 ? "EnableSwitch(0, 0)" : "DisableSwitch(0, 0)"});
   }
@@ -153,17 +153,17 @@ TEST(OtherControlsWrite, AKnobOfADriveThatIsOnlySensedIsNotTouched) {
   Fit(rig.instrument(), accessory::kZFocusDrive, kSensorOnly);
   Fit(rig.instrument(), accessory::kXYStage, kSensorOnly);
   rig.ConnectAndReceive();
-  rig.k70.COther.curAutoZ = rig.k70.COther.curAutoXY = 1;
-  EXPECT_EQ(Differences(rig.k70.COther), "");
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
+  rig.units.COther.curAutoZ = rig.units.COther.curAutoXY = 1;
+  EXPECT_EQ(Differences(rig.units.COther), "");
+  EXPECT_EQ(rig.units.COther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
 }
 
 TEST(OtherControlsWrite, AnLedThatNoOptionStandsForIsWrittenAllTheSame) {
   Rig rig("DeckRemote");
   rig.ConnectAndReceive();
-  rig.k70.COther.curR_TLPOLED = 3;
-  EXPECT_EQ(rig.k70.COther.WriteSdk(), "");
+  rig.units.COther.curR_TLPOLED = 3;
+  EXPECT_EQ(rig.units.COther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), (Lines{"BuzzerOn(2)", "RemoteLED(7) = 3"}));
 }
 
@@ -181,10 +181,10 @@ TEST(OtherControlsWrite, EachUnchangedInstrumentHearsItsBuzzersAlone) {
         Row{"Hollow", {"BuzzerOff(1)"}}, Row{"Attic", {"BuzzerOff(1)", "BuzzerOff(5)"}}}) {
     Rig rig(row.bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.COther.ReadSdk(), "");
+    EXPECT_EQ(rig.units.COther.ReadSdk(), "");
     rig.journal.Clear();
-    EXPECT_EQ(Differences(rig.k70.COther), "") << row.bench;
-    EXPECT_EQ(rig.k70.COther.WriteSdk(), "") << row.bench;
+    EXPECT_EQ(Differences(rig.units.COther), "") << row.bench;
+    EXPECT_EQ(rig.units.COther.WriteSdk(), "") << row.bench;
     EXPECT_EQ(rig.journal.Writes(), row.writes) << row.bench;
   }
 }

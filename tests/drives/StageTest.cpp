@@ -6,11 +6,11 @@ namespace {
 
 TEST(Stage, IsUnknownBeforeTheFirstRead) {
   Rig rig("Harbour");
-  EXPECT_EQ(rig.k70.CXYDrive.curFocusCompensation, -1);
-  EXPECT_EQ(rig.k70.CXYDrive.NoseCount, 0);
-  EXPECT_EQ(rig.k70.CXYDrive.PositionX(1), 0);
-  EXPECT_EQ(rig.k70.CXYDrive.PositionY(1), 0);
-  EXPECT_EQ(FileTextOf(rig.k70.CXYDrive),
+  EXPECT_EQ(rig.units.CXYDrive.curFocusCompensation, -1);
+  EXPECT_EQ(rig.units.CXYDrive.NoseCount, 0);
+  EXPECT_EQ(rig.units.CXYDrive.PositionX(1), 0);
+  EXPECT_EQ(rig.units.CXYDrive.PositionY(1), 0);
+  EXPECT_EQ(FileTextOf(rig.units.CXYDrive),
             R"(<SECTION><XYSTAGE><FocusCompensation CODE="Unknown"/></XYSTAGE></SECTION>)");
 }
 
@@ -31,10 +31,10 @@ TEST(Stage, ReadsWhatEachInstrumentHas) {
                               BenchRow{"Attic", 1, true, 10}}) {
     Rig rig(row.bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.CXYDrive.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.CXYDrive.curFocusCompensation, row.compensation) << row.bench;
-    EXPECT_EQ(rig.k70.CXYDrive.IsEnable(), row.enabled) << row.bench;
-    EXPECT_EQ(rig.k70.CXYDrive.NoseCount, row.noseCount) << row.bench;
+    EXPECT_EQ(rig.units.CXYDrive.ReadSdk(), "");
+    EXPECT_EQ(rig.units.CXYDrive.curFocusCompensation, row.compensation) << row.bench;
+    EXPECT_EQ(rig.units.CXYDrive.IsEnable(), row.enabled) << row.bench;
+    EXPECT_EQ(rig.units.CXYDrive.NoseCount, row.noseCount) << row.bench;
   }
 }
 
@@ -44,13 +44,13 @@ TEST(Stage, ThatIsNotThereOrOnlySensedHasNoCompensation) {
     Rig rig("Harbour");
     Fit(rig.instrument(), accessory::kXYStage, mounted);
     rig.ConnectAndReceive();
-    EXPECT_EQ(rig.k70.CXYDrive.curFocusCompensation, 1) << mounted;
-    EXPECT_EQ(FileTextOf(rig.k70.CXYDrive),
+    EXPECT_EQ(rig.units.CXYDrive.curFocusCompensation, 1) << mounted;
+    EXPECT_EQ(FileTextOf(rig.units.CXYDrive),
               R"(<SECTION><XYSTAGE><FocusCompensation CODE="None"/></XYSTAGE></SECTION>)");
-    rig.k70.CXYDrive.curFocusCompensation = 2;
-    EXPECT_EQ(Differences(rig.k70.CXYDrive), "");
-    EXPECT_EQ(rig.k70.CXYDrive.WriteSdk(), "");
-    EXPECT_EQ(rig.k70.CXYDrive.ReadSdk(), "");
+    rig.units.CXYDrive.curFocusCompensation = 2;
+    EXPECT_EQ(Differences(rig.units.CXYDrive), "");
+    EXPECT_EQ(rig.units.CXYDrive.WriteSdk(), "");
+    EXPECT_EQ(rig.units.CXYDrive.ReadSdk(), "");
     EXPECT_EQ(rig.journal.CallCount(), 0U) << mounted;
   }
 }
@@ -59,11 +59,11 @@ TEST(Stage, ThatIsNotThereOrOnlySensedHasNoCompensation) {
 TEST(Stage, ThatIsNotThereIsNoneInTheFileAndAFocusDriveUnknown) {
   Rig rig("Shell");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.CXYDrive.curFocusCompensation, 1);
-  EXPECT_EQ(rig.k70.CZDrive.curFocusCompensation, -1);
-  EXPECT_NE(FileTextOf(rig.k70.CXYDrive).find(R"(<FocusCompensation CODE="None"/>)"),
+  EXPECT_EQ(rig.units.CXYDrive.curFocusCompensation, 1);
+  EXPECT_EQ(rig.units.CZDrive.curFocusCompensation, -1);
+  EXPECT_NE(FileTextOf(rig.units.CXYDrive).find(R"(<FocusCompensation CODE="None"/>)"),
             std::string::npos);
-  EXPECT_NE(FileTextOf(rig.k70.CZDrive).find(R"(<FocusCompensation CODE="Unknown"/>)"),
+  EXPECT_NE(FileTextOf(rig.units.CZDrive).find(R"(<FocusCompensation CODE="Unknown"/>)"),
             std::string::npos);
 }
 
@@ -81,7 +81,7 @@ TEST(Stage, IsEnabledTogetherWithANosepieceThatTurns) {
     Fit(rig.instrument(), accessory::kXYStage, row.stage);
     Fit(rig.instrument(), accessory::kNosepiece, row.nosepiece);
     rig.Connect();
-    EXPECT_EQ(rig.k70.CXYDrive.IsEnable(), row.enabled) << row.stage << row.nosepiece;
+    EXPECT_EQ(rig.units.CXYDrive.IsEnable(), row.enabled) << row.stage << row.nosepiece;
   }
 }
 
@@ -96,22 +96,22 @@ TEST(Stage, HasOnePositionMoreThanTheNosepieceHasAddresses) {
   for (const SlotRow& row :
        {SlotRow{-1, false}, SlotRow{0, false}, SlotRow{1, true}, SlotRow{6, true}, SlotRow{7, true},
         SlotRow{8, false}, SlotRow{2147483647, false}, SlotRow{-2147483647, false}}) {
-    rig.k70.CXYDrive.PositionX(row.address, 11);
-    rig.k70.CXYDrive.PositionY(row.address, 12);
-    EXPECT_EQ(rig.k70.CXYDrive.PositionX(row.address), row.there ? 11 : -1) << row.address;
-    EXPECT_EQ(rig.k70.CXYDrive.PositionY(row.address), row.there ? 12 : -1) << row.address;
+    rig.units.CXYDrive.PositionX(row.address, 11);
+    rig.units.CXYDrive.PositionY(row.address, 12);
+    EXPECT_EQ(rig.units.CXYDrive.PositionX(row.address), row.there ? 11 : -1) << row.address;
+    EXPECT_EQ(rig.units.CXYDrive.PositionY(row.address), row.there ? 12 : -1) << row.address;
   }
-  rig.k70.CXYDrive.NoseCount = 7;
-  EXPECT_EQ(rig.k70.CXYDrive.PositionX(8), 0) << "what was out of bounds was not kept";
-  EXPECT_EQ(rig.k70.CXYDrive.PositionY(8), 0);
+  rig.units.CXYDrive.NoseCount = 7;
+  EXPECT_EQ(rig.units.CXYDrive.PositionX(8), 0) << "what was out of bounds was not kept";
+  EXPECT_EQ(rig.units.CXYDrive.PositionY(8), 0);
 }
 
 TEST(Stage, AnAddressAboveTenWithinTheBoundIsAFault) {
   Rig rig("Attic");
   rig.Connect();
-  ASSERT_EQ(rig.k70.CXYDrive.NoseCount, 10);
-  rig.k70.CXYDrive.PositionX(10, 5);
-  EXPECT_EQ(rig.k70.CXYDrive.PositionX(10), 5);
+  ASSERT_EQ(rig.units.CXYDrive.NoseCount, 10);
+  rig.units.CXYDrive.PositionX(10, 5);
+  EXPECT_EQ(rig.units.CXYDrive.PositionX(10), 5);
   const std::vector<std::function<void(clsControlXYDrive&)>> acts{
       [](clsControlXYDrive& stage) { stage.PositionX(11); },
       [](clsControlXYDrive& stage) { stage.PositionY(11); },
@@ -119,24 +119,24 @@ TEST(Stage, AnAddressAboveTenWithinTheBoundIsAFault) {
       [](clsControlXYDrive& stage) { stage.PositionY(11, 1); }};
   for (const auto& act : acts) {
     try {
-      act(rig.k70.CXYDrive);
+      act(rig.units.CXYDrive);
       ADD_FAILURE() << "no fault";
     } catch (const Failure& failure) {
       EXPECT_EQ(failure.Number(), 9);
     }
   }
-  EXPECT_EQ(rig.k70.CXYDrive.PositionX(12), -1);
+  EXPECT_EQ(rig.units.CXYDrive.PositionX(12), -1);
 }
 
 TEST(Stage, AReadClearsThePositionsOfBothAxesWithOrWithoutAStage) {
   for (const char* bench : {"Harbour", "Deck"}) {
     Rig rig(bench);
     rig.ConnectAndReceive();
-    rig.k70.CXYDrive.PositionX(1, 3);
-    rig.k70.CXYDrive.PositionY(7, 4);
-    EXPECT_EQ(rig.k70.CXYDrive.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.CXYDrive.PositionX(1), 0) << bench;
-    EXPECT_EQ(rig.k70.CXYDrive.PositionY(7), 0) << bench;
+    rig.units.CXYDrive.PositionX(1, 3);
+    rig.units.CXYDrive.PositionY(7, 4);
+    EXPECT_EQ(rig.units.CXYDrive.ReadSdk(), "");
+    EXPECT_EQ(rig.units.CXYDrive.PositionX(1), 0) << bench;
+    EXPECT_EQ(rig.units.CXYDrive.PositionY(7), 0) << bench;
   }
 }
 
@@ -144,31 +144,31 @@ TEST(Stage, AReadThatFailsLeavesTheCompensationUnknown) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"XYDriveDevice.FocusCompensation"});
-  EXPECT_EQ(rig.k70.CXYDrive.ReadSdk(), "Control XY Stage (LIB:80004005)");
-  EXPECT_EQ(rig.k70.CXYDrive.curFocusCompensation, -1);
+  EXPECT_EQ(rig.units.CXYDrive.ReadSdk(), "Control XY Stage (LIB:80004005)");
+  EXPECT_EQ(rig.units.CXYDrive.curFocusCompensation, -1);
   std::string list;
-  rig.k70.CXYDrive.curFocusCompensation = 1;
-  EXPECT_EQ(rig.k70.CXYDrive.ModifySdk(list), "Control XY Stage (LIB:80004005)");
+  rig.units.CXYDrive.curFocusCompensation = 1;
+  EXPECT_EQ(rig.units.CXYDrive.ModifySdk(list), "Control XY Stage (LIB:80004005)");
   EXPECT_EQ(list, "");
 }
 
 TEST(Stage, ACompensationThatIsUnknownIsNeitherAskedForNorWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.CXYDrive.curFocusCompensation = -1;
-  EXPECT_EQ(Differences(rig.k70.CXYDrive), "");
-  EXPECT_EQ(rig.k70.CXYDrive.WriteSdk(), "");
+  rig.units.CXYDrive.curFocusCompensation = -1;
+  EXPECT_EQ(Differences(rig.units.CXYDrive), "");
+  EXPECT_EQ(rig.units.CXYDrive.WriteSdk(), "");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
 }
 
 TEST(Stage, IsWrittenOnlyWhenItDiffers) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.CXYDrive.WriteSdk(), "");
+  EXPECT_EQ(rig.units.CXYDrive.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(), Lines{"XYDriveDevice.FocusCompensation -> 3"});
   rig.journal.Clear();
-  rig.k70.CXYDrive.curFocusCompensation = 1;
-  EXPECT_EQ(rig.k70.CXYDrive.WriteSdk(), "");
+  rig.units.CXYDrive.curFocusCompensation = 1;
+  EXPECT_EQ(rig.units.CXYDrive.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"XYDriveDevice.FocusCompensation -> 3", "XYDriveDevice.FocusCompensation = 1"}));
 }
@@ -176,13 +176,13 @@ TEST(Stage, IsWrittenOnlyWhenItDiffers) {
 TEST(Stage, AReadOrWriteThatFailsIsOneLineAndAnUnreadValueIsNotWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.CXYDrive.curFocusCompensation = 1;
+  rig.units.CXYDrive.curFocusCompensation = 1;
   rig.faults.Add({"get XYDriveDevice.FocusCompensation", 1});
-  EXPECT_EQ(rig.k70.CXYDrive.WriteSdk(), "Control XY Stage FocusCompensation");
+  EXPECT_EQ(rig.units.CXYDrive.WriteSdk(), "Control XY Stage FocusCompensation");
   EXPECT_TRUE(rig.journal.Writes().empty());
   rig.faults.Add({"put XYDriveDevice.FocusCompensation", 1});
-  EXPECT_EQ(rig.k70.CXYDrive.WriteSdk(), "Control XY Stage FocusCompensation");
-  EXPECT_EQ(rig.k70.CXYDrive.WriteSdk(), "");
+  EXPECT_EQ(rig.units.CXYDrive.WriteSdk(), "Control XY Stage FocusCompensation");
+  EXPECT_EQ(rig.units.CXYDrive.WriteSdk(), "");
   EXPECT_EQ(rig.instrument().xyDrive.focusCompensation, 1);
 }
 
@@ -194,27 +194,27 @@ struct WordRow {
 TEST(Stage, HasAWordForEachCompensationBothWays) {
   for (const WordRow& row : {WordRow{1, "None"}, WordRow{2, "Absolute"}, WordRow{3, "Relative"}}) {
     Rig rig("Harbour");
-    rig.k70.CXYDrive.curFocusCompensation = row.compensation;
+    rig.units.CXYDrive.curFocusCompensation = row.compensation;
     const std::string element =
         "<XYSTAGE><FocusCompensation CODE=\"" + std::string(row.word) + "\"/></XYSTAGE>";
-    EXPECT_EQ(FileTextOf(rig.k70.CXYDrive), "<SECTION>" + element + "</SECTION>");
-    rig.k70.CXYDrive.curFocusCompensation = -1;
-    EXPECT_EQ(ReadElement(rig.k70.CXYDrive, element), "");
-    EXPECT_EQ(rig.k70.CXYDrive.curFocusCompensation, row.compensation);
+    EXPECT_EQ(FileTextOf(rig.units.CXYDrive), "<SECTION>" + element + "</SECTION>");
+    rig.units.CXYDrive.curFocusCompensation = -1;
+    EXPECT_EQ(ReadElement(rig.units.CXYDrive, element), "");
+    EXPECT_EQ(rig.units.CXYDrive.curFocusCompensation, row.compensation);
   }
   for (const std::int32_t compensation : {-1, 0, 4}) {
     Rig rig("Harbour");
-    rig.k70.CXYDrive.curFocusCompensation = compensation;
-    EXPECT_NE(FileTextOf(rig.k70.CXYDrive).find("\"Unknown\""), std::string::npos);
+    rig.units.CXYDrive.curFocusCompensation = compensation;
+    EXPECT_NE(FileTextOf(rig.units.CXYDrive).find("\"Unknown\""), std::string::npos);
   }
 }
 
 TEST(Stage, IsReadWithoutRegardToCase) {
   Rig rig("Harbour");
   EXPECT_EQ(
-      ReadElement(rig.k70.CXYDrive, R"(<XYSTAGE><FOCUScompensation code="aBSOLUTE"/></XYSTAGE>)"),
+      ReadElement(rig.units.CXYDrive, R"(<XYSTAGE><FOCUScompensation code="aBSOLUTE"/></XYSTAGE>)"),
       "");
-  EXPECT_EQ(rig.k70.CXYDrive.curFocusCompensation, 2);
+  EXPECT_EQ(rig.units.CXYDrive.curFocusCompensation, 2);
 }
 
 }  // namespace

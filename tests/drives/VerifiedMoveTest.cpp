@@ -21,15 +21,12 @@ struct SlippingRig : Rig {
     instrument().zDrive.position = 40;
     Connect();
   }
-  VerifyingDrive drive{k70};
+  VerifyingDrive drive{units};
 };
 
 // Harbour on a library whose clock goes on by a millisecond with each call, once it is started.
 struct SlowRig {
-  SlowRig() {
-    k70.Initialize();
-    EXPECT_TRUE(k70.Connect(1));
-  }
+  SlowRig() { units.Connect(1); }
   void Tick() {
     if (started) simulated.clock().Advance(1);
   }
@@ -40,8 +37,8 @@ struct SlowRig {
   controller::Journal journal;
   controller::JournalLibrary library{slow, journal};
   ScriptedPrompts prompts;
-  clsK70 k70{library, prompts};
-  VerifyingDrive drive{k70};
+  DriveUnits units{library, simulated.bench(), prompts};
+  VerifyingDrive drive{units};
 };
 
 Lines Reads(int count, std::int32_t position) {
@@ -64,7 +61,7 @@ TEST(VerifiedMove, TwoStepsAwayIsThereAndThreeAreNot) {
     Rig rig("Harbour");
     rig.Connect();
     rig.instrument().zDrive.position = row.position;
-    const VerifyingDrive drive(rig.k70);
+    const VerifyingDrive drive(rig.units);
     EXPECT_TRUE(drive.MoveVerified(row.target));
     Lines expected = Reads(row.there ? 1 : 5, row.position);
     if (!row.there) {
@@ -101,7 +98,7 @@ TEST(VerifiedMove, AFailureGoesToTheCaller) {
     Rig rig("Harbour");
     rig.Connect();
     rig.faults.Add({call});
-    const VerifyingDrive drive(rig.k70);
+    const VerifyingDrive drive(rig.units);
     EXPECT_THROW(drive.MoveVerified(500), Failure) << call;
   }
 }

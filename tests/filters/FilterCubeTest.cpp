@@ -1,7 +1,8 @@
 // The filter cubes: what is asked of them, how they are read, and their elements in a file.
 #include <gtest/gtest.h>
 
-#include "support/UnitDrill.h"
+#include "filters/FilterUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
@@ -42,26 +43,26 @@ template <typename Change>
 void ReadHarbour(Rig& rig, Change&& change) {
   rig.Connect();
   change(rig.instrument().database);
-  rig.k70.Receive();
+  EXPECT_EQ(rig.units.Receive(), "");
   rig.journal.Clear();
 }
 
 TEST(FilterCube, HasANameForEveryCodeAndNoneBeyond) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.dbFilter.Name(2), "UV Blue");
-  EXPECT_EQ(rig.k70.dbFilter.Name(241), "Ratio");
+  EXPECT_EQ(rig.units.dbFilter.Name(2), "UV Blue");
+  EXPECT_EQ(rig.units.dbFilter.Name(241), "Ratio");
   for (const std::int32_t code : {-1, 0, 11, 250, 2147483647}) {
-    EXPECT_EQ(rig.k70.dbFilter.Name(code), "") << code;
+    EXPECT_EQ(rig.units.dbFilter.Name(code), "") << code;
   }
 }
 
 TEST(FilterCube, IsShownWithTheNamesOfItsItems) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(Shown(rig.k70.dbFilter, 2),
+  EXPECT_EQ(Shown(rig.units.dbFilter, 2),
             (std::vector<std::string>{"UV Blue", "365/10", "DM 400", "460/50"}));
-  EXPECT_EQ(Shown(rig.k70.dbFilter, 241),
+  EXPECT_EQ(Shown(rig.units.dbFilter, 241),
             (std::vector<std::string>{"Ratio", "387/11", "DM 495", "525/50"}));
 }
 
@@ -69,7 +70,7 @@ TEST(FilterCube, OfACodeBeyondTheListIsShownAsFourEmptyTexts) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   for (const std::int32_t code : {-1, 11, 250}) {
-    EXPECT_EQ(Shown(rig.k70.dbFilter, code), std::vector<std::string>(4)) << code;
+    EXPECT_EQ(Shown(rig.units.dbFilter, code), std::vector<std::string>(4)) << code;
   }
 }
 
@@ -80,8 +81,8 @@ TEST(FilterCube, AnItemOfCodeZeroIsEmptyAlsoWhenTheControllerHasANameForIt) {
       list->push_back({0, false, "Nothing"});
     }
   });
-  EXPECT_EQ(rig.k70.Exciter.Name(0), "Nothing");
-  EXPECT_EQ(Shown(rig.k70.dbFilter, 1), (std::vector<std::string>{"Empty", "", "", ""}));
+  EXPECT_EQ(rig.units.Exciter.Name(0), "Nothing");
+  EXPECT_EQ(Shown(rig.units.dbFilter, 1), (std::vector<std::string>{"Empty", "", "", ""}));
 }
 
 TEST(FilterCube, ShowsTenCharactersOfEachNameAndKeepsTheWhole) {
@@ -92,19 +93,19 @@ TEST(FilterCube, ShowsTenCharactersOfEachNameAndKeepsTheWhole) {
     database.dichroics[0].name = "12345678901";
     database.barriers[0].name = "Barrier of length";
   });
-  EXPECT_EQ(Shown(rig.k70.dbFilter, 241),
+  EXPECT_EQ(Shown(rig.units.dbFilter, 241),
             (std::vector<std::string>{"ÄÖÜ eleven", "1234567890", "1234567890", "Barrier of"}));
-  EXPECT_EQ(OptionAt(rig.k70.dbFilter, 1), (Option{"ÄÖÜ eleven!", 1, 1, 1}));
-  EXPECT_EQ(rig.k70.dbFilter.Name(241), "ÄÖÜ eleven!");
+  EXPECT_EQ(OptionAt(rig.units.dbFilter, 1), (Option{"ÄÖÜ eleven!", 1, 1, 1}));
+  EXPECT_EQ(rig.units.dbFilter.Name(241), "ÄÖÜ eleven!");
 }
 
 TEST(FilterCube, OfTheUserIsGivenByItsPosition) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(OptionAt(rig.k70.dbFilter, 1), (Option{"Ratio", 241, 4, 5}));
-  EXPECT_EQ(OptionAt(rig.k70.dbFilter, 9), (Option{"----------", 0, 0, 0}));
+  EXPECT_EQ(OptionAt(rig.units.dbFilter, 1), (Option{"Ratio", 241, 4, 5}));
+  EXPECT_EQ(OptionAt(rig.units.dbFilter, 9), (Option{"----------", 0, 0, 0}));
   for (const std::int32_t position : {-1, 0, 10, 241}) {
-    EXPECT_EQ(OptionAt(rig.k70.dbFilter, position), (Option{"", -1, -1, -1})) << position;
+    EXPECT_EQ(OptionAt(rig.units.dbFilter, position), (Option{"", -1, -1, -1})) << position;
   }
 }
 
@@ -117,9 +118,9 @@ TEST(FilterCube, OfTheUserKeepsTenCharactersOfItsNewName) {
                         Row{"Eleven char", "Eleven cha"}, Row{"äöüäöüäöüäö", "äöüäöüäöüä"}}) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    rig.k70.dbFilter.Set_DbFilterOption(4, row.given, 3, 0, 249);
-    EXPECT_EQ(OptionAt(rig.k70.dbFilter, 4), (Option{row.kept, 3, 0, 249})) << row.given;
-    EXPECT_EQ(rig.k70.dbFilter.Name(244), row.kept) << row.given;
+    rig.units.dbFilter.Set_DbFilterOption(4, row.given, 3, 0, 249);
+    EXPECT_EQ(OptionAt(rig.units.dbFilter, 4), (Option{row.kept, 3, 0, 249})) << row.given;
+    EXPECT_EQ(rig.units.dbFilter.Name(244), row.kept) << row.given;
   }
 }
 
@@ -127,9 +128,9 @@ TEST(FilterCube, OfAPositionThatIsNoneIsNotStored) {
   for (const std::int32_t position : {-1, 0, 10}) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    rig.k70.dbFilter.Set_DbFilterOption(position, "New", 1, 2, 3);
+    rig.units.dbFilter.Set_DbFilterOption(position, "New", 1, 2, 3);
     for (std::int32_t code = 0; code < 250; ++code) {
-      EXPECT_NE(rig.k70.dbFilter.Name(code), "New") << position;
+      EXPECT_NE(rig.units.dbFilter.Name(code), "New") << position;
     }
   }
 }
@@ -139,7 +140,7 @@ TEST(FilterCube, WithABarrierBeyondTheListIsShownInOneBoxAndKeepsItsOtherItems) 
   rig.prompts.ExpectBox("*** DbFilter.DataError 3", box::kOk);
   ReadHarbour(rig, [](controller::DatabaseData& database) { database.cubes[2].barrier = 300; });
   EXPECT_EQ(rig.prompts.Boxes().size(), 1U);
-  EXPECT_EQ(Shown(rig.k70.dbFilter, 3),
+  EXPECT_EQ(Shown(rig.units.dbFilter, 3),
             (std::vector<std::string>{"Violet", "405/20", "DM 430", ""}));
 }
 
@@ -162,7 +163,7 @@ TEST(FilterCube, LosesExactlyTheItemsBeyondTheList) {
     if (row.box) rig.prompts.ExpectBox("*** DbFilter.DataError 241", box::kOk);
     ReadHarbour(
         rig, [&](controller::DatabaseData& database) { database.cubes[kFirstOption] = row.given; });
-    EXPECT_EQ(OptionAt(rig.k70.dbFilter, 1), row.kept);
+    EXPECT_EQ(OptionAt(rig.units.dbFilter, 1), row.kept);
     EXPECT_TRUE(rig.prompts.AllAnswersUsed());
   }
 }
@@ -187,10 +188,10 @@ TEST(FilterCube, OfACodeBeyondTheListEndsTheReadAndThoseBeforeItStay) {
     Rig rig("Harbour");
     rig.Connect();
     rig.instrument().database.cubes[2].code = code;
-    EXPECT_EQ(rig.k70.dbFilter.ReadSdk(), "Filter Cube Optional Cube (Mortane:9)") << code;
-    EXPECT_EQ(rig.k70.dbFilter.Name(2), "UV Blue");
-    EXPECT_EQ(rig.k70.dbFilter.Name(4), "");
-    EXPECT_EQ(rig.k70.dbFilter.Name(241), "");
+    EXPECT_EQ(rig.units.dbFilter.ReadSdk(), "Filter Cube Optional Cube (Mortane:9)") << code;
+    EXPECT_EQ(rig.units.dbFilter.Name(2), "UV Blue");
+    EXPECT_EQ(rig.units.dbFilter.Name(4), "");
+    EXPECT_EQ(rig.units.dbFilter.Name(241), "");
   }
 }
 
@@ -199,30 +200,30 @@ TEST(FilterCube, IsForgottenWhenTheReadFindsNoTurret) {
   rig.ConnectAndReceive();
   rig.instrument().Accessory(accessory::kFilterCube).state = 0;
   rig.Connect();
-  EXPECT_EQ(rig.k70.dbFilter.ReadSdk(), "");
+  EXPECT_EQ(rig.units.dbFilter.ReadSdk(), "");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
-  EXPECT_EQ(rig.k70.dbFilter.Name(2), "");
-  EXPECT_EQ(OptionAt(rig.k70.dbFilter, 1), (Option{"", 0, 0, 0}));
+  EXPECT_EQ(rig.units.dbFilter.Name(2), "");
+  EXPECT_EQ(OptionAt(rig.units.dbFilter, 1), (Option{"", 0, 0, 0}));
 }
 
 TEST(FilterCubeFile, HasNineElementsOfTwelveDigitsAndAName) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.dbFilter.Set_DbFilterOption(2, "A & B", 12, 33, 40);
+  rig.units.dbFilter.Set_DbFilterOption(2, "A & B", 12, 33, 40);
   std::string expected = R"(<SECTION><OPTION POSITION="1" CODE="124120043005" NAME="Ratio"/>)"
                          R"(<OPTION POSITION="2" CODE="101220333040" NAME="A &amp; B"/>)";
   for (int position = 3; position <= 9; ++position) {
     expected += "<OPTION POSITION=\"" + std::to_string(position) +
                 R"(" CODE="100020003000" NAME="----------"/>)";
   }
-  EXPECT_EQ(FileTextOf(rig.k70.dbFilter), expected + "</SECTION>");
+  EXPECT_EQ(FileTextOf(rig.units.dbFilter), expected + "</SECTION>");
 }
 
 TEST(FilterCubeFile, HasNineElementsAlsoWithoutATurret) {
   Rig rig("Shell");
   rig.Connect();
   DomDocument document;
-  ASSERT_TRUE(document.LoadText(FileTextOf(rig.k70.dbFilter)));
+  ASSERT_TRUE(document.LoadText(FileTextOf(rig.units.dbFilter)));
   EXPECT_EQ(document.Children().at(0).Children().size(), 9U);
 }
 
@@ -241,19 +242,19 @@ TEST(FilterCubeFile, TakesTheDigitsWhateverTheMarksBetweenThem) {
     Rig rig("Shell");
     rig.Connect();
     const bool taken = !row.taken.name.empty();
-    EXPECT_EQ(ReadElement(rig.k70.dbFilter, "<OPTION POSITION=\"3\" NAME=\"N\" CODE=\"" +
-                                                std::string(row.code) + "\"/>"),
+    EXPECT_EQ(ReadElement(rig.units.dbFilter, "<OPTION POSITION=\"3\" NAME=\"N\" CODE=\"" +
+                                                  std::string(row.code) + "\"/>"),
               taken ? "" : "Filter Cube Optional Cube[3]")
         << row.code;
-    EXPECT_EQ(OptionAt(rig.k70.dbFilter, 3), row.taken) << row.code;
+    EXPECT_EQ(OptionAt(rig.units.dbFilter, 3), row.taken) << row.code;
   }
 }
 
 TEST(FilterCubeFile, AlwaysWritesTheMarksOneTwoAndThree) {
   Rig rig("Shell");
   rig.Connect();
-  ReadElement(rig.k70.dbFilter, R"(<OPTION POSITION="1" NAME="N" CODE="x012y033z040"/>)");
-  EXPECT_NE(FileTextOf(rig.k70.dbFilter).find(R"(CODE="101220333040")"), std::string::npos);
+  ReadElement(rig.units.dbFilter, R"(<OPTION POSITION="1" NAME="N" CODE="x012y033z040"/>)");
+  EXPECT_NE(FileTextOf(rig.units.dbFilter).find(R"(CODE="101220333040")"), std::string::npos);
 }
 
 TEST(FilterCubeFile, KeepsANameOfAnyLengthWithoutItsTrailingBlanks) {
@@ -269,30 +270,32 @@ TEST(FilterCubeFile, KeepsANameOfAnyLengthWithoutItsTrailingBlanks) {
   for (const Row& row : rows) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    EXPECT_EQ(ReadElement(rig.k70.dbFilter, "<OPTION POSITION=\"1\" CODE=\"100020003000\" NAME=\"" +
-                                                std::string(row.given) + "\"/>"),
-              "");
-    EXPECT_EQ(rig.k70.dbFilter.Name(241), row.kept);
-    EXPECT_EQ(Shown(rig.k70.dbFilter, 241).at(0), row.shown);
-    EXPECT_EQ(OptionAt(rig.k70.dbFilter, 1).name, row.kept);
+    EXPECT_EQ(
+        ReadElement(rig.units.dbFilter, "<OPTION POSITION=\"1\" CODE=\"100020003000\" NAME=\"" +
+                                            std::string(row.given) + "\"/>"),
+        "");
+    EXPECT_EQ(rig.units.dbFilter.Name(241), row.kept);
+    EXPECT_EQ(Shown(rig.units.dbFilter, 241).at(0), row.shown);
+    EXPECT_EQ(OptionAt(rig.units.dbFilter, 1).name, row.kept);
   }
 }
 
 TEST(FilterCubeFile, WithoutANameMakesItEmpty) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(ReadElement(rig.k70.dbFilter, R"(<OPTION POSITION="1" CODE="100120023003"/>)"), "");
-  EXPECT_EQ(OptionAt(rig.k70.dbFilter, 1), (Option{"", 1, 2, 3}));
+  EXPECT_EQ(ReadElement(rig.units.dbFilter, R"(<OPTION POSITION="1" CODE="100120023003"/>)"), "");
+  EXPECT_EQ(OptionAt(rig.units.dbFilter, 1), (Option{"", 1, 2, 3}));
 }
 
 TEST(FilterCubeFile, ACodeBelowZeroKeepsTheLengthOfTheTextAndIsRefusedLater) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.dbFilter.Set_DbFilterOption(1, "N", -1, 2, -30);
-  const std::string text = FileTextOf(rig.k70.dbFilter);
+  rig.units.dbFilter.Set_DbFilterOption(1, "N", -1, 2, -30);
+  const std::string text = FileTextOf(rig.units.dbFilter);
   EXPECT_NE(text.find(R"(CODE="1-0120023-30")"), std::string::npos) << text;
-  EXPECT_EQ(ReadElement(rig.k70.dbFilter, R"(<OPTION POSITION="1" CODE="1-0120023-30" NAME="M"/>)"),
-            "Filter Cube Optional Cube[1]");
+  EXPECT_EQ(
+      ReadElement(rig.units.dbFilter, R"(<OPTION POSITION="1" CODE="1-0120023-30" NAME="M"/>)"),
+      "Filter Cube Optional Cube[1]");
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 // The filter cubes against the controller: what differs, what is written, and what fails.
 #include <gtest/gtest.h>
 
-#include "support/UnitDrill.h"
+#include "filters/FilterUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
@@ -25,11 +26,11 @@ TEST(FilterCubeTransfer, TrailingBlanksMakeNoDifferenceAndOtherBlanksDo) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
     rig.instrument().database.cubes[kFirstOption].name = row.held;
-    EXPECT_EQ(DifferencesOf(rig.k70.dbFilter),
+    EXPECT_EQ(DifferencesOf(rig.units.dbFilter),
               row.differs ? "Filter Cube Optional Cube[1] Ratio" : "")
         << '"' << row.held << '"';
     rig.journal.Clear();
-    EXPECT_EQ(rig.k70.dbFilter.WriteSdk(), "");
+    EXPECT_EQ(rig.units.dbFilter.WriteSdk(), "");
     EXPECT_EQ(rig.journal.Writes().size(), row.differs ? 4U : 0U) << '"' << row.held << '"';
   }
 }
@@ -41,9 +42,9 @@ TEST(FilterCubeTransfer, EachItemAloneMakesADifference) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
     rig.instrument().database.cubes[kFirstOption].*item = 7;
-    EXPECT_EQ(DifferencesOf(rig.k70.dbFilter), "Filter Cube Optional Cube[1] Ratio");
-    EXPECT_EQ(rig.k70.dbFilter.WriteSdk(), "");
-    EXPECT_EQ(DifferencesOf(rig.k70.dbFilter), "");
+    EXPECT_EQ(DifferencesOf(rig.units.dbFilter), "Filter Cube Optional Cube[1] Ratio");
+    EXPECT_EQ(rig.units.dbFilter.WriteSdk(), "");
+    EXPECT_EQ(DifferencesOf(rig.units.dbFilter), "");
   }
 }
 
@@ -52,19 +53,19 @@ TEST(FilterCubeTransfer, FixedCubesAreNeitherComparedNorWritten) {
   rig.ConnectAndReceive();
   rig.instrument().database.cubes[0].name = "Renamed";
   rig.instrument().database.cubes[9].barrier = 1;
-  EXPECT_EQ(DifferencesOf(rig.k70.dbFilter), "");
-  EXPECT_EQ(rig.k70.dbFilter.WriteSdk(), "");
+  EXPECT_EQ(DifferencesOf(rig.units.dbFilter), "");
+  EXPECT_EQ(rig.units.dbFilter.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
 TEST(FilterCubeTransfer, ALongNameStandsInFullInItsLineAndInTheController) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  ReadElement(rig.k70.dbFilter,
+  ReadElement(rig.units.dbFilter,
               R"(<OPTION POSITION="2" CODE="100120023003" NAME="A name of more than ten"/>)");
-  EXPECT_EQ(DifferencesOf(rig.k70.dbFilter),
+  EXPECT_EQ(DifferencesOf(rig.units.dbFilter),
             "Filter Cube Optional Cube[2] A name of more than ten");
-  EXPECT_EQ(rig.k70.dbFilter.WriteSdk(), "");
+  EXPECT_EQ(rig.units.dbFilter.WriteSdk(), "");
   EXPECT_EQ(rig.instrument().database.cubes[kFirstOption + 1].name, "A name of more than ten");
 }
 
@@ -73,9 +74,9 @@ TEST(FilterCubeTransfer, AnItemThatWasDroppedOnReadingIsADifference) {
   rig.Connect();
   rig.instrument().database.cubes[kFirstOption].dichroic = 300;
   rig.prompts.ExpectBox("*** DbFilter.DataError 241", box::kOk);
-  rig.k70.Receive();
-  EXPECT_EQ(DifferencesOf(rig.k70.dbFilter), "Filter Cube Optional Cube[1] Ratio");
-  EXPECT_EQ(rig.k70.dbFilter.WriteSdk(), "");
+  EXPECT_EQ(rig.units.Receive(), "");
+  EXPECT_EQ(DifferencesOf(rig.units.dbFilter), "Filter Cube Optional Cube[1] Ratio");
+  EXPECT_EQ(rig.units.dbFilter.WriteSdk(), "");
   EXPECT_EQ(rig.instrument().database.cubes[kFirstOption].dichroic, 0);
 }
 
@@ -84,7 +85,7 @@ TEST(FilterCubeTransfer, AnOptionElsewhereInTheListIsNumberedFromTheSameBase) {
   rig.ConnectAndReceive();
   rig.instrument().database.cubes[kFirstOption].code = 30;
   rig.instrument().database.cubes[kFirstOption + 8].code = 240;
-  EXPECT_EQ(DifferencesOf(rig.k70.dbFilter),
+  EXPECT_EQ(DifferencesOf(rig.units.dbFilter),
             "Filter Cube Optional Cube[-210] \r\nFilter Cube Optional Cube[0] ");
 }
 
@@ -93,12 +94,12 @@ TEST(FilterCubeTransfer, AnOptionBeyondTheListEndsTheComparisonAndIsALineOfTheWr
     Rig rig("Harbour");
     rig.ConnectAndReceive();
     rig.instrument().database.cubes[kFirstOption + 1].code = code;
-    rig.k70.dbFilter.Set_DbFilterOption(1, "One", 1, 1, 1);
-    rig.k70.dbFilter.Set_DbFilterOption(3, "Three", 3, 3, 3);
+    rig.units.dbFilter.Set_DbFilterOption(1, "One", 1, 1, 1);
+    rig.units.dbFilter.Set_DbFilterOption(3, "Three", 3, 3, 3);
     std::string list;
-    EXPECT_EQ(rig.k70.dbFilter.ModifySdk(list), "Filter Cube Optional Cube(Mortane:9)");
+    EXPECT_EQ(rig.units.dbFilter.ModifySdk(list), "Filter Cube Optional Cube(Mortane:9)");
     EXPECT_EQ(list, "Filter Cube Optional Cube[1] One");
-    EXPECT_EQ(rig.k70.dbFilter.WriteSdk(),
+    EXPECT_EQ(rig.units.dbFilter.WriteSdk(),
               "Filter Cube Optional Cube[" + std::to_string(code - 240) + "]");
     EXPECT_EQ(rig.journal.Writes().size(), 8U);
   }
@@ -112,10 +113,10 @@ TEST(FilterCubeTransfer, WithoutATurretStillWalksOverTheCubesOfTheController) {
   for (int n = 1; n <= 9; ++n) {
     lines = AppendLine(lines, "Filter Cube Optional Cube[" + std::to_string(n) + "] ");
   }
-  EXPECT_EQ(DifferencesOf(rig.k70.dbFilter), lines);
-  EXPECT_EQ(rig.k70.dbFilter.WriteSdk(), "");
+  EXPECT_EQ(DifferencesOf(rig.units.dbFilter), lines);
+  EXPECT_EQ(rig.units.dbFilter.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes().size(), 36U);
-  EXPECT_EQ(DifferencesOf(rig.k70.dbFilter), "");
+  EXPECT_EQ(DifferencesOf(rig.units.dbFilter), "");
 }
 
 TEST(FilterCubeTransfer, TheLineOfAComparisonThatFailsHasNoBlank) {
@@ -125,7 +126,7 @@ TEST(FilterCubeTransfer, TheLineOfAComparisonThatFailsHasNoBlank) {
     rig.ConnectAndReceive();
     rig.faults.Add({call, 0, "DB", 55, ""});
     std::string list = "Before";
-    EXPECT_EQ(rig.k70.dbFilter.ModifySdk(list), "Filter Cube Optional Cube(DB:37)");
+    EXPECT_EQ(rig.units.dbFilter.ModifySdk(list), "Filter Cube Optional Cube(DB:37)");
     EXPECT_EQ(list, "Before");
   }
 }
@@ -134,16 +135,16 @@ TEST(FilterCubeTransfer, TheLineOfAReadThatFailsHasABlank) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"AccessoryDatabase.FilterCubes"});
-  EXPECT_EQ(rig.k70.dbFilter.ReadSdk(), "Filter Cube Optional Cube (LIB:80004005)");
+  EXPECT_EQ(rig.units.dbFilter.ReadSdk(), "Filter Cube Optional Cube (LIB:80004005)");
 }
 
 TEST(FilterCubeTransfer, AReadThatFailsKeepsTheCubesBeforeTheFailure) {
   Rig rig("Harbour");
   rig.Connect();
   rig.faults.Add({"AccessoryDatabase.FilterCubes.Item(3).BarrierCode"});
-  EXPECT_EQ(rig.k70.dbFilter.ReadSdk(), "Filter Cube Optional Cube (LIB:80004005)");
-  EXPECT_EQ(rig.k70.dbFilter.Name(2), "UV Blue");
-  EXPECT_EQ(rig.k70.dbFilter.Name(4), "");
+  EXPECT_EQ(rig.units.dbFilter.ReadSdk(), "Filter Cube Optional Cube (LIB:80004005)");
+  EXPECT_EQ(rig.units.dbFilter.Name(2), "UV Blue");
+  EXPECT_EQ(rig.units.dbFilter.Name(4), "");
 }
 
 // One record's members fail in turn, and after it a second record is due.
@@ -151,8 +152,8 @@ class FilterCubeFailures : public testing::TestWithParam<const char*> {
  protected:
   FilterCubeFailures() : rig_("Harbour") {
     rig_.ConnectAndReceive();
-    rig_.k70.dbFilter.Set_DbFilterOption(1, "One", 1, 1, 1);
-    rig_.k70.dbFilter.Set_DbFilterOption(9, "Nine", 9, 9, 9);
+    rig_.units.dbFilter.Set_DbFilterOption(1, "One", 1, 1, 1);
+    rig_.units.dbFilter.Set_DbFilterOption(9, "Nine", 9, 9, 9);
   }
 
   void Fail(const std::string& kind) { rig_.faults.Add({kind + kRatio + GetParam()}); }
@@ -162,7 +163,7 @@ class FilterCubeFailures : public testing::TestWithParam<const char*> {
 
 TEST_P(FilterCubeFailures, OfAValueReadLeaveTheRecordUnwrittenAndGoOn) {
   Fail("get ");
-  EXPECT_EQ(rig_.k70.dbFilter.WriteSdk(), "Filter Cube Optional Cube[1]");
+  EXPECT_EQ(rig_.units.dbFilter.WriteSdk(), "Filter Cube Optional Cube[1]");
   EXPECT_EQ(rig_.journal.Writes(),
             (std::vector<std::string>{"AccessoryDatabase.FilterCubes.Item(19).Name = \"Nine\"",
                                       "AccessoryDatabase.FilterCubes.Item(19).ExciterCode = 9",
@@ -172,7 +173,7 @@ TEST_P(FilterCubeFailures, OfAValueReadLeaveTheRecordUnwrittenAndGoOn) {
 
 TEST_P(FilterCubeFailures, OfAValueWrittenLetTheOtherThreeThrough) {
   Fail("put ");
-  EXPECT_EQ(rig_.k70.dbFilter.WriteSdk(), "Filter Cube Optional Cube[1]");
+  EXPECT_EQ(rig_.units.dbFilter.WriteSdk(), "Filter Cube Optional Cube[1]");
   EXPECT_EQ(rig_.journal.Writes().size(), 8U);
   const auto& held = rig_.instrument().database.cubes[kFirstOption];
   const std::string failed = GetParam();
@@ -186,7 +187,7 @@ TEST_P(FilterCubeFailures, OfAValueWrittenLetTheOtherThreeThrough) {
 TEST_P(FilterCubeFailures, OfAComparisonEndItThere) {
   Fail("get ");
   std::string list = "Before";
-  EXPECT_EQ(rig_.k70.dbFilter.ModifySdk(list), "Filter Cube Optional Cube(LIB:80004005)");
+  EXPECT_EQ(rig_.units.dbFilter.ModifySdk(list), "Filter Cube Optional Cube(LIB:80004005)");
   EXPECT_EQ(list, "Before");
 }
 
@@ -197,21 +198,21 @@ INSTANTIATE_TEST_SUITE_P(Values, FilterCubeFailures,
 TEST(FilterCubeTransfer, ARecordThatTakesNothingIsOneLine) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.dbFilter.Set_DbFilterOption(1, "One", 1, 1, 1);
+  rig.units.dbFilter.Set_DbFilterOption(1, "One", 1, 1, 1);
   for (const char* member : {"Name", "ExciterCode", "DichroicCode", "BarrierCode"}) {
     rig.faults.Add({std::string("put ") + kRatio + member});
   }
-  EXPECT_EQ(rig.k70.dbFilter.WriteSdk(), "Filter Cube Optional Cube[1]");
+  EXPECT_EQ(rig.units.dbFilter.WriteSdk(), "Filter Cube Optional Cube[1]");
 }
 
 TEST(FilterCubeTransfer, AComparisonThatFailsLaterKeepsItsLines) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.dbFilter.Set_DbFilterOption(1, "One", 1, 1, 1);
-  rig.k70.dbFilter.Set_DbFilterOption(9, "Nine", 9, 9, 9);
+  rig.units.dbFilter.Set_DbFilterOption(1, "One", 1, 1, 1);
+  rig.units.dbFilter.Set_DbFilterOption(9, "Nine", 9, 9, 9);
   rig.faults.Add({"AccessoryDatabase.FilterCubes.Item(15).Code"});
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.dbFilter.ModifySdk(list), "Filter Cube Optional Cube(LIB:80004005)");
+  EXPECT_EQ(rig.units.dbFilter.ModifySdk(list), "Filter Cube Optional Cube(LIB:80004005)");
   EXPECT_EQ(list, "Before\r\nFilter Cube Optional Cube[1] One");
 }
 

@@ -1,6 +1,7 @@
 // The names of excitation filters, dichroic mirrors and barrier filters: each test for all three.
 #include <gtest/gtest.h>
 
+#include "filters/FilterUnits.h"
 #include "support/UnitDrill.h"
 
 namespace mortane::test {
@@ -17,8 +18,8 @@ struct ItemList {
   std::size_t firstOption;  // its place in Harbour's list
   std::string fixedName;    // of code 2 there
   UnitOperations unit;
-  std::function<std::string(const clsK70&, std::int32_t)> name;
-  std::function<void(clsK70&, std::int32_t, const std::string&)> setName;
+  std::function<std::string(const FilterUnits&, std::int32_t)> name;
+  std::function<void(FilterUnits&, std::int32_t, const std::string&)> setName;
 };
 
 void PrintTo(const ItemList& item, std::ostream* stream) {
@@ -26,7 +27,7 @@ void PrintTo(const ItemList& item, std::ostream* stream) {
 }
 
 template <typename Unit>
-ItemList ListOf(Unit clsK70::*unit, std::string list, const std::string& itemName,
+ItemList ListOf(Unit FilterUnits::*unit, std::string list, const std::string& itemName,
                 std::string element, std::vector<FilterData> DatabaseData::*records,
                 std::size_t firstOption, std::string fixedName) {
   return {std::move(list),
@@ -36,9 +37,9 @@ ItemList ListOf(Unit clsK70::*unit, std::string list, const std::string& itemNam
           firstOption,
           std::move(fixedName),
           OperationsOf(unit),
-          [unit](const clsK70& k70, std::int32_t code) { return (k70.*unit).Name(code); },
-          [unit](clsK70& k70, std::int32_t code, const std::string& text) {
-            (k70.*unit).Name(code, text);
+          [unit](const FilterUnits& units, std::int32_t code) { return (units.*unit).Name(code); },
+          [unit](FilterUnits& units, std::int32_t code, const std::string& text) {
+            (units.*unit).Name(code, text);
           }};
 }
 
@@ -46,9 +47,9 @@ class FilterItems : public testing::TestWithParam<ItemList> {
  protected:
   FilterItems() : rig_("Harbour") {}
 
-  std::string NameOf(std::int32_t code) const { return GetParam().name(rig_.k70, code); }
+  std::string NameOf(std::int32_t code) const { return GetParam().name(rig_.units, code); }
   void SetName(std::int32_t code, const std::string& name) {
-    GetParam().setName(rig_.k70, code, name);
+    GetParam().setName(rig_.units, code, name);
   }
   FilterData& OptionRecord(std::size_t position) {
     return Records()[GetParam().firstOption + position - 1];
@@ -60,11 +61,11 @@ class FilterItems : public testing::TestWithParam<ItemList> {
   }
   std::string Differences() {
     std::string list;
-    EXPECT_EQ(GetParam().unit.modify(rig_.k70, list), "");
+    EXPECT_EQ(GetParam().unit.modify(rig_.units, list), "");
     return list;
   }
   std::string ReadFile(const std::string& attributes) {
-    return GetParam().unit.readElement(rig_.k70,
+    return GetParam().unit.readElement(rig_.units,
                                        "<" + GetParam().element + " " + attributes + "/>");
   }
 
@@ -92,19 +93,19 @@ TEST_P(FilterItems, KeepTenCharactersOfANameThatThePersonGives) {
 
 TEST_P(FilterItems, IgnoreANameBeyondTheList) {
   rig_.ConnectAndReceive();
-  const std::string before = GetParam().unit.fileText(rig_.k70);
+  const std::string before = GetParam().unit.fileText(rig_.units);
   for (const std::int32_t code : {-1, 250}) {
     SetName(code, "New");
     EXPECT_EQ(NameOf(code), "");
   }
-  EXPECT_EQ(GetParam().unit.fileText(rig_.k70), before);
+  EXPECT_EQ(GetParam().unit.fileText(rig_.units), before);
 }
 
 TEST_P(FilterItems, KeepANameOfTheControllerInFull) {
   rig_.Connect();
   OptionRecord(1).name = "Ten chars!";
   OptionRecord(2).name = "Eleven char";
-  EXPECT_EQ(GetParam().unit.read(rig_.k70), "");
+  EXPECT_EQ(GetParam().unit.read(rig_.units), "");
   EXPECT_EQ(NameOf(241), "Ten chars!");
   EXPECT_EQ(NameOf(242), "Eleven char");
 }
@@ -113,7 +114,7 @@ TEST_P(FilterItems, OfACodeBeyondTheListEndTheRead) {
   for (const std::int32_t code : {-1, 250}) {
     rig_.Connect();
     Records()[2].code = code;
-    EXPECT_EQ(GetParam().unit.read(rig_.k70), GetParam().label + " (Mortane:9)");
+    EXPECT_EQ(GetParam().unit.read(rig_.units), GetParam().label + " (Mortane:9)");
     EXPECT_EQ(NameOf(2), GetParam().fixedName);
     EXPECT_EQ(NameOf(4), "");
   }
@@ -123,7 +124,7 @@ TEST_P(FilterItems, AreForgottenWithoutATurretAndStillComparedAndWritten) {
   rig_.ConnectAndReceive();
   rig_.instrument().Accessory(accessory::kFilterCube).state = 0;
   rig_.Connect();
-  EXPECT_EQ(GetParam().unit.read(rig_.k70), "");
+  EXPECT_EQ(GetParam().unit.read(rig_.units), "");
   EXPECT_EQ(rig_.journal.CallCount(), 0U);
   EXPECT_EQ(NameOf(2), "");
   std::string lines;
@@ -131,7 +132,7 @@ TEST_P(FilterItems, AreForgottenWithoutATurretAndStillComparedAndWritten) {
     lines = AppendLine(lines, GetParam().label + "[" + std::to_string(n) + "] ");
   }
   EXPECT_EQ(Differences(), lines);
-  EXPECT_EQ(GetParam().unit.write(rig_.k70), "");
+  EXPECT_EQ(GetParam().unit.write(rig_.units), "");
   EXPECT_EQ(rig_.journal.Writes().size(), 9U);
   EXPECT_EQ(Differences(), "");
 }
@@ -140,7 +141,7 @@ TEST_P(FilterItems, ThatAreFixedAreNeitherComparedNorWritten) {
   rig_.ConnectAndReceive();
   Records()[0].name = "Renamed";
   EXPECT_EQ(Differences(), "");
-  EXPECT_EQ(GetParam().unit.write(rig_.k70), "");
+  EXPECT_EQ(GetParam().unit.write(rig_.units), "");
   EXPECT_TRUE(rig_.journal.Writes().empty());
 }
 
@@ -158,9 +159,9 @@ TEST_P(FilterItems, FailAsALineOfEachOperation) {
   SetName(241, "New");
   rig_.faults.Add({"AccessoryDatabase." + GetParam().list});
   std::string list = "Before";
-  EXPECT_EQ(GetParam().unit.modify(rig_.k70, list), GetParam().label + " (LIB:80004005)");
+  EXPECT_EQ(GetParam().unit.modify(rig_.units, list), GetParam().label + " (LIB:80004005)");
   EXPECT_EQ(list, "Before");
-  EXPECT_EQ(GetParam().unit.read(rig_.k70), GetParam().label + " (LIB:80004005)");
+  EXPECT_EQ(GetParam().unit.read(rig_.units), GetParam().label + " (LIB:80004005)");
 }
 
 TEST_P(FilterItems, AComparisonThatFailsLaterKeepsItsLines) {
@@ -169,7 +170,7 @@ TEST_P(FilterItems, AComparisonThatFailsLaterKeepsItsLines) {
   SetName(249, "New");
   rig_.faults.Add({OptionCall(5) + "Name"});
   std::string list = "Before";
-  EXPECT_EQ(GetParam().unit.modify(rig_.k70, list), GetParam().label + " (LIB:80004005)");
+  EXPECT_EQ(GetParam().unit.modify(rig_.units, list), GetParam().label + " (LIB:80004005)");
   EXPECT_EQ(list, "Before\r\n" + GetParam().label + "[1] New");
 }
 
@@ -180,7 +181,7 @@ TEST_P(FilterItems, ANameThatCannotBeReadOrWrittenIsALineAndTheNextIsWritten) {
     SetName(249, std::string("New ") + kind);
     rig_.faults.Clear();
     rig_.faults.Add({kind + OptionCall(8) + "Name"});
-    EXPECT_EQ(GetParam().unit.write(rig_.k70), GetParam().label + "[8]") << kind;
+    EXPECT_EQ(GetParam().unit.write(rig_.units), GetParam().label + "[8]") << kind;
     EXPECT_NE(OptionRecord(8).name, OptionRecord(9).name) << kind;
     EXPECT_EQ(RightTrim(OptionRecord(9).name), RightTrim(std::string("New ") + kind)) << kind;
     rig_.faults.Clear();
@@ -195,7 +196,7 @@ TEST_P(FilterItems, StandInAFileAsNineElements) {
     expected += "<" + GetParam().element + " POSITION=\"" + std::to_string(position) +
                 "\" NAME=\"N24" + std::to_string(position) + "\"/>";
   }
-  EXPECT_EQ(GetParam().unit.fileText(rig_.k70), expected + "</SECTION>");
+  EXPECT_EQ(GetParam().unit.fileText(rig_.units), expected + "</SECTION>");
 }
 
 TEST_P(FilterItems, TakeANameOfTenCharactersFromAFileAndRefuseEleven) {
@@ -224,12 +225,12 @@ TEST_P(FilterItems, WithoutANameInAFileBecomeNameless) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Lists, FilterItems,
-                         testing::Values(ListOf(&clsK70::Exciter, "Exciters", "Exciter", "EXCITER",
-                                                &DatabaseData::exciters, 11, "365/10"),
-                                         ListOf(&clsK70::Dichroic, "Dichroics", "Dichroic",
+                         testing::Values(ListOf(&FilterUnits::Exciter, "Exciters", "Exciter",
+                                                "EXCITER", &DatabaseData::exciters, 11, "365/10"),
+                                         ListOf(&FilterUnits::Dichroic, "Dichroics", "Dichroic",
                                                 "DICHROIC", &DatabaseData::dichroics, 9, "DM 430"),
-                                         ListOf(&clsK70::Barrier, "Barriers", "Barrier", "BARRIER",
-                                                &DatabaseData::barriers, 11, "460/50")),
+                                         ListOf(&FilterUnits::Barrier, "Barriers", "Barrier",
+                                                "BARRIER", &DatabaseData::barriers, 11, "460/50")),
                          [](const auto& row) { return row.param.list; });
 
 }  // namespace

@@ -1,4 +1,5 @@
 // The drill of the filter units.
+#include "filters/FilterUnits.h"
 #include "support/UnitDrill.h"
 
 namespace mortane::test {
@@ -8,18 +9,18 @@ UnitDrillData Turret() {
   UnitDrillData data;
   data.name = "Filter";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::curFilter);
+  data.unit = OperationsOf(&FilterUnits::curFilter);
   data.edits = {
       {"first address",
-       [](clsK70& k70) { k70.curFilter.code(1, 6); },
+       [](FilterUnits& units) { units.curFilter.code(1, 6); },
        "Filter Cube[1] Green LP",
        {"FilterCubeDevice.Positions(1).Code = 6"}},
       {"nothing in the middle",
-       [](clsK70& k70) { k70.curFilter.code(3, 0); },
+       [](FilterUnits& units) { units.curFilter.code(3, 0); },
        "Filter Cube[3] ",
        {"FilterCubeDevice.Positions(3).Code = 0"}},
       {"the user's cube at the last address",
-       [](clsK70& k70) { k70.curFilter.code(6, 241); },
+       [](FilterUnits& units) { units.curFilter.code(6, 241); },
        "Filter Cube[6] Ratio",
        {"FilterCubeDevice.Positions(6).Code = 241"}},
   };
@@ -43,24 +44,24 @@ UnitDrillData Cubes() {
   UnitDrillData data;
   data.name = "DbFilter";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::dbFilter);
+  data.unit = OperationsOf(&FilterUnits::dbFilter);
   data.edits = {
       {"name",
-       [](clsK70& k70) { k70.dbFilter.Set_DbFilterOption(1, "Ratio 2", 241, 4, 5); },
+       [](FilterUnits& units) { units.dbFilter.Set_DbFilterOption(1, "Ratio 2", 241, 4, 5); },
        "Filter Cube Optional Cube[1] Ratio 2",
        {"AccessoryDatabase.FilterCubes.Item(11).Name = \"Ratio 2\"",
         "AccessoryDatabase.FilterCubes.Item(11).ExciterCode = 241",
         "AccessoryDatabase.FilterCubes.Item(11).DichroicCode = 4",
         "AccessoryDatabase.FilterCubes.Item(11).BarrierCode = 5"}},
       {"one item",
-       [](clsK70& k70) { k70.dbFilter.Set_DbFilterOption(2, "----------", 0, 0, 11); },
+       [](FilterUnits& units) { units.dbFilter.Set_DbFilterOption(2, "----------", 0, 0, 11); },
        "Filter Cube Optional Cube[2] ----------",
        {"AccessoryDatabase.FilterCubes.Item(12).Name = \"----------\"",
         "AccessoryDatabase.FilterCubes.Item(12).ExciterCode = 0",
         "AccessoryDatabase.FilterCubes.Item(12).DichroicCode = 0",
         "AccessoryDatabase.FilterCubes.Item(12).BarrierCode = 11"}},
       {"all of the last, and no name",
-       [](clsK70& k70) { k70.dbFilter.Set_DbFilterOption(9, "", 249, 241, 7); },
+       [](FilterUnits& units) { units.dbFilter.Set_DbFilterOption(9, "", 249, 241, 7); },
        "Filter Cube Optional Cube[9] ",
        {"AccessoryDatabase.FilterCubes.Item(19).Name = \"\"",
         "AccessoryDatabase.FilterCubes.Item(19).ExciterCode = 249",
@@ -93,8 +94,8 @@ UnitDrillData Cubes() {
 
 // `list` is the controller's, `firstOption` the place of its first option there.
 template <typename Unit>
-UnitDrillData Items(std::string name, Unit clsK70::*unit, const std::string& list, int firstOption,
-                    const std::string& label, const std::string& element) {
+UnitDrillData Items(std::string name, Unit FilterUnits::*unit, const std::string& list,
+                    int firstOption, const std::string& label, const std::string& element) {
   const auto write = [&](int position, const std::string& text) {
     return "AccessoryDatabase." + list + ".Item(" + std::to_string(firstOption + position - 1) +
            ").Name = \"" + text + "\"";
@@ -105,15 +106,15 @@ UnitDrillData Items(std::string name, Unit clsK70::*unit, const std::string& lis
   data.unit = OperationsOf(unit);
   data.edits = {
       {"first option",
-       [unit](clsK70& k70) { (k70.*unit).Name(241, "Narrow"); },
+       [unit](FilterUnits& units) { (units.*unit).Name(241, "Narrow"); },
        label + "[1] Narrow",
        {write(1, "Narrow")}},
       {"no name",
-       [unit](clsK70& k70) { (k70.*unit).Name(242, ""); },
+       [unit](FilterUnits& units) { (units.*unit).Name(242, ""); },
        label + "[2] ",
        {write(2, "")}},
       {"last option",
-       [unit](clsK70& k70) { (k70.*unit).Name(249, "Ten chars!"); },
+       [unit](FilterUnits& units) { (units.*unit).Name(249, "Ten chars!"); },
        label + "[9] Ten chars!",
        {write(9, "Ten chars!")}},
   };
@@ -132,11 +133,11 @@ UnitDrillData Items(std::string name, Unit clsK70::*unit, const std::string& lis
 
 INSTANTIATE_TEST_SUITE_P(Filters, UnitDrill,
                          testing::Values(Turret(), Cubes(),
-                                         Items("Exciter", &clsK70::Exciter, "Exciters", 12,
+                                         Items("Exciter", &FilterUnits::Exciter, "Exciters", 12,
                                                "Filter Cube Optional Item Exciter", "EXCITER"),
-                                         Items("Dichroic", &clsK70::Dichroic, "Dichroics", 10,
+                                         Items("Dichroic", &FilterUnits::Dichroic, "Dichroics", 10,
                                                "Filter Cube Optional Item Dichroic", "DICHROIC"),
-                                         Items("Barrier", &clsK70::Barrier, "Barriers", 12,
+                                         Items("Barrier", &FilterUnits::Barrier, "Barriers", 12,
                                                "Filter Cube Optional Item Barrier", "BARRIER")),
                          DrillName);
 

@@ -5,11 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "support/UnitDrill.h"
+#include "interlocks/InterlockUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
-
-using Lines = std::vector<std::string>;
 
 inline constexpr const char* kNoAnswer = "LIB:80004005)";
 
@@ -24,12 +23,6 @@ inline std::string Report(const Lines& lines) {
 inline void SetUnits(Instrument& instrument, const std::vector<int>& units) {
   for (int unit = 1; unit <= 7; ++unit) instrument.Unit(unit) = {};
   for (const int unit : units) instrument.Unit(unit + 1) = {1, "V1.30"};
-}
-
-// Makes IsMounted of the accessory kNotMounted, kSensorOnly or kControllable.
-inline void Fit(Instrument& instrument, std::int32_t number, std::int32_t mounted) {
-  instrument.Accessory(number).state = mounted == kNotMounted ? 0 : 1;
-  instrument.Accessory(number).readOnly = mounted == kSensorOnly;
 }
 
 // "-1 0 1": a unit's states of the accessories 1 to `count`.

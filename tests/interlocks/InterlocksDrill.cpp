@@ -1,4 +1,5 @@
 // The drill of the interlock units.
+#include "interlocks/InterlockUnits.h"
 #include "support/UnitDrill.h"
 
 namespace mortane::test {
@@ -8,18 +9,18 @@ UnitDrillData Observation() {
   UnitDrillData data;
   data.name = "InterLockObservation";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::ILObservation);
+  data.unit = OperationsOf(&InterlockUnits::ILObservation);
   data.edits = {
       {"the first follows",
-       [](clsK70& k70) { k70.ILObservation.Status(1, 1); },
+       [](InterlockUnits& units) { units.ILObservation.Status(1, 1); },
        "InterLock Observation[ND]",
        {"ControllerSettings.SetInterlock(1, 1)"}},
       {"one in the middle follows no more",
-       [](clsK70& k70) { k70.ILObservation.Status(4, 0); },
+       [](InterlockUnits& units) { units.ILObservation.Status(4, 0); },
        "InterLock Observation[Lamp]",
        {"ControllerSettings.ClearInterlock(4, 1)"}},
       {"the last follows",
-       [](clsK70& k70) { k70.ILObservation.Status(11, 1); },
+       [](InterlockUnits& units) { units.ILObservation.Status(11, 1); },
        "InterLock Observation[Light Path]",
        {"ControllerSettings.SetInterlock(11, 1)"}},
   };
@@ -43,14 +44,15 @@ UnitDrillData Observation() {
 
 // Three kinds of elements, one writer.
 UnitOperations OperationsOfOther() {
-  UnitOperations operations = OperationsOf(&clsK70::ILOther);
-  operations.readElement = [](clsK70& k70, const std::string& xml) {
+  UnitOperations operations = OperationsOf(&InterlockUnits::ILOther);
+  operations.readElement = [](BenchMicroscope& microscope, const std::string& xml) {
+    auto& units = static_cast<InterlockUnits&>(microscope);
     DomDocument document;
     EXPECT_TRUE(document.LoadText(xml)) << xml;
     const DomNode element = document.Children().at(0);
-    if (element.Name() == "LIGHTPATH") return k70.ILOther.ReadLPDom(element);
-    if (element.Name() == "ZOOM") return k70.ILOther.ReadZMDom(element);
-    return k70.ILOther.ReadDom(element);
+    if (element.Name() == "LIGHTPATH") return units.ILOther.ReadLPDom(element);
+    if (element.Name() == "ZOOM") return units.ILOther.ReadZMDom(element);
+    return units.ILOther.ReadDom(element);
   };
   return operations;
 }
@@ -62,26 +64,26 @@ UnitDrillData Other() {
   data.unit = OperationsOfOther();
   data.edits = {
       {"the first does not follow the nosepiece",
-       [](clsK70& k70) { k70.ILOther.Status(1, 0); },
+       [](InterlockUnits& units) { units.ILOther.Status(1, 0); },
        "InterLock Other[ND]",
        {"ControllerSettings.ClearInterlock(1, 3)"}},
       {"the epi field stop follows the zoom, of which a read makes a copy",
-       [](clsK70& k70) {
-         k70.ILOther.ZoomStatus(13, 1);
-         k70.ILOther.Status(10, 1);
+       [](InterlockUnits& units) {
+         units.ILOther.ZoomStatus(13, 1);
+         units.ILOther.Status(10, 1);
        },
        "InterLock Optical Zoom [Epi FieldStop]",
        {"ControllerSettings.SetInterlock(13, 2)"}},
       {"the field stop does not follow the zoom",
-       [](clsK70& k70) { k70.ILOther.ZoomStatus(2, 0); },
+       [](InterlockUnits& units) { units.ILOther.ZoomStatus(2, 0); },
        "InterLock Optical Zoom [FieldStop]",
        {"ControllerSettings.ClearInterlock(2, 2)"}},
       {"the ND filter follows the light path",
-       [](clsK70& k70) { k70.ILOther.LightPathStatus(1, 1); },
+       [](InterlockUnits& units) { units.ILOther.LightPathStatus(1, 1); },
        "InterLock Light Path [ND Filter]",
        {"ControllerSettings.SetInterlock(1, 4)"}},
       {"the last does not follow the nosepiece",
-       [](clsK70& k70) { k70.ILOther.Status(14, 0); },
+       [](InterlockUnits& units) { units.ILOther.Status(14, 0); },
        "InterLock Other[XY Stage]",
        {"ControllerSettings.ClearInterlock(14, 3)"}},
   };
@@ -108,22 +110,22 @@ UnitDrillData Offset() {
   UnitDrillData data;
   data.name = "InterLockOffset";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::ILOffset);
+  data.unit = OperationsOf(&InterlockUnits::ILOffset);
   data.edits = {
       {"lowest code",
-       [](clsK70& k70) { k70.ILOffset.curND = 0; },
+       [](InterlockUnits& units) { units.ILOffset.curND = 0; },
        "InterLock Offset[ND]",
        {"NDFilterDevice.OffsetCode = 0"}},
       {"highest code",
-       [](clsK70& k70) { k70.ILOffset.curFStop = 9; },
+       [](InterlockUnits& units) { units.ILOffset.curFStop = 9; },
        "InterLock Offset[Dia F.Stop]",
        {"FieldStopDevice.OffsetCode = 9"}},
       {"epi field stop",
-       [](clsK70& k70) { k70.ILOffset.curEpiFStop = 3; },
+       [](InterlockUnits& units) { units.ILOffset.curEpiFStop = 3; },
        "InterLock Offset[Epi F.Stop]",
        {"EpiFieldStopDevice.OffsetCode = 3"}},
       {"aperture stop",
-       [](clsK70& k70) { k70.ILOffset.curAStop = 1; },
+       [](InterlockUnits& units) { units.ILOffset.curAStop = 1; },
        "InterLock Offset[Dia A.Stop]",
        {"ApertureStopDevice.OffsetCode = 1"}},
   };

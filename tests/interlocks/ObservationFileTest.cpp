@@ -22,14 +22,14 @@ std::string Section(const Lines& codes) {
 TEST(ObservationFile, HasElevenElementsWithTheirWords) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(FileTextOf(rig.k70.ILObservation),
+  EXPECT_EQ(FileTextOf(rig.units.ILObservation),
             Section({"False", "False", "False", "True", "True", "True", "False", "False", "False",
                      "False", "False"}));
 }
 
 TEST(ObservationFile, HasEveryUnknownEntryAsUnknown) {
   const Rig rig("Harbour");
-  EXPECT_EQ(FileTextOf(rig.k70.ILObservation), Section(Lines(11, "Unknown")));
+  EXPECT_EQ(FileTextOf(rig.units.ILObservation), Section(Lines(11, "Unknown")));
 }
 
 TEST(ObservationFile, HasANumberThatIsNeitherOnNorOffAsUnknown) {
@@ -37,7 +37,7 @@ TEST(ObservationFile, HasANumberThatIsNeitherOnNorOffAsUnknown) {
   rig.instrument().Interlock(1, 1) = 2;
   rig.ConnectAndReceive();
   EXPECT_TRUE(
-      FileTextOf(rig.k70.ILObservation).starts_with("<SECTION>" + Element("ND", "Unknown")));
+      FileTextOf(rig.units.ILObservation).starts_with("<SECTION>" + Element("ND", "Unknown")));
 }
 
 struct WordRow {
@@ -52,7 +52,7 @@ TEST(ObservationFile, WordsAreReadInCapitalsAndInSmallLetters) {
         WordRow{"EPISHUTTER", 7}, WordRow{"analyzer", 8}, WordRow{"nosePIECE", 9},
         WordRow{"opticalzoom", 10}, WordRow{"LIGHTPATH", 11}}) {
     Rig rig("Harbour");
-    clsInterLockObservation& unit = rig.k70.ILObservation;
+    clsInterLockObservation& unit = rig.units.ILObservation;
     EXPECT_EQ(ReadElement(unit, Element(row.word, "TRUE")), "");
     for (std::int32_t k = 1; k <= 11; ++k) {
       EXPECT_EQ(unit.Status(k), k == row.number ? 1 : -1) << row.word << ' ' << k;
@@ -66,9 +66,9 @@ TEST(ObservationFile, WordsAreReadInCapitalsAndInSmallLetters) {
 
 TEST(ObservationFile, ARefusedElementIsNamedAsItStandsInTheFile) {
   Rig rig("Harbour");
-  EXPECT_EQ(ReadElement(rig.k70.ILObservation, R"(<x position="epi shutter" code="true"/>)"),
+  EXPECT_EQ(ReadElement(rig.units.ILObservation, R"(<x position="epi shutter" code="true"/>)"),
             "InterLock Observation[epi shutter]");
-  EXPECT_EQ(ReadElement(rig.k70.ILObservation, R"(<x POSITION="EPISHUTTER" CODE="yes"/>)"),
+  EXPECT_EQ(ReadElement(rig.units.ILObservation, R"(<x POSITION="EPISHUTTER" CODE="yes"/>)"),
             "InterLock Observation[EPISHUTTER]");
 }
 
@@ -77,11 +77,11 @@ TEST(ObservationFile, WhatIsNotMountedIsStoredAndNeverSent) {
   Fit(rig.instrument(), 2, kNotMounted);
   Fit(rig.instrument(), 9, kSensorOnly);
   rig.ConnectAndReceive();
-  EXPECT_EQ(ReadElement(rig.k70.ILObservation, Element("DiaFStop", "True")), "");
-  EXPECT_EQ(ReadElement(rig.k70.ILObservation, Element("Nosepiece", "True")), "");
-  EXPECT_EQ(rig.k70.ILObservation.Status(2), 1);
-  EXPECT_EQ(rig.k70.ILObservation.Status(9), 1);
-  EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "");
+  EXPECT_EQ(ReadElement(rig.units.ILObservation, Element("DiaFStop", "True")), "");
+  EXPECT_EQ(ReadElement(rig.units.ILObservation, Element("Nosepiece", "True")), "");
+  EXPECT_EQ(rig.units.ILObservation.Status(2), 1);
+  EXPECT_EQ(rig.units.ILObservation.Status(9), 1);
+  EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
   EXPECT_EQ(rig.journal.Lines().size(), 9U);
 }

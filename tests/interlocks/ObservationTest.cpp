@@ -9,18 +9,18 @@ namespace {
 constexpr const char* kElevenUnknown = "-1 -1 -1 -1 -1 -1 -1 -1 -1 -1 -1";
 
 std::string ObservationStates(const Rig& rig) {
-  return StatesOf(11, [&](std::int32_t k) { return rig.k70.ILObservation.Status(k); });
+  return StatesOf(11, [&](std::int32_t k) { return rig.units.ILObservation.Status(k); });
 }
 
 TEST(Observation, IsUnknownBeforeTheFirstRead) {
   const Rig rig("Harbour");
   EXPECT_EQ(ObservationStates(rig), kElevenUnknown);
-  EXPECT_FALSE(rig.k70.ILObservation.IsEnable());
+  EXPECT_FALSE(rig.units.ILObservation.IsEnable());
 }
 
 TEST(Observation, AnAccessoryBeyondElevenIsABoundsError) {
   Rig rig("Harbour");
-  clsInterLockObservation& unit = rig.k70.ILObservation;
+  clsInterLockObservation& unit = rig.units.ILObservation;
   for (const std::int32_t index : {0, 12, -1, 14, 2147483647, -2147483647 - 1}) {
     EXPECT_EQ(RaisedBy([&] { unit.Status(index); }), "Mortane:9") << index;
     EXPECT_EQ(RaisedBy([&] { unit.Status(index, 1); }), "Mortane:9") << index;
@@ -30,7 +30,7 @@ TEST(Observation, AnAccessoryBeyondElevenIsABoundsError) {
 
 TEST(Observation, TheStatusRefusesAWriteToAnUnknownEntryWhichAFileDoesNot) {
   Rig rig("Harbour");
-  clsInterLockObservation& unit = rig.k70.ILObservation;
+  clsInterLockObservation& unit = rig.units.ILObservation;
   unit.Status(11, 1);
   EXPECT_EQ(unit.Status(11), -1);
   EXPECT_EQ(ReadElement(unit, R"(<OBSERVATION POSITION="LightPath" CODE="True"/>)"), "");
@@ -43,7 +43,7 @@ TEST(Observation, TheStatusRefusesAWriteToAnUnknownEntryWhichAFileDoesNot) {
 TEST(Observation, ReadsTheElevenInOrder) {
   Rig rig("Harbour");
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILObservation.ReadSdk(), "");
+  EXPECT_EQ(rig.units.ILObservation.ReadSdk(), "");
   EXPECT_EQ(ObservationStates(rig), "0 0 0 1 1 1 0 0 0 0 0");
   Lines expected;
   for (std::int32_t k = 1; k <= 11; ++k) {
@@ -57,7 +57,7 @@ TEST(Observation, IsReadOnceWhicheverUnitsThereAre) {
     Rig rig("Harbour");
     SetUnits(rig.instrument(), units);
     rig.Connect();
-    EXPECT_EQ(rig.k70.ILObservation.ReadSdk(), "");
+    EXPECT_EQ(rig.units.ILObservation.ReadSdk(), "");
     EXPECT_EQ(ObservationStates(rig), "0 0 0 1 1 1 0 0 0 0 0");
     EXPECT_EQ(rig.journal.Lines().size(), 11U);
   }
@@ -68,7 +68,7 @@ TEST(Observation, AsksNothingAboutWhatIsAbsentOrOnlySensed) {
   Fit(rig.instrument(), 4, kSensorOnly);
   Fit(rig.instrument(), 11, kNotMounted);
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILObservation.ReadSdk(), "");
+  EXPECT_EQ(rig.units.ILObservation.ReadSdk(), "");
   EXPECT_EQ(ObservationStates(rig), "0 0 0 -1 1 1 0 0 0 0 -1");
   EXPECT_EQ(rig.journal.Lines().size(), 9U);
 }
@@ -77,7 +77,7 @@ TEST(Observation, WithoutBodyAndItsKinNothingIsReadComparedOrWritten) {
   Rig rig("Harbour");
   SetUnits(rig.instrument(), {1, 2, 3, 4});
   rig.Connect();
-  clsInterLockObservation& unit = rig.k70.ILObservation;
+  clsInterLockObservation& unit = rig.units.ILObservation;
   ReadElement(unit, R"(<OBSERVATION POSITION="ND" CODE="True"/>)");
   EXPECT_FALSE(unit.IsEnable());
   std::string list = "Before";
@@ -95,7 +95,7 @@ TEST(Observation, AReadThatFailsKeepsWhatItFoundAndForgetsTheRest) {
   rig.ConnectAndReceive();
   rig.instrument().Interlock(1, 1) = 1;
   rig.faults.Add({"ControllerSettings.Interlock(5, 1)"});
-  EXPECT_EQ(rig.k70.ILObservation.ReadSdk(), std::string("InterLock Observation (") + kNoAnswer);
+  EXPECT_EQ(rig.units.ILObservation.ReadSdk(), std::string("InterLock Observation (") + kNoAnswer);
   EXPECT_EQ(ObservationStates(rig), "1 0 0 1 -1 -1 -1 -1 -1 -1 -1");
 }
 
@@ -103,7 +103,7 @@ TEST(Observation, IsDisabledWithNoneOfTheElevenMounted) {
   Rig rig("Harbour");
   for (std::int32_t k = 1; k <= 11; ++k) Fit(rig.instrument(), k, kNotMounted);
   rig.ConnectAndReceive();
-  EXPECT_FALSE(rig.k70.ILObservation.IsEnable());
+  EXPECT_FALSE(rig.units.ILObservation.IsEnable());
 }
 
 TEST(Observation, OneKnownAndMountedAccessoryEnables) {
@@ -113,9 +113,9 @@ TEST(Observation, OneKnownAndMountedAccessoryEnables) {
       if (other != k) Fit(rig.instrument(), other, kSensorOnly);
     }
     rig.Connect();
-    EXPECT_FALSE(rig.k70.ILObservation.IsEnable()) << k;
-    EXPECT_EQ(rig.k70.ILObservation.ReadSdk(), "");
-    EXPECT_TRUE(rig.k70.ILObservation.IsEnable()) << k;
+    EXPECT_FALSE(rig.units.ILObservation.IsEnable()) << k;
+    EXPECT_EQ(rig.units.ILObservation.ReadSdk(), "");
+    EXPECT_TRUE(rig.units.ILObservation.IsEnable()) << k;
   }
 }
 
@@ -123,10 +123,10 @@ TEST(Observation, AFileEnablesOnlyForWhatIsMounted) {
   Rig rig("Harbour");
   Fit(rig.instrument(), 2, kNotMounted);
   rig.Connect();
-  ReadElement(rig.k70.ILObservation, R"(<OBSERVATION POSITION="DiaFStop" CODE="False"/>)");
-  EXPECT_FALSE(rig.k70.ILObservation.IsEnable());
-  ReadElement(rig.k70.ILObservation, R"(<OBSERVATION POSITION="ND" CODE="False"/>)");
-  EXPECT_TRUE(rig.k70.ILObservation.IsEnable());
+  ReadElement(rig.units.ILObservation, R"(<OBSERVATION POSITION="DiaFStop" CODE="False"/>)");
+  EXPECT_FALSE(rig.units.ILObservation.IsEnable());
+  ReadElement(rig.units.ILObservation, R"(<OBSERVATION POSITION="ND" CODE="False"/>)");
+  EXPECT_TRUE(rig.units.ILObservation.IsEnable());
 }
 
 struct BenchRow {
@@ -150,9 +150,9 @@ TEST(Observation, OfEachBench) {
         BenchRow{"Attic", "0 0 0 0 0 0 0 0 0 0 0", true}}) {
     Rig rig(row.bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.ILObservation.ReadSdk(), "") << row.bench;
+    EXPECT_EQ(rig.units.ILObservation.ReadSdk(), "") << row.bench;
     EXPECT_EQ(ObservationStates(rig), row.states) << row.bench;
-    EXPECT_EQ(rig.k70.ILObservation.IsEnable(), row.enabled) << row.bench;
+    EXPECT_EQ(rig.units.ILObservation.IsEnable(), row.enabled) << row.bench;
   }
 }
 

@@ -49,9 +49,9 @@ TEST(ObservationTransfer, ListsTheThreeOfTheSecondWalkAlsoWhenTheyStandThereAlre
     Rig rig("Harbour");
     SetUnits(rig.instrument(), row.units);
     rig.ConnectAndReceive();
-    TurnAll(rig.k70.ILObservation);
+    TurnAll(rig.units.ILObservation);
     std::string list = "Before";
-    EXPECT_EQ(rig.k70.ILObservation.ModifySdk(list), "");
+    EXPECT_EQ(rig.units.ILObservation.ModifySdk(list), "");
     EXPECT_EQ(list, "Before\r\n" + Report(row.named));
     const std::size_t walks = row.named.size() > 11 ? 2 : 1;
     EXPECT_EQ(rig.journal.Lines().size(), 11 * walks);
@@ -62,9 +62,9 @@ TEST(ObservationTransfer, ADeckWithABodyNamesThreeOfItsFourTwice) {
   Rig rig("DeckRemote");
   rig.instrument().Unit(1) = {1, "V1.30"};
   rig.ConnectAndReceive();
-  TurnAll(rig.k70.ILObservation);
+  TurnAll(rig.units.ILObservation);
   std::string list;
-  EXPECT_EQ(rig.k70.ILObservation.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.ILObservation.ModifySdk(list), "");
   EXPECT_EQ(list, Report({kItemLines[3], Report(kBodylessLines), Report(kBodylessLines)}));
 }
 
@@ -74,11 +74,11 @@ TEST(ObservationTransfer, ComparesWhatIsKnownAndMountedOnly) {
   rig.Connect();
   for (const char* word : {"ND", "DiaFStop", "EpiShutter"}) {
     const std::string code = std::string(word) == "EpiShutter" ? "False" : "True";
-    ReadElement(rig.k70.ILObservation,
+    ReadElement(rig.units.ILObservation,
                 "<OBSERVATION POSITION=\"" + std::string(word) + "\" CODE=\"" + code + "\"/>");
   }
   std::string list;
-  EXPECT_EQ(rig.k70.ILObservation.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.ILObservation.ModifySdk(list), "");
   EXPECT_EQ(list, "InterLock Observation[ND]");
   EXPECT_EQ(rig.journal.Lines(), (Lines{Interlock(1, 1) + " -> 0", Interlock(7, 1) + " -> 0"}));
 }
@@ -87,11 +87,11 @@ TEST(ObservationTransfer, AComparisonThatFailsAddsNoLine) {
   Rig rig("Harbour");
   SetUnits(rig.instrument(), {0, 5});
   rig.ConnectAndReceive();
-  TurnAll(rig.k70.ILObservation);
+  TurnAll(rig.units.ILObservation);
   // The last one of the second walk, which would give no line of its own.
   rig.faults.Add({"ControllerSettings.Interlock(11, 1)", 2});
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.ILObservation.ModifySdk(list),
+  EXPECT_EQ(rig.units.ILObservation.ModifySdk(list),
             std::string("InterLock Observation (") + kNoAnswer);
   EXPECT_EQ(list, "Before");
 }
@@ -99,8 +99,8 @@ TEST(ObservationTransfer, AComparisonThatFailsAddsNoLine) {
 TEST(ObservationTransfer, WritesByTurningOnAndOff) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  TurnAll(rig.k70.ILObservation);
-  EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "");
+  TurnAll(rig.units.ILObservation);
+  EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "");
   Lines expected;
   for (std::int32_t k = 1; k <= 11; ++k) {
     const bool on = k >= 4 && k <= 6;
@@ -116,8 +116,8 @@ TEST(ObservationTransfer, TheSecondWalkFindsWhatTheFirstOneWrote) {
   SetUnits(rig.instrument(), {0, 6});
   for (std::int32_t k = 1; k <= 11; ++k) Fit(rig.instrument(), k, k <= 2 ? kControllable : 0);
   rig.ConnectAndReceive();
-  rig.k70.ILObservation.Status(2, 1);
-  EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "");
+  rig.units.ILObservation.Status(2, 1);
+  EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(), (Lines{Interlock(1, 1) + " -> 0", Interlock(2, 1) + " -> 0",
                                         "ControllerSettings.SetInterlock(2, 1)",
                                         Interlock(1, 1) + " -> 0", Interlock(2, 1) + " -> 1"}));
@@ -126,19 +126,19 @@ TEST(ObservationTransfer, TheSecondWalkFindsWhatTheFirstOneWrote) {
 TEST(ObservationTransfer, AnUnknownEntryIsAskedForAndNeverWritten) {
   Rig rig("Harbour");
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines().size(), 11U);
   EXPECT_TRUE(rig.journal.Writes().empty());
   rig.faults.Add({"ControllerSettings.Interlock(8, 1)"});
-  EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "InterLock Observation[Analyzer]");
+  EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "InterLock Observation[Analyzer]");
 }
 
 TEST(ObservationTransfer, WhatCannotBeReadIsNotWrittenAndTheOthersAre) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  TurnAll(rig.k70.ILObservation);
+  TurnAll(rig.units.ILObservation);
   rig.faults.Add({"ControllerSettings.Interlock(3, 1)"});
-  EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "InterLock Observation[Dia A.Stop]");
+  EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "InterLock Observation[Dia A.Stop]");
   EXPECT_EQ(rig.journal.Writes().size(), 10U);
   EXPECT_EQ(rig.instrument().Interlock(3, 1), 0);
 }
@@ -148,10 +148,10 @@ TEST(ObservationTransfer, WhatCannotBeWrittenIsALineForEachWalkThatNamesIt) {
     Rig rig("Harbour");
     SetUnits(rig.instrument(), row.units);
     rig.ConnectAndReceive();
-    TurnAll(rig.k70.ILObservation);
+    TurnAll(rig.units.ILObservation);
     rig.faults.Add({"ControllerSettings.SetInterlock"});
     rig.faults.Add({"ControllerSettings.ClearInterlock"});
-    EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), Report(row.named));
+    EXPECT_EQ(rig.units.ILObservation.WriteSdk(), Report(row.named));
     EXPECT_EQ(rig.journal.Writes().size(), row.named.size() > 11 ? 22U : 11U);
   }
 }
@@ -161,13 +161,13 @@ TEST(ObservationTransfer, WithoutABodyAFailedLampIsNoLineAndAFailedCubeIs) {
     Rig rig("Deck");
     SetUnits(rig.instrument(), {unit});
     rig.ConnectAndReceive();
-    TurnAll(rig.k70.ILObservation);
+    TurnAll(rig.units.ILObservation);
     rig.faults.Add({"ControllerSettings.SetInterlock(4, 1)"});
-    EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "");
+    EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "");
     EXPECT_EQ(rig.instrument().Interlock(4, 1), 0);
     EXPECT_EQ(rig.instrument().Interlock(6, 1), 1);
     rig.faults.Add({"ControllerSettings.Interlock(6, 1)"});
-    EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "InterLock Observation[Filter Cube]");
+    EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "InterLock Observation[Filter Cube]");
   }
 }
 
@@ -175,12 +175,12 @@ TEST(ObservationTransfer, ANumberThatIsNeitherOnNorOffIsKeptAndWrittenAsOff) {
   Rig rig("Harbour");
   rig.instrument().Interlock(1, 1) = 2;
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.ILObservation.Status(1), 2);
+  EXPECT_EQ(rig.units.ILObservation.Status(1), 2);
   std::string list;
-  EXPECT_EQ(rig.k70.ILObservation.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.ILObservation.ModifySdk(list), "");
   EXPECT_EQ(list, "");
   rig.instrument().Interlock(1, 1) = 1;
-  EXPECT_EQ(rig.k70.ILObservation.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILObservation.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), Lines{"ControllerSettings.ClearInterlock(1, 1)"});
 }
 

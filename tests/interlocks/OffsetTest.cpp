@@ -22,8 +22,8 @@ void SetAll(clsInterLockOffset& unit, std::int32_t code) {
 
 TEST(Offset, IsUnknownBeforeTheFirstRead) {
   const Rig rig("Harbour");
-  EXPECT_EQ(Codes(rig.k70.ILOffset), "-1 -1 -1 -1");
-  EXPECT_FALSE(rig.k70.ILOffset.IsEnable());
+  EXPECT_EQ(Codes(rig.units.ILOffset), "-1 -1 -1 -1");
+  EXPECT_FALSE(rig.units.ILOffset.IsEnable());
 }
 
 TEST(Offset, ReadsTheFourInOrder) {
@@ -31,8 +31,8 @@ TEST(Offset, ReadsTheFourInOrder) {
   rig.instrument().Accessory(accessory::kEpiFieldStop).offsetCode = 7;
   rig.instrument().Accessory(accessory::kDiaApertureStop).offsetCode = 9;
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILOffset.ReadSdk(), "");
-  EXPECT_EQ(Codes(rig.k70.ILOffset), "5 0 7 9");
+  EXPECT_EQ(rig.units.ILOffset.ReadSdk(), "");
+  EXPECT_EQ(Codes(rig.units.ILOffset), "5 0 7 9");
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"NDFilterDevice.OffsetCode -> 5", "FieldStopDevice.OffsetCode -> 0",
                    "EpiFieldStopDevice.OffsetCode -> 7", "ApertureStopDevice.OffsetCode -> 9"}));
@@ -41,10 +41,10 @@ TEST(Offset, ReadsTheFourInOrder) {
 TEST(Offset, ACodeThatNoListHasIsReadAndLeftAlone) {
   Rig rig("Attic");
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILOffset.ReadSdk(), "");
-  EXPECT_EQ(Codes(rig.k70.ILOffset), "12 12 12 12");
-  EXPECT_TRUE(rig.k70.ILOffset.IsEnable());
-  EXPECT_EQ(rig.k70.ILOffset.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILOffset.ReadSdk(), "");
+  EXPECT_EQ(Codes(rig.units.ILOffset), "12 12 12 12");
+  EXPECT_TRUE(rig.units.ILOffset.IsEnable());
+  EXPECT_EQ(rig.units.ILOffset.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
@@ -52,15 +52,15 @@ TEST(Offset, WithoutTheBodyNothingIsReadComparedOrWritten) {
   Rig rig("Harbour");
   SetUnits(rig.instrument(), {1, 2, 3, 4, 5, 6});
   rig.Connect();
-  SetAll(rig.k70.ILOffset, 3);
-  EXPECT_FALSE(rig.k70.ILOffset.IsEnable());
+  SetAll(rig.units.ILOffset, 3);
+  EXPECT_FALSE(rig.units.ILOffset.IsEnable());
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.ILOffset.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.ILOffset.ModifySdk(list), "");
   EXPECT_EQ(list, "Before");
-  EXPECT_EQ(rig.k70.ILOffset.WriteSdk(), "");
-  EXPECT_EQ(Codes(rig.k70.ILOffset), "3 3 3 3");
-  EXPECT_EQ(rig.k70.ILOffset.ReadSdk(), "");
-  EXPECT_EQ(Codes(rig.k70.ILOffset), "-1 -1 -1 -1");
+  EXPECT_EQ(rig.units.ILOffset.WriteSdk(), "");
+  EXPECT_EQ(Codes(rig.units.ILOffset), "3 3 3 3");
+  EXPECT_EQ(rig.units.ILOffset.ReadSdk(), "");
+  EXPECT_EQ(Codes(rig.units.ILOffset), "-1 -1 -1 -1");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
 }
 
@@ -69,9 +69,9 @@ TEST(Offset, WhatIsAbsentOrOnlySensedIsNotAsked) {
   Fit(rig.instrument(), accessory::kDiaFieldStop, kSensorOnly);
   Fit(rig.instrument(), accessory::kDiaApertureStop, kNotMounted);
   rig.Connect();
-  SetAll(rig.k70.ILOffset, 3);
-  EXPECT_EQ(rig.k70.ILOffset.ReadSdk(), "");
-  EXPECT_EQ(Codes(rig.k70.ILOffset), "5 -1 0 -1");
+  SetAll(rig.units.ILOffset, 3);
+  EXPECT_EQ(rig.units.ILOffset.ReadSdk(), "");
+  EXPECT_EQ(Codes(rig.units.ILOffset), "5 -1 0 -1");
   EXPECT_EQ(rig.journal.Lines().size(), 2U);
 }
 
@@ -79,8 +79,8 @@ TEST(Offset, AReadThatFailsKeepsWhatItFoundAndForgetsTheRest) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"get EpiFieldStopDevice.OffsetCode"});
-  EXPECT_EQ(rig.k70.ILOffset.ReadSdk(), std::string("InterLock Offset (") + kNoAnswer);
-  EXPECT_EQ(Codes(rig.k70.ILOffset), "5 0 -1 -1");
+  EXPECT_EQ(rig.units.ILOffset.ReadSdk(), std::string("InterLock Offset (") + kNoAnswer);
+  EXPECT_EQ(Codes(rig.units.ILOffset), "5 0 -1 -1");
 }
 
 TEST(Offset, OneKnownAndMountedAccessoryEnables) {
@@ -89,10 +89,10 @@ TEST(Offset, OneKnownAndMountedAccessoryEnables) {
         &clsInterLockOffset::curAStop}) {
     Rig rig("Harbour");
     rig.Connect();
-    rig.k70.ILOffset.*code = 0;
-    EXPECT_TRUE(rig.k70.ILOffset.IsEnable());
-    rig.k70.ILOffset.*code = -1;
-    EXPECT_FALSE(rig.k70.ILOffset.IsEnable());
+    rig.units.ILOffset.*code = 0;
+    EXPECT_TRUE(rig.units.ILOffset.IsEnable());
+    rig.units.ILOffset.*code = -1;
+    EXPECT_FALSE(rig.units.ILOffset.IsEnable());
   }
 }
 
@@ -102,10 +102,10 @@ TEST(Offset, AnEpiFieldStopThatIsNotMountedDoesNotEnableAndNothingIsSentForIt) {
     for (const OffsetAccessory& row : kOffsetAccessories) Fit(rig.instrument(), row.number, 0);
     Fit(rig.instrument(), accessory::kEpiFieldStop, mounted);
     rig.ConnectAndReceive();
-    EXPECT_EQ(ReadElement(rig.k70.ILOffset, Element("EpiFStop", "4")), "");
-    EXPECT_EQ(rig.k70.ILOffset.curEpiFStop, 4);
-    EXPECT_FALSE(rig.k70.ILOffset.IsEnable());
-    EXPECT_EQ(rig.k70.ILOffset.WriteSdk(), "");
+    EXPECT_EQ(ReadElement(rig.units.ILOffset, Element("EpiFStop", "4")), "");
+    EXPECT_EQ(rig.units.ILOffset.curEpiFStop, 4);
+    EXPECT_FALSE(rig.units.ILOffset.IsEnable());
+    EXPECT_EQ(rig.units.ILOffset.WriteSdk(), "");
     EXPECT_EQ(rig.journal.CallCount(), 0U);
   }
 }
@@ -113,12 +113,12 @@ TEST(Offset, AnEpiFieldStopThatIsNotMountedDoesNotEnableAndNothingIsSentForIt) {
 TEST(Offset, AnUnknownCodeIsNeitherAskedForNorWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  SetAll(rig.k70.ILOffset, 8);
-  rig.k70.ILOffset.curND = rig.k70.ILOffset.curEpiFStop = -1;
+  SetAll(rig.units.ILOffset, 8);
+  rig.units.ILOffset.curND = rig.units.ILOffset.curEpiFStop = -1;
   std::string list;
-  EXPECT_EQ(rig.k70.ILOffset.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.ILOffset.ModifySdk(list), "");
   EXPECT_EQ(list, "InterLock Offset[Dia F.Stop]\r\nInterLock Offset[Dia A.Stop]");
-  EXPECT_EQ(rig.k70.ILOffset.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILOffset.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"FieldStopDevice.OffsetCode -> 0", "ApertureStopDevice.OffsetCode -> 0",
                    "FieldStopDevice.OffsetCode -> 0", "FieldStopDevice.OffsetCode = 8",
@@ -128,8 +128,8 @@ TEST(Offset, AnUnknownCodeIsNeitherAskedForNorWritten) {
 TEST(Offset, WritesTheFourInOrder) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  SetAll(rig.k70.ILOffset, 8);
-  EXPECT_EQ(rig.k70.ILOffset.WriteSdk(), "");
+  SetAll(rig.units.ILOffset, 8);
+  EXPECT_EQ(rig.units.ILOffset.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{"NDFilterDevice.OffsetCode -> 5", "NDFilterDevice.OffsetCode = 8",
                    "FieldStopDevice.OffsetCode -> 0", "FieldStopDevice.OffsetCode = 8",
@@ -140,10 +140,10 @@ TEST(Offset, WritesTheFourInOrder) {
 TEST(Offset, AComparisonThatFailsAddsNoLine) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  SetAll(rig.k70.ILOffset, 8);
+  SetAll(rig.units.ILOffset, 8);
   rig.faults.Add({"get ApertureStopDevice.OffsetCode"});
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.ILOffset.ModifySdk(list), std::string("InterLock Offset (") + kNoAnswer);
+  EXPECT_EQ(rig.units.ILOffset.ModifySdk(list), std::string("InterLock Offset (") + kNoAnswer);
   EXPECT_EQ(list, "Before");
 }
 
@@ -152,9 +152,9 @@ TEST(Offset, AFailedWriteOfTheEpiFieldStopSaysCondenser) {
                            "EpiFieldStopDevice"}) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    SetAll(rig.k70.ILOffset, 8);
+    SetAll(rig.units.ILOffset, 8);
     rig.faults.Add({call});
-    EXPECT_EQ(rig.k70.ILOffset.WriteSdk(), "InterLock Offset[Condenser]") << call;
+    EXPECT_EQ(rig.units.ILOffset.WriteSdk(), "InterLock Offset[Condenser]") << call;
     EXPECT_EQ(rig.instrument().Accessory(accessory::kEpiFieldStop).offsetCode, 0) << call;
     EXPECT_EQ(rig.instrument().Accessory(accessory::kDiaApertureStop).offsetCode, 8) << call;
   }
@@ -163,21 +163,21 @@ TEST(Offset, AFailedWriteOfTheEpiFieldStopSaysCondenser) {
 TEST(Offset, WhatCannotBeWrittenIsALineEach) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  SetAll(rig.k70.ILOffset, 8);
+  SetAll(rig.units.ILOffset, 8);
   for (const char* device :
        {"NDFilterDevice", "FieldStopDevice", "EpiFieldStopDevice", "ApertureStopDevice"}) {
     rig.faults.Add({"put " + std::string(device) + ".OffsetCode"});
   }
-  EXPECT_EQ(rig.k70.ILOffset.WriteSdk(),
+  EXPECT_EQ(rig.units.ILOffset.WriteSdk(),
             "InterLock Offset[ND]\r\nInterLock Offset[Dia F.Stop]\r\n"
             "InterLock Offset[Condenser]\r\nInterLock Offset[Dia A.Stop]");
 }
 
 TEST(Offset, TheFileHasTheFourInOrderAlsoWhenUnknown) {
   Rig rig("Harbour");
-  rig.k70.ILOffset.curND = 5;
-  rig.k70.ILOffset.curEpiFStop = 12;
-  EXPECT_EQ(FileTextOf(rig.k70.ILOffset),
+  rig.units.ILOffset.curND = 5;
+  rig.units.ILOffset.curEpiFStop = 12;
+  EXPECT_EQ(FileTextOf(rig.units.ILOffset),
             "<SECTION>" + Element("ND", "5") + Element("DiaFStop", "-1") +
                 Element("EpiFStop", "12") + Element("DiaAStop", "-1") + "</SECTION>");
 }
@@ -185,13 +185,13 @@ TEST(Offset, TheFileHasTheFourInOrderAlsoWhenUnknown) {
 TEST(Offset, AFileOfUnknownCodesLeavesThemAlone) {
   const Rig source("Harbour");
   DomDocument document;
-  ASSERT_TRUE(document.LoadText(FileTextOf(source.k70.ILOffset)));
+  ASSERT_TRUE(document.LoadText(FileTextOf(source.units.ILOffset)));
   Rig rig("Harbour");
-  SetAll(rig.k70.ILOffset, 6);
+  SetAll(rig.units.ILOffset, 6);
   for (const DomNode& element : document.Children().at(0).Children()) {
-    EXPECT_EQ(rig.k70.ILOffset.ReadDom(element), "");
+    EXPECT_EQ(rig.units.ILOffset.ReadDom(element), "");
   }
-  EXPECT_EQ(Codes(rig.k70.ILOffset), "6 6 6 6");
+  EXPECT_EQ(Codes(rig.units.ILOffset), "6 6 6 6");
 }
 
 struct FileRow {
@@ -206,29 +206,29 @@ TEST(Offset, ElementsAreReadWithoutRegardToCase) {
                              FileRow{"dIAaSTOP", " 2 ", "6 6 6 2"}, FileRow{"ND", "4.5", "4 6 6 6"},
                              FileRow{"ND", "5.5", "6 6 6 6"}, FileRow{"ND", "8.5", "8 6 6 6"}}) {
     Rig rig("Harbour");
-    SetAll(rig.k70.ILOffset, 6);
-    EXPECT_EQ(ReadElement(rig.k70.ILOffset, "<offset position=\"" + std::string(row.position) +
-                                                "\" code=\"" + row.code + "\" x=\"1\"/>"),
+    SetAll(rig.units.ILOffset, 6);
+    EXPECT_EQ(ReadElement(rig.units.ILOffset, "<offset position=\"" + std::string(row.position) +
+                                                  "\" code=\"" + row.code + "\" x=\"1\"/>"),
               "");
-    EXPECT_EQ(Codes(rig.k70.ILOffset), row.codes) << row.position << ' ' << row.code;
+    EXPECT_EQ(Codes(rig.units.ILOffset), row.codes) << row.position << ' ' << row.code;
   }
 }
 
 TEST(Offset, ACodeOfTenOrOfMinusOneChangesNothing) {
   for (const char* code : {"10", "-1", "-2", "2147483647", "10.5"}) {
     Rig rig("Harbour");
-    SetAll(rig.k70.ILOffset, 6);
-    EXPECT_EQ(ReadElement(rig.k70.ILOffset, Element("ND", code)), "");
-    EXPECT_EQ(Codes(rig.k70.ILOffset), "6 6 6 6") << code;
+    SetAll(rig.units.ILOffset, 6);
+    EXPECT_EQ(ReadElement(rig.units.ILOffset, Element("ND", code)), "");
+    EXPECT_EQ(Codes(rig.units.ILOffset), "6 6 6 6") << code;
   }
 }
 
 TEST(Offset, ACodeThatIsNoNumberIsZero) {
   for (const char* code : {"abc", "", "5x", "0x5", "1e300", "2147483648", "nan"}) {
     Rig rig("Harbour");
-    SetAll(rig.k70.ILOffset, 6);
-    EXPECT_EQ(ReadElement(rig.k70.ILOffset, Element("ND", code)), "");
-    EXPECT_EQ(Codes(rig.k70.ILOffset), "0 6 6 6") << code;
+    SetAll(rig.units.ILOffset, 6);
+    EXPECT_EQ(ReadElement(rig.units.ILOffset, Element("ND", code)), "");
+    EXPECT_EQ(Codes(rig.units.ILOffset), "0 6 6 6") << code;
   }
 }
 
@@ -249,9 +249,9 @@ TEST(Offset, OfEachBench) {
         BenchRow{"Attic", "12 12 12 12", true}}) {
     Rig rig(row.bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.ILOffset.ReadSdk(), "") << row.bench;
-    EXPECT_EQ(Codes(rig.k70.ILOffset), row.codes) << row.bench;
-    EXPECT_EQ(rig.k70.ILOffset.IsEnable(), row.enabled) << row.bench;
+    EXPECT_EQ(rig.units.ILOffset.ReadSdk(), "") << row.bench;
+    EXPECT_EQ(Codes(rig.units.ILOffset), row.codes) << row.bench;
+    EXPECT_EQ(rig.units.ILOffset.IsEnable(), row.enabled) << row.bench;
   }
 }
 

@@ -27,9 +27,9 @@ TEST(OtherInterlocks, EachFollowerOfTheNosepieceButTheStageEnables) {
         Fit(rig.instrument(), accessory::kNosepiece, nosepiece);
         Fit(rig.instrument(), row.number, follower);
         rig.Connect();
-        EXPECT_FALSE(rig.k70.ILOther.IsEnable());
-        ReadOther(rig.k70.ILOther, row.word);
-        EXPECT_EQ(rig.k70.ILOther.IsEnable(),
+        EXPECT_FALSE(rig.units.ILOther.IsEnable());
+        ReadOther(rig.units.ILOther, row.word);
+        EXPECT_EQ(rig.units.ILOther.IsEnable(),
                   row.enables && nosepiece == kControllable && follower == kControllable)
             << row.word << ' ' << nosepiece << ' ' << follower;
       }
@@ -44,8 +44,8 @@ TEST(OtherInterlocks, AControllableZoomEnablesWithAnEpiFieldStopThatIsPresent) {
       Fit(rig.instrument(), accessory::kOpticalZoom, zoom);
       Fit(rig.instrument(), accessory::kEpiFieldStop, epiFieldStop);
       rig.Connect();
-      ReadOther(rig.k70.ILOther, "OpticalZoom");
-      EXPECT_EQ(rig.k70.ILOther.IsEnable(), zoom == kControllable && epiFieldStop != kNotMounted)
+      ReadOther(rig.units.ILOther, "OpticalZoom");
+      EXPECT_EQ(rig.units.ILOther.IsEnable(), zoom == kControllable && epiFieldStop != kNotMounted)
           << zoom << ' ' << epiFieldStop;
     }
   }
@@ -58,8 +58,8 @@ TEST(OtherInterlocks, AControllableLightPathEnablesWithAControllableEpiFieldStop
       Fit(rig.instrument(), accessory::kLightPath, lightPath);
       Fit(rig.instrument(), accessory::kEpiFieldStop, epiFieldStop);
       rig.Connect();
-      ReadOther(rig.k70.ILOther, "LightPath");
-      EXPECT_EQ(rig.k70.ILOther.IsEnable(),
+      ReadOther(rig.units.ILOther, "LightPath");
+      EXPECT_EQ(rig.units.ILOther.IsEnable(),
                 lightPath == kControllable && epiFieldStop == kControllable)
           << lightPath << ' ' << epiFieldStop;
     }
@@ -70,8 +70,8 @@ TEST(OtherInterlocks, TheStageAloneDoesNotEnable) {
   Rig rig("Pair");
   rig.instrument().Interlock(14, 3) = 1;
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.ILOther.Status(14), 1);
-  EXPECT_FALSE(rig.k70.ILOther.IsEnable());
+  EXPECT_EQ(rig.units.ILOther.Status(14), 1);
+  EXPECT_FALSE(rig.units.ILOther.IsEnable());
 }
 
 TEST(OtherInterlocks, ASensedZoomIsReadWithoutEnabling) {
@@ -82,8 +82,8 @@ TEST(OtherInterlocks, ASensedZoomIsReadWithoutEnabling) {
   Fit(rig.instrument(), accessory::kOpticalZoom, kSensorOnly);
   rig.instrument().Interlock(13, 2) = 1;
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.ILOther.ZoomStatus(13), 1);
-  EXPECT_FALSE(rig.k70.ILOther.IsEnable());
+  EXPECT_EQ(rig.units.ILOther.ZoomStatus(13), 1);
+  EXPECT_FALSE(rig.units.ILOther.IsEnable());
 }
 
 struct BenchRow {
@@ -118,11 +118,11 @@ TEST(OtherInterlocks, OfEachBench) {
                                        PathStates(0, 0, 0), PathStates(0, 0, 0), true}}) {
     Rig rig(row.bench);
     rig.Connect();
-    EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "") << row.bench;
-    EXPECT_EQ(NosepieceStates(rig.k70.ILOther), row.nosepiece) << row.bench;
-    EXPECT_EQ(LightPathStates(rig.k70.ILOther), row.lightPath) << row.bench;
-    EXPECT_EQ(ZoomStates(rig.k70.ILOther), row.zoom) << row.bench;
-    EXPECT_EQ(rig.k70.ILOther.IsEnable(), row.enabled) << row.bench;
+    EXPECT_EQ(rig.units.ILOther.ReadSdk(), "") << row.bench;
+    EXPECT_EQ(NosepieceStates(rig.units.ILOther), row.nosepiece) << row.bench;
+    EXPECT_EQ(LightPathStates(rig.units.ILOther), row.lightPath) << row.bench;
+    EXPECT_EQ(ZoomStates(rig.units.ILOther), row.zoom) << row.bench;
+    EXPECT_EQ(rig.units.ILOther.IsEnable(), row.enabled) << row.bench;
   }
 }
 
@@ -130,8 +130,8 @@ TEST(OtherInterlocks, OfANosepieceWithNothingToFollowIt) {
   Rig rig("Pair");
   Fit(rig.instrument(), accessory::kXYStage, kNotMounted);
   rig.ConnectAndReceive();
-  EXPECT_EQ(NosepieceStates(rig.k70.ILOther), kAllUnknown);
-  EXPECT_FALSE(rig.k70.ILOther.IsEnable());
+  EXPECT_EQ(NosepieceStates(rig.units.ILOther), kAllUnknown);
+  EXPECT_FALSE(rig.units.ILOther.IsEnable());
 }
 
 }  // namespace

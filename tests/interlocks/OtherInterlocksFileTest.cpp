@@ -70,7 +70,7 @@ std::string InCapitals(std::string text) {
 TEST(OtherInterlocksFile, HasTheThreeTablesOneAfterTheOther) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(FileTextOf(rig.k70.ILOther),
+  EXPECT_EQ(FileTextOf(rig.units.ILOther),
             "<SECTION>" + Element("OTHER", "ND", "True") + Element("OTHER", "DiaFStop", "False") +
                 Element("OTHER", "DiaAStop", "True") + Element("OTHER", "Condenser", "False") +
                 Element("OTHER", "OpticalZoom", "False") + Element("OTHER", "LightPath", "True") +
@@ -83,12 +83,12 @@ TEST(OtherInterlocksFile, HasTheThreeTablesOneAfterTheOther) {
 
 TEST(OtherInterlocksFile, LeavesOutEveryUnknownEntry) {
   Rig rig("Hub");
-  EXPECT_EQ(FileTextOf(rig.k70.ILOther), "<SECTION/>");
+  EXPECT_EQ(FileTextOf(rig.units.ILOther), "<SECTION/>");
   rig.ConnectAndReceive();
-  EXPECT_EQ(FileTextOf(rig.k70.ILOther), "<SECTION>" + Element("OTHER", "OpticalZoom", "False") +
-                                             Element("OTHER", "LightPath", "False") +
-                                             Element("LIGHTPATH", "EpiFStop", "False") +
-                                             Element("ZOOM", "EpiFStop", "False") + "</SECTION>");
+  EXPECT_EQ(FileTextOf(rig.units.ILOther), "<SECTION>" + Element("OTHER", "OpticalZoom", "False") +
+                                               Element("OTHER", "LightPath", "False") +
+                                               Element("LIGHTPATH", "EpiFStop", "False") +
+                                               Element("ZOOM", "EpiFStop", "False") + "</SECTION>");
 }
 
 TEST(OtherInterlocksFile, HasANumberThatIsNeitherOnNorOffAsUnknown) {
@@ -96,7 +96,7 @@ TEST(OtherInterlocksFile, HasANumberThatIsNeitherOnNorOffAsUnknown) {
   rig.instrument().Interlock(1, 3) = 2;
   rig.ConnectAndReceive();
   EXPECT_TRUE(
-      FileTextOf(rig.k70.ILOther).starts_with("<SECTION>" + Element("OTHER", "ND", "Unknown")));
+      FileTextOf(rig.units.ILOther).starts_with("<SECTION>" + Element("OTHER", "ND", "Unknown")));
 }
 
 TEST(OtherInterlocksFile, EachWordOfATableIsReadInAnyCaseIntoThatTableAlone) {
@@ -104,7 +104,7 @@ TEST(OtherInterlocksFile, EachWordOfATableIsReadInAnyCaseIntoThatTableAlone) {
     for (const auto& [number, word] : kind.words) {
       for (const std::string& written : {word, InCapitals(word)}) {
         Rig rig("Harbour");
-        clsInterLockOther& unit = rig.k70.ILOther;
+        clsInterLockOther& unit = rig.units.ILOther;
         EXPECT_EQ(Read(unit, kind, Element(kind.element, written, "tRUE")), "");
         EXPECT_EQ((unit.*kind.state)(number), 1) << kind.element << ' ' << word;
         EXPECT_EQ(Read(unit, kind, Element(kind.element, written, "FALSE")), "");
@@ -127,10 +127,10 @@ TEST(OtherInterlocksFile, AWordThatTheTableDoesNotHaveIsIgnoredInSilence) {
         continue;
       }
       Rig rig("Harbour");
-      const std::string before = States(rig.k70.ILOther);
+      const std::string before = States(rig.units.ILOther);
       for (const char* code : {"True", "False", "Unknown"}) {
-        EXPECT_EQ(Read(rig.k70.ILOther, kind, Element(kind.element, word, code)), "");
-        EXPECT_EQ(States(rig.k70.ILOther), before) << kind.element << ' ' << word;
+        EXPECT_EQ(Read(rig.units.ILOther, kind, Element(kind.element, word, code)), "");
+        EXPECT_EQ(States(rig.units.ILOther), before) << kind.element << ' ' << word;
       }
     }
   }
@@ -140,11 +140,11 @@ TEST(OtherInterlocksFile, TheCodeUnknownLeavesTheTableAndGivesNoText) {
   for (const Kind& kind : kKinds) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    const std::string before = States(rig.k70.ILOther);
+    const std::string before = States(rig.units.ILOther);
     for (const auto& [number, word] : kind.words) {
-      EXPECT_EQ(Read(rig.k70.ILOther, kind, Element(kind.element, word, "unKnown")), "");
+      EXPECT_EQ(Read(rig.units.ILOther, kind, Element(kind.element, word, "unKnown")), "");
     }
-    EXPECT_EQ(States(rig.k70.ILOther), before) << kind.element;
+    EXPECT_EQ(States(rig.units.ILOther), before) << kind.element;
   }
 }
 
@@ -154,10 +154,10 @@ TEST(OtherInterlocksFile, ACodeThatIsNoWordGivesItsTextAlsoForAnUnknownPosition)
       for (const char* code : {"", "1", "On", " True", "Unknown "}) {
         Rig rig("Harbour");
         rig.ConnectAndReceive();
-        const std::string before = States(rig.k70.ILOther);
-        EXPECT_EQ(Read(rig.k70.ILOther, kind, Element(kind.element, position, code)),
+        const std::string before = States(rig.units.ILOther);
+        EXPECT_EQ(Read(rig.units.ILOther, kind, Element(kind.element, position, code)),
                   kind.refused + position + "]");
-        EXPECT_EQ(States(rig.k70.ILOther), before) << kind.element;
+        EXPECT_EQ(States(rig.units.ILOther), before) << kind.element;
       }
     }
   }
@@ -167,25 +167,25 @@ TEST(OtherInterlocksFile, AMissingAttributeIsAnEmptyText) {
   for (const Kind& kind : kKinds) {
     Rig rig("Harbour");
     const std::string name = kind.element;
-    EXPECT_EQ(Read(rig.k70.ILOther, kind, "<" + name + "/>"), kind.refused + "]");
-    EXPECT_EQ(Read(rig.k70.ILOther, kind, "<" + name + " POSITION=\"ND\" OTHER=\"True\"/>"),
+    EXPECT_EQ(Read(rig.units.ILOther, kind, "<" + name + "/>"), kind.refused + "]");
+    EXPECT_EQ(Read(rig.units.ILOther, kind, "<" + name + " POSITION=\"ND\" OTHER=\"True\"/>"),
               kind.refused + "ND]");
-    EXPECT_EQ(Read(rig.k70.ILOther, kind, "<" + name + " CODE=\"True\"/>"), "");
+    EXPECT_EQ(Read(rig.units.ILOther, kind, "<" + name + " CODE=\"True\"/>"), "");
   }
 }
 
 TEST(OtherInterlocksFile, AttributesAreFoundInAnyCase) {
   for (const Kind& kind : kKinds) {
     Rig rig("Harbour");
-    EXPECT_EQ(Read(rig.k70.ILOther, kind, R"(<x position="nd" x="True" code="true"/>)"), "");
-    EXPECT_EQ((rig.k70.ILOther.*kind.state)(1), 1) << kind.element;
+    EXPECT_EQ(Read(rig.units.ILOther, kind, R"(<x position="nd" x="True" code="true"/>)"), "");
+    EXPECT_EQ((rig.units.ILOther.*kind.state)(1), 1) << kind.element;
   }
 }
 
 // The copies that a read makes of the epi field stop are entries of the file like the others.
 TEST(OtherInterlocksFile, TheCopiesOfTheEpiFieldStopAreReadBack) {
   Rig rig("Harbour");
-  clsInterLockOther& unit = rig.k70.ILOther;
+  clsInterLockOther& unit = rig.units.ILOther;
   EXPECT_EQ(Read(unit, kKinds[0], Element("OTHER", "OpticalZoom", "True")), "");
   EXPECT_EQ(Read(unit, kKinds[0], Element("OTHER", "LightPath", "False")), "");
   EXPECT_EQ(unit.Status(10), 1);

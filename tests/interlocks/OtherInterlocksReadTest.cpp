@@ -8,15 +8,15 @@ namespace {
 
 TEST(OtherInterlocks, AreUnknownBeforeTheFirstRead) {
   const Rig rig("Harbour");
-  EXPECT_EQ(NosepieceStates(rig.k70.ILOther), kAllUnknown);
-  EXPECT_EQ(LightPathStates(rig.k70.ILOther), kAllUnknown);
-  EXPECT_EQ(ZoomStates(rig.k70.ILOther), kAllUnknown);
-  EXPECT_FALSE(rig.k70.ILOther.IsEnable());
+  EXPECT_EQ(NosepieceStates(rig.units.ILOther), kAllUnknown);
+  EXPECT_EQ(LightPathStates(rig.units.ILOther), kAllUnknown);
+  EXPECT_EQ(ZoomStates(rig.units.ILOther), kAllUnknown);
+  EXPECT_FALSE(rig.units.ILOther.IsEnable());
 }
 
 TEST(OtherInterlocks, AnAccessoryBeyondFourteenIsABoundsError) {
   Rig rig("Harbour");
-  clsInterLockOther& unit = rig.k70.ILOther;
+  clsInterLockOther& unit = rig.units.ILOther;
   for (const std::int32_t index : {0, 15, -1, 2147483647, -2147483647 - 1}) {
     EXPECT_EQ(RaisedBy([&] { unit.Status(index); }), "Mortane:9") << index;
     EXPECT_EQ(RaisedBy([&] { unit.Status(index, 1); }), "Mortane:9") << index;
@@ -30,7 +30,7 @@ TEST(OtherInterlocks, AnAccessoryBeyondFourteenIsABoundsError) {
 TEST(OtherInterlocks, AKnownStateIsChangedAndAnUnknownOneIsNot) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  clsInterLockOther& unit = rig.k70.ILOther;
+  clsInterLockOther& unit = rig.units.ILOther;
   for (std::int32_t k = 1; k <= 14; ++k) {
     unit.Status(k, 7);
     unit.LightPathStatus(k, 8);
@@ -44,10 +44,10 @@ TEST(OtherInterlocks, AKnownStateIsChangedAndAnUnknownOneIsNot) {
 TEST(OtherInterlocks, AreReadInOrderWithTheEpiFieldStopAskedForTwice) {
   Rig rig("Harbour");
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "");
-  EXPECT_EQ(NosepieceStates(rig.k70.ILOther), "1 0 1 -1 0 -1 -1 -1 -1 0 1 1 -1 1");
-  EXPECT_EQ(ZoomStates(rig.k70.ILOther), PathStates(0, 1, 0));
-  EXPECT_EQ(LightPathStates(rig.k70.ILOther), PathStates(0, 0, 1));
+  EXPECT_EQ(rig.units.ILOther.ReadSdk(), "");
+  EXPECT_EQ(NosepieceStates(rig.units.ILOther), "1 0 1 -1 0 -1 -1 -1 -1 0 1 1 -1 1");
+  EXPECT_EQ(ZoomStates(rig.units.ILOther), PathStates(0, 1, 0));
+  EXPECT_EQ(LightPathStates(rig.units.ILOther), PathStates(0, 0, 1));
   EXPECT_EQ(rig.journal.Lines(),
             (Lines{Interlock(1, 3) + " -> 1", Interlock(2, 3) + " -> 0", Interlock(3, 3) + " -> 1",
                    Interlock(5, 3) + " -> 0", Interlock(12, 3) + " -> 1",
@@ -63,8 +63,8 @@ TEST(OtherInterlocks, NothingFollowsANosepieceThatIsAbsentOrOnlySensed) {
     Rig rig("Harbour");
     Fit(rig.instrument(), accessory::kNosepiece, mounted);
     rig.Connect();
-    EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "");
-    EXPECT_EQ(NosepieceStates(rig.k70.ILOther), "-1 -1 -1 -1 -1 -1 -1 -1 -1 0 1 -1 -1 -1");
+    EXPECT_EQ(rig.units.ILOther.ReadSdk(), "");
+    EXPECT_EQ(NosepieceStates(rig.units.ILOther), "-1 -1 -1 -1 -1 -1 -1 -1 -1 0 1 -1 -1 -1");
     EXPECT_EQ(rig.journal.Lines().size(), 10U);
   }
 }
@@ -74,8 +74,8 @@ TEST(OtherInterlocks, OnlyWhatIsControllableFollowsTheNosepiece) {
   Fit(rig.instrument(), accessory::kNDFilter, kSensorOnly);
   Fit(rig.instrument(), accessory::kXYStage, kNotMounted);
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "");
-  EXPECT_EQ(NosepieceStates(rig.k70.ILOther), "-1 0 1 -1 0 -1 -1 -1 -1 0 1 1 -1 -1");
+  EXPECT_EQ(rig.units.ILOther.ReadSdk(), "");
+  EXPECT_EQ(NosepieceStates(rig.units.ILOther), "-1 0 1 -1 0 -1 -1 -1 -1 0 1 1 -1 -1");
 }
 
 TEST(OtherInterlocks, AZoomOrLightPathThatIsOnlySensedIsReadAndOneThatIsAbsentIsNot) {
@@ -85,8 +85,8 @@ TEST(OtherInterlocks, AZoomOrLightPathThatIsOnlySensedIsReadAndOneThatIsAbsentIs
       Fit(rig.instrument(), accessory::kOpticalZoom, zoom);
       Fit(rig.instrument(), accessory::kLightPath, lightPath);
       rig.Connect();
-      const clsInterLockOther& unit = rig.k70.ILOther;
-      EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "");
+      const clsInterLockOther& unit = rig.units.ILOther;
+      EXPECT_EQ(rig.units.ILOther.ReadSdk(), "");
       EXPECT_EQ(ZoomStates(unit), zoom == kNotMounted ? kAllUnknown : PathStates(0, 1, 0));
       EXPECT_EQ(unit.Status(10), zoom == kNotMounted ? -1 : 0);
       EXPECT_EQ(LightPathStates(unit),
@@ -103,9 +103,9 @@ TEST(OtherInterlocks, WhetherTheFollowersOfZoomAndLightPathAreMountedIsNotAsked)
     Fit(rig.instrument(), number, kNotMounted);
   }
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "");
-  EXPECT_EQ(ZoomStates(rig.k70.ILOther), PathStates(0, 1, 0));
-  EXPECT_EQ(LightPathStates(rig.k70.ILOther), PathStates(0, 0, 1));
+  EXPECT_EQ(rig.units.ILOther.ReadSdk(), "");
+  EXPECT_EQ(ZoomStates(rig.units.ILOther), PathStates(0, 1, 0));
+  EXPECT_EQ(LightPathStates(rig.units.ILOther), PathStates(0, 0, 1));
 }
 
 TEST(OtherInterlocks, ZoomAndLightPathNeedTheBodyOrTheHub) {
@@ -117,17 +117,17 @@ TEST(OtherInterlocks, ZoomAndLightPathNeedTheBodyOrTheHub) {
     Rig rig("Harbour");
     SetUnits(rig.instrument(), row.units);
     rig.Connect();
-    EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.ILOther.ZoomStatus(13), row.read ? 0 : -1);
-    EXPECT_EQ(rig.k70.ILOther.LightPathStatus(13), row.read ? 1 : -1);
-    EXPECT_EQ(rig.k70.ILOther.Status(12), 1) << "of the nosepiece, which needs neither";
+    EXPECT_EQ(rig.units.ILOther.ReadSdk(), "");
+    EXPECT_EQ(rig.units.ILOther.ZoomStatus(13), row.read ? 0 : -1);
+    EXPECT_EQ(rig.units.ILOther.LightPathStatus(13), row.read ? 1 : -1);
+    EXPECT_EQ(rig.units.ILOther.Status(12), 1) << "of the nosepiece, which needs neither";
   }
 }
 
 TEST(OtherInterlocks, WithoutABodyNoVersionIsAskedFor) {
   Rig rig("Hub");
   rig.Connect();
-  EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "");
+  EXPECT_EQ(rig.units.ILOther.ReadSdk(), "");
   EXPECT_EQ(rig.journal.Lines(), (Lines{Interlock(13, 2) + " -> 0", Interlock(13, 2) + " -> 0",
                                         Interlock(13, 4) + " -> 0", Interlock(13, 4) + " -> 0"}));
 }
@@ -136,27 +136,27 @@ TEST(OtherInterlocks, AVersionThatCannotBeReadEndsTheRead) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"ControllerVersion(1)"});
-  EXPECT_EQ(rig.k70.ILOther.ReadSdk(), std::string("InterLock Other (") + kNoAnswer);
-  EXPECT_EQ(NosepieceStates(rig.k70.ILOther), "1 0 1 -1 0 -1 -1 -1 -1 0 -1 1 -1 1");
-  EXPECT_EQ(ZoomStates(rig.k70.ILOther), PathStates(-1, -1, 0));
-  EXPECT_EQ(LightPathStates(rig.k70.ILOther), kAllUnknown);
+  EXPECT_EQ(rig.units.ILOther.ReadSdk(), std::string("InterLock Other (") + kNoAnswer);
+  EXPECT_EQ(NosepieceStates(rig.units.ILOther), "1 0 1 -1 0 -1 -1 -1 -1 0 -1 1 -1 1");
+  EXPECT_EQ(ZoomStates(rig.units.ILOther), PathStates(-1, -1, 0));
+  EXPECT_EQ(LightPathStates(rig.units.ILOther), kAllUnknown);
 }
 
 TEST(OtherInterlocks, AReadThatFailsBetweenTheTwoAnswersKeepsTheFirst) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"ControllerSettings.Interlock(13, 2)", 2});
-  EXPECT_EQ(rig.k70.ILOther.ReadSdk(), std::string("InterLock Other (") + kNoAnswer);
-  EXPECT_EQ(rig.k70.ILOther.ZoomStatus(13), 0);
-  EXPECT_EQ(rig.k70.ILOther.Status(10), -1);
+  EXPECT_EQ(rig.units.ILOther.ReadSdk(), std::string("InterLock Other (") + kNoAnswer);
+  EXPECT_EQ(rig.units.ILOther.ZoomStatus(13), 0);
+  EXPECT_EQ(rig.units.ILOther.Status(10), -1);
 }
 
 TEST(OtherInterlocks, FirmwareBelowOnePointThreeLeavesTheStopsUnknown) {
   Rig rig("Lantern");
   rig.ConnectAndReceive();
-  EXPECT_EQ(ZoomStates(rig.k70.ILOther), PathStates(-1, -1, 0));
-  EXPECT_EQ(LightPathStates(rig.k70.ILOther), PathStates(-1, -1, 0));
-  EXPECT_TRUE(rig.k70.ILOther.IsEnable());
+  EXPECT_EQ(ZoomStates(rig.units.ILOther), PathStates(-1, -1, 0));
+  EXPECT_EQ(LightPathStates(rig.units.ILOther), PathStates(-1, -1, 0));
+  EXPECT_TRUE(rig.units.ILOther.IsEnable());
 }
 
 }  // namespace

@@ -38,20 +38,20 @@ std::string Turned(std::int32_t item, std::int32_t trigger, bool on) {
 struct TurnedRig : Rig {
   TurnedRig() : Rig("Harbour") {
     ConnectAndReceive();
-    TurnAll(k70.ILOther);
+    TurnAll(units.ILOther);
   }
 };
 
 std::string DifferencesOf(Rig& rig) {
   std::string list;
-  EXPECT_EQ(rig.k70.ILOther.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.ILOther.ModifySdk(list), "");
   return list;
 }
 
 TEST(OtherInterlocksModify, ListsByNumberWithTheFollowersOfZoomAndLightPathFromTheEpiFieldStopOn) {
   TurnedRig rig;
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.ILOther.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.ILOther.ModifySdk(list), "");
   EXPECT_EQ(list,
             Report({"Before", "InterLock Other[ND]", "InterLock Other[Dia F.Stop]",
                     "InterLock Other[Dia A.Stop]", "InterLock Other[Condenser]",
@@ -70,10 +70,10 @@ TEST(OtherInterlocksModify, ListsByNumberWithTheFollowersOfZoomAndLightPathFromT
 TEST(OtherInterlocksModify, TheCopiesOfTheEpiFieldStopAreNotCompared) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.ILOther.Status(10, 1);
-  rig.k70.ILOther.Status(11, 0);
+  rig.units.ILOther.Status(10, 1);
+  rig.units.ILOther.Status(11, 0);
   EXPECT_EQ(DifferencesOf(rig), "");
-  EXPECT_EQ(rig.k70.ILOther.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILOther.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
@@ -81,7 +81,7 @@ TEST(OtherInterlocksModify, AComparisonThatFailsAddsNoLine) {
   TurnedRig rig;
   rig.faults.Add({"ControllerSettings.Interlock(14, 3)"});
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.ILOther.ModifySdk(list), std::string("InterLock Other (") + kNoAnswer);
+  EXPECT_EQ(rig.units.ILOther.ModifySdk(list), std::string("InterLock Other (") + kNoAnswer);
   EXPECT_EQ(list, "Before");
 }
 
@@ -107,20 +107,20 @@ TEST(OtherInterlocksModify, OnlyWhatIsMountedIsComparedAndWritten) {
   for (const GateRow& row : kGateRows) {
     TurnedRig source;
     DomDocument document;
-    ASSERT_TRUE(document.LoadText(FileTextOf(source.k70.ILOther)));
+    ASSERT_TRUE(document.LoadText(FileTextOf(source.units.ILOther)));
 
     Rig rig("Harbour");
     Fit(rig.instrument(), row.number, row.mounted);
     rig.Connect();
     for (const DomNode& element : document.Children().at(0).Children()) {
-      if (element.Name() == "OTHER") rig.k70.ILOther.ReadDom(element);
-      if (element.Name() == "LIGHTPATH") rig.k70.ILOther.ReadLPDom(element);
-      if (element.Name() == "ZOOM") rig.k70.ILOther.ReadZMDom(element);
+      if (element.Name() == "OTHER") rig.units.ILOther.ReadDom(element);
+      if (element.Name() == "LIGHTPATH") rig.units.ILOther.ReadLPDom(element);
+      if (element.Name() == "ZOOM") rig.units.ILOther.ReadZMDom(element);
     }
     DifferencesOf(rig);
     EXPECT_EQ(rig.journal.Lines().size(), row.differences) << row.number << ' ' << row.mounted;
     rig.journal.Clear();
-    EXPECT_EQ(rig.k70.ILOther.WriteSdk(), "");
+    EXPECT_EQ(rig.units.ILOther.WriteSdk(), "");
     EXPECT_EQ(rig.journal.Lines().size(), 2 * row.differences) << row.number << ' ' << row.mounted;
     EXPECT_EQ(rig.journal.Writes().size(), row.differences) << row.number << ' ' << row.mounted;
     EXPECT_EQ(DifferencesOf(rig), "");
@@ -133,9 +133,9 @@ TEST(OtherInterlocksModify, ZoomAndLightPathNeedNoBodyToBeComparedAndWritten) {
   rig.ConnectAndReceive();
   DomDocument document;
   ASSERT_TRUE(document.LoadText(R"(<ZOOM POSITION="ND" CODE="True"/>)"));
-  EXPECT_EQ(rig.k70.ILOther.ReadZMDom(document.Children().at(0)), "");
+  EXPECT_EQ(rig.units.ILOther.ReadZMDom(document.Children().at(0)), "");
   EXPECT_EQ(DifferencesOf(rig), "InterLock Optical Zoom [ND Filter]");
-  EXPECT_EQ(rig.k70.ILOther.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILOther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), Lines{Turned(1, kByZoom, true)});
 }
 
@@ -143,13 +143,13 @@ TEST(OtherInterlocksModify, WhatIsUnknownIsNotAskedFor) {
   Rig rig("Harbour");
   rig.Connect();
   EXPECT_EQ(DifferencesOf(rig), "");
-  EXPECT_EQ(rig.k70.ILOther.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILOther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
 }
 
 TEST(OtherInterlocksWrite, GoesOverNosepieceZoomAndLightPathInThisOrder) {
   TurnedRig rig;
-  EXPECT_EQ(rig.k70.ILOther.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILOther.WriteSdk(), "");
   Lines expected;
   const auto turned = [&](std::int32_t item, std::int32_t trigger, bool on) {
     expected.push_back(Interlock(item, trigger) + " -> " + (on ? "0" : "1"));
@@ -173,7 +173,7 @@ TEST(OtherInterlocksWrite, GoesOverNosepieceZoomAndLightPathInThisOrder) {
 TEST(OtherInterlocksWrite, WhatIsEqualIsReadAndNotWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.ILOther.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILOther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Lines().size(), 12U);
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
@@ -189,7 +189,7 @@ TEST(OtherInterlocksWrite, EachItemThatCannotBeReadOrWrittenIsALineAndTheOthersA
         if (operation == std::string(wasOn ? "SetInterlock" : "ClearInterlock")) continue;
         rig.faults.Add({"ControllerSettings." + std::string(operation) + "(" +
                         std::to_string(item) + ", " + std::to_string(trigger) + ")"});
-        EXPECT_EQ(rig.k70.ILOther.WriteSdk(), lines[line]) << item << ' ' << operation;
+        EXPECT_EQ(rig.units.ILOther.WriteSdk(), lines[line]) << item << ' ' << operation;
         EXPECT_EQ(rig.instrument().Interlock(item, trigger) == 1, wasOn);
         EXPECT_EQ(rig.journal.Writes().size(), operation == std::string("Interlock") ? 11U : 12U);
       }
@@ -204,7 +204,7 @@ TEST(OtherInterlocksWrite, EachItemThatCannotBeReadOrWrittenIsALineAndTheOthersA
 TEST(OtherInterlocksWrite, AllLinesStandInTheOrderOfTheThreePasses) {
   TurnedRig rig;
   rig.faults.Add({"ControllerSettings"});
-  EXPECT_EQ(rig.k70.ILOther.WriteSdk(),
+  EXPECT_EQ(rig.units.ILOther.WriteSdk(),
             Report({Report(kNosepieceLines), Report(kZoomFailures), Report(kLightPathFailures)}));
 }
 
@@ -212,9 +212,9 @@ TEST(OtherInterlocksWrite, ANumberThatIsNeitherOnNorOffIsWrittenAsOff) {
   Rig rig("Harbour");
   rig.instrument().Interlock(2, kByNosepiece) = 2;
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.ILOther.Status(2), 2);
+  EXPECT_EQ(rig.units.ILOther.Status(2), 2);
   rig.instrument().Interlock(2, kByNosepiece) = 1;
-  EXPECT_EQ(rig.k70.ILOther.WriteSdk(), "");
+  EXPECT_EQ(rig.units.ILOther.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), Lines{Turned(2, kByNosepiece, false)});
 }
 

@@ -31,14 +31,14 @@ void ExpectAnswersOfEachVersion() {
     Rig rig("Harbour");
     rig.instrument().Unit(1).version = row.version;
     rig.Connect();
-    EXPECT_EQ(rig.k70.ILOther.ReadSdk(), "");
-    EXPECT_EQ(ZoomStates(rig.k70.ILOther),
+    EXPECT_EQ(rig.units.ILOther.ReadSdk(), "");
+    EXPECT_EQ(ZoomStates(rig.units.ILOther),
               row.withStops ? PathStates(0, 1, 0) : PathStates(-1, -1, 0))
         << row.version;
-    EXPECT_EQ(LightPathStates(rig.k70.ILOther),
+    EXPECT_EQ(LightPathStates(rig.units.ILOther),
               row.withStops ? PathStates(0, 0, 1) : PathStates(-1, -1, 1))
         << row.version;
-    EXPECT_EQ(rig.k70.ILOther.LacksStageInterlock(), row.lacksStage) << row.version;
+    EXPECT_EQ(rig.units.ILOther.LacksStageInterlock(), row.lacksStage) << row.version;
   }
 }
 
@@ -60,24 +60,24 @@ TEST(OtherInterlocks, AVersionIsReadWithoutItsFirstCharacterWhateverThatIs) {
     Rig rig("Harbour");
     rig.instrument().Unit(1).version = version;
     rig.Connect();
-    EXPECT_TRUE(rig.k70.ILOther.LacksStageInterlock()) << version;
+    EXPECT_TRUE(rig.units.ILOther.LacksStageInterlock()) << version;
   }
 }
 
 TEST(OtherInterlocks, ABodyThatTellsNoVersionIsOfNoneWithoutTheStage) {
   Rig absent("Hub");
   absent.Connect();
-  EXPECT_FALSE(absent.k70.ILOther.LacksStageInterlock());
+  EXPECT_FALSE(absent.units.ILOther.LacksStageInterlock());
   EXPECT_EQ(absent.journal.CallCount(), 1U);
 
   Rig silent("Lantern");
   silent.Connect();
-  EXPECT_TRUE(silent.k70.ILOther.LacksStageInterlock());
+  EXPECT_TRUE(silent.units.ILOther.LacksStageInterlock());
   silent.faults.Add({"ControllerVersion(1)"});
-  EXPECT_FALSE(silent.k70.ILOther.LacksStageInterlock());
+  EXPECT_FALSE(silent.units.ILOther.LacksStageInterlock());
 
   const Rig unconnected("Lantern");
-  EXPECT_FALSE(unconnected.k70.ILOther.LacksStageInterlock());
+  EXPECT_FALSE(unconnected.units.ILOther.LacksStageInterlock());
 }
 
 }  // namespace

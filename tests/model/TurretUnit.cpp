@@ -4,7 +4,7 @@ namespace mortane::test {
 namespace {
 
 TurretUnit Nosepiece() {
-  TurretUnit turret = MakeTurretUnit(&clsK70::curNosepiece);
+  TurretUnit turret = MakeTurretUnit(&TurretModel::curNosepiece);
   turret.name = "Nosepiece";
   turret.accessory = accessory::kNosepiece;
   turret.places = &Instrument::nosepiece;
@@ -12,7 +12,6 @@ TurretUnit Nosepiece() {
   turret.highestCode = 249;
   turret.failure = "Nosepiece (";
   turret.difference = turret.item = "Nosepiece[";
-  turret.countFailure = "Nosepiece Count";
   turret.otherCode = 5;
   turret.otherName = "Plan A 20x";
   turret.countAfterRead = 3;
@@ -21,7 +20,7 @@ TurretUnit Nosepiece() {
 }
 
 TurretUnit FilterCubes() {
-  TurretUnit turret = MakeTurretUnit(&clsK70::curFilter);
+  TurretUnit turret = MakeTurretUnit(&TurretModel::curFilter);
   turret.name = "FilterCubes";
   turret.accessory = accessory::kFilterCube;
   turret.places = &Instrument::filterCubes;
@@ -29,7 +28,6 @@ TurretUnit FilterCubes() {
   turret.highestCode = 249;
   turret.failure = "Filter Cube (";
   turret.difference = turret.item = "Filter Cube[";
-  turret.countFailure = "Filter Cube Count";
   turret.otherCode = 9;
   turret.otherName = "Red";
   // Only the microscope object tells this unit its count.
@@ -38,7 +36,7 @@ TurretUnit FilterCubes() {
 }
 
 TurretUnit Condensers() {
-  TurretUnit turret = MakeTurretUnit(&clsK70::curCondenser);
+  TurretUnit turret = MakeTurretUnit(&TurretModel::curCondenser);
   turret.name = "Condensers";
   turret.accessory = accessory::kCondenser;
   turret.places = &Instrument::condensers;
@@ -47,7 +45,6 @@ TurretUnit Condensers() {
   turret.failure = "Condenser Casset (";
   turret.difference = "Condenser[";
   turret.item = "Condenser Casset[";
-  turret.countFailure = "Condenser Count";
   turret.otherCode = 9;
   turret.otherName = "Ph 3";
   turret.countAfterRead = 3;

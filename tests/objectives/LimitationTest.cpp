@@ -3,12 +3,11 @@
 
 #include <algorithm>
 
-#include "support/UnitDrill.h"
+#include "objectives/ObjectiveUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
-
-using Lines = std::vector<std::string>;
 
 std::string ValuesOf(const clsLimitation& limit) {
   return std::to_string(limit.curIncrease) + " " + std::to_string(limit.curSkip) + " " +
@@ -31,9 +30,9 @@ TEST(Limitation, EachNumberOfTheControllerIsThreeRulesBothWays) {
     Rig rig("Harbour");
     rig.instrument().limitation = row.number;
     rig.ConnectAndReceive();
-    EXPECT_EQ(ValuesOf(rig.k70.curLimit), row.values) << row.number;
-    EXPECT_TRUE(rig.k70.curLimit.IsEnable());
-    EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "");
+    EXPECT_EQ(ValuesOf(rig.units.curLimit), row.values) << row.number;
+    EXPECT_TRUE(rig.units.curLimit.IsEnable());
+    EXPECT_EQ(rig.units.curLimit.WriteSdk(), "");
     EXPECT_EQ(rig.journal.Writes(),
               Lines{"NosepieceDevice.Limitation = " + std::to_string(row.number)});
   }
@@ -44,18 +43,18 @@ TEST(Limitation, AnyOtherNumberIsThreeUnknownsAndNothingIsWritten) {
     Rig rig("Harbour");
     rig.instrument().limitation = number;
     rig.ConnectAndReceive();
-    EXPECT_EQ(ValuesOf(rig.k70.curLimit), "-1 -1 -1") << number;
-    EXPECT_FALSE(rig.k70.curLimit.IsEnable());
-    EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "");
+    EXPECT_EQ(ValuesOf(rig.units.curLimit), "-1 -1 -1") << number;
+    EXPECT_FALSE(rig.units.curLimit.IsEnable());
+    EXPECT_EQ(rig.units.curLimit.WriteSdk(), "");
     EXPECT_TRUE(rig.journal.Writes().empty());
   }
 }
 
 TEST(Limitation, IsUnknownBeforeTheFirstRead) {
   Rig rig("Harbour");
-  EXPECT_EQ(ValuesOf(rig.k70.curLimit), "-1 -1 -1");
-  EXPECT_FALSE(rig.k70.curLimit.IsEnable());
-  EXPECT_EQ(FileTextOf(rig.k70.curLimit),
+  EXPECT_EQ(ValuesOf(rig.units.curLimit), "-1 -1 -1");
+  EXPECT_FALSE(rig.units.curLimit.IsEnable());
+  EXPECT_EQ(FileTextOf(rig.units.curLimit),
             "<SECTION><LIMIT POSITION=\"LowerMagnification\" CODE=\"Unknown\"/>"
             "<LIMIT POSITION=\"Skip\" CODE=\"Unknown\"/>"
             "<LIMIT POSITION=\"WaferImmersion\" CODE=\"Unknown\"/></SECTION>");
@@ -66,14 +65,15 @@ TEST(Limitation, ANosepieceThatIsOnlySensedOrAbsentHasNone) {
     Rig rig(bench);
     rig.instrument().limitation = 5;
     rig.ConnectAndReceive();
-    rig.k70.curLimit.curIncrease = rig.k70.curLimit.curSkip = rig.k70.curLimit.curImmersion = 1;
-    EXPECT_FALSE(rig.k70.curLimit.IsEnable()) << bench;
+    rig.units.curLimit.curIncrease = rig.units.curLimit.curSkip = rig.units.curLimit.curImmersion =
+        1;
+    EXPECT_FALSE(rig.units.curLimit.IsEnable()) << bench;
     std::string list;
-    EXPECT_EQ(rig.k70.curLimit.ModifySdk(list), "");
+    EXPECT_EQ(rig.units.curLimit.ModifySdk(list), "");
     EXPECT_EQ(list, "") << bench;
-    EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "");
-    EXPECT_EQ(rig.k70.curLimit.ReadSdk(), "");
-    EXPECT_EQ(ValuesOf(rig.k70.curLimit), "-1 -1 -1") << bench;
+    EXPECT_EQ(rig.units.curLimit.WriteSdk(), "");
+    EXPECT_EQ(rig.units.curLimit.ReadSdk(), "");
+    EXPECT_EQ(ValuesOf(rig.units.curLimit), "-1 -1 -1") << bench;
     EXPECT_EQ(rig.journal.CallCount(), 0U) << bench;
   }
 }
@@ -82,8 +82,8 @@ TEST(Limitation, OneKnownRuleIsEnoughToBeEnabled) {
   Rig rig("Harbour");
   rig.instrument().limitation = 19;
   rig.ConnectAndReceive();
-  rig.k70.curLimit.curImmersion = 0;
-  EXPECT_TRUE(rig.k70.curLimit.IsEnable());
+  rig.units.curLimit.curImmersion = 0;
+  EXPECT_TRUE(rig.units.curLimit.IsEnable());
 }
 
 TEST(Limitation, AFileThatKnowsOneRuleLeavesTheOthersUnknownAndNothingIsWritten) {
@@ -91,14 +91,14 @@ TEST(Limitation, AFileThatKnowsOneRuleLeavesTheOthersUnknownAndNothingIsWritten)
     Rig rig("Harbour");
     rig.instrument().limitation = 0;
     rig.ConnectAndReceive();
-    EXPECT_EQ(ReadElement(rig.k70.curLimit,
+    EXPECT_EQ(ReadElement(rig.units.curLimit,
                           "<LIMIT POSITION=\"" + std::string(position) + "\" CODE=\"Off\"/>"),
               "");
     std::string list;
-    EXPECT_EQ(rig.k70.curLimit.ModifySdk(list), "");
+    EXPECT_EQ(rig.units.curLimit.ModifySdk(list), "");
     EXPECT_NE(list, "") << position;
     EXPECT_EQ(list.find("\r\n"), std::string::npos) << position;
-    EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "");
+    EXPECT_EQ(rig.units.curLimit.WriteSdk(), "");
     EXPECT_TRUE(rig.journal.Writes().empty()) << position;
   }
 }
@@ -118,48 +118,48 @@ TEST(Limitation, ElementsAreReadWithoutRegardToCaseOrToTheRule) {
         FileRow{"WaferImmersion", "off", "-1 -1 0"}, FileRow{"Immersion Type", "Off", "-1 -1 -1"},
         FileRow{"WaferImmersion", "unknown", "-1 -1 -1"}}) {
     Rig rig("Harbour");
-    EXPECT_EQ(ReadElement(rig.k70.curLimit, "<LIMIT POSITION=\"" + std::string(row.position) +
-                                                "\" CODE=\"" + row.code + "\"/>"),
+    EXPECT_EQ(ReadElement(rig.units.curLimit, "<LIMIT POSITION=\"" + std::string(row.position) +
+                                                  "\" CODE=\"" + row.code + "\"/>"),
               "");
-    EXPECT_EQ(ValuesOf(rig.k70.curLimit), row.values) << row.position << ' ' << row.code;
+    EXPECT_EQ(ValuesOf(rig.units.curLimit), row.values) << row.position << ' ' << row.code;
   }
 }
 
 TEST(Limitation, ASkipOfTwoHasNoNumberAndNoWord) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(ReadElement(rig.k70.curLimit, "<LIMIT POSITION=\"Skip\" CODE=\"StageDown\"/>"), "");
-  EXPECT_EQ(rig.k70.curLimit.curSkip, 2);
-  EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "");
+  EXPECT_EQ(ReadElement(rig.units.curLimit, "<LIMIT POSITION=\"Skip\" CODE=\"StageDown\"/>"), "");
+  EXPECT_EQ(rig.units.curLimit.curSkip, 2);
+  EXPECT_EQ(rig.units.curLimit.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
-  EXPECT_NE(FileTextOf(rig.k70.curLimit).find("<LIMIT POSITION=\"Skip\" CODE=\"Unknown\"/>"),
+  EXPECT_NE(FileTextOf(rig.units.curLimit).find("<LIMIT POSITION=\"Skip\" CODE=\"Unknown\"/>"),
             std::string::npos);
 }
 
 TEST(Limitation, ComparesWithTheLastReadAndAsksNothing) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curLimit.curSkip = 1;
-  EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "");
+  rig.units.curLimit.curSkip = 1;
+  EXPECT_EQ(rig.units.curLimit.WriteSdk(), "");
   std::string list;
   rig.journal.Clear();
-  EXPECT_EQ(rig.k70.curLimit.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.curLimit.ModifySdk(list), "");
   EXPECT_EQ(list, "Nosepiece Limit[Skip]");
   EXPECT_EQ(rig.journal.CallCount(), 0U);
-  EXPECT_EQ(rig.k70.curLimit.ReadSdk(), "");
+  EXPECT_EQ(rig.units.curLimit.ReadSdk(), "");
   list.clear();
-  rig.k70.curLimit.ModifySdk(list);
+  rig.units.curLimit.ModifySdk(list);
   EXPECT_EQ(list, "");
 }
 
 TEST(Limitation, ARuleThatBecameUnknownIsNoDifferenceAndKeepsAllFromBeingWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curLimit.curSkip = -1;
+  rig.units.curLimit.curSkip = -1;
   std::string list;
-  EXPECT_EQ(rig.k70.curLimit.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.curLimit.ModifySdk(list), "");
   EXPECT_EQ(list, "");
-  EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "");
+  EXPECT_EQ(rig.units.curLimit.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
@@ -167,22 +167,22 @@ TEST(Limitation, AReadThatFailsLeavesThreeUnknowns) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"get NosepieceDevice.Limitation"});
-  EXPECT_EQ(rig.k70.curLimit.ReadSdk(), "Nosepiece Limit (LIB:80004005)");
-  EXPECT_EQ(ValuesOf(rig.k70.curLimit), "-1 -1 -1");
+  EXPECT_EQ(rig.units.curLimit.ReadSdk(), "Nosepiece Limit (LIB:80004005)");
+  EXPECT_EQ(ValuesOf(rig.units.curLimit), "-1 -1 -1");
 }
 
 TEST(Limitation, AWriteThatFailsIsOneLine) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"put NosepieceDevice.Limitation"});
-  EXPECT_EQ(rig.k70.curLimit.WriteSdk(), "Nosepiece Limit");
+  EXPECT_EQ(rig.units.curLimit.WriteSdk(), "Nosepiece Limit");
 }
 
 TEST(Limitation, WordsOfTheFile) {
   Rig rig("Harbour");
   rig.instrument().limitation = 16;
   rig.ConnectAndReceive();
-  EXPECT_EQ(FileTextOf(rig.k70.curLimit),
+  EXPECT_EQ(FileTextOf(rig.units.curLimit),
             "<SECTION><LIMIT POSITION=\"LowerMagnification\" CODE=\"StageDown\"/>"
             "<LIMIT POSITION=\"Skip\" CODE=\"On\"/>"
             "<LIMIT POSITION=\"WaferImmersion\" CODE=\"NotRotate\"/></SECTION>");

@@ -2,7 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "common/Numbers.h"
-#include "support/UnitDrill.h"
+#include "objectives/ObjectiveUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
@@ -26,7 +27,7 @@ class ObjectiveFile : public testing::Test {
   }
 
   Rig rig{"Harbour"};
-  clsDbNosepiece& database = rig.k70.DbNosepiece;
+  clsDbNosepiece& database = rig.units.DbNosepiece;
   std::string before;
 };
 
@@ -36,7 +37,7 @@ TEST(ObjectiveFileText, UntouchedPositionsAreTwelveZerosAndNoName) {
   for (int n = 1; n <= 9; ++n) {
     expected += "<OPTION POSITION=\"" + std::to_string(n) + "\" CODE=\"000000000000\" NAME=\"\"/>";
   }
-  EXPECT_EQ(FileTextOf(rig.k70.DbNosepiece), expected + "</SECTION>");
+  EXPECT_EQ(FileTextOf(rig.units.DbNosepiece), expected + "</SECTION>");
 }
 
 TEST_F(ObjectiveFile, BothEndsOfEachRangeAreTaken) {
@@ -110,9 +111,9 @@ TEST_F(ObjectiveFile, WhatIsRefusedAnywayRaisesNothing) {
 
 TEST(ObjectiveFileText, WithoutTheListsEverySeriesAndTypeButZeroIsRefused) {
   Rig rig("Harbour");
-  EXPECT_EQ(ReadElement(rig.k70.DbNosepiece, Element("100640640FA1")), "Nosepiece Optional[1]");
-  EXPECT_EQ(ReadElement(rig.k70.DbNosepiece, Element("010640640FA1")), "Nosepiece Optional[1]");
-  EXPECT_EQ(ReadElement(rig.k70.DbNosepiece, Element("000640640FA1")), "");
+  EXPECT_EQ(ReadElement(rig.units.DbNosepiece, Element("100640640FA1")), "Nosepiece Optional[1]");
+  EXPECT_EQ(ReadElement(rig.units.DbNosepiece, Element("010640640FA1")), "Nosepiece Optional[1]");
+  EXPECT_EQ(ReadElement(rig.units.DbNosepiece, Element("000640640FA1")), "");
 }
 
 TEST_F(ObjectiveFile, DoesNotDependOnTheUsersNumberFormat) {

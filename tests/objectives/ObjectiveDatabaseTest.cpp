@@ -2,7 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "common/Numbers.h"
-#include "support/UnitDrill.h"
+#include "objectives/ObjectiveUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
@@ -45,7 +46,7 @@ class ObjectiveDatabase : public testing::Test {
   }
 
   Rig rig{"Harbour"};
-  clsDbNosepiece& database = rig.k70.DbNosepiece;
+  clsDbNosepiece& database = rig.units.DbNosepiece;
 };
 
 TEST_F(ObjectiveDatabase, StartsEmptyWithItsDashes) {

@@ -3,12 +3,11 @@
 
 #include <algorithm>
 
-#include "support/UnitDrill.h"
+#include "objectives/ObjectiveUnits.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
-
-using Lines = std::vector<std::string>;
 
 controller::ObjectiveData& Record(Rig& rig, std::int32_t code) {
   auto& records = rig.instrument().database.objectives;
@@ -17,9 +16,9 @@ controller::ObjectiveData& Record(Rig& rig, std::int32_t code) {
       [&](const controller::ObjectiveData& record) { return record.code == code; });
 }
 
-std::string Modified(const clsK70& k70) {
+std::string Modified(const ObjectiveUnits& units) {
   std::string list;
-  EXPECT_EQ(k70.DbNosepiece.ModifySdk(list), "");
+  EXPECT_EQ(units.DbNosepiece.ModifySdk(list), "");
   return list;
 }
 
@@ -36,7 +35,7 @@ Lines Commands(const Rig& rig) {
 TEST(ObjectiveRead, AsksTheListsOnceAndOnlyTheUsersObjectivesForTheirCodes) {
   Rig rig("Harbour");
   rig.Connect();
-  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
   const Lines first = rig.journal.Lines();
   ASSERT_GE(first.size(), 15U);
   EXPECT_EQ(first[0], "AccessoryDatabase.ObjectiveSeriesCount -> 6");
@@ -44,7 +43,7 @@ TEST(ObjectiveRead, AsksTheListsOnceAndOnlyTheUsersObjectivesForTheirCodes) {
   EXPECT_EQ(first[2], "AccessoryDatabase.ObjectiveSeries.Item(1).Name -> \"Plan A\"");
   EXPECT_EQ(first[8], "AccessoryDatabase.ObjectiveTypes.Item(1).Name -> \"Dry\"");
   rig.journal.Clear();
-  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
   Lines queries;
   for (const std::string& line : rig.journal.Lines()) {
     EXPECT_EQ(line.find("ObjectiveSeries"), std::string::npos) << line;
@@ -59,37 +58,37 @@ TEST(ObjectiveRead, WithoutANosepieceLeavesTheTableEmptyButLoadsTheLists) {
   Rig rig("Harbour");
   rig.instrument().Accessory(accessory::kNosepiece).state = 0;
   rig.Connect();
-  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 6);
-  EXPECT_EQ(rig.k70.DbNosepiece.Types(7), "Macro");
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.SeriesCount(), 6);
+  EXPECT_EQ(rig.units.DbNosepiece.Types(7), "Macro");
   for (std::int32_t code = 0; code < 250; ++code) {
-    EXPECT_EQ(rig.k70.DbNosepiece.Name(code), "");
-    EXPECT_EQ(rig.k70.DbNosepiece.SeriesCode(code), 0);
+    EXPECT_EQ(rig.units.DbNosepiece.Name(code), "");
+    EXPECT_EQ(rig.units.DbNosepiece.SeriesCode(code), 0);
   }
 }
 
 TEST(ObjectiveRead, TheCondensersSurviveAReadWithoutANosepiece) {
   Rig rig(List({"Quay", "Harbour", "Hub"}));
-  ASSERT_TRUE(rig.k70.Connect(1));
-  rig.k70.Receive();
-  ASSERT_EQ(rig.k70.DbNosepiece.AdoptiveCondenser(242), 5);
-  ASSERT_TRUE(rig.k70.Connect(2));
-  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.DbNosepiece.AdoptiveCondenser(242), 5);
-  EXPECT_NE(FileTextOf(rig.k70.DbNosepiece)
+  rig.units.Connect(1);
+  EXPECT_EQ(rig.units.Receive(), "");
+  ASSERT_EQ(rig.units.DbNosepiece.AdoptiveCondenser(242), 5);
+  rig.units.Connect(2);
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.AdoptiveCondenser(242), 5);
+  EXPECT_NE(FileTextOf(rig.units.DbNosepiece)
                 .find("<OPTION POSITION=\"2\" CODE=\"000000000005\" NAME=\"\"/>"),
             std::string::npos);
 }
 
 TEST(ObjectiveRead, ListsOfTheFirstControllerStay) {
   Rig rig(List({"Quay", "Harbour", "Attic"}));
-  ASSERT_TRUE(rig.k70.Connect(1));
-  rig.k70.Receive();
+  rig.units.Connect(1);
+  EXPECT_EQ(rig.units.Receive(), "");
   rig.prompts.AcceptAnyBox();
-  ASSERT_TRUE(rig.k70.Connect(2));
-  rig.k70.Receive();
-  EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 6);
-  EXPECT_EQ(rig.k70.DbNosepiece.Series(1), "Plan A");
+  rig.units.Connect(2);
+  rig.units.Receive();
+  EXPECT_EQ(rig.units.DbNosepiece.SeriesCount(), 6);
+  EXPECT_EQ(rig.units.DbNosepiece.Series(1), "Plan A");
 }
 
 TEST(ObjectiveRead, ListsThatFailBeforeTheyAreSizedAreAskedAgain) {
@@ -99,13 +98,13 @@ TEST(ObjectiveRead, ListsThatFailBeforeTheyAreSizedAreAskedAgain) {
     rig.Connect();
     rig.faults.Add({call, 1});
     rig.prompts.ExpectBox("*** DbNosepiece.ReadDB Error!!(80004005)", box::kOk);
-    EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 0);
-    EXPECT_EQ(rig.k70.DbNosepiece.Series(0), "-----------");
-    EXPECT_EQ(rig.k70.DbNosepiece.Name(1), "Plan A 2x");
-    EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 6);
-    EXPECT_EQ(rig.k70.DbNosepiece.TypesCount(), 7);
+    EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+    EXPECT_EQ(rig.units.DbNosepiece.SeriesCount(), 0);
+    EXPECT_EQ(rig.units.DbNosepiece.Series(0), "-----------");
+    EXPECT_EQ(rig.units.DbNosepiece.Name(1), "Plan A 2x");
+    EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+    EXPECT_EQ(rig.units.DbNosepiece.SeriesCount(), 6);
+    EXPECT_EQ(rig.units.DbNosepiece.TypesCount(), 7);
   }
 }
 
@@ -114,14 +113,14 @@ TEST(ObjectiveRead, ListsThatFailLaterStayAsFarAsTheyWereFilled) {
   rig.Connect();
   rig.faults.Add({"AccessoryDatabase.ObjectiveSeries.Item(3)", 1});
   rig.prompts.ExpectBox("*** DbNosepiece.ReadDB Error!!(80004005)", box::kOk);
-  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.DbNosepiece.SeriesCount(), 6);
-  EXPECT_EQ(rig.k70.DbNosepiece.Series(0), "-----------");
-  EXPECT_EQ(rig.k70.DbNosepiece.Series(2), "Plan F");
-  EXPECT_EQ(rig.k70.DbNosepiece.Series(3), "");
-  EXPECT_EQ(rig.k70.DbNosepiece.TypesCount(), 7);
-  EXPECT_EQ(rig.k70.DbNosepiece.Types(1), "");
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.SeriesCount(), 6);
+  EXPECT_EQ(rig.units.DbNosepiece.Series(0), "-----------");
+  EXPECT_EQ(rig.units.DbNosepiece.Series(2), "Plan F");
+  EXPECT_EQ(rig.units.DbNosepiece.Series(3), "");
+  EXPECT_EQ(rig.units.DbNosepiece.TypesCount(), 7);
+  EXPECT_EQ(rig.units.DbNosepiece.Types(1), "");
 }
 
 TEST(ObjectiveRead, ACodeBeyondTheTableEndsIt) {
@@ -129,9 +128,9 @@ TEST(ObjectiveRead, ACodeBeyondTheTableEndsIt) {
     Rig rig("Harbour");
     Record(rig, 3).code = code;
     rig.Connect();
-    EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "Nosepieces Optional (Mortane:9)") << code;
-    EXPECT_EQ(rig.k70.DbNosepiece.Name(2), "Plan A 4x");
-    EXPECT_EQ(rig.k70.DbNosepiece.Name(4), "");
+    EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "Nosepieces Optional (Mortane:9)") << code;
+    EXPECT_EQ(rig.units.DbNosepiece.Name(2), "Plan A 4x");
+    EXPECT_EQ(rig.units.DbNosepiece.Name(4), "");
   }
 }
 
@@ -140,9 +139,9 @@ TEST(ObjectiveRead, AnAnswerThatEndsWithNoDigitEndsIt) {
     Rig rig("Harbour");
     Record(rig, 241).answer = answer;
     rig.Connect();
-    EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "Nosepieces Optional (Mortane:D)") << answer;
+    EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "Nosepieces Optional (Mortane:D)") << answer;
     std::string list = "Before";
-    EXPECT_EQ(rig.k70.DbNosepiece.ModifySdk(list), "Nosepiece Optional (Mortane:D)") << answer;
+    EXPECT_EQ(rig.units.DbNosepiece.ModifySdk(list), "Nosepiece Optional (Mortane:D)") << answer;
     EXPECT_EQ(list, "Before");
   }
 }
@@ -162,8 +161,8 @@ TEST(ObjectiveWrite, EchoesTheElevenCharactersBeforeTheDigitAsTheyCame) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
     Record(rig, 241).answer = row.answer;
-    rig.k70.DbNosepiece.Set_DbNosepiece(1, "Clinic 25x", 2, 3, "25", "1.98", "0.95", 4);
-    rig.k70.DbNosepiece.WriteSdk();
+    rig.units.DbNosepiece.Set_DbNosepiece(1, "Clinic 25x", 2, 3, "25", "1.98", "0.95", 4);
+    rig.units.DbNosepiece.WriteSdk();
     ASSERT_EQ(rig.journal.Writes().size(), 1U) << row.answer;
     EXPECT_TRUE(rig.journal.Writes()[0].starts_with(row.command)) << rig.journal.Writes()[0];
   }
@@ -172,8 +171,8 @@ TEST(ObjectiveWrite, EchoesTheElevenCharactersBeforeTheDigitAsTheyCame) {
 TEST(ObjectiveWrite, AsksTheCodeAfterTheValuesAreWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.DbNosepiece.Set_DbNosepiece(1, "New", 1, 1, "40", "0.56", "0.65", 9);
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  rig.units.DbNosepiece.Set_DbNosepiece(1, "New", 1, 1, "40", "0.56", "0.65", 9);
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "");
   const Lines lines = Commands(rig);
   ASSERT_GE(lines.size(), 4U);
   EXPECT_EQ(lines[0], "AccessoryDatabase.Nosepieces.Item(27).Name = \"New\"");
@@ -186,7 +185,7 @@ TEST(ObjectiveWrite, AsksTheCodeAfterTheValuesAreWritten) {
 TEST(ObjectiveWrite, WithNothingChangedSendsOnlyTheQueries) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "");
   const Lines lines = Commands(rig);
   ASSERT_EQ(lines.size(), 9U);
   for (std::size_t i = 0; i < 9; ++i) {
@@ -197,10 +196,10 @@ TEST(ObjectiveWrite, WithNothingChangedSendsOnlyTheQueries) {
 TEST(ObjectiveWrite, NeverTouchesAFixedObjective) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.DbNosepiece.Set_DbNosepiece(0, "Pocket", 1, 2, "10", "1", "0.3", 6);
+  rig.units.DbNosepiece.Set_DbNosepiece(0, "Pocket", 1, 2, "10", "1", "0.3", 6);
   Record(rig, 1).name = "Renamed behind us";
-  EXPECT_EQ(Modified(rig.k70), "");
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_EQ(Modified(rig.units), "");
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
@@ -216,10 +215,10 @@ TEST(ObjectiveCompare, EachValueCounts) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
     changes[i](Record(rig, 241));
-    EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] Clinic 25x") << i;
-    EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "") << i;
+    EXPECT_EQ(Modified(rig.units), "Nosepiece Optional[1] Clinic 25x") << i;
+    EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "") << i;
     EXPECT_EQ(rig.journal.Writes().size(), 2U) << i;
-    EXPECT_EQ(Modified(rig.k70), "") << i;
+    EXPECT_EQ(Modified(rig.units), "") << i;
   }
 }
 
@@ -227,11 +226,11 @@ TEST(ObjectiveCompare, BlanksBehindANameDoNotCountOthersDo) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   Record(rig, 241).name = "Clinic 25x   ";
-  EXPECT_EQ(Modified(rig.k70), "");
+  EXPECT_EQ(Modified(rig.units), "");
   Record(rig, 241).name = " Clinic 25x";
-  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] Clinic 25x");
+  EXPECT_EQ(Modified(rig.units), "Nosepiece Optional[1] Clinic 25x");
   Record(rig, 241).name = "Clinic 25x\t";
-  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] Clinic 25x");
+  EXPECT_EQ(Modified(rig.units), "Nosepiece Optional[1] Clinic 25x");
 }
 
 TEST(ObjectiveCompare, ALineHasTwentyCharactersOfTheName) {
@@ -239,14 +238,14 @@ TEST(ObjectiveCompare, ALineHasTwentyCharactersOfTheName) {
   Record(rig, 241).name = "äöüäöüäöüäöüäöüäöüäöüäöü";
   rig.ConnectAndReceive();
   Record(rig, 241).series = 1;
-  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] äöüäöüäöüäöüäöüäöüäö");
+  EXPECT_EQ(Modified(rig.units), "Nosepiece Optional[1] äöüäöüäöüäöüäöüäöüäö");
 }
 
 TEST(ObjectiveCompare, AnEmptyNameLeavesTheBlankBehindTheBracket) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.DbNosepiece.Set_DbNosepiece(1, "", 2, 3, "25", "1.98", "0.95", 8);
-  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[1] \r\nNosepiece Optional[1] ");
+  rig.units.DbNosepiece.Set_DbNosepiece(1, "", 2, 3, "25", "1.98", "0.95", 8);
+  EXPECT_EQ(Modified(rig.units), "Nosepiece Optional[1] \r\nNosepiece Optional[1] ");
 }
 
 TEST(ObjectiveCompare, AnOptionOutsideTheNineIsComparedAndWrittenWithoutItsCode) {
@@ -254,8 +253,8 @@ TEST(ObjectiveCompare, AnOptionOutsideTheNineIsComparedAndWrittenWithoutItsCode)
   Record(rig, 26).option = true;
   rig.ConnectAndReceive();
   Record(rig, 26).name = "Changed";
-  EXPECT_EQ(Modified(rig.k70), "Nosepiece Optional[-214] Epi 150x");
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_EQ(Modified(rig.units), "Nosepiece Optional[-214] Epi 150x");
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(),
             (Lines{"AccessoryDatabase.Nosepieces.Item(26).Name = \"Epi 150x\"",
                    "AccessoryDatabase.Nosepieces.Item(26).SetProperties(6, 1, 150, 0.42, 0.9)"}));
@@ -268,22 +267,22 @@ TEST(ObjectiveCompare, IsNotGatedByTheNosepiece) {
   Rig rig("Harbour");
   rig.instrument().Accessory(accessory::kNosepiece).state = 0;
   rig.Connect();
-  EXPECT_EQ(rig.k70.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
   std::string list;
-  EXPECT_EQ(rig.k70.DbNosepiece.ModifySdk(list), "");
+  EXPECT_EQ(rig.units.DbNosepiece.ModifySdk(list), "");
   EXPECT_TRUE(list.starts_with("Nosepiece Optional[1] \r\nNosepiece Optional[1] \r\n")) << list;
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "");
   EXPECT_EQ(Record(rig, 241).name, "");
-  EXPECT_EQ(Modified(rig.k70), "");
+  EXPECT_EQ(Modified(rig.units), "");
 }
 
 TEST(ObjectiveCompare, LinesBeforeAFailureStay) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.DbNosepiece.Set_DbNosepiece(1, "New", 2, 3, "25", "1.98", "0.95", 3);
+  rig.units.DbNosepiece.Set_DbNosepiece(1, "New", 2, 3, "25", "1.98", "0.95", 3);
   rig.faults.Add({"QueryCommand(\"rONR2\")"});
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.DbNosepiece.ModifySdk(list), "Nosepiece Optional (LIB:80004005)");
+  EXPECT_EQ(rig.units.DbNosepiece.ModifySdk(list), "Nosepiece Optional (LIB:80004005)");
   EXPECT_EQ(list, "Before\r\nNosepiece Optional[1] New");
 }
 
@@ -329,10 +328,10 @@ TEST(ObjectiveWrite, AFailureIsALineAndStopsNeitherTheRecordNorTheScan) {
        }) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    rig.k70.DbNosepiece.Set_DbNosepiece(1, "One", 1, 1, "10", "1", "0.25", 7);
-    rig.k70.DbNosepiece.Set_DbNosepiece(3, "Three", 1, 1, "20", "1", "0.25", 8);
+    rig.units.DbNosepiece.Set_DbNosepiece(1, "One", 1, 1, "10", "1", "0.25", 7);
+    rig.units.DbNosepiece.Set_DbNosepiece(3, "Three", 1, 1, "20", "1", "0.25", 8);
     rig.faults.Add({fault.call});
-    EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), fault.lines) << fault.call;
+    EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), fault.lines) << fault.call;
     Lines expected = fault.writes;
     expected.insert(expected.end(), third.begin(), third.end());
     EXPECT_EQ(rig.journal.Writes(), expected) << fault.call;
@@ -342,11 +341,11 @@ TEST(ObjectiveWrite, AFailureIsALineAndStopsNeitherTheRecordNorTheScan) {
 TEST(ObjectiveWrite, ARecordThatFailsInBothStepsHasTwoLines) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.DbNosepiece.Set_DbNosepiece(1, "One", 1, 1, "10", "1", "0.25", 7);
+  rig.units.DbNosepiece.Set_DbNosepiece(1, "One", 1, 1, "10", "1", "0.25", 7);
   rig.faults.Add({"put AccessoryDatabase.Nosepieces.Item.Name"});
   rig.faults.Add({"AccessoryDatabase.Nosepieces.Item.SetProperties"});
   rig.faults.Add({"SendCommand"});
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional[1]\r\nNosepiece Optional[1]");
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "Nosepiece Optional[1]\r\nNosepiece Optional[1]");
   EXPECT_EQ(rig.journal.Writes().size(), 3U);
 }
 
@@ -354,7 +353,7 @@ TEST(ObjectiveWrite, AnAnswerWithoutADigitIsTheRecordsLine) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   Record(rig, 242).answer = "ONR232276013578x";
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional[2]");
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "Nosepiece Optional[2]");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
@@ -364,8 +363,8 @@ TEST(ObjectiveWrite, AnAnswerOfLessThanTwelveCharactersIsTheRecordsLineAndNothin
     Rig rig("Harbour");
     rig.ConnectAndReceive();
     Record(rig, 241).answer = answer;
-    rig.k70.DbNosepiece.Set_DbNosepiece(1, "Clinic 25x", 2, 3, "25", "1.98", "0.95", 4);
-    EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional[1]") << answer;
+    rig.units.DbNosepiece.Set_DbNosepiece(1, "Clinic 25x", 2, 3, "25", "1.98", "0.95", 4);
+    EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "Nosepiece Optional[1]") << answer;
     EXPECT_TRUE(rig.journal.Writes().empty()) << answer;
   }
 }
@@ -374,8 +373,8 @@ TEST(ObjectiveWrite, AShortAnswerThatNamesTheStoredCondenserIsNoLine) {
   Rig rig("Harbour");
   Record(rig, 241).answer = "8A3";
   rig.ConnectAndReceive();
-  EXPECT_EQ(rig.k70.DbNosepiece.AdoptiveCondenser(241), 3);
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.AdoptiveCondenser(241), 3);
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
@@ -383,7 +382,7 @@ TEST(ObjectiveWrite, ACodeBeyondTheTableIsTheRecordsLineAndWritesNothing) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   Record(rig, 249).code = 250;
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional[10]");
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "Nosepiece Optional[10]");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
@@ -391,7 +390,7 @@ TEST(ObjectiveWrite, AControllerThatWentAwayFillsOneLine) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"AccessoryDatabase.Nosepieces.Item"});
-  EXPECT_EQ(rig.k70.DbNosepiece.WriteSdk(), "Nosepiece Optional (LIB:80004005)");
+  EXPECT_EQ(rig.units.DbNosepiece.WriteSdk(), "Nosepiece Optional (LIB:80004005)");
 }
 
 }  // namespace

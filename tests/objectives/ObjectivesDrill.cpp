@@ -1,4 +1,5 @@
 // The drill of the objective units.
+#include "objectives/ObjectiveUnits.h"
 #include "support/UnitDrill.h"
 
 namespace mortane::test {
@@ -8,18 +9,18 @@ UnitDrillData Nosepiece() {
   UnitDrillData data;
   data.name = "Nosepiece";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::curNosepiece);
+  data.unit = OperationsOf(&ObjectiveUnits::curNosepiece);
   data.edits = {
       {"first address",
-       [](clsK70& k70) { k70.curNosepiece.code(1, 5); },
+       [](ObjectiveUnits& units) { units.curNosepiece.code(1, 5); },
        "Nosepiece[1] Plan A 20x",
        {"NosepieceDevice.Positions(1).Code = 5"}},
       {"nothing in the middle",
-       [](clsK70& k70) { k70.curNosepiece.code(3, 0); },
+       [](ObjectiveUnits& units) { units.curNosepiece.code(3, 0); },
        "Nosepiece[3] ",
        {"NosepieceDevice.Positions(3).Code = 0"}},
       {"the user's objective at the last address",
-       [](clsK70& k70) { k70.curNosepiece.code(6, 241); },
+       [](ObjectiveUnits& units) { units.curNosepiece.code(6, 241); },
        "Nosepiece[6] Clinic 25x",
        {"NosepieceDevice.Positions(6).Code = 241"}},
   };
@@ -44,23 +45,25 @@ UnitDrillData Database() {
   UnitDrillData data;
   data.name = "DbNosepiece";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::DbNosepiece);
+  data.unit = OperationsOf(&ObjectiveUnits::DbNosepiece);
   data.edits = {
       {"name",
-       [](clsK70& k70) {
-         k70.DbNosepiece.Set_DbNosepiece(1, "Clinic 26x", 2, 3, "25", "1.98", "0.95", 3);
+       [](ObjectiveUnits& units) {
+         units.DbNosepiece.Set_DbNosepiece(1, "Clinic 26x", 2, 3, "25", "1.98", "0.95", 3);
        },
        "Nosepiece Optional[1] Clinic 26x",
        {"AccessoryDatabase.Nosepieces.Item(27).Name = \"Clinic 26x\"",
         "AccessoryDatabase.Nosepieces.Item(27).SetProperties(2, 3, 25, 1.98, 0.95)"}},
       {"condenser",
-       [](clsK70& k70) {
-         k70.DbNosepiece.Set_DbNosepiece(2, "Loan 63x Oil", 3, 2, "63", "0.19", "1.4", 7);
+       [](ObjectiveUnits& units) {
+         units.DbNosepiece.Set_DbNosepiece(2, "Loan 63x Oil", 3, 2, "63", "0.19", "1.4", 7);
        },
        "Nosepiece Optional[2] Loan 63x Oil",
        {"SendCommand(\"cONS2322760135787\")"}},
       {"all",
-       [](clsK70& k70) { k70.DbNosepiece.Set_DbNosepiece(9, "New", 1, 7, "10", "1", "0.25", 4); },
+       [](ObjectiveUnits& units) {
+         units.DbNosepiece.Set_DbNosepiece(9, "New", 1, 7, "10", "1", "0.25", 4);
+       },
        "Nosepiece Optional[9] New\r\nNosepiece Optional[9] New",
        {"AccessoryDatabase.Nosepieces.Item(35).Name = \"New\"",
         "AccessoryDatabase.Nosepieces.Item(35).SetProperties(1, 7, 10, 1, 0.25)",
@@ -85,18 +88,18 @@ UnitDrillData Limits() {
   UnitDrillData data;
   data.name = "Limitation";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::curLimit);
+  data.unit = OperationsOf(&ObjectiveUnits::curLimit);
   data.edits = {
       {"increase",
-       [](clsK70& k70) { k70.curLimit.curIncrease = 2; },
+       [](ObjectiveUnits& units) { units.curLimit.curIncrease = 2; },
        "Nosepiece Limit[LowerMagnification]",
        {"NosepieceDevice.Limitation = 5"}},
       {"skip",
-       [](clsK70& k70) { k70.curLimit.curSkip = 1; },
+       [](ObjectiveUnits& units) { units.curLimit.curSkip = 1; },
        "Nosepiece Limit[Skip]",
        {"NosepieceDevice.Limitation = 2"}},
       {"immersion",
-       [](clsK70& k70) { k70.curLimit.curImmersion = 1; },
+       [](ObjectiveUnits& units) { units.curLimit.curImmersion = 1; },
        "Nosepiece Limit[Immersion Type]",
        {"NosepieceDevice.Limitation = 7"}},
   };

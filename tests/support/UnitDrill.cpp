@@ -11,21 +11,21 @@ constexpr const char* kFailed = "LIB:80004005)";
 
 // A rig for many rounds. Each round begins with the instrument and the unit as they were at first.
 // A new rig for each round would be slow: it connects and reads all other units, too.
-class RoundRig : public Rig {
+class RoundRig : public DrillRig {
  public:
-  RoundRig(const std::string& benchName, const UnitOperations& unit) : Rig(benchName), unit_(unit) {
-    ConnectAndReceive();
-    bench_ = simulated.bench();
-    text_ = unit_.fileText(k70);
-  }
+  explicit RoundRig(const UnitDrillData& data)
+      : DrillRig(data),
+        unit_(data.unit),
+        bench_(simulated.bench()),
+        text_(unit_.fileText(*units)) {}
 
   const std::string& TextAtFirst() const { return text_; }
 
   void BeginRound() {
     faults.Clear();
     simulated.bench() = bench_;
-    ASSERT_EQ(unit_.read(k70), "");
-    ASSERT_EQ(unit_.fileText(k70), text_);
+    ASSERT_EQ(unit_.read(*units), "");
+    ASSERT_EQ(unit_.fileText(*units), text_);
     journal.Clear();
   }
 
@@ -56,6 +56,13 @@ std::string Written(const DomNode& element, Hand hand) {
 
 }  // namespace
 
+DrillRig::DrillRig(const UnitDrillData& data)
+    : RigLibrary(benches::Named(data.bench)), units(data.unit.make(*this)) {
+  units->Connect(LastDevice());
+  EXPECT_EQ(units->Receive(), "");
+  journal.Clear();
+}
+
 // A drill over an empty table would pass without checking anything.
 void UnitDrill::SetUp() {
   const auto& edits = GetParam().edits;
@@ -68,8 +75,8 @@ void UnitDrill::SetUp() {
   ASSERT_FALSE(GetParam().refused.empty());
 }
 
-void UnitDrill::MakeAllEdits(clsK70& k70) {
-  for (const UnitEdit& edit : GetParam().edits) edit.change(k70);
+void UnitDrill::MakeAllEdits(BenchMicroscope& units) {
+  for (const UnitEdit& edit : GetParam().edits) edit.change(units);
 }
 
 std::vector<std::string> UnitDrill::LinesOf(const std::string& report) {
@@ -85,103 +92,100 @@ std::vector<std::string> UnitDrill::LinesOf(const std::string& report) {
 }
 
 TEST_P(UnitDrill, AgreesWithTheControllerAfterARead) {
-  Rig rig(GetParam().bench);
-  rig.ConnectAndReceive();
+  DrillRig rig(GetParam());
   std::string list = "Before";
-  EXPECT_EQ(GetParam().unit.read(rig.k70), "");
-  EXPECT_EQ(GetParam().unit.modify(rig.k70, list), "");
+  EXPECT_EQ(GetParam().unit.read(*rig.units), "");
+  EXPECT_EQ(GetParam().unit.modify(*rig.units, list), "");
   EXPECT_EQ(list, "Before");
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
 TEST_P(UnitDrill, AReadTakesBackWhatWasNotSent) {
-  Rig rig(GetParam().bench);
-  rig.ConnectAndReceive();
-  const std::string before = GetParam().unit.fileText(rig.k70);
-  MakeAllEdits(rig.k70);
-  EXPECT_NE(GetParam().unit.fileText(rig.k70), before);
-  EXPECT_EQ(GetParam().unit.read(rig.k70), "");
-  EXPECT_EQ(GetParam().unit.fileText(rig.k70), before);
+  DrillRig rig(GetParam());
+  const std::string before = GetParam().unit.fileText(*rig.units);
+  MakeAllEdits(*rig.units);
+  EXPECT_NE(GetParam().unit.fileText(*rig.units), before);
+  EXPECT_EQ(GetParam().unit.read(*rig.units), "");
+  EXPECT_EQ(GetParam().unit.fileText(*rig.units), before);
 }
 
 TEST_P(UnitDrill, WritesNothingMoreThanAlwaysWhenEqual) {
-  Rig rig(GetParam().bench);
-  rig.ConnectAndReceive();
-  EXPECT_EQ(GetParam().unit.write(rig.k70), "");
+  DrillRig rig(GetParam());
+  EXPECT_EQ(GetParam().unit.write(*rig.units), "");
   EXPECT_EQ(rig.journal.Writes(), GetParam().alwaysWritten);
 }
 
 TEST_P(UnitDrill, NamesEachDifferenceAndChangesNothing) {
-  RoundRig rig(GetParam().bench, GetParam().unit);
+  RoundRig rig(GetParam());
   for (const UnitEdit& edit : GetParam().edits) {
     rig.BeginRound();
     const Bench bench = rig.simulated.bench();
-    edit.change(rig.k70);
-    const std::string text = GetParam().unit.fileText(rig.k70);
+    edit.change(*rig.units);
+    const std::string text = GetParam().unit.fileText(*rig.units);
     std::string list = "Before";
-    EXPECT_EQ(GetParam().unit.modify(rig.k70, list), "") << edit.what;
+    EXPECT_EQ(GetParam().unit.modify(*rig.units, list), "") << edit.what;
     EXPECT_EQ(list, AppendLine("Before", edit.differences)) << edit.what;
     EXPECT_TRUE(rig.journal.Writes().empty()) << edit.what;
     EXPECT_TRUE(rig.simulated.bench() == bench) << edit.what;
-    EXPECT_EQ(GetParam().unit.fileText(rig.k70), text) << edit.what;
+    EXPECT_EQ(GetParam().unit.fileText(*rig.units), text) << edit.what;
   }
 }
 
 TEST_P(UnitDrill, NamesAllDifferencesInOrder) {
-  Rig rig(GetParam().bench);
-  rig.ConnectAndReceive();
-  MakeAllEdits(rig.k70);
+  DrillRig rig(GetParam());
+  MakeAllEdits(*rig.units);
   std::string expected;
   for (const UnitEdit& edit : GetParam().edits) expected = AppendLine(expected, edit.differences);
   std::string list;
-  EXPECT_EQ(GetParam().unit.modify(rig.k70, list), "");
+  EXPECT_EQ(GetParam().unit.modify(*rig.units, list), "");
   EXPECT_EQ(list, expected);
 }
 
 TEST_P(UnitDrill, WritesOnlyWhatDiffersAndTheControllerHoldsIt) {
-  RoundRig rig(GetParam().bench, GetParam().unit);
+  RoundRig rig(GetParam());
   for (const UnitEdit& edit : GetParam().edits) {
     rig.BeginRound();
-    edit.change(rig.k70);
-    const std::string wanted = GetParam().unit.fileText(rig.k70);
-    EXPECT_EQ(GetParam().unit.write(rig.k70), "") << edit.what;
+    edit.change(*rig.units);
+    const std::string wanted = GetParam().unit.fileText(*rig.units);
+    EXPECT_EQ(GetParam().unit.write(*rig.units), "") << edit.what;
     EXPECT_EQ(rig.journal.Writes(), edit.writes) << edit.what;
-    EXPECT_EQ(GetParam().unit.read(rig.k70), "") << edit.what;
-    EXPECT_EQ(GetParam().unit.fileText(rig.k70), wanted) << edit.what;
+    EXPECT_EQ(GetParam().unit.read(*rig.units), "") << edit.what;
+    EXPECT_EQ(GetParam().unit.fileText(*rig.units), wanted) << edit.what;
   }
 }
 
 TEST_P(UnitDrill, EachCallOfAReadThatFailsIsTheUnitsLine) {
   const UnitOperations& unit = GetParam().unit;
-  RoundRig rig(GetParam().bench, unit);
-  unit.read(rig.k70);
+  RoundRig rig(GetParam());
+  unit.read(*rig.units);
   const std::size_t calls = rig.journal.CallCount();
   ASSERT_GT(calls, 0U);
   for (std::size_t k = 1; k <= calls; ++k) {
     rig.BeginRound();
     rig.faults.FailCall(k);
-    EXPECT_EQ(unit.read(rig.k70), GetParam().readFailure + GetParam().readFailed) << "call " << k;
+    EXPECT_EQ(unit.read(*rig.units), GetParam().readFailure + GetParam().readFailed)
+        << "call " << k;
     EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
-    EXPECT_EQ(unit.read(rig.k70), "") << "call " << k;
-    EXPECT_EQ(unit.fileText(rig.k70), rig.TextAtFirst()) << "call " << k;
+    EXPECT_EQ(unit.read(*rig.units), "") << "call " << k;
+    EXPECT_EQ(unit.fileText(*rig.units), rig.TextAtFirst()) << "call " << k;
   }
 }
 
 TEST_P(UnitDrill, EachCallOfAComparisonThatFailsKeepsTheLinesBeforeIt) {
   const UnitOperations& unit = GetParam().unit;
-  RoundRig rig(GetParam().bench, unit);
-  MakeAllEdits(rig.k70);
+  RoundRig rig(GetParam());
+  MakeAllEdits(*rig.units);
   std::string all = "Before";
-  EXPECT_EQ(unit.modify(rig.k70, all), "");
+  EXPECT_EQ(unit.modify(*rig.units, all), "");
   const std::size_t calls = rig.journal.CallCount();
   ASSERT_EQ(calls == 0, GetParam().modifyFailure.empty());
   std::string longest;
   for (std::size_t k = 1; k <= calls; ++k) {
     rig.BeginRound();
-    MakeAllEdits(rig.k70);
+    MakeAllEdits(*rig.units);
     rig.faults.FailCall(k);
     std::string list = "Before";
-    EXPECT_EQ(unit.modify(rig.k70, list), GetParam().modifyFailure + kFailed) << "call " << k;
+    EXPECT_EQ(unit.modify(*rig.units, list), GetParam().modifyFailure + kFailed) << "call " << k;
     EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
     EXPECT_TRUE(all.starts_with(list)) << "call " << k << ": " << list;
     EXPECT_GE(list.size(), longest.size()) << "call " << k;
@@ -192,18 +196,18 @@ TEST_P(UnitDrill, EachCallOfAComparisonThatFailsKeepsTheLinesBeforeIt) {
 
 TEST_P(UnitDrill, EachCallOfAWriteThatFailsIsALineAndASecondWriteMendsIt) {
   const UnitOperations& unit = GetParam().unit;
-  RoundRig rig(GetParam().bench, unit);
-  MakeAllEdits(rig.k70);
-  const std::string wanted = unit.fileText(rig.k70);
-  EXPECT_EQ(unit.write(rig.k70), "");
+  RoundRig rig(GetParam());
+  MakeAllEdits(*rig.units);
+  const std::string wanted = unit.fileText(*rig.units);
+  EXPECT_EQ(unit.write(*rig.units), "");
   const std::size_t calls = rig.journal.CallCount();
   ASSERT_GT(calls, 0U);
   for (std::size_t k = 1; k <= calls; ++k) {
     rig.BeginRound();
     rig.prompts.AcceptAnyBox();
-    MakeAllEdits(rig.k70);
+    MakeAllEdits(*rig.units);
     rig.faults.FailCall(k);
-    for (const std::string& line : LinesOf(unit.write(rig.k70))) {
+    for (const std::string& line : LinesOf(unit.write(*rig.units))) {
       const auto& known = GetParam().writeFailures;
       EXPECT_TRUE(!line.empty() &&
                   std::any_of(known.begin(), known.end(),
@@ -211,39 +215,37 @@ TEST_P(UnitDrill, EachCallOfAWriteThatFailsIsALineAndASecondWriteMendsIt) {
           << "call " << k << ": \"" << line << '"';
     }
     EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
-    EXPECT_EQ(unit.write(rig.k70), "") << "call " << k;
-    EXPECT_EQ(unit.read(rig.k70), "") << "call " << k;
-    EXPECT_EQ(unit.fileText(rig.k70), wanted) << "call " << k;
+    EXPECT_EQ(unit.write(*rig.units), "") << "call " << k;
+    EXPECT_EQ(unit.read(*rig.units), "") << "call " << k;
+    EXPECT_EQ(unit.fileText(*rig.units), wanted) << "call " << k;
   }
 }
 
 TEST_P(UnitDrill, GoesToAFileAndBackWithoutTheController) {
   const UnitOperations& unit = GetParam().unit;
   for (const Hand hand : {Hand::Own, Hand::Other}) {
-    Rig source(GetParam().bench);
-    source.ConnectAndReceive();
-    MakeAllEdits(source.k70);
-    const std::string text = unit.fileText(source.k70);
+    DrillRig source(GetParam());
+    MakeAllEdits(*source.units);
+    const std::string text = unit.fileText(*source.units);
     DomDocument document;
     ASSERT_TRUE(document.LoadText(text));
 
-    Rig target(GetParam().bench);
-    target.ConnectAndReceive();
+    DrillRig target(GetParam());
     ASSERT_FALSE(document.Children().at(0).Children().empty());
     for (const DomNode& element : document.Children().at(0).Children()) {
-      EXPECT_EQ(unit.readElement(target.k70, Written(element, hand)), "");
+      EXPECT_EQ(unit.readElement(*target.units, Written(element, hand)), "");
     }
-    EXPECT_EQ(unit.fileText(target.k70), text);
+    EXPECT_EQ(unit.fileText(*target.units), text);
     EXPECT_EQ(target.journal.CallCount(), 0U);
   }
 }
 
 TEST_P(UnitDrill, ElementsThatAreRefusedGiveTheirLineAndChangeNothing) {
-  RoundRig rig(GetParam().bench, GetParam().unit);
+  RoundRig rig(GetParam());
   for (const RefusedElement& refused : GetParam().refused) {
     rig.BeginRound();
-    EXPECT_EQ(GetParam().unit.readElement(rig.k70, refused.xml), refused.line) << refused.xml;
-    EXPECT_EQ(GetParam().unit.fileText(rig.k70), rig.TextAtFirst()) << refused.xml;
+    EXPECT_EQ(GetParam().unit.readElement(*rig.units, refused.xml), refused.line) << refused.xml;
+    EXPECT_EQ(GetParam().unit.fileText(*rig.units), rig.TextAtFirst()) << refused.xml;
   }
 }
 

@@ -3,56 +3,75 @@
 
 #include <gtest/gtest.h>
 
+#include <concepts>
 #include <functional>
+#include <memory>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "support/Rig.h"
+#include "support/BenchMicroscope.h"
+#include "support/RigLibrary.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 
-// The unit's text in a settings file: its elements under one root.
-template <typename Unit>
-std::string FileTextOf(const Unit& unit) {
-  DomDocument document;
-  DomNode section = document.CreateElement("SECTION");
-  unit.WriteDom(document, section);
-  document.Append(section);
-  return document.ToText();
-}
-
-// Gives the unit one element, as text.
-template <typename Unit>
-std::string ReadElement(Unit& unit, const std::string& xml) {
-  DomDocument document;
-  EXPECT_TRUE(document.LoadText(xml)) << xml;
-  return unit.ReadDom(document.Children().at(0));
-}
-
-// The five operations of a unit, whichever it is.
+// The five operations of a unit, whichever it is. `make` gives the units of its room; the others
+// take no other microscope than that.
 struct UnitOperations {
-  std::function<std::string(clsK70&)> read;
-  std::function<std::string(clsK70&, std::string&)> modify;
-  std::function<std::string(clsK70&)> write;
-  std::function<std::string(clsK70&, const std::string&)> readElement;
-  std::function<std::string(const clsK70&)> fileText;
+  std::function<std::unique_ptr<BenchMicroscope>(RigLibrary&)> make;
+  std::function<std::string(BenchMicroscope&)> read;
+  std::function<std::string(BenchMicroscope&, std::string&)> modify;
+  std::function<std::string(BenchMicroscope&)> write;
+  std::function<std::string(BenchMicroscope&, const std::string&)> readElement;
+  std::function<std::string(BenchMicroscope&)> fileText;
 };
 
-template <typename Unit>
-UnitOperations OperationsOf(Unit clsK70::*unit) {
-  return {[unit](clsK70& k70) { return (k70.*unit).ReadSdk(); },
-          [unit](clsK70& k70, std::string& list) { return (k70.*unit).ModifySdk(list); },
-          [unit](clsK70& k70) { return (k70.*unit).WriteSdk(); },
-          [unit](clsK70& k70, const std::string& xml) { return ReadElement(k70.*unit, xml); },
-          [unit](const clsK70& k70) { return FileTextOf(k70.*unit); }};
+template <typename Unit, typename Units>
+UnitOperations OperationsOf(Unit Units::*unit) {
+  const auto of = [unit](BenchMicroscope& microscope) -> Unit& {
+    return static_cast<Units&>(microscope).*unit;
+  };
+  return {[](RigLibrary& rig) -> std::unique_ptr<BenchMicroscope> {
+            return std::make_unique<Units>(rig.library, rig.simulated.bench(), rig.prompts);
+          },
+          [of](BenchMicroscope& microscope) { return of(microscope).ReadSdk(); },
+          [of](BenchMicroscope& microscope, std::string& list) {
+            return of(microscope).ModifySdk(list);
+          },
+          [of](BenchMicroscope& microscope) { return of(microscope).WriteSdk(); },
+          [of](BenchMicroscope& microscope, const std::string& xml) {
+            return ReadElement(of(microscope), xml);
+          },
+          [of](BenchMicroscope& microscope) { return FileTextOf(of(microscope)); }};
 }
+
+// A function of the room's units, made of a lambda that takes them by reference.
+class UnitChange {
+ public:
+  template <typename Change>
+  requires(!std::same_as<std::remove_cvref_t<Change>, UnitChange>) UnitChange(Change change)
+      : change_(Erased(std::function(std::move(change)))) {}
+
+  void operator()(BenchMicroscope& microscope) const { change_(microscope); }
+
+ private:
+  template <typename Units>
+  static std::function<void(BenchMicroscope&)> Erased(std::function<void(Units&)> change) {
+    return [change = std::move(change)](BenchMicroscope& microscope) {
+      change(static_cast<Units&>(microscope));
+    };
+  }
+
+  std::function<void(BenchMicroscope&)> change_;
+};
 
 // A change of the unit, what ModifySdk adds to its list for it, and what WriteSdk then writes,
 // in the journal's words.
 struct UnitEdit {
   std::string what;
-  std::function<void(clsK70&)> change;
+  UnitChange change;
   std::string differences;
   std::vector<std::string> writes;
 };
@@ -85,11 +104,18 @@ inline std::string DrillName(const testing::TestParamInfo<UnitDrillData>& info) 
   return info.param.name;
 }
 
+// The units of the data's room, connected and read.
+struct DrillRig : RigLibrary {
+  explicit DrillRig(const UnitDrillData& data);
+
+  std::unique_ptr<BenchMicroscope> units;
+};
+
 // No table may be empty, and reading and writing must each call the controller.
 class UnitDrill : public testing::TestWithParam<UnitDrillData> {
  protected:
   void SetUp() override;
-  static void MakeAllEdits(clsK70& k70);
+  static void MakeAllEdits(BenchMicroscope& units);
   static std::vector<std::string> LinesOf(const std::string& report);
 };
 

@@ -1,12 +1,12 @@
 // The functions of the body's switches, beyond the drill.
 #include <gtest/gtest.h>
 
-#include "support/UnitDrill.h"
+#include "support/UnitText.h"
+#include "switches/SwitchUnits.h"
 
 namespace mortane::test {
 namespace {
 
-using Lines = std::vector<std::string>;
 using Codes = std::vector<int>;
 using Shorts = std::initializer_list<std::int16_t>;
 
@@ -16,9 +16,9 @@ Codes CodesOf(const clsDbSwitch& unit) {
   return codes;
 }
 
-std::string Modified(const clsK70& k70) {
+std::string Modified(const SwitchUnits& units) {
   std::string list;
-  EXPECT_EQ(k70.curSwitch.ModifySdk(list), "");
+  EXPECT_EQ(units.curSwitch.ModifySdk(list), "");
   return list;
 }
 
@@ -30,7 +30,7 @@ constexpr const char* kKeys = "123456789ABCDEFG";
 
 TEST(BodySwitches, AnswerAndStoreAtSixteenPositionsOnly) {
   Rig rig("Harbour");
-  clsDbSwitch& unit = rig.k70.curSwitch;
+  clsDbSwitch& unit = rig.units.curSwitch;
   EXPECT_EQ(clsDbSwitch::SwitchCount, 16);
   EXPECT_EQ(CodesOf(unit), Codes(16, 0));
   for (std::int16_t i = 1; i <= 16; ++i) unit.Func(i, static_cast<std::int16_t>(100 + i));
@@ -44,16 +44,16 @@ TEST(BodySwitches, AnswerAndStoreAtSixteenPositionsOnly) {
 TEST(BodySwitches, KeepAnyCodeThatTheyAreGiven) {
   Rig rig("Harbour");
   for (const std::int16_t code : Shorts{-32768, -3, -1, 0, 51, 52, 61, 62, 32767}) {
-    rig.k70.curSwitch.Func(4, code);
-    EXPECT_EQ(rig.k70.curSwitch.Func(4), code);
+    rig.units.curSwitch.Func(4, code);
+    EXPECT_EQ(rig.units.curSwitch.Func(4), code);
   }
 }
 
 TEST(BodySwitches, AreReadByOneCharacterForPositionAndCode) {
   Rig rig("Harbour");
   rig.Connect();
-  EXPECT_EQ(rig.k70.curSwitch.ReadSdk(), "");
-  EXPECT_EQ(CodesOf(rig.k70.curSwitch),
+  EXPECT_EQ(rig.units.curSwitch.ReadSdk(), "");
+  EXPECT_EQ(CodesOf(rig.units.curSwitch),
             (Codes{3, 3, 4, 0, 6, 13, 5, 0, 1, 2, 11, 12, 9, 10, 7, 8}));
   Lines expected;
   const std::string held = "33406D5012BC9A78";
@@ -78,10 +78,10 @@ TEST(BodySwitches, ReadWhateverCharacterTheControllerAnswers) {
     Rig rig("Harbour");
     rig.Connect();
     rig.instrument().bodySwitches[4] = row.text;
-    EXPECT_EQ(rig.k70.curSwitch.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.curSwitch.Func(5), row.code) << row.text;
-    EXPECT_EQ(Modified(rig.k70), "") << row.text;
-    EXPECT_EQ(rig.k70.curSwitch.WriteSdk(), "");
+    EXPECT_EQ(rig.units.curSwitch.ReadSdk(), "");
+    EXPECT_EQ(rig.units.curSwitch.Func(5), row.code) << row.text;
+    EXPECT_EQ(Modified(rig.units), "") << row.text;
+    EXPECT_EQ(rig.units.curSwitch.WriteSdk(), "");
     EXPECT_TRUE(rig.journal.Writes().empty()) << row.text;
   }
 }
@@ -91,12 +91,12 @@ TEST(BodySwitches, SendACodeThatWasNoDigitAsABlankOnceTheControllerHoldsAnother)
   Rig rig("Harbour");
   rig.Connect();
   rig.instrument().bodySwitches[4] = "{";
-  EXPECT_EQ(rig.k70.curSwitch.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.curSwitch.WriteSdk(), "");
+  EXPECT_EQ(rig.units.curSwitch.ReadSdk(), "");
+  EXPECT_EQ(rig.units.curSwitch.WriteSdk(), "");
   EXPECT_TRUE(rig.journal.Writes().empty());
   rig.instrument().bodySwitches[4] = "6";
-  EXPECT_EQ(Modified(rig.k70), "Switch Function[5] Nothing");
-  EXPECT_EQ(rig.k70.curSwitch.WriteSdk(), "");
+  EXPECT_EQ(Modified(rig.units), "Switch Function[5] Nothing");
+  EXPECT_EQ(rig.units.curSwitch.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), Lines{Set("5", " ")});
 }
 
@@ -106,10 +106,10 @@ TEST(BodySwitches, SendEveryCodeAsItsCharacter) {
   rig.Connect();
   for (std::int16_t code = -3; code <= 63; ++code) {
     rig.instrument().bodySwitches[6] = code == 0 ? "1" : "0";
-    rig.k70.curSwitch.ReadSdk();
+    rig.units.curSwitch.ReadSdk();
     rig.journal.Clear();
-    rig.k70.curSwitch.Func(7, code);
-    EXPECT_EQ(rig.k70.curSwitch.WriteSdk(), "");
+    rig.units.curSwitch.Func(7, code);
+    EXPECT_EQ(rig.units.curSwitch.WriteSdk(), "");
     const std::string text = code < 0    ? " "
                              : code > 61 ? ""
                                          : std::string(1, digits[static_cast<std::size_t>(code)]);
@@ -120,9 +120,9 @@ TEST(BodySwitches, SendEveryCodeAsItsCharacter) {
 TEST(BodySwitches, AreWrittenAfterEachWasRead) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curSwitch.Func(2, 4);
-  rig.k70.curSwitch.Func(16, 0);
-  EXPECT_EQ(rig.k70.curSwitch.WriteSdk(), "");
+  rig.units.curSwitch.Func(2, 4);
+  rig.units.curSwitch.Func(16, 0);
+  EXPECT_EQ(rig.units.curSwitch.WriteSdk(), "");
   Lines expected;
   const std::string held = "33406D5012BC9A78";
   for (std::size_t i = 0; i < held.size(); ++i) {
@@ -138,19 +138,19 @@ TEST(BodySwitches, AreWrittenAfterEachWasRead) {
 TEST(BodySwitches, ReportCodeThreeAsZEscapeAndFourAsTheKnob) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curSwitch.Func(4, 3);
-  rig.k70.curSwitch.Func(8, 4);
-  EXPECT_EQ(Modified(rig.k70),
+  rig.units.curSwitch.Func(4, 3);
+  rig.units.curSwitch.Func(8, 4);
+  EXPECT_EQ(Modified(rig.units),
             "Switch Function[4] Z Escape\r\nSwitch Function[8] Z Focus Knob Speed Change");
 }
 
 TEST(BodySwitches, ThatFailToBeComparedDropTheLinesBeforeThem) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curSwitch.Func(1, 0);
+  rig.units.curSwitch.Func(1, 0);
   rig.faults.Add({"ControllerSettings.SwitchFunction(0, \"G\")"});
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.curSwitch.ModifySdk(list), "Switch Function (LIB:80004005)");
+  EXPECT_EQ(rig.units.curSwitch.ModifySdk(list), "Switch Function (LIB:80004005)");
   EXPECT_EQ(list, "Before");
 }
 
@@ -158,8 +158,8 @@ TEST(BodySwitches, ThatFailToBeReadAreZeroFromThereOn) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.faults.Add({"ControllerSettings.SwitchFunction(0, \"A\")"});
-  EXPECT_EQ(rig.k70.curSwitch.ReadSdk(), "Switch Function (LIB:80004005)");
-  EXPECT_EQ(CodesOf(rig.k70.curSwitch), (Codes{3, 3, 4, 0, 6, 13, 5, 0, 1, 0, 0, 0, 0, 0, 0, 0}));
+  EXPECT_EQ(rig.units.curSwitch.ReadSdk(), "Switch Function (LIB:80004005)");
+  EXPECT_EQ(CodesOf(rig.units.curSwitch), (Codes{3, 3, 4, 0, 6, 13, 5, 0, 1, 0, 0, 0, 0, 0, 0, 0}));
 }
 
 TEST(BodySwitches, ThatFailToBeWrittenAreALineWithTheirCharactersAndTheScanGoesOn) {
@@ -167,10 +167,10 @@ TEST(BodySwitches, ThatFailToBeWrittenAreALineWithTheirCharactersAndTheScanGoesO
                            "ControllerSettings.SwitchFunction(0, \"A\")"}) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    rig.k70.curSwitch.Func(10, 51);
-    rig.k70.curSwitch.Func(11, 0);
+    rig.units.curSwitch.Func(10, 51);
+    rig.units.curSwitch.Func(11, 0);
     rig.faults.Add({call});
-    EXPECT_EQ(rig.k70.curSwitch.WriteSdk(), "Switch Function[A] p");
+    EXPECT_EQ(rig.units.curSwitch.WriteSdk(), "Switch Function[A] p");
     EXPECT_EQ(rig.instrument().bodySwitches[9], "2") << call;
     EXPECT_EQ(rig.instrument().bodySwitches[10], "0") << call;
   }
@@ -179,10 +179,10 @@ TEST(BodySwitches, ThatFailToBeWrittenAreALineWithTheirCharactersAndTheScanGoesO
 TEST(BodySwitches, WithoutAnyAnswerAreSixteenLines) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curSwitch.Func(4, -1);
-  rig.k70.curSwitch.Func(8, 62);
+  rig.units.curSwitch.Func(4, -1);
+  rig.units.curSwitch.Func(8, 62);
   rig.faults.Add({"ControllerSettings"});
-  EXPECT_EQ(rig.k70.curSwitch.WriteSdk(),
+  EXPECT_EQ(rig.units.curSwitch.WriteSdk(),
             "Switch Function[1] 3\r\nSwitch Function[2] 3\r\nSwitch Function[3] 4\r\n"
             "Switch Function[4]  \r\nSwitch Function[5] 6\r\nSwitch Function[6] D\r\n"
             "Switch Function[7] 5\r\nSwitch Function[8] \r\nSwitch Function[9] 1\r\n"
@@ -196,19 +196,19 @@ TEST(BodySwitches, WithoutABodyAreNotAskedAndAReadMakesThemZero) {
   for (const char* bench : {"Hub", "Outpost", "Deck", "DeckRemote", "Shell"}) {
     Rig rig(bench);
     rig.Connect();
-    rig.k70.curSwitch.Func(1, 5);
-    EXPECT_EQ(Modified(rig.k70), "") << bench;
-    EXPECT_EQ(rig.k70.curSwitch.WriteSdk(), "") << bench;
-    EXPECT_EQ(rig.k70.curSwitch.Func(1), 5);
-    EXPECT_EQ(rig.k70.curSwitch.ReadSdk(), "") << bench;
-    EXPECT_EQ(CodesOf(rig.k70.curSwitch), Codes(16, 0)) << bench;
+    rig.units.curSwitch.Func(1, 5);
+    EXPECT_EQ(Modified(rig.units), "") << bench;
+    EXPECT_EQ(rig.units.curSwitch.WriteSdk(), "") << bench;
+    EXPECT_EQ(rig.units.curSwitch.Func(1), 5);
+    EXPECT_EQ(rig.units.curSwitch.ReadSdk(), "") << bench;
+    EXPECT_EQ(CodesOf(rig.units.curSwitch), Codes(16, 0)) << bench;
     EXPECT_EQ(rig.journal.CallCount(), 0U) << bench;
   }
 }
 
 TEST(BodySwitches, TakeBothEndsOfPositionsAndCodesFromAFile) {
   Rig rig("Harbour");
-  clsDbSwitch& unit = rig.k70.curSwitch;
+  clsDbSwitch& unit = rig.units.curSwitch;
   EXPECT_EQ(ReadElement(unit, R"(<SWITCH POSITION="1" FUNCTION="51"/>)"), "");
   EXPECT_EQ(unit.Func(1), 51);
   EXPECT_EQ(ReadElement(unit, R"(<SWITCH POSITION="1" FUNCTION="0"/>)"), "");
@@ -219,36 +219,36 @@ TEST(BodySwitches, TakeBothEndsOfPositionsAndCodesFromAFile) {
 
 TEST(BodySwitches, TakeATextThatIsNoNumberAsZero) {
   Rig rig("Harbour");
-  rig.k70.curSwitch.Func(2, 5);
-  EXPECT_EQ(ReadElement(rig.k70.curSwitch, R"(<SWITCH POSITION="2" FUNCTION="Auto"/>)"), "");
-  EXPECT_EQ(rig.k70.curSwitch.Func(2), 0);
+  rig.units.curSwitch.Func(2, 5);
+  EXPECT_EQ(ReadElement(rig.units.curSwitch, R"(<SWITCH POSITION="2" FUNCTION="Auto"/>)"), "");
+  EXPECT_EQ(rig.units.curSwitch.Func(2), 0);
 }
 
 TEST(BodySwitches, RaiseABoundsFailureForThePositionBehindTheLast) {
   Rig rig("Harbour");
   try {
-    ReadElement(rig.k70.curSwitch, R"(<SWITCH POSITION="17" FUNCTION="1"/>)");
+    ReadElement(rig.units.curSwitch, R"(<SWITCH POSITION="17" FUNCTION="1"/>)");
     FAIL() << "position 17 was taken";
   } catch (const Failure& failure) {
     EXPECT_EQ(failure.Number(), kSubscriptError);
     EXPECT_EQ(failure.Source(), "Mortane");
   }
-  EXPECT_EQ(CodesOf(rig.k70.curSwitch), Codes(16, 0));
+  EXPECT_EQ(CodesOf(rig.units.curSwitch), Codes(16, 0));
 }
 
 TEST(BodySwitches, AreWrittenToAFileInSixteenElements) {
   Rig rig("Harbour");
   for (std::int16_t i = 1; i <= 16; ++i) {
-    rig.k70.curSwitch.Func(i, static_cast<std::int16_t>(3 * i));
+    rig.units.curSwitch.Func(i, static_cast<std::int16_t>(3 * i));
   }
-  rig.k70.curSwitch.Func(16, -3);
+  rig.units.curSwitch.Func(16, -3);
   std::string expected;
   for (int i = 1; i <= 15; ++i) {
     expected += "<SWITCH POSITION=\"" + std::to_string(i) + "\" FUNCTION=\"" +
                 std::to_string(3 * i) + "\"/>";
   }
   expected += R"(<SWITCH POSITION="16" FUNCTION="-3"/>)";
-  EXPECT_EQ(FileTextOf(rig.k70.curSwitch), "<SECTION>" + expected + "</SECTION>");
+  EXPECT_EQ(FileTextOf(rig.units.curSwitch), "<SECTION>" + expected + "</SECTION>");
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "support/Rig.h"
 #include "switches/SwitchFunctions.h"
+#include "switches/SwitchUnits.h"
 
 namespace mortane::test {
 namespace {
@@ -27,7 +27,7 @@ struct KnobRig : Rig {
   }
 
   KnobCheck Check(TactorSearch search = TactorSearch::IfPresent) {
-    return {k70.curSwitch, k70.curTactor, {curAutoZ, curAutoXY}, search, prompts};
+    return {units.curSwitch, units.curTactor, {curAutoZ, curAutoXY}, search, prompts};
   }
   Texts Run(TactorSearch search = TactorSearch::IfPresent) {
     prompts.ClearRecords();
@@ -78,7 +78,7 @@ TEST(KnobCheck, MakesEachKnobAgreeWithTheSwitches) {
   for (const KnobRow& knob : kKnobRows) {
     for (const CheckRow& row : kCheckRows) {
       KnobRig rig("Harbour");
-      if (row.found) rig.k70.curSwitch.Func(16, knob.code);
+      if (row.found) rig.units.curSwitch.Func(16, knob.code);
       rig.*knob.mode = row.mode;
       Texts expected;
       if (row.after != row.mode) expected = {row.after == 1 ? knob.nowAuto : knob.nowManual};
@@ -93,7 +93,7 @@ TEST(KnobCheck, MakesEachKnobAgreeWithTheSwitches) {
 TEST(KnobCheck, LooksAtEveryPositionOfTheBody) {
   for (std::int16_t i = 1; i <= 16; ++i) {
     KnobRig rig("Lantern");
-    rig.k70.curSwitch.Func(i, kFocusSpeed);
+    rig.units.curSwitch.Func(i, kFocusSpeed);
     rig.curAutoZ = 1;
     EXPECT_EQ(rig.Run(), Texts{kFocusManual}) << i;
   }
@@ -102,7 +102,7 @@ TEST(KnobCheck, LooksAtEveryPositionOfTheBody) {
 TEST(KnobCheck, LooksAtEveryPositionOfTheHandController) {
   for (std::int16_t i = 1; i <= 14; ++i) {
     KnobRig rig("Harbour");
-    rig.k70.curTactor.Func(i, kStageSpeed);
+    rig.units.curTactor.Func(i, kStageSpeed);
     rig.curAutoXY = 1;
     EXPECT_EQ(rig.Run(), Texts{kStageManual}) << i;
   }
@@ -112,8 +112,8 @@ TEST(KnobCheck, TakesNoOtherCodeForASpeedChange) {
   for (std::int16_t code = -3; code <= 61; ++code) {
     if (code == kFocusSpeed || code == kStageSpeed) continue;
     KnobRig rig("Harbour");
-    rig.k70.curSwitch.Func(1, code);
-    rig.k70.curTactor.Func(1, code);
+    rig.units.curSwitch.Func(1, code);
+    rig.units.curTactor.Func(1, code);
     rig.curAutoZ = rig.curAutoXY = 1;
     EXPECT_EQ(rig.Run(), Texts{}) << code;
   }
@@ -132,8 +132,8 @@ TEST(KnobCheck, AsksForTheHandControllerOnTheBodysPageAlone) {
                                SearchRow{"Lantern", TactorSearch::IfPresent, false},
                                SearchRow{"Lantern", TactorSearch::Always, true}}) {
     KnobRig rig(row.bench);
-    rig.k70.curTactor.Func(2, kFocusSpeed);
-    rig.k70.curTactor.Func(3, kStageSpeed);
+    rig.units.curTactor.Func(2, kFocusSpeed);
+    rig.units.curTactor.Func(3, kStageSpeed);
     rig.curAutoZ = rig.curAutoXY = 1;
     EXPECT_EQ(rig.Run(row.search), row.found ? (Texts{kFocusManual, kStageManual}) : Texts{});
     rig.curAutoZ = rig.curAutoXY = 0;
@@ -143,7 +143,7 @@ TEST(KnobCheck, AsksForTheHandControllerOnTheBodysPageAlone) {
 
 TEST(KnobCheck, SearchesTheBodyWhetherItIsThereOrNot) {
   KnobRig rig("Hub");
-  rig.k70.curSwitch.Func(1, kFocusSpeed);
+  rig.units.curSwitch.Func(1, kFocusSpeed);
   rig.curAutoZ = 1;
   EXPECT_EQ(rig.Run(), Texts{kFocusManual});
 }
@@ -161,7 +161,7 @@ TEST(KnobCheck, AfterTheBodysDefaultsMakesAnAutomaticFocusKnobManual) {
   KnobRig rig("Harbour");
   const BodyCodes codes = BodyDefaults();
   for (std::int16_t i = 1; i <= clsDbSwitch::SwitchCount; ++i) {
-    rig.k70.curSwitch.Func(i, codes[static_cast<std::size_t>(i - 1)]);
+    rig.units.curSwitch.Func(i, codes[static_cast<std::size_t>(i - 1)]);
   }
   rig.curAutoZ = 1;
   rig.curAutoXY = 1;
@@ -212,7 +212,7 @@ TEST(KnobCheck, TellsOfAChosenSpeedChangeBeforeTheChange) {
 TEST(KnobCheck, AChoiceIsToldOnce) {
   KnobRig rig("Harbour");
   rig.curAutoZ = rig.curAutoXY = 1;
-  rig.k70.curSwitch.Func(5, kFocusSpeed);
+  rig.units.curSwitch.Func(5, kFocusSpeed);
   EXPECT_EQ(rig.Choose(kFocusSpeed), Texts{kFocusManual});
   EXPECT_EQ(rig.Run(), Texts{});
 }
@@ -222,7 +222,7 @@ TEST(KnobCheck, AChoiceOfOneKnobLetsTheCheckTellOfTheOther) {
   KnobRig rig("Harbour");
   rig.curAutoZ = 1;
   rig.curAutoXY = 0;
-  rig.k70.curSwitch.Func(5, kFocusSpeed);
+  rig.units.curSwitch.Func(5, kFocusSpeed);
   EXPECT_EQ(rig.Choose(kFocusSpeed), Texts{kFocusManual});
   EXPECT_EQ(rig.Run(), Texts{kStageAuto});
 }

@@ -1,5 +1,6 @@
 // The drill of the switch units.
 #include "support/UnitDrill.h"
+#include "switches/SwitchUnits.h"
 
 namespace mortane::test {
 namespace {
@@ -8,26 +9,26 @@ UnitDrillData Body() {
   UnitDrillData data;
   data.name = "Switch";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::curSwitch);
+  data.unit = OperationsOf(&SwitchUnits::curSwitch);
   data.edits = {
       {"no function at the first position",
-       [](clsK70& k70) { k70.curSwitch.Func(1, 0); },
+       [](SwitchUnits& units) { units.curSwitch.Func(1, 0); },
        "Switch Function[1] -----------------",
        {R"(ControllerSettings.SetSwitchFunction(0, "1", "0"))"}},
       {"a function that reports name otherwise",
-       [](clsK70& k70) { k70.curSwitch.Func(3, 3); },
+       [](SwitchUnits& units) { units.curSwitch.Func(3, 3); },
        "Switch Function[3] Z Escape",
        {R"(ControllerSettings.SetSwitchFunction(0, "3", "3"))"}},
       {"a position without a control",
-       [](clsK70& k70) { k70.curSwitch.Func(8, 28); },
+       [](SwitchUnits& units) { units.curSwitch.Func(8, 28); },
        "Switch Function[8] Image Capture ",
        {R"(ControllerSettings.SetSwitchFunction(0, "8", "S"))"}},
       {"the first position that is a letter",
-       [](clsK70& k70) { k70.curSwitch.Func(10, 51); },
+       [](SwitchUnits& units) { units.curSwitch.Func(10, 51); },
        "Switch Function[A] Option 6 <-> Brightfield",
        {R"(ControllerSettings.SetSwitchFunction(0, "A", "p"))"}},
       {"the last position",
-       [](clsK70& k70) { k70.curSwitch.Func(16, 36); },
+       [](SwitchUnits& units) { units.curSwitch.Func(16, 36); },
        "Switch Function[G] Optional Observation 2",
        {R"(ControllerSettings.SetSwitchFunction(0, "G", "a"))"}},
   };
@@ -54,30 +55,30 @@ UnitDrillData Tactor() {
   UnitDrillData data;
   data.name = "Tactor";
   data.bench = "Harbour";
-  data.unit = OperationsOf(&clsK70::curTactor);
+  data.unit = OperationsOf(&SwitchUnits::curTactor);
   data.edits = {
       {"the mode",
-       [](clsK70& k70) { k70.curTactor.ControlMode = 1; },
+       [](SwitchUnits& units) { units.curTactor.ControlMode = 1; },
        "TactorSwitch Function[Mode] : Extend",
        {R"(ControllerSettings.SetSwitchFunction(4, "0", "1"))"}},
       {"the knob's side",
-       [](clsK70& k70) { k70.curTactor.HandleMode = 1; },
+       [](SwitchUnits& units) { units.curTactor.HandleMode = 1; },
        "TactorSwitch Function[XY Knob] : Left",
        {"XYDriveDevice.HandleMode = int16(1)"}},
       {"no function at the first position",
-       [](clsK70& k70) { k70.curTactor.Func(1, 0); },
+       [](SwitchUnits& units) { units.curTactor.Func(1, 0); },
        "TactorSwitch Function[1] -----------------",
        {R"(ControllerSettings.SetSwitchFunction(4, "1", "0"))"}},
       {"a function that reports name otherwise",
-       [](clsK70& k70) { k70.curTactor.Func(2, 4); },
+       [](SwitchUnits& units) { units.curTactor.Func(2, 4); },
        "TactorSwitch Function[2] Z Focus Knob Speed Change",
        {R"(ControllerSettings.SetSwitchFunction(4, "2", "4"))"}},
       {"the first position that is a letter",
-       [](clsK70& k70) { k70.curTactor.Func(10, 51); },
+       [](SwitchUnits& units) { units.curTactor.Func(10, 51); },
        "TactorSwitch Function[10] Option 6 <-> Brightfield",
        {R"(ControllerSettings.SetSwitchFunction(4, "A", "p"))"}},
       {"a code without a function at the last position",
-       [](clsK70& k70) { k70.curTactor.Func(14, 52); },
+       [](SwitchUnits& units) { units.curTactor.Func(14, 52); },
        "TactorSwitch Function[14] Nothing",
        {R"(ControllerSettings.SetSwitchFunction(4, "E", "q"))"}},
   };

@@ -1,12 +1,12 @@
 // The hand controller, beyond the drill.
 #include <gtest/gtest.h>
 
-#include "support/UnitDrill.h"
+#include "support/UnitText.h"
+#include "switches/SwitchUnits.h"
 
 namespace mortane::test {
 namespace {
 
-using Lines = std::vector<std::string>;
 using Codes = std::vector<int>;
 using Shorts = std::initializer_list<std::int16_t>;
 
@@ -16,9 +16,9 @@ Codes CodesOf(const clsControlTactor& unit) {
   return codes;
 }
 
-std::string Modified(const clsK70& k70) {
+std::string Modified(const SwitchUnits& units) {
   std::string list;
-  EXPECT_EQ(k70.curTactor.ModifySdk(list), "");
+  EXPECT_EQ(units.curTactor.ModifySdk(list), "");
   return list;
 }
 
@@ -48,7 +48,7 @@ Lines Joined(Lines lines, const Lines& more) {
 
 TEST(Tactor, AnswersAndStoresAtFourteenPositionsOnly) {
   Rig rig("Harbour");
-  clsControlTactor& unit = rig.k70.curTactor;
+  clsControlTactor& unit = rig.units.curTactor;
   EXPECT_EQ(clsControlTactor::SwitchCount, 14);
   EXPECT_EQ(CodesOf(unit), Codes(14, 0));
   for (std::int16_t i = 1; i <= 14; ++i) unit.Func(i, static_cast<std::int16_t>(100 + i));
@@ -61,8 +61,8 @@ TEST(Tactor, AnswersAndStoresAtFourteenPositionsOnly) {
 
 TEST(Tactor, BeginsInStandardModeWithTheKnobOnTheRight) {
   Rig rig("Harbour");
-  EXPECT_EQ(rig.k70.curTactor.ControlMode, 0);
-  EXPECT_EQ(rig.k70.curTactor.HandleMode, 0);
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 0);
+  EXPECT_EQ(rig.units.curTactor.HandleMode, 0);
 }
 
 TEST(Tactor, IsReadModeFirstThenTheKnobThenTheSwitches) {
@@ -70,10 +70,10 @@ TEST(Tactor, IsReadModeFirstThenTheKnobThenTheSwitches) {
   rig.Connect();
   rig.instrument().handSwitches[0] = "1";
   rig.instrument().xyDrive.handleMode = 1;
-  EXPECT_EQ(rig.k70.curTactor.ReadSdk(), "");
-  EXPECT_EQ(rig.k70.curTactor.ControlMode, 1);
-  EXPECT_EQ(rig.k70.curTactor.HandleMode, 1);
-  EXPECT_EQ(CodesOf(rig.k70.curTactor), (Codes{1, 2, 3, 25, 4, 26, 5, 14, 15, 0, 0, 0, 0, 0}));
+  EXPECT_EQ(rig.units.curTactor.ReadSdk(), "");
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 1);
+  EXPECT_EQ(rig.units.curTactor.HandleMode, 1);
+  EXPECT_EQ(CodesOf(rig.units.curTactor), (Codes{1, 2, 3, 25, 4, 26, 5, 14, 15, 0, 0, 0, 0, 0}));
   EXPECT_EQ(rig.journal.Lines(),
             Joined({Held("0", "1"), "XYDriveDevice.HandleMode -> int16(1)"}, kReadSwitches));
 }
@@ -92,11 +92,11 @@ TEST(Tactor, TakesTheNumberInTheModesText) {
     Rig rig("Harbour");
     rig.Connect();
     rig.instrument().handSwitches[0] = row.text;
-    rig.k70.curTactor.ControlMode = 7;
-    EXPECT_EQ(rig.k70.curTactor.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.curTactor.ControlMode, row.mode) << row.text;
-    EXPECT_EQ(Modified(rig.k70), "") << row.text;
-    EXPECT_EQ(rig.k70.curTactor.WriteSdk(), "");
+    rig.units.curTactor.ControlMode = 7;
+    EXPECT_EQ(rig.units.curTactor.ReadSdk(), "");
+    EXPECT_EQ(rig.units.curTactor.ControlMode, row.mode) << row.text;
+    EXPECT_EQ(Modified(rig.units), "") << row.text;
+    EXPECT_EQ(rig.units.curTactor.WriteSdk(), "");
     EXPECT_TRUE(rig.journal.Writes().empty()) << row.text;
   }
 }
@@ -104,17 +104,17 @@ TEST(Tactor, TakesTheNumberInTheModesText) {
 TEST(Tactor, ComparesAndWritesInTheSameOrder) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curTactor.ControlMode = 1;
-  rig.k70.curTactor.HandleMode = 1;
-  rig.k70.curTactor.Func(1, 11);
-  rig.k70.curTactor.Func(14, 12);
-  EXPECT_EQ(Modified(rig.k70),
+  rig.units.curTactor.ControlMode = 1;
+  rig.units.curTactor.HandleMode = 1;
+  rig.units.curTactor.Func(1, 11);
+  rig.units.curTactor.Func(14, 12);
+  EXPECT_EQ(Modified(rig.units),
             "TactorSwitch Function[Mode] : Extend\r\nTactorSwitch Function[XY Knob] : Left\r\n"
             "TactorSwitch Function[1] Filter Cube CW\r\nTactorSwitch Function[14] Filter Cube CCW");
   const Lines read{Held("0", "0"), "XYDriveDevice.HandleMode -> int16(0)"};
   EXPECT_EQ(rig.journal.Lines(), Joined(read, kReadSwitches));
   rig.journal.Clear();
-  EXPECT_EQ(rig.k70.curTactor.WriteSdk(), "");
+  EXPECT_EQ(rig.units.curTactor.WriteSdk(), "");
   Lines expected{read[0], Set("0", "1"), read[1], "XYDriveDevice.HandleMode = int16(1)"};
   expected.insert(expected.end(), kReadSwitches.begin(), kReadSwitches.end());
   expected.insert(expected.begin() + 5, Set("1", "B"));
@@ -127,21 +127,21 @@ TEST(Tactor, NamesTheModeThatItWouldSet) {
   rig.instrument().handSwitches[0] = "1";
   rig.instrument().xyDrive.handleMode = 1;
   rig.ConnectAndReceive();
-  rig.k70.curTactor.ControlMode = 0;
-  rig.k70.curTactor.HandleMode = 0;
-  EXPECT_EQ(Modified(rig.k70),
+  rig.units.curTactor.ControlMode = 0;
+  rig.units.curTactor.HandleMode = 0;
+  EXPECT_EQ(Modified(rig.units),
             "TactorSwitch Function[Mode] : Standard\r\nTactorSwitch Function[XY Knob] : Right");
-  rig.k70.curTactor.ControlMode = 2;
-  rig.k70.curTactor.HandleMode = 3;
-  EXPECT_EQ(Modified(rig.k70),
+  rig.units.curTactor.ControlMode = 2;
+  rig.units.curTactor.HandleMode = 3;
+  EXPECT_EQ(Modified(rig.units),
             "TactorSwitch Function[Mode] : Extend\r\nTactorSwitch Function[XY Knob] : Left");
 }
 
 TEST(Tactor, SendsTheModeAsADecimalNumber) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curTactor.ControlMode = 12;
-  EXPECT_EQ(rig.k70.curTactor.WriteSdk(), "");
+  rig.units.curTactor.ControlMode = 12;
+  EXPECT_EQ(rig.units.curTactor.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), Lines{Set("0", "12")});
 }
 
@@ -151,10 +151,10 @@ TEST(Tactor, SendsEveryCodeAsItsCharacter) {
   rig.Connect();
   for (std::int16_t code = -3; code <= 63; ++code) {
     rig.instrument().handSwitches[14] = code == 0 ? "1" : "0";
-    rig.k70.curTactor.ReadSdk();
+    rig.units.curTactor.ReadSdk();
     rig.journal.Clear();
-    rig.k70.curTactor.Func(14, code);
-    EXPECT_EQ(rig.k70.curTactor.WriteSdk(), "");
+    rig.units.curTactor.Func(14, code);
+    EXPECT_EQ(rig.units.curTactor.WriteSdk(), "");
     const std::string text = code < 0    ? " "
                              : code > 61 ? ""
                                          : std::string(1, digits[static_cast<std::size_t>(code)]);
@@ -170,12 +170,12 @@ TEST(Tactor, WithoutAStageThatCanBeControlledKeepsTheKnobsSideForItself) {
     rig.instrument().Accessory(accessory::kXYStage).readOnly = readOnly == 1;
     rig.instrument().xyDrive.handleMode = 1;
     rig.Connect();
-    ASSERT_EQ(rig.k70.IsMounted(accessory::kXYStage), readOnly);
-    rig.k70.curTactor.HandleMode = 5;
-    EXPECT_EQ(rig.k70.curTactor.ReadSdk(), "");
-    EXPECT_EQ(rig.k70.curTactor.HandleMode, 5);
-    EXPECT_EQ(Modified(rig.k70), "");
-    EXPECT_EQ(rig.k70.curTactor.WriteSdk(), "");
+    ASSERT_EQ(rig.units.IsMounted(accessory::kXYStage), readOnly);
+    rig.units.curTactor.HandleMode = 5;
+    EXPECT_EQ(rig.units.curTactor.ReadSdk(), "");
+    EXPECT_EQ(rig.units.curTactor.HandleMode, 5);
+    EXPECT_EQ(Modified(rig.units), "");
+    EXPECT_EQ(rig.units.curTactor.WriteSdk(), "");
     for (const std::string& line : rig.journal.Lines()) {
       EXPECT_FALSE(line.starts_with("XYDriveDevice")) << line;
     }
@@ -187,12 +187,12 @@ TEST(Tactor, WithoutAHandControllerIsNotAskedAndAReadMakesTheCodesZero) {
   for (const char* bench : {"Lantern", "Pair", "Outpost", "Deck", "DeckRemote", "Watch", "Shell"}) {
     Rig rig(bench);
     rig.Connect();
-    clsControlTactor& unit = rig.k70.curTactor;
+    clsControlTactor& unit = rig.units.curTactor;
     unit.ControlMode = 1;
     unit.HandleMode = 1;
     unit.Func(1, 5);
     EXPECT_FALSE(unit.IsPresent());
-    EXPECT_EQ(Modified(rig.k70), "") << bench;
+    EXPECT_EQ(Modified(rig.units), "") << bench;
     EXPECT_EQ(unit.WriteSdk(), "") << bench;
     EXPECT_EQ(unit.ReadSdk(), "") << bench;
     EXPECT_EQ(CodesOf(unit), Codes(14, 0)) << bench;
@@ -205,29 +205,29 @@ TEST(Tactor, WithoutAHandControllerIsNotAskedAndAReadMakesTheCodesZero) {
 TEST(Tactor, IsPresentWithItsControllerUnit) {
   Rig rig("Hub");
   rig.Connect();
-  EXPECT_TRUE(rig.k70.curTactor.IsPresent());
+  EXPECT_TRUE(rig.units.curTactor.IsPresent());
 }
 
 TEST(Tactor, ThatFailsToBeReadKeepsWhatWasReadBefore) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curTactor.ControlMode = 1;
-  rig.k70.curTactor.HandleMode = 1;
+  rig.units.curTactor.ControlMode = 1;
+  rig.units.curTactor.HandleMode = 1;
   rig.faults.Add({"get XYDriveDevice.HandleMode"});
-  EXPECT_EQ(rig.k70.curTactor.ReadSdk(), "TactorController SW Function (LIB:80004005)");
-  EXPECT_EQ(rig.k70.curTactor.ControlMode, 0);
-  EXPECT_EQ(rig.k70.curTactor.HandleMode, 1);
-  EXPECT_EQ(CodesOf(rig.k70.curTactor), Codes(14, 0));
+  EXPECT_EQ(rig.units.curTactor.ReadSdk(), "TactorController SW Function (LIB:80004005)");
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 0);
+  EXPECT_EQ(rig.units.curTactor.HandleMode, 1);
+  EXPECT_EQ(CodesOf(rig.units.curTactor), Codes(14, 0));
 }
 
 TEST(Tactor, ThatFailsToBeComparedDropsTheLinesBeforeIt) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
-  rig.k70.curTactor.ControlMode = 1;
-  rig.k70.curTactor.Func(1, 0);
+  rig.units.curTactor.ControlMode = 1;
+  rig.units.curTactor.Func(1, 0);
   rig.faults.Add({"ControllerSettings.SwitchFunction(4, \"E\")"});
   std::string list = "Before";
-  EXPECT_EQ(rig.k70.curTactor.ModifySdk(list), "TactorController SW Function (LIB:80004005)");
+  EXPECT_EQ(rig.units.curTactor.ModifySdk(list), "TactorController SW Function (LIB:80004005)");
   EXPECT_EQ(list, "Before");
 }
 
@@ -249,12 +249,12 @@ TEST(Tactor, EachItemThatFailsToBeWrittenIsItsLineAndTheOthersAreWritten) {
                    "TactorSwitch Function[10]"}}) {
     Rig rig("Harbour");
     rig.ConnectAndReceive();
-    rig.k70.curTactor.ControlMode = 1;
-    rig.k70.curTactor.HandleMode = 1;
-    rig.k70.curTactor.Func(10, 51);
-    rig.k70.curTactor.Func(11, 50);
+    rig.units.curTactor.ControlMode = 1;
+    rig.units.curTactor.HandleMode = 1;
+    rig.units.curTactor.Func(10, 51);
+    rig.units.curTactor.Func(11, 50);
     rig.faults.Add({fault.call});
-    EXPECT_EQ(rig.k70.curTactor.WriteSdk(), fault.line) << fault.call;
+    EXPECT_EQ(rig.units.curTactor.WriteSdk(), fault.line) << fault.call;
     const Instrument& held = rig.instrument();
     const int written = (held.handSwitches[0] == "1") + (held.xyDrive.handleMode == 1) +
                         (held.handSwitches[10] == "p") + (held.handSwitches[11] == "o");
@@ -270,46 +270,47 @@ TEST(Tactor, WithoutAnyAnswerIsALineForEachItem) {
   rig.faults.Add({"XYDriveDevice"});
   std::string expected = "TactorSwitch Control Mode[0]\r\nTactorSwitch Handle Mode[0]";
   for (int i = 1; i <= 14; ++i) expected += "\r\nTactorSwitch Function[" + std::to_string(i) + "]";
-  EXPECT_EQ(rig.k70.curTactor.WriteSdk(), expected);
+  EXPECT_EQ(rig.units.curTactor.WriteSdk(), expected);
   EXPECT_TRUE(rig.journal.Writes().empty());
 }
 
 TEST(Tactor, ASettingWithoutAttributesMakesBothModesZero) {
   Rig rig("Harbour");
-  rig.k70.curTactor.ControlMode = 1;
-  rig.k70.curTactor.HandleMode = 1;
-  EXPECT_EQ(ReadElement(rig.k70.curTactor, "<SWITCH><SETTING/></SWITCH>"), "");
-  EXPECT_EQ(rig.k70.curTactor.ControlMode, 0);
-  EXPECT_EQ(rig.k70.curTactor.HandleMode, 0);
+  rig.units.curTactor.ControlMode = 1;
+  rig.units.curTactor.HandleMode = 1;
+  EXPECT_EQ(ReadElement(rig.units.curTactor, "<SWITCH><SETTING/></SWITCH>"), "");
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 0);
+  EXPECT_EQ(rig.units.curTactor.HandleMode, 0);
 }
 
 TEST(Tactor, ASettingThatIsNoNumberIsZero) {
   Rig rig("Harbour");
-  rig.k70.curTactor.ControlMode = 1;
-  rig.k70.curTactor.HandleMode = 1;
+  rig.units.curTactor.ControlMode = 1;
+  rig.units.curTactor.HandleMode = 1;
   EXPECT_EQ(
-      ReadElement(rig.k70.curTactor, R"(<SWITCH><SETTING MODE="Extend" HANDLE=""/></SWITCH>)"), "");
-  EXPECT_EQ(rig.k70.curTactor.ControlMode, 0);
-  EXPECT_EQ(rig.k70.curTactor.HandleMode, 0);
+      ReadElement(rig.units.curTactor, R"(<SWITCH><SETTING MODE="Extend" HANDLE=""/></SWITCH>)"),
+      "");
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 0);
+  EXPECT_EQ(rig.units.curTactor.HandleMode, 0);
 }
 
 TEST(Tactor, AWrongModeStaysAndTheValidSideBesideItIsTaken) {
   Rig rig("Harbour");
-  rig.k70.curTactor.ControlMode = 1;
-  EXPECT_EQ(ReadElement(rig.k70.curTactor, R"(<SWITCH><SETTING MODE="2" HANDLE="1"/></SWITCH>)"),
+  rig.units.curTactor.ControlMode = 1;
+  EXPECT_EQ(ReadElement(rig.units.curTactor, R"(<SWITCH><SETTING MODE="2" HANDLE="1"/></SWITCH>)"),
             "Tactor[ Mode ]");
-  EXPECT_EQ(rig.k70.curTactor.ControlMode, 1);
-  EXPECT_EQ(rig.k70.curTactor.HandleMode, 1);
-  EXPECT_EQ(ReadElement(rig.k70.curTactor, R"(<SWITCH><SETTING MODE="0" HANDLE="2"/></SWITCH>)"),
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 1);
+  EXPECT_EQ(rig.units.curTactor.HandleMode, 1);
+  EXPECT_EQ(ReadElement(rig.units.curTactor, R"(<SWITCH><SETTING MODE="0" HANDLE="2"/></SWITCH>)"),
             "Tactor[ Handle ]");
-  EXPECT_EQ(rig.k70.curTactor.ControlMode, 0);
-  EXPECT_EQ(rig.k70.curTactor.HandleMode, 1);
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 0);
+  EXPECT_EQ(rig.units.curTactor.HandleMode, 1);
 }
 
 TEST(Tactor, WhatIsRefusedStandsWithoutALineBreakBetween) {
   Rig rig("Harbour");
-  EXPECT_EQ(ReadElement(rig.k70.curTactor, R"(<SWITCH><SETTING MODE="2" HANDLE="2"/>)"
-                                           R"(<SWITCH POSITION="15" FUNCTION="1"/></SWITCH>)"),
+  EXPECT_EQ(ReadElement(rig.units.curTactor, R"(<SWITCH><SETTING MODE="2" HANDLE="2"/>)"
+                                             R"(<SWITCH POSITION="15" FUNCTION="1"/></SWITCH>)"),
             "Tactor[ Mode ]Tactor[ Handle ]Tactor[15]");
 }
 
@@ -317,38 +318,38 @@ TEST(Tactor, TakesACodeWithoutAFunctionFromAFileAndSendsItsCharacter) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   EXPECT_EQ(
-      ReadElement(rig.k70.curTactor, R"(<SWITCH><SWITCH POSITION="14" FUNCTION="52"/></SWITCH>)"),
+      ReadElement(rig.units.curTactor, R"(<SWITCH><SWITCH POSITION="14" FUNCTION="52"/></SWITCH>)"),
       "");
-  EXPECT_EQ(rig.k70.curTactor.Func(14), 52);
-  EXPECT_EQ(Modified(rig.k70), "TactorSwitch Function[14] Nothing");
-  EXPECT_EQ(rig.k70.curTactor.WriteSdk(), "");
+  EXPECT_EQ(rig.units.curTactor.Func(14), 52);
+  EXPECT_EQ(Modified(rig.units), "TactorSwitch Function[14] Nothing");
+  EXPECT_EQ(rig.units.curTactor.WriteSdk(), "");
   EXPECT_EQ(rig.journal.Writes(), Lines{Set("E", "q")});
 }
 
 TEST(Tactor, TakesElementsHoweverTheyAreWrittenAndInTheirOrder) {
   Rig rig("Harbour");
   EXPECT_EQ(
-      ReadElement(rig.k70.curTactor, R"(<switch>text<!--c--><Switch position="1" Function="0"/>)"
-                                     R"(<OTHER POSITION="2" FUNCTION="9" MODE="1"/>)"
-                                     R"(<SWITCH POSITION="1" FUNCTION="7"/><setting mode="1"/>)"
-                                     R"(<SWITCH POSITION="2" FUNCTION="no"/></switch>)"),
+      ReadElement(rig.units.curTactor, R"(<switch>text<!--c--><Switch position="1" Function="0"/>)"
+                                       R"(<OTHER POSITION="2" FUNCTION="9" MODE="1"/>)"
+                                       R"(<SWITCH POSITION="1" FUNCTION="7"/><setting mode="1"/>)"
+                                       R"(<SWITCH POSITION="2" FUNCTION="no"/></switch>)"),
       "");
-  EXPECT_EQ(rig.k70.curTactor.Func(1), 7);
-  EXPECT_EQ(rig.k70.curTactor.Func(2), 0);
-  EXPECT_EQ(rig.k70.curTactor.ControlMode, 1);
+  EXPECT_EQ(rig.units.curTactor.Func(1), 7);
+  EXPECT_EQ(rig.units.curTactor.Func(2), 0);
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 1);
 }
 
 TEST(Tactor, IsWrittenToAFileInOneElement) {
   Rig rig("Harbour");
-  rig.k70.curTactor.ControlMode = 1;
-  rig.k70.curTactor.HandleMode = 3;
+  rig.units.curTactor.ControlMode = 1;
+  rig.units.curTactor.HandleMode = 3;
   std::string expected = R"(<SECTION><SWITCH><SETTING MODE="1" HANDLE="3"/>)";
   for (std::int16_t i = 1; i <= 14; ++i) {
-    rig.k70.curTactor.Func(i, static_cast<std::int16_t>(2 * i - 3));
+    rig.units.curTactor.Func(i, static_cast<std::int16_t>(2 * i - 3));
     expected += "<SWITCH POSITION=\"" + std::to_string(i) + "\" FUNCTION=\"" +
                 std::to_string(2 * i - 3) + "\"/>";
   }
-  EXPECT_EQ(FileTextOf(rig.k70.curTactor), expected + "</SWITCH></SECTION>");
+  EXPECT_EQ(FileTextOf(rig.units.curTactor), expected + "</SWITCH></SECTION>");
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 // The filter units side by side, in transfers and in the settings file.
 #include <gtest/gtest.h>
 
+#include "support/Rig.h"
 #include "support/TempFolder.h"
-#include "support/UnitDrill.h"
 
 namespace mortane::test {
 namespace {
