@@ -19,6 +19,7 @@
 
 #include "app/ApplyTheme.h"
 #include "app/GetAppIcon.h"
+#include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
 #include "app/QtPrompts.h"
 #include "app/SystemNameCtl.h"
@@ -29,6 +30,7 @@
 #include "platform/Joystick.h"
 #include "platform/Sleep.h"
 #include "wizard/SadrelMainForm.h"
+#include "wizard/WizardSteps.h"
 
 namespace mortane {
 namespace {
@@ -71,7 +73,7 @@ class AnsweringPrompts : public QtPrompts {
 };
 
 // A program's window on the simulated microscope, ready when its first page is filled.
-template <typename Form>
+template <typename Form, auto Table>
 int RunFormChild(int argc, char** argv, const char* title) {
   BenchSession bench("");
   QApplication application(argc, argv);
@@ -83,7 +85,8 @@ int RunFormChild(int argc, char** argv, const char* title) {
              .library = bench.Library(),
              .prompts = prompts,
              .joystick = joystick,
-             .arguments = {argv[0], "/SIM"}});
+             .arguments = {argv[0], "/SIM"}},
+            Table());
   prompts.ShowProgressOn(form.Progress());
   form.Load();
   const auto* report = form.SystemSettingsCtl1->SystemNameCtl1->TextAccessories;
@@ -151,8 +154,9 @@ int main(int argc, char** argv) {
   using namespace mortane;
   if (std::getenv("DISPLAY") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 0);
   const std::string kind = argc > 1 ? argv[1] : "";
-  if (kind == kFullChild) return RunFormChild<MortaneMainForm>(argc, argv, kMainTitle);
-  if (kind == kWizardChild) return RunFormChild<SadrelMainForm>(argc, argv, kWizardTitle);
+  if (kind == kFullChild) return RunFormChild<MortaneMainForm, MainPages>(argc, argv, kMainTitle);
+  if (kind == kWizardChild)
+    return RunFormChild<SadrelMainForm, WizardSteps>(argc, argv, kWizardTitle);
   if (kind == kLabelChild) return RunLabelChild(argc, argv);
   if (kind == kBareChild) return RunBareChild(argc, argv);
   const std::string program = GetCommandLineArray(argc, argv)[0];

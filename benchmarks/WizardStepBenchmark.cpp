@@ -14,6 +14,7 @@
 #include "hub/clsK70.h"
 #include "platform/Joystick.h"
 #include "wizard/SadrelMainForm.h"
+#include "wizard/WizardSteps.h"
 
 namespace mortane {
 namespace {

@@ -31,7 +31,7 @@ struct FileResult;
 
 class MortaneMainForm : public ProgramForm {
  public:
-  explicit MortaneMainForm(const FormServices& services, const PageTable& pages = MainPages());
+  explicit MortaneMainForm(const FormServices& services, const PageTable& pages);
 
   // A step that fails is shown and ends the loading; the window can be shown all the same.
   void Load() override;

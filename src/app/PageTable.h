@@ -1,4 +1,4 @@
-// The six pages of the main window, one row each.
+// The table of the main window's six pages, one row each.
 #pragma once
 
 #include <QString>
@@ -29,8 +29,5 @@ struct PageRow {
 
 inline constexpr std::size_t kPageCount = 6;
 using PageTable = std::array<PageRow, kPageCount>;
-
-// In the order of the page buttons.
-PageTable MainPages();
 
 }  // namespace mortane

@@ -1,11 +1,12 @@
 // The program with the full window.
 #include "app/GetAppIcon.h"
+#include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
 #include "app/Program.h"
 
 int main(int argc, char** argv) {
   using namespace mortane;
   return RunProgram(argc, argv, {"mortane", kMainTitle, [](const FormServices& services) {
-                                   return std::make_unique<MortaneMainForm>(services);
+                                   return std::make_unique<MortaneMainForm>(services, MainPages());
                                  }});
 }

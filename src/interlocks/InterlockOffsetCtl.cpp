@@ -5,7 +5,7 @@
 
 #include "interlocks/Interlock.h"
 #include "interlocks/InterlockCtlTiles.h"
-#include "interlocks/OffsetAccessories.h"
+#include "interlocks/clsInterLockOffset.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Named.h"

@@ -4,7 +4,6 @@
 
 #include "controller/ControllerNumbers.h"
 #include "interlocks/Interlock.h"
-#include "interlocks/OffsetAccessories.h"
 #include "model/ElementFields.h"
 
 namespace mortane {

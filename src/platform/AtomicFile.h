@@ -2,15 +2,15 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "common/FileErrors.h"
+
 namespace mortane {
 
-// The numbers of the Failures raised here; their description names the path and the reason.
-inline constexpr std::int32_t kMissingFileError = 53;
-inline constexpr std::int32_t kFileError = 57;
+// A Failure raised here has one of the numbers of FileErrors.h; its description names the path and
+// the reason.
 
 // Far above the size of any settings or bench file. Larger files are refused unread.
 inline constexpr std::size_t kLargestFile = std::size_t{64} * 1024 * 1024;

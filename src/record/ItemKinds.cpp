@@ -7,8 +7,8 @@
 #include "common/Numbers.h"
 #include "common/Text.h"
 #include "interlocks/ObservationAccessories.h"
-#include "interlocks/OffsetAccessories.h"
 #include "interlocks/OtherAccessories.h"
+#include "interlocks/clsInterLockOffset.h"
 
 namespace mortane {
 namespace {

@@ -9,8 +9,8 @@
 #include "common/Numbers.h"
 #include "common/Text.h"
 #include "interlocks/ObservationAccessories.h"
-#include "interlocks/OffsetAccessories.h"
 #include "interlocks/OtherAccessories.h"
+#include "interlocks/clsInterLockOffset.h"
 #include "switches/SwitchFunctions.h"
 
 namespace mortane {

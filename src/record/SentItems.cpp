@@ -4,8 +4,8 @@
 
 #include "common/Numbers.h"
 #include "interlocks/ObservationAccessories.h"
-#include "interlocks/OffsetAccessories.h"
 #include "interlocks/OtherAccessories.h"
+#include "interlocks/clsInterLockOffset.h"
 #include "model/OptionRecords.h"
 
 namespace mortane {

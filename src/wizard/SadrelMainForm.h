@@ -36,7 +36,7 @@ inline constexpr char kWizardTitle[] = "Sadrel";
 // Pages store edits as they are made: nothing else is taken from their controls before a Send.
 class SadrelMainForm : public ProgramForm {
  public:
-  explicit SadrelMainForm(const FormServices& services, const StepTable& steps = WizardSteps());
+  explicit SadrelMainForm(const FormServices& services, const StepTable& steps);
 
   void Load() override;
 
@@ -85,7 +85,6 @@ class SadrelMainForm : public ProgramForm {
   void Arrange(QWidget* buttons);
 
   void EnableStep(int step, bool enabled, const QString& whyOff);
-  QString WhyOff(int item) const;
   void OnPicture(int index);
   void OnMenuChanged(int index);
   void OnTab(int step, int tab);

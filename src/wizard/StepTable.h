@@ -1,4 +1,4 @@
-// The ten steps of the wizard, one row each.
+// The table of the wizard's ten steps, one row each.
 #pragma once
 
 #include <QString>
@@ -34,7 +34,5 @@ inline constexpr int kSystemStep = 0;
 inline constexpr int kItemStep = 1;
 inline constexpr int kFirstItem = 2;  // the step of item 0
 inline constexpr int kEndingStep = 9;
-
-StepTable WizardSteps();
 
 }  // namespace mortane

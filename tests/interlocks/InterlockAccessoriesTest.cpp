@@ -5,8 +5,8 @@
 #include <string>
 
 #include "interlocks/ObservationAccessories.h"
-#include "interlocks/OffsetAccessories.h"
 #include "interlocks/OtherAccessories.h"
+#include "interlocks/clsInterLockOffset.h"
 
 namespace mortane::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "interlocks/InterlockRig.h"
-#include "interlocks/OffsetAccessories.h"
+#include "interlocks/clsInterLockOffset.h"
 
 namespace mortane::test {
 namespace {

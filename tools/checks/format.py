@@ -22,6 +22,12 @@ AT_ONCE = 25
 POINTER_TO_MEMBER = re.compile(r"::\* (?=\w)")
 
 
+def in_house_form(text):
+    """What the program leaves, with our pointers to members and a line end at the end."""
+    text = POINTER_TO_MEMBER.sub("::*", text)
+    return text if text.endswith("\n") or not text else text + "\n"
+
+
 def formatted(root, names):
     """The text of each file in its form, as {name: text}. Raises CalledProcessError with what the
     program says."""
@@ -39,7 +45,7 @@ def formatted(root, names):
         with ThreadPoolExecutor(os.cpu_count()) as workers:
             list(workers.map(write, (names[start:start + AT_ONCE]
                                      for start in range(0, len(names), AT_ONCE))))
-        return {name: POINTER_TO_MEMBER.sub("::*", copy.read_text(encoding="utf-8"))
+        return {name: in_house_form(copy.read_text(encoding="utf-8"))
                 for name, copy in copies.items()}
 
 
@@ -79,6 +85,7 @@ GOOD = {"src/common/A.cpp": "int main() {\n  return 0;\n}\n",
 BAD = {
     "a wild source": ({"src/common/B.cpp": "int  main( ){return 0 ;}\n"}, "src/common/B.cpp:1"),
     "a wild header": ({"tests/B.h": "#pragma once\nint   a;\n"}, "tests/B.h:2"),
+    "a last line that does not end": ({"src/common/B.h": "int b;"}, "src/common/B.h"),
     "another form of a pointer to a member": (
         {"src/common/B.h": "struct B {\n  int B::* next;\n};\n"}, "src/common/B.h:2"),
 }

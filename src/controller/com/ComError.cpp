@@ -6,7 +6,7 @@
 #include <string>
 
 #include "controller/ControllerError.h"
-#include "controller/com/Variant.h"
+#include "controller/com/ComText.h"
 #include "platform/windows/Wide.h"
 
 namespace mortane::controller {

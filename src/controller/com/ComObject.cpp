@@ -8,9 +8,9 @@
 #include <optional>
 #include <utility>
 
-#include "common/Failure.h"
 #include "controller/ControllerError.h"
 #include "controller/com/ComError.h"
+#include "controller/com/ComReference.h"
 #include "controller/com/Variant.h"
 #include "platform/windows/Wide.h"
 
@@ -64,6 +64,10 @@ class Parameters {
   DISPPARAMS parameters_{};
 };
 
+ObjectMaker MakerWith(MemberIds& ids) {
+  return [&ids](ComPointer<IDispatch> object) { return MakeComObject(std::move(object), ids); };
+}
+
 // Each step is one call of the library.
 class ComEnumerator : public ControllerObject {
  public:
@@ -78,7 +82,7 @@ class ComEnumerator : public ControllerObject {
     ULONG fetched = 0;
     const HRESULT result = items_->Next(1, item.get(), &fetched);
     RequireSuccess(result);
-    return result == S_OK && fetched == 1 ? ToValue(*item.get(), ids_) : Value();
+    return result == S_OK && fetched == 1 ? ToValue(*item.get(), MakerWith(ids_)) : Value();
   }
 
  private:
@@ -101,7 +105,7 @@ DISPID AskForId(IDispatch& object, std::string_view member) {
   return id;
 }
 
-class ComObject : public ControllerObject {
+class ComObject : public ComReference {
  public:
   ComObject(ComPointer<IDispatch> object, MemberIds& ids) : object_(std::move(object)), ids_(ids) {}
 
@@ -120,7 +124,7 @@ class ComObject : public ControllerObject {
     RequireSuccess(TryInvoke(id, DISPATCH_PROPERTYPUT, parameters, nullptr));
   }
 
-  const ComPointer<IDispatch>& object() const { return object_; }
+  IDispatch& Dispatch() const override { return *object_.get(); }
 
  private:
   Value Read(std::string_view member, Args args) {
@@ -128,7 +132,8 @@ class ComObject : public ControllerObject {
     Parameters parameters(args);
     Variant result;
     RequireSuccess(TryInvoke(id, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, result.get()));
-    return id == DISPID_NEWENUM ? ToEnumerator(*result.get()) : ToValue(*result.get(), ids_);
+    return id == DISPID_NEWENUM ? ToEnumerator(*result.get())
+                                : ToValue(*result.get(), MakerWith(ids_));
   }
 
   Value ToEnumerator(const VARIANT& answer) const {
@@ -202,16 +207,6 @@ MemberIds::Table* MemberIds::TableOf(IDispatch& object) {
 
 ObjectRef MakeComObject(ComPointer<IDispatch> object, MemberIds& ids) {
   return std::make_shared<ComObject>(std::move(object), ids);
-}
-
-IDispatch* ReferenceTo(const ObjectRef& object) {
-  if (object == nullptr) return nullptr;
-  const auto* com = dynamic_cast<const ComObject*>(object.get());
-  if (com == nullptr) {
-    RaiseOwnFailure(kConversionError, "The object does not belong to the controller library.");
-  }
-  com->object()->AddRef();
-  return com->object().get();
 }
 
 }  // namespace mortane::controller

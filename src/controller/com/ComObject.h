@@ -44,8 +44,4 @@ class MemberIds {
 // `ids` must outlive the object.
 ObjectRef MakeComObject(ComPointer<IDispatch> object, MemberIds& ids);
 
-// A new reference to the COM object behind a value; null for an empty value. Raises
-// kConversionError for an object of another back end.
-IDispatch* ReferenceTo(const ObjectRef& object);
-
 }  // namespace mortane::controller

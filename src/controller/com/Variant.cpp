@@ -6,7 +6,8 @@
 
 #include "common/Failure.h"
 #include "controller/com/ComError.h"
-#include "controller/com/ComObject.h"
+#include "controller/com/ComReference.h"
+#include "controller/com/ComText.h"
 #include "platform/windows/Wide.h"
 
 namespace mortane::controller {
@@ -20,9 +21,15 @@ BSTR MakeText(std::string_view utf8) {
   return text;
 }
 
-std::string TextOf(BSTR text) {
-  if (text == nullptr) return {};
-  return ToUtf8({text, SysStringLen(text)});
+// A new reference; null for an empty value.
+IDispatch* ReferenceTo(const ObjectRef& object) {
+  if (object == nullptr) return nullptr;
+  const auto* com = dynamic_cast<const ComReference*>(object.get());
+  if (com == nullptr) {
+    RaiseOwnFailure(kConversionError, "The object does not belong to the controller library.");
+  }
+  com->Dispatch().AddRef();
+  return &com->Dispatch();
 }
 
 // Writes a Value into an empty variant.
@@ -62,18 +69,18 @@ Value Whole(Integer value) {
   return static_cast<std::int32_t>(value);
 }
 
-Value Object(IDispatch* object, MemberIds& ids) {
+Value Object(IDispatch* object, const ObjectMaker& make) {
   if (object == nullptr) return {};
   object->AddRef();
-  return MakeComObject(ComPointer<IDispatch>(object), ids);
+  return make(ComPointer<IDispatch>(object));
 }
 
 // An object that was handed out under its simplest interface.
-Value Object(IUnknown* object, MemberIds& ids) {
+Value Object(IUnknown* object, const ObjectMaker& make) {
   if (object == nullptr) return {};
   void* dispatch = nullptr;
   RequireSuccess(object->QueryInterface(IID_IDispatch, &dispatch));
-  return MakeComObject(ComPointer<IDispatch>(static_cast<IDispatch*>(dispatch)), ids);
+  return make(ComPointer<IDispatch>(static_cast<IDispatch*>(dispatch)));
 }
 
 double AsDouble(const VARIANT& variant) {
@@ -88,11 +95,11 @@ void WriteVariant(const Value& value, VARIANT& variant) {
   std::visit(Writer{variant}, value);
 }
 
-Value ToValue(const VARIANT& variant, MemberIds& ids) {
+Value ToValue(const VARIANT& variant, const ObjectMaker& make) {
   if ((variant.vt & VT_BYREF) != 0) {
     Variant direct;
     RequireSuccess(VariantCopyInd(direct.get(), const_cast<VARIANT*>(&variant)));
-    return ToValue(*direct.get(), ids);
+    return ToValue(*direct.get(), make);
   }
   switch (variant.vt) {
     case VT_EMPTY:
@@ -128,20 +135,14 @@ Value ToValue(const VARIANT& variant, MemberIds& ids) {
     case VT_BSTR:
       return TextOf(variant.bstrVal);
     case VT_DISPATCH:
-      return Object(variant.pdispVal, ids);
+      return Object(variant.pdispVal, make);
     case VT_UNKNOWN:
-      return Object(variant.punkVal, ids);
+      return Object(variant.punkVal, make);
     case VT_ERROR:
       RaiseComError(variant.scode);
     default:
       RaiseOwnFailure(kConversionError, "The controller library gave a value of unknown kind.");
   }
-}
-
-std::string TakeText(BSTR text) {
-  std::string utf8 = TextOf(text);
-  SysFreeString(text);
-  return utf8;
 }
 
 }  // namespace mortane::controller

@@ -4,14 +4,15 @@
 #include <oaidl.h>
 #include <oleauto.h>
 
-#include <string>
-#include <string_view>
+#include <functional>
 
 #include "controller/Value.h"
+#include "controller/com/ComPointer.h"
 
 namespace mortane::controller {
 
-class MemberIds;
+// Makes an object of the transport of one that the library gave.
+using ObjectMaker = std::function<ObjectRef(ComPointer<IDispatch>)>;
 
 // A variant that frees what it holds.
 class Variant {
@@ -39,9 +40,6 @@ void WriteVariant(const Value& value, VARIANT& variant);
 // References to a value are followed. Raises kOverflowError for an integer that 32 bits do not
 // hold, the failure that an error variant is, and kConversionError for kinds that no library member
 // has.
-Value ToValue(const VARIANT& variant, MemberIds& ids);
-
-// The text of a string that the caller owns, which is freed. A null pointer is an empty text.
-std::string TakeText(BSTR text);
+Value ToValue(const VARIANT& variant, const ObjectMaker& make);
 
 }  // namespace mortane::controller

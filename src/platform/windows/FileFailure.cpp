@@ -1,7 +1,7 @@
 #include "platform/windows/FileFailure.h"
 
 #include "common/Failure.h"
-#include "platform/AtomicFile.h"
+#include "common/FileErrors.h"
 #include "platform/windows/Wide.h"
 
 namespace mortane {

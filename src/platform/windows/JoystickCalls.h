@@ -5,9 +5,11 @@
 
 #include <mmsystem.h>
 
-#include "platform/Joystick.h"
+#include <cstdint>
 
 namespace mortane {
+
+struct JoystickCapabilities;
 
 struct JoystickCalls {
   decltype(&joyGetDevCapsW) readCapabilities = &joyGetDevCapsW;

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
 #include "support/Rig.h"
 #include "support/ScriptedJoystick.h"
@@ -91,17 +92,19 @@ inline std::vector<std::string> OfAllPages(const std::string& operation) {
 
 // The window and everything under it. Boxes and file dialogs are scripted, the other dialogs
 // are the real ones.
-template <typename Form = MortaneMainForm>
+template <typename Form = MortaneMainForm, auto OwnTable = MainPages>
 class BasicAppRig : public RigLibrary {
  public:
+  using Table = decltype(OwnTable());
+
   // With the window's own pages, or those of a table of its kind.
-  template <typename... Table>
-  explicit BasicAppRig(Bench bench, std::vector<std::string> arguments = {}, const Table&... pages)
+  explicit BasicAppRig(Bench bench, std::vector<std::string> arguments = {},
+                       const Table& pages = OwnTable())
       : RigLibrary(std::move(bench)) {
     clsK70& k70 = ProvideK70(library, prompts);
     arguments.insert(arguments.begin(), "mortane");
     form = std::make_unique<Form>(
-        FormServices{k70, library, prompts, joystick, std::move(arguments)}, pages...);
+        FormServices{k70, library, prompts, joystick, std::move(arguments)}, pages);
   }
   ~BasicAppRig() {
     form.reset();

@@ -5,6 +5,7 @@
 
 #include "AppRig.h"
 #include "app/ControlSettingsCtl.h"
+#include "app/MainPages.h"
 #include "drives/ControlFocusDriveCtl.h"
 #include "drives/ControlOtherCtl.h"
 #include "drives/ControlXYStageCtl.h"
@@ -151,7 +152,8 @@ TEST(ControlsWiring, TheJoypadsFunctionsAreKeptInTheUsersFolder) {
                           .prompts = library.prompts,
                           .joystick = joystick,
                           .arguments = {"mortane"},
-                          .applicationData = folder.Path("data")});
+                          .applicationData = folder.Path("data")},
+                         MainPages());
   }
   ReleaseK70();
   int files = 0;

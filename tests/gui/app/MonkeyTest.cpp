@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "Monkey.h"
+#include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
 #include "support/Rig.h"
 #include "support/ScriptedJoystick.h"

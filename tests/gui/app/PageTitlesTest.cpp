@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <set>
 
-#include "app/PageTable.h"
+#include "app/MainPages.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 #include "widgets/Theme.h"

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
 #include "app/Program.h"
 #include "common/Failure.h"
@@ -76,7 +77,7 @@ TEST(ProgramEndDeathTest, DestroysTheWindowBeforeTheModel) {
 // The window of a session that ends as soon as the microscope is connected.
 class LoggedOut : public MortaneMainForm {
  public:
-  explicit LoggedOut(const FormServices& services) : MortaneMainForm(services) {}
+  explicit LoggedOut(const FormServices& services) : MortaneMainForm(services, MainPages()) {}
 
  protected:
   void OnConnected(bool whole) override {

@@ -9,11 +9,12 @@
 #include <QToolBar>
 
 #include "CommandRig.h"
+#include "app/MainPages.h"
 #include "app/SelFileItemDlg.h"
 #include "app/SelScopeDlg.h"
-#include "app/SessionNote.h"
 #include "support/TempFolder.h"
 #include "widgets/ListBox.h"
+#include "widgets/ValueLabel.h"
 
 namespace mortane::test {
 namespace {
@@ -41,7 +42,7 @@ class Note : public testing::Test {
     ReleaseK70();
   }
   ScriptedPrompts& prompts() { return library->prompts; }
-  std::string Text() { return form->findChild<SessionNote*>("SessionNote")->text().toStdString(); }
+  std::string Text() { return form->findChild<ValueLabel*>("SessionNote")->text().toStdString(); }
   void Choose(int line) {
     const WhenShown<SelScopeDlg> person([line](SelScopeDlg& dialog) {
       dialog.List1->setIndex(line);
@@ -67,9 +68,9 @@ class Note : public testing::Test {
 TEST_F(Note, IsEmptyBeforeAMicroscopeIsConnected) {
   RigLibrary rig(benches::Named("Harbour"));
   MortaneMainForm fresh(
-      {ProvideK70(rig.library, rig.prompts), rig.library, rig.prompts, joystick, {}});
+      {ProvideK70(rig.library, rig.prompts), rig.library, rig.prompts, joystick, {}}, MainPages());
   fresh.Load();
-  EXPECT_EQ(fresh.findChild<SessionNote*>("SessionNote")->text(), "");
+  EXPECT_EQ(fresh.findChild<ValueLabel*>("SessionNote")->text(), "");
 }
 
 TEST_F(Note, TellsTheMicroscopeAndTheFirstReceive) {
@@ -193,7 +194,7 @@ TEST_F(Note, TellsThatAHeldMicroscopeIsNotConnected) {
 
 TEST_F(Note, StandsAtTheRightEndAndGivesWayToTheButtons) {
   Start(benches::Named("Harbour"));
-  const auto& note = *form->findChild<SessionNote*>("SessionNote");
+  const auto& note = *form->findChild<ValueLabel*>("SessionNote");
   const QToolBar& bar = *form->Toolbar1;
   EXPECT_EQ(bar.actions().size(), 6) << "it is none of the buttons";
   for (const int width : {1400, 1152, 800}) {

@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QTest>
 
-#include "app/PageTable.h"
+#include "app/MainPages.h"
 #include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"

@@ -3,7 +3,7 @@
 
 #include <QAbstractButton>
 
-#include "app/PageTable.h"
+#include "app/MainPages.h"
 #include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"

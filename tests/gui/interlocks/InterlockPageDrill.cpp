@@ -3,7 +3,7 @@
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
 #include "interlocks/InterlockRig.h"
-#include "interlocks/OffsetAccessories.h"
+#include "interlocks/clsInterLockOffset.h"
 
 namespace mortane::test {
 namespace {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "app/MainPages.h"
 #include "app/SelFileItemDlg.h"
 #include "app/SelScopeDlg.h"
 #include "gui/app/AppRig.h"

@@ -10,10 +10,11 @@
 #include "gui/app/AppRig.h"
 #include "wizard/SadrelMainForm.h"
 #include "wizard/StepButton.h"
+#include "wizard/WizardSteps.h"
 
 namespace mortane::test {
 
-using WizardRig = BasicAppRig<SadrelMainForm>;
+using WizardRig = BasicAppRig<SadrelMainForm, WizardSteps>;
 using Lines = std::vector<std::string>;
 
 // A page with one control of its own.

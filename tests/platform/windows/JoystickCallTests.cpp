@@ -1,4 +1,5 @@
 // A joystick of the test behind the multimedia calls.
+#include "platform/Joystick.h"
 #include "platform/windows/JoystickCalls.h"
 
 #include <gtest/gtest.h>

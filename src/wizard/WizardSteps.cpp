@@ -1,4 +1,4 @@
-#include "wizard/StepTable.h"
+#include "wizard/WizardSteps.h"
 
 #include <QFrame>
 #include <algorithm>

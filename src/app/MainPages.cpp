@@ -1,4 +1,4 @@
-#include "app/PageTable.h"
+#include "app/MainPages.h"
 
 #include <QFrame>
 
