@@ -19,6 +19,8 @@ constexpr std::string_view kUnknownWord = "Unknown";
 constexpr std::string_view kBuzzerOn = "False";
 constexpr std::string_view kBuzzerOff = "True";
 constexpr std::string_view kBuzzersDiffer = "2";
+constexpr std::string_view kInterlockIsOn = "True";
+constexpr std::string_view kInterlockIsOff = "False";
 constexpr std::int16_t kSkipWithoutCode = 2;
 
 ConfigurationItem Unknown(ConfigurationItem item) {
@@ -75,13 +77,64 @@ ConfigurationItem BuzzerItem(ConfigurationItem item, bool on, bool off) {
   return item;
 }
 
+// What all buzzers together are that a Send commands; the model has the value of one or two of
+// them. Raises what the controller raises.
+ConfigurationItem HeldBuzzer(const clsK70& k70, const ConfigurationItem& wanted) {
+  bool on = false;
+  bool off = false;
+  for (const std::int32_t code : CommandedBuzzers(k70)) {
+    (k70.Mic.BuzzerEnabled(code) == 1 ? on : off) = true;
+  }
+  return BuzzerItem(wanted, on, off);
+}
+
+// Of what follows light path and zoom a Receive reads less than a Send writes. Raises what the
+// controller raises.
+bool HoldsUnread(const clsK70& k70, const ConfigurationItem& wanted) {
+  const bool lightPath = wanted.kind == ItemKind::LightPathInterlock;
+  if (!lightPath && wanted.kind != ItemKind::ZoomInterlock) return false;
+  const std::int32_t cause = lightPath ? trigger::kLightPath : trigger::kOpticalZoom;
+  for (const OtherAccessory& row : kOtherAccessories) {
+    if (row.word != wanted.key.position) continue;
+    const std::int32_t state = ReadInterlock(k70, row.number, cause);
+    return wanted.value == (state == kInterlockOn ? kInterlockIsOn : kInterlockIsOff);
+  }
+  return false;
+}
+
+// A file leaves out what does not follow nosepiece, light path and zoom for all that is known.
+// After a failed read these are unknown as everything else that was not read, and stand where a
+// file has them.
+std::vector<ConfigurationItem> WithUnreadFollowers(const clsK70& k70,
+                                                   std::vector<ConfigurationItem> items) {
+  if (k70.WasRead(TransferOf(ItemKind::NosepieceInterlock))) return items;
+  std::vector<ConfigurationItem> unread;
+  const ItemIndex index(items);
+  for (const ItemKind kind :
+       {ItemKind::NosepieceInterlock, ItemKind::LightPathInterlock, ItemKind::ZoomInterlock}) {
+    const ItemKindRow& row = RowOf(kind);
+    for (const std::string_view word : PositionWords(kind)) {
+      const ItemKey key{std::string(row.section), std::string(row.element), std::string(word),
+                        std::string(row.attribute)};
+      if (index.Find(key) == nullptr) {
+        unread.push_back({key, kind, std::string(kUnknownWord), {}});
+      }
+    }
+  }
+  const auto offsets = std::find_if(items.begin(), items.end(), [](const ConfigurationItem& item) {
+    return item.kind == ItemKind::Offset;
+  });
+  items.insert(offsets, unread.begin(), unread.end());
+  return items;
+}
+
 class Comparer {
  public:
   Comparer(const clsK70& k70, const ConfigurationState& held)
       : k70_(k70), held_(held.items), sent_(k70) {}
 
   Comparison Run(const DomDocument* file) {
-    for (const ConfigurationItem& item : ItemsOf(k70_)) Add(item);
+    for (const ConfigurationItem& item : WithUnreadFollowers(k70_, ItemsOf(k70_))) Add(item);
     if (file != nullptr) {
       const std::vector<ConfigurationItem> items = ItemsOf(*file);
       const ItemIndex index(items);
@@ -121,8 +174,8 @@ class Comparer {
     }
     try {
       if (wanted.kind == ItemKind::Buzzer) {
-        AddBuzzer(std::move(wanted));
-      } else if (IsKnown(held) || !HoldsAlready(wanted)) {
+        AddBuzzer(wanted);
+      } else if (IsKnown(held) || !HoldsUnread(k70_, wanted)) {
         comparison_.changed.push_back({std::move(held), std::move(wanted)});
       }
     } catch (const Failure&) {
@@ -130,31 +183,13 @@ class Comparer {
     }
   }
 
-  // All buzzers are commanded, and the model has one value for them.
-  void AddBuzzer(ConfigurationItem wanted) {
-    bool on = false;
-    bool off = false;
-    for (const std::int32_t code : CommandedBuzzers(k70_)) {
-      (k70_.Mic.BuzzerEnabled(code) == 1 ? on : off) = true;
-    }
+  void AddBuzzer(const ConfigurationItem& wanted) {
+    ConfigurationItem held = HeldBuzzer(k70_, wanted);
     const bool wantsOn = k70_.COther.curBuzzer == 0;
-    if (wantsOn ? !off : !on) return;
-    comparison_.changed.push_back(
-        {BuzzerItem(wanted, on, off), BuzzerItem(wanted, wantsOn, !wantsOn)});
-  }
-
-  // Of what follows light path and zoom a Receive reads less than a Send writes.
-  bool HoldsAlready(const ConfigurationItem& wanted) const {
-    const bool path = wanted.kind == ItemKind::LightPathInterlock;
-    if (!path && wanted.kind != ItemKind::ZoomInterlock) return false;
-    for (const OtherAccessory& row : kOtherAccessories) {
-      if (row.word != wanted.key.position) continue;
-      const std::int32_t state =
-          path ? k70_.ILOther.LightPathStatus(row.number) : k70_.ILOther.ZoomStatus(row.number);
-      return state ==
-             ReadInterlock(k70_, row.number, path ? trigger::kLightPath : trigger::kOpticalZoom);
+    ConfigurationItem sent = BuzzerItem(wanted, wantsOn, !wantsOn);
+    if (!HaveSameValue(held, sent)) {
+      comparison_.changed.push_back({std::move(held), std::move(sent)});
     }
-    return false;
   }
 
   // Of an item of the file that a Send cannot write.
@@ -181,6 +216,29 @@ class Comparer {
   Comparison comparison_;
 };
 
+// What the microscope holds of a change after a further Receive; unknown when it does not say.
+class HeldAfterwards {
+ public:
+  explicit HeldAfterwards(const clsK70& k70) : k70_(k70), items_(ItemsOf(k70)), index_(items_) {}
+
+  ConfigurationItem Of(const ConfigurationItem& sent) const {
+    try {
+      if (sent.kind == ItemKind::Buzzer) return HeldBuzzer(k70_, sent);
+      const ConfigurationItem* now = index_.Find(sent.key);
+      if (now != nullptr && IsKnown(*now) && k70_.WasRead(TransferOf(sent.kind))) return *now;
+      if (HoldsUnread(k70_, sent)) return sent;
+    } catch (const Failure&) {
+      return Unknown(sent);
+    }
+    return Unknown(sent);
+  }
+
+ private:
+  const clsK70& k70_;
+  std::vector<ConfigurationItem> items_;
+  ItemIndex index_;
+};
+
 }  // namespace
 
 ConfigurationState StateOf(const clsK70& k70) {
@@ -197,13 +255,12 @@ Comparison Compare(const clsK70& k70, const ConfigurationState& held, const DomD
   return Comparer(k70, held).Run(file);
 }
 
-std::vector<ItemChange> NotTaken(const Comparison& sent, const ConfigurationState& held) {
-  const ItemIndex index(held.items);
+std::vector<ItemChange> NotTaken(const Comparison& sent, const clsK70& k70) {
+  const HeldAfterwards held(k70);
   std::vector<ItemChange> notTaken;
   for (const ItemChange& change : sent.changed) {
-    const ConfigurationItem* now = index.Find(change.to.key);
-    if (now != nullptr && HaveSameValue(*now, change.to)) continue;
-    notTaken.push_back({now == nullptr ? Unknown(change.to) : *now, change.to});
+    ConfigurationItem now = held.Of(change.to);
+    if (!HaveSameValue(now, change.to)) notTaken.push_back({std::move(now), change.to});
   }
   return notTaken;
 }

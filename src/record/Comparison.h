@@ -41,8 +41,8 @@ struct Comparison {
 Comparison Compare(const clsK70& k70, const ConfigurationState& held,
                    const DomDocument* file = nullptr);
 
-// After a Send and a further Receive: the changes that the microscope did not take, with what it
-// holds instead.
-std::vector<ItemChange> NotTaken(const Comparison& sent, const ConfigurationState& held);
+// After a Send and a further Receive: the changes that the microscope did not take. `from` is what
+// it holds instead, unknown where it could not be read again.
+std::vector<ItemChange> NotTaken(const Comparison& sent, const clsK70& k70);
 
 }  // namespace mortane
