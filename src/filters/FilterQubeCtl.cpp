@@ -1,6 +1,7 @@
 #include "filters/FilterQubeCtl.h"
 
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include "common/Text.h"
@@ -134,8 +135,9 @@ void FilterQubeCtl::LoadData() {
   TabPocket->SetNumberedTabs(filterTurret_.Count);
   UpdateTurret();
   List1->clearRows();
+  const QPointer<FilterQubeCtl> page(this);  // the row's question may see its end
   if (filterTurret_.Count >= 1) List1->setIndex(FillList(mounted()));
-  ShowParts(List1->index());
+  if (!page.isNull()) ShowParts(List1->index());
 }
 
 // A fixed cube is selected by its code and not by its row. Behind a record that is not listed this
@@ -178,12 +180,13 @@ void FilterQubeCtl::ClickTab() {
 }
 
 void FilterQubeCtl::ClickList(int row) {
-  if (LeavesProtectedCube(row) &&
-      filterTurret_.parent.prompts().MsgBox(kQuestion, box::kYesNo, "Warning") != Answer::Yes) {
-    ClickTab();
-    return;
-  }
-  ShowAndStore(row);
+  if (!LeavesProtectedCube(row)) return ShowAndStore(row);
+  const QPointer<FilterQubeCtl> page(this);  // may be destroyed while the box stands
+  Prompts& prompts = filterTurret_.parent.prompts();
+  const Answer answer = prompts.MsgBox(kQuestion, box::kYesNo, "Warning");
+  if (page.isNull()) return;
+  if (answer == Answer::Yes) return ShowAndStore(row);
+  ClickTab();
 }
 
 bool FilterQubeCtl::LeavesProtectedCube(int row) const {

@@ -42,13 +42,14 @@ KnobCheck::KnobCheck(const clsDbSwitch& body, const clsControlTactor& tactor, Kn
                      TactorSearch search, Prompts& prompts)
     : body_(body), tactor_(tactor), modes_(modes), search_(search), prompts_(prompts) {}
 
-void KnobCheck::Choose(std::int16_t code) const {
+bool KnobCheck::Choose(std::int16_t code) const {
   for (const Knob& knob : kKnobs) {
     std::int32_t& mode = knob.mode(modes_);
     if (code != knob.code || mode != kAuto) continue;
-    prompts_.MsgBox(knob.nowManual, box::kOk);
+    if (!Tell(knob.nowManual)) return false;
     mode = kManual;
   }
+  return true;
 }
 
 void KnobCheck::Run() const {
@@ -57,12 +58,18 @@ void KnobCheck::Run() const {
     const bool found = IsOnSwitch(knob.code);
     if (mode == kManual && !found) {
       mode = kAuto;
-      prompts_.MsgBox(knob.nowAuto, box::kOk);
+      if (!Tell(knob.nowAuto)) return;
     } else if (mode == kAuto && found) {
       mode = kManual;
-      prompts_.MsgBox(knob.nowManual, box::kOk);
+      if (!Tell(knob.nowManual)) return;
     }
   }
+}
+
+bool KnobCheck::Tell(const char* text) const {
+  const std::weak_ptr<const bool> alive = alive_;
+  prompts_.MsgBox(text, box::kOk);
+  return !alive.expired();
 }
 
 bool KnobCheck::IsOnSwitch(std::int16_t code) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "common/Prompts.h"
 #include "switches/clsControlTactor.h"
@@ -20,27 +21,32 @@ struct KnobModes {
 enum class TactorSearch { IfPresent, Always };
 
 // A knob whose speed a switch changes is a manual one; without such a switch it is automatic. Each
-// change is told in a box. A mode that is unknown stays so.
+// change is told in a box. A mode that is unknown stays so. The page that the check belongs to may
+// be destroyed while a box stands; the check then ends there.
 class KnobCheck {
  public:
   // The units and modes must live as long.
   KnobCheck(const clsDbSwitch& body, const clsControlTactor& tactor, KnobModes modes,
             TactorSearch search, Prompts& prompts);
 
-  // For a function that a push switch was just given: makes the knob that it is for manual.
-  void Choose(std::int16_t code) const;
+  // For a function that a push switch was just given: makes the knob that it is for manual. False
+  // when the page was destroyed meanwhile.
+  [[nodiscard]] bool Choose(std::int16_t code) const;
 
   // Compares all switches with both knobs, the focus knob first.
   void Run() const;
 
  private:
-  bool IsOnSwitch(std::int16_t code) const;
+  // False when the check is gone after the box: nothing of it may be read then.
+  [[nodiscard]] bool Tell(const char* text) const;
+  [[nodiscard]] bool IsOnSwitch(std::int16_t code) const;
 
   const clsDbSwitch& body_;
   const clsControlTactor& tactor_;
   KnobModes modes_;
   TactorSearch search_;
   Prompts& prompts_;
+  std::shared_ptr<const bool> alive_ = std::make_shared<const bool>(true);
 };
 
 }  // namespace mortane

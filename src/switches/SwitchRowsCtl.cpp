@@ -170,7 +170,7 @@ void SwitchRowsCtl::ChoosePushFunction(const QString& text, std::int16_t code) {
   if (row < 0) return;
   ShowChosen(text);
   Func(rowAt(row).pushPosition, code);
-  knobCheck_.Choose(code);
+  if (!knobCheck_.Choose(code)) return;
   ShowFunction(row, text);
   knobCheck_.Run();
 }

@@ -1,5 +1,6 @@
 #include "switches/TactorSwitchSettingCtl.h"
 
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -129,20 +130,31 @@ void TactorSwitchSettingCtl::SetDefaults() {
   RunKnobCheck();
 }
 
+// The dialog, and the boxes of reading and writing, run the event loop: the page may be destroyed
+// while one stands.
 void TactorSwitchSettingCtl::OpenFile() {
+  const QPointer<TactorSwitchSettingCtl> page(this);
   CommonDialog1.flags = kFileOpenFlags;
-  const std::string name = tactor_.parent.prompts().AskFileToOpen(CommonDialog1);
-  if (name.empty()) return;
-  program_.readFile(name);
-  LoadData();
+  const FileQuestion question = CommonDialog1;
+  const std::string name = tactor_.parent.prompts().AskFileToOpen(question);
+  if (page.isNull() || name.empty()) return;
+  const auto readFile = program_.readFile;
+  readFile(name);
+  if (!page.isNull()) LoadData();
 }
 
 void TactorSwitchSettingCtl::SaveFile() {
+  const QPointer<TactorSwitchSettingCtl> page(this);
+  Prompts& prompts = tactor_.parent.prompts();
   SaveData();
   CommonDialog1.flags = kFileSaveFlags;
-  const std::string name = tactor_.parent.prompts().AskFileToSave(CommonDialog1);
-  if (!name.empty()) program_.writeFile(name);
-  tactor_.parent.prompts().FlushInput();
+  const FileQuestion question = CommonDialog1;
+  const std::string name = prompts.AskFileToSave(question);
+  if (!page.isNull() && !name.empty()) {
+    const auto writeFile = program_.writeFile;
+    writeFile(name);
+  }
+  prompts.FlushInput();
 }
 
 std::int16_t TactorSwitchSettingCtl::Func(std::int16_t position) const {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "switches/SwitchFunctions.h"
 #include "switches/SwitchUnits.h"
 
@@ -36,7 +38,7 @@ struct KnobRig : Rig {
   }
   Texts Choose(std::int16_t code) {
     prompts.ClearRecords();
-    Check().Choose(code);
+    EXPECT_TRUE(Check().Choose(code));
     return Shown();
   }
   // Each box is a plain one with "OK" alone, under the program's name.
@@ -232,6 +234,25 @@ TEST(KnobCheck, AsksTheControllerForNothing) {
   rig.curAutoZ = rig.curAutoXY = 0;
   rig.Run();
   EXPECT_EQ(rig.journal.CallCount(), 0U);
+}
+
+// The page that it belongs to may be gone after a box.
+TEST(KnobCheckEnd, ACheckThatIsDestroyedBehindItsBoxTellsAndChangesNothingMore) {
+  for (const bool chosen : {true, false}) {
+    KnobRig rig("Harbour");
+    rig.prompts.AcceptAnyBox(false);
+    rig.curAutoZ = rig.curAutoXY = chosen ? 1 : 0;
+    std::optional<KnobCheck> check = rig.Check();
+    rig.prompts.ExpectBox(chosen ? kFocusManual : kFocusAuto, box::kOk, Answer::Ok, {},
+                          [&check] { check.reset(); });
+    if (chosen) {
+      EXPECT_FALSE(check->Choose(kFocusSpeed));
+    } else {
+      check->Run();
+    }
+    EXPECT_FALSE(check.has_value());
+    EXPECT_EQ(rig.curAutoXY, chosen ? 1 : 0);
+  }
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // The question about the last address, and the sixth address.
+#include <QPointer>
 #include <QTest>
 
 #include "gui/filters/FilterPages.h"
@@ -168,6 +169,39 @@ TEST_F(ProtectedAddress, WithOneRowTheSixthTabStaysOnIt) {
   EXPECT_EQ(page.List1->index(), 0);
   EXPECT_EQ(codeAt(6), 0);
 }
+
+// Whatever the answer, the page is not there to take it.
+class LostBehindTheQuestion : public ProtectedAddress, public testing::WithParamInterface<Answer> {
+ protected:
+  // The question is answered when the page is gone.
+  void ExpectTheEnd() {
+    rig.prompts.ExpectBox(kQuestion, box::kYesNo, GetParam(), "Warning", [this] { delete lost; });
+  }
+
+  const QPointer<FilterQubeCtl> lost = &page;
+};
+
+TEST_P(LostBehindTheQuestion, APageThatAskedForAClickMountsNothing) {
+  OpenLast(5, 1);
+  ExpectTheEnd();
+  page.List1->setIndex(4);
+  EXPECT_TRUE(lost.isNull());
+  EXPECT_EQ(codeAt(5), 1);
+}
+
+// The wrong row behind a record that is not listed is selected by the loading itself.
+TEST_P(LostBehindTheQuestion, APageThatAskedInItsLoadingMountsNothing) {
+  rig.instrument().database.cubes[0].name = "-------";
+  rig.k70().Receive();
+  rig.k70().curFilter.Count = 1;
+  rig.k70().curFilter.code(1, 2);
+  ExpectTheEnd();
+  page.LoadData();
+  EXPECT_TRUE(lost.isNull());
+  EXPECT_EQ(codeAt(1), 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, LostBehindTheQuestion, testing::Values(Answer::Yes, Answer::No));
 
 }  // namespace
 }  // namespace mortane::test
