@@ -24,9 +24,8 @@ inline constexpr const char* kAllUnknown = "-1 -1 -1 -1 -1 -1 -1 -1 -1";
 
 // Harbour without its accessories, with these controllers (0 to 6) answering.
 struct UnitsRig : Rig {
-  explicit UnitsRig(std::initializer_list<int> controllers, bool drives = false) : Rig("Harbour") {
-    for (int number = 1; number <= 7; ++number) instrument().Unit(number) = {};
-    for (const int unit : controllers) instrument().Unit(unit + 1) = {1, "V1.30"};
+  explicit UnitsRig(const std::vector<int>& controllers, bool drives = false) : Rig("Harbour") {
+    SetUnits(instrument(), controllers);
     if (!drives) {
       for (int number = 1; number <= accessory::kCount; ++number) {
         Fit(instrument(), number, kNotMounted);

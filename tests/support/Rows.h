@@ -37,4 +37,10 @@ inline void Unfit(controller::Bench& bench, std::int32_t accessory) {
   Fit(bench.instruments.back(), accessory, kNotMounted);
 }
 
+// Lets only these controller units answer, counted from 0.
+inline void SetUnits(controller::Instrument& instrument, const std::vector<int>& units) {
+  for (int unit = 1; unit <= 7; ++unit) instrument.Unit(unit) = {};
+  for (const int unit : units) instrument.Unit(unit + 1) = {1, "V1.30"};
+}
+
 }  // namespace mortane::test

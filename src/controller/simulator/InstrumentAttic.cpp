@@ -119,14 +119,14 @@ DatabaseData AwkwardDatabase() {
 namespace instruments {
 
 Instrument Attic() {
-  constexpr std::array offsets{accessory::kNDFilter, accessory::kDiaFieldStop,
-                               accessory::kDiaApertureStop, accessory::kEpiFieldStop};
+  constexpr std::array kOffsets{accessory::kNDFilter, accessory::kDiaFieldStop,
+                                accessory::kDiaApertureStop, accessory::kEpiFieldStop};
   Instrument attic;
   attic.name = "Attic";
   AddUnit(attic, controllerunit::kBody, "V1.30b");
   AddUnit(attic, controllerunit::kHandController, "V1.30b");
   FitAllAccessories(attic, Fit::Controllable);
-  for (const int number : offsets) attic.Accessory(number).offsetCode = 12;
+  for (const int number : kOffsets) attic.Accessory(number).offsetCode = 12;
   attic.nosepiece = Places({7, 2, 4, 8, 9, 5, 240, 241, 247, 242});
   attic.filterCubes = Places({3, 4, 5, 6, 241, 244, 0, 1, 2, 3});
   attic.condensers = Places({1, 3, 5, 12, 141, 142, 0, 2, 4, 6});

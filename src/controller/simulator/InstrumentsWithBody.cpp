@@ -40,10 +40,10 @@ void SetRelativeCompensation(Instrument& instrument) {
 }  // namespace
 
 Instrument Quay() {
-  constexpr std::string_view version = "vDEMO";
-  Instrument quay = WithBody("Lab 2 East", version);
-  AddUnit(quay, controllerunit::kHub, version);
-  AddUnit(quay, controllerunit::kHandController, version);
+  constexpr std::string_view kVersion = "vDEMO";
+  Instrument quay = WithBody("Lab 2 East", kVersion);
+  AddUnit(quay, controllerunit::kHub, kVersion);
+  AddUnit(quay, controllerunit::kHandController, kVersion);
   FitAllAccessories(quay, Fit::Controllable);
   quay.Accessory(accessory::kDiaLamp).value = 9;
   quay.Accessory(accessory::kOpticalZoom).value = 1.5;

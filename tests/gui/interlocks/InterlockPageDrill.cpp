@@ -2,15 +2,12 @@
 #include "gui/interlocks/InterlockPages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
-#include "interlocks/InterlockRig.h"
+#include "interlocks/InterlockStates.h"
 #include "interlocks/clsInterLockOffset.h"
+#include "support/Rows.h"
 
 namespace mortane::test {
 namespace {
-
-std::string Numbered(const char* array, std::size_t index) {
-  return std::string(array) + "_" + std::to_string(index);
-}
 
 // A switch on a page: its label, the accessory, and the state on the bench.
 struct SwitchRow {
@@ -118,10 +115,6 @@ void AddSwitches(PageDrillData& data, const SwitchArray& array) {
     data.edits.push_back({box, caption, value, row.state == 1 ? "0" : "1"});
     data.tabOrder.push_back(box);
   }
-}
-
-void Unfit(Bench& bench, std::int32_t accessory) {
-  bench.instruments.back().Accessory(accessory) = {};
 }
 
 PageDrillData Observation() {

@@ -6,7 +6,9 @@
 #include "document/Dom.h"
 #include "gui/support/PageRig.h"
 #include "hub/clsK70.h"
-#include "interlocks/InterlockRig.h"
+#include "interlocks/InterlockStates.h"
+#include "support/Rows.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 
