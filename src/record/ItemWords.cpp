@@ -1,16 +1,18 @@
 #include "record/ItemWords.h"
 
-#include <algorithm>
 #include <array>
-#include <functional>
 #include <optional>
 #include <span>
+#include <sstream>
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "filters/FilterItemNames.h"
 #include "interlocks/ObservationAccessories.h"
 #include "interlocks/OtherAccessories.h"
 #include "interlocks/clsInterLockOffset.h"
+#include "objectives/ObjectiveCode.h"
+#include "objectives/clsDbNosepiece.h"
 #include "switches/SwitchFunctions.h"
 
 namespace mortane {
@@ -24,24 +26,28 @@ struct Word {
 };
 using Words = std::span<const Word>;
 
-// How a value is told.
-enum class ValueForm { Text, Name, Word, Objective, Cube, Function };
+constexpr std::string_view kUnknownInWords = "unknown";
+constexpr std::string_view kSkipRule = "Skip";
+
+// How a value is told. A Name stands in the text itself, a Code points to one.
+enum class ValueForm { Name, Code, Word, Text, Objective, Cube, Function };
 
 struct WordsRow {
   ItemKind kind;
-  std::string_view name;  // '#' stands for the position
+  std::string_view name;  // '#' stands for the position, as PositionInWords has it
   ValueForm form;
-  CodeList list;  // of a Name
-  Words words;    // of a Word
+  Words words = {};                      // of a Word
+  CodeList list = CodeList::Objectives;  // of a Code
+  std::string_view blank = {};           // shown for a blank Name
 };
 
-constexpr CodeList kNoList = CodeList::Objectives;
-
 constexpr std::array<Word, 2> kInterlockWords{{{"True", "ON"}, {"False", "OFF"}}};
-constexpr std::array<Word, 4> kLimitWords{{{"Off", "Free"},
-                                           {"NotRotate", "No Rotation"},
-                                           {"On", "Skip"},
-                                           {"StageDown", "Rotate After Stage going down"}}};
+// The reader of a file takes both words for the second option of every rule.
+constexpr std::array<Word, 4> kRotationWords{{{"Off", "Free"},
+                                              {"NotRotate", "No Rotation"},
+                                              {"On", "No Rotation"},
+                                              {"StageDown", "Rotate After Stage going down"}}};
+constexpr std::array<Word, 3> kSkipWords{{{"Off", "Use"}, {"On", "Skip"}, {"NotRotate", "Skip"}}};
 constexpr std::array<Word, 10> kFactors{{{"0", "1.00"},
                                          {"1", "0.95"},
                                          {"2", "0.90"},
@@ -52,7 +58,7 @@ constexpr std::array<Word, 10> kFactors{{{"0", "1.00"},
                                          {"7", "0.65"},
                                          {"8", "0.60"},
                                          {"9", "0.55"}}};
-constexpr std::array<Word, 3> kCompensationWords{
+constexpr std::array<Word, 3> kCompensations{
     {{"None", "OFF"}, {"Absolute", "Absolute"}, {"Relative", "ON"}}};
 constexpr std::array<Word, 2> kLowerLimits{{{"-300000", "-15mm"}, {"-500000", "-25mm"}}};
 constexpr std::array<Word, 2> kEscapeWords{{{"Off", "OFF"}, {"On", "ON"}}};
@@ -64,46 +70,45 @@ constexpr std::array<Word, 3> kLedWords{{{"Off", "OFF"}, {"Dark", "Dark"}, {"Bri
 constexpr std::array<Word, 2> kModes{{{"0", "Standard"}, {"1", "Extend"}}};
 constexpr std::array<Word, 2> kSides{{{"0", "Right"}, {"1", "Left"}}};
 
+constexpr std::string_view kNoName = "NoName";
+
 constexpr std::array<WordsRow, kItemKinds> kRows{{
-    {SystemName, "System Name", ValueForm::Text, kNoList, {}},
-    {ObjectiveAddress, "Objective #", ValueForm::Name, CodeList::Objectives, {}},
-    {ObjectiveCode, "Optional Objective #", ValueForm::Objective, kNoList, {}},
-    {ObjectiveName, "Optional Objective #, Name", ValueForm::Text, kNoList, {}},
-    {NosepieceLimit, "#", ValueForm::Word, kNoList, kLimitWords},
-    {CubeAddress, "Filter Cube #", ValueForm::Name, CodeList::Cubes, {}},
-    {CubeCode, "Optional Filter Cube #", ValueForm::Cube, kNoList, {}},
-    {CubeName, "Optional Filter Cube #, Name", ValueForm::Text, kNoList, {}},
-    {ExciterName, "Optional Exciter #", ValueForm::Text, kNoList, {}},
-    {DichroicName, "Optional Dichroic #", ValueForm::Text, kNoList, {}},
-    {BarrierName, "Optional Barrier #", ValueForm::Text, kNoList, {}},
-    {CondenserAddress, "Condenser #", ValueForm::Name, CodeList::Condensers, {}},
-    {CondenserName, "Optional Condenser #", ValueForm::Text, kNoList, {}},
-    {ObservationInterlock, "Observation Change to #", ValueForm::Word, kNoList, kInterlockWords},
-    {NosepieceInterlock, "Nosepiece Change to #", ValueForm::Word, kNoList, kInterlockWords},
-    {LightPathInterlock, "Light Path Change to #", ValueForm::Word, kNoList, kInterlockWords},
-    {ZoomInterlock, "Zoom Change to #", ValueForm::Word, kNoList, kInterlockWords},
-    {Offset, "Compensation of #", ValueForm::Word, kNoList, kFactors},
-    {FocusCompensation, "Z Focus Correction for Pafocality", ValueForm::Word, kNoList,
-     kCompensationWords},
-    {LowerLimit, "Lower Limit", ValueForm::Word, kNoList, kLowerLimits},
-    {FocusEscape, "Escape, Focus Drive", ValueForm::Word, kNoList, kEscapeWords},
-    {StageEscape, "Escape, XY Stage", ValueForm::Word, kNoList, kEscapeWords},
-    {StageCompensation, "Pitch adjustment to Magnification", ValueForm::Word, kNoList,
-     kCompensationWords},
-    {FocusKnob, "Focus Knob", ValueForm::Word, kNoList, kKnobWords},
-    {FocusSensitivity, "Focus Knob, Sensitivity", ValueForm::Text, kNoList, {}},
-    {StageKnob, "Stage Knob", ValueForm::Word, kNoList, kKnobWords},
-    {StageSensitivity, "Stage Knob, Sensitivity", ValueForm::Text, kNoList, {}},
-    {Buzzer, "Buzzer", ValueForm::Word, kNoList, kBuzzerWords},
-    {BodySwitches, "K70 Switch", ValueForm::Word, kNoList, kEnabledWords},
-    {HandSwitches, "Tactor Switch", ValueForm::Word, kNoList, kEnabledWords},
-    {RemoteSwitches, "B-KM-R Remote Controler, Switch Setting", ValueForm::Word, kNoList,
-     kEnabledWords},
-    {RemoteLed, "B-KM-R Remote Controler, LED Setting", ValueForm::Word, kNoList, kLedWords},
-    {BodySwitch, "K70 Switch #", ValueForm::Function, kNoList, {}},
-    {HandMode, "Tactor Switch, Mode", ValueForm::Word, kNoList, kModes},
-    {HandSide, "Tactor Switch, XY Knob", ValueForm::Word, kNoList, kSides},
-    {HandSwitch, "Tactor Switch #", ValueForm::Function, kNoList, {}},
+    {SystemName, "System Name", ValueForm::Name, {}, {}, kNoName},
+    {ObjectiveAddress, "Objective #", ValueForm::Code, {}, CodeList::Objectives},
+    {ObjectiveCode, "Optional Objective #", ValueForm::Objective},
+    {ObjectiveName, "Optional Objective #, Name", ValueForm::Name, {}, {}, kUnnamedObjective},
+    {NosepieceLimit, "#", ValueForm::Word, kRotationWords},
+    {CubeAddress, "Filter Cube #", ValueForm::Code, {}, CodeList::Cubes},
+    {CubeCode, "Optional Filter Cube #", ValueForm::Cube},
+    {CubeName, "Optional Filter Cube #, Name", ValueForm::Name, {}, {}, kUnnamedMark},
+    {ExciterName, "Optional Exciter #", ValueForm::Name, {}, {}, kUnnamedMark},
+    {DichroicName, "Optional Dichroic #", ValueForm::Name, {}, {}, kUnnamedMark},
+    {BarrierName, "Optional Barrier #", ValueForm::Name, {}, {}, kUnnamedMark},
+    {CondenserAddress, "Condenser #", ValueForm::Code, {}, CodeList::Condensers},
+    {CondenserName, "Optional Condenser #", ValueForm::Name, {}, {}, kUnnamedMark},
+    {ObservationInterlock, "Observation Change to #", ValueForm::Word, kInterlockWords},
+    {NosepieceInterlock, "Nosepiece Change to #", ValueForm::Word, kInterlockWords},
+    {LightPathInterlock, "Light Path Change to #", ValueForm::Word, kInterlockWords},
+    {ZoomInterlock, "Zoom Change to #", ValueForm::Word, kInterlockWords},
+    {Offset, "Compensation, #", ValueForm::Word, kFactors},
+    {FocusCompensation, "Z Focus Correction for Pafocality", ValueForm::Word, kCompensations},
+    {LowerLimit, "Lower Limit", ValueForm::Word, kLowerLimits},
+    {FocusEscape, "Escape, Focus Drive", ValueForm::Word, kEscapeWords},
+    {StageEscape, "Escape, XY Stage", ValueForm::Word, kEscapeWords},
+    {StageCompensation, "Pitch adjustment to Magnification", ValueForm::Word, kCompensations},
+    {FocusKnob, "Focus Knob", ValueForm::Word, kKnobWords},
+    {FocusSensitivity, "Focus Knob, Sensitivity", ValueForm::Text},
+    {StageKnob, "Stage Knob", ValueForm::Word, kKnobWords},
+    {StageSensitivity, "Stage Knob, Sensitivity", ValueForm::Text},
+    {Buzzer, "Buzzer", ValueForm::Word, kBuzzerWords},
+    {BodySwitches, "K70 Switch", ValueForm::Word, kEnabledWords},
+    {HandSwitches, "Tactor Switch", ValueForm::Word, kEnabledWords},
+    {RemoteSwitches, "B-KM-R Remote Controler, Switch Setting", ValueForm::Word, kEnabledWords},
+    {RemoteLed, "B-KM-R Remote Controler, LED Setting", ValueForm::Word, kLedWords},
+    {BodySwitch, "K70 Switch #", ValueForm::Function},
+    {HandMode, "Tactor Switch, Mode", ValueForm::Word, kModes},
+    {HandSide, "Tactor Switch, XY Knob", ValueForm::Word, kSides},
+    {HandSwitch, "Tactor Switch #", ValueForm::Function},
 }};
 
 static_assert([] {
@@ -117,25 +122,209 @@ const WordsRow& WordsOf(ItemKind kind) {
   return kRows.at(static_cast<std::size_t>(kind));
 }
 
+// The captions of accessories have their default in brackets behind the name.
+std::string WithoutBrackets(std::string_view caption) {
+  return RightTrim(caption.substr(0, caption.find('(')));
+}
+
+template <typename Rows>
+std::string CaptionOf(const Rows& rows, const std::string& word) {
+  for (const auto& row : rows) {
+    if (row.word != word) continue;
+    const std::string caption = WithoutBrackets(row.caption);
+    return caption.empty() ? word : caption;
+  }
+  return word;
+}
+
+struct RuleName {
+  std::string_view position;
+  std::string_view name;
+};
+constexpr std::array<RuleName, 3> kRuleNames{
+    {{"LowerMagnification", "Safety Setting"},
+     {kSkipRule, "Empty Position"},
+     {"WaferImmersion", "Immersion Objective IN/OUT Control"}}};
+
+std::string RuleInWords(const std::string& position) {
+  for (const RuleName& rule : kRuleNames) {
+    if (rule.position == position) return std::string(rule.name);
+  }
+  return position;
+}
+
+// A dial has its position for one direction and the next for the other.
+template <typename Rows>
+std::optional<std::string> ControlAt(const Rows& rows, std::int32_t position) {
+  for (const auto& row : rows) {
+    const std::string name(row.name);
+    if (row.kind == SwitchKind::Push && row.position == position) return name;
+    if (row.kind == SwitchKind::Push) continue;
+    if (row.position == position) return name + " CW";
+    if (row.position + 1 == position) return name + " CCW";
+  }
+  return std::nullopt;
+}
+
+std::string SwitchInWords(ItemKind kind, const std::string& position) {
+  if (!IsNumeric(position, PointFormat())) return position;
+  const std::int32_t number = ToLong(position, PointFormat());
+  std::optional<std::string> name;
+  if (kind == BodySwitch) name = ControlAt(kBodyRows, number);
+  for (const TactorPage& page : kTactorPages) {
+    if (kind == HandSwitch && !name) name = ControlAt(page, number);
+  }
+  return name.value_or(position);
+}
+
+std::string PositionInWords(const ItemKey& key, ItemKind kind) {
+  switch (kind) {
+    case NosepieceLimit:
+      return RuleInWords(key.position);
+    case ObservationInterlock:
+      return CaptionOf(kObservationAccessories, key.position);
+    case NosepieceInterlock:
+    case LightPathInterlock:
+    case ZoomInterlock:
+      return CaptionOf(kOtherAccessories, key.position);
+    case Offset:
+      return CaptionOf(kOffsetAccessories, key.position);
+    case BodySwitch:
+    case HandSwitch:
+      return SwitchInWords(kind, key.position);
+    default:
+      return key.position;
+  }
+}
+
+std::string NameOrCode(const ItemNames& names, CodeList list, std::int32_t code) {
+  const std::string* name = names.Find(list, code);
+  if (name != nullptr) return *name;
+  return code == 0 ? std::string(kNoMagnification) : "code " + std::to_string(code);
+}
+
+// Of an objective that a file has as a text of twelve characters, a model with its values in full.
+struct SpelledObjective {
+  std::int32_t series = 0;
+  std::int32_t type = 0;
+  std::int32_t condenser = 0;
+  std::string magnification;
+  std::string distance;
+  std::string aperture;
+
+  bool IsEmpty() const {
+    return series == 0 && type == 0 && condenser == 0 && magnification == kNoMagnification &&
+           distance == "0" && aperture == "0";
+  }
+};
+
+std::optional<SpelledObjective> Spelled(const ConfigurationItem& item) {
+  SpelledObjective spelled;
+  if (!item.exact.empty()) {
+    std::istringstream parts(item.exact);
+    parts >> spelled.series >> spelled.type >> spelled.condenser >> spelled.magnification >>
+        spelled.distance >> spelled.aperture;
+    if (spelled.magnification != kNoMagnification) spelled.magnification += "x";
+    return spelled;
+  }
+  if (CharacterCount(item.value) != kObjectiveCodeLength) return std::nullopt;
+  const char last = item.value.back();
+  if (last < '0' || last > '9') return std::nullopt;
+  const ObjectiveValues values = DecodeObjective(item.value);
+  return SpelledObjective{values.series,
+                          values.type,
+                          last - '0',
+                          MagnificationText(values.magnification),
+                          ShortestGeneral(values.workingDistance),
+                          ShortestGeneral(values.numericalAperture)};
+}
+
+std::string ObjectiveInWords(const ConfigurationItem& item, const ItemNames& names) {
+  const std::optional<SpelledObjective> spelled = Spelled(item);
+  if (!spelled) return item.value;
+  if (spelled->IsEmpty()) return std::string(kNoMagnification);
+  const std::string condenser = spelled->condenser == 0
+                                    ? "None"
+                                    : NameOrCode(names, CodeList::Condensers, spelled->condenser);
+  return "Series " + NameOrCode(names, CodeList::Series, spelled->series) + ", Type " +
+         NameOrCode(names, CodeList::Types, spelled->type) + ", Mag. " + spelled->magnification +
+         ", W.D. " + spelled->distance + ", N.A. " + spelled->aperture + ", DIC / Ph Condenser " +
+         condenser;
+}
+
+std::string CubeInWords(const ConfigurationItem& item, const ItemNames& names) {
+  struct Part {
+    std::string_view name;
+    CodeList list;
+  };
+  constexpr std::array<Part, kFilterItems> kParts{{{"Exciter", CodeList::Exciters},
+                                                   {"Dichroic", CodeList::Dichroics},
+                                                   {"Barrier", CodeList::Barriers}}};
+  constexpr std::size_t kGroup = 4;  // a mark and three digits
+  if (item.value.size() != kGroup * kParts.size()) return item.value;
+  std::string words;
+  bool any = false;
+  for (std::size_t i = 0; i < kParts.size(); ++i) {
+    const std::string digits = item.value.substr(i * kGroup + 1, kGroup - 1);
+    if (!IsNumeric(digits, PointFormat())) return item.value;
+    const std::int32_t code = ToLong(digits, PointFormat());
+    any = any || code != 0;
+    words += (words.empty() ? "" : ", ") + std::string(kParts[i].name) + " " +
+             NameOrCode(names, kParts[i].list, code);
+  }
+  return any ? words : std::string(kNoMagnification);
+}
+
+std::string FunctionInWords(const std::string& value) {
+  if (!IsNumeric(value, PointFormat())) return value;
+  const std::int32_t code = ToLong(value, PointFormat());
+  const std::string_view name = FunctionName(AllSwitchFunctions(), code);
+  return name.empty() ? "code " + std::to_string(code) : RightTrim(name);
+}
+
+std::string WordOf(const ConfigurationItem& item, Words words) {
+  const bool skips = item.kind == NosepieceLimit && item.key.position == kSkipRule;
+  const std::string& text = item.exact.empty() ? item.value : item.exact;
+  for (const Word& word : skips ? Words(kSkipWords) : words) {
+    if (EqualsIgnoringCase(word.text, text)) return std::string(word.words);
+  }
+  return IsKnown(item) ? text : std::string(kUnknownInWords);
+}
+
+std::string CodeInWords(const ConfigurationItem& item, const WordsRow& row,
+                        const ItemNames& names) {
+  if (!IsNumeric(item.value, PointFormat())) return item.value;
+  return RightTrim(NameOrCode(names, row.list, ToLong(item.value, PointFormat())));
+}
+
 }  // namespace
 
 std::string NameInWords(const ItemKey& key, ItemKind kind) {
   if (kind == Unknown) return KeyText(key);
   std::string name(WordsOf(kind).name);
   const std::size_t place = name.find('#');
-  if (place != std::string::npos) name.replace(place, 1, key.position);
+  if (place != std::string::npos) name.replace(place, 1, PositionInWords(key, kind));
   return name;
 }
 
 std::string ValueInWords(const ConfigurationItem& item, const ItemNames& names) {
   if (item.kind == Unknown) return item.value;
   const WordsRow& row = WordsOf(item.kind);
-  if (row.form == ValueForm::Name) {
-    const std::string* name = names.Find(row.list, ToLong(item.value, PointFormat()));
-    return name == nullptr ? item.value : *name;
-  }
-  for (const Word& word : row.words) {
-    if (EqualsIgnoringCase(word.text, item.value)) return std::string(word.words);
+  switch (row.form) {
+    case ValueForm::Name:
+      return Trim(item.value).empty() ? std::string(row.blank) : item.value;
+    case ValueForm::Code:
+      return CodeInWords(item, row, names);
+    case ValueForm::Word:
+      return WordOf(item, row.words);
+    case ValueForm::Objective:
+      return ObjectiveInWords(item, names);
+    case ValueForm::Cube:
+      return CubeInWords(item, names);
+    case ValueForm::Function:
+      return FunctionInWords(item.value);
+    case ValueForm::Text:
+      break;
   }
   return item.value;
 }

@@ -8,10 +8,13 @@
 
 namespace mortane {
 
-// "Objective 3": what an item of that key is called.
+// "Objective 3", "Lower Limit", "Nosepiece Change to ND Filter", "Tactor Switch R (A)": what an
+// item of that key is called.
 std::string NameInWords(const ItemKey& key, ItemKind kind);
 
-// "Plan F 20x", "-15mm", "ON": the value of an item. A code without a name is shown as the code.
+// "Plan F 20x", "-15mm", "ON", "Series Plan F, Type Dry, Mag. 20x, ...": the value of an item. A
+// code without a name is "code 9", a value that is not known "unknown"; what is no value of the
+// item is shown as it stands. Numbers are in the user's format.
 std::string ValueInWords(const ConfigurationItem& item, const ItemNames& names);
 
 // "Objective 3: Plan F 20x".
