@@ -44,7 +44,8 @@ struct Rig {
                        .library = library,
                        .prompts = prompts,
                        .joystick = joystick,
-                       .arguments = {"sadrel", "/SIM"}}};
+                       .arguments = {"sadrel", "/SIM"}},
+                      WizardSteps()};
 };
 
 void GoTo(Rig& rig, int step) {
