@@ -112,6 +112,8 @@ QWidget* SystemNameCtl::BuildReportCard() {
 void SystemNameCtl::LoadData() {
   const bool nameless = Trim(k70_.SystemName).empty();
   TextSystemName->setText(nameless ? u"NoName"_s : QString::fromStdString(k70_.SystemName));
+  untouched_.reset();
+  if (!nameless) untouched_ = TextSystemName->text();
   TextAccessories->setPlainText(ShownText(k70_.GetAccessories()));
   QVector<DrawnAccessory> drawn;
   for (const AccessoryRow& row : kAccessoryTable) {
@@ -124,7 +126,11 @@ void SystemNameCtl::LoadData() {
   ShowDrawingWhereItFits();
 }
 
+// A controller may hold a longer name than the field, or characters that a field of one line has
+// not. Kept: the text that stands in for a missing name becomes the name.
 void SystemNameCtl::SaveData() {
+  if (TextSystemName->text() == untouched_) return;
+  untouched_.reset();
   k70_.SystemName = TextSystemName->text().toStdString();
 }
 

@@ -1,6 +1,8 @@
 // The panel with the system name and the report of fitted accessories.
 #pragma once
 
+#include <optional>
+
 #include "widgets/Page.h"
 
 class QFrame;
@@ -38,6 +40,7 @@ class SystemNameCtl : public Page {
   QWidget* BuildReportCard();
 
   clsK70& k70_;
+  std::optional<QString> untouched_;  // as shown of a name that nobody has edited since
   MicroscopeDrawing* drawing_;
   InnerFrame* drawingFrame_;
 };

@@ -14,6 +14,9 @@
 #include "widgets/TextField.h"
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The page in a window of its own, with a further control to move the focus to.
@@ -69,6 +72,41 @@ struct NameRow {
   const char* name;
   const char* shown;
 };
+
+// The controller's own name may be longer than the field, or hold what a line cannot.
+TEST_F(SystemPage, LeavesANameThatNobodyEditedAsItIs) {
+  for (const char* held : {"A name of twenty-one", "two\nlines", " Lab 2 "}) {
+    k70().SystemName = held;
+    page->LoadData();
+    name().setFocus();
+    elsewhere->setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(k70().SystemName, held) << "passed by";
+    QTest::keyClick(&name(), Qt::Key_Return);
+    page->SaveData();
+    EXPECT_EQ(k70().SystemName, held) << "saved";
+    name().setFocus();
+    name().selectAll();
+    QTest::keyClicks(&name(), "Bay 4");
+    elsewhere->setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(k70().SystemName, "Bay 4");
+    page->LoadData();
+    page->SaveData();
+    EXPECT_EQ(k70().SystemName, "Bay 4");
+  }
+}
+
+TEST_F(SystemPage, TakesAnEditBackToTheCutNameAsAnEdit) {
+  k70().SystemName = "A name of twenty-one";
+  page->LoadData();
+  const QString cut = name().text();
+  for (const QString& typed : {u"Bay 4"_s, cut}) {
+    name().setFocus();
+    name().selectAll();
+    QTest::keyClicks(&name(), typed);
+    elsewhere->setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(k70().SystemName, typed.toStdString());
+  }
+}
 
 TEST_F(SystemPage, ShowsTheNameUntrimmedOrNoName) {
   for (const NameRow& row :
