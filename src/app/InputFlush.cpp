@@ -1,21 +1,43 @@
 #include "app/InputFlush.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
+#include <utility>
 
 namespace mortane {
 
+InputFlush* InputFlush::current_ = nullptr;
+
 // Other events may come without end; a round that meets no input has emptied the queue of it.
 void InputFlush::Run() {
-  if (running_) return;
-  running_ = true;
+  if (IsRunning()) return;
+  current_ = this;
+  modalBefore_ = QApplication::activeModalWidget();
   QCoreApplication::instance()->installEventFilter(this);
   do {
     dropped_ = false;
     QCoreApplication::processEvents();
   } while (dropped_);
   QCoreApplication::instance()->removeEventFilter(this);
-  running_ = false;
+  current_ = nullptr;
+  for (const auto& call : std::exchange(whenOver_, {})) call();
+}
+
+void InputFlush::WhenOver(QObject& context, std::function<void()> act) {
+  auto call = [to = QPointer(&context), act = std::move(act)] {
+    if (to) QMetaObject::invokeMethod(to.data(), act, Qt::QueuedConnection);
+  };
+  if (IsRunning()) {
+    current_->whenOver_.emplace_back(std::move(call));
+  } else {
+    call();
+  }
+}
+
+// A box that stood before the flush is the place of the input to be dropped.
+bool InputFlush::IsBoxOpen() const {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return modal != nullptr && modal != modalBefore_;
 }
 
 bool InputFlush::eventFilter(QObject*, QEvent* event) {
@@ -28,6 +50,7 @@ bool InputFlush::eventFilter(QObject*, QEvent* event) {
     case QEvent::KeyRelease:
     case QEvent::ShortcutOverride:
     case QEvent::Shortcut:
+      if (IsBoxOpen()) return false;
       dropped_ = true;
       return true;
     default:

@@ -1,5 +1,6 @@
 #include "app/ProgramForm.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -11,6 +12,7 @@
 
 #include "app/CommandBoundary.h"
 #include "app/ConnectMicroscope.h"
+#include "app/InputFlush.h"
 #include "app/SelScopeDlg.h"
 #include "app/SettingsFiles.h"
 #include "hub/DeviceAvailability.h"
@@ -60,6 +62,7 @@ void ProgramForm::ShowVersion() {
 
 bool ProgramForm::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) Start();
+  if (event->type() == QEvent::WindowUnblocked) AskWhenFree();
   return QMainWindow::event(event);
 }
 
@@ -99,8 +102,22 @@ void ProgramForm::RunCommand(const std::function<void()>& command) {
   RunStep(prompts(), command);
   if (!form) return;
   commandRunning_ = false;
-  const bool asked = std::exchange(closeRequested_, false);
-  if (asked && isVisible()) RunCommand([this] { AskAndUnload(); });
+  AskWhenFree();
+}
+
+// A command, an act of a page that drops input at its end, and a box that stands over the window.
+bool ProgramForm::IsBusy() const {
+  return commandRunning_ || InputFlush::IsRunning() || QApplication::activeModalWidget() != nullptr;
+}
+
+// From the event loop, when what a page does around a flush or a box has come to its end, too.
+void ProgramForm::AskWhenFree() {
+  if (!closeRequested_) return;
+  InputFlush::WhenOver(*this, [this] {
+    if (!closeRequested_ || IsBusy()) return;
+    closeRequested_ = false;
+    if (isVisible()) RunCommand([this] { AskAndUnload(); });
+  });
 }
 
 std::int16_t ProgramForm::AskDevice() {
@@ -111,13 +128,13 @@ std::int16_t ProgramForm::AskDevice() {
   return dialog.Selected;
 }
 
-Answer ProgramForm::AskExit() {
+bool ProgramForm::AgreesToExit() {
   return prompts().MsgBox("Exit Setup?\r\nPush OK to Exit.", box::kOkCancel + box::kQuestion,
-                          windowTitle().toStdString());
+                          windowTitle().toStdString()) == Answer::Ok;
 }
 
 void ProgramForm::AskAndUnload() {
-  if (AskExit() == Answer::Ok) Unload();
+  if (AgreesToExit()) Unload();
 }
 
 void ProgramForm::Unload() {
@@ -125,13 +142,15 @@ void ProgramForm::Unload() {
 }
 
 // Only a person who closes the window is asked: the program's own close and the end of the session,
-// which lets the program close its windows, come without a question. A request that comes in while
-// a command runs waits for its end.
+// which lets the program close its windows, come without a question. A request that comes in during
+// a command, a flush or a box waits for its end.
 void ProgramForm::closeEvent(QCloseEvent* event) {
-  if (event->spontaneous() && commandRunning_) {
+  if (!isVisible()) return;
+  if (event->spontaneous() && IsBusy()) {
     closeRequested_ = true;
     event->ignore();
-  } else if (event->spontaneous() && AskExit() != Answer::Ok) {
+    AskWhenFree();
+  } else if (event->spontaneous() && !AgreesToExit()) {
     event->ignore();
   } else {
     place_.Keep(*this);

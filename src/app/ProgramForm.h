@@ -67,7 +67,9 @@ class ProgramForm : public QMainWindow {
   void BuildStatusBar();
   void Start();
   void FirstActivation();
-  Answer AskExit();
+  bool AgreesToExit();
+  [[nodiscard]] bool IsBusy() const;
+  void AskWhenFree();
 
   FormServices services_;
   WindowPlace place_;

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QTest>
 #include <QTimer>
@@ -14,6 +15,9 @@
 #include <functional>
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Counts what reaches it.
@@ -84,6 +88,48 @@ TEST(FlushInput, WithinItselfDoesNothing) {
   flush.Run();
   QApplication::processEvents();
   EXPECT_EQ(target.input, 0) << "the outer one was still at work";
+}
+
+// A refused field complains as soon as its window loses the focus, for one.
+TEST(FlushInput, LeavesABoxThatOpensMeanwhileToThePerson) {
+  InputFlush flush;
+  Target target;
+  target.show();
+  QTimer::singleShot(0, [&] {
+    QMessageBox box(QMessageBox::NoIcon, u"Mortane"_s, u"Please Input right value."_s,
+                    QMessageBox::Ok, &target);
+    QTimer::singleShot(0, [&] {
+      PostMouse(target, QEvent::MouseButtonPress);
+      QTest::keyClick(&box, Qt::Key_Return);
+      EXPECT_FALSE(box.isVisible());
+      if (box.isVisible()) box.reject();
+    });
+    EXPECT_EQ(box.exec(), QMessageBox::Ok);
+    PostMouse(target, QEvent::MouseButtonRelease);
+  });
+  flush.Run();
+  QApplication::processEvents();
+  EXPECT_EQ(target.input, 0) << "behind the box it is dropped again";
+}
+
+TEST(FlushInput, TellsWhenItIsOver) {
+  InputFlush flush;
+  QObject context;
+  int calls = 0;
+  EXPECT_FALSE(InputFlush::IsRunning());
+  QTimer::singleShot(0, [&] {
+    EXPECT_TRUE(InputFlush::IsRunning());
+    InputFlush::WhenOver(context, [&] {
+      EXPECT_FALSE(InputFlush::IsRunning());
+      ++calls;
+    });
+    QObject shortLived;
+    InputFlush::WhenOver(shortLived, [] { ADD_FAILURE() << "its context is gone"; });
+  });
+  flush.Run();
+  EXPECT_EQ(calls, 0) << "from the event loop";
+  QApplication::processEvents();
+  EXPECT_EQ(calls, 1);
 }
 
 TEST(FlushInput, EndsWhenNoInputIsLeftHoweverMuchElseThereIsToDo) {
