@@ -1,5 +1,6 @@
 #include "wizard/SadrelEndingCtl.h"
 
+#include <QApplication>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -51,10 +52,15 @@ void SadrelEndingCtl::Arrange() {
 
 void SadrelEndingCtl::LoadData() {
   const std::string report = k70_.Modify();
+  sinceLoad_.start();
   if (report == report_) return;
   sent = 0;
   report_ = report;
   TextResult->setPlainText(ShownText(report));
+}
+
+bool SadrelEndingCtl::IsJustLoaded() const {
+  return sinceLoad_.isValid() && sinceLoad_.elapsed() < QApplication::doubleClickInterval();
 }
 
 void SadrelEndingCtl::Send() {
@@ -65,6 +71,7 @@ void SadrelEndingCtl::Send() {
 
 // The window closes on the event of the sending, so nothing of this page is used after it.
 void SadrelEndingCtl::OnButtonSend() {
+  if (IsJustLoaded()) return;
   Prompts& prompts = k70_.prompts();
   {
     const HourglassScope hourglass(prompts);

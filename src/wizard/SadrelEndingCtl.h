@@ -1,6 +1,7 @@
 // The last step: what a Send would change, and the Send.
 #pragma once
 
+#include <QElapsedTimer>
 #include <cstdint>
 #include <string>
 
@@ -24,6 +25,9 @@ class SadrelEndingCtl : public Page {
   // Shows what differs from the controller. May raise what asking the controller raises; the old
   // report stays then.
   void LoadData() override;
+  // Whether it was loaded within the time of a double click: a second click on the key that led
+  // here, or on what stands in its place, is none on a key that sends.
+  [[nodiscard]] bool IsJustLoaded() const;
   // Sends all. This page may be gone when it returns.
   void Send();
 
@@ -45,6 +49,7 @@ class SadrelEndingCtl : public Page {
 
   clsK70& k70_;
   std::string report_;  // as TextResult was given it
+  QElapsedTimer sinceLoad_;
 };
 
 }  // namespace mortane

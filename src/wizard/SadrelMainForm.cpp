@@ -100,6 +100,7 @@ void SadrelMainForm::GoToStep(int step) {
   MarkMainButton();
   optMenu[static_cast<std::size_t>(step)]->setChecked(true);
   FocusPage();
+  if (step == kEndingStep) prompts().FlushInput();
 }
 
 void SadrelMainForm::EnterStep(int step) {
@@ -160,6 +161,7 @@ void SadrelMainForm::DoNext() {
 // Behind the sending the window may be gone.
 void SadrelMainForm::DoFinish() {
   if (currentStep != kEndingStep) return GoToStep(kEndingStep);
+  if (SadrelEndingCtl1->IsJustLoaded()) return;
   Prompts& asking = prompts();
   SadrelEndingCtl1->Send();
   asking.FlushInput();

@@ -234,6 +234,7 @@ class PackedPrograms(unittest.TestCase):
         for _ in range(9):
             self.desktop.tool("key", "alt+n")
             time.sleep(0.4)
+        time.sleep(0.5)  # as long as the keys of the last step are deaf
         self.desktop.tool("key", "alt+e")
         program.press(program.box(), "Return")
         self.answer_file_dialog("Save As", saved)

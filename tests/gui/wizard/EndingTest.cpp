@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "WizardRig.h"
+#include "app/InputFlush.h"
 #include "support/TempFolder.h"
 #include "widgets/Card.h"
 #include "widgets/Theme.h"
@@ -18,7 +19,21 @@ namespace {
 constexpr char kSaveQuestion[] = "Save Settings?\r\nPush OK to Save.";
 constexpr char kWizardCaption[] = "Sadrel";
 
-// The wizard on its last step.
+// How long a key may be a second click of the one before.
+class DoubleClickInterval {
+ public:
+  explicit DoubleClickInterval(int ms) : before_(QApplication::doubleClickInterval()) {
+    QApplication::setDoubleClickInterval(ms);
+  }
+  ~DoubleClickInterval() { QApplication::setDoubleClickInterval(before_); }
+  DoubleClickInterval(const DoubleClickInterval&) = delete;
+  DoubleClickInterval& operator=(const DoubleClickInterval&) = delete;
+
+ private:
+  int before_;
+};
+
+// The wizard on its last step, long enough for its keys to act.
 class EndingStep : public testing::Test {
  protected:
   EndingStep() {
@@ -42,9 +57,51 @@ class EndingStep : public testing::Test {
   }
   std::string question() const { return std::string("box 33 [Sadrel]: ") + kSaveQuestion; }
 
+  DoubleClickInterval passed{0};
   TempFolder folder;
   WizardRig rig{benches::Named("Harbour")};
 };
+
+TEST_F(EndingStep, TakesTheSecondClickOfADoubleClickForNoExit) {
+  const DoubleClickInterval hour(3'600'000);
+  GetK70().SystemName = "Bay 4";
+  GoBack();
+  rig.journal.Clear();
+  GoToEnding();
+  GoToEnding();
+  QTest::mouseDClick(form().ButtonFinish, Qt::LeftButton);
+  QTest::mouseClick(ending().ButtonSend, Qt::LeftButton);
+  QTest::keyClick(form().ButtonFinish, Qt::Key_Return);
+  EXPECT_TRUE(rig.journal.Writes().empty());
+  EXPECT_TRUE(form().isVisible());
+  GoBack();
+  EXPECT_NE(form().currentStep, kEndingStep) << "what does not send acts at once";
+}
+
+TEST_F(EndingStep, DropsTheInputThatCameWhileItLoaded) {
+  GoBack();
+  rig.prompts.ClearRecords();
+  GoToEnding();
+  EXPECT_EQ(Calls(), (Lines{"pointer 11", "pointer 0", "flush"}));
+  GoBack();
+  EXPECT_EQ(Calls().size(), 3U) << "no other step does";
+}
+
+// What queues up during the sending is delivered while the page drops input.
+TEST_F(EndingStep, ARequestToCloseDuringTheSendingAsksNothingMore) {
+  InputFlush flush;
+  rig.prompts.onCall = [&] {
+    if (rig.prompts.Log().back() == "wait 3000") {
+      QTimer::singleShot(0, &form(), [this] { rig.RequestClose(); });
+    }
+    if (rig.prompts.Log().back() == "flush") flush.Run();
+  };
+  ExpectSaveQuestion(Answer::Cancel);
+  QTest::mouseClick(ending().ButtonSend, Qt::LeftButton);
+  QTest::qWait(1);
+  EXPECT_FALSE(form().isVisible());
+  EXPECT_EQ(rig.prompts.Boxes().size(), 1U);
+}
 
 TEST_F(EndingStep, BearsItsControlsByName) {
   EXPECT_EQ(ending().objectName(), "SadrelEndingCtl1");

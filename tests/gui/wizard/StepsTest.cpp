@@ -195,7 +195,7 @@ TEST(Ending, IsReachedUnderTheHourglass) {
   StepsRig rig;
   rig.fakes.pages[9]->onLoad = [&rig] { EXPECT_EQ(rig.app.prompts.PointerBalance(), 1); };
   rig.Click(rig.form().ButtonFinish);
-  EXPECT_EQ(rig.app.prompts.Log(), (Lines{"pointer 11", "pointer 0"}));
+  EXPECT_EQ(rig.app.prompts.Log(), (Lines{"pointer 11", "pointer 0", "flush"}));
 }
 
 TEST(Ending, RestoresThePointerWhenItsLoadingFails) {

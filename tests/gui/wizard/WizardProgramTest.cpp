@@ -13,6 +13,8 @@ constexpr int kSteps = 10;
 constexpr int kItems = 7;
 // A button acts a moment after its letter.
 constexpr int kLetterMs = 250;
+// The keys of the last step are deaf for as long.
+constexpr int kDoubleClickMs = 400;
 
 class Wizard : public BuiltProgram {
  protected:
@@ -76,6 +78,7 @@ TEST_P(WizardOn, IsGoneThroughByKeyboardAlone) {
   Tool({"key", "Down", "Tab"});
   for (int item = 0; item < kItems; ++item) Tool({"key", "space", "Down"});
   for (int step = 1; step < kSteps; ++step) Key(kNext);
+  QThread::msleep(kDoubleClickMs);
   Key("alt+e");
   Press(AwaitWindows(2).front(), {"Return"});
   Tool({"windowfocus", "--sync", AwaitWindows(1, "Save As").front()});
