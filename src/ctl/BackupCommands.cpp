@@ -31,7 +31,8 @@ std::string PathOfBackup(const std::string& which, const std::string& device,
   const bool isPath = which.find_first_of("/\\") != std::string::npos;
   if (isPath) return which;
   if (list.empty()) {
-    Refuse("there is no backup of \"" + device + "\" in " + backups.Folder());
+    Refuse("there is no backup of \"" + device + "\" in " + backups.Folder() +
+           "; a path restores one that was kept under another name");
   }
   if (which.empty()) return list.front().path;
   for (std::size_t i = 0; i < list.size(); ++i) {

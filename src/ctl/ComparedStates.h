@@ -12,10 +12,11 @@
 namespace mortane::ctl {
 
 // Receives, takes the file into the model and compares. Afterwards a Send would write the changes.
+// The file is borrowed.
 class ComparedStates {
  public:
   ComparedStates(MicroscopeLink& link, const DomDocument& file, const std::string& fileName,
-                 const std::vector<std::size_t>& sections);
+                 std::vector<std::size_t> sections);
 
   const ComparisonResult& Result() const { return result_; }
   const Comparison& Items() const { return comparison_; }
@@ -25,10 +26,16 @@ class ComparedStates {
   const ItemNames& NamesOfMicroscope() const { return held_->names; }
   const ItemNames& NamesOfFile() const { return wanted_->names; }
 
+  // The same file beside what the microscope holds after a further Receive.
+  Comparison CompareAgain(MicroscopeLink& link) const;
+
   // Failed when not all of the microscope could be read.
   Outcome OutcomeOfComparison() const;
 
  private:
+  const DomDocument& file_;
+  std::string fileName_;
+  std::vector<std::size_t> sections_;
   DomDocument heldDocument_;
   std::optional<ConfigurationState> held_;
   std::optional<ConfigurationState> wanted_;

@@ -70,7 +70,6 @@ void ConsolePrompts::Wait(int milliseconds) {
 }
 
 void ConsolePrompts::ShowProgress(int done, int total) {
-  stepsBegun_ = done;
   if (done == total) return ClearProgress();
   if (!stays_ && surroundings_.endAsked()) throw EndAsked();
   if (!surroundings_.showsProgress) return;

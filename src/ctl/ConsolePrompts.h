@@ -24,8 +24,6 @@ class ConsolePrompts : public Prompts {
   void NameTransfer(std::string name) { transfer_ = std::move(name); }
   // From now on transfers run to their end, whoever asks.
   void StayToTheEnd() { stays_ = true; }
-  // Steps of the last transfer that had begun.
-  int StepsBegun() const { return stepsBegun_; }
 
   // One line on standard error, with the program's name.
   void Say(const std::string& line);
@@ -47,7 +45,6 @@ class ConsolePrompts : public Prompts {
   Surroundings& surroundings_;
   std::vector<std::string> lines_;
   std::string transfer_ = "Working";
-  int stepsBegun_ = 0;
   bool stays_ = false;
   bool progressShown_ = false;
 };

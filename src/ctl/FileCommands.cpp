@@ -4,7 +4,8 @@
 #include <ostream>
 
 #include "common/Text.h"
-#include "controller/ControllerError.h"
+#include "controller/simulator/Benches.h"
+#include "controller/simulator/SimulatedLibrary.h"
 #include "ctl/Commands.h"
 #include "ctl/ResultJson.h"
 #include "ctl/ResultText.h"
@@ -19,13 +20,36 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kSettingsExtension = ".xml";
 
-// A library for a model that is never connected.
-class NoLibrary : public controller::ControllerLibrary {
+// A model that files are read into. What a reader accepts depends on the lists of series and types
+// that a microscope gives, and not on what was read before; the lists are those of the simulated
+// microscope.
+class CheckModel {
  public:
-  controller::ObjectRef Create(std::string_view className) override {
-    throw controller::ControllerError(kProgram, kNoObjectError,
-                                      std::string(className) + ": no controller library is used");
+  explicit CheckModel(Surroundings& surroundings) : surroundings_(surroundings) {
+    k70_.Initialize();
+    k70_.Connect(0);
+    k70_.Receive();
+    static_cast<void>(prompts_.TakeLines());
   }
+
+  CheckedFile Check(const std::string& path) {
+    CheckedFile checked{path, {}, {}};
+    try {
+      const DomDocument document = ReadSettings(path, surroundings_);
+      checked.refused = TakeSections(k70_, prompts_, document, NameOfFile(path), sections_);
+    } catch (const Failure& failure) {
+      checked.problem = failure.Description();
+    }
+    return checked;
+  }
+
+ private:
+  Surroundings& surroundings_;
+  const std::vector<std::size_t> sections_ = SectionsNamed({});
+  Surroundings silent_{surroundings_.in, surroundings_.out, surroundings_.err};
+  ConsolePrompts prompts_{silent_};
+  controller::SimulatedLibrary library_{controller::benches::Named("Quay")};
+  clsK70 k70_{library_, prompts_};
 };
 
 fs::path PathOf(const std::string& utf8) {
@@ -62,21 +86,6 @@ std::vector<std::string> FilesIn(const std::string& folder) {
 bool IsFolder(const std::string& path) {
   std::error_code error;
   return path != kStandardStream && fs::is_directory(PathOf(path), error);
-}
-
-CheckedFile Check(const std::string& path, Surroundings& surroundings) {
-  CheckedFile checked{path, {}, {}};
-  try {
-    const DomDocument document = ReadSettings(path, surroundings);
-    // A model of its own: what a reader takes may depend on what it has taken before.
-    NoLibrary library;
-    ConsolePrompts prompts(surroundings);
-    clsK70 k70(library, prompts);
-    checked.refused = TakeSections(k70, prompts, document, NameOfFile(path), SectionsNamed({}));
-  } catch (const Failure& failure) {
-    checked.problem = failure.Description();
-  }
-  return checked;
 }
 
 // The answers of a check, each given as soon as it is known: the files may be many.
@@ -124,6 +133,7 @@ class CheckAnswers {
 
 Outcome CheckFiles(const Request& request, Surroundings& surroundings) {
   CheckAnswers answers(request.json, surroundings);
+  CheckModel model(surroundings);
   for (const std::string& path : request.files) {
     std::vector<std::string> files{path};
     if (IsFolder(path)) {
@@ -138,7 +148,7 @@ Outcome CheckFiles(const Request& request, Surroundings& surroundings) {
       // Nobody reads on: the rest would be work for nothing.
       if (!surroundings.out) return Outcome::Failed;
       if (surroundings.endAsked()) throw EndAsked();
-      answers.Add(Check(file, surroundings));
+      answers.Add(model.Check(file));
     }
   }
   return answers.End();

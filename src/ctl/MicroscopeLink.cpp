@@ -42,7 +42,7 @@ MicroscopeLink::MicroscopeLink(const MicroscopeChoice& choice, Surroundings& sur
     Refuse("the controller library cannot be used: " + problem_ +
            "; install the library that came with the microscope" + kOtherMicroscopes);
   }
-  watch_.emplace(session_->Library(), [this] { return prompts_.StepsBegun(); });
+  watch_.emplace(session_->Library());
   k70_.emplace(*watch_, prompts_, surroundings.makeMutex);
   k70_->Initialize();
   if (const auto lines = prompts_.TakeLines(); !lines.empty()) {
@@ -159,10 +159,6 @@ std::vector<std::string> MicroscopeLink::Send() {
   const WriteWatch::Scope watching(*watch_);
   k70_->Send();
   return prompts_.TakeLines();
-}
-
-Fate MicroscopeLink::FateOf(const ConfigurationItem& item) const {
-  return watch_->FateOf(item);
 }
 
 void MicroscopeLink::Renew() {

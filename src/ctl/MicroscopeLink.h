@@ -45,8 +45,8 @@ class MicroscopeLink {
   // Writes the model and answers the lines of what failed.
   std::vector<std::string> Send();
 
-  // What became of an item in the last Send, as far as its calls tell.
-  Fate FateOf(const ConfigurationItem& item) const;
+  // The calls of the last Send that were to change something.
+  const std::vector<WriteCall>& Writes() const { return watch_->Calls(); }
 
   // As it was connected.
   const std::string& Name() const { return name_; }

@@ -134,27 +134,33 @@ class Sender {
     return whole && result_.failures.empty() ? Outcome::Done : Outcome::Failed;
   }
 
-  // What was read back decides. What could not be read back is told by the writes that were made.
+  // What was read back decides. What could not be read back is told by the calls that were made.
   void ReadBack() {
     link_.prompts().StayToTheEnd();
     const std::vector<std::string> unread = link_.Receive();
-    const ConfigurationState now = StateOf(link_.k70());
-    const std::vector<ItemChange> notTaken = NotTaken(compared_.Items(), now);
+    const Comparison left = compared_.CompareAgain(link_);
     for (const ItemChange& change : compared_.Items().changed) {
+      const ItemChange* open = Find(left.changed, change);
+      Fate fate = open == nullptr ? Fate::Written : Fate::NotWritten;
       const bool wasRead = link_.k70().WasRead(TransferOf(change.to.kind));
-      const auto refused =
-          std::find_if(notTaken.begin(), notTaken.end(),
-                       [&](const ItemChange& item) { return item.to.key == change.to.key; });
-      const bool taken = refused == notTaken.end();
-      const ItemChange& shown = taken || !wasRead ? change : *refused;
-      ListOf(wasRead ? (taken ? Fate::Written : Fate::NotWritten) : link_.FateOf(change.to))
-          .push_back({NameOf(shown.from, compared_.NamesOfMicroscope()),
-                      NameOf(shown.to, compared_.NamesOfFile())});
+      if (!wasRead || Find(left.unknown, change) != nullptr) {
+        fate = FateOf(change.to, link_.Writes());
+      }
+      const ItemChange& shown = open == nullptr ? change : *open;
+      ListOf(fate).push_back({NameOf(shown.from, compared_.NamesOfMicroscope()),
+                              NameOf(change.to, compared_.NamesOfFile())});
     }
     if (!unread.empty()) {
       result_.failures.push_back("not all could be read back");
       result_.failures.insert(result_.failures.end(), unread.begin(), unread.end());
     }
+  }
+
+  static const ItemChange* Find(const std::vector<ItemChange>& changes, const ItemChange& change) {
+    const auto found = std::find_if(changes.begin(), changes.end(), [&](const ItemChange& item) {
+      return item.to.key == change.to.key;
+    });
+    return found == changes.end() ? nullptr : &*found;
   }
 
   std::vector<NamedChange>& ListOf(Fate fate) {

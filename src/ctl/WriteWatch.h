@@ -1,7 +1,8 @@
-// Which writes of a Send reached the controller.
+// Which writes of a Send reached the controller, and which items they were about.
 #pragma once
 
-#include <functional>
+#include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -12,14 +13,21 @@ namespace mortane::ctl {
 
 enum class Fate { Written, NotWritten, NotKnown };
 
-// Remembers the writing calls while a Scope lives. A call that failed may have reached the
+// A commanding call. A record of the accessory database is called by the code that it has, since
+// its index is another one on every microscope: "AccessoryDatabase.Condensers[141].Name".
+struct WriteCall {
+  std::string path;
+  bool failed;
+};
+
+// What became of an item that a Send was to change. A call that failed may have reached the
 // controller or not; one that was not made did not.
+Fate FateOf(const ConfigurationItem& item, const std::vector<WriteCall>& calls);
+
+// Remembers the commanding calls while a Scope lives.
 class WriteWatch : public controller::DecoratedLibrary {
  public:
-  // `step` tells which step of the transfer has begun: 0 is the system name, then the rows of the
-  // table of transfers.
-  WriteWatch(controller::ControllerLibrary& inner, std::function<int()> step)
-      : DecoratedLibrary(inner), step_(std::move(step)) {}
+  using DecoratedLibrary::DecoratedLibrary;
 
   class Scope {
    public:
@@ -32,24 +40,20 @@ class WriteWatch : public controller::DecoratedLibrary {
     WriteWatch& watch_;
   };
 
-  // For an item that the Send was to change.
-  Fate FateOf(const ConfigurationItem& item) const;
+  // Those of the last Scope.
+  const std::vector<WriteCall>& Calls() const { return calls_; }
 
  protected:
   controller::Value Around(const controller::CallSite& site,
                            const controller::Proceed& proceed) override;
 
  private:
-  struct Write {
-    int step;
-    std::string path;
-    std::string value;
-    bool failed;
-  };
+  controller::Value ReadCode(const controller::CallSite& site, const controller::Proceed& proceed);
+  std::string PathOf(const controller::CallSite& site) const;
 
-  std::function<int()> step_;
   bool watching_ = false;
-  std::vector<Write> writes_;
+  std::vector<WriteCall> calls_;
+  std::map<std::string, std::string, std::less<>> records_;  // by path, by list and code
 };
 
 }  // namespace mortane::ctl

@@ -5,12 +5,16 @@
 
 #include <algorithm>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "controller/CallLine.h"
+#include "controller/ControllerError.h"
 #include "ctl/Program.h"
+#include "record/ConfigurationItems.h"
 #include "support/Rig.h"
 #include "support/TempFolder.h"
 
@@ -28,6 +32,42 @@ class BorrowedLibrary : public controller::ControllerLibrary {
 
  private:
   controller::ControllerLibrary& library_;
+};
+
+// From one call on nothing answers any more.
+class LostLibrary : public controller::DecoratedLibrary {
+ public:
+  // Whether the first call without an answer still reached the device.
+  enum class Last { Missed, Reached };
+
+  using DecoratedLibrary::DecoratedLibrary;
+  void From(std::size_t call, Last last) {
+    first_ = call;
+    last_ = last;
+  }
+  // Which calls, counted from 1, were to change something.
+  const std::vector<std::size_t>& Commands() const { return commands_; }
+
+ protected:
+  controller::Value Around(const controller::CallSite& site,
+                           const controller::Proceed& proceed) override {
+    const std::size_t call = ++calls_;
+    if (controller::IsCommand(site)) commands_.push_back(call);
+    if (call < first_) return proceed();
+    if (call == first_ && last_ == Last::Reached) proceed();
+    throw controller::ControllerError("LIB", -2147467259, "The device does not answer.");
+  }
+  controller::Value AroundNumber(const std::string& /*path*/,
+                                 const controller::Proceed& proceed) override {
+    if (calls_ < first_) return proceed();
+    throw controller::ControllerError("LIB", -2147467259, "The device does not answer.");
+  }
+
+ private:
+  std::size_t calls_ = 0;
+  std::vector<std::size_t> commands_;
+  std::size_t first_ = static_cast<std::size_t>(-1);
+  Last last_ = Last::Missed;
 };
 
 // The program on a bench, which plays the library that is installed. Faults and the journal see
@@ -65,6 +105,17 @@ struct CtlRig {
     });
     return lines;
   }
+  // The keys in a list of the last answer, which was JSON.
+  std::vector<ItemKey> Reported(const std::string& list) const {
+    std::vector<ItemKey> keys;
+    const nlohmann::json answer = nlohmann::json::parse(Out(), nullptr, false);
+    if (!answer.contains(list)) return keys;
+    for (const nlohmann::json& item : answer.at(list)) {
+      keys.push_back(
+          {item.at("section"), item.at("element"), item.at("position"), item.at("attribute")});
+    }
+    return keys;
+  }
   // The instrument that a named bench is about.
   Instrument& instrument() { return simulated.bench().instruments.back(); }
   // What the program would read from it, in a file.
@@ -78,8 +129,9 @@ struct CtlRig {
   controller::SimulatedLibrary simulated;
   controller::FaultPlan faults;
   controller::FaultyLibrary faulty{simulated, faults};
+  LostLibrary lost{faulty};
   controller::Journal journal;
-  controller::JournalLibrary library{faulty, journal};
+  controller::JournalLibrary library{lost, journal};
   std::istringstream in;
   std::ostringstream out;
   std::ostringstream err;

@@ -1,4 +1,5 @@
 // check and diff, which need no microscope, and every file that is none.
+#include <algorithm>
 #include <filesystem>
 
 #include "CtlRig.h"
@@ -121,11 +122,28 @@ TEST(Check, AFolderWithoutSettingsFilesIsTold) {
   EXPECT_NE(rig.Err().find("the folder holds no file *.xml"), std::string::npos) << rig.Err();
 }
 
+// The models of all benches, one after the other and each alone.
 TEST(Check, OneFileIsReadAsIfThereWereNoOther) {
   FileRig rig;
-  const std::string limits =
-      rig.folder.Write("a.xml", "<Setup><CONTROL><FOCUSDRIVE LOWERLIMIT='5'/></CONTROL></Setup>");
-  EXPECT_EQ(rig.Run({"check", limits}), rig.Run({"check", limits, limits}));
+  std::vector<std::string> all{"check"};
+  std::string alone;
+  for (const std::string& name : benches::Names()) {
+    if (name == "Crowd") continue;
+    Rig microscope(name);
+    microscope.prompts.AcceptAnyBox();
+    microscope.ConnectAndReceive();
+    all.push_back(rig.folder.Path(name + ".xml"));
+    ASSERT_TRUE(microscope.k70.WriteXML(all.back()));
+    rig.Run({"check", all.back()});
+    alone += rig.Out().substr(0, rig.Out().find("1 file checked"));
+  }
+  std::reverse(all.begin() + 1, all.end());
+  rig.Run(all);
+  const std::string backwards = rig.Out();
+  std::reverse(all.begin() + 1, all.end());
+  rig.Run(all);
+  EXPECT_TRUE(rig.Out().starts_with(alone)) << rig.Out();
+  EXPECT_EQ(backwards.size(), rig.Out().size());
 }
 
 TEST(Check, AsJsonIsOneObject) {
