@@ -79,6 +79,9 @@ without() {
 without LIBXML2_WITH_ "" FTP HTTP ICONV LZMA PROGRAMS PYTHON TESTS ZLIB
 library libxml2 OFF Copyright "${options[@]}"
 library googletest OFF LICENSE -DBUILD_GMOCK=OFF
+# Headers alone.
+library cli11 OFF LICENSE -DCLI11_BUILD_TESTS=OFF -DCLI11_BUILD_EXAMPLES=OFF -DCLI11_BUILD_DOCS=OFF
+library nlohmann-json3 OFF LICENSE.MIT -DJSON_BuildTests=OFF
 
 if [[ "${1:-}" == gui ]]; then
   host="$(dpkg-architecture -qDEB_HOST_MULTIARCH)"
