@@ -9,7 +9,6 @@
 #include "controller/CallLine.h"
 #include "controller/ControllerNumbers.h"
 #include "interlocks/ObservationAccessories.h"
-#include "interlocks/OffsetAccessories.h"
 #include "interlocks/OtherAccessories.h"
 #include "model/OptionCodes.h"
 
@@ -64,7 +63,7 @@ struct OffsetRow {
   std::string_view word;
   const char* call;
 };
-constexpr std::array<OffsetRow, kOffsetAccessories.size()> kOffsetCalls{{
+constexpr std::array<OffsetRow, 4> kOffsetCalls{{
     {"ND", "NDFilterDevice.OffsetCode"},
     {"DiaFStop", "FieldStopDevice.OffsetCode"},
     {"EpiFStop", "EpiFieldStopDevice.OffsetCode"},
