@@ -40,7 +40,7 @@ TEST(Diff, ShowsChangesAndWhatOnlyOneHas) {
       "</NOSEPIECE></Setup>");
   EXPECT_EQ(rig.Run({"diff", a, b}), Outcome::Different);
   EXPECT_EQ(rig.Out(), a + " → " + b + ": 1 change\n  System Name: Bay 7 → Bay 8\nOnly in " + b +
-                           ": 1 item\n  Objective 1: 2\n");
+                           ": 1 item\n  Objective 1: code 2\n");
   EXPECT_EQ(rig.Run({"diff", b, a}), Outcome::Different);
   EXPECT_NE(rig.Out().find("Only in " + b + ": 1 item\n"), std::string::npos) << rig.Out();
 }
