@@ -8,6 +8,8 @@
 #include "widgets/Named.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 bool IsUsable(const QAbstractButton* button) {
@@ -28,7 +30,16 @@ QRadioButton* OptionGroup::addOption(const QString& text, const char* arrayName,
   return option;
 }
 
+QRadioButton* OptionGroup::addOption(const QString& text, QWidget* parent) {
+  auto* option = new QRadioButton(text, parent);
+  add(option, count());
+  return option;
+}
+
 void OptionGroup::add(QAbstractButton* button, int index) {
+  if (button->objectName().isEmpty() && !objectName().isEmpty()) {
+    button->setObjectName(u"%1_%2"_s.arg(objectName()).arg(index));
+  }
   buttons_.append(button);
   group_.addButton(button, index);
   button->installEventFilter(this);

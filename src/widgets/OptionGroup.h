@@ -21,6 +21,8 @@ class OptionGroup : public QObject {
 
   // Adds an option of the next index, named arrayName_index.
   QRadioButton* addOption(const QString& text, const char* arrayName, QWidget* parent);
+  QRadioButton* addOption(const QString& text, QWidget* parent);
+  // A button without a name gets that of the group with its index: "optNosepiece_0".
   void add(QAbstractButton* button, int index);
 
   [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }
