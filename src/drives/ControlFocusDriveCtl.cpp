@@ -1,15 +1,10 @@
 #include "drives/ControlFocusDriveCtl.h"
 
 #include <QAbstractButton>
-#include <QCheckBox>
 #include <QLabel>
-#include <cstdlib>
-#include <optional>
 #include <utility>
 
 #include "drives/CaptionedFrame.h"
-#include "drives/PositionTableCtl.h"
-#include "drives/TeachingSectionCtl.h"
 #include "drives/clsControlZDrive.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
@@ -30,31 +25,18 @@ constexpr std::int16_t kUnknownEscape = 2;
 constexpr std::int32_t kNoSettingOfSimulator = 20000;
 constexpr std::int32_t kNoSetting = -900000;
 
-constexpr std::int32_t kLargeStep = 50;
-constexpr std::int32_t kSmallStep = 1;
-
 }  // namespace
-
-struct ControlFocusDriveCtl::StepButton {
-  MoveButton* ControlFocusDriveCtl::*button;
-  std::int32_t steps;
-};
-
-const std::array<ControlFocusDriveCtl::StepButton, 4> ControlFocusDriveCtl::kStepButtons{{
-    {&ControlFocusDriveCtl::ButtonUpLarge, kLargeStep},
-    {&ControlFocusDriveCtl::ButtonUpSmall, kSmallStep},
-    {&ControlFocusDriveCtl::ButtonDownLarge, -kLargeStep},
-    {&ControlFocusDriveCtl::ButtonDownSmall, -kSmallStep},
-}};
 
 ControlFocusDriveCtl::ControlFocusDriveCtl(clsControlZDrive& drive, FollowNosepiece follow,
                                            QWidget* parent)
-    : CardPage(u"Focus Drive Setting"_s, parent), drive_(drive), follow_(std::move(follow)) {
+    : DrivePageCtl(u"Focus Drive Setting"_s, drive.parent, parent),
+      drive_(drive),
+      follow_(std::move(follow)) {
   Build();
-  Connect();
+  StoreEdits();
 }
 
-void ControlFocusDriveCtl::Connect() {
+void ControlFocusDriveCtl::StoreEdits() {
   for (int axis = 0; axis < 2; ++axis) {
     connect(chkEscape[static_cast<std::size_t>(axis)], &CheckToggle::toggled, this,
             [this, axis] { StoreEscape(axis); });
@@ -67,13 +49,6 @@ void ControlFocusDriveCtl::Connect() {
     drive_.curFocusCompensation = kCompensationCodes[static_cast<std::size_t>(index)];
     follow_(index == kRelative);
   });
-  connect(CheckRealMove, &QCheckBox::toggled, this, &ControlFocusDriveCtl::OnRealMove);
-  connect(optNosepiece, &OptionGroup::selectionChanged, this, &ControlFocusDriveCtl::OnRow);
-  for (const StepButton& row : kStepButtons) {
-    connect(this->*row.button, &QAbstractButton::clicked, this,
-            [this, steps = row.steps] { Step(steps); });
-  }
-  connect(ButtonStart, &QAbstractButton::clicked, this, &ControlFocusDriveCtl::Start);
 }
 
 void ControlFocusDriveCtl::LoadData() {
@@ -81,10 +56,8 @@ void ControlFocusDriveCtl::LoadData() {
   LoadPositions();
   const ConnectedMicroscope& microscope = drive_.parent;
   const bool turns = microscope.IsControllable(accessory::kNosepiece);
-  if (turns && microscope.IsMounted(accessory::kZFocusDrive) != kNotMounted) {
-    CheckRealMove->setChecked(true);  // prepares the drive by itself when it was not ticked
-    drive_.MoveStart();
-  }
+  const bool hasDrive = microscope.IsMounted(accessory::kZFocusDrive) != kNotMounted;
+  if (turns && hasDrive && !PrepareMoves()) return;
   FrameZNose->hide();
   FrameUpperLimitation->setVisible(turns);
   LoadLowerLimit();
@@ -162,87 +135,47 @@ void ControlFocusDriveCtl::StoreEscape(int axis) {
   drive_.SetEscape(axis, box.isUnknown() ? kUnknownEscape : shown);
 }
 
-void ControlFocusDriveCtl::SaveData() {
-  FrameNosepiece->Save();
+void ControlFocusDriveCtl::MoveStart() const {
+  drive_.MoveStart();
 }
 
-void ControlFocusDriveCtl::SetNosePosition() {
-  const std::int32_t address = drive_.NosePosition();
-  if (address > 0) optNosepiece->select(address - 1);
+std::int32_t ControlFocusDriveCtl::NosePosition() const {
+  return drive_.NosePosition();
 }
 
-void ControlFocusDriveCtl::OnRealMove(bool real) {
-  if (real) {
-    drive_.MoveStart();
-  } else {
-    selectedRow_ = -1;
-  }
+std::int32_t ControlFocusDriveCtl::CurPosition(std::size_t /*axis*/) const {
+  return drive_.CurPosition();
 }
 
-// A section that is hidden asks nothing: nobody would know what is meant.
-void ControlFocusDriveCtl::OnRow(int row) {
-  Prompts& prompts = drive_.parent.prompts();
-  {
-    // The pointer is set and restored before the row is stored.
-    const HourglassScope hourglass(prompts);
-  }
-  selectedRow_ = row;
+void ControlFocusDriveCtl::Move(std::size_t /*axis*/, std::int32_t delta) const {
+  drive_.Move(delta);
+}
+
+void ControlFocusDriveCtl::MoveAsyncStart(const std::vector<std::int32_t>& targets) const {
+  drive_.MoveAsyncStart(targets.front());
+}
+
+bool ControlFocusDriveCtl::IsMoveAsyncEnd() const {
+  return drive_.IsMoveAsyncEnd();
+}
+
+void ControlFocusDriveCtl::MoveStop() const {
+  drive_.MoveStop();
+}
+
+// No prompt while the section is hidden: its rows cannot be seen.
+void ControlFocusDriveCtl::RowSelected(int row) {
   if (!optNosepiece->button(row)->isVisibleTo(FrameBase)) return;
-  const MoveScope scope(moving_, drive_.parent);
-  const Answer answer = prompts.MsgBox(
+  const MoveScope scope = BeginMove();
+  const Answer answer = drive_.parent.prompts().MsgBox(
       "Please move Focus Position with Handle.\r\nIf Focus Position is OK, Click OK Button",
       box::kOkCancel, "Move Focus Postion");
-  if (answer == Answer::Ok && !scope.IsLost()) Teach(scope);
+  if (answer == Answer::Ok && !scope.IsLost()) ShowInSelectedRow(scope);
 }
 
-// Clicks made while the move blocked would each move the drive again.
-void ControlFocusDriveCtl::Step(std::int32_t steps) {
-  if (*moving_) return;
-  Prompts& prompts = drive_.parent.prompts();
-  if (CheckRealMove->isChecked()) {
-    const MoveScope scope(moving_, drive_.parent);
-    drive_.Move(steps);
-    if (!scope.IsLost()) Teach(scope);
-  }
-  prompts.FlushInput();
-}
-
-// Shows the drive's position in the selected row and stores it; 0 is shown only.
-void ControlFocusDriveCtl::Teach(const MoveScope& scope) {
-  const int row = selectedRow_;
-  if (row >= 0 && ShowPosition(scope, row) != 0) FrameNosepiece->Store(row);
-}
-
-// Answers the position; 0 when the scope was lost meanwhile.
-std::int32_t ControlFocusDriveCtl::ShowPosition(const MoveScope& scope, int row) {
-  const std::int32_t position = drive_.CurPosition();
-  if (scope.IsLost()) return 0;
-  FrameNosepiece->Show(row, position);
-  return position;
-}
-
-// A row that the nosepiece does not have is hidden and empty, which would mean 0.
-void ControlFocusDriveCtl::Start() {
-  if (*moving_ || selectedRow_ < 0 || !CheckRealMove->isChecked()) return;
-  if (optNosepiece->button(selectedRow_)->isHidden()) return;
-  const std::optional<std::int32_t> target = FrameNosepiece->Steps(selectedRow_);
-  if (!target) return;
-  Prompts& prompts = drive_.parent.prompts();
-  MoveToRow(selectedRow_, *target);
-  prompts.FlushInput();
-}
-
-// The row keeps its stored position; leaving its field, or saving, takes what is shown.
-void ControlFocusDriveCtl::MoveToRow(int row, std::int32_t target) {
-  const clsControlZDrive& drive = drive_;
-  const MoveScope scope(moving_, drive.parent);
-  const std::int64_t distance = std::abs(std::int64_t{drive.CurPosition()} - target);
-  if (scope.IsLost()) return;
-  drive.MoveAsyncStart(target);
-  WatchMove(scope, drive.parent.prompts(),
-            {distance, [&] { return drive.CurPosition() == target; },
-             [&] { return drive.IsMoveAsyncEnd(); }, [&] { drive.MoveStop(); }});
-  if (!scope.IsLost()) ShowPosition(scope, row);
+// Kept: a position of 0 is not stored, and the table keeps its entry.
+void ControlFocusDriveCtl::PositionShown(int row, std::int32_t position) {
+  if (position != 0) FrameNosepiece->Store(row);
 }
 
 }  // namespace mortane

@@ -2,32 +2,19 @@
 // nosepiece address.
 #pragma once
 
-#include <array>
-#include <cstdint>
-#include <memory>
+#include "drives/DrivePageCtl.h"
 
-#include "drives/MoveScope.h"
-#include "model/DriveCompensation.h"
-#include "widgets/CardPage.h"
-
-class QCheckBox;
 class QLabel;
-class QPushButton;
 
 namespace mortane {
 
-class CaptionedFrame;
 class CheckToggle;
-class InnerFrame;
-class MoveButton;
-class OptionGroup;
-class PositionTableCtl;
-class TextField;
 class clsControlZDrive;
 
 // Every edit reaches the unit at once. The teaching section, FrameZNose, is hidden by each loading
-// but works: its buttons move the real drive. A move that its person leaves goes on by itself.
-class ControlFocusDriveCtl : public CardPage {
+// but works: its buttons move the real drive. A position that a step, or the question of a row, has
+// shown is stored, unless it is 0.
+class ControlFocusDriveCtl : public DrivePageCtl {
   Q_OBJECT
 
  public:
@@ -37,41 +24,43 @@ class ControlFocusDriveCtl : public CardPage {
   // Prepares the drive for moves where the nosepiece turns. Of a body without the escape in its
   // firmware the focus drive's escape is set on; a version that cannot be read sets nothing.
   void LoadData() override;
-  // Stores the positions of all rows. "No Setting" is stored as 0.
-  void SaveData() override;
-  // Selects the row of the address at which the nosepiece stands.
-  void SetNosePosition();
 
-  InnerFrame* frmEscapeSetting;
-  std::array<CheckToggle*, 2> chkEscape;
-  std::array<QLabel*, 2> lblEscape;
-  InnerFrame* FrameUpperLimitation;
-  OptionGroup* optUpperLimitation;
-  InnerFrame* FrameDownLimitation;
-  OptionGroup* optDownLimitation;
-  CaptionedFrame* FrameZNose;
-  InnerFrame* FrameZControl;
-  QPushButton* ButtonStart;
-  MoveButton* ButtonUpLarge;
-  MoveButton* ButtonUpSmall;
-  MoveButton* ButtonDownLarge;
-  MoveButton* ButtonDownSmall;
-  QCheckBox* CheckRealMove;
-  PositionTableCtl* FrameNosepiece;
-  OptionGroup* optNosepiece;
-  std::array<TextField*, 7> TextNosepiece;
-  OptionGroup* optFocusCompensation;
+  Control<InnerFrame> frmEscapeSetting{"frmEscapeSetting"};
+  Controls<CheckToggle, 2> chkEscape{"chkEscape"};
+  Controls<QLabel, 2> lblEscape{"lblEscape"};
+  Control<InnerFrame> FrameUpperLimitation{"FrameUpperLimitation"};
+  Control<OptionGroup> optUpperLimitation{"optUpperLimitation"};
+  Control<InnerFrame> FrameDownLimitation{"FrameDownLimitation"};
+  Control<OptionGroup> optDownLimitation{"optDownLimitation"};
+  Control<CaptionedFrame> FrameZNose{"FrameZNose"};
+  Control<InnerFrame> FrameZControl{"FrameZControl"};
+  Control<MoveButton> ButtonUpLarge{"ButtonUpLarge"};
+  Control<MoveButton> ButtonUpSmall{"ButtonUpSmall"};
+  Control<MoveButton> ButtonDownLarge{"ButtonDownLarge"};
+  Control<MoveButton> ButtonDownSmall{"ButtonDownSmall"};
+  Controls<TextField, PositionTableCtl::kRows> TextNosepiece{"TextNosepiece"};
 
  private:
   struct StepButton;
-  struct Limit;
   static const std::array<StepButton, 4> kStepButtons;
+  struct Limit;
+  static const std::array<Limit, 2> kLimits;
+
+  void MoveStart() const override;
+  std::int32_t NosePosition() const override;
+  std::int32_t CurPosition(std::size_t axis) const override;
+  void Move(std::size_t axis, std::int32_t delta) const override;
+  void MoveAsyncStart(const std::vector<std::int32_t>& targets) const override;
+  bool IsMoveAsyncEnd() const override;
+  void MoveStop() const override;
+  void RowSelected(int row) override;
+  void PositionShown(int row, std::int32_t position) override;
 
   void Build();
   InnerFrame* BuildEscape();
   InnerFrame* BuildLimit(const Limit& limit);
   void BuildTeaching();
-  void Connect();
+  void StoreEdits();
 
   void LoadCompensation();
   void LoadPositions();
@@ -81,18 +70,8 @@ class ControlFocusDriveCtl : public CardPage {
   void StoreEscape(int axis);
   void EnableEscape(int axis, bool enabled);
 
-  void OnRealMove(bool real);
-  void OnRow(int row);
-  void Step(std::int32_t steps);
-  void Teach(const MoveScope& scope);
-  std::int32_t ShowPosition(const MoveScope& scope, int row);
-  void Start();
-  void MoveToRow(int row, std::int32_t target);
-
   clsControlZDrive& drive_;
   FollowNosepiece follow_;
-  int selectedRow_ = -1;
-  MoveFlag moving_ = std::make_shared<bool>(false);
 };
 
 }  // namespace mortane

@@ -4,17 +4,14 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
-#include <array>
 
 #include "drives/CaptionedFrame.h"
 #include "drives/ControlFocusDriveCtl.h"
-#include "drives/PositionTableCtl.h"
-#include "drives/TeachingSectionCtl.h"
 #include "drives/clsControlZDrive.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
-#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
+#include "widgets/TextField.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -25,50 +22,66 @@ namespace {
 constexpr double kLowestMicrometres = -100000;
 constexpr double kHighestMicrometres = 50000;
 
+constexpr std::int32_t kLargeStep = 50;
+constexpr std::int32_t kSmallStep = 1;
+
 // The trailing blanks belong to the captions.
 constexpr std::array kEscapeLabels{"Focus Drive  ", "XY Stage"};
 
 }  // namespace
 
 struct ControlFocusDriveCtl::Limit {
-  const char* frameName;
   const char* caption;
-  const char* arrayName;
   std::array<const char*, 2> options;
-  OptionGroup* ControlFocusDriveCtl::*group;
+  Control<InnerFrame> ControlFocusDriveCtl::*frame;
+  Control<OptionGroup> ControlFocusDriveCtl::*group;
 };
+
+constexpr std::array<ControlFocusDriveCtl::Limit, 2> ControlFocusDriveCtl::kLimits{{
+    {"Upper Limit",
+     {"ON", "OFF ( default )"},
+     &ControlFocusDriveCtl::FrameUpperLimitation,
+     &ControlFocusDriveCtl::optUpperLimitation},
+    {"Lower Limit",
+     {"-15mm ( default )", "-25mm  "},
+     &ControlFocusDriveCtl::FrameDownLimitation,
+     &ControlFocusDriveCtl::optDownLimitation},
+}};
+
+struct ControlFocusDriveCtl::StepButton {
+  Control<MoveButton> ControlFocusDriveCtl::*button;
+  MoveDirection direction;
+  MoveSize size;
+  std::int32_t steps;
+};
+
+constexpr std::array<ControlFocusDriveCtl::StepButton, 4> ControlFocusDriveCtl::kStepButtons{{
+    {&ControlFocusDriveCtl::ButtonUpLarge, MoveDirection::Up, MoveSize::Large, kLargeStep},
+    {&ControlFocusDriveCtl::ButtonUpSmall, MoveDirection::Up, MoveSize::Small, kSmallStep},
+    {&ControlFocusDriveCtl::ButtonDownLarge, MoveDirection::Down, MoveSize::Large, -kLargeStep},
+    {&ControlFocusDriveCtl::ButtonDownSmall, MoveDirection::Down, MoveSize::Small, -kSmallStep},
+}};
 
 void ControlFocusDriveCtl::Build() {
   auto* row = new QHBoxLayout;
   row->setSpacing(grid::kBetweenGroups);
   FrameBase->body()->addLayout(row);
-  frmEscapeSetting = BuildEscape();
-  FrameUpperLimitation = BuildLimit({"FrameUpperLimitation",
-                                     "Upper Limit",
-                                     "optUpperLimitation",
-                                     {"ON", "OFF ( default )"},
-                                     &ControlFocusDriveCtl::optUpperLimitation});
-  FrameDownLimitation = BuildLimit({"FrameDownLimitation",
-                                    "Lower Limit",
-                                    "optDownLimitation",
-                                    {"-15mm ( default )", "-25mm  "},
-                                    &ControlFocusDriveCtl::optDownLimitation});
-  for (InnerFrame* frame : {frmEscapeSetting, FrameUpperLimitation, FrameDownLimitation})
-    row->addWidget(frame, 1);
+  row->addWidget(BuildEscape(), 1);
+  for (const Limit& limit : kLimits) row->addWidget(BuildLimit(limit), 1);
   BuildTeaching();
-  FrameBase->body()->addStretch(1);
 }
 
 InnerFrame* ControlFocusDriveCtl::BuildEscape() {
-  auto* frame = Named(new InnerFrame(u"Escape"_s, FrameBase), "frmEscapeSetting");
+  auto* frame = new InnerFrame(u"Escape"_s, FrameBase);
+  frmEscapeSetting = frame;
   auto* cells = new QGridLayout;
   cells->setHorizontalSpacing(grid::kBetweenGroups);
   cells->setVerticalSpacing(grid::kUnit);
   for (std::size_t axis = 0; axis < chkEscape.size(); ++axis) {
     const auto row = static_cast<int>(axis);
     const QString text = QLatin1String(kEscapeLabels[axis]);
-    lblEscape[axis] = Named(new QLabel(text, frame), "lblEscape", row);
-    chkEscape[axis] = Named(new CheckToggle(frame), "chkEscape", row);
+    lblEscape.Set(axis, new QLabel(text, frame));
+    chkEscape.Set(axis, new CheckToggle(frame));
     chkEscape[axis]->setAccessibleName(text.trimmed());
     lblEscape[axis]->setBuddy(chkEscape[axis]);
     cells->addWidget(lblEscape[axis], row, 0);
@@ -80,40 +93,33 @@ InnerFrame* ControlFocusDriveCtl::BuildEscape() {
 }
 
 InnerFrame* ControlFocusDriveCtl::BuildLimit(const Limit& limit) {
-  auto* frame = Named(new InnerFrame(QLatin1String(limit.caption), FrameBase), limit.frameName);
-  auto* options = this->*limit.group = new OptionGroup(this);
+  auto* frame = new InnerFrame(QLatin1String(limit.caption), FrameBase);
+  auto* options = new OptionGroup(this);
+  this->*limit.frame = frame;
+  this->*limit.group = options;
   for (const char* caption : limit.options) {
-    frame->body()->addWidget(options->addOption(QLatin1String(caption), limit.arrayName, frame));
+    frame->body()->addWidget(options->addOption(QLatin1String(caption), frame));
   }
   frame->body()->addStretch();
   return frame;
 }
 
 void ControlFocusDriveCtl::BuildTeaching() {
-  const TeachingSection section = MakeTeachingSection(
-      {"FrameZNose",
-       "Z Focus Correction for Pafocality",
-       {"Absolute", "ON ( default )", "OFF"},
-       "FrameZControl",
-       "Z Control"},
-      drive_.parent.prompts(),
-      {{"TextNosepiece", nullptr, kLowestMicrometres, kHighestMicrometres,
+  const TeachingParts parts = AddTeaching(
+      {"Z Focus Correction for Pafocality", {"Absolute", "ON ( default )", "OFF"}, "Z Control"},
+      {{nullptr, kLowestMicrometres, kHighestMicrometres,
         [this](std::int32_t address) { return drive_.Position(address); },
         [this](std::int32_t address, std::int32_t steps) { drive_.Position(address, steps); }}},
-      MoveCross::Axes::Vertical, FrameBase);
-  FrameBase->body()->addWidget(section.frame);
-  FrameZNose = section.frame;
-  optFocusCompensation = section.compensation;
-  FrameNosepiece = section.positions;
-  optNosepiece = FrameNosepiece->options();
-  TextNosepiece = FrameNosepiece->fields();
-  FrameZControl = section.control;
-  CheckRealMove = section.realMove;
-  ButtonStart = section.cross->middle();
-  ButtonUpLarge = section.cross->button(MoveDirection::Up, MoveSize::Large);
-  ButtonUpSmall = section.cross->button(MoveDirection::Up, MoveSize::Small);
-  ButtonDownLarge = section.cross->button(MoveDirection::Down, MoveSize::Large);
-  ButtonDownSmall = section.cross->button(MoveDirection::Down, MoveSize::Small);
+      MoveCross::Axes::Vertical);
+  FrameZNose = parts.frame;
+  FrameZControl = parts.control;
+  for (std::size_t row = 0; row < TextNosepiece.size(); ++row) {
+    TextNosepiece.Set(row, FrameNosepiece->field(row));
+  }
+  for (const StepButton& row : kStepButtons) {
+    this->*row.button = parts.cross->button(row.direction, row.size);
+    ConnectStep(*(this->*row.button), row.steps);
+  }
 }
 
 }  // namespace mortane

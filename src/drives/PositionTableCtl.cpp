@@ -9,7 +9,6 @@
 
 #include "common/Prompts.h"
 #include "drives/DrivePosition.h"
-#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/ShownName.h"
 #include "widgets/TextField.h"
@@ -49,12 +48,12 @@ std::int32_t AddressOf(int row) {
 }  // namespace
 
 PositionTableCtl::PositionTableCtl(Prompts& prompts, std::vector<PositionColumn> columns,
-                                   QWidget* parent)
+                                   OptionGroup& options, QWidget* parent)
     : InnerFrame(u"Nosepiece"_s, parent),
       prompts_(prompts),
       columns_(std::move(columns)),
       fields_(columns_.size()),
-      options_(new OptionGroup(this)) {
+      options_(options) {
   auto* cells = new QGridLayout;
   cells->setHorizontalSpacing(grid::kBetweenGroups);
   cells->setVerticalSpacing(grid::kUnit);
@@ -76,10 +75,10 @@ void PositionTableCtl::AddHeaders(QGridLayout& cells) {
 
 void PositionTableCtl::AddRow(QGridLayout& cells, int row) {
   const QString number = QString::number(AddressOf(row));
-  auto* option = Named(new AddressOption(number, prompts_, this), "optNosepiece", row);
+  auto* option = new AddressOption(number, prompts_, this);
   option->setAccessibleName(u"Address "_s + number);
   option->hide();
-  options_->add(option, row);
+  options_.add(option, row);
   cells.addWidget(option, row + 1, 0);
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     TextField* field = fields_[i][static_cast<std::size_t>(row)] = MakeField(row, i);
@@ -89,7 +88,7 @@ void PositionTableCtl::AddRow(QGridLayout& cells, int row) {
 
 TextField* PositionTableCtl::MakeField(int row, std::size_t column) {
   const PositionColumn& axis = columns_[column];
-  auto* field = Named(new TextField(this), axis.arrayName, row);
+  auto* field = new TextField(this);
   QString name = u"Address %1"_s.arg(AddressOf(row));
   if (axis.header != nullptr) name += u' ' + QLatin1String(axis.header);
   field->setAccessibleName(name);
@@ -109,7 +108,7 @@ TextField* PositionTableCtl::MakeField(int row, std::size_t column) {
 void PositionTableCtl::Load(std::int32_t addresses, std::optional<std::int32_t> noSetting) {
   for (int row = 0; row < kRows; ++row) {
     const bool used = row < addresses;
-    options_->button(row)->setVisible(used);
+    options_.button(row)->setVisible(used);
     for (std::size_t i = 0; i < columns_.size(); ++i) {
       TextField* field = fields_[i][static_cast<std::size_t>(row)];
       field->setVisible(used);

@@ -19,8 +19,7 @@ class TextField;
 
 // The positions of one axis, in steps; the fields show micrometres.
 struct PositionColumn {
-  const char* arrayName;  // of the fields
-  const char* header;     // none for the only axis
+  const char* header;  // none for the only axis
   // A field takes numbers from `lowest` to `highest` micrometres.
   double lowest;
   double highest;
@@ -35,9 +34,10 @@ class PositionTableCtl : public InnerFrame {
 
  public:
   static constexpr int kRows = 7;
-  using Fields = std::array<TextField*, kRows>;
 
-  PositionTableCtl(Prompts& prompts, std::vector<PositionColumn> columns, QWidget* parent);
+  // Adds an option for each row to `options`.
+  PositionTableCtl(Prompts& prompts, std::vector<PositionColumn> columns, OptionGroup& options,
+                   QWidget* parent);
 
   // Shows the rows of that many addresses and their positions; `noSetting`, where there is one,
   // is the position that means none. The fields of hidden rows are emptied.
@@ -51,10 +51,14 @@ class PositionTableCtl : public InnerFrame {
   void Show(int row, std::int32_t steps, std::size_t column = 0);
   void Store(int row, std::size_t column = 0);
 
-  [[nodiscard]] OptionGroup* options() const { return options_; }
-  [[nodiscard]] const Fields& fields(std::size_t column = 0) const { return fields_[column]; }
+  [[nodiscard]] std::size_t columnCount() const { return columns_.size(); }
+  [[nodiscard]] TextField* field(std::size_t row, std::size_t column = 0) const {
+    return fields_[column][row];
+  }
 
  private:
+  using Fields = std::array<TextField*, kRows>;
+
   void AddHeaders(QGridLayout& cells);
   void AddRow(QGridLayout& cells, int row);
   TextField* MakeField(int row, std::size_t column);
@@ -62,7 +66,7 @@ class PositionTableCtl : public InnerFrame {
   Prompts& prompts_;
   std::vector<PositionColumn> columns_;
   std::vector<Fields> fields_;
-  OptionGroup* options_;
+  OptionGroup& options_;
 };
 
 }  // namespace mortane

@@ -138,7 +138,8 @@ TEST(DriveBenches, TheFocusDrivesButtonsWriteWhatTheySayAndNothingElse) {
       page.CheckRealMove->setChecked(real);
       rig.journal.Clear();
       for (MoveButton* button :
-           {page.ButtonUpLarge, page.ButtonUpSmall, page.ButtonDownLarge, page.ButtonDownSmall}) {
+           std::initializer_list<MoveButton*>{page.ButtonUpLarge, page.ButtonUpSmall,
+                                              page.ButtonDownLarge, page.ButtonDownSmall}) {
         ClickButton(*button);
       }
       const bool moves = real && CanBeDriven(rig.k70(), accessory::kZFocusDrive);
@@ -161,9 +162,10 @@ TEST(DriveBenches, TheStagesButtonsWriteWhatTheySayAndNothingElse) {
       page.FrameXYControl->show();
       page.CheckRealMove->setChecked(real);
       rig.journal.Clear();
-      for (MoveButton* button : {page.ButtonLeftLarge, page.ButtonLeftSmall, page.ButtonRightLarge,
-                                 page.ButtonRightSmall, page.ButtonUpLarge, page.ButtonUpSmall,
-                                 page.ButtonDownLarge, page.ButtonDownSmall}) {
+      for (MoveButton* button : std::initializer_list<MoveButton*>{
+               page.ButtonLeftLarge, page.ButtonLeftSmall, page.ButtonRightLarge,
+               page.ButtonRightSmall, page.ButtonUpLarge, page.ButtonUpSmall, page.ButtonDownLarge,
+               page.ButtonDownSmall}) {
         ClickButton(*button);
       }
       const bool moves = real && CanBeDriven(rig.k70(), accessory::kXYStage);

@@ -1,49 +1,14 @@
 // Real moves of the focus drive from its page.
 #include <QTest>
 
-#include <limits>
-
 #include "gui/drives/DrivePages.h"
 
 namespace mortane::test {
 namespace {
 
-constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
-
-struct ButtonRow {
-  MoveButton* ControlFocusDriveCtl::*button;
-  std::int32_t steps;
-};
-
-const std::vector<ButtonRow>& AllButtons() {
-  static const std::vector<ButtonRow> rows{{&ControlFocusDriveCtl::ButtonUpLarge, 50},
-                                           {&ControlFocusDriveCtl::ButtonUpSmall, 1},
-                                           {&ControlFocusDriveCtl::ButtonDownLarge, -50},
-                                           {&ControlFocusDriveCtl::ButtonDownSmall, -1}};
-  return rows;
-}
-
 Lines MoveFrom(std::int32_t position, std::int32_t steps) {
   return {"ZDriveDevice.Position -> " + std::to_string(position),
           "ZDriveDevice.Position = " + std::to_string(position + steps)};
-}
-
-TEST(FocusMoves, EachButtonMovesByItsStepAndDropsTheInputAfterwards) {
-  for (const ButtonRow& row : AllButtons()) {
-    FocusRig rig;
-    ClickButton(*(rig.page.*row.button));
-    EXPECT_EQ(rig.journal.Lines(), MoveFrom(400, row.steps));
-    EXPECT_EQ(rig.prompts.Log(), Lines{"flush"});
-  }
-}
-
-TEST(FocusMoves, WithRealMovesOffNothingMoves) {
-  FocusRig rig;
-  ClickButton(*rig.page.CheckRealMove);
-  for (const ButtonRow& row : AllButtons()) ClickButton(*(rig.page.*row.button));
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-  EXPECT_EQ(rig.prompts.Log(), Lines(4, "flush"));
 }
 
 TEST(FocusMoves, AMoveTeachesTheSelectedRow) {
@@ -71,17 +36,6 @@ TEST(FocusMoves, APositionOfExactlyZeroIsNeverTaught) {
   ClickButton(*rig.page.ButtonDownSmall);
   EXPECT_EQ(rig.shown(0), "-0.05");
   EXPECT_EQ(rig.drive().Position(1), -1);
-}
-
-TEST(FocusMoves, NearTheEndsOf32BitsNothingIsWritten) {
-  for (const ButtonRow& row : AllButtons()) {
-    FocusRig rig;
-    rig.instrument().zDrive.position = row.steps > 0 ? kLargest : kSmallest;
-    rig.prompts.ExpectBox("Move Error!!", box::kCritical);
-    ClickButton(*(rig.page.*row.button));
-    EXPECT_TRUE(rig.journal.Writes().empty());
-    EXPECT_EQ(rig.prompts.Log().back(), "flush");
-  }
 }
 
 TEST(FocusMoves, AMoveThatFailsIsABoxAndTheRowShowsWhereTheDriveStands) {
@@ -165,22 +119,6 @@ TEST(FocusRows, TheRightButtonReleasedOverAnOptionDropsTheInputToo) {
   EXPECT_EQ(rig.page.optNosepiece->selected(), -1);
 }
 
-TEST(FocusRows, SwitchingRealMovesOffDeselectsForGood) {
-  FocusRig rig;
-  rig.Select(2);
-  ClickButton(*rig.page.CheckRealMove);
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-  ClickButton(*rig.page.CheckRealMove);
-  EXPECT_EQ(rig.journal.Lines(),
-            (Lines{"NosepieceDevice.BeginZPositioning()", "ZDriveDevice.MoveProfile = 9",
-                   "ZDriveDevice.MoveOption = 0"}));
-  ClickButton(*rig.page.ButtonUpLarge);
-  EXPECT_EQ(rig.drive().Position(3), 0);
-  rig.Forget();
-  ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-}
-
 // the nosepiece's row
 
 TEST(FocusNosePosition, SelectsTheRowWithoutAskingWhileTheSectionIsHidden) {
@@ -194,39 +132,6 @@ TEST(FocusNosePosition, SelectsTheRowWithoutAskingWhileTheSectionIsHidden) {
   page.FrameZNose->show();
   ClickButton(*page.ButtonUpLarge);
   EXPECT_EQ(rig.k70().CZDrive.Position(3), 450) << "the row is the selected one";
-}
-
-TEST(FocusNosePosition, AsksWithTheSectionOnShowAndOnlyForANewRow) {
-  FocusRig rig;
-  rig.prompts.ExpectBox(kTeach, box::kOkCancel, Answer::Cancel, kTeachCaption);
-  rig.page.SetNosePosition();
-  EXPECT_TRUE(rig.prompts.AllAnswersUsed());
-  rig.page.SetNosePosition();
-}
-
-TEST(FocusNosePosition, ARowThatIsHiddenIsSelectedWithoutAQuestion) {
-  FocusRig rig;
-  rig.instrument().Accessory(accessory::kNosepiece).value = 7;
-  rig.page.SetNosePosition();
-  EXPECT_EQ(rig.page.optNosepiece->selected(), 6);
-}
-
-TEST(FocusNosePosition, AddressesWithoutARowSelectNothing) {
-  for (const std::int32_t address : {0, 8, 9, 10}) {
-    FocusRig rig("Attic");
-    rig.instrument().Accessory(accessory::kNosepiece).value = address;
-    rig.page.SetNosePosition();
-    EXPECT_EQ(rig.page.optNosepiece->selected(), -1) << address;
-    EXPECT_TRUE(rig.prompts.Log().empty());
-  }
-}
-
-TEST(FocusNosePosition, ANosepieceThatGivesNoAnswerSelectsNothing) {
-  FocusRig rig;
-  rig.faults.Add({"NosepieceDevice.Position"});
-  rig.prompts.ExpectBox("NosePosition Error!!", box::kCritical);
-  rig.page.SetNosePosition();
-  EXPECT_EQ(rig.page.optNosepiece->selected(), -1);
 }
 
 }  // namespace

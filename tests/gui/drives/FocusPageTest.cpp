@@ -108,7 +108,8 @@ TEST(FocusPage, WhatItsFramesHoldStandsAtTheirTopWithoutGaps) {
     FocusRig rig("Lantern");
     EXPECT_EQ(rig.page.chkEscape[1]->y(),
               rig.page.chkEscape[0]->geometry().bottom() + 1 + grid::kUnit);
-    for (const OptionGroup* group : {rig.page.optUpperLimitation, rig.page.optDownLimitation}) {
+    for (const OptionGroup* group : std::initializer_list<const OptionGroup*>{
+             rig.page.optUpperLimitation, rig.page.optDownLimitation}) {
       const QRect first = group->button(0)->geometry();
       const QRect second = group->button(1)->geometry();
       EXPECT_EQ(first.height(), group->button(0)->sizeHint().height());

@@ -169,58 +169,11 @@ TEST_F(FocusStart, NoSettingMovesToZero) {
   EXPECT_EQ(rig.shown(0), "0");
 }
 
-TEST_F(FocusStart, ANumberBeyond32BitsMovesNothing) {
-  for (const char* text : {"1e300", "-1e300", "107374182.4"}) {
-    rig.field(0).setText(text);
-    rig.Forget();
-    rig.page.ButtonStart->click();
-    EXPECT_EQ(rig.journal.CallCount(), 0U) << text;
-    EXPECT_TRUE(rig.prompts.Boxes().empty());
-  }
-}
-
 TEST_F(FocusStart, AtExactlyZeroTheRowShowsZero) {
   rig.drive().Position(1, 77);
   rig.ExpectWatch(1020, Answer::TimedOut);
   Start("0");
   EXPECT_EQ(rig.shown(0), "0");
-}
-
-TEST_F(FocusStart, TheInputDuringTheWaitIsDropped) {
-  rig.ExpectWatch(1080, Answer::TimedOut);
-  Start("100");
-  EXPECT_EQ(rig.prompts.Log().back(), "flush");
-}
-
-TEST_F(FocusStart, ThePositionThatIsReachedIsStoredByTheNextSaving) {
-  rig.ExpectWatch(1080, Answer::Ok, rig.Pass(40));
-  Start("100");
-  rig.page.SaveData();
-  EXPECT_EQ(rig.drive().Position(1), 1200);
-}
-
-TEST(FocusStartAlone, ARowThatTheNextNosepieceDoesNotHaveIsNoTarget) {
-  FocusRig rig;
-  rig.Select(5);
-  rig.drive().NoseCount = 5;
-  rig.page.LoadData();
-  rig.page.FrameZNose->show();
-  rig.Forget();
-  ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-  EXPECT_TRUE(rig.prompts.Log().empty());
-}
-
-TEST(FocusStartAlone, WithoutARowOrWithRealMovesOffNothingHappens) {
-  FocusRig rig;
-  ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-  EXPECT_TRUE(rig.prompts.Log().empty());
-  ClickButton(*rig.page.CheckRealMove);
-  rig.Select(1);
-  ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-  EXPECT_TRUE(rig.prompts.Log().empty());
 }
 
 }  // namespace

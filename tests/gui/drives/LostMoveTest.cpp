@@ -7,196 +7,165 @@ namespace {
 
 enum class Fate { Destroyed, OtherDevice };
 
-class LostMove : public testing::TestWithParam<Fate> {
- protected:
-  // What happens to the page while the box stands; from then on nothing is asked of a drive.
-  template <typename Rig>
-  std::function<void()> Lose(Rig& rig) {
-    return [this, &rig] {
-      if (GetParam() == Fate::Destroyed) {
-        delete &rig.page;
-      } else {
-        rig.k70().Disconnect();
-        EXPECT_TRUE(rig.k70().Connect(1));
-      }
-      lost_ = true;
-      rig.journal.Clear();
-    };
-  }
-  template <typename Rig>
-  void ExpectSilence(Rig& rig) {
-    EXPECT_TRUE(lost_);
-    EXPECT_EQ(rig.journal.CallCount(), 0U);
-    EXPECT_TRUE(rig.prompts.AllAnswersUsed());
-    EXPECT_EQ(rig.prompts.PointerBalance(), 0);
-    EXPECT_EQ(rig.prompts.Log().back(), "flush") << "clicks would move the next drive";
-  }
-  static Bench TwoDevices() { return List({"Quay", "Harbour", "Harbour"}); }
-
- private:
-  bool lost_ = false;
-};
-
-TEST_P(LostMove, AsksTheDriveNothingWhateverTheAnswerOfTheTimedBox) {
-  for (const Answer answer : {Answer::TimedOut, Answer::Ok}) {
-    FocusRig rig(TwoDevices());
-    rig.Select(0);
-    rig.field(0).setText("100");
-    rig.ExpectWatch(1080, answer, Lose(rig));
-    ClickButton(*rig.page.ButtonStart);
-    ExpectSilence(rig);
-  }
-}
-
-TEST_P(LostMove, AsksTheStageNothingWhateverTheAnswerOfTheTimedBox) {
-  for (const Answer answer : {Answer::TimedOut, Answer::Ok}) {
-    StageRig rig(TwoDevices());
-    rig.Select(0);
-    rig.fieldX(0).setText("100");
-    rig.ExpectWatch(1106, answer, Lose(rig));
-    ClickButton(*rig.page.ButtonStart);
-    ExpectSilence(rig);
-  }
-}
-
-// A call of a started move and the box of its failure, during which the page is lost.
+// A call of a move and the box of its failure, during which the page is lost.
 struct FailureRow {
-  const char* call;
+  std::string call;
   int occurrence;
-  const char* message;
+  std::string message;
   bool timedBox;  // shown before
 };
 
-TEST_P(LostMove, AsksTheDriveNothingAfterTheBoxOfAFailure) {
-  for (const FailureRow& row :
-       {FailureRow{"get ZDriveDevice.Position", 1, "GetPosition Error!!", false},
-        FailureRow{"put ZDriveDevice.Position", 1, "MoveAsyncStart Error!!", false},
-        FailureRow{"get ZDriveDevice.Position", 2, "GetPosition Error!!", true},
-        FailureRow{"DeviceList.Item(2).WaitMove", 1, "MoveAsyncEnd Error!!", true},
-        FailureRow{"get ZDriveDevice.Position", 3, "GetPosition Error!!", true}}) {
-    FocusRig rig(TwoDevices());
-    rig.Select(0);
-    rig.field(0).setText("100");
-    rig.faults.Add({row.call, row.occurrence});
-    if (row.timedBox) rig.ExpectWatch(1080, Answer::TimedOut);
-    rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", Lose(rig));
-    ClickButton(*rig.page.ButtonStart);
-    ExpectSilence(rig);
-  }
-}
-
-TEST_P(LostMove, AsksTheStageNothingAfterTheBoxOfAFailure) {
-  for (const FailureRow& row :
-       {FailureRow{"get XYDriveDevice.PositionX", 1, "GetPositionX Error!!", false},
-        FailureRow{"get XYDriveDevice.PositionY", 1, "GetPositionY Error!!", false},
-        FailureRow{"put XYDriveDevice.PositionX", 1, "MoveAsyncStart Error!!", false},
-        FailureRow{"get XYDriveDevice.PositionX", 2, "GetPositionX Error!!", true},
-        FailureRow{"get XYDriveDevice.PositionY", 2, "GetPositionY Error!!", true},
-        FailureRow{"DeviceList.Item(2).WaitMove", 1, "MoveAsyncEnd Error!!", true},
-        FailureRow{"get XYDriveDevice.PositionX", 3, "GetPositionX Error!!", true},
-        FailureRow{"get XYDriveDevice.PositionY", 3, "GetPositionY Error!!", true}}) {
-    StageRig rig(TwoDevices());
-    rig.Select(0);
-    rig.fieldX(0).setText("100");
-    rig.faults.Add({row.call, row.occurrence});
-    if (row.timedBox) rig.ExpectWatch(1106, Answer::TimedOut);
-    rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", Lose(rig));
-    ClickButton(*rig.page.ButtonStart);
-    ExpectSilence(rig);
-  }
-}
-
-TEST_P(LostMove, AsksTheDriveNothingAfterAStepThatFailed) {
-  for (const FailureRow& row :
-       {FailureRow{"put ZDriveDevice.Position", 1, "Move Error!!", false},
-        FailureRow{"get ZDriveDevice.Position", 2, "GetPosition Error!!", false}}) {
-    FocusRig rig(TwoDevices());
-    rig.Select(0);
-    rig.faults.Add({row.call, row.occurrence});
-    rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", Lose(rig));
-    ClickButton(*rig.page.ButtonUpLarge);
-    ExpectSilence(rig);
-  }
-}
-
-TEST_P(LostMove, AsksTheStageNothingAfterAStepThatFailed) {
-  for (const FailureRow& row :
-       {FailureRow{"put XYDriveDevice.PositionX", 1, "MoveX Error!!", false},
-        FailureRow{"get XYDriveDevice.PositionX", 2, "GetPositionX Error!!", false}}) {
-    StageRig rig(TwoDevices());
-    rig.Select(0);
-    rig.faults.Add({row.call, row.occurrence});
-    rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", Lose(rig));
-    ClickButton(*rig.page.ButtonLeftLarge);
-    ExpectSilence(rig);
-  }
-}
-
-TEST_P(LostMove, TeachesNothingAfterTheQuestionOfARow) {
-  FocusRig rig(TwoDevices());
-  rig.prompts.ExpectBox(kTeach, box::kOkCancel, Answer::Ok, kTeachCaption, Lose(rig));
-  ClickButton(*rig.page.optNosepiece->button(0));
-  ExpectSilence(rig);
-  EXPECT_EQ(rig.drive().Position(1), 0);
-}
-
-std::string FateName(const testing::TestParamInfo<Fate>& info) {
-  return info.param == Fate::Destroyed ? "PageDestroyed" : "OtherDevice";
-}
-
-INSTANTIATE_TEST_SUITE_P(MoveSafety, LostMove, testing::Values(Fate::Destroyed, Fate::OtherDevice),
-                         FateName);
-
-// Runs the operation on rigs with the first row selected, each of its controller calls failing in
-// turn: each is one critical box.
-template <typename Rig>
-void ExpectOneBoxForEachCall(const char* what, const std::function<void(Rig&)>& run) {
-  std::size_t calls = 0;
-  for (std::size_t k = 0; k <= calls; ++k) {
-    Rig rig;
-    rig.Select(0);
-    rig.prompts.AcceptAnyBox();
-    if (k > 0) rig.faults.FailCall(k);
-    EXPECT_NO_THROW(run(rig)) << what << k;
-    if (k == 0) calls = rig.journal.CallCount();
-    std::size_t critical = 0;
-    for (const auto& shown : rig.prompts.Boxes()) critical += shown.style == box::kCritical ? 1 : 0;
-    EXPECT_EQ(critical, k == 0 ? 0U : 1U) << what << k;
-    EXPECT_EQ(rig.faults.Hits(), critical) << what << k;
-    EXPECT_EQ(rig.prompts.PointerBalance(), 0);
-  }
-  EXPECT_GE(calls, 2U) << what;
-}
-
-TEST(MoveFailures, EachCallOfAnOperationOfTheFocusPageIsOneBox) {
-  using Run = std::function<void(FocusRig&)>;
-  const std::vector<std::pair<const char*, Run>> operations{
-      {"step", [](FocusRig& rig) { ClickButton(*rig.page.ButtonDownLarge); }},
-      {"start", [](FocusRig& rig) { ClickButton(*rig.page.ButtonStart); }},
-      {"row", [](FocusRig& rig) { ClickButton(*rig.page.optNosepiece->button(0)); }},
-      {"nosepiece", [](FocusRig& rig) { rig.page.SetNosePosition(); }},
-      {"real move",
-       [](FocusRig& rig) {
-         ClickButton(*rig.page.CheckRealMove);
-         ClickButton(*rig.page.CheckRealMove);
-       }},
+// The calls of a started move, in their order.
+template <typename RigKind>
+std::vector<FailureRow> StartFailures() {
+  const std::vector<DriveAxisRow> axes = RigKind::Axes();
+  std::vector<FailureRow> rows{
+      {"put " + axes.front().member, 1, "MoveAsyncStart Error!!", false},
+      {"DeviceList.Item(2).WaitMove", 1, "MoveAsyncEnd Error!!", true},
   };
-  for (const auto& [what, run] : operations) ExpectOneBoxForEachCall<FocusRig>(what, run);
+  for (const DriveAxisRow& axis : axes) {
+    for (const int occurrence : {1, 2, 3}) {
+      rows.push_back({"get " + axis.member, occurrence, axis.read + " Error!!", occurrence > 1});
+    }
+  }
+  return rows;
 }
 
-TEST(MoveFailures, EachCallOfAnOperationOfTheStagePageIsOneBox) {
-  using Run = std::function<void(StageRig&)>;
-  const std::vector<std::pair<const char*, Run>> operations{
-      {"step", [](StageRig& rig) { ClickButton(*rig.page.ButtonDownLarge); }},
-      {"start", [](StageRig& rig) { ClickButton(*rig.page.ButtonStart); }},
-      {"nosepiece", [](StageRig& rig) { rig.page.SetNosePosition(); }},
-      {"real move",
-       [](StageRig& rig) {
-         ClickButton(*rig.page.CheckRealMove);
-         ClickButton(*rig.page.CheckRealMove);
-       }},
+template <typename RigKind>
+class LostMove : public testing::Test {
+ protected:
+  // A rig whose first row is selected and shows 100 on the first axis.
+  struct Given : RigKind {
+    explicit Given(Fate lost) : RigKind(List({"Quay", "Harbour", "Harbour"})), fate(lost) {
+      this->Select(0);
+      this->field(0).setText("100");
+    }
+
+    // What happens to the page while the box stands; from then on nothing is asked of a drive.
+    std::function<void()> Lose() {
+      return [this] {
+        if (fate == Fate::Destroyed) {
+          delete &this->page;
+        } else {
+          this->k70().Disconnect();
+          EXPECT_TRUE(this->k70().Connect(1));
+        }
+        isLost = true;
+        this->journal.Clear();
+      };
+    }
+    void ExpectSilence() {
+      EXPECT_TRUE(isLost);
+      EXPECT_EQ(this->journal.CallCount(), 0U);
+      EXPECT_TRUE(this->prompts.AllAnswersUsed());
+      EXPECT_EQ(this->prompts.PointerBalance(), 0);
+      EXPECT_EQ(this->prompts.Log().back(), "flush") << "clicks would move the next drive";
+    }
+
+    Fate fate;
+    bool isLost = false;
   };
-  for (const auto& [what, run] : operations) ExpectOneBoxForEachCall<StageRig>(what, run);
+
+  static constexpr std::array kFates{Fate::Destroyed, Fate::OtherDevice};
+};
+TYPED_TEST_SUITE(LostMove, DriveRigs, DriveRigName);
+
+TYPED_TEST(LostMove, AsksTheDriveNothingWhateverTheAnswerOfTheTimedBox) {
+  for (const Fate fate : this->kFates) {
+    for (const Answer answer : {Answer::TimedOut, Answer::Ok}) {
+      typename TestFixture::Given rig(fate);
+      rig.ExpectWatch(rig.kWaitMs, answer, rig.Lose());
+      ClickButton(*rig.page.ButtonStart);
+      rig.ExpectSilence();
+    }
+  }
+}
+
+TYPED_TEST(LostMove, AsksTheDriveNothingAfterTheBoxOfAFailure) {
+  for (const Fate fate : this->kFates) {
+    for (const FailureRow& row : StartFailures<TypeParam>()) {
+      SCOPED_TRACE(row.call + std::to_string(row.occurrence));
+      typename TestFixture::Given rig(fate);
+      rig.faults.Add({row.call, row.occurrence});
+      if (row.timedBox) rig.ExpectWatch(rig.kWaitMs, Answer::TimedOut);
+      rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", rig.Lose());
+      ClickButton(*rig.page.ButtonStart);
+      rig.ExpectSilence();
+    }
+  }
+}
+
+TYPED_TEST(LostMove, AsksTheDriveNothingAfterAStepThatFailed) {
+  for (const Fate fate : this->kFates) {
+    for (const auto& step : TypeParam::Steps()) {
+      const DriveAxisRow axis = TypeParam::Axes()[step.axis];
+      for (const FailureRow& row :
+           {FailureRow{"put " + axis.member, 1, axis.move + " Error!!", false},
+            FailureRow{"get " + axis.member, 2, axis.read + " Error!!", false}}) {
+        typename TestFixture::Given rig(fate);
+        rig.faults.Add({row.call, row.occurrence});
+        rig.prompts.ExpectBox(row.message, box::kCritical, Answer::Ok, "", rig.Lose());
+        ClickButton(*(rig.page.*step.button));
+        rig.ExpectSilence();
+      }
+    }
+  }
+}
+
+class LostFocusMove : public LostMove<FocusRig> {};
+
+TEST_F(LostFocusMove, TeachesNothingAfterTheQuestionOfARow) {
+  for (const Fate fate : kFates) {
+    Given rig(fate);
+    rig.ExpectQuestion(Answer::Ok, rig.Lose());
+    ClickButton(*rig.page.optNosepiece->button(1));
+    rig.ExpectSilence();
+    EXPECT_EQ(rig.drive().Position(2), 0);
+  }
+}
+
+// Each controller call of an operation failing in turn is one critical box.
+template <typename RigKind>
+class MoveFailures : public testing::Test {
+ protected:
+  // Runs the operation on rigs with the first row selected.
+  static void ExpectOneBoxForEachCall(const char* what, const std::function<void(RigKind&)>& run) {
+    std::size_t calls = 0;
+    for (std::size_t k = 0; k <= calls; ++k) {
+      RigKind rig;
+      rig.Select(0);
+      rig.prompts.AcceptAnyBox();
+      if (k > 0) rig.faults.FailCall(k);
+      EXPECT_NO_THROW(run(rig)) << what << k;
+      if (k == 0) calls = rig.journal.CallCount();
+      std::size_t critical = 0;
+      for (const auto& shown : rig.prompts.Boxes()) {
+        if (shown.style == box::kCritical) ++critical;
+      }
+      EXPECT_EQ(critical, k == 0 ? 0U : 1U) << what << k;
+      EXPECT_EQ(rig.faults.Hits(), critical) << what << k;
+      EXPECT_EQ(rig.prompts.PointerBalance(), 0);
+    }
+    EXPECT_GE(calls, 1U) << what;
+  }
+};
+TYPED_TEST_SUITE(MoveFailures, DriveRigs, DriveRigName);
+
+TYPED_TEST(MoveFailures, EachCallOfAnOperationIsOneBox) {
+  this->ExpectOneBoxForEachCall("step", [](auto& rig) { ClickButton(*rig.page.ButtonDownLarge); });
+  this->ExpectOneBoxForEachCall("start", [](auto& rig) { ClickButton(*rig.page.ButtonStart); });
+  this->ExpectOneBoxForEachCall("nosepiece", [](auto& rig) { rig.page.SetNosePosition(); });
+  this->ExpectOneBoxForEachCall("real move", [](auto& rig) {
+    ClickButton(*rig.page.CheckRealMove);
+    ClickButton(*rig.page.CheckRealMove);
+  });
+}
+
+class FocusMoveFailures : public MoveFailures<FocusRig> {};
+
+TEST_F(FocusMoveFailures, EachCallOfARowThatIsTaughtIsOneBox) {
+  ExpectOneBoxForEachCall("row",
+                          [](FocusRig& rig) { ClickButton(*rig.page.optNosepiece->button(0)); });
 }
 
 }  // namespace

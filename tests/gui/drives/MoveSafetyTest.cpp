@@ -26,7 +26,7 @@ void PostClick(QWidget& button) {
   }
 }
 
-// Runs `handler` whenever the page drops the queued input, and drops it.
+// Drops the queued input in earnest whenever the page asks for it.
 template <typename Rig>
 void FlushForReal(Rig& rig, InputFlush& flush) {
   rig.prompts.onCall = [&] {
@@ -34,52 +34,48 @@ void FlushForReal(Rig& rig, InputFlush& flush) {
   };
 }
 
-TEST(MoveSafety, TwentyClicksWhileTheFirstMoveBlocksMakeOneMove) {
-  FocusRig rig;
-  InputFlush flush;
-  FlushForReal(rig, flush);
-  rig.simulated.OnChange([&](const Bench&) {
-    for (int click = 0; click < 20; ++click) PostClick(*rig.page.ButtonUpLarge);
-  });
-  ClickButton(*rig.page.ButtonUpLarge);
-  QApplication::processEvents();
-  EXPECT_EQ(rig.journal.Writes(), Lines{"ZDriveDevice.Position = 450"});
-}
+template <typename RigKind>
+class MoveSafety : public testing::Test {};
+TYPED_TEST_SUITE(MoveSafety, DriveRigs, DriveRigName);
 
-TEST(MoveSafety, TwentyClicksOnTheStagesButtonsMakeOneMove) {
-  StageRig rig;
-  InputFlush flush;
-  FlushForReal(rig, flush);
-  rig.simulated.OnChange([&](const Bench&) {
-    for (int click = 0; click < 20; ++click) PostClick(*rig.page.ButtonLeftSmall);
-  });
-  ClickButton(*rig.page.ButtonLeftSmall);
-  QApplication::processEvents();
-  EXPECT_EQ(rig.journal.Writes(), Lines{"XYDriveDevice.PositionX = -51"});
+TYPED_TEST(MoveSafety, TwentyClicksWhileTheFirstMoveBlocksMakeOneMove) {
+  for (const auto& step : TypeParam::Steps()) {
+    TypeParam rig;
+    const DriveAxisRow axis = rig.Axes()[step.axis];
+    InputFlush flush;
+    FlushForReal(rig, flush);
+    rig.simulated.OnChange([&](const Bench&) {
+      for (int click = 0; click < 20; ++click) PostClick(*(rig.page.*step.button));
+    });
+    ClickButton(*(rig.page.*step.button));
+    QApplication::processEvents();
+    EXPECT_EQ(rig.journal.Writes(), Lines{axis.Write(axis.at + step.steps)});
+  }
 }
 
 // Without the flush each of the posted clicks would move: the tests above can fail.
-TEST(MoveSafety, ClicksThatAreNotDroppedEachMove) {
-  FocusRig rig;
+TYPED_TEST(MoveSafety, ClicksThatAreNotDroppedEachMove) {
+  TypeParam rig;
   for (int click = 0; click < 3; ++click) PostClick(*rig.page.ButtonUpLarge);
   QApplication::processEvents();
   EXPECT_EQ(rig.journal.Writes().size(), 3U);
 }
 
-TEST(MoveSafety, ClicksDuringTheWaitOfAStartedMoveAreDropped) {
-  FocusRig rig;
+TYPED_TEST(MoveSafety, ClicksDuringTheWaitOfAStartedMoveAreDropped) {
+  TypeParam rig;
   rig.Select(0);
   rig.field(0).setText("100");
   InputFlush flush;
   FlushForReal(rig, flush);
-  rig.ExpectWatch(1080, Answer::TimedOut, [&] { PostClick(*rig.page.ButtonDownLarge); });
+  rig.ExpectWatch(rig.kWaitMs, Answer::TimedOut, [&] { PostClick(*rig.page.ButtonDownLarge); });
   ClickButton(*rig.page.ButtonStart);
   QApplication::processEvents();
-  EXPECT_EQ(rig.instrument().zDrive.position, 2000);
+  EXPECT_EQ(rig.stands(), 2000);
 }
 
-template <typename Rig>
-void ExpectNoMoveFromWheelOrRepeat(Rig& rig) {
+TYPED_TEST(MoveSafety, TheWheelAndARepeatingKeyStartNoMove) {
+  TypeParam rig;
+  rig.Select(0);
   const std::vector<QPushButton*> buttons = ButtonsOf(rig);
   EXPECT_GE(buttons.size(), 5U);
   for (QPushButton* button : buttons) {
@@ -101,20 +97,8 @@ void ExpectNoMoveFromWheelOrRepeat(Rig& rig) {
   EXPECT_EQ(rig.journal.CallCount(), 0U);
 }
 
-TEST(MoveSafety, TheWheelAndARepeatingKeyStartNoMove) {
-  FocusRig focus;
-  focus.Select(0);
-  ExpectNoMoveFromWheelOrRepeat(focus);
-}
-
-TEST(MoveSafety, TheWheelAndARepeatingKeyStartNoMoveOfTheStage) {
-  StageRig stage;
-  stage.Select(0);
-  ExpectNoMoveFromWheelOrRepeat(stage);
-}
-
-TEST(MoveSafety, ASpaceBarThatIsHeldMovesOnceWhenItIsLetGo) {
-  FocusRig rig;
+TYPED_TEST(MoveSafety, ASpaceBarThatIsHeldMovesOnceWhenItIsLetGo) {
+  TypeParam rig;
   rig.page.ButtonUpSmall->setFocus();
   QTest::keyPress(rig.page.ButtonUpSmall, Qt::Key_Space);
   for (int repeat = 0; repeat < 5; ++repeat) {
@@ -125,11 +109,11 @@ TEST(MoveSafety, ASpaceBarThatIsHeldMovesOnceWhenItIsLetGo) {
   }
   EXPECT_EQ(rig.journal.CallCount(), 0U);
   QTest::keyRelease(rig.page.ButtonUpSmall, Qt::Key_Space);
-  EXPECT_EQ(rig.journal.Writes(), Lines{"ZDriveDevice.Position = 401"});
+  EXPECT_EQ(rig.journal.Writes().size(), 1U);
 }
 
-TEST(MoveSafety, TheWheelOverAFieldOrARowChangesNothing) {
-  FocusRig rig;
+TYPED_TEST(MoveSafety, TheWheelOverAFieldOrARowChangesNothing) {
+  TypeParam rig;
   rig.Select(0);
   for (QWidget* widget : {static_cast<QWidget*>(&rig.field(0)),
                           static_cast<QWidget*>(rig.page.optNosepiece->button(1)),
@@ -145,12 +129,14 @@ TEST(MoveSafety, TheWheelOverAFieldOrARowChangesNothing) {
 
 // While a box stands nothing else moves.
 
-template <typename Rig>
-void ExpectNoMoveWithinAnother(Rig& rig, int waitMs) {
-  rig.ExpectWatch(waitMs, Answer::Ok, [&rig] {
+TYPED_TEST(MoveSafety, AMoveIsNotBegunWithinAnother) {
+  TypeParam rig;
+  rig.Select(0);
+  rig.field(0).setText("100");
+  rig.ExpectWatch(rig.kWaitMs, Answer::Ok, [&rig] {
     rig.journal.Clear();
     rig.page.ButtonStart->click();
-    rig.page.ButtonUpLarge->click();
+    for (const auto& step : rig.Steps()) (rig.page.*step.button)->click();
     EXPECT_EQ(rig.journal.CallCount(), 0U);
   });
   ClickButton(*rig.page.ButtonStart);
@@ -159,21 +145,7 @@ void ExpectNoMoveWithinAnother(Rig& rig, int waitMs) {
   EXPECT_EQ(rig.journal.Writes().size(), 1U) << "afterwards it moves again";
 }
 
-TEST(MoveSafety, AMoveIsNotBegunWithinAnother) {
-  FocusRig rig;
-  rig.Select(0);
-  rig.field(0).setText("100");
-  ExpectNoMoveWithinAnother(rig, 1080);
-}
-
-TEST(MoveSafety, AMoveOfTheStageIsNotBegunWithinAnother) {
-  StageRig rig;
-  rig.Select(0);
-  rig.fieldX(0).setText("100");
-  ExpectNoMoveWithinAnother(rig, 1106);
-}
-
-TEST(MoveSafety, ARowThatIsSelectedWithinAMoveEndsNoGuard) {
+TEST(FocusMoveSafety, ARowThatIsSelectedWithinAMoveEndsNoGuard) {
   FocusRig rig;
   rig.Select(0);
   rig.field(0).setText("100");
@@ -189,68 +161,61 @@ TEST(MoveSafety, ARowThatIsSelectedWithinAMoveEndsNoGuard) {
   EXPECT_EQ(rig.shown(1), "0");
 }
 
-TEST(MoveSafety, ASectionThatIsSwitchedOffWithinAMoveStillShowsItsRow) {
-  FocusRig rig;
+TYPED_TEST(MoveSafety, ASectionThatIsSwitchedOffWithinAMoveStillShowsItsRow) {
+  TypeParam rig;
   rig.Select(3);
   rig.field(3).setText("100");
-  rig.ExpectWatch(1080, Answer::Ok, [&] { rig.page.CheckRealMove->setChecked(false); });
+  rig.ExpectWatch(rig.kWaitMs, Answer::Ok, [&] { rig.page.CheckRealMove->setChecked(false); });
   ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.shown(3), "20");
+  EXPECT_EQ(rig.field(3).text().toDouble(), rig.Axes()[0].at / 20.0);
 }
 
-// Steps with a row selected that is given up while the box of the failed call stands.
-template <typename Rig>
-void StepAndGiveUpTheRow(Rig& rig, const char* call, int occurrence, const char* message,
-                         QAbstractButton& step) {
-  rig.faults.Add({call, occurrence});
-  rig.prompts.ExpectBox(message, box::kCritical, Answer::Ok, "",
-                        [&rig] { rig.page.CheckRealMove->setChecked(false); });
-  ClickButton(step);
+// The row is given up while the box of the failed call stands.
+TYPED_TEST(MoveSafety, ARowThatIsGivenUpWithinAMoveIsShownAllTheSame) {
+  for (const auto& step : TypeParam::Steps()) {
+    TypeParam rig;
+    const DriveAxisRow axis = rig.Axes()[step.axis];
+    rig.Select(3);
+    rig.field(3, step.axis).setText("7");
+    rig.faults.Add({"get " + axis.member, 2});
+    rig.prompts.ExpectBox(axis.read + " Error!!", box::kCritical, Answer::Ok, "",
+                          [&rig] { rig.page.CheckRealMove->setChecked(false); });
+    ClickButton(*(rig.page.*step.button));
+    EXPECT_EQ(rig.shown(3, step.axis), "0");
+  }
 }
 
-TEST(MoveSafety, ARowThatIsGivenUpWithinAMoveIsShownAllTheSame) {
-  FocusRig focus;
-  focus.Select(3);
-  focus.field(3).setText("7");
-  StepAndGiveUpTheRow(focus, "get ZDriveDevice.Position", 2, "GetPosition Error!!",
-                      *focus.page.ButtonUpLarge);
-  EXPECT_EQ(focus.shown(3), "0");
+TYPED_TEST(MoveSafety, ARowThatIsGivenUpBeforeThePositionIsReadIsNotTouched) {
+  for (const auto& step : TypeParam::Steps()) {
+    TypeParam rig;
+    const DriveAxisRow axis = rig.Axes()[step.axis];
+    rig.Select(3);
+    rig.field(3, step.axis).setText("7");
+    rig.faults.Add({"put " + axis.member});
+    rig.prompts.ExpectBox(axis.move + " Error!!", box::kCritical, Answer::Ok, "",
+                          [&rig] { rig.page.CheckRealMove->setChecked(false); });
+    ClickButton(*(rig.page.*step.button));
+    EXPECT_EQ(rig.shown(3, step.axis), "7");
+    EXPECT_EQ(rig.stored(3, step.axis), 0);
+  }
 }
 
-TEST(MoveSafety, ARowOfTheStageThatIsGivenUpWithinAMoveIsShownAllTheSame) {
-  StageRig stage;
-  stage.Select(3);
-  stage.fieldX(3).setText("7");
-  StepAndGiveUpTheRow(stage, "get XYDriveDevice.PositionX", 2, "GetPositionX Error!!",
-                      *stage.page.ButtonLeftLarge);
-  EXPECT_EQ(stage.shownX(3), "0");
-}
-
-// The row that was selected before is not touched.
-TEST(MoveSafety, ARowThatIsGivenUpBeforeThePositionIsReadIsNotTaught) {
-  FocusRig rig;
-  rig.Select(3);
-  StepAndGiveUpTheRow(rig, "put ZDriveDevice.Position", 1, "Move Error!!", *rig.page.ButtonUpLarge);
-  EXPECT_EQ(rig.shown(3), "0");
-  EXPECT_EQ(rig.drive().Position(4), 0);
-}
-
-TEST(MoveSafety, AWindowThatIsClosedWithinAMoveLeavesItInOrder) {
-  FocusRig rig;
+TYPED_TEST(MoveSafety, AWindowThatIsClosedWithinAMoveLeavesItInOrder) {
+  TypeParam rig;
   rig.Select(0);
   rig.field(0).setText("100");
-  rig.simulated.OnChange([&](const Bench&) { rig.instrument().zDrive.position = 400; });
-  rig.ExpectWatch(1080, Answer::TimedOut, [&] { rig.window().close(); });
+  rig.simulated.OnChange([&](const Bench&) { rig.stands() = rig.Axes()[0].at; });
+  rig.ExpectWatch(rig.kWaitMs, Answer::TimedOut, [&] { rig.window().close(); });
   ClickButton(*rig.page.ButtonStart);
   EXPECT_FALSE(rig.page.isVisible());
-  EXPECT_EQ(rig.shown(0), "20");
+  EXPECT_EQ(rig.field(0).text().toDouble(), rig.Axes()[0].at / 20.0);
 }
 
-TEST(MoveSafety, APageThatIsLoadedWithinAMoveGoesOn) {
-  FocusRig rig;
+TYPED_TEST(MoveSafety, APageThatIsLoadedWithinAMoveGoesOn) {
+  TypeParam rig;
   rig.Select(0);
   rig.field(0).setText("100");
-  rig.ExpectWatch(1080, Answer::TimedOut, [&] { rig.page.LoadData(); });
+  rig.ExpectWatch(rig.kWaitMs, Answer::TimedOut, [&] { rig.page.LoadData(); });
   ClickButton(*rig.page.ButtonStart);
   EXPECT_EQ(rig.shown(0), "100");
 }

@@ -15,36 +15,6 @@ Lines operator+(Lines first, const Lines& second) {
   return first;
 }
 
-struct ButtonRow {
-  MoveButton* ControlXYStageCtl::*button;
-  char axis;
-  std::int32_t steps;
-};
-
-const std::vector<ButtonRow>& AllButtons() {
-  static const std::vector<ButtonRow> rows{{&ControlXYStageCtl::ButtonLeftLarge, 'X', -50},
-                                           {&ControlXYStageCtl::ButtonLeftSmall, 'X', -1},
-                                           {&ControlXYStageCtl::ButtonRightLarge, 'X', 50},
-                                           {&ControlXYStageCtl::ButtonRightSmall, 'X', 1},
-                                           {&ControlXYStageCtl::ButtonUpLarge, 'Y', -50},
-                                           {&ControlXYStageCtl::ButtonUpSmall, 'Y', -1},
-                                           {&ControlXYStageCtl::ButtonDownLarge, 'Y', 50},
-                                           {&ControlXYStageCtl::ButtonDownSmall, 'Y', 1}};
-  return rows;
-}
-
-TEST(StageMoves, EachButtonMovesItsAxisByItsStepAndDropsTheInputAfterwards) {
-  for (const ButtonRow& row : AllButtons()) {
-    StageRig rig;
-    ClickButton(*(rig.page.*row.button));
-    const std::string member = std::string("XYDriveDevice.Position") + row.axis;
-    const std::int32_t from = row.axis == 'X' ? -50 : 60;
-    EXPECT_EQ(rig.journal.Lines(), (Lines{member + " -> " + std::to_string(from),
-                                          member + " = " + std::to_string(from + row.steps)}));
-    EXPECT_EQ(rig.prompts.Log(), Lines{"flush"});
-  }
-}
-
 TEST(StageMoves, AMoveShowsItsAxisInTheSelectedRowAndStoresNothing) {
   StageRig rig;
   rig.Select(1);
@@ -65,34 +35,6 @@ TEST(StageMoves, APositionOfExactlyZeroIsShown) {
   rig.Select(1);
   ClickButton(*rig.page.ButtonRightLarge);
   EXPECT_EQ(rig.shownX(1), "0");
-}
-
-TEST(StageMoves, WithRealMovesOffNothingMoves) {
-  StageRig rig;
-  rig.Select(1);
-  ClickButton(*rig.page.CheckRealMove);
-  for (const ButtonRow& row : AllButtons()) ClickButton(*(rig.page.*row.button));
-  ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-  EXPECT_EQ(rig.prompts.Log(), Lines(8, "flush"));
-  ClickButton(*rig.page.CheckRealMove);
-  EXPECT_EQ(rig.journal.Lines(),
-            (Lines{"NosepieceDevice.BeginPositioning()", "XYDriveDevice.MoveProfile = 9"}));
-  rig.Forget();
-  ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.journal.CallCount(), 0U) << "no row is selected any more";
-}
-
-TEST(StageMoves, NearTheEndsOf32BitsNothingIsWritten) {
-  for (const ButtonRow& row : AllButtons()) {
-    StageRig rig;
-    const std::int32_t end = row.steps > 0 ? kLargest : kSmallest;
-    rig.instrument().xyDrive.positionX = end;
-    rig.instrument().xyDrive.positionY = end;
-    rig.prompts.ExpectBox(std::string("Move") + row.axis + " Error!!", box::kCritical);
-    ClickButton(*(rig.page.*row.button));
-    EXPECT_TRUE(rig.journal.Writes().empty());
-  }
 }
 
 // the move to a row
@@ -204,34 +146,6 @@ TEST_F(StageStart, TheTimesOfBothAxesAreAdded) {
     own.page.ButtonStart->click();
     EXPECT_TRUE(own.prompts.AllAnswersUsed()) << row.x;
   }
-}
-
-TEST_F(StageStart, ANumberBeyond32BitsOnEitherAxisMovesNothing) {
-  for (const auto& [x, y] : {std::pair{"1e300", "0"}, std::pair{"0", "-1e300"}}) {
-    rig.fieldX(0).setText(x);
-    rig.fieldY(0).setText(y);
-    rig.Forget();
-    rig.page.ButtonStart->click();
-    EXPECT_EQ(rig.journal.CallCount(), 0U) << x;
-    EXPECT_TRUE(rig.prompts.Boxes().empty());
-  }
-}
-
-TEST(StageStartAlone, ARowThatTheNextNosepieceDoesNotHaveIsNoTarget) {
-  StageRig rig;
-  rig.Select(5);
-  rig.stage().NoseCount = 5;
-  rig.page.LoadData();
-  rig.Forget();
-  ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-}
-
-TEST(StageStartAlone, WithoutARowNothingHappens) {
-  StageRig rig;
-  ClickButton(*rig.page.ButtonStart);
-  EXPECT_EQ(rig.journal.CallCount(), 0U);
-  EXPECT_TRUE(rig.prompts.Log().empty());
 }
 
 }  // namespace

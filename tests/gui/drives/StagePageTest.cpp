@@ -197,25 +197,6 @@ TEST(StagePage, ASelectedRowAsksNothing) {
   EXPECT_EQ(rig.journal.CallCount(), 0U);
 }
 
-TEST(StagePage, SelectsTheRowOfTheNosepiece) {
-  StageRig rig;
-  rig.page.SetNosePosition();
-  EXPECT_EQ(rig.page.optNosepiece->selected(), 2);
-  EXPECT_EQ(rig.prompts.Log(), (Lines{"pointer 11", "pointer 0"}));
-  rig.Forget();
-  rig.page.SetNosePosition();
-  EXPECT_TRUE(rig.prompts.Log().empty());
-}
-
-TEST(StagePage, AddressesWithoutARowSelectNothing) {
-  for (const std::int32_t address : {0, 8, 10}) {
-    StageRig rig("Attic");
-    rig.instrument().Accessory(accessory::kNosepiece).value = address;
-    rig.page.SetNosePosition();
-    EXPECT_EQ(rig.page.optNosepiece->selected(), -1) << address;
-  }
-}
-
 // positions
 
 TEST(StagePositions, FiftyThousandMicrometresEitherWayPassFieldAndSaving) {

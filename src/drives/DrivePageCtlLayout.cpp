@@ -1,0 +1,67 @@
+// Where the controls stand that the drive pages have in common.
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "drives/CaptionedFrame.h"
+#include "drives/DrivePageCtl.h"
+#include "drives/DrivePosition.h"
+#include "widgets/Card.h"
+#include "widgets/ClickFocus.h"
+#include "widgets/OptionGroup.h"
+#include "widgets/ShownName.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+
+using namespace Qt::StringLiterals;
+
+DrivePageCtl::TeachingParts DrivePageCtl::AddTeaching(const TeachingTexts& texts,
+                                                      std::vector<PositionColumn> columns,
+                                                      MoveCross::Axes axes) {
+  auto* frame = new CaptionedFrame(QLatin1String(texts.caption), FrameBase);
+
+  auto* compensation = new QHBoxLayout;
+  compensation->setSpacing(grid::kBetweenColumns);
+  optFocusCompensation = new OptionGroup(this);
+  for (const char* caption : texts.compensations) {
+    compensation->addWidget(optFocusCompensation->addOption(QLatin1String(caption), frame));
+  }
+  compensation->addStretch();
+
+  optNosepiece = new OptionGroup(this);
+  FrameNosepiece =
+      new PositionTableCtl(microscope_.prompts(), std::move(columns), *optNosepiece, frame);
+
+  auto* control = new InnerFrame(QLatin1String(texts.controlCaption), frame);
+  CheckRealMove = new QCheckBox(u"Is Real Move ?"_s, control);
+  TakeFocusByClicks(*CheckRealMove);
+  auto* cross = new MoveCross(axes, u"Start"_s, control);
+  ButtonStart = cross->middle();
+  control->body()->addWidget(CheckRealMove);
+  control->body()->addSpacing(grid::kUnit);
+  control->body()->addWidget(cross, 0, Qt::AlignHCenter);
+  control->body()->addStretch();
+
+  auto* row = new QHBoxLayout;
+  row->setSpacing(grid::kBetweenGroups);
+  row->addWidget(FrameNosepiece, 1);
+  row->addWidget(control, 1);
+  frame->body()->addLayout(compensation);
+  frame->body()->addLayout(row);
+  FrameBase->body()->addWidget(frame);
+  FrameBase->body()->addStretch(1);
+
+  connect(CheckRealMove, &QCheckBox::toggled, this, &DrivePageCtl::OnRealMove);
+  connect(optNosepiece, &OptionGroup::selectionChanged, this, &DrivePageCtl::OnRow);
+  connect(ButtonStart, &QAbstractButton::clicked, this, &DrivePageCtl::Start);
+  return {frame, control, cross};
+}
+
+void DrivePageCtl::ConnectStep(MoveButton& button, std::int32_t steps, std::size_t axis) {
+  connect(&button, &QAbstractButton::clicked, this, [this, axis, steps] { Step(axis, steps); });
+}
+
+}  // namespace mortane
