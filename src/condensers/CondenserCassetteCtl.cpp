@@ -14,7 +14,6 @@
 #include "model/OptionCodes.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
-#include "widgets/Named.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -42,11 +41,9 @@ std::vector<std::int32_t> NamedOptions(const clsDbCondenser& condensers) {
 CondenserCassetteCtl::CondenserCassetteCtl(clsCondenser& cassette, const clsDbCondenser& condensers,
                                            QWidget* parent)
     : CardPage(u"Set Condenser Data to Each Address"_s, parent),
-      Label1{},
-      Combo1{},
       cassette_(cassette),
-      condensers_(condensers),
-      turret_(Named(new TurretDrawing(PlaceKind::Condensers, FrameBase), "turret")) {
+      condensers_(condensers) {
+  turret_ = new TurretDrawing(PlaceKind::Condensers, FrameBase);
   auto* columns = new QHBoxLayout;
   columns->setSpacing(kBesideTurret);
   columns->addWidget(turret_);
@@ -76,10 +73,11 @@ CondenserCassetteCtl::CondenserCassetteCtl(clsCondenser& cassette, const clsDbCo
 void CondenserCassetteCtl::BuildRow(int row) {
   const auto i = static_cast<std::size_t>(row);
   const QString number = QString::number(row + 1);
-  Label1[i] = Named(new QLabel(number, FrameBase), "Label1", row);
+  Label1.Set(i, new QLabel(number, FrameBase));
   Label1[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   Label1[i]->setMinimumWidth(QFontMetrics(BoldFont()).horizontalAdvance(number));
-  ComboBox* combo = Combo1[i] = Named(new ComboBox(FrameBase), "Combo1", row);
+  auto* combo = new ComboBox(FrameBase);
+  Combo1.Set(i, combo);
   combo->setAccessibleName(u"Address "_s + number);
   combo->setFixedWidth(kComboWidth);
   Label1[i]->setBuddy(combo);

@@ -1,10 +1,10 @@
 // The sub-page that tells which condenser stands at each address of the cassette.
 #pragma once
 
-#include <array>
 #include <vector>
 
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QLabel;
 
@@ -31,8 +31,8 @@ class CondenserCassetteCtl : public CardPage {
 
   void LoadData() override;
 
-  std::array<QLabel*, kRowCount> Label1;
-  std::array<ComboBox*, kRowCount> Combo1;
+  Controls<QLabel, kRowCount> Label1{"Label1"};
+  Controls<ComboBox, kRowCount> Combo1{"Combo1"};
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -47,7 +47,7 @@ class CondenserCassetteCtl : public CardPage {
 
   clsCondenser& cassette_;
   const clsDbCondenser& condensers_;
-  TurretDrawing* turret_;
+  Control<TurretDrawing> turret_{"turret"};
   int chosenRow_ = 0;
 };
 

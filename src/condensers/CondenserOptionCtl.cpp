@@ -6,7 +6,6 @@
 #include "condensers/clsDbCondenser.h"
 #include "widgets/Card.h"
 #include "widgets/FoldingLayout.h"
-#include "widgets/Named.h"
 #include "widgets/ShownName.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
@@ -26,10 +25,7 @@ std::int32_t CodeOf(int row) {
 }  // namespace
 
 CondenserOptionCtl::CondenserOptionCtl(clsDbCondenser& condensers, QWidget* parent)
-    : CardPage(u"Add Optional Condenser Data to the List"_s, parent),
-      Label11{},
-      TextName{},
-      condensers_(condensers) {
+    : CardPage(u"Add Optional Condenser Data to the List"_s, parent), condensers_(condensers) {
   auto* rows = new FoldingLayout(kColumnGap);
   FrameBase->body()->addLayout(rows, 1);
   for (int row = 0; row < kOptionPositions; ++row) rows->addWidget(BuildRow(row));
@@ -39,8 +35,9 @@ QWidget* CondenserOptionCtl::BuildRow(int row) {
   const auto i = static_cast<std::size_t>(row);
   const QString number = QString::number(row + 1);
   auto* line = new QWidget(FrameBase);
-  Label11[i] = Named(new QLabel(number, line), "Label11", row);
-  TextField* field = TextName[i] = Named(new TextField(line), "TextName", row);
+  Label11.Set(i, new QLabel(number, line));
+  auto* field = new TextField(line);
+  TextName.Set(i, field);
   field->setAccessibleName(u"Optional Condenser "_s + number);
   field->setFont(FixedFont());
   field->SetLimit(kNameLength);

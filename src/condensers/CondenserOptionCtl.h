@@ -1,10 +1,9 @@
 // The sub-page that names the user's nine condensers.
 #pragma once
 
-#include <array>
-
 #include "model/OptionCodes.h"
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QLabel;
 
@@ -21,8 +20,8 @@ class CondenserOptionCtl : public CardPage {
   void LoadData() override;
   void SaveData() override;
 
-  std::array<QLabel*, kOptionPositions> Label11;
-  std::array<TextField*, kOptionPositions> TextName;
+  Controls<QLabel, kOptionPositions> Label11{"Label11"};
+  Controls<TextField, kOptionPositions> TextName{"TextName"};
 
  private:
   QWidget* BuildRow(int row);

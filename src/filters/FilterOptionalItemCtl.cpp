@@ -7,7 +7,6 @@
 
 #include "model/OptionCodes.h"
 #include "widgets/Card.h"
-#include "widgets/Named.h"
 #include "widgets/ShownName.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
@@ -23,19 +22,17 @@ constexpr int kFieldCharacters = 14;
 
 struct FilterOptionalItemCtl::Column {
   FilterItem item;
-  const char* labelName;
   const char* caption;
-  const char* fieldName;
-  QLabel* FilterOptionalItemCtl::*label;
+  Control<QLabel> FilterOptionalItemCtl::*label;
   Fields FilterOptionalItemCtl::*fields;
 };
 
 const std::array<FilterOptionalItemCtl::Column, kFilterItems> FilterOptionalItemCtl::kColumns{{
-    {FilterItem::Exciter, "Label1", "Exciter", "TextExciter", &FilterOptionalItemCtl::Label1,
+    {FilterItem::Exciter, "Exciter", &FilterOptionalItemCtl::Label1,
      &FilterOptionalItemCtl::TextExciter},
-    {FilterItem::Dichroic, "Label2", "Dichroic", "TextDichroic", &FilterOptionalItemCtl::Label2,
+    {FilterItem::Dichroic, "Dichroic", &FilterOptionalItemCtl::Label2,
      &FilterOptionalItemCtl::TextDichroic},
-    {FilterItem::Barrier, "Label3", "Barrier", "TextBarrier", &FilterOptionalItemCtl::Label3,
+    {FilterItem::Barrier, "Barrier", &FilterOptionalItemCtl::Label3,
      &FilterOptionalItemCtl::TextBarrier},
 }};
 
@@ -55,7 +52,7 @@ FilterOptionalItemCtl::FilterOptionalItemCtl(const FilterItemLists& items, QWidg
 void FilterOptionalItemCtl::BuildHeaders(QGridLayout& cells) {
   int place = 1;
   for (const Column& column : kColumns) {
-    QLabel* label = Named(CaptionLabel(QLatin1String(column.caption), FrameBase), column.labelName);
+    QLabel* label = CaptionLabel(QLatin1String(column.caption), FrameBase);
     this->*column.label = label;
     cells.addWidget(label, 0, place++);
   }
@@ -63,7 +60,7 @@ void FilterOptionalItemCtl::BuildHeaders(QGridLayout& cells) {
 
 void FilterOptionalItemCtl::BuildRow(int row, QGridLayout& cells) {
   const auto i = static_cast<std::size_t>(row);
-  Label11[i] = Named(new QLabel(QString::number(row + 1), FrameBase), "Label11", row);
+  Label11.Set(i, new QLabel(QString::number(row + 1), FrameBase));
   Label11[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   cells.addWidget(Label11[i], row + 1, 0);
   int place = 1;
@@ -72,14 +69,14 @@ void FilterOptionalItemCtl::BuildRow(int row, QGridLayout& cells) {
 }
 
 TextField* FilterOptionalItemCtl::BuildField(const Column& column, int row) {
-  auto* field = Named(new TextField(FrameBase), column.fieldName, row);
+  auto* field = new TextField(FrameBase);
+  (this->*column.fields).Set(static_cast<std::size_t>(row), field);
   field->setAccessibleName(u"%1 %2"_s.arg(QLatin1String(column.caption)).arg(row + 1));
   field->setFont(FixedFont());
   field->SetLimit(static_cast<int>(kOptionNameLength));
   field->SetWidthFor(kFieldCharacters);
   field->SetMark(ToQString(kUnnamedMark));
   connect(field, &TextField::committed, this, [this, &column, row] { Store(column, row); });
-  (this->*column.fields)[static_cast<std::size_t>(row)] = field;
   return field;
 }
 

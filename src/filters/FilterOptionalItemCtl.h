@@ -6,6 +6,7 @@
 #include "filters/FilterItemLists.h"
 #include "model/OptionCodes.h"
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QGridLayout;
 class QLabel;
@@ -24,15 +25,15 @@ class FilterOptionalItemCtl : public CardPage {
   void LoadData() override;
   void SaveData() override;
 
-  using Fields = std::array<TextField*, kOptionPositions>;
+  using Fields = Controls<TextField, kOptionPositions>;
 
-  QLabel* Label1;
-  QLabel* Label2;
-  QLabel* Label3;
-  std::array<QLabel*, kOptionPositions> Label11;
-  Fields TextExciter;
-  Fields TextDichroic;
-  Fields TextBarrier;
+  Control<QLabel> Label1{"Label1"};
+  Control<QLabel> Label2{"Label2"};
+  Control<QLabel> Label3{"Label3"};
+  Controls<QLabel, kOptionPositions> Label11{"Label11"};
+  Fields TextExciter{"TextExciter"};
+  Fields TextDichroic{"TextDichroic"};
+  Fields TextBarrier{"TextBarrier"};
 
  private:
   struct Column;

@@ -4,7 +4,6 @@
 #include "filters/clsDbFilter.h"
 #include "model/OptionCodes.h"
 #include "widgets/ListBox.h"
-#include "widgets/Named.h"
 #include "widgets/RecordForm.h"
 #include "widgets/ShownName.h"
 #include "widgets/TabStrip.h"
@@ -23,32 +22,19 @@ constexpr int kNameWidthCharacters = 16;
 
 struct FilterOptionalQubeCtl::Item {
   FilterItem item;
-  RecordForm::ColumnNames names;
-  const char* valueName;
-  QLabel* FilterOptionalQubeCtl::*label;
-  ValueLabel* FilterOptionalQubeCtl::*value;
-  ListBox* FilterOptionalQubeCtl::*list;
+  const char* caption;
+  Control<QLabel> FilterOptionalQubeCtl::*label;
+  Control<ValueLabel> FilterOptionalQubeCtl::*value;
+  Control<ListBox> FilterOptionalQubeCtl::*list;
 };
 
 const std::array<FilterOptionalQubeCtl::Item, kFilterItems> FilterOptionalQubeCtl::kItems{{
-    {FilterItem::Exciter,
-     {"Label2", "Exciter", "ListExciter"},
-     "LabelExciter",
-     &FilterOptionalQubeCtl::Label2,
-     &FilterOptionalQubeCtl::LabelExciter,
-     &FilterOptionalQubeCtl::ListExciter},
-    {FilterItem::Dichroic,
-     {"Label3", "Dichroic", "ListDichroic"},
-     "LabelDichroic",
-     &FilterOptionalQubeCtl::Label3,
-     &FilterOptionalQubeCtl::LabelDichroic,
-     &FilterOptionalQubeCtl::ListDichroic},
-    {FilterItem::Barrier,
-     {"Label4", "Barrier", "ListBarrier"},
-     "LabelBarrier",
-     &FilterOptionalQubeCtl::Label4,
-     &FilterOptionalQubeCtl::LabelBarrier,
-     &FilterOptionalQubeCtl::ListBarrier},
+    {FilterItem::Exciter, "Exciter", &FilterOptionalQubeCtl::Label2,
+     &FilterOptionalQubeCtl::LabelExciter, &FilterOptionalQubeCtl::ListExciter},
+    {FilterItem::Dichroic, "Dichroic", &FilterOptionalQubeCtl::Label3,
+     &FilterOptionalQubeCtl::LabelDichroic, &FilterOptionalQubeCtl::ListDichroic},
+    {FilterItem::Barrier, "Barrier", &FilterOptionalQubeCtl::Label4,
+     &FilterOptionalQubeCtl::LabelBarrier, &FilterOptionalQubeCtl::ListBarrier},
 }};
 
 FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterItemLists& items,
@@ -56,11 +42,11 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterIte
     : CardPage(u"Add Optional Filter Cube Data to the List"_s, parent),
       cubes_(cubes),
       items_(items) {
-  RecordForm form(*FrameBase, kOptionPositions, "TabOption", "frm2");
+  RecordForm form(*FrameBase, kOptionPositions);
   TabOption = form.tabs();
   frm2 = form.frame();
   const RecordForm::Name name =
-      form.AddName("Label1", "TextName", static_cast<int>(kOptionNameLength), kNameWidthCharacters);
+      form.AddName(static_cast<int>(kOptionNameLength), kNameWidthCharacters);
   Label1 = name.label;
   TextName = name.field;
   TextName->SetMark(ToQString(kUnnamedMark), TextField::LeftBlank::StaysBlank);
@@ -73,8 +59,8 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterIte
 }
 
 void FilterOptionalQubeCtl::BuildColumn(const Item& item, RecordForm& form) {
-  auto* value = Named(new ValueLabel(frm2), item.valueName);
-  const RecordForm::Column column = form.AddColumn(item.names, value, 1);
+  auto* value = new ValueLabel(frm2);
+  const RecordForm::Column column = form.AddColumn(item.caption, value, 1);
   this->*item.label = column.caption;
   this->*item.value = value;
   this->*item.list = column.list;

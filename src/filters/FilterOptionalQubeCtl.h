@@ -6,6 +6,7 @@
 
 #include "filters/FilterItemLists.h"
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QFrame;
 class QLabel;
@@ -31,19 +32,19 @@ class FilterOptionalQubeCtl : public CardPage {
   void LoadData() override;
   void SaveData() override { Store(); }
 
-  TabStrip* TabOption;
-  QFrame* frm2;
-  QLabel* Label1;
-  TextField* TextName;
-  QLabel* Label2;
-  ValueLabel* LabelExciter;
-  ListBox* ListExciter;
-  QLabel* Label3;
-  ValueLabel* LabelDichroic;
-  ListBox* ListDichroic;
-  QLabel* Label4;
-  ValueLabel* LabelBarrier;
-  ListBox* ListBarrier;
+  Control<TabStrip> TabOption{"TabOption"};
+  Control<QFrame> frm2{"frm2"};
+  Control<QLabel> Label1{"Label1"};
+  Control<TextField> TextName{"TextName"};
+  Control<QLabel> Label2{"Label2"};
+  Control<ValueLabel> LabelExciter{"LabelExciter"};
+  Control<ListBox> ListExciter{"ListExciter"};
+  Control<QLabel> Label3{"Label3"};
+  Control<ValueLabel> LabelDichroic{"LabelDichroic"};
+  Control<ListBox> ListDichroic{"ListDichroic"};
+  Control<QLabel> Label4{"Label4"};
+  Control<ValueLabel> LabelBarrier{"LabelBarrier"};
+  Control<ListBox> ListBarrier{"ListBarrier"};
 
  private:
   struct Item;

@@ -11,7 +11,6 @@
 #include "model/OptionCodes.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
-#include "widgets/Named.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
@@ -56,25 +55,23 @@ TurretItem TurretItemOf(const clsDbFilter& cubes, std::int32_t code) {
 }  // namespace
 
 struct FilterQubeCtl::Value {
-  const char* labelName;
   const char* caption;
-  const char* valueName;
-  QLabel* FilterQubeCtl::*label;
-  ValueLabel* FilterQubeCtl::*value;
+  Control<QLabel> FilterQubeCtl::*label;
+  Control<ValueLabel> FilterQubeCtl::*value;
 };
 
 const std::array<FilterQubeCtl::Value, 4> FilterQubeCtl::kValues{{
-    {"Label1", "Name", "LabelName", &FilterQubeCtl::Label1, &FilterQubeCtl::LabelName},
-    {"Label2", "Exciter", "LabelExciter", &FilterQubeCtl::Label2, &FilterQubeCtl::LabelExciter},
-    {"Label3", "Dichroic", "LabelDichroic", &FilterQubeCtl::Label3, &FilterQubeCtl::LabelDichroic},
-    {"Label4", "Barrier", "LabelBarrier", &FilterQubeCtl::Label4, &FilterQubeCtl::LabelBarrier},
+    {"Name", &FilterQubeCtl::Label1, &FilterQubeCtl::LabelName},
+    {"Exciter", &FilterQubeCtl::Label2, &FilterQubeCtl::LabelExciter},
+    {"Dichroic", &FilterQubeCtl::Label3, &FilterQubeCtl::LabelDichroic},
+    {"Barrier", &FilterQubeCtl::Label4, &FilterQubeCtl::LabelBarrier},
 }};
 
 FilterQubeCtl::FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidget* parent)
     : CardPage(u"Set Filter Cube Data to Each Address"_s, parent),
       filterTurret_(turret),
       cubes_(cubes) {
-  TabPocket = Named(new TabStrip(FrameBase), "TabPocket");
+  TabPocket = new TabStrip(FrameBase);
   TabPocket->setAccessibleName(u"Address"_s);
   FrameBase->body()->addWidget(TabPocket);
   FrameBase->body()->addWidget(BuildList(FrameBase), 1);
@@ -93,9 +90,9 @@ QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
   auto* row = new QHBoxLayout(panel);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
-  turret_ = Named(new TurretDrawing(PlaceKind::Cubes, panel), "turret");
+  turret_ = new TurretDrawing(PlaceKind::Cubes, panel);
   turret_->setAccessibleName(u"Filter Turret"_s);
-  List1 = Named(new ListBox(panel), "List1");
+  List1 = new ListBox(panel);
   List1->setAccessibleName(u"Filter Cubes"_s);
   QVector<ListColumn> columns;
   for (const Value& value : kValues) columns.append({QLatin1String(value.caption)});
@@ -107,10 +104,9 @@ QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
 
 QFrame* FilterQubeCtl::BuildValueBox(QWidget* parent) {
   auto* values = new ValueBox(parent);
-  Frm1 = Named(values, "Frm1");
+  Frm1 = values;
   for (const Value& value : kValues) {
-    const ValueBox::Value added =
-        values->AddValue(value.caption, value.labelName, value.valueName, kCharacters, 1);
+    const ValueBox::Value added = values->AddValue(value.caption, kCharacters, 1);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }

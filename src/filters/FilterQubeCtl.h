@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QFrame;
 class QLabel;
@@ -31,17 +32,17 @@ class FilterQubeCtl : public CardPage {
 
   void LoadData() override;
 
-  TabStrip* TabPocket;
-  ListBox* List1;
-  QFrame* Frm1;
-  QLabel* Label1;
-  QLabel* Label2;
-  QLabel* Label3;
-  QLabel* Label4;
-  ValueLabel* LabelName;
-  ValueLabel* LabelExciter;
-  ValueLabel* LabelDichroic;
-  ValueLabel* LabelBarrier;
+  Control<TabStrip> TabPocket{"TabPocket"};
+  Control<ListBox> List1{"List1"};
+  Control<QFrame> Frm1{"Frm1"};
+  Control<QLabel> Label1{"Label1"};
+  Control<QLabel> Label2{"Label2"};
+  Control<QLabel> Label3{"Label3"};
+  Control<QLabel> Label4{"Label4"};
+  Control<ValueLabel> LabelName{"LabelName"};
+  Control<ValueLabel> LabelExciter{"LabelExciter"};
+  Control<ValueLabel> LabelDichroic{"LabelDichroic"};
+  Control<ValueLabel> LabelBarrier{"LabelBarrier"};
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -67,7 +68,7 @@ class FilterQubeCtl : public CardPage {
 
   clsFilter& filterTurret_;
   const clsDbFilter& cubes_;
-  TurretDrawing* turret_ = nullptr;
+  Control<TurretDrawing> turret_{"turret"};
   bool shownBefore_ = false;
 };
 

@@ -13,7 +13,6 @@
 #include "objectives/clsNosepiece.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
-#include "widgets/Named.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
@@ -60,24 +59,20 @@ QStringList CellsOf(const Objective& objective) {
 }  // namespace
 
 struct ObjectiveCtl::Value {
-  const char* labelName;
   const char* caption;
-  const char* valueName;
   int part;  // of a row of the objective list
   int characters;
-  QLabel* ObjectiveCtl::*label;
-  ValueLabel* ObjectiveCtl::*value;
+  Control<QLabel> ObjectiveCtl::*label;
+  Control<ValueLabel> ObjectiveCtl::*value;
 };
 
 const ObjectiveCtl::Value ObjectiveCtl::kValues[6]{
-    {"Label1", "Series", "LabelSeries", kSeriesList, 20, &ObjectiveCtl::Label1,
-     &ObjectiveCtl::LabelSeries},
-    {"Label2", "Type", "LabelType", 0, 12, &ObjectiveCtl::Label2, &ObjectiveCtl::LabelType},
-    {"Label3", "Mag.", "LabelMag", 1, 10, &ObjectiveCtl::Label3, &ObjectiveCtl::LabelMag},
-    {"Label4", "W.D.", "LabelWD", 2, 10, &ObjectiveCtl::Label4, &ObjectiveCtl::LabelWD},
-    {"Label5", "N.A.", "LabelNA", 3, 10, &ObjectiveCtl::Label5, &ObjectiveCtl::LabelNA},
-    {"Label6", "Name", "LabelName", kNameColumn, 20, &ObjectiveCtl::Label6,
-     &ObjectiveCtl::LabelName},
+    {"Series", kSeriesList, 20, &ObjectiveCtl::Label1, &ObjectiveCtl::LabelSeries},
+    {"Type", 0, 12, &ObjectiveCtl::Label2, &ObjectiveCtl::LabelType},
+    {"Mag.", 1, 10, &ObjectiveCtl::Label3, &ObjectiveCtl::LabelMag},
+    {"W.D.", 2, 10, &ObjectiveCtl::Label4, &ObjectiveCtl::LabelWD},
+    {"N.A.", 3, 10, &ObjectiveCtl::Label5, &ObjectiveCtl::LabelNA},
+    {"Name", kNameColumn, 20, &ObjectiveCtl::Label6, &ObjectiveCtl::LabelName},
 };
 
 ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& objectives,
@@ -85,7 +80,7 @@ ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& object
     : CardPage(u"Set Objective Data to Each Address"_s, parent),
       nosepiece_(nosepiece),
       objectives_(objectives) {
-  TabNosepiece = Named(new TabStrip(FrameBase), "TabNosepiece");
+  TabNosepiece = new TabStrip(FrameBase);
   TabNosepiece->setAccessibleName(u"Address"_s);
   FrameBase->body()->addWidget(TabNosepiece);
   FrameBase->body()->addWidget(BuildLists(FrameBase), 1);
@@ -105,12 +100,12 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
   auto* row = new QHBoxLayout(panel);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
-  turret_ = Named(new TurretDrawing(PlaceKind::Objectives, panel), "turret");
+  turret_ = new TurretDrawing(PlaceKind::Objectives, panel);
   turret_->setAccessibleName(u"Nosepiece"_s);
-  ListSeries = Named(new ListBox(panel), "ListSeries");
+  ListSeries = new ListBox(panel);
   ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
   ListSeries->setFixedWidth(kSeriesWidth);
-  ListItem = Named(new ListBox(panel), "ListItem");
+  ListItem = new ListBox(panel);
   ListItem->setAccessibleName(u"Objectives"_s);
   ListItem->SetColumns({{u"Type"_s},
                         {u"Mag."_s, Qt::AlignRight},
@@ -126,10 +121,10 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
 
 QFrame* ObjectiveCtl::BuildValueBox(QWidget* parent) {
   auto* values = new ValueBox(parent);
-  Frame1 = Named(values, "Frame1");
+  Frame1 = values;
   for (const Value& value : kValues) {
-    const ValueBox::Value added = values->AddValue(value.caption, value.labelName, value.valueName,
-                                                   value.characters, value.characters);
+    const ValueBox::Value added =
+        values->AddValue(value.caption, value.characters, value.characters);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QFrame;
 class QLabel;
@@ -32,22 +33,22 @@ class ObjectiveCtl : public CardPage {
 
   void LoadData() override;
 
-  TabStrip* TabNosepiece;
-  ListBox* ListSeries;
-  ListBox* ListItem;
-  QFrame* Frame1;
-  QLabel* Label1;
-  QLabel* Label2;
-  QLabel* Label3;
-  QLabel* Label4;
-  QLabel* Label5;
-  QLabel* Label6;
-  ValueLabel* LabelSeries;
-  ValueLabel* LabelType;
-  ValueLabel* LabelMag;
-  ValueLabel* LabelWD;
-  ValueLabel* LabelNA;
-  ValueLabel* LabelName;
+  Control<TabStrip> TabNosepiece{"TabNosepiece"};
+  Control<ListBox> ListSeries{"ListSeries"};
+  Control<ListBox> ListItem{"ListItem"};
+  Control<QFrame> Frame1{"Frame1"};
+  Control<QLabel> Label1{"Label1"};
+  Control<QLabel> Label2{"Label2"};
+  Control<QLabel> Label3{"Label3"};
+  Control<QLabel> Label4{"Label4"};
+  Control<QLabel> Label5{"Label5"};
+  Control<QLabel> Label6{"Label6"};
+  Control<ValueLabel> LabelSeries{"LabelSeries"};
+  Control<ValueLabel> LabelType{"LabelType"};
+  Control<ValueLabel> LabelMag{"LabelMag"};
+  Control<ValueLabel> LabelWD{"LabelWD"};
+  Control<ValueLabel> LabelNA{"LabelNA"};
+  Control<ValueLabel> LabelName{"LabelName"};
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -83,7 +84,7 @@ class ObjectiveCtl : public CardPage {
 
   clsNosepiece& nosepiece_;
   const clsDbNosepiece& objectives_;
-  TurretDrawing* turret_ = nullptr;
+  Control<TurretDrawing> turret_{"turret"};
   std::vector<Row> rows_;  // of the objective list
   std::optional<Listing> listing_;
   bool shownBefore_ = false;

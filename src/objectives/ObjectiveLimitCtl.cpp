@@ -9,7 +9,6 @@
 
 #include "objectives/clsLimitation.h"
 #include "widgets/Card.h"
-#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 
@@ -23,8 +22,8 @@ constexpr std::int32_t kControllerWithoutStageDown = 5;
 constexpr int kOptionColumn = 200;
 
 // A blank that the given text begins with stands before the edge, in line with the other captions.
-QLabel* NamedCaption(const char* name, const char* text, QWidget* parent) {
-  QLabel* label = Named(CaptionLabel(QLatin1String(text), parent), name);
+QLabel* WrappedCaption(const char* text, QWidget* parent) {
+  QLabel* label = CaptionLabel(QLatin1String(text), parent);
   label->setWordWrap(true);
   if (text[0] == ' ') {
     label->setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);  // that allows none below 0
@@ -36,24 +35,18 @@ QLabel* NamedCaption(const char* name, const char* text, QWidget* parent) {
 }  // namespace
 
 struct ObjectiveLimitCtl::Rule {
-  const char* frameName;
   const char* caption;
-  const char* arrayName;
-  const char* labelName;
   const char* explanation;
   std::array<const char*, 3> options;
   bool stageDownIsOptional;
-  QFrame* ObjectiveLimitCtl::*frame;
-  OptionGroup* ObjectiveLimitCtl::*group;
-  QLabel* ObjectiveLimitCtl::*label;
+  Control<QFrame> ObjectiveLimitCtl::*frame;
+  Control<OptionGroup> ObjectiveLimitCtl::*group;
+  Control<QLabel> ObjectiveLimitCtl::*label;
   std::int16_t clsLimitation::*value;
 };
 
 const ObjectiveLimitCtl::Rule ObjectiveLimitCtl::kRules[3]{
-    {"frmIncrease",
-     "",
-     "optPreventIncrease",
-     "Label8",
+    {"",
      " Safety Setting (Change from 2.0x / Lower Obj. to 1 mm / Less W.D. Obj. )",
      {"Free (default)", "No Rotation", "Rotate After Stage going down"},
      true,
@@ -61,10 +54,7 @@ const ObjectiveLimitCtl::Rule ObjectiveLimitCtl::kRules[3]{
      &ObjectiveLimitCtl::optPreventIncrease,
      &ObjectiveLimitCtl::Label8,
      &clsLimitation::curIncrease},
-    {"frmSkip",
-     "Empty Position",
-     "optSkipEmpty",
-     "Label9",
+    {"Empty Position",
      "Rotate With Skipping empty data position",
      {"Use (default)", "Skip", nullptr},
      false,
@@ -72,10 +62,7 @@ const ObjectiveLimitCtl::Rule ObjectiveLimitCtl::kRules[3]{
      &ObjectiveLimitCtl::optSkipEmpty,
      &ObjectiveLimitCtl::Label9,
      &clsLimitation::curSkip},
-    {"frmImmersion",
-     "Immersion Objective IN/OUT Control",
-     "optPreventImmersion",
-     "Label10",
+    {"Immersion Objective IN/OUT Control",
      "Rotate Immersion Type",
      {"Free (default)", "No Rotation", "Rotate After Stage going down"},
      true,
@@ -88,12 +75,10 @@ const ObjectiveLimitCtl::Rule ObjectiveLimitCtl::kRules[3]{
 ObjectiveLimitCtl::ObjectiveLimitCtl(clsLimitation& limits, QWidget* parent)
     : CardPage(u"Limitation Controls"_s, parent), limits_(limits) {
   for (const Rule& rule : kRules) AddRule(rule);
-  Label2 = NamedCaption(
-      "Label2",
+  Label2 = WrappedCaption(
       "Limitation Controls are effective after rotating the nosepiece with interlock mode.",
       FrameBase);
-  Label1 = NamedCaption(
-      "Label1",
+  Label1 = WrappedCaption(
       "These functions are effective for rotating the nosepiece by buttons on the microscope",
       FrameBase);
   FrameBase->body()->addStretch();
@@ -105,28 +90,28 @@ ObjectiveLimitCtl::ObjectiveLimitCtl(clsLimitation& limits, QWidget* parent)
 }
 
 void ObjectiveLimitCtl::AddRule(const Rule& rule) {
-  auto* frame = Named(new InnerFrame(QLatin1String(rule.caption), FrameBase), rule.frameName);
+  auto* frame = new InnerFrame(QLatin1String(rule.caption), FrameBase);
+  this->*rule.frame = frame;
   const QString explanation = QString::fromLatin1(rule.explanation).trimmed();
   // Without a caption the explanation tells its options from those of the others.
   if (frame->caption().isEmpty()) frame->setAccessibleName(explanation);
   frame->setAccessibleDescription(explanation);
   auto* group = new OptionGroup(this);
+  this->*rule.group = group;
   auto* row = new QHBoxLayout;
   row->setSpacing(grid::kBetweenColumns);
   for (const char* text : rule.options) {
     if (text == nullptr) continue;
-    QRadioButton* option = group->addOption(QLatin1String(text), rule.arrayName, frame);
+    QRadioButton* option = group->addOption(QLatin1String(text), frame);
     option->setMinimumWidth(kOptionColumn);
     row->addWidget(option);
   }
   row->addStretch();
   frame->body()->addLayout(row);
-  QLabel* label = NamedCaption(rule.labelName, rule.explanation, frame);
+  QLabel* label = WrappedCaption(rule.explanation, frame);
+  this->*rule.label = label;
   frame->body()->addWidget(label);
   FrameBase->body()->addWidget(frame);
-  this->*rule.frame = frame;
-  this->*rule.group = group;
-  this->*rule.label = label;
   connect(group, &OptionGroup::selectionChanged, this,
           [this, &rule](int index) { limits_.*rule.value = static_cast<std::int16_t>(index); });
 }

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QFrame;
 class QLabel;
@@ -22,17 +23,17 @@ class ObjectiveLimitCtl : public CardPage {
 
   void LoadData() override;
 
-  QFrame* frmIncrease;
-  QFrame* frmSkip;
-  QFrame* frmImmersion;
-  OptionGroup* optPreventIncrease;
-  OptionGroup* optSkipEmpty;
-  OptionGroup* optPreventImmersion;
-  QLabel* Label1;
-  QLabel* Label2;
-  QLabel* Label8;
-  QLabel* Label9;
-  QLabel* Label10;
+  Control<QFrame> frmIncrease{"frmIncrease"};
+  Control<QFrame> frmSkip{"frmSkip"};
+  Control<QFrame> frmImmersion{"frmImmersion"};
+  Control<OptionGroup> optPreventIncrease{"optPreventIncrease"};
+  Control<OptionGroup> optSkipEmpty{"optSkipEmpty"};
+  Control<OptionGroup> optPreventImmersion{"optPreventImmersion"};
+  Control<QLabel> Label1{"Label1"};
+  Control<QLabel> Label2{"Label2"};
+  Control<QLabel> Label8{"Label8"};
+  Control<QLabel> Label9{"Label9"};
+  Control<QLabel> Label10{"Label10"};
 
  private:
   struct Rule;

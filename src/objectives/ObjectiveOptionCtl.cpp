@@ -29,11 +29,11 @@ bool IsNumberWithin(std::string_view text, double highest) {
 }  // namespace
 
 const std::array<ObjectiveOptionCtl::Number, 3> ObjectiveOptionCtl::kNumbers{{
-    {"Label4", "Mag.", "TextMag", kHighestMagnification, true, false, &ObjectiveOptionCtl::Label4,
+    {"Mag.", kHighestMagnification, true, false, &ObjectiveOptionCtl::Label4,
      &ObjectiveOptionCtl::TextMag},
-    {"Label5", "W.D.", "TextWD", kHighestDistance, false, true, &ObjectiveOptionCtl::Label5,
+    {"W.D.", kHighestDistance, false, true, &ObjectiveOptionCtl::Label5,
      &ObjectiveOptionCtl::TextWD},
-    {"Label6", "N.A.", "TextNA", kHighestAperture, false, true, &ObjectiveOptionCtl::Label6,
+    {"N.A.", kHighestAperture, false, true, &ObjectiveOptionCtl::Label6,
      &ObjectiveOptionCtl::TextNA},
 }};
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QFrame;
 class QLabel;
@@ -32,39 +33,37 @@ class ObjectiveOptionCtl : public CardPage {
   // Stores once more; a number that may not be is stored as 0, and the box keeps it.
   void SaveData() override;
 
-  TabStrip* TabStrip1;
-  QFrame* NosepieceOptionItemFrm;
-  QLabel* Label1;
-  TextField* TextName;
-  QLabel* Label2;
-  ValueLabel* LabelSeries;
-  ListBox* ListSeries;
-  QLabel* Label3;
-  ValueLabel* LabelType;
-  ListBox* ListType;
-  QLabel* Label4;
-  TextField* TextMag;
-  QLabel* Label7;
-  ListBox* ListMag;
-  QLabel* Label5;
-  TextField* TextWD;
-  QLabel* Label6;
-  TextField* TextNA;
-  QFrame* FrmCondenser;
-  QLabel* Label8;
-  ComboBox* ComboCondenser;
+  Control<TabStrip> TabStrip1{"TabStrip1"};
+  Control<QFrame> NosepieceOptionItemFrm{"NosepieceOptionItemFrm"};
+  Control<QLabel> Label1{"Label1"};
+  Control<TextField> TextName{"TextName"};
+  Control<QLabel> Label2{"Label2"};
+  Control<ValueLabel> LabelSeries{"LabelSeries"};
+  Control<ListBox> ListSeries{"ListSeries"};
+  Control<QLabel> Label3{"Label3"};
+  Control<ValueLabel> LabelType{"LabelType"};
+  Control<ListBox> ListType{"ListType"};
+  Control<QLabel> Label4{"Label4"};
+  Control<TextField> TextMag{"TextMag"};
+  Control<QLabel> Label7{"Label7"};
+  Control<ListBox> ListMag{"ListMag"};
+  Control<QLabel> Label5{"Label5"};
+  Control<TextField> TextWD{"TextWD"};
+  Control<QLabel> Label6{"Label6"};
+  Control<TextField> TextNA{"TextNA"};
+  Control<QFrame> FrmCondenser{"FrmCondenser"};
+  Control<QLabel> Label8{"Label8"};
+  Control<ComboBox> ComboCondenser{"ComboCondenser"};
 
  private:
   // A box for a number from 0 to `highest`.
   struct Number {
-    const char* labelName;
     const char* caption;
-    const char* fieldName;
     double highest;
     bool mayBeDashes;
     bool zeroForBlank;  // at once, so that the box is never empty
-    QLabel* ObjectiveOptionCtl::*label;
-    TextField* ObjectiveOptionCtl::*field;
+    Control<QLabel> ObjectiveOptionCtl::*label;
+    Control<TextField> ObjectiveOptionCtl::*field;
   };
   static const std::array<Number, 3> kNumbers;  // magnification, distance, aperture
   enum class Condensers { AsListed, Anew };

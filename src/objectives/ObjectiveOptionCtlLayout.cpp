@@ -10,7 +10,6 @@
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
-#include "widgets/Named.h"
 #include "widgets/RecordForm.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
@@ -30,20 +29,19 @@ constexpr int kNumberWidthCharacters = 7;
 }  // namespace
 
 void ObjectiveOptionCtl::Build() {
-  RecordForm form(*FrameBase, kOptionPositions, "TabStrip1", "NosepieceOptionItemFrm");
+  RecordForm form(*FrameBase, kOptionPositions);
   TabStrip1 = form.tabs();
   NosepieceOptionItemFrm = form.frame();
-  const RecordForm::Name name = form.AddName(
-      "Label1", "TextName", static_cast<int>(kShownObjectiveNameLength), kNameWidthCharacters);
+  const RecordForm::Name name =
+      form.AddName(static_cast<int>(kShownObjectiveNameLength), kNameWidthCharacters);
   Label1 = name.label;
   TextName = name.field;
-  LabelSeries = Named(new ValueLabel(NosepieceOptionItemFrm), "LabelSeries");
-  const RecordForm::Column series =
-      form.AddColumn({"Label2", "Series", "ListSeries"}, LabelSeries, 3);
+  LabelSeries = new ValueLabel(NosepieceOptionItemFrm);
+  const RecordForm::Column series = form.AddColumn("Series", LabelSeries, 3);
   Label2 = series.caption;
   ListSeries = series.list;
-  LabelType = Named(new ValueLabel(NosepieceOptionItemFrm), "LabelType");
-  const RecordForm::Column type = form.AddColumn({"Label3", "Type", "ListType"}, LabelType, 2);
+  LabelType = new ValueLabel(NosepieceOptionItemFrm);
+  const RecordForm::Column type = form.AddColumn("Type", LabelType, 2);
   Label3 = type.caption;
   ListType = type.list;
   BuildMagnification(form);
@@ -53,22 +51,21 @@ void ObjectiveOptionCtl::Build() {
 void ObjectiveOptionCtl::BuildMagnification(RecordForm& form) {
   auto* value = new QWidget(NosepieceOptionItemFrm);
   TextMag = MakeField(kNumbers[0], value);
-  Label7 = Named(new QLabel(u"x"_s, value), "Label7");
+  Label7 = new QLabel(u"x"_s, value);
   auto* row = new QHBoxLayout(value);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenControls);
   row->addWidget(TextMag);
   row->addWidget(Label7);
   row->addStretch();
-  const RecordForm::Column magnification =
-      form.AddColumn({kNumbers[0].labelName, kNumbers[0].caption, "ListMag"}, value, 2);
+  const RecordForm::Column magnification = form.AddColumn(kNumbers[0].caption, value, 2);
   Label4 = magnification.caption;
   Label4->setBuddy(TextMag);
   ListMag = magnification.list;
 }
 
 TextField* ObjectiveOptionCtl::MakeField(const Number& number, QWidget* parent) {
-  auto* field = Named(new TextField(parent), number.fieldName);
+  auto* field = new TextField(parent);
   field->setAccessibleName(QLatin1String(number.caption));
   field->SetLimit(kNumberLength);
   field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -83,7 +80,7 @@ QFrame* ObjectiveOptionCtl::BuildValues(QWidget* parent) {
   fields->setVerticalSpacing(grid::kBetweenControls);
   for (std::size_t i = 1; i < kNumbers.size(); ++i) {
     const Number& number = kNumbers[i];
-    auto* label = Named(new QLabel(QLatin1String(number.caption), frame), number.labelName);
+    auto* label = new QLabel(QLatin1String(number.caption), frame);
     TextField* field = MakeField(number, frame);
     label->setBuddy(field);
     this->*number.label = label;
@@ -93,10 +90,10 @@ QFrame* ObjectiveOptionCtl::BuildValues(QWidget* parent) {
   }
   fields->setColumnStretch(2, 1);
   frame->body()->addLayout(fields);
-  auto* condenser = Named(new InnerFrame(u"Adoptive"_s, frame), "FrmCondenser");
+  auto* condenser = new InnerFrame(u"Adoptive"_s, frame);
   FrmCondenser = condenser;
-  Label8 = Named(CaptionLabel(u"DIC / Ph Condenser"_s, condenser), "Label8");
-  ComboCondenser = Named(new ComboBox(condenser), "ComboCondenser");
+  Label8 = CaptionLabel(u"DIC / Ph Condenser"_s, condenser);
+  ComboCondenser = new ComboBox(condenser);
   ComboCondenser->setAccessibleName(Label8->text());
   Label8->setBuddy(ComboCondenser);
   condenser->body()->addWidget(Label8);

@@ -12,7 +12,6 @@
 #include "switches/SwitchFunctions.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
-#include "widgets/Named.h"
 #include "widgets/ShownName.h"
 #include "widgets/Theme.h"
 
@@ -37,12 +36,12 @@ std::unique_ptr<JoypadAssignments> ReadAssignments(Joystick& joystick,
 JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick,
                                                const std::string& applicationData, QWidget* parent)
     : CardPage(u"Joypad Switch Settings"_s, parent),
-      Frame1(Named(FrameBase, "Frame1")),
-      textSwFunc(ShownField("textSwFunc", "Function", FrameBase)),
-      ListView1(Named(new ReportList({u"Button"_s, u"Function"_s}, FrameBase), "ListView1")),
-      lstSwFunc(Named(new ListBox(FrameBase), "lstSwFunc")),
-      cmdAllClear(Named(new QPushButton(u"All Clear"_s, FrameBase), "cmdAllClear")),
       assignments_(ReadAssignments(joystick, applicationData)) {
+  Frame1 = FrameBase;
+  textSwFunc = ShownField("Function", FrameBase);
+  ListView1 = new ReportList({u"Button"_s, u"Function"_s}, FrameBase);
+  lstSwFunc = new ListBox(FrameBase);
+  cmdAllClear = new QPushButton(u"All Clear"_s, FrameBase);
   ListView1->setAccessibleName(u"Button"_s);
   lstSwFunc->setAccessibleName(u"Function"_s);
   TakeFocusByClicks(*cmdAllClear);

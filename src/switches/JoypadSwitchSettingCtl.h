@@ -5,6 +5,7 @@
 #include <string>
 
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QPushButton;
 
@@ -32,11 +33,11 @@ class JoypadSwitchSettingCtl : public CardPage {
   void LoadData() override;
   void SaveData() override;
 
-  Card* Frame1;
-  TextField* textSwFunc;  // the function that was chosen last
-  ReportList* ListView1;
-  ListBox* lstSwFunc;
-  QPushButton* cmdAllClear;
+  Control<Card> Frame1{"Frame1"};
+  Control<TextField> textSwFunc{"textSwFunc"};  // the function that was chosen last
+  Control<ReportList> ListView1{"ListView1"};
+  Control<ListBox> lstSwFunc{"lstSwFunc"};
+  Control<QPushButton> cmdAllClear{"cmdAllClear"};
 
  protected:
   void hideEvent(QHideEvent* event) override;

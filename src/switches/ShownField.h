@@ -1,14 +1,13 @@
 // A box that only shows a text.
 #pragma once
 
-#include "widgets/Named.h"
 #include "widgets/TextField.h"
 
 namespace mortane {
 
 // Takes no focus: what it shows stands in a list, too.
-inline TextField* ShownField(const char* name, const char* whatItShows, QWidget* parent) {
-  auto* field = Named(new TextField(parent), name);
+inline TextField* ShownField(const char* whatItShows, QWidget* parent) {
+  auto* field = new TextField(parent);
   field->setReadOnly(true);
   field->setFocusPolicy(Qt::NoFocus);
   field->setAccessibleName(QLatin1String(whatItShows));

@@ -9,7 +9,6 @@
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/ComboBox.h"
-#include "widgets/Named.h"
 #include "widgets/ShownName.h"
 #include "widgets/Theme.h"
 
@@ -36,19 +35,17 @@ void SwitchRowsCtl::MakeDrawing(const SwitchPlan& plan, QWidget* parent) {
 }
 
 void SwitchRowsCtl::MakeList(QWidget* parent) {
-  ListView1 = Named(new ReportList({u"Switch"_s, u"Function"_s}, parent), "ListView1");
+  ListView1 = new ReportList({u"Switch"_s, u"Function"_s}, parent);
   ListView1->setIconSize({kMarkIconSide, kMarkIconSide});
   ListView1->setAccessibleName(u"Switch"_s);
   connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { Select(row); });
 }
 
 void SwitchRowsCtl::MakeCombos(QWidget* parent) {
-  ComboCWCCW = Named(new ComboBox(parent), "ComboCWCCW");
-  ComboFunction = Named(new ComboBox(parent), "ComboFunction");
+  ComboCWCCW = new ComboBox(parent);
+  ComboFunction = new ComboBox(parent);
   ComboFunction->hide();
-  for (ComboBox* combo : {ComboCWCCW, ComboFunction}) {
-    combo->setAccessibleName(u"Function"_s);
-  }
+  for (ComboBox* combo : Combos()) combo->setAccessibleName(u"Function"_s);
   connect(ComboCWCCW, &ComboBox::selectionChanged, this, [this](int entry) {
     ChooseDialFunction(ComboCWCCW->itemText(entry), EntryCode(*ComboCWCCW, entry));
   });
@@ -58,11 +55,16 @@ void SwitchRowsCtl::MakeCombos(QWidget* parent) {
 }
 
 void SwitchRowsCtl::MakeButtons(QWidget* parent) {
-  cmdDefault = Named(new QPushButton(u"Default"_s, parent), "cmdDefault");
-  cmdAllClear = Named(new QPushButton(u"All Clear"_s, parent), "cmdAllClear");
-  for (QPushButton* button : {cmdDefault, cmdAllClear}) TakeFocusByClicks(*button);
+  cmdDefault = new QPushButton(u"Default"_s, parent);
+  cmdAllClear = new QPushButton(u"All Clear"_s, parent);
+  TakeFocusByClicks(*cmdDefault);
+  TakeFocusByClicks(*cmdAllClear);
   connect(cmdDefault, &QPushButton::clicked, this, [this] { SetDefaults(); });
   connect(cmdAllClear, &QPushButton::clicked, this, [this] { ClearAll(); });
+}
+
+std::array<ComboBox*, 2> SwitchRowsCtl::Combos() const {
+  return {ComboCWCCW, ComboFunction};
 }
 
 std::int16_t SwitchRowsCtl::EntryCode(const ComboBox& combo, int entry) {
@@ -149,7 +151,7 @@ void SwitchRowsCtl::SelectChosen() {
 
 // A choice goes on from the function that the row has.
 void SwitchRowsCtl::ShowInCombos(int row) {
-  for (ComboBox* combo : {ComboCWCCW, ComboFunction}) {
+  for (ComboBox* combo : Combos()) {
     const QSignalBlocker quiet(combo);
     combo->setIndex(row < 0 ? -1 : combo->rowOf(static_cast<int>(Func(rowAt(row).position))));
   }

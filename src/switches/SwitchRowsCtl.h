@@ -2,6 +2,7 @@
 // drawing, and the lists of functions for dials and push switches.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "switches/KnobCheck.h"
 #include "switches/SwitchFunctions.h"
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QBoxLayout;
 class QPushButton;
@@ -34,13 +36,13 @@ class SwitchRowsCtl : public CardPage {
   Q_OBJECT
 
  public:
-  SwitchDrawing* optBtn = nullptr;
-  ReportList* ListView1 = nullptr;
+  SwitchDrawing* optBtn = nullptr;  // its marks are named after it, by the index of their row
+  Control<ReportList> ListView1{"ListView1"};
   // At one place, of which the chosen row shows one. They show the row's function if they have it.
-  ComboBox* ComboCWCCW = nullptr;
-  ComboBox* ComboFunction = nullptr;
-  QPushButton* cmdDefault = nullptr;
-  QPushButton* cmdAllClear = nullptr;
+  Control<ComboBox> ComboCWCCW{"ComboCWCCW"};
+  Control<ComboBox> ComboFunction{"ComboFunction"};
+  Control<QPushButton> cmdDefault{"cmdDefault"};
+  Control<QPushButton> cmdAllClear{"cmdAllClear"};
 
  protected:
   SwitchRowsCtl(const QString& caption, KnobCheck knobCheck, QWidget* parent);
@@ -87,6 +89,7 @@ class SwitchRowsCtl : public CardPage {
 
  private:
   void ClearAll();
+  [[nodiscard]] std::array<ComboBox*, 2> Combos() const;
   void ShowInCombos(int row);
   void ShowNameOfMark(int row);
 

@@ -11,7 +11,6 @@
 #include "switches/clsDbSwitch.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
-#include "widgets/Named.h"
 #include "widgets/ShownName.h"
 #include "widgets/Theme.h"
 
@@ -48,15 +47,15 @@ SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor
           u"K70 Switch Setting"_s,
           KnobCheck(switches, tactor, knobs, TactorSearch::IfPresent, switches.parent.prompts()),
           parent),
-      Frame1(Named(FrameBase, "Frame1")),
       switches_(switches) {
+  Frame1 = FrameBase;
   MakeDrawing(BodyPlan(), FrameBase);
-  Picture4 = Named(optBtn, "Picture4");
+  Picture4 = optBtn;
   MakeList(FrameBase);
-  textSwFunc = ShownField("textSwFunc", "Function", FrameBase);
+  textSwFunc = ShownField("Function", FrameBase);
   MakeCombos(FrameBase);
   MakeButtons(FrameBase);
-  lstSwFunc = Named(new ListBox(FrameBase), "lstSwFunc");
+  lstSwFunc = new ListBox(FrameBase);
   lstSwFunc->hide();
   BuildLayout();
 }

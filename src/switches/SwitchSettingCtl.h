@@ -23,11 +23,11 @@ class SwitchSettingCtl : public SwitchRowsCtl {
 
   void LoadData() override;
 
-  Card* Frame1;
-  SwitchDrawing* Picture4 = nullptr;
-  TextField* textSwFunc = nullptr;
-  ListBox* lstSwFunc =
-      nullptr;  // never shown: the names of all functions, each at the place of its code
+  Control<Card> Frame1{"Frame1"};
+  Control<SwitchDrawing> Picture4{"Picture4"};
+  Control<TextField> textSwFunc{"textSwFunc"};
+  // Never shown: the names of all functions, each at the place of its code.
+  Control<ListBox> lstSwFunc{"lstSwFunc"};
 
  protected:
   [[nodiscard]] std::int16_t Func(std::int16_t position) const override;

@@ -39,20 +39,20 @@ class TactorSwitchSettingCtl : public SwitchRowsCtl {
 
   void LoadData() override;
 
-  QWidget* frmSetup;
-  TabStrip* TabSwitch;
-  QFrame* frmMode;
-  OptionGroup* OptMode;
-  QFrame* frmHandle;
-  OptionGroup* optHandle;
-  OptionGroup* optChg;  // 1 for page A, 2 for page B
-  TextField* textSW;
+  Control<QWidget> frmSetup{"frmSetup"};
+  Control<TabStrip> TabSwitch{"TabSwitch"};
+  Control<QFrame> frmMode{"frmMode"};
+  Control<OptionGroup> OptMode{"OptMode"};
+  Control<QFrame> frmHandle{"frmHandle"};
+  Control<OptionGroup> optHandle{"optHandle"};
+  Control<OptionGroup> optChg{"optChg"};  // 1 for page A, 2 for page B
+  Control<TextField> textSW{"textSW"};
   // Never shown: the names of all functions, each at the place of its code. A selection in it gives
   // the row at hand that function.
-  ComboBox* ComboSWFunc;
-  QPushButton* btnNewFileOpen;
-  QPushButton* btnReadFileOpen;
-  QPushButton* Command1;
+  Control<ComboBox> ComboSWFunc{"ComboSWFunc"};
+  Control<QPushButton> btnNewFileOpen{"btnNewFileOpen"};
+  Control<QPushButton> btnReadFileOpen{"btnReadFileOpen"};
+  Control<QPushButton> Command1{"Command1"};
   FileQuestion CommonDialog1;
 
  protected:

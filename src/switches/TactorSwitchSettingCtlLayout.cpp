@@ -13,7 +13,6 @@
 #include "widgets/ClickFocus.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Icons.h"
-#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/SectionBar.h"
 #include "widgets/TabStrip.h"
@@ -26,8 +25,8 @@ namespace {
 
 constexpr int kFileIconSide = 20;
 
-QPushButton* FileButton(IconName icon, const char* caption, const char* name, QWidget* parent) {
-  auto* button = Named(new QPushButton(parent), name);
+QPushButton* FileButton(IconName icon, const char* caption, QWidget* parent) {
+  auto* button = new QPushButton(parent);
   button->setIcon(Icon(icon));
   button->setIconSize({kFileIconSide, kFileIconSide});
   button->setAccessibleName(QLatin1String(caption));
@@ -37,17 +36,16 @@ QPushButton* FileButton(IconName icon, const char* caption, const char* name, QW
 }
 
 // Caption and options in one line.
-InnerFrame* OptionFrame(const char* caption, const char* name, const char* optionsName,
-                        const QStringList& options, OptionGroup& group, QWidget* parent) {
-  auto* frame = Named(new InnerFrame({}, parent), name);
+InnerFrame* OptionFrame(const char* caption, const QStringList& options, OptionGroup& group,
+                        QWidget* parent) {
+  auto* frame = new InnerFrame({}, parent);
   frame->setAccessibleName(QLatin1String(caption));
   frame->body()->setContentsMargins(grid::kBetweenGroups, grid::kBetweenControls,
                                     grid::kBetweenGroups, grid::kBetweenControls);
   auto* line = new QHBoxLayout;
   line->setSpacing(grid::kBetweenControls);
   line->addWidget(CaptionLabel(frame->accessibleName(), frame));
-  for (const QString& option : options)
-    line->addWidget(group.addOption(option, optionsName, frame));
+  for (const QString& option : options) line->addWidget(group.addOption(option, frame));
   line->addStretch();
   frame->body()->addLayout(line);
   return frame;
@@ -57,26 +55,24 @@ InnerFrame* OptionFrame(const char* caption, const char* name, const char* optio
 
 // In the order of the Tab key: from left to right and downwards.
 void TactorSwitchSettingCtl::BuildControls() {
-  frmSetup = Named(new QWidget(FrameBase), "frmSetup");
-  TabSwitch = Named(new TabStrip(frmSetup), "TabSwitch");
+  frmSetup = new QWidget(FrameBase);
+  TabSwitch = new TabStrip(frmSetup);
   TabSwitch->setAccessibleName(u"Setting"_s);
-  btnNewFileOpen = FileButton(IconName::NewSheet, "New File", "btnNewFileOpen", frmSetup);
-  btnReadFileOpen = FileButton(IconName::Open, "Open", "btnReadFileOpen", frmSetup);
-  Command1 = FileButton(IconName::Save, "Save", "Command1", frmSetup);
+  btnNewFileOpen = FileButton(IconName::NewSheet, "New File", frmSetup);
+  btnReadFileOpen = FileButton(IconName::Open, "Open", frmSetup);
+  Command1 = FileButton(IconName::Save, "Save", frmSetup);
   MakeDrawing(HandControllerPlan(), frmSetup);
   optBtn->setObjectName("handController");
   OptMode = new OptionGroup(this);
-  frmMode =
-      OptionFrame("Mode", "frmMode", "OptMode", {u"Standard"_s, u"Extend"_s}, *OptMode, frmSetup);
+  frmMode = OptionFrame("Mode", {u"Standard"_s, u"Extend"_s}, *OptMode, frmSetup);
   optHandle = new OptionGroup(this);
-  frmHandle = OptionFrame("XY Knob", "frmHandle", "optHandle", {u"Right"_s, u"Left"_s}, *optHandle,
-                          frmSetup);
+  frmHandle = OptionFrame("XY Knob", {u"Right"_s, u"Left"_s}, *optHandle, frmSetup);
   BuildPageOptions();
   MakeButtons(frmSetup);
   MakeList(frmSetup);
-  textSW = ShownField("textSW", "Switch", frmSetup);
+  textSW = ShownField("Switch", frmSetup);
   MakeCombos(frmSetup);
-  ComboSWFunc = Named(new ComboBox(frmSetup), "ComboSWFunc");
+  ComboSWFunc = new ComboBox(frmSetup);
   ComboSWFunc->hide();
 }
 
@@ -84,8 +80,7 @@ void TactorSwitchSettingCtl::BuildPageOptions() {
   optChg = new OptionGroup(this);
   const QStringList captions{u"A"_s, u"B"_s};
   for (int i = 0; i < captions.size(); ++i) {
-    auto* option =
-        Named(new SectionOption(captions[i], frmSetup, ChosenLook::Blue), "optChg", i + 1);
+    auto* option = new SectionOption(captions[i], frmSetup, ChosenLook::Blue);
     option->setAccessibleName(captions[i]);
     option->SetEnds(i == 0, i + 1 == captions.size());
     optChg->add(option, i + 1);
@@ -98,7 +93,9 @@ void TactorSwitchSettingCtl::BuildLayout() {
   files->setSpacing(grid::kBetweenControls);
   files->addWidget(TabSwitch);
   files->addStretch();
-  for (QPushButton* button : {btnNewFileOpen, btnReadFileOpen, Command1}) files->addWidget(button);
+  files->addWidget(btnNewFileOpen);
+  files->addWidget(btnReadFileOpen);
+  files->addWidget(Command1);
 
   auto* options = new QHBoxLayout;
   options->setSpacing(grid::kBetweenGroups);

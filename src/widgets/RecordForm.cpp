@@ -6,7 +6,6 @@
 
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
-#include "widgets/Named.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
@@ -21,10 +20,8 @@ enum Row { kCaptionRow, kValueRow, kListRow };
 
 }  // namespace
 
-RecordForm::RecordForm(Card& card, int records, const char* tabsName, const char* frameName)
-    : tabs_(Named(new TabStrip(&card), tabsName)),
-      frame_(Named(new QFrame(&card), frameName)),
-      columns_(new QGridLayout) {
+RecordForm::RecordForm(Card& card, int records)
+    : tabs_(new TabStrip(&card)), frame_(new QFrame(&card)), columns_(new QGridLayout) {
   tabs_->setAccessibleName(u"Position"_s);
   tabs_->SetNumberedTabs(records);
   auto* rows = new QVBoxLayout(frame_);
@@ -40,10 +37,8 @@ RecordForm::RecordForm(Card& card, int records, const char* tabsName, const char
   card.body()->addWidget(frame_, 1);
 }
 
-RecordForm::Name RecordForm::AddName(const char* labelName, const char* fieldName, int limit,
-                                     int shown) {
-  const Name name{Named(new QLabel(u"Name"_s, frame_), labelName),
-                  Named(new TextField(frame_), fieldName)};
+RecordForm::Name RecordForm::AddName(int limit, int shown) {
+  const Name name{new QLabel(u"Name"_s, frame_), new TextField(frame_)};
   name.field->SetLimit(limit);
   name.field->SetWidthFor(shown);
   name.label->setBuddy(name.field);
@@ -56,10 +51,9 @@ RecordForm::Name RecordForm::AddName(const char* labelName, const char* fieldNam
   return name;
 }
 
-RecordForm::Column RecordForm::AddColumn(const ColumnNames& names, QWidget* value, int stretch) {
+RecordForm::Column RecordForm::AddColumn(const char* caption, QWidget* value, int stretch) {
   const int place = columnCount_++;
-  const Column column{Named(CaptionLabel(QLatin1String(names.caption), frame_), names.label),
-                      Named(new ListBox(frame_), names.list)};
+  const Column column{CaptionLabel(QLatin1String(caption), frame_), new ListBox(frame_)};
   column.caption->setBuddy(column.list);
   column.list->setAccessibleName(column.caption->text());
   if (qobject_cast<ValueLabel*>(value) != nullptr) value->setAccessibleName(column.caption->text());

@@ -17,7 +17,7 @@ class TextField;
 // makes belongs to the card; the Tab key goes by the order of the calls.
 class RecordForm {
  public:
-  RecordForm(Card& card, int records, const char* tabsName, const char* frameName);
+  RecordForm(Card& card, int records);
 
   [[nodiscard]] TabStrip* tabs() const { return tabs_; }
   [[nodiscard]] QFrame* frame() const { return frame_; }
@@ -27,20 +27,15 @@ class RecordForm {
     TextField* field;
   };
   // The label says "Name". The field takes `limit` characters and is wide enough for `shown`.
-  Name AddName(const char* labelName, const char* fieldName, int limit, int shown);
+  Name AddName(int limit, int shown);
 
-  struct ColumnNames {
-    const char* label;
-    const char* caption;
-    const char* list;
-  };
   struct Column {
     QLabel* caption;
     ListBox* list;
   };
   // Caption, value and list below each other. The value is a child of frame() and stands halfway
   // between the two. The column takes `stretch` shares of the width.
-  Column AddColumn(const ColumnNames& names, QWidget* value, int stretch);
+  Column AddColumn(const char* caption, QWidget* value, int stretch);
   // A panel as high as value and list together.
   void AddPanel(QWidget* panel, int stretch);
 

@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QLabel>
 
-#include "widgets/Named.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueLabel.h"
 
@@ -15,11 +14,9 @@ ValueBox::ValueBox(QWidget* parent) : InnerFrame({}, parent), cells_(new QGridLa
   body()->addLayout(cells_);
 }
 
-ValueBox::Value ValueBox::AddValue(const char* caption, const char* captionName,
-                                   const char* valueName, int characters, int stretch) {
+ValueBox::Value ValueBox::AddValue(const char* caption, int characters, int stretch) {
   const int column = cells_->count() / 2;
-  const Value added{Named(CaptionLabel(QLatin1String(caption), this), captionName),
-                    Named(new ValueLabel(this), valueName)};
+  const Value added{CaptionLabel(QLatin1String(caption), this), new ValueLabel(this)};
   added.value->setAccessibleName(added.caption->text());
   added.caption->setBuddy(added.value);
   added.value->SetCharacters(characters);

@@ -12,7 +12,7 @@ class ValueLabel;
 
 class ValueBox : public InnerFrame {
  public:
-  // The two labels of one value, with their object names.
+  // The two labels of one value.
   struct Value {
     QLabel* caption;
     ValueLabel* value;
@@ -22,8 +22,7 @@ class ValueBox : public InnerFrame {
 
   // Adds a column that asks for room for that many characters and takes `stretch` shares of what
   // is left over.
-  Value AddValue(const char* caption, const char* captionName, const char* valueName,
-                 int characters, int stretch);
+  Value AddValue(const char* caption, int characters, int stretch);
 
  private:
   QGridLayout* cells_;

@@ -27,8 +27,8 @@ class CubePage : public testing::Test {
   int codeAt(int address) { return rig.k70().curFilter.code(address); }
   Texts parts() {
     Texts shown;
-    for (const ValueLabel* label :
-         {page.LabelName, page.LabelExciter, page.LabelDichroic, page.LabelBarrier}) {
+    for (const ValueLabel* label : std::initializer_list<const ValueLabel*>{
+             page.LabelName, page.LabelExciter, page.LabelDichroic, page.LabelBarrier}) {
       shown.push_back(label->text().toStdString());
     }
     return shown;
@@ -251,8 +251,8 @@ TEST_F(CubePage, ColumnsBeginNoFurtherLeftThanTheTabStops) {
 }
 
 TEST_F(CubePage, ValuesStandInTheFixedPitchFont) {
-  for (const ValueLabel* label :
-       {page.LabelName, page.LabelExciter, page.LabelDichroic, page.LabelBarrier}) {
+  for (const ValueLabel* label : std::initializer_list<const ValueLabel*>{
+           page.LabelName, page.LabelExciter, page.LabelDichroic, page.LabelBarrier}) {
     EXPECT_EQ(label->font(), FixedFont()) << label->objectName().toStdString();
   }
 }

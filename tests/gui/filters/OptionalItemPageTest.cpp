@@ -35,7 +35,8 @@ TEST_F(OptionalItemPage, ShowsTheNamesOfTheBenchInTheFixedPitchFont) {
 }
 
 TEST_F(OptionalItemPage, ARowLeftEmptyShowsTenDashes) {
-  for (TextField* field : {page.TextExciter[0], page.TextDichroic[0], page.TextBarrier[0]}) {
+  for (TextField* field : std::initializer_list<TextField*>{
+           page.TextExciter[0], page.TextDichroic[0], page.TextBarrier[0]}) {
     Enter(*field, "");
     EXPECT_EQ(field->text(), kDashes);
   }

@@ -129,8 +129,8 @@ TEST(LimitPage, AnUnknownCodeDisablesAllGroupsAndIsNotWrittenBack) {
     bench.instruments.back().limitation = code;
     PageRig rig(std::move(bench));
     auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
-    for (const OptionGroup* group :
-         {page.optPreventIncrease, page.optSkipEmpty, page.optPreventImmersion}) {
+    for (const OptionGroup* group : std::initializer_list<const OptionGroup*>{
+             page.optPreventIncrease, page.optSkipEmpty, page.optPreventImmersion}) {
       EXPECT_EQ(group->selected(), -1) << code;
       EXPECT_FALSE(group->button(0)->isEnabled()) << code;
     }

@@ -84,8 +84,8 @@ const Texts kBlank{"", "", "", "", ""};
 
 Texts ShownParts(const ObjectiveCtl& page) {
   Texts parts;
-  for (const ValueLabel* label :
-       {page.LabelType, page.LabelMag, page.LabelWD, page.LabelNA, page.LabelName}) {
+  for (const ValueLabel* label : std::initializer_list<const ValueLabel*>{
+           page.LabelType, page.LabelMag, page.LabelWD, page.LabelNA, page.LabelName}) {
     parts.push_back(label->text().toStdString());
   }
   return parts;
@@ -339,8 +339,9 @@ TEST(NosepiecePage, ColumnsBeginNoFurtherLeftThanTheTabStops) {
 TEST(NosepiecePage, ValuesStandInTheFixedPitchFont) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
-  for (const ValueLabel* label : {page.LabelSeries, page.LabelType, page.LabelMag, page.LabelWD,
-                                  page.LabelNA, page.LabelName}) {
+  for (const ValueLabel* label :
+       std::initializer_list<const ValueLabel*>{page.LabelSeries, page.LabelType, page.LabelMag,
+                                                page.LabelWD, page.LabelNA, page.LabelName}) {
     EXPECT_EQ(label->font(), FixedFont()) << label->objectName().toStdString();
   }
 }

@@ -119,7 +119,8 @@ TEST(OptionPage, FieldsTakeTheirNumberOfCharacters) {
   auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
   TypeInto(*page.TextName, "1234567890123456");
   EXPECT_EQ(page.TextName->text(), "123456789012345");
-  for (TextField* field : {page.TextMag, page.TextWD, page.TextNA}) {
+  for (TextField* field :
+       std::initializer_list<TextField*>{page.TextMag, page.TextWD, page.TextNA}) {
     EXPECT_TRUE(field->alignment() & Qt::AlignRight);
     TypeInto(*field, "1.23456");
     EXPECT_EQ(field->text(), "1.234");
@@ -151,7 +152,7 @@ TEST(OptionPage, AnEditGoesToThePositionOnShowAlone) {
 TEST(OptionPage, ClearingDistanceOrApertureAtOnceTurnsItIntoZero) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
-  for (TextField* field : {page.TextWD, page.TextNA}) {
+  for (TextField* field : std::initializer_list<TextField*>{page.TextWD, page.TextNA}) {
     TypeInto(*field, "");
     EXPECT_EQ(field->text(), "0") << field->objectName().toStdString();
     field->setText("   ");
@@ -322,7 +323,7 @@ TEST(OptionPage, AnEmptyNameIsShownEmpty) {
 }
 
 struct SaveRow {
-  TextField* ObjectiveOptionCtl::*field;
+  Control<TextField> ObjectiveOptionCtl::*field;
   const char* text;
   const char* stored;
 };

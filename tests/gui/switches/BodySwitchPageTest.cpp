@@ -101,7 +101,7 @@ TEST_F(BodySwitchPage, AChoiceWithoutARowDoesNothing) {
   rig.k70().COther.curAutoZ = 1;
   const std::vector<int> before = CodesOf(unit());
   const Names functions = Functions();
-  for (ComboBox* combo : {page.ComboCWCCW, page.ComboFunction}) {
+  for (ComboBox* combo : std::initializer_list<ComboBox*>{page.ComboCWCCW, page.ComboFunction}) {
     for (int entry = 0; entry < combo->count(); ++entry) combo->setIndex(entry);
   }
   EXPECT_EQ(CodesOf(unit()), before);

@@ -116,7 +116,8 @@ TEST_F(TactorFunctions, TheHiddenListTellsOfTheKnobsToo) {
 
 TEST_F(TactorFunctions, AChoiceWithoutARowDoesNothing) {
   const Codes before = CodesOf(unit());
-  for (ComboBox* combo : {page.ComboCWCCW, page.ComboFunction, page.ComboSWFunc}) {
+  for (ComboBox* combo :
+       std::initializer_list<ComboBox*>{page.ComboCWCCW, page.ComboFunction, page.ComboSWFunc}) {
     for (int entry = 0; entry < combo->count(); ++entry) combo->setIndex(entry);
   }
   EXPECT_EQ(CodesOf(unit()), before);
