@@ -4,6 +4,7 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "objectives/ObjectiveCode.h"
 
 namespace mortane {
 namespace {
@@ -27,6 +28,12 @@ constexpr std::array<ListOfKind, 6> kListsOfKinds{{
 
 ItemNames::ItemNames(const std::vector<ConfigurationItem>& items) {
   for (const ConfigurationItem& item : items) {
+    const bool isObjective =
+        item.kind == ItemKind::ObjectiveCode && CharacterCount(item.value) == kObjectiveCodeLength;
+    if (isObjective) {
+      magnifications_[kOptionBase + ToLong(item.key.position, PointFormat())] =
+          DecodeObjective(item.value).magnification;
+    }
     for (const ListOfKind& row : kListsOfKinds) {
       if (row.kind != item.kind) continue;
       const std::int32_t position = ToLong(item.key.position, PointFormat());
@@ -37,6 +44,7 @@ ItemNames::ItemNames(const std::vector<ConfigurationItem>& items) {
 
 ItemNames::ItemNames(const clsK70& k70) {
   for (std::int32_t code = 0; code <= kHighestCode; ++code) {
+    magnifications_[code] = k70.DbNosepiece.Magnification(code);
     Add(CodeList::Objectives, code, k70.DbNosepiece.Name(code));
     Add(CodeList::Cubes, code, k70.dbFilter.Name(code));
     Add(CodeList::Exciters, code, k70.Exciter.Name(code));
@@ -50,6 +58,12 @@ ItemNames::ItemNames(const clsK70& k70) {
   for (std::int32_t i = 0; i <= k70.DbNosepiece.TypesCount(); ++i) {
     Add(CodeList::Types, i, k70.DbNosepiece.Types(i));
   }
+}
+
+std::optional<double> ItemNames::Magnification(std::int32_t code) const {
+  const auto found = magnifications_.find(code);
+  if (found == magnifications_.end() || found->second == 0) return std::nullopt;
+  return found->second;
 }
 
 const std::string* ItemNames::Find(CodeList list, std::int32_t code) const {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,9 @@ class ItemNames {
   // The lists that the connected microscope gave, as the model holds them now.
   explicit ItemNames(const clsK70& k70);
 
+  // Of an objective; nothing when it is not known.
+  std::optional<double> Magnification(std::int32_t code) const;
+
   // Null for a code without a name, one that is blank included.
   const std::string* Find(CodeList list, std::int32_t code) const;
 
@@ -39,6 +43,7 @@ class ItemNames {
   void Add(CodeList list, std::int32_t code, std::string name);
 
   std::array<std::map<std::int32_t, std::string>, kCodeLists> lists_;
+  std::map<std::int32_t, double> magnifications_;
 };
 
 }  // namespace mortane
