@@ -63,10 +63,8 @@ TEST_F(Program, KeepsInItsBenchFileWhatWasSent) {
   Tool({"type", "Bay 4"});
   Tool({"key", "Return", "alt+c"});
   Tool({"key", "n"});
-  QDeadlineTimer patience(kPatienceMs);
   const auto name = [&] { return controller::ReadBenchFile(bench).instruments[1].name; };
-  while (name() != "Bay 4" && !patience.hasExpired()) QThread::msleep(50);
-  EXPECT_EQ(name(), "Bay 4");
+  EXPECT_TRUE(Await([&] { return name() == "Bay 4"; })) << name();
   Exit();
 }
 

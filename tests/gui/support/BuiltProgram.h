@@ -2,52 +2,25 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/prctl.h>
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QThread>
+#include <QTest>
 #include <algorithm>
-#include <csignal>
+#include <functional>
 #include <string>
 
+#include "gui/support/Display.h"
 #include "support/DeviceNamesLock.h"
 #include "support/TempFolder.h"
 
 namespace mortane::test {
 
-using namespace Qt::StringLiterals;
-
-inline constexpr int kPatienceMs = 20000;
-
-// The process ends with this one, also when this one is killed: a program that lived on would hold
-// its microscope against the tests that come later.
-inline void EndWithThisProcess(QProcess& process) {
-  process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+// Whether it came about before the patience ended.
+inline bool Await(const std::function<bool()>& happened, int patienceMs = kPatienceMs) {
+  return QTest::qWaitFor(happened, patienceMs);
 }
-
-// A virtual display with nothing on it. The server chooses its number. It must not start afresh
-// when its last client leaves, just as the program is connecting.
-class Display {
- public:
-  Display() {
-    EndWithThisProcess(server_);
-    server_.start(
-        "Xvfb", {"-displayfd", "1", "-screen", "0", "1400x900x24", "-nolisten", "tcp", "-noreset"});
-    if (server_.waitForReadyRead(kPatienceMs)) name_ = ":" + server_.readLine().trimmed();
-  }
-  ~Display() {
-    server_.terminate();
-    server_.waitForFinished(kPatienceMs);
-  }
-  const QString& Name() const { return name_; }
-
- private:
-  QProcess server_;
-  QString name_;
-};
 
 // The program at `path`, whose windows bear `title`.
 class BuiltProgram : public testing::Test {
@@ -84,50 +57,65 @@ class BuiltProgram : public testing::Test {
     EXPECT_TRUE(tool.waitForFinished(kPatienceMs));
     return QString::fromUtf8(tool.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
   }
+  QStringList Windows(const QString& title) {
+    return Tool({"search", "--onlyvisible", "--name", "^" + title + "$"});
+  }
   // Visible windows of the program once there are that many, the smallest first.
   QStringList AwaitWindows(qsizetype count) { return AwaitWindows(count, title_); }
   QStringList AwaitWindows(qsizetype count, const QString& title) {
-    QDeadlineTimer patience(kPatienceMs);
     QStringList windows;
-    while (!patience.hasExpired()) {
-      windows = Tool({"search", "--onlyvisible", "--name", "^" + title + "$"});
-      if (windows.size() == count) break;
-      QThread::msleep(50);
-    }
+    Await([&] { return (windows = Windows(title)).size() == count; });
     EXPECT_EQ(windows.size(), count) << program_.readAllStandardError().toStdString();
     windows.resize(count);  // rather a wrong window than none
-    std::sort(windows.begin(), windows.end(),
-              [this](const QString& a, const QString& b) { return Width(a) < Width(b); });
+    std::sort(windows.begin(), windows.end(), [this](const QString& a, const QString& b) {
+      return Area(a).width() < Area(b).width();
+    });
     return windows;
   }
-  int Width(const QString& window) {
+  // Where the window stands on the display.
+  QRect Area(const QString& window) {
+    QRect area;
     for (const QString& line : Tool({"getwindowgeometry", "--shell", window})) {
-      if (line.startsWith("WIDTH=")) return line.mid(6).toInt();
+      const int value = line.section('=', 1).toInt();
+      if (line.startsWith("X=")) area.moveLeft(value);
+      if (line.startsWith("Y=")) area.moveTop(value);
+      if (line.startsWith("WIDTH=")) area.setWidth(value);
+      if (line.startsWith("HEIGHT=")) area.setHeight(value);
     }
-    return 0;
+    return area;
   }
   void Press(const QString& window, const QStringList& keys) {
     Tool(QStringList{"windowfocus", "--sync", window, "key"} + keys);
   }
-  // A window that is still loading its pages drops what was typed meanwhile; once it rests it takes
-  // no time of the processor.
-  void AwaitRest() {
-    QDeadlineTimer patience(kPatienceMs);
-    for (int rested = 0; rested < 3 && !patience.hasExpired();) {
-      const qint64 before = ProcessorTicks();
-      QThread::msleep(100);
-      rested = ProcessorTicks() - before <= 1 ? rested + 1 : 0;
-    }
+  // Acts, and waits until an area of the display is no more as it was before.
+  void AwaitChange(const QRect& area, const std::function<void()>& act) {
+    const QByteArray before = display_.Pixels(area);
+    ASSERT_FALSE(before.isEmpty()) << "no picture of the display";
+    act();
+    EXPECT_TRUE(Await([&] { return display_.Pixels(area) != before; })) << "no change in sight";
   }
-  // Of the program so far, as user and as system.
-  qint64 ProcessorTicks() {
-    QFile statistics(u"/proc/%1/stat"_s.arg(program_.processId()));
-    if (!statistics.open(QIODevice::ReadOnly)) return 0;
-    const QByteArrayList fields = statistics.readAll().split(')').back().split(' ');
-    constexpr qsizetype kUserTicks = 12;  // counted behind the program's name
-    return fields.size() <= kUserTicks + 1
-               ? 0
-               : fields[kUserTicks].toLongLong() + fields[kUserTicks + 1].toLongLong();
+  // A window that is still loading its pages drops what was typed meanwhile. Once it rests, it
+  // sleeps, and nothing wakes it from one look to the next.
+  void AwaitRest() {
+    constexpr int kLooks = 5;
+    QByteArray before;
+    int same = 0;
+    EXPECT_TRUE(Await([&] {
+      const QByteArray now = Activity();
+      same = now == before && now.contains("S (sleeping)") ? same + 1 : 0;
+      before = now;
+      return same == kLooks;
+    })) << "the program does not come to rest";
+  }
+  // Whether the program's thread sleeps, and how often it has begun to.
+  QByteArray Activity() {
+    QFile status(QStringLiteral("/proc/%1/status").arg(program_.processId()));
+    if (!status.open(QIODevice::ReadOnly)) return {};
+    QByteArray lines;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+      if (line.startsWith("State:") || line.contains("ctxt_switches")) lines += line;
+    }
+    return lines;
   }
   void ExpectGoodEnd() {
     EXPECT_TRUE(program_.waitForFinished(kPatienceMs));

@@ -86,7 +86,7 @@ TEST(WizardStart, HappensOnce) {
   rig.form().hide();
   rig.form().show();
   rig.form().activateWindow();
-  QTest::qWait(20);
+  QApplication::processEvents();
   EXPECT_TRUE(rig.fakes.calls.empty());
 }
 
