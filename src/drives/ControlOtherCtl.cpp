@@ -39,7 +39,7 @@ enum class Value { IsIndex, IsEnabledByFirst };
 
 // A group of options that stands for one field.
 struct Choice {
-  OptionGroup* ControlOtherCtl::*group;
+  Control<OptionGroup> ControlOtherCtl::*group;
   std::int32_t clsControlOther::*field;
   Value value;
 };
@@ -57,9 +57,9 @@ constexpr std::array<Choice, 7> kChoices{{
 }};
 
 struct Knob {
-  OptionGroup* ControlOtherCtl::*mode;
-  QCheckBox* ControlOtherCtl::*check;
-  ComboBox* ControlOtherCtl::*combo;
+  Control<OptionGroup> ControlOtherCtl::*mode;
+  Control<QCheckBox> ControlOtherCtl::*check;
+  Control<ComboBox> ControlOtherCtl::*combo;
   std::int32_t clsControlOther::*automatic;
   std::int32_t clsControlOther::*sensitivity;
 };
@@ -235,7 +235,7 @@ void ControlOtherCtl::LoadKnobFrame() {
   FrameManualHandle->setVisible(hasFocusKnob_ || hasStageKnob_);
   if (!hasFocusKnob_ && !hasStageKnob_) return;
   const bool changeable = other_.parent.ReadMicVer(controllerunit::kBody) < kFullFirmware;
-  for (OptionGroup* group : {optAuto, optXYAuto}) {
+  for (OptionGroup* group : std::initializer_list<OptionGroup*>{optAuto, optXYAuto}) {
     for (int i = 0; i < group->count(); ++i) group->button(i)->setEnabled(changeable);
   }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QBoxLayout;
 class QCheckBox;
@@ -37,35 +38,35 @@ class ControlOtherCtl : public CardPage {
   bool R_TLPORemoteVisible();
   void R_TLPORemoteVisible(bool visible);
 
-  InnerFrame* FrameManualHandle;
-  QFrame* Frame1;
-  QLabel* lblFocusDrive;
-  OptionGroup* optAuto;
-  QCheckBox* CheckFocusAuto;
-  ComboBox* ComboFocus;
-  QLabel* lblXYStage;
-  OptionGroup* optXYAuto;
-  QCheckBox* CheckStageAuto;
-  ComboBox* ComboStage;
-  QLabel* Label1;
-  InnerFrame* FrameR_TLPORemote;
-  QFrame* Frame2;
-  QLabel* lblR_TLPOLED;
-  OptionGroup* optR_TLPO_LED;
-  QLabel* lblRTlpoRemote;
-  OptionGroup* optR_TLPO_Switch;
-  InnerFrame* FrameFiberRemote;
-  QFrame* Frame4;
-  QLabel* Label2;
-  OptionGroup* optFiber_LED;
-  QLabel* Label3;
-  OptionGroup* optFiber_Switch;
-  InnerFrame* FrameBuzzer;
-  OptionGroup* optBuzzer;
-  InnerFrame* FrameSwitch;
-  OptionGroup* optSwitch;
-  InnerFrame* FrameTactorSwich;
-  OptionGroup* optTactorSwitch;
+  Control<InnerFrame> FrameManualHandle{"FrameManualHandle"};
+  Control<QFrame> Frame1{"Frame1"};
+  Control<QLabel> lblFocusDrive{"lblFocusDrive"};
+  Control<OptionGroup> optAuto{"optAuto"};
+  Control<QCheckBox> CheckFocusAuto{"CheckFocusAuto"};
+  Control<ComboBox> ComboFocus{"ComboFocus"};
+  Control<QLabel> lblXYStage{"lblXYStage"};
+  Control<OptionGroup> optXYAuto{"optXYAuto"};
+  Control<QCheckBox> CheckStageAuto{"CheckStageAuto"};
+  Control<ComboBox> ComboStage{"ComboStage"};
+  Control<QLabel> Label1{"Label1"};
+  Control<InnerFrame> FrameR_TLPORemote{"FrameR_TLPORemote"};
+  Control<QFrame> Frame2{"Frame2"};
+  Control<QLabel> lblR_TLPOLED{"lblR_TLPOLED"};
+  Control<OptionGroup> optR_TLPO_LED{"optR_TLPO_LED"};
+  Control<QLabel> lblRTlpoRemote{"lblRTlpoRemote"};
+  Control<OptionGroup> optR_TLPO_Switch{"optR_TLPO_Switch"};
+  Control<InnerFrame> FrameFiberRemote{"FrameFiberRemote"};
+  Control<QFrame> Frame4{"Frame4"};
+  Control<QLabel> Label2{"Label2"};
+  Control<OptionGroup> optFiber_LED{"optFiber_LED"};
+  Control<QLabel> Label3{"Label3"};
+  Control<OptionGroup> optFiber_Switch{"optFiber_Switch"};
+  Control<InnerFrame> FrameBuzzer{"FrameBuzzer"};
+  Control<OptionGroup> optBuzzer{"optBuzzer"};
+  Control<InnerFrame> FrameSwitch{"FrameSwitch"};
+  Control<OptionGroup> optSwitch{"optSwitch"};
+  Control<InnerFrame> FrameTactorSwich{"FrameTactorSwich"};
+  Control<OptionGroup> optTactorSwitch{"optTactorSwitch"};
 
  protected:
   // One step of LoadData; `step` counts from 1 to 8.

@@ -12,7 +12,6 @@
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/ComboBox.h"
-#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 
@@ -31,116 +30,78 @@ constexpr std::array kShares{3, 2};
 
 // Behind a knob's options: whether it is automatic, and how sensitive it is.
 struct KnobControls {
-  const char* checkName;
-  QCheckBox* Page::*check;
-  const char* comboName;
-  ComboBox* Page::*combo;
+  Control<QCheckBox> Page::*check;
+  Control<ComboBox> Page::*combo;
 };
 
-constexpr KnobControls kFocusKnob{"CheckFocusAuto", &Page::CheckFocusAuto, "ComboFocus",
-                                  &Page::ComboFocus};
-constexpr KnobControls kStageKnob{"CheckStageAuto", &Page::CheckStageAuto, "ComboStage",
-                                  &Page::ComboStage};
+constexpr KnobControls kFocusKnob{&Page::CheckFocusAuto, &Page::ComboFocus};
+constexpr KnobControls kStageKnob{&Page::CheckStageAuto, &Page::ComboStage};
 
-// A label and the options behind it, as far as the row has them. A named row is a frame.
+// A label and the options behind it, as far as the row has them. Some rows are given frames.
 struct OptionRow {
-  const char* rowName;
-  QFrame* Page::*row;
-  const char* labelName;
-  QLabel* Page::*label;
+  Control<QLabel> Page::*label;
   const char* caption;
-  const char* arrayName;
-  OptionGroup* Page::*group;
+  Control<OptionGroup> Page::*group;
   std::array<const char*, 3> options;
+  Control<QFrame> Page::*row = nullptr;
   const KnobControls* knob = nullptr;
 };
 
 constexpr std::array kKnobRows{
-    OptionRow{"",
-              nullptr,
-              "lblFocusDrive",
-              &Page::lblFocusDrive,
+    OptionRow{&Page::lblFocusDrive,
               "Focus Knob",
-              "optAuto",
               &Page::optAuto,
               {"Auto", "Manual ( default )"},
+              nullptr,
               &kFocusKnob},
-    OptionRow{"Frame1",
-              &Page::Frame1,
-              "lblXYStage",
-              &Page::lblXYStage,
+    OptionRow{&Page::lblXYStage,
               "Stage Knob",
-              "optXYAuto",
               &Page::optXYAuto,
               {"Auto", "Manual ( default )"},
+              &Page::Frame1,
               &kStageKnob},
 };
 constexpr std::array kRemoteRows{
-    OptionRow{"Frame2",
-              &Page::Frame2,
-              "lblR_TLPOLED",
-              &Page::lblR_TLPOLED,
+    OptionRow{&Page::lblR_TLPOLED,
               "LED Setting",
-              "optR_TLPO_LED",
               &Page::optR_TLPO_LED,
-              {"OFF", "Dark", "Bright ( default )"}},
-    OptionRow{"",
-              nullptr,
-              "lblRTlpoRemote",
-              &Page::lblRTlpoRemote,
+              {"OFF", "Dark", "Bright ( default )"},
+              &Page::Frame2},
+    OptionRow{&Page::lblRTlpoRemote,
               "Switch Setting",
-              "optR_TLPO_Switch",
               &Page::optR_TLPO_Switch,
               {"ON ( default )", "OFF"}},
 };
 constexpr std::array kFiberRows{
-    OptionRow{"Frame4",
-              &Page::Frame4,
-              "Label2",
-              &Page::Label2,
+    OptionRow{&Page::Label2,
               "LED Setting",
-              "optFiber_LED",
               &Page::optFiber_LED,
-              {"OFF", "Dark", "Bright ( default )"}},
-    OptionRow{"",
-              nullptr,
-              "Label3",
-              &Page::Label3,
-              "Switch Setting",
-              "optFiber_Switch",
-              &Page::optFiber_Switch,
-              {"OFF", "ON ( default )"}},
+              {"OFF", "Dark", "Bright ( default )"},
+              &Page::Frame4},
+    OptionRow{&Page::Label3, "Switch Setting", &Page::optFiber_Switch, {"OFF", "ON ( default )"}},
 };
-constexpr std::array kBuzzerRows{OptionRow{
-    "", nullptr, "", nullptr, "", "optBuzzer", &Page::optBuzzer, {"ON ( default )", "OFF", ""}}};
-constexpr std::array kSwitchRows{OptionRow{
-    "", nullptr, "", nullptr, "", "optSwitch", &Page::optSwitch, {"ON ( default )", "OFF"}}};
-constexpr std::array kTactorRows{OptionRow{"",
-                                           nullptr,
-                                           "",
-                                           nullptr,
-                                           "",
-                                           "optTactorSwitch",
-                                           &Page::optTactorSwitch,
-                                           {"ON ( default )", "OFF"}}};
+constexpr std::array kBuzzerRows{
+    OptionRow{nullptr, "", &Page::optBuzzer, {"ON ( default )", "OFF", ""}}};
+constexpr std::array kSwitchRows{
+    OptionRow{nullptr, "", &Page::optSwitch, {"ON ( default )", "OFF"}}};
+constexpr std::array kTactorRows{
+    OptionRow{nullptr, "", &Page::optTactorSwitch, {"ON ( default )", "OFF"}}};
 
 struct FrameRow {
-  const char* name;
   const char* caption;
-  InnerFrame* Page::*frame;
+  Control<InnerFrame> Page::*frame;
   int column;
   std::span<const OptionRow> rows;
 };
 
 // In the order of the Tab key.
 constexpr std::array<FrameRow, 6> kFrames{{
-    {"FrameManualHandle", "Knob Setting", &Page::FrameManualHandle, 0, kKnobRows},
-    {"FrameR_TLPORemote", "B-KM-R Remote Controler Settings", &Page::FrameR_TLPORemote, 0,
-     kRemoteRows},
-    {"FrameFiberRemote", "Fiber Remote Controler Settings", &Page::FrameFiberRemote, 0, kFiberRows},
-    {"FrameBuzzer", "Buzzer", &Page::FrameBuzzer, 1, kBuzzerRows},
-    {"FrameSwitch", "K70 Switch", &Page::FrameSwitch, 1, kSwitchRows},
-    {"FrameTactorSwich", "Tactor Switch", &Page::FrameTactorSwich, 1, kTactorRows},
+    {"Knob Setting", &Page::FrameManualHandle, 0, kKnobRows},
+    {"B-KM-R Remote Controler Settings", &Page::FrameR_TLPORemote, 0, kRemoteRows},
+    {"Fiber Remote Controler Settings", &Page::FrameFiberRemote, 0, kFiberRows},
+    {"Buzzer", &Page::FrameBuzzer, 1, kBuzzerRows},
+    {"K70 Switch", &Page::FrameSwitch, 1, kSwitchRows},
+    {"Tactor Switch", &Page::FrameTactorSwich, 1, kTactorRows},
 }};
 
 // Options begin at one place in all frames of a column.
@@ -155,7 +116,7 @@ int LabelWidth(const QWidget& widget) {
 }
 
 QLabel* AddLabel(const OptionRow& row, QFrame* panel) {
-  auto* label = Named(new QLabel(QLatin1String(row.caption), panel), row.labelName);
+  auto* label = new QLabel(QLatin1String(row.caption), panel);
   label->setMinimumWidth(LabelWidth(*label));
   QSizePolicy policy = label->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
@@ -165,10 +126,10 @@ QLabel* AddLabel(const OptionRow& row, QFrame* panel) {
 }
 
 void AddKnobControls(Page& page, const KnobControls& knob, const QString& caption, QFrame* panel) {
-  auto* check = Named(new QCheckBox(u"Auto"_s, panel), knob.checkName);
+  auto* check = new QCheckBox(u"Auto"_s, panel);
   check->setAccessibleDescription(caption);
   TakeFocusByClicks(*check);
-  auto* combo = Named(new ComboBox(panel), knob.comboName);
+  auto* combo = new ComboBox(panel);
   combo->setAccessibleName(caption);
   for (const char* sensitivity : {"Coarse", "Medium", "Fine"}) {
     combo->addRow(QLatin1String(sensitivity));
@@ -180,7 +141,7 @@ void AddKnobControls(Page& page, const KnobControls& knob, const QString& captio
 }
 
 void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
-  auto* panel = Named(new QFrame(frame), row.rowName);
+  auto* panel = new QFrame(frame);
   auto* line = new QHBoxLayout(panel);
   line->setContentsMargins({});
   line->setSpacing(grid::kBetweenGroups);
@@ -192,7 +153,7 @@ void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
   page.*row.group = group;
   for (const char* text : row.options) {
     if (text == nullptr) continue;
-    QRadioButton* option = group->addOption(QLatin1String(text), row.arrayName, panel);
+    QRadioButton* option = group->addOption(QLatin1String(text), panel);
     option->setAccessibleDescription(subject);
     if (*text == '\0') option->setAccessibleName(QLatin1String(kNamelessOption));
     line->addWidget(option);
@@ -203,7 +164,7 @@ void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
 }
 
 void AddFrame(Page& page, const FrameRow& row, QBoxLayout* column) {
-  auto* frame = Named(new InnerFrame(QLatin1String(row.caption), column->parentWidget()), row.name);
+  auto* frame = new InnerFrame(QLatin1String(row.caption), column->parentWidget());
   page.*row.frame = frame;
   frame->body()->setSpacing(grid::kUnit);
   frame->show();  // whether it is shown must not depend on the page's being on show
@@ -229,10 +190,9 @@ void ControlOtherCtl::Build() {
     AddFrame(*this, frame, stacks[static_cast<std::size_t>(frame.column)]);
   }
   for (QVBoxLayout* stack : stacks) stack->addStretch();
-  Label1 = Named(
+  Label1 =
       CaptionLabel(u"Select Auto is effective after rotating the nosepiece with interlock mode."_s,
-                   FrameManualHandle),
-      "Label1");
+                   FrameManualHandle);
   Label1->setWordWrap(true);
   FrameManualHandle->body()->addWidget(Label1);
   FrameBase->body()->addLayout(columns_, 1);

@@ -7,7 +7,6 @@
 #include "interlocks/clsInterLockObservation.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
-#include "widgets/Named.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -22,11 +21,7 @@ constexpr int kTilesInColumn = 4;
 
 InterlockObservationCtl::InterlockObservationCtl(clsInterLockObservation& interlocks,
                                                  QWidget* parent)
-    : CardPage(u"Observation Change to"_s, parent),
-      lblAccessories{},
-      CheckAccessories{},
-      interlocks_(interlocks),
-      tiles_{} {
+    : CardPage(u"Observation Change to"_s, parent), interlocks_(interlocks), tiles_{} {
   auto* tiles = new QGridLayout;
   tiles->setHorizontalSpacing(grid::kBetweenColumns);
   tiles->setVerticalSpacing(grid::kBetweenGroups);
@@ -44,8 +39,8 @@ SwitchTile* InterlockObservationCtl::BuildTile(const ObservationAccessory& row) 
   const auto i = static_cast<std::size_t>(row.pageIndex);
   SwitchTile* tile = tiles_[i] =
       MakeAccessoryTile(row.number, row.caption, SwitchTile::Ground::Card, FrameBase);
-  lblAccessories[i] = Named(tile->label(), "lblAccessories", row.pageIndex);
-  CheckAccessories[i] = Named(tile->toggle(), "CheckAccessories", row.pageIndex);
+  lblAccessories.Set(i, tile->label());
+  CheckAccessories.Set(i, tile->toggle());
   connect(tile->toggle(), &CheckToggle::toggled, this, [this, number = row.number](bool on) {
     interlocks_.Status(number, on ? kInterlockOn : kInterlockOff);
   });

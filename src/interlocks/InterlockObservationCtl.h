@@ -5,6 +5,7 @@
 
 #include "interlocks/ObservationAccessories.h"
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QLabel;
 
@@ -25,8 +26,8 @@ class InterlockObservationCtl : public CardPage {
 
   void LoadData() override;
 
-  std::array<QLabel*, kSwitchCount> lblAccessories;
-  std::array<CheckToggle*, kSwitchCount> CheckAccessories;
+  Controls<QLabel, kSwitchCount> lblAccessories{"lblAccessories"};
+  Controls<CheckToggle, kSwitchCount> CheckAccessories{"CheckAccessories"};
 
  private:
   SwitchTile* BuildTile(const ObservationAccessory& row);

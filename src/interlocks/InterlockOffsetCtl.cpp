@@ -8,7 +8,6 @@
 #include "interlocks/clsInterLockOffset.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
-#include "widgets/Named.h"
 #include "widgets/ShownName.h"
 #include "widgets/Theme.h"
 
@@ -25,24 +24,18 @@ constexpr std::array<std::string_view, 10> kFactors{"1.00", "0.95", "0.90", "0.8
 
 }  // namespace
 
-struct InterlockOffsetCtl::Controls {
-  const char* labelName;
-  const char* listName;
-  QLabel* InterlockOffsetCtl::*label;
-  ComboBox* InterlockOffsetCtl::*list;
+struct InterlockOffsetCtl::Row {
+  Control<QLabel> InterlockOffsetCtl::*label;
+  Control<ComboBox> InterlockOffsetCtl::*list;
 };
 
 // From the top.
-const std::array<InterlockOffsetCtl::Controls, InterlockOffsetCtl::kRowCount>
-    InterlockOffsetCtl::kControls{{
-        {"lblNDFilter", "ComboNDFilter", &InterlockOffsetCtl::lblNDFilter,
-         &InterlockOffsetCtl::ComboNDFilter},
-        {"lblFieldStop", "ComboFieldStop", &InterlockOffsetCtl::lblFieldStop,
-         &InterlockOffsetCtl::ComboFieldStop},
-        {"lblApertureStop", "ComboApertureStop", &InterlockOffsetCtl::lblApertureStop,
-         &InterlockOffsetCtl::ComboApertureStop},
-        {"lblEpiFieldStop", "ComboEpiFieldStop", &InterlockOffsetCtl::lblEpiFieldStop,
-         &InterlockOffsetCtl::ComboEpiFieldStop},
+constexpr std::array<InterlockOffsetCtl::Row, InterlockOffsetCtl::kRowCount>
+    InterlockOffsetCtl::kRows{{
+        {&InterlockOffsetCtl::lblNDFilter, &InterlockOffsetCtl::ComboNDFilter},
+        {&InterlockOffsetCtl::lblFieldStop, &InterlockOffsetCtl::ComboFieldStop},
+        {&InterlockOffsetCtl::lblApertureStop, &InterlockOffsetCtl::ComboApertureStop},
+        {&InterlockOffsetCtl::lblEpiFieldStop, &InterlockOffsetCtl::ComboEpiFieldStop},
     }};
 
 InterlockOffsetCtl::InterlockOffsetCtl(clsInterLockOffset& offsets, QWidget* parent)
@@ -55,24 +48,24 @@ InterlockOffsetCtl::InterlockOffsetCtl(clsInterLockOffset& offsets, QWidget* par
   }
   rows->setColumnStretch(rows->columnCount(), 1);
   FrameBase->body()->addLayout(rows);
-  Label2 = Named(CaptionLabel(u"The compensation setting puts the compensation on "
-                              u"the proper value. "_s,
-                              FrameBase),
-                 "Label2");
+  Label2 = CaptionLabel(u"The compensation setting puts the compensation on the proper value. "_s,
+                        FrameBase);
   FrameBase->body()->addWidget(Label2);
   FrameBase->body()->addStretch();
 }
 
 void InterlockOffsetCtl::BuildRow(const OffsetAccessory& row, QGridLayout& rows) {
   const auto i = static_cast<std::size_t>(row.pageRow);
-  const Controls& names = kControls[i];
+  const Row& controls = kRows[i];
   const QString caption = ToQString(row.caption);
-  QLabel* label = this->*names.label = Named(new QLabel(caption, FrameBase), names.labelName);
-  Label1[i] = Named(new QLabel(u"Proper value    X"_s, FrameBase), "Label1", row.pageRow);
+  auto* label = new QLabel(caption, FrameBase);
+  this->*controls.label = label;
+  Label1.Set(i, new QLabel(u"Proper value    X"_s, FrameBase));
   Label1[i]->setToolTip(
       u"The proper value is calculated using information such as "
       u"objective N.A and condenser focal length."_s);
-  ComboBox* list = this->*names.list = Named(new ComboBox(FrameBase), names.listName);
+  auto* list = new ComboBox(FrameBase);
+  this->*controls.list = list;
   for (const std::string_view factor : kFactors) list->addRow(ToQString(factor));
   list->setFont(FixedFont());
   list->setFixedWidth(kComboWidth);
@@ -90,7 +83,7 @@ void InterlockOffsetCtl::LoadData() {
 }
 
 void InterlockOffsetCtl::LoadRow(const OffsetAccessory& row) {
-  const Controls& controls = kControls[static_cast<std::size_t>(row.pageRow)];
+  const Row& controls = kRows[static_cast<std::size_t>(row.pageRow)];
   const std::int32_t code = offsets_.*row.value;
   const bool compensated = offsets_.parent.IsControllable(row.number) && code != kUnknown;
   (this->*controls.label)->setEnabled(compensated);

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QGridLayout;
 class QLabel;
@@ -25,20 +26,20 @@ class InterlockOffsetCtl : public CardPage {
 
   void LoadData() override;
 
-  QLabel* lblNDFilter = nullptr;
-  QLabel* lblFieldStop = nullptr;
-  QLabel* lblApertureStop = nullptr;
-  QLabel* lblEpiFieldStop = nullptr;
-  ComboBox* ComboNDFilter = nullptr;
-  ComboBox* ComboFieldStop = nullptr;
-  ComboBox* ComboApertureStop = nullptr;
-  ComboBox* ComboEpiFieldStop = nullptr;
-  std::array<QLabel*, kRowCount> Label1{};
-  QLabel* Label2 = nullptr;
+  Control<QLabel> lblNDFilter{"lblNDFilter"};
+  Control<QLabel> lblFieldStop{"lblFieldStop"};
+  Control<QLabel> lblApertureStop{"lblApertureStop"};
+  Control<QLabel> lblEpiFieldStop{"lblEpiFieldStop"};
+  Control<ComboBox> ComboNDFilter{"ComboNDFilter"};
+  Control<ComboBox> ComboFieldStop{"ComboFieldStop"};
+  Control<ComboBox> ComboApertureStop{"ComboApertureStop"};
+  Control<ComboBox> ComboEpiFieldStop{"ComboEpiFieldStop"};
+  Controls<QLabel, kRowCount> Label1{"Label1"};
+  Control<QLabel> Label2{"Label2"};
 
  private:
-  struct Controls;
-  static const std::array<Controls, kRowCount> kControls;
+  struct Row;
+  static const std::array<Row, kRowCount> kRows;
 
   void BuildRow(const OffsetAccessory& row, QGridLayout& rows);
   void LoadRow(const OffsetAccessory& row);

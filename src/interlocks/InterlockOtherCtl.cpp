@@ -9,7 +9,6 @@
 #include "interlocks/clsInterLockOther.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
-#include "widgets/Named.h"
 #include "widgets/Theme.h"
 #include "widgets/TileLayout.h"
 
@@ -23,41 +22,34 @@ constexpr int kColumns = 3;
 }  // namespace
 
 // A change that accessories follow, and its frame.
+template <std::size_t Count>
 struct InterlockOtherCtl::Change {
-  const char* frameName;
   const char* caption;
-  const char* labelsName;
-  const char* boxesName;
   std::int32_t accessory;  // that changes
   int OtherAccessory::*place;
   std::int32_t (clsInterLockOther::*state)(std::int32_t) const;
   void (clsInterLockOther::*store)(std::int32_t, std::int32_t);
-  InnerFrame* InterlockOtherCtl::*frame;
-  std::vector<QLabel*> InterlockOtherCtl::*labels;
-  std::vector<CheckToggle*> InterlockOtherCtl::*boxes;
-  std::vector<SwitchTile*> InterlockOtherCtl::*tiles;
+  Control<InnerFrame> InterlockOtherCtl::*frame;
+  Controls<QLabel, Count> InterlockOtherCtl::*labels;
+  Controls<CheckToggle, Count> InterlockOtherCtl::*boxes;
+  std::array<SwitchTile*, Count> InterlockOtherCtl::*tiles;
 };
 
-constexpr InterlockOtherCtl::Change InterlockOtherCtl::kNosepiece{
-    "FrameNosepiece",
-    "Nosepiece Change to",
-    "lblNosepiece",
-    "CheckNosepiece",
-    accessory::kNosepiece,
-    &OtherAccessory::nosepieceIndex,
-    &clsInterLockOther::Status,
-    &clsInterLockOther::Status,
-    &InterlockOtherCtl::FrameNosepiece,
-    &InterlockOtherCtl::lblNosepiece,
-    &InterlockOtherCtl::CheckNosepiece,
-    &InterlockOtherCtl::nosepieceTiles_,
-};
+constexpr InterlockOtherCtl::Change<InterlockOtherCtl::kNosepieceCount>
+    InterlockOtherCtl::kNosepiece{
+        "Nosepiece Change to",
+        accessory::kNosepiece,
+        &OtherAccessory::nosepieceIndex,
+        &clsInterLockOther::Status,
+        &clsInterLockOther::Status,
+        &InterlockOtherCtl::FrameNosepiece,
+        &InterlockOtherCtl::lblNosepiece,
+        &InterlockOtherCtl::CheckNosepiece,
+        &InterlockOtherCtl::nosepieceTiles_,
+    };
 
-constexpr InterlockOtherCtl::Change InterlockOtherCtl::kLightPath{
-    "FrameLightPath",
+constexpr InterlockOtherCtl::Change<InterlockOtherCtl::kPathCount> InterlockOtherCtl::kLightPath{
     "Light Path Change to",
-    "lblLightPath",
-    "CheckLightPath",
     accessory::kLightPath,
     &OtherAccessory::pathIndex,
     &clsInterLockOther::LightPathStatus,
@@ -68,11 +60,8 @@ constexpr InterlockOtherCtl::Change InterlockOtherCtl::kLightPath{
     &InterlockOtherCtl::lightPathTiles_,
 };
 
-constexpr InterlockOtherCtl::Change InterlockOtherCtl::kZoom{
-    "FrameOpticalZoom",
+constexpr InterlockOtherCtl::Change<InterlockOtherCtl::kPathCount> InterlockOtherCtl::kZoom{
     "Zoom Change to",
-    "lblOpticalZoom",
-    "CheckOpticalZoom",
     accessory::kOpticalZoom,
     &OtherAccessory::pathIndex,
     &clsInterLockOther::ZoomStatus,
@@ -97,35 +86,38 @@ InterlockOtherCtl::InterlockOtherCtl(clsInterLockOther& interlocks, DriveFollowe
   FrameBase->body()->addStretch(1);
 }
 
-InnerFrame* InterlockOtherCtl::BuildFrame(const Change& change) {
-  InnerFrame* frame =
-      this->*change.frame =
-          Named(new InnerFrame(QLatin1String(change.caption), FrameBase), change.frameName);
+template <std::size_t Count>
+InnerFrame* InterlockOtherCtl::BuildFrame(const Change<Count>& change) {
+  auto* frame = new InnerFrame(QLatin1String(change.caption), FrameBase);
+  this->*change.frame = frame;
   auto* tiles = new TileLayout(kColumns, grid::kBetweenColumns, grid::kUnit);
   for (const OtherAccessory* row : InPageOrder(kOtherAccessories, change.place)) {
-    BuildTile(change, *row);
-    tiles->addWidget((this->*change.tiles).back());
+    tiles->addWidget(BuildTile(change, *row));
   }
   frame->body()->addLayout(tiles);
   return frame;
 }
 
-// The tiles are built in the order of their places.
-void InterlockOtherCtl::BuildTile(const Change& change, const OtherAccessory& row) {
+template <std::size_t Count>
+SwitchTile* InterlockOtherCtl::BuildTile(const Change<Count>& change, const OtherAccessory& row) {
   SwitchTile* tile = MakeAccessoryTile(row.number, row.caption, SwitchTile::Ground::InnerFrame,
                                        this->*change.frame);
-  (this->*change.tiles).push_back(tile);
-  (this->*change.labels).push_back(Named(tile->label(), change.labelsName, row.*change.place));
-  (this->*change.boxes).push_back(Named(tile->toggle(), change.boxesName, row.*change.place));
+  const auto i = static_cast<std::size_t>(row.*change.place);
+  (this->*change.tiles)[i] = tile;
+  (this->*change.labels).Set(i, tile->label());
+  (this->*change.boxes).Set(i, tile->toggle());
   connect(tile->toggle(), &CheckToggle::toggled, this,
-          [this, &change, number = row.number](bool on) { OnToggled(change, number, on); });
+          [this, store = change.store, number = row.number](bool on) {
+            (interlocks_.*store)(number, on ? kInterlockOn : kInterlockOff);
+            TellDrives(number, on);
+          });
+  return tile;
 }
 
-// The drives follow the nosepiece alone.
-void InterlockOtherCtl::OnToggled(const Change& change, std::int32_t accessory, bool on) {
-  (interlocks_.*change.store)(accessory, on ? kInterlockOn : kInterlockOff);
-  if (accessory == accessory::kZFocusDrive) drives_.zDrive(on);
-  if (accessory == accessory::kXYStage) drives_.xyDrive(on);
+// They follow the nosepiece alone.
+void InterlockOtherCtl::TellDrives(std::int32_t accessory, bool follows) {
+  if (accessory == accessory::kZFocusDrive) drives_.zDrive(follows);
+  if (accessory == accessory::kXYStage) drives_.xyDrive(follows);
 }
 
 void InterlockOtherCtl::LoadData() {
@@ -157,8 +149,8 @@ bool InterlockOtherCtl::LoadFollower(const OtherAccessory& row, bool nosepieceMo
   return state == kInterlockOff || state == kInterlockOn;
 }
 
-// A switch of an unknown state stands on ON, disabled; the model keeps the state unknown.
-void InterlockOtherCtl::LoadPath(const Change& change) {
+// Kept: a switch of an unknown state stands on ON, disabled; the model keeps the state unknown.
+void InterlockOtherCtl::LoadPath(const Change<kPathCount>& change) {
   const bool present = interlocks_.parent.IsMounted(change.accessory) != kNotMounted;
   for (const OtherAccessory* row : InPageOrder(kOtherAccessories, change.place)) {
     SwitchTile& tile = *(this->*change.tiles)[static_cast<std::size_t>(row->*change.place)];

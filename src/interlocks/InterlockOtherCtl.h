@@ -1,11 +1,12 @@
 // The sub-page that tells what follows a change of the objective, the light path and the zoom.
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <vector>
 
 #include "model/DriveCompensation.h"
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 class QLabel;
 
@@ -32,34 +33,40 @@ class InterlockOtherCtl : public CardPage {
 
   void LoadData() override;
 
-  InnerFrame* FrameNosepiece = nullptr;
-  InnerFrame* FrameLightPath = nullptr;
-  InnerFrame* FrameOpticalZoom = nullptr;
-  std::vector<QLabel*> lblNosepiece;
-  std::vector<QLabel*> lblLightPath;
-  std::vector<QLabel*> lblOpticalZoom;
-  std::vector<CheckToggle*> CheckNosepiece;
-  std::vector<CheckToggle*> CheckLightPath;
-  std::vector<CheckToggle*> CheckOpticalZoom;
+  static constexpr std::size_t kNosepieceCount = 6;
+  static constexpr std::size_t kPathCount = 3;
+
+  Control<InnerFrame> FrameNosepiece{"FrameNosepiece"};
+  Control<InnerFrame> FrameLightPath{"FrameLightPath"};
+  Control<InnerFrame> FrameOpticalZoom{"FrameOpticalZoom"};
+  Controls<QLabel, kNosepieceCount> lblNosepiece{"lblNosepiece"};
+  Controls<QLabel, kPathCount> lblLightPath{"lblLightPath"};
+  Controls<QLabel, kPathCount> lblOpticalZoom{"lblOpticalZoom"};
+  Controls<CheckToggle, kNosepieceCount> CheckNosepiece{"CheckNosepiece"};
+  Controls<CheckToggle, kPathCount> CheckLightPath{"CheckLightPath"};
+  Controls<CheckToggle, kPathCount> CheckOpticalZoom{"CheckOpticalZoom"};
 
  private:
+  template <std::size_t Count>
   struct Change;
-  static const Change kNosepiece;
-  static const Change kLightPath;
-  static const Change kZoom;
+  static const Change<kNosepieceCount> kNosepiece;
+  static const Change<kPathCount> kLightPath;
+  static const Change<kPathCount> kZoom;
 
-  InnerFrame* BuildFrame(const Change& change);
-  void BuildTile(const Change& change, const OtherAccessory& row);
+  template <std::size_t Count>
+  InnerFrame* BuildFrame(const Change<Count>& change);
+  template <std::size_t Count>
+  SwitchTile* BuildTile(const Change<Count>& change, const OtherAccessory& row);
   void LoadNosepiece();
   bool LoadFollower(const OtherAccessory& row, bool nosepieceMounted);
-  void LoadPath(const Change& change);
-  void OnToggled(const Change& change, std::int32_t accessory, bool on);
+  void LoadPath(const Change<kPathCount>& change);
+  void TellDrives(std::int32_t accessory, bool follows);
 
   clsInterLockOther& interlocks_;
   DriveFollowers drives_;
-  std::vector<SwitchTile*> nosepieceTiles_;
-  std::vector<SwitchTile*> lightPathTiles_;
-  std::vector<SwitchTile*> zoomTiles_;
+  std::array<SwitchTile*, kNosepieceCount> nosepieceTiles_{};
+  std::array<SwitchTile*, kPathCount> lightPathTiles_{};
+  std::array<SwitchTile*, kPathCount> zoomTiles_{};
 };
 
 }  // namespace mortane

@@ -8,7 +8,7 @@ namespace mortane::test {
 namespace {
 
 struct ModeRow {
-  OptionGroup* ControlOtherCtl::*options;
+  Control<OptionGroup> ControlOtherCtl::*options;
   std::int32_t clsControlOther::*automatic;
   std::int32_t clsControlOther::*sensitivity;
 };
@@ -111,7 +111,8 @@ TEST(OtherPageEdit, LoadingLeavesTheStagesCheckBoxAsItIs) {
 TEST(OtherPageEdit, BothListsHoldThreeSensitivitiesAndShowNoneBeforeTheFirstLoading) {
   OtherRig rig("Shell");
   auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
-  for (const ComboBox* combo : {page.ComboFocus, page.ComboStage}) {
+  for (const ComboBox* combo :
+       std::initializer_list<const ComboBox*>{page.ComboFocus, page.ComboStage}) {
     EXPECT_EQ(RowsOf(*combo), (std::vector<std::string>{"Coarse", "Medium", "Fine"}));
     EXPECT_EQ(combo->index(), -1);
   }
@@ -132,7 +133,7 @@ TEST(OtherPageEdit, ARowOfEitherListIsItsNumberFromOne) {
 
 struct SwitchRow {
   const char* bench;
-  OptionGroup* ControlOtherCtl::*options;
+  Control<OptionGroup> ControlOtherCtl::*options;
   std::int32_t clsControlOther::*field;
 };
 
@@ -198,7 +199,7 @@ TEST(OtherPageEdit, EveryOptionTellsAScreenReaderWhatItIsOf) {
 }
 
 struct VisibleRow {
-  InnerFrame* ControlOtherCtl::*frame;
+  Control<InnerFrame> ControlOtherCtl::*frame;
   void (ControlOtherCtl::*set)(bool visible);
   bool (ControlOtherCtl::*get)();
 };

@@ -38,7 +38,7 @@ TEST(OtherPageFrames, AVersionBelowOneThreeCanChangeTheKnobsAndFromThenOnThereIs
     bench.instruments.back().Unit(1).version = row.version;
     OtherRig rig(std::move(bench));
     auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
-    for (OptionGroup* group : {page.optAuto, page.optXYAuto}) {
+    for (OptionGroup* group : std::initializer_list<OptionGroup*>{page.optAuto, page.optXYAuto}) {
       for (const int option : {0, 1}) {
         EXPECT_EQ(group->button(option)->isEnabled(), row.changeable) << row.version;
       }
@@ -271,7 +271,8 @@ TEST(OtherPageFrames, OptionsBeginAtOnePlaceInTheLeftColumn) {
   const auto start = [&page](const OptionGroup* group) {
     return group->button(0)->mapTo(&page, QPoint(0, 0)).x();
   };
-  for (const OptionGroup* group : {page.optXYAuto, page.optFiber_LED, page.optFiber_Switch}) {
+  for (const OptionGroup* group : std::initializer_list<const OptionGroup*>{
+           page.optXYAuto, page.optFiber_LED, page.optFiber_Switch}) {
     EXPECT_EQ(start(group), start(page.optAuto));
   }
   other.curAutoZ = -1;

@@ -171,7 +171,7 @@ TEST(OtherPageLoad, ANewSelectionStoresItsOwnValue) {
 struct KnobRow {
   std::int32_t clsControlOther::*automatic;
   std::int32_t clsControlOther::*sensitivity;
-  ComboBox* ControlOtherCtl::*list;
+  Control<ComboBox> ControlOtherCtl::*list;
 };
 
 // Selecting manual makes the sensitivity coarse, but what was read counts, whatever the list and

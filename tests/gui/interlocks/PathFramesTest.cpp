@@ -23,9 +23,9 @@ struct PathRow {
   const char* name;
   std::int32_t accessory;  // that changes
   std::int32_t trigger;
-  InnerFrame* InterlockOtherCtl::*frame;
-  std::vector<CheckToggle*> InterlockOtherCtl::*boxes;
-  std::vector<QLabel*> InterlockOtherCtl::*labels;
+  Control<InnerFrame> InterlockOtherCtl::*frame;
+  Controls<CheckToggle, InterlockOtherCtl::kPathCount> InterlockOtherCtl::*boxes;
+  Controls<QLabel, InterlockOtherCtl::kPathCount> InterlockOtherCtl::*labels;
   std::int32_t (clsInterLockOther::*state)(std::int32_t) const;
   void (clsInterLockOther::*store)(std::int32_t, std::int32_t);
   const char* element;
