@@ -22,7 +22,7 @@ _mortanectl() {
   fi
 
   case "$previous" in
-    --bench | -o | --output | --ome)
+    --bench | -o | --output | --ome | --since)
       compopt -o filenames 2>/dev/null
       mapfile -t COMPREPLY < <(compgen -f -- "$current")
       return
@@ -44,12 +44,12 @@ _mortanectl() {
   local options="--help"
   case "$command" in
     devices) options+=" $microscope --json" ;;
-    receive) options+=" $microscope --output" ;;
+    receive) options+=" $microscope --output --partial" ;;
     compare) options+=" $microscope --sections --json" ;;
     diff | check) options+=" --json" ;;
     send | restore) options+=" $microscope --sections $sending --json" ;;
     backups) options+=" $microscope --keep --json" ;;
-    report) options+=" $microscope --output" ;;
+    report) options+=" $microscope --output --since" ;;
     export) options+=" $microscope --ome" ;;
     watch) options+=" $microscope --every --json" ;;
   esac

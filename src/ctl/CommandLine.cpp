@@ -62,7 +62,7 @@ constexpr std::array<CommandRow, 11> kCommands{{
     {Verb::Report, "report", "Write the record of a microscope or a file as HTML or text",
      kMicroscope,
      "  mortanectl report -o room-12.html\n"
-     "  mortanectl report reference.xml -o room-12.txt\n"},
+     "  mortanectl report today.xml --since yesterday.xml -o changes.html\n"},
     {Verb::Export, "export", "Write the instrument as OME-XML", kMicroscope,
      "  mortanectl export --ome room-12.ome.xml\n"
      "  mortanectl export --sim --ome -\n"},
@@ -117,6 +117,7 @@ void AddOwn(CLI::App& command, Verb verb, Request& request) {
   switch (verb) {
     case Verb::Receive:
       AddOutput(command, request, "The settings file to write")->required();
+      command.add_flag("--partial", request.partial, "Write it also when a part cannot be read");
       return;
     case Verb::Compare:
     case Verb::Send:
@@ -133,6 +134,8 @@ void AddOwn(CLI::App& command, Verb verb, Request& request) {
           ->required(false)
           ->expected(1);
       AddOutput(command, request, "OUT.html or OUT.txt; without it, text on the standard output");
+      command.add_option("--since", request.since, "An earlier state: what changed stands on top")
+          ->type_name("FILE");
       return;
     case Verb::Export:
       command.add_option("--ome", request.output, "The OME-XML file to write")

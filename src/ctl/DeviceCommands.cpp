@@ -28,10 +28,10 @@ Outcome ReceiveToFile(const Request& request, Surroundings& surroundings) {
   link.Connect();
   const std::vector<std::string> unread = link.Receive();
   for (const std::string& line : unread) link.prompts().Say(line);
-  if (!unread.empty()) {
+  if (!unread.empty() && !request.partial) {
     // Parts that are missing would look like changes in the next comparison.
     Refuse(Counted(unread.size(), "part", "parts") + " of \"" + link.Name() +
-           "\" could not be read, so nothing was written");
+           "\" could not be read, so nothing was written (--partial writes the rest)");
   }
   DomDocument document;
   link.k70().WriteSections(document);

@@ -38,6 +38,8 @@ struct Request {
   std::vector<std::string> files;
   std::string output;
   std::vector<std::string> sections;  // elements of the settings file; empty for all
+  bool partial = false;               // write also what could not be read as a whole
+  std::string since;                  // an earlier state, as a file
   bool dryRun = false;
   bool yes = false;
   bool noBackup = false;

@@ -70,6 +70,12 @@ class LostLibrary : public controller::DecoratedLibrary {
   Last last_ = Last::Missed;
 };
 
+// A path as a text of JSON has it.
+inline std::string InJson(const std::string& path) {
+  const std::string text = nlohmann::json(path).dump();
+  return text.substr(1, text.size() - 2);
+}
+
 // The program on a bench, which plays the library that is installed. Faults and the journal see
 // every call.
 struct CtlRig {

@@ -50,7 +50,8 @@ TEST(Diff, AsJson) {
   const std::string a = rig.folder.Write("a.xml", kGood);
   const std::string b = rig.folder.Write("b.xml", kOther);
   EXPECT_EQ(rig.Run({"diff", a, b, "--json"}), Outcome::Different);
-  EXPECT_TRUE(rig.Out().starts_with("{\"changes\":1,\"files\":[\"" + a + "\",\"" + b + "\"],"))
+  EXPECT_TRUE(rig.Out().starts_with("{\"changes\":1,\"files\":[\"" + InJson(a) + "\",\"" +
+                                    InJson(b) + "\"],"))
       << rig.Out();
   EXPECT_NE(rig.Out().find("\"onlyFirst\":[],\"onlySecond\":[]}\n"), std::string::npos);
 }
@@ -151,9 +152,9 @@ TEST(Check, AsJsonIsOneObject) {
   const std::string a = rig.folder.Write("a.xml", kGood);
   const std::string missing = rig.folder.Path("missing.xml");
   EXPECT_EQ(rig.Run({"check", "--json", a, missing}), Outcome::Failed);
-  EXPECT_TRUE(rig.Out().starts_with("{\"files\":[\n{\"file\":\"" + a +
-                                    "\",\"problem\":null,\"refused\":[]},\n{\"file\":\"" + missing +
-                                    "\",\"problem\":\""))
+  EXPECT_TRUE(rig.Out().starts_with("{\"files\":[\n{\"file\":\"" + InJson(a) +
+                                    "\",\"problem\":null,\"refused\":[]},\n{\"file\":\"" +
+                                    InJson(missing) + "\",\"problem\":\""))
       << rig.Out();
   EXPECT_TRUE(rig.Out().ends_with("\n],\"checked\":2,\"refused\":0,\"unreadable\":1}\n"))
       << rig.Out();

@@ -150,7 +150,7 @@ TEST(Send, AsJsonIsOneObject) {
   EXPECT_EQ(rig.Run({"send", rig.file, "--yes", "--json"}), Outcome::Done);
   const std::string out = rig.Out();
   EXPECT_TRUE(out.starts_with("{\"changes\":1,\"device\":\"Bay 7\",")) << out;
-  EXPECT_NE(out.find("\"result\":\"done\",\"backup\":\"" + rig.KeptFiles().front() +
+  EXPECT_NE(out.find("\"result\":\"done\",\"backup\":\"" + InJson(rig.KeptFiles().front()) +
                      "\",\"written\":[{\"item\":\"System Name\""),
             std::string::npos)
       << out;
