@@ -240,7 +240,7 @@ class Session(unittest.TestCase):
             for words in (("diff", "a.xml", file), ("compare", "--bench", "Harbour.xml", file),
                           ("send", "--bench", "Harbour.xml", file, "--yes"),
                           ("restore", "--bench", "Harbour.xml", "./" + file, "--yes"),
-                          ("check", file)):
+                          ("report", file), ("check", file)):
                 self.run_program(*words, code=2)
                 lines = self.err.splitlines()
                 self.assertEqual(len(lines), 1, f"{words}: {self.err}")
@@ -250,8 +250,10 @@ class Session(unittest.TestCase):
 
     def test_outputs_that_cannot_be_written(self):
         (self.folder / "dir").mkdir()
-        for file in ("missing/a.xml", "dir", "/dev/null", ""):
-            for words in (("receive", "-o", file),):
+        for file in ("missing/a.txt", "dir", "/dev/null", ""):
+            for words in (("receive", "-o", file), ("report", "-o", file)):
+                if words == ("report", "-o", ""):
+                    continue  # the standard output
                 self.run_program(*words, "--bench", "Harbour.xml", code=2)
                 self.assertIn(file, self.err)
                 self.assertEqual(len(self.err.splitlines()), 1, self.err)
