@@ -11,8 +11,8 @@ namespace mortane {
 std::string DigitToChar(std::int32_t n);
 
 // The value of the first character, 0 for an empty text. Characters before "0" give -1, those
-// between "9" and "A" -2, those after "z" and all beyond ASCII -3. The six characters between
-// "Z" and "a" decode to 30..35 like "U".."Z": controllers in the field rely on it.
+// between "9" and "A" -2, those after "z" and all beyond ASCII -3. Kept: the six characters
+// between "Z" and "a" decode to 30..35 like "U".."Z".
 std::int32_t CharToDigit(std::string_view text);
 
 }  // namespace mortane

@@ -43,7 +43,7 @@ class clsControlOther {
   std::string ReadSdk();
   // Compares the buzzer with what the last read found, the rest with the controller.
   std::string ModifySdk(std::string& list) const;
-  // Writes the buzzers whether they changed or not.
+  // Kept: writes the buzzers whether they changed or not.
   std::string WriteSdk() const;
 
   // One "OTHER" element holds all, each in a child of its own. The remote's LED does not come back

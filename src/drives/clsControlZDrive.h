@@ -67,8 +67,8 @@ class clsControlZDrive {
   std::string ReadSdk();
   // Kept: does not compare the compensation, which WriteSdk writes.
   std::string ModifySdk(std::string& list) const;
-  // Writes the escape mode whether it changed or not. A lower limit that it writes above the upper
-  // one is shown and stays.
+  // Kept: writes the escape mode whether it changed or not. A lower limit that it writes above the
+  // upper one is shown and stays.
   std::string WriteSdk() const;
 
   // One "FOCUSDRIVE" element holds all settings, each in a child of its own.

@@ -91,6 +91,7 @@ void clsK70::FillTables() {
       MakeTransferStep("curTactor", curTactor, present(controllerunit::kHandController)),
   };
   fileTable_ = {
+      // Kept: this name alone is compared with regard to case.
       {fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
        [this](const DomNode& element) { return ReadSystemElement(element); },
        [this](DomDocument& document, DomNode section) {

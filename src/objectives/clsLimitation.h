@@ -34,7 +34,7 @@ class clsLimitation {
   std::string ReadSdk();
   // Compares with the values of the last read; makes no call to the controller.
   std::string ModifySdk(std::string& list) const;
-  // Writes the rules even if they did not change.
+  // Kept: writes the rules even if they did not change.
   std::string WriteSdk() const;
 
   // A "LIMIT" element holds one rule.

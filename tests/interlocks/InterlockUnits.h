@@ -17,7 +17,7 @@ class InterlockUnits : public BenchMicroscope {
   clsInterLockOther ILOther{*this};
   clsInterLockOffset ILOffset{*this};
 
- private:
+ protected:
   std::string ReadUnits() override { return ReadInOrder(ILObservation, ILOther, ILOffset); }
 };
 

@@ -37,6 +37,12 @@ inline void Unfit(controller::Bench& bench, std::int32_t accessory) {
   Fit(bench.instruments.back(), accessory, kNotMounted);
 }
 
+// The same as a function of the bench alone.
+template <std::int32_t Accessory>
+void Without(controller::Bench& bench) {
+  Unfit(bench, Accessory);
+}
+
 // Lets only these controller units answer, counted from 0.
 inline void SetUnits(controller::Instrument& instrument, const std::vector<int>& units) {
   for (int unit = 1; unit <= 7; ++unit) instrument.Unit(unit) = {};

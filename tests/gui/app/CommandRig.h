@@ -11,11 +11,10 @@
 #include <vector>
 
 #include "AppRig.h"
+#include "support/Rows.h"
 #include "widgets/CommandKey.h"
 
 namespace mortane::test {
-
-using Lines = std::vector<std::string>;
 
 // The log without the steps of the progress.
 inline Lines Calls(const ScriptedPrompts& prompts) {

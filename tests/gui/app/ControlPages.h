@@ -11,12 +11,11 @@
 #include "app/ControlSettingsCtl.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
+#include "support/Rows.h"
 #include "support/ScriptedJoystick.h"
 #include "widgets/SectionBar.h"
 
 namespace mortane::test {
-
-using Lines = std::vector<std::string>;
 
 class FakeSubPage : public Page {
  public:

@@ -2,6 +2,7 @@
 #include "app/SystemSettingsCtl.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
+#include "gui/support/PageRig.h"
 #include "hub/clsK70.h"
 
 namespace mortane::test {

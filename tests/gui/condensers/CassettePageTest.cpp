@@ -10,7 +10,6 @@
 
 #include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/ComboBox.h"
 
 namespace mortane::test {

@@ -7,7 +7,6 @@
 #include "drawings/TurretDrawing.h"
 #include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Theme.h"
 

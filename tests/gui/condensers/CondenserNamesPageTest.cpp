@@ -8,7 +8,6 @@
 
 #include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 

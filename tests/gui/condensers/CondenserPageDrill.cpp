@@ -6,28 +6,20 @@
 namespace mortane::test {
 namespace {
 
-std::string Numbered(const char* array, int index) {
-  return std::string(array) + "_" + std::to_string(index);
+std::function<std::string(CondenserUnits&)> CodeAt(std::int32_t address) {
+  return [address](CondenserUnits& k70) { return std::to_string(k70.curCondenser.code(address)); };
 }
 
-std::function<std::string(clsK70&)> CodeAt(std::int32_t address) {
-  return [address](clsK70& k70) { return std::to_string(k70.curCondenser.code(address)); };
+std::function<void(CondenserUnits&)> PutCode(std::int32_t address, std::int32_t code) {
+  return [=](CondenserUnits& k70) { k70.curCondenser.code(address, code); };
 }
 
-std::function<void(clsK70&)> PutCode(std::int32_t address, std::int32_t code) {
-  return [=](clsK70& k70) { k70.curCondenser.code(address, code); };
+std::function<std::string(CondenserUnits&)> NameOf(std::int32_t code) {
+  return [code](CondenserUnits& k70) { return k70.dbcon.Name(code); };
 }
 
-std::function<std::string(clsK70&)> NameOf(std::int32_t code) {
-  return [code](clsK70& k70) { return k70.dbcon.Name(code); };
-}
-
-std::function<void(clsK70&)> PutName(std::int32_t code, const char* name) {
-  return [=](clsK70& k70) { k70.dbcon.Name(code, name); };
-}
-
-void Unfit(Bench& bench) {
-  bench.instruments.back().Accessory(accessory::kCondenser) = {};
+std::function<void(CondenserUnits&)> PutName(std::int32_t code, const char* name) {
+  return [=](CondenserUnits& k70) { k70.dbcon.Name(code, name); };
 }
 
 std::vector<AccessibleControl> AccessibleCassette() {
@@ -139,8 +131,8 @@ PageDrillData Settings() {
   data.enabling = {
       {"optCondenserSetting_0", "Harbour", {}, true},
       {"optCondenserSetting_0", "Pair", {}, true},
-      {"optCondenserSetting_0", "Harbour", Unfit, false},
-      {"optCondenserSetting_1", "Harbour", Unfit, true},
+      {"optCondenserSetting_0", "Harbour", Without<accessory::kCondenser>, false},
+      {"optCondenserSetting_1", "Harbour", Without<accessory::kCondenser>, true},
       {"optCondenserSetting_0", "Lantern", {}, false},
       {"optCondenserSetting_1", "Lantern", {}, true},
   };

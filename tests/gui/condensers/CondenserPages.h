@@ -4,19 +4,22 @@
 #include "condensers/CondenserCassetteCtl.h"
 #include "condensers/CondenserOptionCtl.h"
 #include "condensers/CondenserSettingsCtl.h"
-#include "hub/clsK70.h"
+#include "condensers/CondenserUnits.h"
+#include "gui/support/UnitPageRig.h"
 
 namespace mortane::test {
 
-inline CondenserCassetteCtl* MakeCondenserCassetteCtl(clsK70& k70) {
+using PageRig = UnitPageRig<CondenserUnits>;
+
+inline CondenserCassetteCtl* MakeCondenserCassetteCtl(CondenserUnits& k70) {
   return new CondenserCassetteCtl(k70.curCondenser, k70.dbcon);
 }
 
-inline CondenserOptionCtl* MakeCondenserOptionCtl(clsK70& k70) {
+inline CondenserOptionCtl* MakeCondenserOptionCtl(CondenserUnits& k70) {
   return new CondenserOptionCtl(k70.dbcon);
 }
 
-inline CondenserSettingsCtl* MakeCondenserSettingsCtl(clsK70& k70) {
+inline CondenserSettingsCtl* MakeCondenserSettingsCtl(CondenserUnits& k70) {
   return new CondenserSettingsCtl(k70.curCondenser, k70.dbcon);
 }
 

@@ -4,7 +4,6 @@
 #include <QApplication>
 
 #include "gui/condensers/CondenserPages.h"
-#include "gui/support/PageRig.h"
 #include "widgets/TextField.h"
 
 namespace mortane::test {

@@ -15,12 +15,11 @@
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "hub/clsK70.h"
+#include "support/Rows.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/TextField.h"
 
 namespace mortane::test {
-
-using Lines = std::vector<std::string>;
 
 // What follows a call that failed in the journal.
 inline constexpr const char* kFailed = " ! LIB:80004005";

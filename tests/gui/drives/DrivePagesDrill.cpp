@@ -2,13 +2,10 @@
 #include "gui/drives/DrivePages.h"
 #include "gui/drives/DrivesTold.h"
 #include "gui/support/PageDrill.h"
+#include "gui/support/PageRig.h"
 
 namespace mortane::test {
 namespace {
-
-std::string Numbered(const char* array, int index) {
-  return std::string(array) + "_" + std::to_string(index);
-}
 
 template <auto Unit, auto Field>
 std::string ValueOf(clsK70& k70) {
@@ -145,7 +142,7 @@ PageDrillData FocusDrive() {
 
 PageDrillData Teaching() {
   PageDrillData data = Drill("Teaching", "Harbour", MakeControlFocusDriveCtl, ToldOfTeaching());
-  data.prepare = [](PageRig& rig) { rig.Find("FrameZNose").show(); };
+  data.prepare = [](PageWindow& rig) { rig.Find("FrameZNose").show(); };
   data.controls = {
       {"FrameZControl", "Z Control"},         {"ButtonStart", "Start"},
       {"CheckRealMove", "Is Real Move ?"},    {"FrameNosepiece", "Nosepiece"},

@@ -6,15 +6,11 @@
 #include <vector>
 
 #include "gui/support/AccessibleTree.h"
+#include "support/Rows.h"
 
 namespace mortane::test {
 
 using Told = std::vector<AccessibleControl>;
-
-inline Told operator+(Told first, const Told& second) {
-  first.insert(first.end(), second.begin(), second.end());
-  return first;
-}
 
 inline AccessibleControl Disabled(AccessibleControl control) {
   if (control.state == "read only") {

@@ -15,11 +15,6 @@ namespace {
 const Lines kMoveStart{"NosepieceDevice.BeginZPositioning()", "ZDriveDevice.MoveProfile = 9",
                        "ZDriveDevice.MoveOption = 0"};
 
-Lines operator+(Lines first, const Lines& second) {
-  first.insert(first.end(), second.begin(), second.end());
-  return first;
-}
-
 TEST(FocusPage, TheFirstLoadingPreparesTheDriveTwiceAndTheNextOnce) {
   PageRig rig(Standing(benches::Named("Harbour")));
   auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));

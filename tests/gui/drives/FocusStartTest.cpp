@@ -16,11 +16,6 @@ Lines Started(const std::string& target) {
           "DeviceList.Item(1).AsyncMode = false"};
 }
 
-Lines operator+(Lines first, const Lines& second) {
-  first.insert(first.end(), second.begin(), second.end());
-  return first;
-}
-
 class FocusStart : public testing::Test {
  protected:
   // Row 0 is selected and shows the text.

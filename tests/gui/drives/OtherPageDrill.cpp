@@ -1,6 +1,7 @@
 // The drill for the page of the other controls, on instruments that have one part of it each.
 #include "gui/drives/OtherPage.h"
 #include "gui/support/PageDrill.h"
+#include "gui/support/PageRig.h"
 
 namespace mortane::test {
 namespace {

@@ -3,11 +3,10 @@
 
 #include "common/Failure.h"
 #include "gui/drives/OtherPage.h"
+#include "support/Rows.h"
 
 namespace mortane::test {
 namespace {
-
-using Lines = std::vector<std::string>;
 
 // Fails at one step of its loading.
 class StumblingPage : public ControlOtherCtl {

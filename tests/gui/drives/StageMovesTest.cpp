@@ -10,11 +10,6 @@ namespace {
 constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
 
-Lines operator+(Lines first, const Lines& second) {
-  first.insert(first.end(), second.begin(), second.end());
-  return first;
-}
-
 TEST(StageMoves, AMoveShowsItsAxisInTheSelectedRowAndStoresNothing) {
   StageRig rig;
   rig.Select(1);

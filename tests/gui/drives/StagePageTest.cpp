@@ -12,11 +12,6 @@ namespace {
 
 const Lines kMoveStart{"NosepieceDevice.BeginPositioning()", "XYDriveDevice.MoveProfile = 9"};
 
-Lines operator+(Lines first, const Lines& second) {
-  first.insert(first.end(), second.begin(), second.end());
-  return first;
-}
-
 TEST(StagePage, TheFirstLoadingPreparesTheStageTwiceAndTheNextOnce) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeControlXYStageCtl(rig.k70()));

@@ -6,7 +6,6 @@
 #include "drawings/TurretDrawing.h"
 #include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"

@@ -10,22 +10,14 @@ namespace {
 
 constexpr char kDashes[] = "----------";
 
-std::string Numbered(const char* array, int index) {
-  return std::string(array) + "_" + std::to_string(index);
-}
-
 template <int Address>
-std::string CodeAt(clsK70& k70) {
+std::string CodeAt(FilterUnits& k70) {
   return std::to_string(k70.curFilter.code(Address));
 }
 
 template <int Code>
-void Mount(clsK70& k70) {
+void Mount(FilterUnits& k70) {
   k70.curFilter.code(1, Code);
-}
-
-void Unfit(Bench& bench) {
-  bench.instruments.back().Accessory(accessory::kFilterCube) = {};
 }
 
 std::vector<AccessibleControl> AccessibleTurret() {
@@ -94,7 +86,7 @@ PageDrillData Turret() {
   return data;
 }
 
-std::string FirstCube(clsK70& k70) {
+std::string FirstCube(FilterUnits& k70) {
   std::string name;
   std::int32_t exciter = 0;
   std::int32_t dichroic = 0;
@@ -104,8 +96,10 @@ std::string FirstCube(clsK70& k70) {
          std::to_string(barrier);
 }
 
-std::function<void(clsK70&)> Put(const char* name, int exciter, int dichroic, int barrier) {
-  return [=](clsK70& k70) { k70.dbFilter.Set_DbFilterOption(1, name, exciter, dichroic, barrier); };
+std::function<void(FilterUnits&)> Put(const char* name, int exciter, int dichroic, int barrier) {
+  return [=](FilterUnits& k70) {
+    k70.dbFilter.Set_DbFilterOption(1, name, exciter, dichroic, barrier);
+  };
 }
 
 PageDrillData OptionalCube() {
@@ -170,14 +164,15 @@ PageDrillData OptionalCube() {
 }
 
 template <FilterItem kItem>
-std::function<std::string(clsK70&)> NameOf(FilterItemNames<kItem> clsK70::*list, int code) {
-  return [=](clsK70& k70) { return (k70.*list).Name(code); };
+std::function<std::string(FilterUnits&)> NameOf(FilterItemNames<kItem> FilterUnits::*list,
+                                                int code) {
+  return [=](FilterUnits& k70) { return (k70.*list).Name(code); };
 }
 
 template <FilterItem kItem>
-std::function<void(clsK70&)> PutName(FilterItemNames<kItem> clsK70::*list, int code,
-                                     const char* name) {
-  return [=](clsK70& k70) { (k70.*list).Name(code, name); };
+std::function<void(FilterUnits&)> PutName(FilterItemNames<kItem> FilterUnits::*list, int code,
+                                          const char* name) {
+  return [=](FilterUnits& k70) { (k70.*list).Name(code, name); };
 }
 
 PageDrillData OptionalItem() {
@@ -209,23 +204,25 @@ PageDrillData OptionalItem() {
     }
   }
   data.shown = {
-      {"TextExciter_0", PutName(&clsK70::Exciter, 241, "Ex"), NameOf(&clsK70::Exciter, 241), "Ex"},
-      {"TextDichroic_3", PutName(&clsK70::Dichroic, 244, " Di "), NameOf(&clsK70::Dichroic, 244),
-       " Di "},
-      {"TextBarrier_8", PutName(&clsK70::Barrier, 249, "Ba"), NameOf(&clsK70::Barrier, 249), "Ba"},
-      {"TextExciter_1", PutName(&clsK70::Exciter, 242, ""), NameOf(&clsK70::Exciter, 242),
+      {"TextExciter_0", PutName(&FilterUnits::Exciter, 241, "Ex"),
+       NameOf(&FilterUnits::Exciter, 241), "Ex"},
+      {"TextDichroic_3", PutName(&FilterUnits::Dichroic, 244, " Di "),
+       NameOf(&FilterUnits::Dichroic, 244), " Di "},
+      {"TextBarrier_8", PutName(&FilterUnits::Barrier, 249, "Ba"),
+       NameOf(&FilterUnits::Barrier, 249), "Ba"},
+      {"TextExciter_1", PutName(&FilterUnits::Exciter, 242, ""), NameOf(&FilterUnits::Exciter, 242),
        "----------"},
-      {"TextDichroic_1", PutName(&clsK70::Dichroic, 242, "   "), NameOf(&clsK70::Dichroic, 242),
-       "----------"},
-      {"TextBarrier_1", PutName(&clsK70::Barrier, 242, "---------"), NameOf(&clsK70::Barrier, 242),
-       "---------"},
+      {"TextDichroic_1", PutName(&FilterUnits::Dichroic, 242, "   "),
+       NameOf(&FilterUnits::Dichroic, 242), "----------"},
+      {"TextBarrier_1", PutName(&FilterUnits::Barrier, 242, "---------"),
+       NameOf(&FilterUnits::Barrier, 242), "---------"},
   };
   data.edits = {
-      {"TextExciter_0", "Ex", NameOf(&clsK70::Exciter, 241), "Ex"},
-      {"TextExciter_8", "Ten chars.", NameOf(&clsK70::Exciter, 249), "Ten chars."},
-      {"TextDichroic_4", "Eleven char", NameOf(&clsK70::Dichroic, 245), "Eleven cha"},
-      {"TextBarrier_0", "", NameOf(&clsK70::Barrier, 241), ""},
-      {"TextBarrier_7", " Ba", NameOf(&clsK70::Barrier, 248), " Ba"},
+      {"TextExciter_0", "Ex", NameOf(&FilterUnits::Exciter, 241), "Ex"},
+      {"TextExciter_8", "Ten chars.", NameOf(&FilterUnits::Exciter, 249), "Ten chars."},
+      {"TextDichroic_4", "Eleven char", NameOf(&FilterUnits::Dichroic, 245), "Eleven cha"},
+      {"TextBarrier_0", "", NameOf(&FilterUnits::Barrier, 241), ""},
+      {"TextBarrier_7", " Ba", NameOf(&FilterUnits::Barrier, 248), " Ba"},
   };
   return data;
 }
@@ -248,9 +245,9 @@ PageDrillData Settings() {
   data.edits = {{"List1", "Violet\t405/20\tDM 430\t480/40", CodeAt<1>, "3"}};
   data.enabling = {
       {"optFilterSetting_0", "Harbour", {}, true},
-      {"optFilterSetting_0", "Harbour", Unfit, false},
-      {"optFilterSetting_1", "Harbour", Unfit, true},
-      {"optFilterSetting_2", "Harbour", Unfit, true},
+      {"optFilterSetting_0", "Harbour", Without<accessory::kFilterCube>, false},
+      {"optFilterSetting_1", "Harbour", Without<accessory::kFilterCube>, true},
+      {"optFilterSetting_2", "Harbour", Without<accessory::kFilterCube>, true},
   };
   data.tabOrder = {"optFilterSetting_0", "TabPocket", "place_1", "List1"};
   data.accessible = {told::Label("Filter Cubes"), told::Group("Filter Cubes"),

@@ -1,12 +1,10 @@
-// The filter page with its three sub-pages, and its place in the main window.
+// The filter page with its three sub-pages.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
 
-#include "app/MainPages.h"
 #include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
@@ -15,8 +13,6 @@
 
 namespace mortane::test {
 namespace {
-
-constexpr std::size_t kFilterPage = 2;
 
 Bench Unfitted() {
   Bench bench = benches::Named("Harbour");
@@ -93,16 +89,6 @@ TEST(FilterPageAlone, OpensOnTheOptionalCubesWithoutATurret) {
   EXPECT_TRUE(page.FilterOptionalQubeCtl1->isVisible());
   ClickButton(*page.optFilterSetting->option(0));
   EXPECT_EQ(page.CurrentItem(), 1);
-}
-
-TEST(FilterPageAlone, StandsInTheWindowWhereATurretIsMounted) {
-  const PageRow entry = MainPages()[kFilterPage];
-  {
-    PageRig rig("Harbour");
-    EXPECT_TRUE(entry.isEnabled(rig.k70()));
-  }
-  PageRig rig(Unfitted());
-  EXPECT_FALSE(entry.isEnabled(rig.k70()));
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 
 #include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"

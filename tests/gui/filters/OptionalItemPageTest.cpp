@@ -6,7 +6,6 @@
 
 #include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 

@@ -4,7 +4,6 @@
 
 #include "gui/filters/FilterPages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"
 #include "widgets/ValueLabel.h"

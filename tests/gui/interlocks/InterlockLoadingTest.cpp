@@ -4,7 +4,6 @@
 
 #include "gui/interlocks/InterlockPages.h"
 #include "gui/interlocks/ModelText.h"
-#include "gui/support/PageRig.h"
 
 namespace mortane::test {
 namespace {
@@ -57,7 +56,7 @@ class LoadingOn : public testing::TestWithParam<std::string> {
   }
 
   PageRig rig{GetParam(), Link::None};
-  clsK70& k70 = rig.k70();
+  InterlockPageUnits& k70 = rig.k70();
 };
 
 TEST_P(LoadingOn, TheFirstSubPageChangesNothing) {

@@ -21,8 +21,8 @@ struct SwitchArray {
   const char* labels;
   const char* boxes;
   std::vector<SwitchRow> rows;
-  std::function<std::int32_t(clsK70&, std::int32_t)> state;
-  std::function<void(clsK70&, std::int32_t, std::int32_t)> put;
+  std::function<std::int32_t(InterlockPageUnits&, std::int32_t)> state;
+  std::function<void(InterlockPageUnits&, std::int32_t, std::int32_t)> put;
 };
 
 const SwitchArray kObservation{
@@ -39,8 +39,10 @@ const SwitchArray kObservation{
      {"Shutter", 7, 0},
      {"Analyzer", 8, 0},
      {"Condenser", 5, 1}},
-    [](clsK70& k70, std::int32_t k) { return k70.ILObservation.Status(k); },
-    [](clsK70& k70, std::int32_t k, std::int32_t state) { k70.ILObservation.Status(k, state); },
+    [](InterlockPageUnits& k70, std::int32_t k) { return k70.ILObservation.Status(k); },
+    [](InterlockPageUnits& k70, std::int32_t k, std::int32_t state) {
+      k70.ILObservation.Status(k, state);
+    },
 };
 
 const SwitchArray kNosepiece{
@@ -52,24 +54,30 @@ const SwitchArray kNosepiece{
      {"Aperture Stop", 3, 1},
      {"Z Focus", 12, 1},
      {"XY Stage", 14, 1}},
-    [](clsK70& k70, std::int32_t k) { return k70.ILOther.Status(k); },
-    [](clsK70& k70, std::int32_t k, std::int32_t state) { k70.ILOther.Status(k, state); },
+    [](InterlockPageUnits& k70, std::int32_t k) { return k70.ILOther.Status(k); },
+    [](InterlockPageUnits& k70, std::int32_t k, std::int32_t state) {
+      k70.ILOther.Status(k, state);
+    },
 };
 
 const SwitchArray kLightPath{
     "lblLightPath",
     "CheckLightPath",
     {{"EPI Field Stop", 13, 1}, {"ND Filter", 1, 0}, {"DIA Field Stop", 2, 0}},
-    [](clsK70& k70, std::int32_t k) { return k70.ILOther.LightPathStatus(k); },
-    [](clsK70& k70, std::int32_t k, std::int32_t state) { k70.ILOther.LightPathStatus(k, state); },
+    [](InterlockPageUnits& k70, std::int32_t k) { return k70.ILOther.LightPathStatus(k); },
+    [](InterlockPageUnits& k70, std::int32_t k, std::int32_t state) {
+      k70.ILOther.LightPathStatus(k, state);
+    },
 };
 
 const SwitchArray kOpticalZoom{
     "lblOpticalZoom",
     "CheckOpticalZoom",
     {{"EPI Field Stop", 13, 0}, {"ND Filter", 1, 0}, {"DIA Field Stop", 2, 1}},
-    [](clsK70& k70, std::int32_t k) { return k70.ILOther.ZoomStatus(k); },
-    [](clsK70& k70, std::int32_t k, std::int32_t state) { k70.ILOther.ZoomStatus(k, state); },
+    [](InterlockPageUnits& k70, std::int32_t k) { return k70.ILOther.ZoomStatus(k); },
+    [](InterlockPageUnits& k70, std::int32_t k, std::int32_t state) {
+      k70.ILOther.ZoomStatus(k, state);
+    },
 };
 
 // `disabled` are the accessories whose switches are so.
@@ -107,9 +115,11 @@ void AddSwitches(PageDrillData& data, const SwitchArray& array) {
     const char* caption = row.state == 1 ? "ON" : "OFF";
     data.controls.push_back({Numbered(array.labels, i), row.caption});
     data.controls.push_back({box, caption});
-    const auto value = [&array, k](clsK70& k70) { return std::to_string(array.state(k70, k)); };
+    const auto value = [&array, k](InterlockPageUnits& k70) {
+      return std::to_string(array.state(k70, k));
+    };
     for (const int state : {0, 1}) {
-      const auto change = [&array, k, state](clsK70& k70) { array.put(k70, k, state); };
+      const auto change = [&array, k, state](InterlockPageUnits& k70) { array.put(k70, k, state); };
       data.shown.push_back({box, change, value, state == 1 ? "on" : "off"});
     }
     data.edits.push_back({box, caption, value, row.state == 1 ? "0" : "1"});
@@ -181,8 +191,9 @@ PageDrillData OtherWithoutStage() {
   data.name = "OtherWithoutStage";
   data.bench = "Lantern";
   data.make = MakeInterlockOtherCtl;
-  data.shown = {{"CheckNosepiece_4", [](clsK70& k70) { k70.ILOther.Status(12, 1); },
-                 [](clsK70& k70) { return std::to_string(k70.ILOther.Status(12)); }, "on"}};
+  data.shown = {{"CheckNosepiece_4", [](InterlockPageUnits& k70) { k70.ILOther.Status(12, 1); },
+                 [](InterlockPageUnits& k70) { return std::to_string(k70.ILOther.Status(12)); },
+                 "on"}};
   data.tabOrder = {"CheckNosepiece_0", "CheckNosepiece_1", "CheckNosepiece_3", "CheckNosepiece_4"};
   // Nothing is on but what is unknown, and the version of the body hides the stage.
   const auto off = [](const SwitchRow&) { return 0; };
@@ -223,13 +234,15 @@ constexpr const char* kFactors[] = {"1.00", "0.95", "0.90", "0.85", "0.80",
                                     "0.75", "0.70", "0.65", "0.60", "0.55"};
 
 void AddFactorRow(PageDrillData& data, const FactorRow& row) {
-  const auto value = [field = row.value](clsK70& k70) {
+  const auto value = [field = row.value](InterlockPageUnits& k70) {
     return std::to_string(k70.ILOffset.*field);
   };
   data.controls.push_back({row.label, row.caption});
   data.controls.push_back({row.list, row.caption});
   for (std::int32_t code = 0; code < 10; ++code) {
-    const auto change = [field = row.value, code](clsK70& k70) { k70.ILOffset.*field = code; };
+    const auto change = [field = row.value, code](InterlockPageUnits& k70) {
+      k70.ILOffset.*field = code;
+    };
     data.shown.push_back({row.list, change, value, kFactors[code]});
     // The bench has code 5 for the ND filter and 0 for the others.
     if (code != (row.accessory == accessory::kNDFilter ? 5 : 0)) {

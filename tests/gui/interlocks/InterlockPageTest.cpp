@@ -11,7 +11,6 @@
 #include "gui/interlocks/InterlockPages.h"
 #include "gui/interlocks/ModelText.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/ComboBox.h"
 #include "widgets/PageHeader.h"
@@ -36,7 +35,7 @@ class InterlockPage : public testing::Test {
   CheckToggle& lamp() { return *page.InterlockObservationCtl1->CheckAccessories[0]; }
   CheckToggle& aperture() { return *page.InterlockOtherCtl1->CheckNosepiece[3]; }
   ComboBox& factor() { return *page.InterlockOffsetCtl1->ComboNDFilter; }
-  clsK70& k70() { return rig.k70(); }
+  InterlockPageUnits& k70() { return rig.k70(); }
 
   PageRig rig{"Harbour"};
   InterlockSettingsCtl& page = *MakeInterlockSettingsCtl(rig.k70());
@@ -69,7 +68,7 @@ TEST_F(InterlockPage, ArrowsChooseTheSection) {
 }
 
 // They edit other units than those that they show then.
-void ChangeModel(clsK70& k70) {
+void ChangeModel(InterlockPageUnits& k70) {
   k70.ILObservation.Status(4, 0);
   k70.ILOther.Status(3, 0);
   k70.ILOffset.curND = 9;
@@ -312,7 +311,7 @@ TEST(InterlockPageAlone, GoesToTheSectionThatTheNextMicroscopeHas) {
   auto& page = rig.Show(MakeInterlockSettingsCtl(rig.k70()));
   ClickButton(*page.optSettings->option(kCompensation));
   rig.k70().Disconnect();
-  ASSERT_TRUE(rig.k70().Connect(1));
+  rig.k70().Connect(1);
   rig.k70().Receive();
   page.LoadData();
   EXPECT_EQ(page.CurrentItem(), kOther);

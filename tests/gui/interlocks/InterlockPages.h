@@ -1,7 +1,7 @@
 // The pages of the interlock area over the units of a model.
 #pragma once
 
-#include "hub/clsK70.h"
+#include "gui/interlocks/InterlockPageUnits.h"
 #include "interlocks/InterlockObservationCtl.h"
 #include "interlocks/InterlockOffsetCtl.h"
 #include "interlocks/InterlockOtherCtl.h"
@@ -9,26 +9,26 @@
 
 namespace mortane::test {
 
-inline DriveFollowers FollowersOf(clsK70& k70) {
+inline DriveFollowers FollowersOf(InterlockPageUnits& k70) {
   const auto follow = [](std::int32_t& mode) {
     return [&mode](bool follows) { mode = compensation::ModeOf(follows); };
   };
   return {follow(k70.CZDrive.curFocusCompensation), follow(k70.CXYDrive.curFocusCompensation)};
 }
 
-inline InterlockObservationCtl* MakeInterlockObservationCtl(clsK70& k70) {
+inline InterlockObservationCtl* MakeInterlockObservationCtl(InterlockPageUnits& k70) {
   return new InterlockObservationCtl(k70.ILObservation);
 }
 
-inline InterlockOtherCtl* MakeInterlockOtherCtl(clsK70& k70) {
+inline InterlockOtherCtl* MakeInterlockOtherCtl(InterlockPageUnits& k70) {
   return new InterlockOtherCtl(k70.ILOther, FollowersOf(k70));
 }
 
-inline InterlockOffsetCtl* MakeInterlockOffsetCtl(clsK70& k70) {
+inline InterlockOffsetCtl* MakeInterlockOffsetCtl(InterlockPageUnits& k70) {
   return new InterlockOffsetCtl(k70.ILOffset);
 }
 
-inline InterlockSettingsCtl* MakeInterlockSettingsCtl(clsK70& k70) {
+inline InterlockSettingsCtl* MakeInterlockSettingsCtl(InterlockPageUnits& k70) {
   return new InterlockSettingsCtl({k70.ILObservation, k70.ILOther, k70.ILOffset}, FollowersOf(k70));
 }
 

@@ -15,12 +15,12 @@ namespace mortane::test {
 namespace {
 
 template <std::int16_t clsLimitation::*Rule>
-std::string ValueOf(clsK70& k70) {
+std::string ValueOf(ObjectiveUnits& k70) {
   return std::to_string(k70.curLimit.*Rule);
 }
 
 template <std::int16_t clsLimitation::*Rule, std::int16_t Value>
-void Set(clsK70& k70) {
+void Set(ObjectiveUnits& k70) {
   k70.curLimit.*Rule = Value;
 }
 
@@ -171,7 +171,7 @@ TEST(LimitPage, StageDownReturnsWithAnotherController) {
   PageRig rig(std::move(bench), Link::None);
   auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
   for (const bool withStageDown : {false, true}) {
-    ASSERT_TRUE(rig.k70().Connect(withStageDown ? 2 : 1));
+    rig.k70().Connect(withStageDown ? 2 : 1);
     rig.k70().Receive();
     page.LoadData();
     EXPECT_EQ(page.optPreventIncrease->button(2)->isEnabled(), withStageDown);

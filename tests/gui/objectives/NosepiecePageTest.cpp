@@ -23,12 +23,12 @@ namespace {
 using Texts = std::vector<std::string>;
 
 template <int Address>
-std::string CodeAt(clsK70& k70) {
+std::string CodeAt(ObjectiveUnits& k70) {
   return std::to_string(k70.curNosepiece.code(Address));
 }
 
 template <int Code>
-void Mount(clsK70& k70) {
+void Mount(ObjectiveUnits& k70) {
   k70.curNosepiece.code(1, Code);
 }
 
@@ -292,11 +292,11 @@ TEST(NosepiecePage, LoadingGoesBackToTheFirstTab) {
 TEST(NosepiecePage, SeriesNamesAreThoseOfTheFirstMicroscope) {
   PageRig rig(List({"Quay", "Harbour", "Attic"}), Link::None);
   rig.prompts.AcceptAnyBox();
-  ASSERT_TRUE(rig.k70().Connect(1));
+  rig.k70().Connect(1);
   rig.k70().Receive();
   auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
   const Texts before = RowsOf(*page.ListSeries);
-  ASSERT_TRUE(rig.k70().Connect(2));
+  rig.k70().Connect(2);
   rig.k70().Receive();
   page.LoadData();
   EXPECT_EQ(RowsOf(*page.ListSeries), before);

@@ -1,27 +1,30 @@
 // The pages of the objective area over the units of a model.
 #pragma once
 
-#include "hub/clsK70.h"
+#include "gui/support/UnitPageRig.h"
 #include "objectives/ObjectiveCtl.h"
 #include "objectives/ObjectiveLimitCtl.h"
 #include "objectives/ObjectiveOptionCtl.h"
 #include "objectives/ObjectiveSettingsCtl.h"
+#include "objectives/ObjectiveUnits.h"
 
 namespace mortane::test {
 
-inline ObjectiveCtl* MakeObjectiveCtl(clsK70& k70) {
+using PageRig = UnitPageRig<ObjectiveUnits>;
+
+inline ObjectiveCtl* MakeObjectiveCtl(ObjectiveUnits& k70) {
   return new ObjectiveCtl(k70.curNosepiece, k70.DbNosepiece);
 }
 
-inline ObjectiveLimitCtl* MakeObjectiveLimitCtl(clsK70& k70) {
+inline ObjectiveLimitCtl* MakeObjectiveLimitCtl(ObjectiveUnits& k70) {
   return new ObjectiveLimitCtl(k70.curLimit);
 }
 
-inline ObjectiveOptionCtl* MakeObjectiveOptionCtl(clsK70& k70) {
+inline ObjectiveOptionCtl* MakeObjectiveOptionCtl(ObjectiveUnits& k70) {
   return new ObjectiveOptionCtl(k70.DbNosepiece);
 }
 
-inline ObjectiveSettingsCtl* MakeObjectiveSettingsCtl(clsK70& k70) {
+inline ObjectiveSettingsCtl* MakeObjectiveSettingsCtl(ObjectiveUnits& k70) {
   return new ObjectiveSettingsCtl(k70.curNosepiece, k70.DbNosepiece, k70.curLimit);
 }
 

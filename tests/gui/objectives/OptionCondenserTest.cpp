@@ -7,7 +7,6 @@
 #include "OptionTexts.h"
 #include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"

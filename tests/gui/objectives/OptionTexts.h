@@ -3,12 +3,12 @@
 
 #include <string>
 
-#include "hub/clsK70.h"
+#include "gui/objectives/ObjectivePages.h"
 
 namespace mortane::test {
 
 // Everything that a position holds, in one text.
-inline std::string StoredAt(clsK70& k70, std::int32_t position) {
+inline std::string StoredAt(ObjectiveUnits& k70, std::int32_t position) {
   std::string name;
   std::string magnification;
   std::string distance;
@@ -22,7 +22,7 @@ inline std::string StoredAt(clsK70& k70, std::int32_t position) {
          "|" + distance + "|" + aperture + "|" + std::to_string(condenser);
 }
 
-inline std::string First(clsK70& k70) {
+inline std::string First(ObjectiveUnits& k70) {
   return StoredAt(k70, 1);
 }
 

@@ -37,14 +37,23 @@ void ExpectLoadBoxesOnly(const ScriptedPrompts& prompts, const std::string& load
 
 }  // namespace
 
-Page& PageDrill::ShowOn(PageRig& rig) {
-  Page& page = rig.Show(GetParam().make(rig.k70()));
+std::unique_ptr<PageWindow> PageDrill::MakeRig(Link link) {
+  return GetParam().make.Rig(benches::Named(GetParam().bench), link);
+}
+
+std::unique_ptr<PageWindow> PageDrill::MakeRig(Bench bench) {
+  return GetParam().make.Rig(std::move(bench), Link::Received);
+}
+
+Page& PageDrill::ShowOn(PageWindow& rig) {
+  Page& page = rig.Show(GetParam().make(rig.microscope()));
   if (GetParam().prepare) GetParam().prepare(rig);
   return page;
 }
 
 TEST_P(PageDrill, BearsTheGivenControlsWithTheirCaptions) {
-  PageRig rig(GetParam().bench);
+  const auto made = MakeRig();
+  PageWindow& rig = *made;
   ShowOn(rig);
   for (const GivenControl& given : GetParam().controls) {
     EXPECT_EQ(CaptionOf(rig.Find(given.name)), given.text) << given.name;
@@ -53,38 +62,41 @@ TEST_P(PageDrill, BearsTheGivenControlsWithTheirCaptions) {
 
 TEST_P(PageDrill, ShowsTheUnit) {
   for (const ShownValue& row : GetParam().shown) {
-    PageRig rig(GetParam().bench);
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
     Page& page = ShowOn(rig);
-    row.change(rig.k70());
-    const std::string before = row.value(rig.k70());
+    row.change(rig.microscope());
+    const std::string before = row.value(rig.microscope());
     page.LoadData();
     if (GetParam().prepare) GetParam().prepare(rig);
     EXPECT_EQ(Shown(rig.Find(row.control)), row.shown) << row.control;
-    EXPECT_EQ(row.value(rig.k70()), before) << row.control << ": showing changes nothing";
+    EXPECT_EQ(row.value(rig.microscope()), before) << row.control << ": showing changes nothing";
   }
 }
 
 TEST_P(PageDrill, AnEditReachesTheUnitAtOnce) {
   for (const PageEdit& edit : GetParam().edits) {
-    PageRig rig(GetParam().bench);
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
     ShowOn(rig);
-    EXPECT_NE(edit.value(rig.k70()), edit.expected) << edit.control << ": the edit is none";
+    EXPECT_NE(edit.value(rig.microscope()), edit.expected) << edit.control << ": the edit is none";
     Enter(rig.Find(edit.control), QString::fromStdString(edit.entered));
-    EXPECT_EQ(edit.value(rig.k70()), edit.expected) << edit.control << " " << edit.entered;
+    EXPECT_EQ(edit.value(rig.microscope()), edit.expected) << edit.control << " " << edit.entered;
   }
 }
 
 TEST_P(PageDrill, RefusesABadTextAndKeepsTheFocus) {
   for (const RefusedText& row : GetParam().refused) {
-    PageRig rig(GetParam().bench);
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
     ShowOn(rig);
-    const std::string before = row.value(rig.k70());
+    const std::string before = row.value(rig.microscope());
     auto& field = rig.Find<TextField>(row.control);
     rig.prompts.ExpectBox(row.message, box::kOk);
     Enter(field, QString::fromStdString(row.entered));
     EXPECT_TRUE(field.hasFocus()) << row.control << " " << row.entered;
     EXPECT_EQ(field.text().toStdString(), row.entered);
-    EXPECT_EQ(row.value(rig.k70()), before) << row.control << " " << row.entered;
+    EXPECT_EQ(row.value(rig.microscope()), before) << row.control << " " << row.entered;
     EXPECT_TRUE(rig.prompts.AllAnswersUsed()) << row.control << " " << row.entered;
   }
 }
@@ -93,21 +105,24 @@ TEST_P(PageDrill, EnablesWhatTheMicroscopeHas) {
   for (const EnablingRule& rule : GetParam().enabling) {
     Bench bench = benches::Named(rule.bench);
     if (rule.change) rule.change(bench);
-    PageRig rig(std::move(bench));
+    const auto made = MakeRig(std::move(bench));
+    PageWindow& rig = *made;
     ShowOn(rig);
     EXPECT_EQ(rig.Find(rule.control).isEnabled(), rule.enabled) << rule.control << rule.bench;
   }
 }
 
 TEST_P(PageDrill, TheTabKeyGoesThroughThePageInOrder) {
-  PageRig rig(GetParam().bench);
+  const auto made = MakeRig();
+  PageWindow& rig = *made;
   ShowOn(rig);
   EXPECT_EQ(rig.TabOrder(), GetParam().tabOrder);
 }
 
 // The field that has the focus is left by the whole click, which a refused text forbids.
 TEST_P(PageDrill, NoButtonTakesTheFocusByThePressAlone) {
-  PageRig rig(GetParam().bench);
+  const auto made = MakeRig();
+  PageWindow& rig = *made;
   for (const auto* button : ShowOn(rig).findChildren<QAbstractButton*>()) {
     EXPECT_FALSE((button->focusPolicy() & Qt::ClickFocus) != 0)
         << button->objectName().toStdString() << " " << button->text().toStdString();
@@ -115,12 +130,14 @@ TEST_P(PageDrill, NoButtonTakesTheFocusByThePressAlone) {
 }
 
 TEST_P(PageDrill, AScreenReaderFindsWhatThePageShows) {
-  PageRig rig(GetParam().bench);
+  const auto made = MakeRig();
+  PageWindow& rig = *made;
   EXPECT_EQ(AccessibleTree(ShowOn(rig)), GetParam().accessible);
 }
 
 TEST_P(PageDrill, EveryStopOfTheTabKeyHasAnAccessibleName) {
-  PageRig rig(GetParam().bench);
+  const auto made = MakeRig();
+  PageWindow& rig = *made;
   ShowOn(rig);
   for (const std::string& stop : rig.TabOrder()) {
     QWidget& control = rig.Find(stop);
@@ -132,9 +149,10 @@ TEST_P(PageDrill, EveryStopOfTheTabKeyHasAnAccessibleName) {
 }
 
 TEST_P(PageDrill, LoadsAndSavesWithoutAController) {
-  PageRig rig(benches::Named(GetParam().bench), Link::None);
+  const auto made = MakeRig(Link::None);
+  PageWindow& rig = *made;
   if (!GetParam().loadBox.empty()) rig.prompts.AcceptAnyBox();
-  Page& page = rig.Show(GetParam().make(rig.k70()));
+  Page& page = rig.Show(GetParam().make(rig.microscope()));
   page.LoadData();
   page.SaveData();
   ExpectLoadBoxesOnly(rig.prompts, GetParam().loadBox);
@@ -143,14 +161,16 @@ TEST_P(PageDrill, LoadsAndSavesWithoutAController) {
 TEST_P(PageDrill, LoadsWhicheverCallOfTheControllerFails) {
   std::size_t calls = 0;
   {
-    PageRig rig(GetParam().bench);
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
     Page& page = ShowOn(rig);
     rig.journal.Clear();
     page.LoadData();
     calls = rig.journal.CallCount();
   }
   for (std::size_t k = 1; k <= calls; ++k) {
-    PageRig rig(GetParam().bench);
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
     Page& page = ShowOn(rig);
     if (!GetParam().loadBox.empty()) rig.prompts.AcceptAnyBox();
     rig.faults.FailCall(k);
@@ -161,7 +181,8 @@ TEST_P(PageDrill, LoadsWhicheverCallOfTheControllerFails) {
 }
 
 TEST_P(PageDrill, SavingAsksTheControllerNothing) {
-  PageRig rig(GetParam().bench);
+  const auto made = MakeRig();
+  PageWindow& rig = *made;
   Page& page = ShowOn(rig);
   rig.journal.Clear();
   page.SaveData();

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "gui/support/AccessibleTree.h"
-#include "gui/support/PageRig.h"
+#include "gui/support/ModelFunction.h"
 
 namespace mortane::test {
 
@@ -23,8 +23,8 @@ struct GivenControl {
 // as a text; showing must not alter it. The control shows `shown` after the next loading.
 struct ShownValue {
   std::string control;
-  std::function<void(clsK70&)> change;
-  std::function<std::string(clsK70&)> value;
+  ModelFunction<void> change;
+  ModelFunction<std::string> value;
   std::string shown;
 };
 
@@ -32,7 +32,7 @@ struct ShownValue {
 struct PageEdit {
   std::string control;
   std::string entered;
-  std::function<std::string(clsK70&)> value;
+  ModelFunction<std::string> value;
   std::string expected;
 };
 
@@ -40,7 +40,7 @@ struct PageEdit {
 struct RefusedText {
   std::string control;
   std::string entered;
-  std::function<std::string(clsK70&)> value;
+  ModelFunction<std::string> value;
   std::string message;
 };
 
@@ -57,8 +57,8 @@ struct EnablingRule {
 struct PageDrillData {
   std::string name;
   std::string bench;
-  std::function<Page*(clsK70&)> make;
-  std::function<void(PageRig&)> prepare;
+  PageMaker make;
+  std::function<void(PageWindow&)> prepare;
   std::vector<GivenControl> controls;
   std::vector<ShownValue> shown;
   std::vector<PageEdit> edits;
@@ -83,7 +83,10 @@ inline std::string PageDrillName(const testing::TestParamInfo<PageDrillData>& in
 class PageDrill : public testing::TestWithParam<PageDrillData> {
  protected:
   // Shows the page of the data on its bench, or on another.
-  static Page& ShowOn(PageRig& rig);
+  static Page& ShowOn(PageWindow& rig);
+  // The rig of the data's page on its bench, or on another.
+  static std::unique_ptr<PageWindow> MakeRig(Link link = Link::Received);
+  static std::unique_ptr<PageWindow> MakeRig(Bench bench);
 };
 
 }  // namespace mortane::test

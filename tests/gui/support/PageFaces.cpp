@@ -57,7 +57,7 @@ void ComeToRest() {
   QApplication::processEvents(QEventLoop::AllEvents, kLongest);
 }
 
-QImage PictureOf(PageRig& rig, const QWidget& control) {
+QImage PictureOf(PageWindow& rig, const QWidget& control) {
   QApplication::processEvents();
   const QPoint corner = control.mapTo(&rig.window(), QPoint());
   return rig.window().grab(QRect(corner, control.size())).toImage();
@@ -106,7 +106,8 @@ bool ShowsText(const QWidget& control) {
 TEST_P(PageDrill, ShowsAllControlsWholeAndApart) {
   for (const Face& face : kFaces) {
     const FontScope font(FontFor(face));
-    PageRig rig(GetParam().bench);
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
     Page& page = ShowOn(rig);
     QScrollArea window;  // as the program's, where a page that is too high is scrolled
     window.setWidgetResizable(true);
@@ -121,7 +122,8 @@ TEST_P(PageDrill, ShowsAllControlsWholeAndApart) {
 }
 
 TEST_P(PageDrill, IsNoWiderThanTheNarrowestWindow) {
-  PageRig rig(GetParam().bench);
+  const auto made = MakeRig();
+  PageWindow& rig = *made;
   EXPECT_LE(ShowOn(rig).minimumSizeHint().width(), kNarrowRoom.width());
 }
 
@@ -129,7 +131,8 @@ TEST_P(PageDrill, EveryStopOfTheTabKeyShowsItsFocus) {
   constexpr int kLeastPixels = 60;
   for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
     const SchemeScope scope(scheme);
-    PageRig rig(GetParam().bench);
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
     ShowOn(rig);
     for (const std::string& stop : rig.TabOrder()) {
       QWidget& control = rig.Find(stop);
@@ -145,7 +148,8 @@ TEST_P(PageDrill, EveryStopOfTheTabKeyShowsItsFocus) {
 TEST_P(PageDrill, TextCanBeReadOnWhatItStandsOn) {
   for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
     const SchemeScope scope(scheme);
-    PageRig rig(GetParam().bench);
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
     const Page& page = ShowOn(rig);
     for (const QWidget* control : page.findChildren<QWidget*>()) {
       if (!control->isVisible() || !control->isEnabled() || !ShowsText(*control)) continue;

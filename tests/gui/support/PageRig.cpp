@@ -1,28 +1,12 @@
 #include "gui/support/PageRig.h"
 
-#include <QApplication>
-#include <QTest>
-#include <QVBoxLayout>
-#include <stdexcept>
-
 namespace mortane::test {
 
-using namespace Qt::StringLiterals;
-namespace {
-
-// The room that a page has in the main window at its design size.
-constexpr QSize kPageRoom{1048, 560};
-constexpr int kMostStops = 100;
-
-}  // namespace
-
-PageRig::PageRig(Bench bench, Link link)
-    : RigLibrary(std::move(bench)), window_(std::make_unique<QWidget>()) {
+PageRig::PageRig(Bench bench, Link link) : PageWindow(std::move(bench)) {
   ProvideK70(library, prompts);
   if (link != Link::None) {
     prompts.AcceptAnyBox(link == Link::Reported);
-    const auto last = static_cast<std::int32_t>(simulated.bench().instruments.size()) - 1;
-    EXPECT_TRUE(GetK70().Connect(last));
+    EXPECT_TRUE(GetK70().Connect(LastDevice()));
     GetK70().Receive();
     prompts.AcceptAnyBox(false);
     prompts.ClearRecords();
@@ -31,45 +15,8 @@ PageRig::PageRig(Bench bench, Link link)
 }
 
 PageRig::~PageRig() {
-  window_.reset();
+  CloseWindow();
   ReleaseK70();
-}
-
-void PageRig::ShowPage(Page* page) {
-  auto* column = new QVBoxLayout(window_.get());
-  column->setContentsMargins({});
-  column->addWidget(page);
-  elsewhere_ = new QPushButton(u"elsewhere"_s);
-  elsewhere_->setObjectName("elsewhere");
-  column->addWidget(elsewhere_);
-  window_->resize(kPageRoom);
-  page->LoadData();
-  window_->show();
-  window_->activateWindow();
-  QApplication::processEvents();
-}
-
-QWidget* PageRig::FindWidget(std::string_view name) {
-  const QString wanted = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-  if (auto* found = window_->findChild<QWidget*>(wanted)) return found;
-  std::string message = "no control " + std::string(name) + "; there are:";
-  for (const QWidget* child : window_->findChildren<QWidget*>()) {
-    if (!child->objectName().isEmpty()) message += " " + child->objectName().toStdString();
-  }
-  throw std::runtime_error(message);
-}
-
-std::vector<std::string> PageRig::TabOrder() {
-  std::vector<std::string> names;
-  elsewhere_->setFocus();
-  for (int i = 0; i < kMostStops; ++i) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    const QWidget* stop = QApplication::focusWidget();
-    if (stop == elsewhere_) return names;
-    names.push_back(stop->objectName().toStdString());
-  }
-  ADD_FAILURE() << "the Tab key never comes back";
-  return names;
 }
 
 }  // namespace mortane::test

@@ -1,16 +1,14 @@
 // The drill of the pages of the switches.
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
+#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
+#include "support/Rows.h"
 #include "support/ScriptedJoystick.h"
 #include "support/TempFolder.h"
 
 namespace mortane::test {
 namespace {
-
-std::string Numbered(const char* array, int index) {
-  return std::string(array) + "_" + std::to_string(index);
-}
 
 std::function<std::string(clsK70&)> BodyCode(std::int16_t position) {
   return [=](clsK70& k70) { return std::to_string(k70.curSwitch.Func(position)); };
@@ -37,8 +35,8 @@ AccessibleControl ShownIn(std::string name, std::string text) {
 }
 
 // Boxes about knobs have tests of their own.
-std::function<void(PageRig&)> SelectRow(int row) {
-  return [row](PageRig& rig) {
+std::function<void(PageWindow&)> SelectRow(int row) {
+  return [row](PageWindow& rig) {
     rig.prompts.AcceptAnyBox();
     ClickRow(rig.Find<ListBox>("ListView1"), row);
   };

@@ -7,6 +7,7 @@
 #include "gui/app/AppRig.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
+#include "support/Rows.h"
 #include "support/TempFolder.h"
 #include "widgets/ListBox.h"
 #include "widgets/OptionGroup.h"
@@ -16,8 +17,6 @@ namespace mortane::test {
 namespace {
 
 using Items = std::vector<int>;
-using Lines = std::vector<std::string>;
-
 constexpr std::int32_t kNobody = -1;
 
 // The page on a received microscope, and what its events say: "0 on", "0 off", "mode 1".

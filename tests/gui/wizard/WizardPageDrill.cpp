@@ -1,5 +1,6 @@
 // The drill of the wizard's own pages.
 #include "gui/support/PageDrill.h"
+#include "gui/support/PageRig.h"
 #include "wizard/SelSetupItemCtl.h"
 
 namespace mortane::test {

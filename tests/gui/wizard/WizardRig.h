@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "gui/app/AppRig.h"
+#include "support/Rows.h"
 #include "wizard/SadrelMainForm.h"
 #include "wizard/StepButton.h"
 #include "wizard/WizardSteps.h"
@@ -15,8 +16,6 @@
 namespace mortane::test {
 
 using WizardRig = BasicAppRig<SadrelMainForm, WizardSteps>;
-using Lines = std::vector<std::string>;
-
 // A page with one control of its own.
 class FakeStep : public FakePage {
  public:

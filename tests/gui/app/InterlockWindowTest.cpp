@@ -9,9 +9,13 @@
 #include "app/SelFileItemDlg.h"
 #include "app/SelScopeDlg.h"
 #include "gui/app/AppRig.h"
-#include "gui/interlocks/InterlockPages.h"
-#include "gui/interlocks/ModelText.h"
 #include "gui/support/PageActs.h"
+#include "interlocks/InterlockObservationCtl.h"
+#include "interlocks/InterlockOffsetCtl.h"
+#include "interlocks/InterlockOtherCtl.h"
+#include "interlocks/InterlockSettingsCtl.h"
+#include "interlocks/InterlockStates.h"
+#include "support/Rows.h"
 #include "support/TempFolder.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/ComboBox.h"
@@ -24,6 +28,16 @@ namespace mortane::test {
 namespace {
 
 constexpr std::size_t kInterlockPage = 4;
+
+// What a settings file holds, and what it leaves out of the interlocks and the drives.
+std::string ModelText(const clsK70& k70) {
+  DomDocument document;
+  k70.WriteSections(document);
+  return document.ToText() + "\n" + NosepieceStates(k70.ILOther) + "\n" +
+         LightPathStates(k70.ILOther) + "\n" + ZoomStates(k70.ILOther) + "\n" +
+         std::to_string(k70.CZDrive.curFocusCompensation) + " " +
+         std::to_string(k70.CXYDrive.curFocusCompensation);
+}
 
 struct WindowRow {
   const char* bench;
