@@ -6,7 +6,6 @@
 
 #include "common/CheckedIndex.h"
 #include "platform/Folder.h"
-#include "switches/GTJoy.h"
 #include "switches/ShortNumber.h"
 
 namespace mortane {
@@ -17,7 +16,7 @@ struct Direction {
   std::string_view rowName;
 };
 
-// Paired so by the program that reads the file.
+// Kept: "Right" goes with the row "X(<0)", as the program that reads the file pairs them.
 constexpr std::array<Direction, 4> kDirections{{
     {"Right", "Axis X(<0)"},
     {"Left", "Axis X(>0)"},
@@ -50,18 +49,24 @@ std::string NameOf(std::int32_t row) {
 
 }  // namespace
 
-JoypadAssignments::JoypadAssignments(Joystick& joystick, const std::string& applicationData)
-    : buttonCount_(GetJoyButtonCount(joystick)) {
+JoypadAssignments::JoypadAssignments(Joystick& joystick, const std::string& applicationData) {
   ini_.IniFilePath = SetupFile(applicationData);
-  Read();
+  TakeButtons(joystick);
 }
 
-void JoypadAssignments::Read() {
-  for (std::int32_t row = 1; row <= RowCount(); ++row) {
-    const std::int32_t number =
-        ini_.IniFilePath.empty() ? kNotThere : ini_.GetInt(kSection, KeyOf(row), kNotThere);
-    Code(row, number == kNotThere ? std::int16_t{0} : ShortOrZero(number));
-  }
+bool JoypadAssignments::TakeButtons(Joystick& joystick) {
+  const std::int32_t buttons = GetJoyButtonCount(joystick);
+  CheckedIndex(kDirectionCount + std::max(buttons, 0), 1, codes_.size());
+  const bool changed = buttons != buttonCount_;
+  buttonCount_ = buttons;
+  while (rowsRead_ < RowCount()) Read(++rowsRead_);
+  return changed;
+}
+
+void JoypadAssignments::Read(std::int32_t row) {
+  const std::int32_t number =
+      ini_.IniFilePath.empty() ? kNotThere : ini_.GetInt(kSection, KeyOf(row), kNotThere);
+  Code(row, number == kNotThere ? std::int16_t{0} : ShortOrZero(number));
 }
 
 std::int32_t JoypadAssignments::RowCount() const {

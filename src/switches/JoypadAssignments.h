@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Joystick.h"
+#include "switches/GTJoy.h"
 #include "switches/clsIniEdit.h"
 
 namespace mortane {
@@ -17,14 +18,19 @@ class JoypadAssignments {
  public:
   // Makes the folder of Setup.ini below `applicationData` and reads the codes, 0 for those that are
   // not there. Where that is empty the system names no such folder: nothing is read, and Save
-  // writes nothing. The joystick is asked for its buttons here, and not again. Raises a bounds
-  // failure for one with more than 21; Setup.ini is then as it was.
+  // writes nothing. Raises a bounds failure for a joystick with more than 21 buttons; Setup.ini is
+  // then as it was.
   JoypadAssignments(Joystick& joystick, const std::string& applicationData);
+
+  // Takes the number of buttons of the joystick that is plugged in now, and reads the codes of
+  // those that were not read before; the others stay as they are. True when the number has changed.
+  // Raises as the constructor does, and has changed nothing then.
+  bool TakeButtons(Joystick& joystick);
 
   // The rows that are shown, from 1: the four directions, then the buttons.
   std::vector<std::string> RowNames() const;
 
-  // The rows that show a function and are cleared. A joystick that gives no number of buttons
+  // The rows that show a function and are cleared. Kept: a joystick that gives no number of buttons
   // counts as one of -1 buttons, so that the fourth direction stands outside.
   std::int32_t CodeCount() const;
 
@@ -39,10 +45,11 @@ class JoypadAssignments {
 
  private:
   std::int32_t RowCount() const;
-  void Read();
+  void Read(std::int32_t row);
 
   clsIniEdit ini_;
-  std::int32_t buttonCount_;
+  std::int32_t buttonCount_ = kNoButtonCount;
+  std::int32_t rowsRead_ = 0;
   std::array<std::int16_t, 25> codes_{};
 };
 

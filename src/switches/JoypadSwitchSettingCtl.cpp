@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QHideEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -22,30 +23,25 @@ namespace {
 
 constexpr int kFunctionColumn = 1;
 
-std::unique_ptr<JoypadAssignments> ReadAssignments(Joystick& joystick,
-                                                   const std::string& applicationData) {
-  try {
-    return std::make_unique<JoypadAssignments>(joystick, applicationData);
-  } catch (const Failure&) {
-    return nullptr;
-  }
-}
-
 }  // namespace
 
-JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick,
-                                               const std::string& applicationData, QWidget* parent)
+JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick, std::string applicationData,
+                                               QWidget* parent)
     : CardPage(u"Joypad Switch Settings"_s, parent),
-      assignments_(ReadAssignments(joystick, applicationData)) {
+      joystick_(joystick),
+      applicationData_(std::move(applicationData)) {
   Frame1 = FrameBase;
   textSwFunc = ShownField("Function", FrameBase);
+  whyEmpty = CaptionLabel(
+      u"The joypad has more than 21 buttons. Their functions cannot be set here."_s, FrameBase);
+  whyEmpty->setWordWrap(true);
   ListView1 = new ReportList({u"Button"_s, u"Function"_s}, FrameBase);
   lstSwFunc = new ListBox(FrameBase);
   cmdAllClear = new QPushButton(u"All Clear"_s, FrameBase);
   ListView1->setAccessibleName(u"Button"_s);
   lstSwFunc->setAccessibleName(u"Function"_s);
   TakeFocusByClicks(*cmdAllClear);
-  cmdAllClear->setEnabled(assignments_ != nullptr);
+  TakeJoystick();
   BuildLayout();
   connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { SelectRow(row); });
   connect(lstSwFunc, &ListBox::selectionChanged, this, [this](int function) { Choose(function); });
@@ -60,6 +56,7 @@ void JoypadSwitchSettingCtl::BuildLayout() {
   auto* left = new QVBoxLayout;
   left->setSpacing(grid::kBetweenControls);
   left->addWidget(textSwFunc);
+  left->addWidget(whyEmpty);
   left->addWidget(ListView1, 1);
   auto* columns = new QHBoxLayout;
   columns->setSpacing(grid::kBetweenColumns);
@@ -69,13 +66,33 @@ void JoypadSwitchSettingCtl::BuildLayout() {
   FrameBase->body()->addWidget(cmdAllClear, 0, Qt::AlignRight);
 }
 
+bool JoypadSwitchSettingCtl::TakeJoystick() {
+  const bool fitted = fits_;
+  bool changed = !fitted;
+  try {
+    if (assignments_) {
+      changed = assignments_->TakeButtons(joystick_) || changed;
+    } else {
+      assignments_ = std::make_unique<JoypadAssignments>(joystick_, applicationData_);
+    }
+    fits_ = true;
+  } catch (const Failure&) {
+    fits_ = false;
+    changed = fitted;
+  }
+  cmdAllClear->setEnabled(fits_);
+  whyEmpty->setVisible(!fits_);
+  return changed;
+}
+
 void JoypadSwitchSettingCtl::LoadData() {
   lstSwFunc->clearRows();
   for (const SwitchFunction& function : JoypadFunctions()) {
     lstSwFunc->addRow(ToQString(function.name), static_cast<int>(function.code));
   }
+  EnableFunctions(false);
   ListView1->clearRows();
-  if (!assignments_) return;
+  if (!fits_) return;
   for (const std::string& name : assignments_->RowNames()) {
     ListView1->addCells({ToQString(name), {}});
   }
@@ -85,7 +102,12 @@ void JoypadSwitchSettingCtl::LoadData() {
 }
 
 void JoypadSwitchSettingCtl::SaveData() {
-  if (assignments_) assignments_->Save();
+  if (fits_) assignments_->Save();
+}
+
+void JoypadSwitchSettingCtl::showEvent(QShowEvent* event) {
+  if (!event->spontaneous() && TakeJoystick()) LoadData();
+  CardPage::showEvent(event);
 }
 
 void JoypadSwitchSettingCtl::hideEvent(QHideEvent* event) {
@@ -94,9 +116,18 @@ void JoypadSwitchSettingCtl::hideEvent(QHideEvent* event) {
   if (!event->spontaneous()) SaveData();
 }
 
+// Without a row there is nothing to give a function to.
+void JoypadSwitchSettingCtl::EnableFunctions(bool enabled) {
+  const QString why = enabled ? QString() : u"Select a row to choose its function."_s;
+  lstSwFunc->setEnabled(enabled);
+  lstSwFunc->setToolTip(why);
+  lstSwFunc->viewport()->setToolTip(why);  // over the rows
+}
+
 // A choice goes on from the function that the row has.
 void JoypadSwitchSettingCtl::SelectRow(int row) {
   ListView1->SetBoldRow(row);
+  EnableFunctions(true);
   const QSignalBlocker quiet(lstSwFunc);
   lstSwFunc->setIndex(assignments_->Code(row + 1));
 }
@@ -109,7 +140,7 @@ void JoypadSwitchSettingCtl::Choose(int function) {
   ShowFunction(row, lstSwFunc->text(function));
 }
 
-// Numbers, and names again after the next loading.
+// Kept: the rows show numbers, and names again after the next loading.
 void JoypadSwitchSettingCtl::ClearAll() {
   assignments_->Clear();
   for (std::int32_t i = 1; i <= assignments_->CodeCount(); ++i) {

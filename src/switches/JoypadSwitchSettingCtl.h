@@ -7,6 +7,7 @@
 #include "widgets/CardPage.h"
 #include "widgets/Control.h"
 
+class QLabel;
 class QPushButton;
 
 namespace mortane {
@@ -19,14 +20,15 @@ class ReportList;
 class TextField;
 
 // The assignments are read when the page is made, and saved when it is hidden and when it is
-// destroyed, whether it was ever shown or not. A joystick with more buttons than there are
-// assignments makes the page useless: it shows no row and saves nothing.
+// destroyed, whether it was ever shown or not. Whenever it is shown the joystick is asked again,
+// and one with other buttons gets its rows. One with more buttons than there are assignments leaves
+// the page without a row: it says so, and saves nothing.
 class JoypadSwitchSettingCtl : public CardPage {
   Q_OBJECT
 
  public:
-  // The joystick is asked here only. `applicationData` is the user's folder for it.
-  JoypadSwitchSettingCtl(Joystick& joystick, const std::string& applicationData,
+  // The joystick must live as long. `applicationData` is the user's folder for it.
+  JoypadSwitchSettingCtl(Joystick& joystick, std::string applicationData,
                          QWidget* parent = nullptr);
   ~JoypadSwitchSettingCtl() override;
 
@@ -38,18 +40,26 @@ class JoypadSwitchSettingCtl : public CardPage {
   Control<ReportList> ListView1{"ListView1"};
   Control<ListBox> lstSwFunc{"lstSwFunc"};
   Control<QPushButton> cmdAllClear{"cmdAllClear"};
+  Control<QLabel> whyEmpty{"whyEmpty"};  // shown while there is no row
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
 
  private:
   void BuildLayout();
+  // Takes what the joystick has now. True when the page shows something else.
+  bool TakeJoystick();
+  void EnableFunctions(bool enabled);
   void SelectRow(int row);
   void Choose(int function);
   void ClearAll();
   void ShowFunction(int row, const QString& text);
 
-  std::unique_ptr<JoypadAssignments> assignments_;  // empty for too many buttons
+  Joystick& joystick_;
+  std::string applicationData_;
+  std::unique_ptr<JoypadAssignments> assignments_;  // empty until a joystick's buttons fit
+  bool fits_ = false;  // the buttons of the joystick that was asked last
 };
 
 }  // namespace mortane

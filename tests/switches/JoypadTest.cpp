@@ -108,6 +108,29 @@ TEST_F(Joypad, ReadsItsKeysInPairsThatLookExchanged) {
   EXPECT_EQ(FunctionName(JoypadFunctions(), assignments.Code(1)), "Objective CW");
 }
 
+TEST_F(Joypad, TakesAnotherNumberOfButtonsAndReadsTheirKeysAlone) {
+  WriteSetup("[JoyPad]\nRight=1\nButton1=5\nButton2=6\n");
+  JoypadAssignments assignments = AssignmentsWithoutCount();
+  assignments.Code(1, 9);
+  joystick.capabilities = {kJoystickOk, 2};
+  EXPECT_TRUE(assignments.TakeButtons(joystick));
+  EXPECT_FALSE(assignments.TakeButtons(joystick));
+  EXPECT_EQ(assignments.CodeCount(), 6);
+  EXPECT_EQ(assignments.Code(1), 9);
+  EXPECT_EQ(assignments.Code(5), 5);
+  EXPECT_EQ(assignments.Code(6), 6);
+}
+
+TEST_F(Joypad, OfTooManyButtonsKeepsWhatItHad) {
+  JoypadAssignments assignments = Assignments(2);
+  joystick.capabilities = {kJoystickOk, 22};
+  EXPECT_THROW(assignments.TakeButtons(joystick), Failure);
+  EXPECT_EQ(assignments.CodeCount(), 6);
+  joystick.capabilities = {kJoystickOk, 21};
+  EXPECT_TRUE(assignments.TakeButtons(joystick));
+  EXPECT_EQ(assignments.CodeCount(), 25);
+}
+
 struct ValueRow {
   const char* value;
   int code;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QHideEvent>
+#include <QLabel>
 #include <QTest>
 #include <filesystem>
 #include <memory>
@@ -80,7 +81,7 @@ TEST_F(JoypadPage, OfMoreButtonsIsUselessAndLeavesTheFileAlone) {
   EXPECT_EQ(page->ListView1->rowCount(), 0);
   EXPECT_FALSE(page->cmdAllClear->isEnabled());
   ClickButton(*page->cmdAllClear);
-  ClickRow(*page->lstSwFunc, 3);
+  page->lstSwFunc->setIndex(3);
   EXPECT_EQ(text(), "");
   page->SaveData();
   page->LoadData();
@@ -150,7 +151,7 @@ TEST_F(JoypadPage, KeysInTheListOfFunctionsChooseTheNextOne) {
 
 TEST_F(JoypadPage, AFunctionWithoutARowGoesNowhere) {
   Open(2);
-  ClickRow(*page->lstSwFunc, 3);
+  page->lstSwFunc->setIndex(3);
   EXPECT_EQ(text(), "");
   EXPECT_EQ(functions(), Names(6, kDashes));
   page->SaveData();
@@ -182,13 +183,103 @@ TEST_F(JoypadPage, AllClearShowsNumbersUntilTheNextLoad) {
   EXPECT_EQ(Value("Button3"), 9) << "a button that the pad does not have";
 }
 
-TEST_F(JoypadPage, ReadsTheFileOnlyWhenItIsMade) {
+TEST_F(JoypadPage, ReadsAKeyOnceAndAsksTheJoystickWhenItIsMadeAndShown) {
   Open(1);
-  WriteSetup("[JoyPad]\nRight=43\n");
+  WriteSetup("[JoyPad]\nRight=43\nButton1=5\n");
   page->LoadData();
-  EXPECT_EQ(functions()[0], kDashes);
-  EXPECT_EQ(joystick.capabilityCalls, 1);
+  EXPECT_EQ(functions(), Names(5, kDashes));
+  EXPECT_EQ(joystick.capabilityCalls, 2);
   EXPECT_EQ(joystick.statusCalls, 0);
+}
+
+TEST_F(JoypadPage, WithoutARowTheListOfFunctionsIsDisabledAndSaysWhy) {
+  Open(2);
+  const QString why = "Select a row to choose its function.";
+  EXPECT_FALSE(page->lstSwFunc->isEnabled());
+  EXPECT_EQ(page->lstSwFunc->toolTip(), why);
+  EXPECT_EQ(page->lstSwFunc->viewport()->toolTip(), why);
+  ClickRow(*page->ListView1, 1);
+  EXPECT_TRUE(page->lstSwFunc->isEnabled());
+  EXPECT_EQ(page->lstSwFunc->toolTip(), "");
+  EXPECT_EQ(page->lstSwFunc->viewport()->toolTip(), "");
+  page->LoadData();
+  EXPECT_FALSE(page->lstSwFunc->isEnabled());
+}
+
+// A joystick that is plugged in, or exchanged, while the program runs.
+class LateJoypad : public JoypadPage {
+ protected:
+  void ShowAgainWith(std::int32_t result, std::int32_t buttons) {
+    page->hide();
+    joystick.capabilities = {result, buttons};
+    page->show();
+  }
+};
+
+TEST_F(LateJoypad, GetsItsRowsWhenThePageIsNextShown) {
+  WriteSetup("[JoyPad]\nRight=1\nDown=4\nButton1=13\nButton2=9\n");
+  joystick.Fail(kJoystickUnplugged);
+  OpenAsItIs();
+  Choose(0, 2);
+  ShowAgainWith(kJoystickOk, 2);
+  EXPECT_EQ(functions(), (Names{"Objective CCW", kDashes, kDashes, "Z Escape", "Shutter OPEN/CLOSE",
+                                "DIA Aperture Stop OPEN"}));
+  page.reset();
+  EXPECT_EQ(Value("Right"), 2);
+  EXPECT_EQ(Value("Button1"), 13);
+  EXPECT_EQ(Value("Button2"), 9);
+}
+
+TEST_F(LateJoypad, WithFewerButtonsLeavesTheKeysOfTheOthers) {
+  WriteSetup("[JoyPad]\nButton1=13\nButton2=9\n");
+  Open(2);
+  Choose(5, 7);
+  ShowAgainWith(kJoystickOk, 1);
+  EXPECT_EQ(rows().size(), 5U);
+  ShowAgainWith(kJoystickOk, 2);
+  EXPECT_EQ(functions()[5], "DIA Field Stop OPEN");
+  page.reset();
+  EXPECT_EQ(Value("Button2"), 7);
+}
+
+TEST_F(LateJoypad, WithAsManyButtonsKeepsSelectionAndText) {
+  Open(2);
+  Choose(5, 7);
+  ShowAgainWith(kJoystickOk, 2);
+  EXPECT_EQ(page->ListView1->index(), 5);
+  EXPECT_EQ(text(), "DIA Field Stop OPEN");
+}
+
+TEST_F(LateJoypad, WithTooManyButtonsSaysWhyThePageIsEmptyUntilOneFits) {
+  WriteSetup("[JoyPad]\nButton1=13\n");
+  const QString why = "The joypad has more than 21 buttons. Their functions cannot be set here.";
+  for (const std::int32_t first : {1, 22}) {
+    Open(first);
+    EXPECT_EQ(page->whyEmpty->isVisible(), first == 22);
+    ShowAgainWith(kJoystickOk, 22);
+    EXPECT_TRUE(page->whyEmpty->isVisible());
+    EXPECT_EQ(page->whyEmpty->text(), why);
+    EXPECT_EQ(page->ListView1->rowCount(), 0);
+    EXPECT_FALSE(page->cmdAllClear->isEnabled());
+    const std::string before = Setup();
+    page->SaveData();
+    EXPECT_EQ(Setup(), before);
+    ShowAgainWith(kJoystickOk, 1);
+    EXPECT_FALSE(page->whyEmpty->isVisible());
+    EXPECT_TRUE(page->cmdAllClear->isEnabled());
+    EXPECT_EQ(functions().back(), "Shutter OPEN/CLOSE") << first;
+    page.reset();
+    EXPECT_EQ(Value("Button1"), 13);
+  }
+}
+
+TEST_F(LateJoypad, AWindowThatComesBackFromTheTaskBarAsksNothing) {
+  Open(1);
+  const int before = joystick.capabilityCalls;
+  QShowEvent bySystem;
+  QSpontaneKeyEvent::setSpontaneous(&bySystem);
+  ASSERT_TRUE(qApp->notify(page.get(), &bySystem));
+  EXPECT_EQ(joystick.capabilityCalls, before);
 }
 
 TEST_F(JoypadPage, ALoadKeepsWhatWasChosenAndClearsTheSelection) {

@@ -203,6 +203,7 @@ PageDrillData Joypad() {
   data.name = "Joypad";
   data.bench = "Harbour";
   data.make = MakeJoypadSwitchSettingCtl;
+  data.prepare = SelectRow(0);
   data.controls = {{"Frame1", "Joypad Switch Settings"},
                    {"textSwFunc", "Function"},
                    {"ListView1", "Button"},
@@ -211,8 +212,8 @@ PageDrillData Joypad() {
   data.accessible = {told::Group("Joypad Switch Settings"),
                      told::Label("Joypad Switch Settings"),
                      ShownIn("Function", ""),
-                     told::List("Button", ""),
-                     told::List("Function", ""),
+                     told::List("Button", "Button Axis X(<0), Function -----------------"),
+                     told::List("Function", "-----------------"),
                      Button("All Clear")};
   data.tabOrder = {"ListView1", "lstSwFunc", "cmdAllClear"};
   return data;
