@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -14,6 +13,7 @@
 #include "model/OptionCodes.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
+#include "widgets/PairPanel.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -43,23 +43,23 @@ CondenserCassetteCtl::CondenserCassetteCtl(clsCondenser& cassette, const clsDbCo
     : CardPage(u"Set Condenser Data to Each Address"_s, parent),
       cassette_(cassette),
       condensers_(condensers) {
-  turret_ = new TurretDrawing(PlaceKind::Condensers, FrameBase);
-  auto* columns = new QHBoxLayout;
-  columns->setSpacing(kBesideTurret);
-  columns->addWidget(turret_);
-  auto* rows = new QGridLayout;
+  auto* columns = new PairPanel(FrameBase);
+  turret_ = new TurretDrawing(PlaceKind::Condensers, columns);
+  auto* lists = new QWidget(columns);
+  auto* rows = new QGridLayout(lists);
+  rows->setContentsMargins(kBesideTurret - grid::kBetweenColumns, 0, 0, 0);
   rows->setHorizontalSpacing(grid::kBetweenGroups);
   rows->setVerticalSpacing(grid::kBetweenControls);
   rows->setRowStretch(kRowCount, 1);
+  rows->setColumnStretch(2, 1);
   for (int row = 0; row < kRowCount; ++row) {
-    BuildRow(row);
+    BuildRow(row, lists);
     const auto i = static_cast<std::size_t>(row);
     rows->addWidget(Label1[i], row, 0);
     rows->addWidget(Combo1[i], row, 1);
   }
-  columns->addLayout(rows);
-  columns->addStretch();
-  FrameBase->body()->addLayout(columns, 1);
+  columns->SetParts(turret_, 0, lists, 1);
+  FrameBase->body()->addWidget(columns, 1);
 
   turret_->setAccessibleName(u"Condenser Turret"_s);
   const auto rowAt = [this](int place) { return ShownRows()[static_cast<std::size_t>(place)]; };
@@ -70,13 +70,13 @@ CondenserCassetteCtl::CondenserCassetteCtl(clsCondenser& cassette, const clsDbCo
   });
 }
 
-void CondenserCassetteCtl::BuildRow(int row) {
+void CondenserCassetteCtl::BuildRow(int row, QWidget* parent) {
   const auto i = static_cast<std::size_t>(row);
   const QString number = QString::number(row + 1);
-  Label1.Set(i, new QLabel(number, FrameBase));
+  Label1.Set(i, new QLabel(number, parent));
   Label1[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   Label1[i]->setMinimumWidth(QFontMetrics(BoldFont()).horizontalAdvance(number));
-  auto* combo = new ComboBox(FrameBase);
+  auto* combo = new ComboBox(parent);
   Combo1.Set(i, combo);
   combo->setAccessibleName(u"Address "_s + number);
   combo->setFixedWidth(kComboWidth);
@@ -142,7 +142,7 @@ void CondenserCassetteCtl::LoadRow(int row) {
   const auto add = [&](std::int32_t code) {
     return combo->addRow(QString::fromStdString(condensers_.Name(code)), code);
   };
-  // An empty address selects nothing, although its code has an entry.
+  // Kept: an empty address selects nothing, although its code has an entry.
   add(kNoCondenser);
   for (const auto& codes : {condensers_.FixedCodesFor(row + 1), NamedOptions(condensers_)}) {
     for (const std::int32_t code : codes) {

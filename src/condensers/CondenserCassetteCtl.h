@@ -38,7 +38,7 @@ class CondenserCassetteCtl : public CardPage {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void BuildRow(int row);
+  void BuildRow(int row, QWidget* parent);
   void LoadRow(int row);
   void ChooseRow(int row);
   void UpdateTurret();

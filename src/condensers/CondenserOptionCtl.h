@@ -12,7 +12,7 @@ namespace mortane {
 class TextField;
 class clsDbCondenser;
 
-// A nameless one shows dashes. They are only a mark, but saving the page takes them for the name.
+// A nameless one shows dashes. Kept: saving takes them for the name.
 class CondenserOptionCtl : public CardPage {
  public:
   explicit CondenserOptionCtl(clsDbCondenser& condensers, QWidget* parent = nullptr);

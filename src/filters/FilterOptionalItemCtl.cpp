@@ -36,7 +36,7 @@ const std::array<FilterOptionalItemCtl::Column, kFilterItems> FilterOptionalItem
      &FilterOptionalItemCtl::TextBarrier},
 }};
 
-// The blank at the end of the caption is given so.
+// Kept: the caption ends in a blank.
 FilterOptionalItemCtl::FilterOptionalItemCtl(const FilterItemLists& items, QWidget* parent)
     : CardPage(u"Add Optional Filter Data "_s, parent), items_(items) {
   auto* cells = new QGridLayout;

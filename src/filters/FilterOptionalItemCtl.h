@@ -15,7 +15,7 @@ namespace mortane {
 
 class TextField;
 
-// A nameless item shows dashes. They are only a mark, but saving takes them for the name.
+// A nameless item shows dashes. Kept: saving takes them for the name.
 class FilterOptionalItemCtl : public CardPage {
   Q_OBJECT
 

@@ -107,7 +107,7 @@ void FilterOptionalQubeCtl::AddItem(const Item& item, std::int32_t code) {
   if (name != kUnnamedMark) (this->*item.list)->addRow(QString::fromStdString(name), code);
 }
 
-// A code without a row leaves the selection.
+// Kept: a code without a row leaves the selection.
 void FilterOptionalQubeCtl::SelectItem(const Item& item) {
   ListBox* list = this->*item.list;
   for (int row = 0; row < list->rowCount(); ++row) {

@@ -1,6 +1,5 @@
 #include "filters/FilterQubeCtl.h"
 
-#include <QHBoxLayout>
 #include <QPointer>
 #include <QVBoxLayout>
 
@@ -11,6 +10,7 @@
 #include "model/OptionCodes.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
+#include "widgets/PairPanel.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
@@ -22,6 +22,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kCharacters = 10;
+// Of the list's four columns.
+constexpr int kListCharacters = 62;
 
 // Where the list's columns begin at least, in quarters of a character.
 constexpr std::array kTabStops{64, 128, 192};
@@ -29,7 +31,7 @@ constexpr std::array kTabStops{64, 128, 192};
 // The cubes of the first two rows are those that the observation methods know.
 constexpr int kProtectedRows = 2;
 
-// On turrets of every size this address never shows the first cube.
+// Kept: on turrets of every size this address never shows the first cube.
 constexpr char kAddressOfSecondCube[] = "6";
 
 constexpr char kQuestion[] =
@@ -86,10 +88,7 @@ FilterQubeCtl::FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidge
 }
 
 QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
-  auto* panel = new QWidget(parent);
-  auto* row = new QHBoxLayout(panel);
-  row->setContentsMargins({});
-  row->setSpacing(grid::kBetweenColumns);
+  auto* panel = new PairPanel(parent);
   turret_ = new TurretDrawing(PlaceKind::Cubes, panel);
   turret_->setAccessibleName(u"Filter Turret"_s);
   List1 = new ListBox(panel);
@@ -97,8 +96,9 @@ QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
   QVector<ListColumn> columns;
   for (const Value& value : kValues) columns.append({QLatin1String(value.caption)});
   List1->SetColumns(columns);
-  row->addWidget(turret_);
-  row->addWidget(List1, 1);
+  List1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+  panel->SetParts(turret_, 0, List1, 1);
+  panel->SetCharactersBeside(kListCharacters);
   return panel;
 }
 
@@ -136,8 +136,8 @@ void FilterQubeCtl::LoadData() {
   if (!page.isNull()) ShowParts(List1->index());
 }
 
-// A fixed cube is selected by its code and not by its row. Behind a record that is not listed this
-// selects, and so mounts, another cube; the row is known only when all of them are there.
+// Kept: a fixed cube is selected by its code and not by its row. Behind a record that is not listed
+// this selects, and so mounts, another cube; the row is known only when all of them are there.
 int FilterQubeCtl::FillList(std::int32_t mounted) {
   int selected = -1;
   const std::int32_t fixed = cubes_.FixedCount();
@@ -166,7 +166,7 @@ int FilterQubeCtl::RowOf(std::int32_t code) const {
   return -1;
 }
 
-// A mounted cube that is not listed leaves the row of the tab before.
+// Kept: a mounted cube that is not listed leaves the row of the tab before.
 void FilterQubeCtl::ClickTab() {
   turret_->setIndex(TabPocket->index());
   if (const int row = RowOf(mounted()); row >= 0) List1->setIndex(row);

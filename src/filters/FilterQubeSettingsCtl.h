@@ -12,8 +12,8 @@ class clsDbFilter;
 class clsFilter;
 struct FilterItemLists;
 
-// Opens on the turret where there is one, otherwise on the user's cubes. Saving leaves the user's
-// cubes alone: a name that was typed there but not committed is not taken.
+// Opens on the turret where there is one, otherwise on the user's cubes. Kept: saving leaves the
+// user's cubes alone, so that a name that was typed there but not committed is not taken.
 class FilterQubeSettingsCtl : public ContainerPage {
   Q_OBJECT
 

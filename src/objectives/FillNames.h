@@ -8,8 +8,8 @@
 
 namespace mortane {
 
-// Names 0 to `highest`. A list that holds as many keeps its rows: the names of the first microscope
-// stay as long as the program runs, but those that came later than the page are taken.
+// Names 0 to `highest`. Kept: a list that holds as many keeps its rows, so that the names of the
+// first microscope stay as long as the program runs. Those that came later than the page are taken.
 template <typename NameOf>
 void FillNames(ListBox& list, std::int32_t highest, NameOf nameOf) {
   if (list.rowCount() == highest + 1) return;

@@ -13,6 +13,7 @@
 #include "objectives/clsNosepiece.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
+#include "widgets/PairPanel.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
@@ -26,6 +27,8 @@ namespace {
 constexpr int kSeriesWidth = 150;
 constexpr int kSeriesList = -1;
 constexpr int kNameColumn = 4;
+// Of both lists, up to the end of the names.
+constexpr int kListCharacters = 86;
 
 // Where the list's columns begin at least, in quarters of a character.
 constexpr std::array kTabStops{30, 60, 90, 120, 180};
@@ -96,16 +99,14 @@ ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& object
 }
 
 QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
-  auto* panel = new QWidget(parent);
-  auto* row = new QHBoxLayout(panel);
-  row->setContentsMargins({});
-  row->setSpacing(grid::kBetweenColumns);
+  auto* panel = new PairPanel(parent);
   turret_ = new TurretDrawing(PlaceKind::Objectives, panel);
   turret_->setAccessibleName(u"Nosepiece"_s);
-  ListSeries = new ListBox(panel);
+  auto* lists = new QWidget(panel);
+  ListSeries = new ListBox(lists);
   ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
   ListSeries->setFixedWidth(kSeriesWidth);
-  ListItem = new ListBox(panel);
+  ListItem = new ListBox(lists);
   ListItem->setAccessibleName(u"Objectives"_s);
   ListItem->SetColumns({{u"Type"_s},
                         {u"Mag."_s, Qt::AlignRight},
@@ -113,9 +114,16 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
                         {u"N.A."_s, Qt::AlignRight},
                         {u"Name"_s}});
   ListItem->SetNameColumn(kNameColumn);
-  row->addWidget(turret_);
+  for (ListBox* list : std::initializer_list<ListBox*>{ListSeries, ListItem}) {
+    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+  }
+  auto* row = new QHBoxLayout(lists);
+  row->setContentsMargins({});
+  row->setSpacing(grid::kBetweenColumns);
   row->addWidget(ListSeries);
   row->addWidget(ListItem, 1);
+  panel->SetParts(turret_, 0, lists, 1);
+  panel->SetCharactersBeside(kListCharacters);
   return panel;
 }
 
@@ -158,8 +166,8 @@ void ObjectiveCtl::FillSeries() {
             [this](std::int32_t index) { return objectives_.Series(index); });
 }
 
-// The new index of the series list mounts an objective of its own where the mounted one is not
-// listed; what is shown and selected goes by the code from before.
+// Kept: the new index of the series list mounts an objective of its own where the mounted one is
+// not listed; what is shown and selected goes by the code from before.
 void ObjectiveCtl::ClickTab() {
   const std::int32_t mounted = nosepiece_.code(address());
   const std::int32_t series = objectives_.SeriesCode(mounted);

@@ -23,7 +23,7 @@ class clsNosepiece;
 struct TurretItem;
 
 // Every selection in the list of objectives mounts that objective, also one that the program
-// makes. So browsing another series mounts its first objective, and so may loading.
+// makes. Kept: so browsing another series mounts its first objective, and so may loading.
 class ObjectiveCtl : public CardPage {
   Q_OBJECT
 

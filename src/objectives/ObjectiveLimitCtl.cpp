@@ -19,9 +19,10 @@ namespace {
 
 constexpr int kStageDown = 2;
 constexpr std::int32_t kControllerWithoutStageDown = 5;
-constexpr int kOptionColumn = 200;
+constexpr int kOptionColumn = 170;
 
-// A blank that the given text begins with stands before the edge, in line with the other captions.
+// Kept: one of the texts begins with a blank, which stands before the edge, so that the captions
+// are in line.
 QLabel* WrappedCaption(const char* text, QWidget* parent) {
   QLabel* label = CaptionLabel(QLatin1String(text), parent);
   label->setWordWrap(true);

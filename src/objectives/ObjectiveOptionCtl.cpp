@@ -135,7 +135,7 @@ void ObjectiveOptionCtl::RebuildCondensers() {
   }
 }
 
-// A stored code without a row stays stored.
+// Kept: a stored code without a row selects nothing and stays stored.
 void ObjectiveOptionCtl::SelectCondenser() {
   const bool listed = condenser_ >= 0 && condenser_ <= condenserCount_;
   ComboCondenser->setIndex(listed ? ComboCondenser->rowOf(condenser_) : -1);

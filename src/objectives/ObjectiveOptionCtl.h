@@ -30,7 +30,8 @@ class ObjectiveOptionCtl : public CardPage {
   explicit ObjectiveOptionCtl(clsDbNosepiece& objectives, QWidget* parent = nullptr);
 
   void LoadData() override;
-  // Stores once more; a number that may not be is stored as 0, and the box keeps it.
+  // Stores once more. Kept: a number that may not be, the dashes too, is stored as 0 without a
+  // word, and the box keeps what it shows.
   void SaveData() override;
 
   Control<TabStrip> TabStrip1{"TabStrip1"};

@@ -1,6 +1,7 @@
 #include "switches/ReportList.h"
 
 #include <QAbstractItemDelegate>
+#include <QHeaderView>
 
 #include "widgets/Theme.h"
 
@@ -25,6 +26,13 @@ QString ReportList::cell(int row, int column) const {
 
 void ReportList::SetCell(int row, int column, const QString& text) {
   topLevelItem(row)->setText(column, text);
+}
+
+QSize ReportList::sizeHint() const {
+  const QSize least = ListBox::sizeHint();
+  const int rows = rowCount() > 0 ? rowCount() * sizeHintForRow(0) : 0;
+  return {least.width(),
+          qMax(least.height(), 2 * frameWidth() + header()->sizeHint().height() + rows)};
 }
 
 int ReportList::WidthOf(const QModelIndex& cell) const {

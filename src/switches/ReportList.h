@@ -16,6 +16,8 @@ class ReportList : public ListBox {
   // Bold for that row and no other; -1 for none.
   void SetBoldRow(int row);
   [[nodiscard]] int boldRow() const { return boldRow_; }
+  // High enough for all rows.
+  [[nodiscard]] QSize sizeHint() const override;
 
  protected:
   // In bold, so that no column moves for the row that becomes bold.

@@ -16,7 +16,7 @@ struct FunctionRow {
 
 constexpr std::string_view kDashes = "-----------------";
 
-// A function's code is its place. The blank behind "Image Capture" belongs to the name.
+// A function's code is its place. Kept: the blank behind "Image Capture" belongs to the name.
 constexpr std::array<FunctionRow, 52> kFunctions{{
     {kDashes, OnPush::Yes, kDashes},
     {"Objective CW", OnPush::No, "Objective CW/CCW"},

@@ -38,6 +38,7 @@ void SwitchRowsCtl::MakeList(QWidget* parent) {
   ListView1 = new ReportList({u"Switch"_s, u"Function"_s}, parent);
   ListView1->setIconSize({kMarkIconSide, kMarkIconSide});
   ListView1->setAccessibleName(u"Switch"_s);
+  ListView1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
   connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { Select(row); });
 }
 
@@ -94,6 +95,7 @@ void SwitchRowsCtl::SetRows(std::vector<SwitchRow> rows) {
     ListView1->SetRowIcon(added, optBtn->markIcon(added));
     ShowNameOfMark(added);
   }
+  ListView1->updateGeometry();
 }
 
 const SwitchRow& SwitchRowsCtl::rowAt(int row) const {
@@ -154,6 +156,8 @@ void SwitchRowsCtl::ShowInCombos(int row) {
   for (ComboBox* combo : Combos()) {
     const QSignalBlocker quiet(combo);
     combo->setIndex(row < 0 ? -1 : combo->rowOf(static_cast<int>(Func(rowAt(row).position))));
+    combo->setEnabled(row >= 0);
+    combo->setToolTip(row < 0 ? u"Select a switch to choose its function."_s : QString());
   }
 }
 

@@ -38,7 +38,8 @@ class SwitchRowsCtl : public CardPage {
  public:
   SwitchDrawing* optBtn = nullptr;  // its marks are named after it, by the index of their row
   Control<ReportList> ListView1{"ListView1"};
-  // At one place, of which the chosen row shows one. They show the row's function if they have it.
+  // At one place, of which the chosen row shows one. They show the row's function if they have it;
+  // without a row they are disabled.
   Control<ComboBox> ComboCWCCW{"ComboCWCCW"};
   Control<ComboBox> ComboFunction{"ComboFunction"};
   Control<QPushButton> cmdDefault{"cmdDefault"};

@@ -11,6 +11,7 @@
 #include "switches/clsDbSwitch.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
+#include "widgets/PairPanel.h"
 #include "widgets/ShownName.h"
 #include "widgets/Theme.h"
 
@@ -49,24 +50,21 @@ SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor
           parent),
       switches_(switches) {
   Frame1 = FrameBase;
-  MakeDrawing(BodyPlan(), FrameBase);
+  auto* upper = new PairPanel(FrameBase);
+  MakeDrawing(BodyPlan(), upper);
   Picture4 = optBtn;
-  MakeList(FrameBase);
+  MakeList(upper);
+  ListView1->setMinimumWidth(ListWidth());
+  upper->SetParts(pictureFrame(), kDrawingShare, ListView1, kListShare);
   textSwFunc = ShownField("Function", FrameBase);
   MakeCombos(FrameBase);
   MakeButtons(FrameBase);
   lstSwFunc = new ListBox(FrameBase);
   lstSwFunc->hide();
-  BuildLayout();
+  BuildLayout(upper);
 }
 
-void SwitchSettingCtl::BuildLayout() {
-  ListView1->setMinimumWidth(ListWidth());
-  auto* upper = new QHBoxLayout;
-  upper->setSpacing(grid::kBetweenColumns);
-  upper->addWidget(pictureFrame(), kDrawingShare);
-  upper->addWidget(ListView1, kListShare);
-
+void SwitchSettingCtl::BuildLayout(QWidget* upper) {
   auto* editor = new InnerFrame({}, FrameBase);
   auto* strip = new QHBoxLayout;
   strip->setSpacing(grid::kBetweenControls);
@@ -76,7 +74,7 @@ void SwitchSettingCtl::BuildLayout() {
   strip->addLayout(ButtonRow());
   editor->body()->addLayout(strip);
 
-  FrameBase->body()->addLayout(upper, 1);
+  FrameBase->body()->addWidget(upper, 1);
   FrameBase->body()->addWidget(editor);
 }
 

@@ -11,8 +11,8 @@ class TextField;
 class clsControlTactor;
 class clsDbSwitch;
 
-// A dial code that begins no pair shows the function of the row above. Loading changes nothing in
-// the model.
+// Loading changes nothing in the model. Kept: a dial code that begins no pair shows the function of
+// the row above.
 class SwitchSettingCtl : public SwitchRowsCtl {
   Q_OBJECT
 
@@ -39,7 +39,7 @@ class SwitchSettingCtl : public SwitchRowsCtl {
   void ShowChosen(const QString& text) override;
 
  private:
-  void BuildLayout();
+  void BuildLayout(QWidget* upper);
   [[nodiscard]] QString DialText(std::int16_t code, const QString& otherwise) const;
 
   clsDbSwitch& switches_;

@@ -66,8 +66,8 @@ void TactorSwitchSettingCtl::LoadData() {
   SelectChosen();
 }
 
-// In standard mode page B offers the dial alone. Without a mode the names stay those of the page
-// before, and a list without rows stays empty.
+// In standard mode page B offers the dial alone. Kept: without a mode the names stay those of the
+// page before, and a list without rows stays empty.
 void TactorSwitchSettingCtl::LoadRows() {
   const bool pageB = optChg->selected() == kPageB;
   const int mode = OptMode->selected();

@@ -13,6 +13,7 @@ class QFrame;
 namespace mortane {
 
 class OptionGroup;
+class PairPanel;
 class SectionOption;
 class TabStrip;
 class TextField;
@@ -28,7 +29,7 @@ struct TactorProgram {
 };
 
 // Two pages of six switches each; in standard mode the second one has its dial alone. Loading
-// changes nothing in the model.
+// changes nothing in the model. Kept: a tab "New File" has no meaning for the data.
 class TactorSwitchSettingCtl : public SwitchRowsCtl {
   Q_OBJECT
 
@@ -78,6 +79,9 @@ class TactorSwitchSettingCtl : public SwitchRowsCtl {
 
   clsControlTactor& tactor_;
   TactorProgram program_;
+  PairPanel* pair_ = nullptr;
+  QWidget* left_ = nullptr;   // drawing and options
+  QWidget* right_ = nullptr;  // list and functions
 };
 
 }  // namespace mortane

@@ -1,4 +1,3 @@
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -14,6 +13,7 @@
 #include "widgets/ComboBox.h"
 #include "widgets/Icons.h"
 #include "widgets/OptionGroup.h"
+#include "widgets/PairPanel.h"
 #include "widgets/SectionBar.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
@@ -24,6 +24,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFileIconSide = 20;
+// Of a row of the list with the longest function.
+constexpr int kListCharacters = 58;
 
 QPushButton* FileButton(IconName icon, const char* caption, QWidget* parent) {
   auto* button = new QPushButton(parent);
@@ -61,17 +63,20 @@ void TactorSwitchSettingCtl::BuildControls() {
   btnNewFileOpen = FileButton(IconName::NewSheet, "New File", frmSetup);
   btnReadFileOpen = FileButton(IconName::Open, "Open", frmSetup);
   Command1 = FileButton(IconName::Save, "Save", frmSetup);
-  MakeDrawing(HandControllerPlan(), frmSetup);
+  pair_ = new PairPanel(frmSetup);
+  left_ = new QWidget(pair_);
+  right_ = new QWidget(pair_);
+  MakeDrawing(HandControllerPlan(), left_);
   optBtn->setObjectName("handController");
   OptMode = new OptionGroup(this);
-  frmMode = OptionFrame("Mode", {u"Standard"_s, u"Extend"_s}, *OptMode, frmSetup);
+  frmMode = OptionFrame("Mode", {u"Standard"_s, u"Extend"_s}, *OptMode, left_);
   optHandle = new OptionGroup(this);
-  frmHandle = OptionFrame("XY Knob", {u"Right"_s, u"Left"_s}, *optHandle, frmSetup);
+  frmHandle = OptionFrame("XY Knob", {u"Right"_s, u"Left"_s}, *optHandle, left_);
   BuildPageOptions();
-  MakeButtons(frmSetup);
-  MakeList(frmSetup);
-  textSW = ShownField("Switch", frmSetup);
-  MakeCombos(frmSetup);
+  MakeButtons(right_);
+  MakeList(right_);
+  textSW = ShownField("Switch", right_);
+  MakeCombos(right_);
   ComboSWFunc = new ComboBox(frmSetup);
   ComboSWFunc->hide();
 }
@@ -80,7 +85,7 @@ void TactorSwitchSettingCtl::BuildPageOptions() {
   optChg = new OptionGroup(this);
   const QStringList captions{u"A"_s, u"B"_s};
   for (int i = 0; i < captions.size(); ++i) {
-    auto* option = new SectionOption(captions[i], frmSetup, ChosenLook::Blue);
+    auto* option = new SectionOption(captions[i], right_, ChosenLook::Blue);
     option->setAccessibleName(captions[i]);
     option->SetEnds(i == 0, i + 1 == captions.size());
     optChg->add(option, i + 1);
@@ -101,6 +106,11 @@ void TactorSwitchSettingCtl::BuildLayout() {
   options->setSpacing(grid::kBetweenGroups);
   options->addWidget(frmMode);
   options->addWidget(frmHandle);
+  auto* left = new QVBoxLayout(left_);
+  left->setContentsMargins({});
+  left->setSpacing(grid::kBetweenControls);
+  left->addWidget(pictureFrame(), 1);
+  left->addLayout(options);
 
   auto* pages = new QHBoxLayout;
   pages->setSpacing(0);
@@ -108,24 +118,21 @@ void TactorSwitchSettingCtl::BuildLayout() {
   pages->addWidget(optChg->button(2));
   pages->addStretch();
   pages->addLayout(ButtonRow());
-  auto* right = new QVBoxLayout;
+  auto* right = new QVBoxLayout(right_);
+  right->setContentsMargins({});
   right->setSpacing(grid::kBetweenControls);
   right->addLayout(pages);
   right->addWidget(ListView1);
   right->addWidget(textSW);
   right->addLayout(ComboRow());
+  pair_->SetParts(left_, 1, right_, 1);
+  pair_->SetCharactersBeside(kListCharacters);
 
-  auto* body = new QGridLayout(frmSetup);
+  auto* body = new QVBoxLayout(frmSetup);
   body->setContentsMargins({});
-  body->setHorizontalSpacing(grid::kBetweenColumns);
-  body->setVerticalSpacing(grid::kBetweenControls);
-  body->addLayout(files, 0, 0, 1, 2);
-  body->addWidget(pictureFrame(), 1, 0);
-  body->addLayout(options, 2, 0);
-  body->addLayout(right, 1, 1, 2, 1);
-  body->setColumnStretch(0, 1);
-  body->setColumnStretch(1, 1);
-  body->setRowStretch(1, 1);
+  body->setSpacing(grid::kBetweenControls);
+  body->addLayout(files);
+  body->addWidget(pair_, 1);
   FrameBase->body()->addWidget(frmSetup, 1);
 }
 

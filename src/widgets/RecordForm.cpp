@@ -56,6 +56,8 @@ RecordForm::Column RecordForm::AddColumn(const char* caption, QWidget* value, in
   const Column column{CaptionLabel(QLatin1String(caption), frame_), new ListBox(frame_)};
   column.caption->setBuddy(column.list);
   column.list->setAccessibleName(column.caption->text());
+  // In a low window the page is scrolled, and the list keeps its rows.
+  column.list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
   if (qobject_cast<ValueLabel*>(value) != nullptr) value->setAccessibleName(column.caption->text());
   // Screen readers meet caption, value and list in this order.
   value->raise();

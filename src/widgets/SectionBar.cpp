@@ -46,8 +46,9 @@ void SectionOption::SetEnds(bool first, bool last) {
 
 QSize SectionOption::sizeHint() const {
   const QFontMetrics bold(BoldFont());
-  return {bold.horizontalAdvance(text()) + 2 * kSidePadding,
-          GridHeight(grid::kSectionHeight, *this)};
+  // A blue one stands in a line with buttons.
+  const int height = look_ == ChosenLook::Amber ? grid::kSectionHeight : grid::kFieldHeight;
+  return {bold.horizontalAdvance(text()) + 2 * kSidePadding, GridHeight(height, *this)};
 }
 
 // In a narrow window its text is elided.

@@ -97,6 +97,32 @@ TEST_F(BodySwitchPage, SelectsNothingByItself) {
   EXPECT_EQ(page.ComboFunction->index(), -1);
 }
 
+TEST_F(BodySwitchPage, WithoutARowTheListsOfFunctionsAreDisabledAndSayWhy) {
+  const std::initializer_list<ComboBox*> combos{page.ComboCWCCW, page.ComboFunction};
+  for (const ComboBox* combo : combos) {
+    EXPECT_FALSE(combo->isEnabled());
+    EXPECT_EQ(combo->toolTip(), "Select a switch to choose its function.");
+  }
+  ClickRow(*page.ListView1, 5);
+  for (const ComboBox* combo : combos) {
+    EXPECT_TRUE(combo->isEnabled());
+    EXPECT_EQ(combo->toolTip(), "");
+  }
+}
+
+// Where its drawing and list do not fit side by side.
+TEST_F(BodySwitchPage, StacksThemInANarrowWindow) {
+  EXPECT_LE(page.minimumSizeHint().width(), kSmallestRoom);
+  rig.window().resize(kSmallestRoom, 900);
+  QApplication::processEvents();
+  EXPECT_GT(page.ListView1->mapTo(&page, QPoint()).y(),
+            page.optBtn->mapTo(&page, page.optBtn->rect().bottomLeft()).y());
+  rig.window().resize(1048, 560);
+  QApplication::processEvents();
+  EXPECT_GT(page.ListView1->mapTo(&page, QPoint()).x(),
+            page.optBtn->mapTo(&page, page.optBtn->rect().topRight()).x());
+}
+
 TEST_F(BodySwitchPage, AChoiceWithoutARowDoesNothing) {
   rig.k70().COther.curAutoZ = 1;
   const std::vector<int> before = CodesOf(unit());

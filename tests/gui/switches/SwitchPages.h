@@ -12,6 +12,9 @@
 
 namespace mortane::test {
 
+// The width of a sub-page in a window of 800 x 500.
+inline constexpr int kSmallestRoom = 656;
+
 inline KnobModes KnobsOf(clsK70& k70) {
   return {k70.COther.curAutoZ, k70.COther.curAutoXY};
 }

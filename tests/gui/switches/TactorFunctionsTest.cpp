@@ -114,6 +114,19 @@ TEST_F(TactorFunctions, TheHiddenListTellsOfTheKnobsToo) {
   page.ComboSWFunc->setIndex(25);
 }
 
+// Page B has no row for the mark that is chosen.
+TEST_F(TactorFunctions, WithoutARowTheListsAreDisabled) {
+  EXPECT_FALSE(page.ComboFunction->isEnabled());
+  ClickRow(*page.ListView1, 1);
+  EXPECT_TRUE(page.ComboFunction->isEnabled());
+  page.OptMode->select(0);
+  page.optChg->select(2);
+  EXPECT_EQ(page.ListView1->rowCount(), 1);
+  EXPECT_FALSE(page.ComboFunction->isEnabled());
+  EXPECT_FALSE(page.ComboCWCCW->isEnabled());
+  EXPECT_EQ(page.ComboCWCCW->toolTip(), "Select a switch to choose its function.");
+}
+
 TEST_F(TactorFunctions, AChoiceWithoutARowDoesNothing) {
   const Codes before = CodesOf(unit());
   for (ComboBox* combo :

@@ -260,6 +260,19 @@ TEST_F(TactorPageTest, KeysOnTheDrawingGoThroughAllMarks) {
   }
 }
 
+TEST_F(TactorPageTest, AAndBAreAsHighAsTheButtonsBesideThem) {
+  EXPECT_EQ(page.optChg->button(1)->height(), page.cmdDefault->height());
+  EXPECT_EQ(page.optChg->button(2)->height(), page.cmdDefault->height());
+}
+
+TEST_F(TactorPageTest, StacksDrawingAndListInANarrowWindow) {
+  EXPECT_LE(page.minimumSizeHint().width(), kSmallestRoom);
+  rig.window().resize(kSmallestRoom, 900);
+  QApplication::processEvents();
+  EXPECT_GT(page.ListView1->mapTo(&page, QPoint()).y(),
+            page.optBtn->mapTo(&page, page.optBtn->rect().bottomLeft()).y());
+}
+
 TEST_F(TactorPageTest, KeysOnTheDrawingPassOverMarksWithoutARow) {
   Click(page.optChg, kPageB);
   Click(page.OptMode, kStandard);
