@@ -1,6 +1,8 @@
 #include "accessible/Accessible.h"
 
+#include <QAbstractButton>
 #include <QToolBar>
+#include <QToolButton>
 #include <array>
 
 #include "accessible/AccessibleControls.h"
@@ -31,6 +33,13 @@ QAccessibleInterface* Make(QObject* object) {
   return control == nullptr ? nullptr : new Interface(control);
 }
 
+// A tool button with a menu opens it, which the toolkit knows how to do.
+QAccessibleInterface* MakeButton(QObject* object) {
+  const auto* tool = qobject_cast<QToolButton*>(object);
+  if (tool != nullptr && tool->menu() != nullptr) return nullptr;
+  return Make<QAbstractButton, AccessibleButton>(object);
+}
+
 constexpr std::array kMakers{
     &Make<Card, AccessibleGroup>,
     &Make<InnerFrame, AccessibleGroup>,
@@ -44,12 +53,13 @@ constexpr std::array kMakers{
     &Make<TurretButton, AccessibleOption>,
     &Make<MarkButton, AccessibleOption>,
     &Make<PageButton, AccessiblePageButton>,
-    &Make<CheckToggle, AccessibleSwitch>,
+    &Make<CheckToggle, AccessibleToggle>,
     &Make<ValueLabel, AccessibleValue>,
     &Make<MicroscopeDrawing, AccessiblePicture>,
     &Make<ListBox, AccessibleList>,
     &Make<TabStrip, AccessibleTabs>,
     &Make<ComboBox, AccessibleCombo>,
+    &MakeButton,
 };
 
 // The toolkit asks for each class of the object from the derived to the base, and takes the first

@@ -1,8 +1,10 @@
 #include "accessible/AccessibleControls.h"
 
-#include <QAbstractButton>
+#include <QCheckBox>
+#include <QKeySequence>
+#include <QPushButton>
+#include <QRadioButton>
 
-#include "accessible/AccessibleClick.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/PageButton.h"
 #include "widgets/ValueLabel.h"
@@ -10,65 +12,103 @@
 namespace mortane {
 namespace {
 
-QAccessible::State Checkable(QAccessible::State state, bool checked) {
-  state.checkable = true;
-  state.checked = checked;
-  return state;
+QAccessible::Role RoleOf(const QAbstractButton& button) {
+  if (qobject_cast<const QRadioButton*>(&button) != nullptr) return QAccessible::RadioButton;
+  if (button.isCheckable())
+    return button.autoExclusive() ? QAccessible::RadioButton : QAccessible::CheckBox;
+  return QAccessible::Button;
+}
+
+// A doubled sign stands for itself, a single one marks the letter of the shortcut.
+QString WithoutMnemonic(const QString& caption) {
+  QString text;
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (caption[i] == u'&' && ++i == caption.size()) break;
+    text.append(caption[i]);
+  }
+  return text;
 }
 
 }  // namespace
 
-AccessibleOption::AccessibleOption(QAbstractButton* button)
-    : QAccessibleWidget(button, QAccessible::RadioButton), button_(*button) {}
+AccessibleButton::AccessibleButton(QAbstractButton* button)
+    : AccessibleButton(button, RoleOf(*button)) {}
 
-QAccessible::State AccessibleOption::state() const {
-  QAccessible::State state = Checkable(QAccessibleWidget::state(), isChosen());
+AccessibleButton::AccessibleButton(QAbstractButton* button, QAccessible::Role role)
+    : AccessibleControl(button, role), button_(*button) {}
+
+QString AccessibleButton::text(QAccessible::Text part) const {
+  const QString told = AccessibleControl::text(part);
+  if (!told.isEmpty()) return told;
+  if (part == QAccessible::Name) return WithoutMnemonic(button_.text());
+  if (part == QAccessible::Accelerator)
+    return button_.shortcut().toString(QKeySequence::NativeText);
+  return told;
+}
+
+QAccessible::State AccessibleButton::state() const {
+  QAccessible::State state = AccessibleControl::state();
+  state.checkable = button_.isCheckable();
+  state.checked = isChosen();
+  state.pressed = button_.isDown();
   // The Tab key stops at one option of a group; arrows reach the others.
-  state.focusable = button_.isEnabled();
+  if (role() == QAccessible::RadioButton) state.focusable = button_.isEnabled();
+  if (const auto* box = qobject_cast<const QCheckBox*>(&button_))
+    state.checkStateMixed = box->checkState() == Qt::PartiallyChecked;
+  if (const auto* key = qobject_cast<const QPushButton*>(&button_))
+    state.defaultButton = key->isDefault();
   return state;
 }
 
-QStringList AccessibleOption::actionNames() const {
+QStringList AccessibleButton::actionNames() const {
   if (!button_.isEnabled()) return {};
-  return {toggleAction(), setFocusAction()};
+  const bool toggles = role() == QAccessible::RadioButton || button_.isCheckable();
+  QStringList names{toggles ? toggleAction() : pressAction()};
+  if (state().focusable) names.append(setFocusAction());
+  return names;
 }
 
-void AccessibleOption::doAction(const QString& name) {
-  if (name != toggleAction()) return QAccessibleWidget::doAction(name);
-  ClickFor(button_);
+void AccessibleButton::doAction(const QString& name) {
+  if (name != pressAction() && name != toggleAction()) return AccessibleControl::doAction(name);
+  QAbstractButton& button = button_;
+  ActFor(button, [&button] { ClickFor(button); });
 }
 
-bool AccessibleOption::isChosen() const {
+QStringList AccessibleButton::keyBindingsForAction(const QString& name) const {
+  const QString shortcut = text(QAccessible::Accelerator);
+  const bool acts = name == pressAction() || name == toggleAction();
+  return acts && !shortcut.isEmpty() ? QStringList(shortcut) : QStringList();
+}
+
+bool AccessibleButton::isChosen() const {
   return button_.isChecked();
 }
 
 AccessiblePageButton::AccessiblePageButton(PageButton* button)
     : AccessibleOption(button), button_(*button) {}
 
+QAccessible::State AccessiblePageButton::state() const {
+  QAccessible::State state = AccessibleOption::state();
+  state.checkable = true;
+  return state;
+}
+
 bool AccessiblePageButton::isChosen() const {
   return button_.isSelected();
 }
 
-AccessibleSwitch::AccessibleSwitch(CheckToggle* toggle)
-    : QAccessibleWidget(toggle, QAccessible::CheckBox), toggle_(*toggle) {}
+AccessibleToggle::AccessibleToggle(CheckToggle* toggle)
+    : AccessibleButton(toggle, QAccessible::CheckBox), toggle_(*toggle) {}
 
-QString AccessibleSwitch::text(QAccessible::Text part) const {
-  return part == QAccessible::Value ? toggle_.text() : QAccessibleWidget::text(part);
+// The caption is no name.
+QString AccessibleToggle::text(QAccessible::Text part) const {
+  return part == QAccessible::Value ? toggle_.text() : AccessibleControl::text(part);
 }
 
-QAccessible::State AccessibleSwitch::state() const {
-  QAccessible::State state = Checkable(QAccessibleWidget::state(), toggle_.isChecked());
+QAccessible::State AccessibleToggle::state() const {
+  QAccessible::State state = AccessibleButton::state();
   state.checkStateMixed = toggle_.isUnknown();
   return state;
-}
-
-QStringList AccessibleSwitch::actionNames() const {
-  return QStringList(toggleAction()) + QAccessibleWidget::actionNames();
-}
-
-void AccessibleSwitch::doAction(const QString& name) {
-  if (name != toggleAction()) return QAccessibleWidget::doAction(name);
-  ClickFor(toggle_);
 }
 
 AccessibleValue::AccessibleValue(ValueLabel* label)

@@ -3,6 +3,7 @@
 
 #include <QAccessibleWidget>
 
+#include "accessible/AccessibleClick.h"
 #include "accessible/AccessibleText.h"
 
 class QAbstractButton;
@@ -20,14 +21,17 @@ class AccessibleGroup : public QAccessibleWidget {
   explicit AccessibleGroup(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
 };
 
-// One of several buttons of which at most one is chosen.
-class AccessibleOption : public QAccessibleWidget {
+// A button as the toolkit tells of it; only its actions are a person's click.
+class AccessibleButton : public AccessibleControl {
  public:
-  explicit AccessibleOption(QAbstractButton* button);
+  explicit AccessibleButton(QAbstractButton* button);
+  AccessibleButton(QAbstractButton* button, QAccessible::Role role);
 
+  [[nodiscard]] QString text(QAccessible::Text part) const override;
   [[nodiscard]] QAccessible::State state() const override;
   [[nodiscard]] QStringList actionNames() const override;
   void doAction(const QString& name) override;
+  [[nodiscard]] QStringList keyBindingsForAction(const QString& name) const override;
 
  protected:
   [[nodiscard]] virtual bool isChosen() const;
@@ -36,9 +40,18 @@ class AccessibleOption : public QAccessibleWidget {
   QAbstractButton& button_;
 };
 
+// One of several buttons of which at most one is chosen.
+class AccessibleOption : public AccessibleButton {
+ public:
+  explicit AccessibleOption(QAbstractButton* button)
+      : AccessibleButton(button, QAccessible::RadioButton) {}
+};
+
 class AccessiblePageButton : public AccessibleOption {
  public:
   explicit AccessiblePageButton(PageButton* button);
+
+  [[nodiscard]] QAccessible::State state() const override;
 
  protected:
   [[nodiscard]] bool isChosen() const override;
@@ -47,15 +60,13 @@ class AccessiblePageButton : public AccessibleOption {
   PageButton& button_;
 };
 
-// A switch is named by its label; the caption ON or OFF is its value.
-class AccessibleSwitch : public QAccessibleWidget {
+// A toggle is named by its label; the caption ON or OFF is its value.
+class AccessibleToggle : public AccessibleButton {
  public:
-  explicit AccessibleSwitch(CheckToggle* toggle);
+  explicit AccessibleToggle(CheckToggle* toggle);
 
   [[nodiscard]] QString text(QAccessible::Text part) const override;
   [[nodiscard]] QAccessible::State state() const override;
-  [[nodiscard]] QStringList actionNames() const override;
-  void doAction(const QString& name) override;
 
  private:
   CheckToggle& toggle_;

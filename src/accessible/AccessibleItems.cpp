@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include "accessible/AccessibleClick.h"
-
 namespace mortane {
 
 using namespace Qt::StringLiterals;
@@ -39,7 +37,12 @@ class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInte
   }
   [[nodiscard]] QStringList actionNames() const override { return {pressAction()}; }
   void doAction(const QString& name) override {
-    if (name == pressAction() && isValid()) owner_.choose(index_);
+    if (name != pressAction() || !isValid()) return;
+    AccessibleItems& owner = owner_;
+    const int index = index_;
+    ActFor(*owner.control(), [&owner, index] {
+      if (index < owner.itemCount()) owner.choose(index);
+    });
   }
   [[nodiscard]] QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
@@ -52,7 +55,7 @@ class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInte
 
 AccessibleItems::AccessibleItems(QWidget* widget, QAccessible::Role role,
                                  QAccessible::Role itemRole)
-    : QAccessibleWidget(widget, role), itemRole_(itemRole) {}
+    : AccessibleControl(widget, role), itemRole_(itemRole) {}
 
 AccessibleItems::~AccessibleItems() {
   for (const QAccessible::Id id : made_) {
@@ -88,7 +91,7 @@ QAccessibleInterface* AccessibleItems::focusChild() const {
 }
 
 QString AccessibleItems::text(QAccessible::Text part) const {
-  if (part != QAccessible::Value) return QAccessibleWidget::text(part);
+  if (part != QAccessible::Value) return AccessibleControl::text(part);
   const int chosen = chosenItem();
   return chosen < 0 ? QString() : itemName(chosen);
 }

@@ -1,14 +1,15 @@
 // Items that are no widgets to a screen reader.
 #pragma once
 
-#include <QAccessibleWidget>
 #include <QVector>
+
+#include "accessible/AccessibleClick.h"
 
 namespace mortane {
 
 // A control with items of which one may be chosen: its value is the chosen item's name. Each item
 // has an interface of its own, made when it is first asked for.
-class AccessibleItems : public QAccessibleWidget {
+class AccessibleItems : public AccessibleControl {
  public:
   AccessibleItems(QWidget* widget, QAccessible::Role role, QAccessible::Role itemRole);
 
@@ -19,6 +20,7 @@ class AccessibleItems : public QAccessibleWidget {
   [[nodiscard]] QAccessibleInterface* focusChild() const override;
   [[nodiscard]] QString text(QAccessible::Text part) const override;
 
+  [[nodiscard]] QWidget* control() const { return widget(); }
   [[nodiscard]] virtual int itemCount() const = 0;
   [[nodiscard]] virtual int chosenItem() const = 0;  // -1: none
   [[nodiscard]] virtual QString itemText(int index) const = 0;
@@ -33,7 +35,7 @@ class AccessibleItems : public QAccessibleWidget {
   [[nodiscard]] QRect itemRect(int index) const;  // on the screen
   [[nodiscard]] QAccessible::State itemState(int index) const;
   [[nodiscard]] QAccessible::Role itemRole() const { return itemRole_; }
-  // What a click on the item does.
+  // What a click on the item does; called where a person could click.
   virtual void choose(int index);
 
  protected:

@@ -43,10 +43,10 @@ QWidget& AccessibleList::itemCanvas() const {
 }
 
 void AccessibleList::completeState(int index, QAccessible::State& state) const {
-  const QVariant mark = list_.topLevelItem(index)->data(0, Qt::CheckStateRole);
-  if (!mark.isValid()) return;
+  const QVariant check = list_.topLevelItem(index)->data(0, Qt::CheckStateRole);
+  if (!check.isValid()) return;
   state.checkable = true;
-  state.checked = mark.toInt() == Qt::Checked;
+  state.checked = check.toInt() == Qt::Checked;
 }
 
 void AccessibleList::choose(int index) {
@@ -100,7 +100,10 @@ QStringList AccessibleCombo::actionNames() const {
 
 void AccessibleCombo::doAction(const QString& name) {
   if (name != showMenuAction()) return AccessibleItems::doAction(name);
-  if (combo_.isEnabled()) combo_.showPopup();
+  ComboBox& combo = combo_;
+  ActFor(combo, [&combo] {
+    if (TakeFocus(combo)) combo.showPopup();
+  });
 }
 
 void* AccessibleCombo::interface_cast(QAccessible::InterfaceType type) {
@@ -129,7 +132,8 @@ QWidget& AccessibleCombo::itemCanvas() const {
 }
 
 void AccessibleCombo::choose(int index) {
-  if (!combo_.isEnabled() || !TakeFocus(combo_)) return;
+  if (!TakeFocus(combo_)) return;
+  combo_.hidePopup();
   combo_.setCurrentIndex(index);
   Q_EMIT combo_.activated(index);
 }

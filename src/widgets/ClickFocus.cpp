@@ -31,16 +31,21 @@ class ClickFilter : public QObject {
   QAbstractButton& button_;
 };
 
-}  // namespace
-
-bool LeaveFocusedField() {
-  auto* field = qobject_cast<TextField*>(QApplication::focusWidget());
+bool Leave(QWidget* focused) {
+  auto* field = qobject_cast<TextField*>(focused);
   return field == nullptr || field->Leave();
 }
 
+}  // namespace
+
+bool LeaveFocusedField() {
+  return Leave(QApplication::focusWidget());
+}
+
+// The field may stand in a window that is not active: a screen reader's window can be.
 bool TakeFocus(QWidget& control) {
   const QPointer<QWidget> taker(&control);
-  if (!LeaveFocusedField() || taker == nullptr) return false;
+  if (!Leave(control.window()->focusWidget()) || taker == nullptr) return false;
   control.setFocus(Qt::OtherFocusReason);
   return true;
 }

@@ -31,6 +31,7 @@ Texts ItemNames(QObject* object) {
 
 void Press(QAccessibleInterface* item) {
   item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QApplication::processEvents();
 }
 
 class AccessibleItemsTest : public testing::Test {
@@ -235,7 +236,6 @@ TEST_F(AccessibleItemsTest, PressingAnItemOfAComboBoxChoosesIt) {
 TEST_F(AccessibleItemsTest, PressingIsNoneWhileATextIsRefusedOrTheControlDisabled) {
   field->SetCheck([](const QString&) { return false; });
   Press(InterfaceOf(list).child(2));
-  QApplication::processEvents();
   EXPECT_EQ(list->index(), -1);
   EXPECT_TRUE(field->hasFocus());
   field->SetCheck([](const QString&) { return true; });
@@ -251,9 +251,11 @@ TEST_F(AccessibleItemsTest, AComboBoxOpensItsList) {
   EXPECT_TRUE(box.state().collapsed);
   EXPECT_TRUE(box.state().hasPopup);
   box.actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+  QApplication::processEvents();
   EXPECT_TRUE(combo->hasFocus());
   EXPECT_TRUE(box.state().collapsed);
   box.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+  QApplication::processEvents();
   EXPECT_TRUE(combo->view()->isVisible());
   EXPECT_TRUE(box.state().expanded);
   EXPECT_FALSE(box.state().collapsed);
@@ -263,6 +265,7 @@ TEST_F(AccessibleItemsTest, AComboBoxOpensItsList) {
   combo->hidePopup();
   combo->setEnabled(false);
   box.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+  QApplication::processEvents();
   EXPECT_FALSE(combo->view()->isVisible());
 }
 

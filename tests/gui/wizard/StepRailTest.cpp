@@ -62,6 +62,7 @@ TEST(StepRail, LetsAScreenReaderChooseAStep) {
   const QSignalSpy chosen(&rig.rail, &StepRail::chosen);
   auto* step = QAccessible::queryAccessibleInterface(rig.rail.button(2));
   step->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  QApplication::processEvents();
   ASSERT_EQ(chosen.size(), 1);
   EXPECT_EQ(chosen[0][0], 2);
 }
