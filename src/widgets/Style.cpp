@@ -2,9 +2,12 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleOption>
 
+#include "widgets/AltKeys.h"
 #include "widgets/ElidedTip.h"
 #include "widgets/Paint.h"
 #include "widgets/StylePrimitives.h"
@@ -35,6 +38,12 @@ QRect OptionArea(const QStyleOptionButton& option) {
                             QRect(option.rect.topLeft(), QSize(width, option.rect.height())));
 }
 
+bool IsField(const QWidget& widget) {
+  return qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr;
+}
+
 bool IsPictureOnly(const QStyleOption& option) {
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
   return button != nullptr && button->text.isEmpty() && !button->icon.isNull();
@@ -42,7 +51,17 @@ bool IsPictureOnly(const QStyleOption& option) {
 
 }  // namespace
 
-Style::Style() : QProxyStyle(u"Fusion"_s) {}
+Style::Style() : QProxyStyle(u"Fusion"_s), altKeys_(new AltKeys(this)) {}
+
+void Style::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  if (IsField(*widget)) widget->installEventFilter(altKeys_);
+}
+
+void Style::unpolish(QWidget* widget) {
+  widget->removeEventFilter(altKeys_);
+  QProxyStyle::unpolish(widget);
+}
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
                        const QWidget* widget) const {

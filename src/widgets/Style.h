@@ -7,6 +7,8 @@ class QStyleOptionButton;
 
 namespace mortane {
 
+class AltKeys;
+
 // Every colour comes from the palette of the control or from Theme.h, so that one style serves both
 // palettes, the disabled group too, which a style sheet cannot name.
 class Style : public QProxyStyle {
@@ -15,6 +17,10 @@ class Style : public QProxyStyle {
  public:
   Style();
 
+  using QProxyStyle::polish;
+  void polish(QWidget* widget) override;
+  using QProxyStyle::unpolish;
+  void unpolish(QWidget* widget) override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -38,6 +44,8 @@ class Style : public QProxyStyle {
   void DrawComboBox(const QStyleOptionComplex& option, QPainter& painter) const;
   void DrawScrollBar(const QStyleOptionComplex& option, QPainter& painter,
                      const QWidget* widget) const;
+
+  AltKeys* altKeys_;
 };
 
 }  // namespace mortane
