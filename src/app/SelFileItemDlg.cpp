@@ -5,6 +5,7 @@
 #include "app/DialogLayout.h"
 #include "hub/clsK70.h"
 #include "widgets/ListBox.h"
+#include "widgets/QtText.h"
 
 namespace mortane {
 
@@ -31,8 +32,7 @@ SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent)
   OkButton->setObjectName("OkButton");
   CancelButton->setObjectName("CancelButton");
   for (const FileSection& section : kFileSections) {
-    Datalist->addRow(
-        QString::fromUtf8(section.label.data(), static_cast<qsizetype>(section.label.size())));
+    Datalist->addRow(ToQString(section.label));
   }
 
   ArrangeDialog(*this, nullptr, *List1, *OkButton, *CancelButton);

@@ -13,6 +13,7 @@
 #include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/Named.h"
+#include "widgets/QtText.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 
@@ -119,8 +120,7 @@ void SystemNameCtl::LoadData() {
   for (const AccessoryRow& row : kAccessoryTable) {
     const std::int32_t mounted = k70_.IsMounted(row.number);
     const std::string_view label = ReportLabel(row, mounted);
-    drawn.append({row.number, QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())),
-                  mounted});
+    drawn.append({row.number, ToQString(label), mounted});
   }
   drawing_->SetAccessories(drawn);
   ShowDrawingWhereItFits();

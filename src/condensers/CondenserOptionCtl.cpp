@@ -6,7 +6,7 @@
 #include "condensers/clsDbCondenser.h"
 #include "widgets/Card.h"
 #include "widgets/FoldingLayout.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 
@@ -42,7 +42,7 @@ QWidget* CondenserOptionCtl::BuildRow(int row) {
   field->setFont(FixedFont());
   field->SetLimit(kNameLength);
   field->SetWidthFor(kNameLength);
-  field->SetMark(ToQString(kUnnamedMark));
+  field->SetPlaceholder(ToQString(kUnnamedMark));
   Label11[i]->setBuddy(field);
 
   auto* cells = new QHBoxLayout(line);
@@ -57,7 +57,7 @@ QWidget* CondenserOptionCtl::BuildRow(int row) {
 void CondenserOptionCtl::LoadData() {
   for (int row = 0; row < kOptionPositions; ++row) {
     TextName[static_cast<std::size_t>(row)]->setText(
-        NameOrMark(condensers_.Name(CodeOf(row)), kUnnamedMark));
+        NameOrPlaceholder(condensers_.Name(CodeOf(row)), kUnnamedMark));
   }
 }
 

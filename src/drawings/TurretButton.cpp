@@ -91,9 +91,9 @@ TurretButton::TurretButton(PlaceKind kind, int number, QWidget* parent)
 
 void TurretButton::SetItem(const TurretItem& item) {
   item_ = item;
-  const QString details = item.mark.isEmpty() ? QString(kFree) : item.details;
+  const QString details = item.label.isEmpty() ? QString(kFree) : item.details;
   setAccessibleName(u"Address %1, %2"_s.arg(address()).arg(details));
-  setToolTip(item.mark.isEmpty() ? QString() : item.details);
+  setToolTip(item.label.isEmpty() ? QString() : item.details);
   update();
 }
 
@@ -110,26 +110,26 @@ double TurretButton::TileShape() {
 }
 
 double TurretButton::LeastPlaceWidth() const {
-  if (item_.mark.isEmpty()) return 0;
+  if (item_.label.isEmpty()) return 0;
   if (kind_ == PlaceKind::Objectives) {
-    return FaceWidthFor(item_.mark, MarkFont()) + 2 * (kRimInset + kMostRing);
+    return FaceWidthFor(item_.label, MarkFont()) + 2 * (kRimInset + kMostRing);
   }
   const QFontMetricsF metrics(MarkFont());
-  return qMin(metrics.horizontalAdvance(item_.mark),
+  return qMin(metrics.horizontalAdvance(item_.label),
               metrics.averageCharWidth() * kLeastCharacters) +
          2 * kTextMargin;
 }
 
-bool TurretButton::HasRoomForLargeMark() const {
+bool TurretButton::HasRoomForLargeLabel() const {
   const QFont font = FrameCaptionFont();
   if (kind_ == PlaceKind::Objectives) {
-    return FaceWidthFor(item_.mark, font) <= FaceWidth(placeSize_.width());
+    return FaceWidthFor(item_.label, font) <= FaceWidth(placeSize_.width());
   }
-  return QFontMetricsF(font).horizontalAdvance(item_.mark) <= placeSize_.width() - 2 * kTextMargin;
+  return QFontMetricsF(font).horizontalAdvance(item_.label) <= placeSize_.width() - 2 * kTextMargin;
 }
 
-void TurretButton::SetLargeMark(bool large) {
-  largeMark_ = large;
+void TurretButton::SetLargeLabel(bool large) {
+  largeLabel_ = large;
   update();
 }
 
@@ -205,9 +205,9 @@ void TurretButton::PaintObjective(QPainter& painter, const QRectF& place) const 
   face.moveCenter(place.center());
   painter.setBrush(underMouse() ? hovered : palette().color(QPalette::Active, QPalette::Base));
   painter.drawEllipse(face);
-  painter.setFont(largeMark_ ? FrameCaptionFont() : MarkFont());
+  painter.setFont(largeLabel_ ? FrameCaptionFont() : MarkFont());
   painter.setPen(palette().color(QPalette::WindowText));
-  painter.drawText(face, Qt::AlignCenter, item_.mark);
+  painter.drawText(face, Qt::AlignCenter, item_.label);
 }
 
 void TurretButton::PaintTile(QPainter& painter, const QRectF& place) const {
@@ -215,13 +215,13 @@ void TurretButton::PaintTile(QPainter& painter, const QRectF& place) const {
   painter.setBrush(palette().color(underMouse() ? QPalette::Midlight : QPalette::Base));
   PaintShape(painter, place);
   const double room = place.width() - 2 * kTextMargin;
-  const QFont font = largeMark_ ? FrameCaptionFont() : MarkFont();
+  const QFont font = largeLabel_ ? FrameCaptionFont() : MarkFont();
   painter.setFont(font);
   painter.setPen(palette().color(QPalette::WindowText));
   QRectF text(0, 0, room, QFontMetricsF(font).height());
   text.moveCenter({place.center().x(), place.top() + place.height() * kTextMiddle});
   painter.drawText(text, Qt::AlignCenter,
-                   QFontMetricsF(font).elidedText(item_.mark, Qt::ElideRight, room));
+                   QFontMetricsF(font).elidedText(item_.label, Qt::ElideRight, room));
   const double side = qMin(kMostGlyph, place.height() * kGlyphHeight);
   QRectF glyph(0, 0, side, side);
   glyph.moveCenter({place.center().x(), place.top() + place.height() * kGlyphMiddle});
@@ -265,7 +265,7 @@ void TurretButton::paintEvent(QPaintEvent*) {
     painter.setBrush(ToneColor(Tone::Amber));
     PaintShape(painter, around(kHaloOutside - 0.5));
   }
-  if (item_.mark.isEmpty()) {
+  if (item_.label.isEmpty()) {
     PaintFree(painter, place);
   } else if (kind_ == PlaceKind::Objectives) {
     PaintObjective(painter, place);

@@ -11,7 +11,8 @@ namespace mortane {
 // Ring colours as objectives bear them; the drawing's line for a magnification without one.
 Tone RingTone(double magnification);
 
-// Keys go on along the turret: Right and Down clockwise, Left and Up back.
+// Keys go on along the turret: Right and Down clockwise, Left and Up back. Lengths are in pixels
+// that do not depend on the scale of the screen; those of a place are told without its halo.
 class TurretButton : public QAbstractButton {
   Q_OBJECT
 
@@ -21,20 +22,20 @@ class TurretButton : public QAbstractButton {
   void SetItem(const TurretItem& item);
   [[nodiscard]] const TurretItem& item() const { return item_; }
   [[nodiscard]] int address() const;
-  // Sizes of the place are told without the halo around it.
   void SetPlaceSize(const QSizeF& size);
   [[nodiscard]] QSizeF PlaceSizeFor(double width) const;
-  static double TileShape();  // height by width
-  // So wide that the mark stands clear of the place's edge, or a part of it that can be read.
+  static double TileShape();  // height as a share of the width
+  // So wide that the label stands clear of the place's edge, or a part of it that can be read.
   [[nodiscard]] double LeastPlaceWidth() const;
-  // Whether the mark fits in the larger of the two fonts that marks are written in.
-  [[nodiscard]] bool HasRoomForLargeMark() const;
-  void SetLargeMark(bool large);
-  // How far the place with its halo reaches from its centre in that direction.
+  // Whether the label fits in the larger of the two fonts that labels are written in.
+  [[nodiscard]] bool HasRoomForLargeLabel() const;
+  void SetLargeLabel(bool large);
+  // How far the place with its halo reaches from its centre in that direction, a vector of
+  // length 1.
   [[nodiscard]] double ReachTowards(QPointF direction) const;
   // Whether the click at hand is one of the mouse or of the Space key.
   [[nodiscard]] bool isPressed() const { return pressed_; }
-  // Room around the place for halo and focus.
+  // Room on each side of the place for halo and focus.
   static double HaloRoom();
 
  Q_SIGNALS:
@@ -58,7 +59,7 @@ class TurretButton : public QAbstractButton {
   int number_;  // of the place, from 1
   TurretItem item_;
   QSizeF placeSize_;
-  bool largeMark_ = true;
+  bool largeLabel_ = true;
   bool pressed_ = false;
 };
 

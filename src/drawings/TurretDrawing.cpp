@@ -122,11 +122,11 @@ void TurretDrawing::SetItem(int index, const TurretItem& item) {
   if (index < 0 || index >= count() || buttons_[index]->item() == item) return;
   buttons_[index]->SetItem(item);
   UpdateLeastScale();
-  UpdateMarks();
+  UpdateLabels();
   Describe();
 }
 
-// Marks do not scale with the drawing, and must not touch the rings around them.
+// Labels do not scale with the drawing, and must not touch the rings around them.
 void TurretDrawing::UpdateLeastScale() {
   double least = kLeastScale;
   const double width = 2 * RingOf(kind_, count_).placeRadius;
@@ -195,18 +195,18 @@ void TurretDrawing::PlaceButtons() {
     buttons_[i]->setGeometry(area.toAlignedRect());
     buttons_[i]->SetPlaceSize(place);
   }
-  UpdateMarks();
+  UpdateLabels();
   update();
 }
 
-// In one size: it would seem to mean something if marks differed.
-void TurretDrawing::UpdateMarks() {
+// In one size: it would seem to mean something if labels differed.
+void TurretDrawing::UpdateLabels() {
   const auto end = buttons_.begin() + count_;
   const bool large = std::all_of(buttons_.begin(), end, [](const TurretButton* button) {
-    return button->HasRoomForLargeMark();
+    return button->HasRoomForLargeLabel();
   });
   std::for_each(buttons_.begin(), end,
-                [large](TurretButton* button) { button->SetLargeMark(large); });
+                [large](TurretButton* button) { button->SetLargeLabel(large); });
 }
 
 void TurretDrawing::changeEvent(QEvent* event) {

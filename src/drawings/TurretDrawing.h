@@ -16,7 +16,7 @@ class TurretButton;
 
 // Address 1 is at the top, the others follow clockwise. The places are buttons, of which one is
 // chosen; together they are one Tab stop, with arrows inside. Scales from 0.8 to 1.5 with its
-// height and never stretches; large fonts make it larger, so that marks stay within their places.
+// height and never stretches; large fonts make it larger, so that labels stay within their places.
 class TurretDrawing : public QWidget {
   Q_OBJECT
 
@@ -53,7 +53,7 @@ class TurretDrawing : public QWidget {
   void Describe();
   void PaintDisc();
   void UpdateLeastScale();
-  void UpdateMarks();
+  void UpdateLabels();
   [[nodiscard]] QPointF Center() const;
   [[nodiscard]] QRectF NumberArea(int index) const;
 

@@ -12,10 +12,10 @@ enum class PlaceKind {
   Condensers,  // the same with a small condenser
 };
 
-// `mark` stands on the place; an empty one makes it a free place. `details` follow the address in
+// `label` stands on the place; an empty one makes it a free place. `details` follow the address in
 // the accessible name. `pending` tells that it differs from what was last received or sent.
 struct TurretItem {
-  QString mark;
+  QString label;
   QString details;
   std::optional<double> magnification;
   bool pending = false;

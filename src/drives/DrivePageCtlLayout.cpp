@@ -11,7 +11,7 @@
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/OptionGroup.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

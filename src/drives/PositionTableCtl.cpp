@@ -10,7 +10,7 @@
 #include "common/Prompts.h"
 #include "drives/DrivePosition.h"
 #include "widgets/OptionGroup.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 

@@ -7,7 +7,7 @@
 
 #include "model/OptionCodes.h"
 #include "widgets/Card.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 
@@ -75,7 +75,7 @@ TextField* FilterOptionalItemCtl::BuildField(const Column& column, int row) {
   field->setFont(FixedFont());
   field->SetLimit(static_cast<int>(kOptionNameLength));
   field->SetWidthFor(kFieldCharacters);
-  field->SetMark(ToQString(kUnnamedMark));
+  field->SetPlaceholder(ToQString(kUnnamedMark));
   connect(field, &TextField::committed, this, [this, &column, row] { Store(column, row); });
   return field;
 }
@@ -84,7 +84,7 @@ void FilterOptionalItemCtl::LoadData() {
   for (const Column& column : kColumns) {
     std::int32_t code = kOptionBase;
     for (TextField* field : this->*column.fields) {
-      field->setText(NameOrMark(items_.Name(column.item, ++code), kUnnamedMark));
+      field->setText(NameOrPlaceholder(items_.Name(column.item, ++code), kUnnamedMark));
     }
   }
 }

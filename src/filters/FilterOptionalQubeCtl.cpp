@@ -4,8 +4,8 @@
 #include "filters/clsDbFilter.h"
 #include "model/OptionCodes.h"
 #include "widgets/ListBox.h"
+#include "widgets/QtText.h"
 #include "widgets/RecordForm.h"
-#include "widgets/ShownName.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 #include "widgets/ValueLabel.h"
@@ -49,7 +49,7 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterIte
       form.AddName(static_cast<int>(kOptionNameLength), kNameWidthCharacters);
   Label1 = name.label;
   TextName = name.field;
-  TextName->SetMark(ToQString(kUnnamedMark), TextField::LeftBlank::StaysBlank);
+  TextName->SetPlaceholder(ToQString(kUnnamedMark), TextField::LeftBlank::StaysBlank);
   for (const Item& item : kItems) BuildColumn(item, form);
   connect(TextName, &TextField::committed, this, &FilterOptionalQubeCtl::Store);
   connect(TabOption, &TabStrip::chosen, this, [this] {
@@ -88,7 +88,7 @@ void FilterOptionalQubeCtl::ReadCube() {
   std::string name;
   auto& [exciter, dichroic, barrier] = codes_;
   cubes_.Get_DbFilterOption(TabOption->caption().toInt(), name, exciter, dichroic, barrier);
-  TextName->setText(NameOrMark(name, kUnnamedMark));
+  TextName->setText(NameOrPlaceholder(name, kUnnamedMark));
 }
 
 void FilterOptionalQubeCtl::FillList(const Item& item) {

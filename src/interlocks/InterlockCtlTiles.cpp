@@ -3,7 +3,7 @@
 #include "common/CheckedIndex.h"
 #include "interlocks/Interlock.h"
 #include "widgets/CheckToggle.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 
 namespace mortane {
 namespace {
@@ -18,10 +18,10 @@ constexpr std::array<IconName, accessory::kCount> kIcons{
 
 }  // namespace
 
-SwitchTile* MakeAccessoryTile(std::int32_t accessory, std::string_view caption,
-                              SwitchTile::Ground ground, QWidget* parent) {
+ToggleTile* MakeAccessoryTile(std::int32_t accessory, std::string_view caption,
+                              ToggleTile::Ground ground, QWidget* parent) {
   const IconName icon = kIcons[CheckedIndex(accessory, 1, kIcons.size())];
-  return new SwitchTile(icon, ToQString(caption), ground, parent);
+  return new ToggleTile(icon, ToQString(caption), ground, parent);
 }
 
 void ShowState(CheckToggle& toggle, std::int32_t state) {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "interlocks/SwitchTile.h"
+#include "interlocks/ToggleTile.h"
 
 namespace mortane {
 
@@ -24,8 +24,8 @@ std::vector<const Row*> InPageOrder(const std::array<Row, kCount>& table, int Ro
 }
 
 // The tile of the accessory with that number, 1 to 14.
-SwitchTile* MakeAccessoryTile(std::int32_t accessory, std::string_view caption,
-                              SwitchTile::Ground ground, QWidget* parent);
+ToggleTile* MakeAccessoryTile(std::int32_t accessory, std::string_view caption,
+                              ToggleTile::Ground ground, QWidget* parent);
 
 // Brings the switch to on or off. Any other state leaves it.
 void ShowState(CheckToggle& toggle, std::int32_t state);

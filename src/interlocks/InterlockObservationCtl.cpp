@@ -35,10 +35,10 @@ InterlockObservationCtl::InterlockObservationCtl(clsInterLockObservation& interl
   FrameBase->body()->addLayout(tiles);
 }
 
-SwitchTile* InterlockObservationCtl::BuildTile(const ObservationAccessory& row) {
+ToggleTile* InterlockObservationCtl::BuildTile(const ObservationAccessory& row) {
   const auto i = static_cast<std::size_t>(row.pageIndex);
-  SwitchTile* tile = tiles_[i] =
-      MakeAccessoryTile(row.number, row.caption, SwitchTile::Ground::Card, FrameBase);
+  ToggleTile* tile = tiles_[i] =
+      MakeAccessoryTile(row.number, row.caption, ToggleTile::Ground::Card, FrameBase);
   lblAccessories.Set(i, tile->label());
   CheckAccessories.Set(i, tile->toggle());
   connect(tile->toggle(), &CheckToggle::toggled, this, [this, number = row.number](bool on) {
@@ -49,7 +49,7 @@ SwitchTile* InterlockObservationCtl::BuildTile(const ObservationAccessory& row) 
 
 void InterlockObservationCtl::LoadData() {
   for (const ObservationAccessory& row : kObservationAccessories) {
-    SwitchTile& tile = *tiles_[static_cast<std::size_t>(row.pageIndex)];
+    ToggleTile& tile = *tiles_[static_cast<std::size_t>(row.pageIndex)];
     const bool mounted = interlocks_.parent.IsControllable(row.number);
     const std::int32_t state = interlocks_.Status(row.number);
     tile.setEnabled(mounted && state != kUnknown);

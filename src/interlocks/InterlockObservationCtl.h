@@ -12,7 +12,7 @@ class QLabel;
 namespace mortane {
 
 class CheckToggle;
-class SwitchTile;
+class ToggleTile;
 class clsInterLockObservation;
 
 // The switch of an accessory that takes no part keeps the side that it had.
@@ -30,10 +30,10 @@ class InterlockObservationCtl : public CardPage {
   Controls<CheckToggle, kSwitchCount> CheckAccessories{"CheckAccessories"};
 
  private:
-  SwitchTile* BuildTile(const ObservationAccessory& row);
+  ToggleTile* BuildTile(const ObservationAccessory& row);
 
   clsInterLockObservation& interlocks_;
-  std::array<SwitchTile*, kSwitchCount> tiles_;
+  std::array<ToggleTile*, kSwitchCount> tiles_;
 };
 
 }  // namespace mortane

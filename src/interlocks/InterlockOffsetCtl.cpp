@@ -8,7 +8,7 @@
 #include "interlocks/clsInterLockOffset.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

@@ -32,7 +32,7 @@ struct InterlockOtherCtl::Change {
   Control<InnerFrame> InterlockOtherCtl::*frame;
   Controls<QLabel, Count> InterlockOtherCtl::*labels;
   Controls<CheckToggle, Count> InterlockOtherCtl::*boxes;
-  std::array<SwitchTile*, Count> InterlockOtherCtl::*tiles;
+  std::array<ToggleTile*, Count> InterlockOtherCtl::*tiles;
 };
 
 constexpr InterlockOtherCtl::Change<InterlockOtherCtl::kNosepieceCount>
@@ -99,8 +99,8 @@ InnerFrame* InterlockOtherCtl::BuildFrame(const Change<Count>& change) {
 }
 
 template <std::size_t Count>
-SwitchTile* InterlockOtherCtl::BuildTile(const Change<Count>& change, const OtherAccessory& row) {
-  SwitchTile* tile = MakeAccessoryTile(row.number, row.caption, SwitchTile::Ground::InnerFrame,
+ToggleTile* InterlockOtherCtl::BuildTile(const Change<Count>& change, const OtherAccessory& row) {
+  ToggleTile* tile = MakeAccessoryTile(row.number, row.caption, ToggleTile::Ground::InnerFrame,
                                        this->*change.frame);
   const auto i = static_cast<std::size_t>(row.*change.place);
   (this->*change.tiles)[i] = tile;
@@ -137,7 +137,7 @@ void InterlockOtherCtl::LoadNosepiece() {
 
 // True when the switch shows a state that is on or off.
 bool InterlockOtherCtl::LoadFollower(const OtherAccessory& row, bool nosepieceMounted) {
-  SwitchTile& tile = *nosepieceTiles_[static_cast<std::size_t>(row.nosepieceIndex)];
+  ToggleTile& tile = *nosepieceTiles_[static_cast<std::size_t>(row.nosepieceIndex)];
   const bool mounted = nosepieceMounted && interlocks_.parent.IsControllable(row.number);
   const std::int32_t state = mounted ? interlocks_.Status(row.number) : kUnknown;
   const bool follows = state != kUnknown;
@@ -153,7 +153,7 @@ bool InterlockOtherCtl::LoadFollower(const OtherAccessory& row, bool nosepieceMo
 void InterlockOtherCtl::LoadPath(const Change<kPathCount>& change) {
   const bool present = interlocks_.parent.IsMounted(change.accessory) != kNotMounted;
   for (const OtherAccessory* row : InPageOrder(kOtherAccessories, change.place)) {
-    SwitchTile& tile = *(this->*change.tiles)[static_cast<std::size_t>(row->*change.place)];
+    ToggleTile& tile = *(this->*change.tiles)[static_cast<std::size_t>(row->*change.place)];
     const bool mounted = present && interlocks_.parent.IsControllable(row->number);
     const std::int32_t state = (interlocks_.*change.state)(row->number);
     const bool known = state != kUnknown;

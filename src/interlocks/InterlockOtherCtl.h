@@ -14,7 +14,7 @@ namespace mortane {
 
 class CheckToggle;
 class InnerFrame;
-class SwitchTile;
+class ToggleTile;
 class clsInterLockOther;
 struct OtherAccessory;
 
@@ -56,7 +56,7 @@ class InterlockOtherCtl : public CardPage {
   template <std::size_t Count>
   InnerFrame* BuildFrame(const Change<Count>& change);
   template <std::size_t Count>
-  SwitchTile* BuildTile(const Change<Count>& change, const OtherAccessory& row);
+  ToggleTile* BuildTile(const Change<Count>& change, const OtherAccessory& row);
   void LoadNosepiece();
   bool LoadFollower(const OtherAccessory& row, bool nosepieceMounted);
   void LoadPath(const Change<kPathCount>& change);
@@ -64,9 +64,9 @@ class InterlockOtherCtl : public CardPage {
 
   clsInterLockOther& interlocks_;
   DriveFollowers drives_;
-  std::array<SwitchTile*, kNosepieceCount> nosepieceTiles_{};
-  std::array<SwitchTile*, kPathCount> lightPathTiles_{};
-  std::array<SwitchTile*, kPathCount> zoomTiles_{};
+  std::array<ToggleTile*, kNosepieceCount> nosepieceTiles_{};
+  std::array<ToggleTile*, kPathCount> lightPathTiles_{};
+  std::array<ToggleTile*, kPathCount> zoomTiles_{};
 };
 
 }  // namespace mortane

@@ -1,4 +1,4 @@
-#include "interlocks/SwitchTile.h"
+#include "interlocks/ToggleTile.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -24,13 +24,13 @@ struct Measures {
 constexpr Measures kOnCard{20, 20, 8, 96};
 constexpr Measures kInInnerFrame{0, 16, 2, 76};
 
-const Measures& MeasuresOn(SwitchTile::Ground ground) {
-  return ground == SwitchTile::Ground::Card ? kOnCard : kInInnerFrame;
+const Measures& MeasuresOn(ToggleTile::Ground ground) {
+  return ground == ToggleTile::Ground::Card ? kOnCard : kInInnerFrame;
 }
 
 }  // namespace
 
-SwitchTile::SwitchTile(IconName icon, const QString& caption, Ground ground, QWidget* parent)
+ToggleTile::ToggleTile(IconName icon, const QString& caption, Ground ground, QWidget* parent)
     : QWidget(parent),
       icon_(icon),
       ground_(ground),
@@ -52,17 +52,17 @@ SwitchTile::SwitchTile(IconName icon, const QString& caption, Ground ground, QWi
   texts->addStretch();
 }
 
-QSize SwitchTile::sizeHint() const {
+QSize ToggleTile::sizeHint() const {
   return QWidget::sizeHint().expandedTo({0, MeasuresOn(ground_).height});
 }
 
-void SwitchTile::SetShown(bool shown) {
+void ToggleTile::SetShown(bool shown) {
   label_->setVisible(shown);
   toggle_->setVisible(shown);
   setVisible(shown);
 }
 
-void SwitchTile::paintEvent(QPaintEvent*) {
+void ToggleTile::paintEvent(QPaintEvent*) {
   if (ground_ == Ground::Card) DrawInnerFrame(*this);
   QPainter painter(this);
   const bool fitted = isEnabledTo(window());

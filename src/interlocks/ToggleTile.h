@@ -13,14 +13,14 @@ class CheckToggle;
 
 // The label is the name of the switch. Disabled, the tile is drawn as not fitted, and the switch
 // keeps its side.
-class SwitchTile : public QWidget {
+class ToggleTile : public QWidget {
   Q_OBJECT
 
  public:
   // What the tile stands on: a card, where it has a frame of its own, or an inner frame.
   enum class Ground { Card, InnerFrame };
 
-  SwitchTile(IconName icon, const QString& caption, Ground ground, QWidget* parent = nullptr);
+  ToggleTile(IconName icon, const QString& caption, Ground ground, QWidget* parent = nullptr);
 
   [[nodiscard]] QLabel* label() const { return label_; }
   [[nodiscard]] CheckToggle* toggle() const { return toggle_; }

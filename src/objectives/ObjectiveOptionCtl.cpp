@@ -8,7 +8,7 @@
 #include "objectives/clsDbNosepiece.h"
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 #include "widgets/ValueLabel.h"
@@ -65,7 +65,7 @@ void ObjectiveOptionCtl::Connect() {
     condenser_ = ComboCondenser->data(row).toInt();
     Store();
   });
-  TextName->SetMark(ToQString(kUnnamedObjective));
+  TextName->SetPlaceholder(ToQString(kUnnamedObjective));
   connect(TextName, &TextField::committed, this, &ObjectiveOptionCtl::Store);
   for (const Number& number : kNumbers) ConnectNumber(number);
 }

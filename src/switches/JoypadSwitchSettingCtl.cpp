@@ -13,7 +13,7 @@
 #include "switches/SwitchFunctions.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

@@ -9,7 +9,7 @@
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/ComboBox.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

@@ -12,7 +12,7 @@
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
 #include "widgets/PairPanel.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/Theme.h"
 
 namespace mortane {

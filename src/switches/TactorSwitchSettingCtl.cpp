@@ -10,7 +10,7 @@
 #include "switches/clsDbSwitch.h"
 #include "widgets/ComboBox.h"
 #include "widgets/OptionGroup.h"
-#include "widgets/ShownName.h"
+#include "widgets/QtText.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 

@@ -72,7 +72,7 @@ class ListBox : public RowView {
 #pragma GCC diagnostic ignored "-Woverloaded-virtual"
   void selectionChanged(int row);
 #pragma GCC diagnostic pop
-  // For every change of a row's check mark, by the program or the user.
+  // For every change of a row's check, by the program or the user.
   void rowChecked(int row, bool checked);
 
  protected:

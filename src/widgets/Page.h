@@ -6,6 +6,14 @@
 namespace mortane {
 
 // A page gets the units that it edits when it is made, and outlives none of them.
+//
+// These operations may raise what a unit raises, Failure or another standard exception: a window
+// calls each within a step of a command, which shows it in a box. Handlers of controls run outside
+// of commands and let nothing out.
+//
+// A box runs the event loop, and the page may be destroyed while it stands. What follows a box in a
+// member function therefore asks a QPointer to the page that was taken before it; MoveScope does so
+// for a move, and TextField for its own check and its signal committed().
 class Page : public QWidget {
   Q_OBJECT
 

@@ -1,4 +1,4 @@
-// Names as name boxes show them.
+// Texts of the core as the toolkit's.
 #pragma once
 
 #include <QString>
@@ -13,9 +13,9 @@ inline QString ToQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// Blanks alone are no name: the mark stands in its place.
-inline QString NameOrMark(const std::string& name, std::string_view mark) {
-  return ToQString(Trim(name).empty() ? mark : std::string_view(name));
+// For a name box. Blanks alone are no name: the placeholder stands for it.
+inline QString NameOrPlaceholder(const std::string& name, std::string_view placeholder) {
+  return ToQString(Trim(name).empty() ? placeholder : std::string_view(name));
 }
 
 }  // namespace mortane

@@ -1,4 +1,8 @@
 // The boxes, frames and indicators that Style draws.
+//
+// Each fills the rectangle of its option, in the colours of the option's palette and after its
+// state. The painter is left as it was found, except for pen and brush. `widget` may be null; where
+// it is given, its properties (StyleProperties.h) count too.
 #pragma once
 
 #include <QRect>
@@ -21,10 +25,10 @@ void DrawButtonBox(const QStyleOption& option, QPainter& painter, const QWidget*
 void DrawRowBackground(const QStyleOption& option, QPainter& painter);
 void DrawFocusLine(const QStyleOption& option, QPainter& painter);
 void DrawToolButtonBox(const QStyleOption& option, QPainter& painter);
-inline constexpr int kScrollBarLeastHandle = 28;
+inline constexpr int kScrollBarLeastHandle = 28;  // pixels
 // A bar without end buttons: the handle may use its whole length.
 QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
-// Icon and text side by side; other tool buttons are as wide as `without`.
+// What a button with icon and text side by side takes; `without` for any other.
 QSize ToolButtonSize(const QStyleOptionToolButton& option, const QSize& without);
 void DrawToolButtonLabel(const QStyleOptionToolButton& option, QPainter& painter);
 void DrawHeaderSection(const QStyleOption& option, QPainter& painter);

@@ -47,16 +47,16 @@ TextField::TextField(QWidget* parent) : QLineEdit(parent) {
   setTextMargins(kTextMargin, 0, kTextMargin, 0);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   connect(this, &QLineEdit::textChanged, this, &TextField::ColourText);
-  connect(this, &QLineEdit::selectionChanged, this, &TextField::SelectMark);
-  connect(this, &QLineEdit::cursorPositionChanged, this, &TextField::SelectMark);
+  connect(this, &QLineEdit::selectionChanged, this, &TextField::SelectPlaceholder);
+  connect(this, &QLineEdit::cursorPositionChanged, this, &TextField::SelectPlaceholder);
 }
 
 void TextField::SetLimit(int characters) {
   setValidator(new TextValidator(characters, this));
 }
 
-void TextField::SetMark(const QString& dashes, LeftBlank leftBlank) {
-  mark_ = dashes;
+void TextField::SetPlaceholder(const QString& dashes, LeftBlank leftBlank) {
+  placeholder_ = dashes;
   leftBlank_ = leftBlank;
   ColourText();
 }
@@ -90,8 +90,8 @@ bool TextField::Commit() {
 
 bool TextField::Leave() {
   if (FocusVeto::IsRunning() || !Commit()) return false;
-  const bool marked = leftBlank_ == LeftBlank::GetsMark && !mark_.isEmpty();
-  if (marked && IsBlank(text())) setText(mark_);
+  const bool returns = leftBlank_ == LeftBlank::GetsPlaceholder && !placeholder_.isEmpty();
+  if (returns && IsBlank(text())) setText(placeholder_);
   return true;
 }
 
@@ -114,7 +114,7 @@ bool TextField::event(QEvent* event) {
 void TextField::keyPressEvent(QKeyEvent* event) {
   SetRefused(false);
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if ((enter || event->key() == Qt::Key_Escape) && ShowsMark() && !isReadOnly()) clear();
+  if ((enter || event->key() == Qt::Key_Escape) && ShowsPlaceholder() && !isReadOnly()) clear();
   if (!enter) {
     QLineEdit::keyPressEvent(event);
     return;
@@ -125,7 +125,7 @@ void TextField::keyPressEvent(QKeyEvent* event) {
 
 void TextField::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
-  SelectMark();
+  SelectPlaceholder();
 }
 
 void TextField::focusOutEvent(QFocusEvent* event) {
@@ -138,7 +138,7 @@ void TextField::focusOutEvent(QFocusEvent* event) {
 // A text that is dropped belongs to the field as one that is typed: the field is left afterwards.
 void TextField::dropEvent(QDropEvent* event) {
   setFocus(Qt::MouseFocusReason);
-  if (event->mimeData()->hasText() && ShowsMark()) clear();
+  if (event->mimeData()->hasText() && ShowsPlaceholder()) clear();
   QLineEdit::dropEvent(event);
 }
 
@@ -162,14 +162,14 @@ void TextField::SetRefused(bool refused) {
   update();
 }
 
-// Selected as a whole the mark is replaced as a whole, by whatever kind of edit.
-void TextField::SelectMark() {
-  if (hasFocus() && ShowsMark() && selectedText() != mark_) selectAll();
+// Selected as a whole the placeholder is replaced as a whole, by whatever kind of edit.
+void TextField::SelectPlaceholder() {
+  if (hasFocus() && ShowsPlaceholder() && selectedText() != placeholder_) selectAll();
 }
 
 void TextField::ColourText() {
   QPalette own;
-  if (ShowsMark()) {
+  if (ShowsPlaceholder()) {
     const QColor dim = QApplication::palette().color(QPalette::PlaceholderText);
     own.setColor(QPalette::Active, QPalette::Text, dim);
     own.setColor(QPalette::Inactive, QPalette::Text, dim);

@@ -9,7 +9,7 @@ namespace mortane {
 // The text is committed by the Enter key and when the field is left, edited or not. The field is
 // left when the person moves the focus to another control of the window, or changes page, section
 // or tab. A load, a hiding, a disabling or a destruction by the program, another window and a menu
-// are no leaving.
+// are no leaving. isModified() tells whether the person has edited the text since it was set.
 class TextField : public QLineEdit {
   Q_OBJECT
 
@@ -20,11 +20,11 @@ class TextField : public QLineEdit {
   void SetLimit(int characters);
   void setText(const QString& text);
 
-  enum class LeftBlank { GetsMark, StaysBlank };
+  enum class LeftBlank { GetsPlaceholder, StaysBlank };
   // Dashes that stand for an unnamed item, in the colour of captions. Every edit replaces them as
-  // a whole, and the Enter key clears them before it commits. With GetsMark they return to a box
-  // that is left blank, after its text is committed.
-  void SetMark(const QString& dashes, LeftBlank leftBlank = LeftBlank::GetsMark);
+  // a whole, and the Enter key clears them before it commits. With GetsPlaceholder they return to
+  // a box that is left blank, after its text is committed.
+  void SetPlaceholder(const QString& dashes, LeftBlank leftBlank = LeftBlank::GetsPlaceholder);
 
   // Decides whether a text may be committed. One that may not is shown refused while `complain`
   // runs and until the next key; text and focus stay, and what the person clicked does not act.
@@ -54,12 +54,14 @@ class TextField : public QLineEdit {
  private:
   [[nodiscard]] bool IsMovedByPerson(Qt::FocusReason reason) const;
   void SetRefused(bool refused);
-  [[nodiscard]] bool ShowsMark() const { return !mark_.isEmpty() && text() == mark_; }
-  void SelectMark();
+  [[nodiscard]] bool ShowsPlaceholder() const {
+    return !placeholder_.isEmpty() && text() == placeholder_;
+  }
+  void SelectPlaceholder();
   void ColourText();
 
-  QString mark_;
-  LeftBlank leftBlank_ = LeftBlank::GetsMark;
+  QString placeholder_;
+  LeftBlank leftBlank_ = LeftBlank::GetsPlaceholder;
   std::function<bool(const QString& text)> accepts_;
   std::function<void()> complain_;
   bool checking_ = false;

@@ -31,7 +31,7 @@ ACCESSIBLE = "accessible"
 AREAS = LAYERS[5]
 # Pages, and controls that one area alone uses.
 PAGES = (*(f"src/{area}/*Ctl*" for area in AREAS), "src/drives/CaptionedFrame.*",
-         "src/interlocks/SwitchTile.*", "src/objectives/FillNames.h", "src/switches/ReportList.*",
+         "src/interlocks/ToggleTile.*", "src/objectives/FillNames.h", "src/switches/ReportList.*",
          "src/switches/ShownField.h")
 
 # Headers of the operating system and of libraries stand in these places only.
@@ -199,10 +199,10 @@ GOOD = {
     "src/hub/clsK70.h": '#include "objectives/clsNosepiece.h"\n',
     "src/widgets/Card.h": "#include <QWidget>\n",
     "src/drawings/TurretDrawing.h": '#include <QWidget>\n#include "widgets/Card.h"\n',
-    "src/interlocks/SwitchTile.h": '#include "widgets/Card.h"\n',
+    "src/interlocks/ToggleTile.h": '#include "widgets/Card.h"\n',
     "src/accessible/Accessible.cpp":
         '#include <QAccessible>\n#include "drawings/TurretDrawing.h"\n'
-        '#include "interlocks/SwitchTile.h"\n#include "widgets/Card.h"\n',
+        '#include "interlocks/ToggleTile.h"\n#include "widgets/Card.h"\n',
     "src/app/ApplyTheme.cpp": '#include "accessible/Accessible.h"\n',
     "src/accessible/Accessible.h": "",
     "src/objectives/ObjectiveCtl.h":

@@ -8,9 +8,9 @@
 namespace mortane {
 namespace {
 
-QVector<TurretItem> Marks(const QStringList& marks) {
+QVector<TurretItem> Labels(const QStringList& labels) {
   QVector<TurretItem> items;
-  for (const QString& mark : marks) items.append({mark, mark, {}});
+  for (const QString& label : labels) items.append({label, label, {}});
   return items;
 }
 
@@ -24,12 +24,12 @@ const TurretButton& PlaceOf(const TurretDrawing& turret, int index) {
   return *qobject_cast<const TurretButton*>(turret.place(index));
 }
 
-TEST(TurretMarks, ADrawingGrowsWithTheFontSoThatMarksKeepClearOfTheirRings) {
+TEST(TurretLabels, ADrawingGrowsWithTheFontSoThatLabelsKeepClearOfTheirRings) {
   TurretDrawing usual(PlaceKind::Objectives);
-  usual.SetItems(Marks({"2x", "100x", "40x", "4x", "10x", "60x"}));
+  usual.SetItems(Labels({"2x", "100x", "40x", "4x", "10x", "60x"}));
   const FontScope larger(FontOf(QApplication::font().pointSizeF() * 2));
   TurretDrawing large(PlaceKind::Objectives);
-  large.SetItems(Marks({"2x", "100x", "40x", "4x", "10x", "60x"}));
+  large.SetItems(Labels({"2x", "100x", "40x", "4x", "10x", "60x"}));
   EXPECT_GT(large.minimumSizeHint().height(), usual.minimumSizeHint().height());
   EXPECT_EQ(large.minimumSizeHint().height(), large.minimumSizeHint().width());
   EXPECT_GE(large.sizeHint().height(), large.minimumSizeHint().height());
@@ -40,24 +40,24 @@ TEST(TurretMarks, ADrawingGrowsWithTheFontSoThatMarksKeepClearOfTheirRings) {
   }
 }
 
-TEST(TurretMarks, WithTheUsualFontTheLeastScaleIsFourFifths) {
+TEST(TurretLabels, WithTheUsualFontTheLeastScaleIsFourFifths) {
   for (const PlaceKind kind : {PlaceKind::Objectives, PlaceKind::Cubes, PlaceKind::Condensers}) {
     TurretDrawing turret(kind);
-    turret.SetItems(Marks({"", "1x", ""}));
+    turret.SetItems(Labels({"", "1x", ""}));
     EXPECT_EQ(turret.minimumSizeHint(), QSize(224, 224));
   }
 }
 
-TEST(TurretMarks, NoFontMakesADrawingLargerThanItsLargestScale) {
+TEST(TurretLabels, NoFontMakesADrawingLargerThanItsLargestScale) {
   const FontScope huge(FontOf(60));
   TurretDrawing turret(PlaceKind::Objectives);
-  turret.SetItems(Marks({"100x", "100x", "100x"}));
+  turret.SetItems(Labels({"100x", "100x", "100x"}));
   EXPECT_EQ(turret.minimumSizeHint(), QSize(420, 420));
 }
 
-TEST(TurretMarks, AnotherMarkOrFontChangesTheLeastScale) {
+TEST(TurretLabels, AnotherLabelOrFontChangesTheLeastScale) {
   TurretDrawing turret(PlaceKind::Objectives);
-  turret.SetItems(Marks({"1x", "", "", "", "", "", "", "", "", ""}));
+  turret.SetItems(Labels({"1x", "", "", "", "", "", "", "", "", ""}));
   const int before = turret.minimumSizeHint().height();
   turret.SetItem(1, {"100000x", "", {}});
   const int after = turret.minimumSizeHint().height();
@@ -68,7 +68,7 @@ TEST(TurretMarks, AnotherMarkOrFontChangesTheLeastScale) {
   EXPECT_GT(turret.minimumSizeHint().height(), after);
 }
 
-TEST(TurretMarks, ATileAsksForAPartOfItsNameOnly) {
+TEST(TurretLabels, ATileAsksForAPartOfItsNameOnly) {
   TurretButton shortName(PlaceKind::Cubes, 1, nullptr);
   shortName.SetItem({"GFP", "GFP", {}});
   TurretButton longName(PlaceKind::Cubes, 1, nullptr);
@@ -82,9 +82,9 @@ TEST(TurretMarks, ATileAsksForAPartOfItsNameOnly) {
   EXPECT_EQ(freePlace.LeastPlaceWidth(), 0);
 }
 
-TEST(TurretMarks, AllMarksOfATurretAreOfOneSize) {
+TEST(TurretLabels, AllLabelsOfATurretAreOfOneSize) {
   TurretDrawing turret(PlaceKind::Cubes);
-  turret.SetItems(Marks({"GFP", "DAPI"}));
+  turret.SetItems(Labels({"GFP", "DAPI"}));
   Resize(turret, 280);
   const QImage before = turret.place(0)->grab().toImage();
   turret.SetItem(1, {"Analyzer of the other side", "", {}});
@@ -93,11 +93,11 @@ TEST(TurretMarks, AllMarksOfATurretAreOfOneSize) {
   EXPECT_EQ(turret.place(0)->grab().toImage(), before);
 }
 
-TEST(TurretMarks, TilesOfCubesAndOfCondensersLookDifferent) {
+TEST(TurretLabels, TilesOfCubesAndOfCondensersLookDifferent) {
   TurretDrawing cubes(PlaceKind::Cubes);
   TurretDrawing condensers(PlaceKind::Condensers);
   for (TurretDrawing* turret : {&cubes, &condensers}) {
-    turret->SetItems(Marks({"One", ""}));
+    turret->SetItems(Labels({"One", ""}));
     Resize(*turret, 280);
   }
   EXPECT_NE(cubes.place(0)->grab().toImage(), condensers.place(0)->grab().toImage());
@@ -105,7 +105,7 @@ TEST(TurretMarks, TilesOfCubesAndOfCondensersLookDifferent) {
       << "free places are alike";
 }
 
-TEST(TurretMarks, TilesAreLowerThanWideAndRoundPlacesAreNot) {
+TEST(TurretLabels, TilesAreLowerThanWideAndRoundPlacesAreNot) {
   for (const auto& [kind, share] : {std::pair{PlaceKind::Objectives, 1.0},
                                     {PlaceKind::Cubes, 0.8},
                                     {PlaceKind::Condensers, 0.8}}) {
@@ -114,9 +114,9 @@ TEST(TurretMarks, TilesAreLowerThanWideAndRoundPlacesAreNot) {
   }
 }
 
-TEST(TurretMarks, APlaceBearsItsOwnAddressWhereOneIsGiven) {
+TEST(TurretLabels, APlaceBearsItsOwnAddressWhereOneIsGiven) {
   TurretDrawing turret(PlaceKind::Condensers);
-  QVector<TurretItem> items = Marks({"One", "Four", ""});
+  QVector<TurretItem> items = Labels({"One", "Four", ""});
   items[1].address = 4;
   items[2].address = 7;
   turret.SetItems(items);
@@ -126,9 +126,9 @@ TEST(TurretMarks, APlaceBearsItsOwnAddressWhereOneIsGiven) {
   EXPECT_EQ(turret.count(), 3);
 }
 
-TEST(TurretMarks, NumbersFollowTheAddresses) {
+TEST(TurretLabels, NumbersFollowTheAddresses) {
   TurretDrawing turret(PlaceKind::Condensers);
-  QVector<TurretItem> items = Marks({"One", "Two", ""});
+  QVector<TurretItem> items = Labels({"One", "Two", ""});
   turret.SetItems(items);
   Resize(turret, 280);
   const QImage before = turret.grab().toImage();
@@ -137,7 +137,7 @@ TEST(TurretMarks, NumbersFollowTheAddresses) {
   EXPECT_NE(turret.grab().toImage(), before);
 }
 
-TEST(TurretMarks, NumbersKeepClearOfTheirPlaces) {
+TEST(TurretLabels, NumbersKeepClearOfTheirPlaces) {
   for (const PlaceKind kind : {PlaceKind::Objectives, PlaceKind::Cubes, PlaceKind::Condensers}) {
     for (int count = 2; count <= 10; ++count) {
       TurretDrawing turret(kind);
@@ -157,7 +157,7 @@ TEST(TurretMarks, NumbersKeepClearOfTheirPlaces) {
   }
 }
 
-TEST(TurretMarks, NoTileReachesIntoTheHaloOfAnother) {
+TEST(TurretLabels, NoTileReachesIntoTheHaloOfAnother) {
   for (int count = 2; count <= 10; ++count) {
     TurretDrawing turret(PlaceKind::Cubes);
     turret.SetItems(QVector<TurretItem>(count));
@@ -173,7 +173,7 @@ TEST(TurretMarks, NoTileReachesIntoTheHaloOfAnother) {
   }
 }
 
-TEST(TurretMarks, APlaceReachesToItsEdge) {
+TEST(TurretLabels, APlaceReachesToItsEdge) {
   TurretButton round(PlaceKind::Objectives, 1, nullptr);
   round.SetPlaceSize({40, 40});
   EXPECT_NEAR(round.ReachTowards({1, 0}), 20 + TurretButton::HaloRoom(), 0.01);
@@ -186,10 +186,10 @@ TEST(TurretMarks, APlaceReachesToItsEdge) {
   EXPECT_NEAR(tile.ReachTowards({-0.8, 0.6}), 25 + TurretButton::HaloRoom(), 0.01);
 }
 
-TEST(TurretMarks, AClickAsksForMoreThanAnArrow) {
+TEST(TurretLabels, AClickAsksForMoreThanAnArrow) {
   TestWindow window;
   auto* turret = window.Add<TurretDrawing>(PlaceKind::Cubes);
-  turret->SetItems(Marks({"One", "Two", "Three"}));
+  turret->SetItems(Labels({"One", "Two", "Three"}));
   window.Show();
   QSignalSpy chosen(turret, &TurretDrawing::chosen);
   QSignalSpy activated(turret, &TurretDrawing::activated);
@@ -207,10 +207,10 @@ TEST(TurretMarks, AClickAsksForMoreThanAnArrow) {
   EXPECT_EQ(activated.size(), 2);
 }
 
-TEST(TurretMarks, ThePlaceOfATileIsItsRectangle) {
+TEST(TurretLabels, ThePlaceOfATileIsItsRectangle) {
   TestWindow window;
   auto* turret = window.Add<TurretDrawing>(PlaceKind::Condensers);
-  turret->SetItems(Marks({"One", "Two", "Three"}));
+  turret->SetItems(Labels({"One", "Two", "Three"}));
   window.Show();
   QSignalSpy chosen(turret, &TurretDrawing::chosen);
   QAbstractButton* place = turret->place(0);

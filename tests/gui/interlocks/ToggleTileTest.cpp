@@ -1,4 +1,4 @@
-#include "interlocks/SwitchTile.h"
+#include "interlocks/ToggleTile.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -11,10 +11,10 @@ namespace {
 
 constexpr int kIconSize = 32;
 
-class SwitchTileTest : public ::testing::TestWithParam<SwitchTile::Ground> {
+class ToggleTileTest : public ::testing::TestWithParam<ToggleTile::Ground> {
  protected:
   void SetUp() override {
-    tile = window.Add<SwitchTile>(IconName::Lamp, "Lamp", GetParam());
+    tile = window.Add<ToggleTile>(IconName::Lamp, "Lamp", GetParam());
     window.Show();
   }
 
@@ -34,10 +34,10 @@ class SwitchTileTest : public ::testing::TestWithParam<SwitchTile::Ground> {
   QImage Picture() { return tile->grab().toImage().convertToFormat(QImage::Format_RGB32); }
 
   TestWindow window;
-  SwitchTile* tile = nullptr;
+  ToggleTile* tile = nullptr;
 };
 
-TEST_P(SwitchTileTest, TheLabelIsTheNameOfTheSwitchAndLeadsToIt) {
+TEST_P(ToggleTileTest, TheLabelIsTheNameOfTheSwitchAndLeadsToIt) {
   EXPECT_EQ(tile->label()->text(), "Lamp");
   EXPECT_EQ(tile->label()->buddy(), tile->toggle());
   QAccessibleInterface* told = QAccessible::queryAccessibleInterface(tile->toggle());
@@ -48,7 +48,7 @@ TEST_P(SwitchTileTest, TheLabelIsTheNameOfTheSwitchAndLeadsToIt) {
   EXPECT_TRUE(told->state().checked);
 }
 
-TEST_P(SwitchTileTest, TheSwitchStandsUnderTheFirstLetterOfItsLabel) {
+TEST_P(ToggleTileTest, TheSwitchStandsUnderTheFirstLetterOfItsLabel) {
   const QRect label = tile->label()->geometry();
   const QRect toggle = tile->toggle()->geometry();
   EXPECT_EQ(toggle.top(), label.bottom() + 1 + 4);
@@ -57,14 +57,14 @@ TEST_P(SwitchTileTest, TheSwitchStandsUnderTheFirstLetterOfItsLabel) {
   EXPECT_LE(std::abs((label.top() + toggle.bottom()) - tile->height()), 2) << "in the middle";
 }
 
-TEST_P(SwitchTileTest, TheIconStandsBesideTheTextsInTheMiddle) {
+TEST_P(ToggleTileTest, TheIconStandsBesideTheTextsInTheMiddle) {
   EXPECT_TRUE(IsColoured(Picture().copy(IconArea())));
   QRegion beside(0, 0, tile->width(), IconArea().top());
   for (const QRect& part : beside) EXPECT_FALSE(IsColoured(Picture().copy(part)));
   EXPECT_GE(tile->label()->geometry().left(), kIconSize);
 }
 
-TEST_P(SwitchTileTest, ClickAndSpaceWorkTheSwitch) {
+TEST_P(ToggleTileTest, ClickAndSpaceWorkTheSwitch) {
   QSignalSpy changes(tile->toggle(), &CheckToggle::toggled);
   QTest::mouseClick(tile->toggle(), Qt::LeftButton);
   EXPECT_TRUE(tile->toggle()->isChecked());
@@ -78,7 +78,7 @@ TEST_P(SwitchTileTest, ClickAndSpaceWorkTheSwitch) {
   EXPECT_EQ(changes.count(), 2);
 }
 
-TEST_P(SwitchTileTest, DisabledItTakesNothingKeepsItsSideAndLosesAllColour) {
+TEST_P(ToggleTileTest, DisabledItTakesNothingKeepsItsSideAndLosesAllColour) {
   tile->toggle()->setChecked(true);
   EXPECT_TRUE(IsColoured(Picture()));
   tile->setEnabled(false);
@@ -89,14 +89,14 @@ TEST_P(SwitchTileTest, DisabledItTakesNothingKeepsItsSideAndLosesAllColour) {
   EXPECT_FALSE(IsColoured(Picture()));
 }
 
-TEST_P(SwitchTileTest, InAWindowThatIsBusyItStaysFitted) {
+TEST_P(ToggleTileTest, InAWindowThatIsBusyItStaysFitted) {
   tile->toggle()->setChecked(true);
   window.widget().setEnabled(false);
   EXPECT_TRUE(IsColoured(Picture().copy(IconArea())));
   EXPECT_TRUE(IsColoured(Picture().copy(tile->toggle()->geometry())));
 }
 
-TEST_P(SwitchTileTest, HiddenAndShownWithItsPartsEachByItself) {
+TEST_P(ToggleTileTest, HiddenAndShownWithItsPartsEachByItself) {
   tile->SetShown(false);
   for (const QWidget* part : {static_cast<QWidget*>(tile), static_cast<QWidget*>(tile->label()),
                               static_cast<QWidget*>(tile->toggle())}) {
@@ -109,18 +109,18 @@ TEST_P(SwitchTileTest, HiddenAndShownWithItsPartsEachByItself) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Grounds, SwitchTileTest,
-                         testing::Values(SwitchTile::Ground::Card, SwitchTile::Ground::InnerFrame));
+INSTANTIATE_TEST_SUITE_P(Grounds, ToggleTileTest,
+                         testing::Values(ToggleTile::Ground::Card, ToggleTile::Ground::InnerFrame));
 
-QColor CornerOf(SwitchTile& tile) {
+QColor CornerOf(ToggleTile& tile) {
   return tile.grab().toImage().pixelColor(tile.width() - 8, tile.height() / 2);
 }
 
 TEST(SwitchTileGrounds, ATileOnACardHasAFrameOfItsOwnThatIsFilledWhenFitted) {
   QWidget panel;
-  SwitchTile onCard(IconName::Zoom, "Zoom", SwitchTile::Ground::Card, &panel);
-  SwitchTile inFrame(IconName::Zoom, "Zoom", SwitchTile::Ground::InnerFrame, &panel);
-  for (SwitchTile* tile : {&onCard, &inFrame}) tile->resize(tile->sizeHint());
+  ToggleTile onCard(IconName::Zoom, "Zoom", ToggleTile::Ground::Card, &panel);
+  ToggleTile inFrame(IconName::Zoom, "Zoom", ToggleTile::Ground::InnerFrame, &panel);
+  for (ToggleTile* tile : {&onCard, &inFrame}) tile->resize(tile->sizeHint());
   const QColor frame = onCard.palette().color(QPalette::AlternateBase);
   EXPECT_EQ(CornerOf(onCard), frame);
   EXPECT_NE(CornerOf(inFrame), frame);
@@ -129,8 +129,8 @@ TEST(SwitchTileGrounds, ATileOnACardHasAFrameOfItsOwnThatIsFilledWhenFitted) {
 }
 
 TEST(SwitchTileGrounds, OnACardTilesAreHigherAndWider) {
-  const SwitchTile onCard(IconName::Zoom, "Zoom", SwitchTile::Ground::Card);
-  const SwitchTile inFrame(IconName::Zoom, "Zoom", SwitchTile::Ground::InnerFrame);
+  const ToggleTile onCard(IconName::Zoom, "Zoom", ToggleTile::Ground::Card);
+  const ToggleTile inFrame(IconName::Zoom, "Zoom", ToggleTile::Ground::InnerFrame);
   EXPECT_EQ(onCard.sizeHint().height(), 96);
   EXPECT_EQ(inFrame.sizeHint().height(), 76);
   EXPECT_EQ(onCard.sizeHint().width(), inFrame.sizeHint().width() + 20 + 4 + 20);
@@ -142,9 +142,9 @@ TEST(SwitchTileGrounds, ATileGrowsWithItsFontAndItsCaption) {
   QFont large = usual;
   large.setPointSize(usual.pointSize() * 4);
   const QString caption = "A caption that is wider than a switch";
-  const SwitchTile before(IconName::Zoom, caption, SwitchTile::Ground::InnerFrame);
+  const ToggleTile before(IconName::Zoom, caption, ToggleTile::Ground::InnerFrame);
   QApplication::setFont(large);
-  const SwitchTile tile(IconName::Zoom, caption, SwitchTile::Ground::InnerFrame);
+  const ToggleTile tile(IconName::Zoom, caption, ToggleTile::Ground::InnerFrame);
   EXPECT_GT(tile.sizeHint().height(), 76);
   EXPECT_GT(tile.minimumSizeHint().width(), QFontMetrics(large).horizontalAdvance(caption));
   EXPECT_GT(tile.minimumSizeHint().width(), before.minimumSizeHint().width());

@@ -187,7 +187,7 @@ TEST_F(FieldCheck, AFieldThatEndsWhileAClickLeavesItTakesNoFocusBack) {
 }
 
 TEST_F(FieldCheck, AFieldThatEndsAsItsTextIsCommittedIsLeftAlone) {
-  field->SetMark("-----");
+  field->SetPlaceholder("-----");
   field->setText("good");
   QObject::connect(field, &TextField::committed, &window.widget(), [this] { delete field; });
   QTest::keyClick(field, Qt::Key_Tab);

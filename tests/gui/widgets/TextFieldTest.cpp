@@ -74,10 +74,10 @@ struct KeyRow {
 // A microscope, one character of two code units.
 const QString kGlass = QString::fromUtf8("\xF0\x9F\x94\xAC");
 
-class MarkKeys : public TextFieldTest, public ::testing::WithParamInterface<KeyRow> {};
+class PlaceholderKeys : public TextFieldTest, public ::testing::WithParamInterface<KeyRow> {};
 
-TEST_P(MarkKeys, OnlyAnEditReplacesTheMarkAndThenAsAWhole) {
-  field->SetMark(kDashes);
+TEST_P(PlaceholderKeys, OnlyAnEditReplacesThePlaceholderAndThenAsAWhole) {
+  field->SetPlaceholder(kDashes);
   field->setText(kDashes);
   field->setCursorPosition(0);
   QTest::keyClick(field, GetParam().key, GetParam().modifiers);
@@ -85,7 +85,7 @@ TEST_P(MarkKeys, OnlyAnEditReplacesTheMarkAndThenAsAWhole) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, MarkKeys,
+    Rows, PlaceholderKeys,
     ::testing::Values(KeyRow{"letter", Qt::Key_A, Qt::NoModifier, "a"},
                       KeyRow{"blank", Qt::Key_Space, Qt::NoModifier, " "},
                       KeyRow{"backspace", Qt::Key_Backspace, Qt::NoModifier, ""},
@@ -102,39 +102,39 @@ INSTANTIATE_TEST_SUITE_P(
                       KeyRow{"minus", Qt::Key_Minus, Qt::NoModifier, "-"}),
     [](const auto& row) { return std::string(row.param.what); });
 
-// A full box, so that a character that does not replace the mark finds no room.
-class MarkedBox : public TextFieldTest {
+// A full box, so that a character that does not replace the placeholder finds no room.
+class BoxWithPlaceholder : public TextFieldTest {
  protected:
   void SetUp() override {
     TextFieldTest::SetUp();
     field->SetLimit(10);
-    field->SetMark(kDashes);
+    field->SetPlaceholder(kDashes);
     field->setText(kDashes);
     field->deselect();
     field->setCursorPosition(4);
   }
 };
 
-TEST_F(MarkedBox, ACharacterOutsideTheBasicPlaneReplacesTheMark) {
+TEST_F(BoxWithPlaceholder, ACharacterOutsideTheBasicPlaneReplacesThePlaceholder) {
   QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, kGlass);
   QApplication::sendEvent(field, &key);
   EXPECT_EQ(field->text(), kGlass);
 }
 
-TEST_F(MarkedBox, ACharacterOfAnInputMethodReplacesTheMark) {
+TEST_F(BoxWithPlaceholder, ACharacterOfAnInputMethodReplacesThePlaceholder) {
   QInputMethodEvent composing;
   composing.setCommitString(kGlass);
   QApplication::sendEvent(field, &composing);
   EXPECT_EQ(field->text(), kGlass);
 }
 
-TEST_F(MarkedBox, PastingByKeyReplacesTheMark) {
+TEST_F(BoxWithPlaceholder, PastingByKeyReplacesThePlaceholder) {
   QGuiApplication::clipboard()->setText("-5 pasted");
   QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(field->text(), "-5 pasted");
 }
 
-TEST_F(MarkedBox, PastingByTheContextMenuReplacesTheMark) {
+TEST_F(BoxWithPlaceholder, PastingByTheContextMenuReplacesThePlaceholder) {
   QGuiApplication::clipboard()->setText("-5 pasted");
   QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5}, field->mapToGlobal(QPoint(5, 5)));
   QApplication::sendEvent(field, &asked);
@@ -155,14 +155,14 @@ void Drop(QWidget* target, const QString& text) {
   QApplication::sendEvent(target, &drop);
 }
 
-TEST_F(MarkedBox, ADroppedTextReplacesTheMarkAndBringsTheFocus) {
+TEST_F(BoxWithPlaceholder, ADroppedTextReplacesThePlaceholderAndBringsTheFocus) {
   other->setFocus();
   Drop(field, "-5 dropped");
   EXPECT_EQ(field->text(), "-5 dropped");
   EXPECT_TRUE(field->hasFocus());
 }
 
-TEST_F(MarkedBox, ADroppedTextReplacesTheMarkAlsoInAWindowThatIsNotActive) {
+TEST_F(BoxWithPlaceholder, ADroppedTextReplacesThePlaceholderAlsoInAWindowThatIsNotActive) {
   QDialog dialog;
   dialog.show();
   dialog.activateWindow();
@@ -178,7 +178,7 @@ TEST_F(TextFieldTest, ADroppedTextJoinsAnyOtherText) {
   EXPECT_EQ(field->text().size(), 5);
 }
 
-TEST_F(MarkedBox, TheMouseSelectsTheMarkAsAWhole) {
+TEST_F(BoxWithPlaceholder, TheMouseSelectsThePlaceholderAsAWhole) {
   QTest::mousePress(field, Qt::LeftButton, {}, QPoint(12, field->height() / 2));
   EXPECT_EQ(field->selectedText(), kDashes);
   QTest::mouseMove(field, QPoint(25, field->height() / 2));
@@ -186,7 +186,7 @@ TEST_F(MarkedBox, TheMouseSelectsTheMarkAsAWhole) {
   EXPECT_EQ(field->selectedText(), kDashes);
 }
 
-TEST_F(MarkedBox, TheMarkComesBackSelectedWhenTheProgramSetsIt) {
+TEST_F(BoxWithPlaceholder, ThePlaceholderComesBackSelectedWhenTheProgramSetsIt) {
   QTest::keyClicks(field, "a");
   field->setText(kDashes);
   QTest::keyClicks(field, "b");
@@ -194,7 +194,7 @@ TEST_F(MarkedBox, TheMarkComesBackSelectedWhenTheProgramSetsIt) {
 }
 
 TEST_F(TextFieldTest, OtherTextIsNotReplaced) {
-  field->SetMark(kDashes);
+  field->SetPlaceholder(kDashes);
   field->setText("name");
   QTest::keyClicks(field, "s");
   EXPECT_EQ(field->text(), "names");
@@ -202,8 +202,8 @@ TEST_F(TextFieldTest, OtherTextIsNotReplaced) {
   EXPECT_EQ(field->selectedText(), "");
 }
 
-TEST_F(TextFieldTest, TheMarkIsGoneBeforeEnterCommits) {
-  field->SetMark(kDashes);
+TEST_F(TextFieldTest, ThePlaceholderIsGoneBeforeEnterCommits) {
+  field->SetPlaceholder(kDashes);
   field->setText(kDashes);
   QString stored = "unset";
   QObject::connect(field, &TextField::committed, field,
@@ -213,8 +213,8 @@ TEST_F(TextFieldTest, TheMarkIsGoneBeforeEnterCommits) {
   EXPECT_EQ(field->text(), "");
 }
 
-TEST_F(TextFieldTest, ABlankBoxCommitsItsTextAndThenGetsItsMarkBack) {
-  field->SetMark(kDashes);
+TEST_F(TextFieldTest, ABlankBoxCommitsItsTextAndThenGetsItsPlaceholderBack) {
+  field->SetPlaceholder(kDashes);
   field->setText("  ");
   QString stored = "unset";
   QObject::connect(field, &TextField::committed, field,
@@ -225,7 +225,7 @@ TEST_F(TextFieldTest, ABlankBoxCommitsItsTextAndThenGetsItsMarkBack) {
 }
 
 TEST_F(TextFieldTest, ABoxThatIsToStayBlankDoes) {
-  field->SetMark(kDashes, TextField::LeftBlank::StaysBlank);
+  field->SetPlaceholder(kDashes, TextField::LeftBlank::StaysBlank);
   field->setText("");
   QTest::keyClick(field, Qt::Key_Tab);
   EXPECT_EQ(field->text(), "");
@@ -242,14 +242,14 @@ TEST_F(TextFieldTest, TheTabKeySelectsTheTextAndTheNextOneShowsItPlainAgain) {
   EXPECT_EQ(field->selectedText(), "");
 }
 
-TEST_F(TextFieldTest, WithoutAMarkABlankBoxStaysBlank) {
+TEST_F(TextFieldTest, WithoutAPlaceholderABlankBoxStaysBlank) {
   field->setText("");
   QTest::keyClick(field, Qt::Key_Tab);
   EXPECT_EQ(field->text(), "");
 }
 
-TEST_F(TextFieldTest, AReadOnlyFieldKeepsItsMark) {
-  field->SetMark(kDashes);
+TEST_F(TextFieldTest, AReadOnlyFieldKeepsItsPlaceholder) {
+  field->SetPlaceholder(kDashes);
   field->setText(kDashes);
   field->setReadOnly(true);
   QTest::keyClicks(field, "a");
@@ -257,12 +257,12 @@ TEST_F(TextFieldTest, AReadOnlyFieldKeepsItsMark) {
   EXPECT_EQ(field->text(), kDashes);
 }
 
-TEST_F(TextFieldTest, TheMarkShowsInTheColourOfCaptionsAndATextDoesNot) {
+TEST_F(TextFieldTest, ThePlaceholderShowsInTheColourOfCaptionsAndATextDoesNot) {
   const QPalette usual = QApplication::palette();
   field->setText(kDashes);
   const auto color = [this] { return field->palette().color(QPalette::Active, QPalette::Text); };
-  EXPECT_EQ(color(), usual.color(QPalette::Text)) << "no mark yet";
-  field->SetMark(kDashes);
+  EXPECT_EQ(color(), usual.color(QPalette::Text)) << "no placeholder yet";
+  field->SetPlaceholder(kDashes);
   EXPECT_EQ(color(), usual.color(QPalette::PlaceholderText));
   EXPECT_EQ(field->palette().color(QPalette::Disabled, QPalette::Text),
             usual.color(QPalette::Disabled, QPalette::Text));
