@@ -86,6 +86,12 @@ bool IsLineBreak(std::uint32_t code) {
 
 }  // namespace
 
+std::string Readable(std::string_view text) {
+  std::string readable;
+  while (!text.empty()) AppendUtf8(readable, Visible(TakeCode(text)));
+  return readable;
+}
+
 std::string Escaped(std::string_view text) {
   std::string escaped;
   while (!text.empty()) {

@@ -7,8 +7,12 @@
 
 namespace mortane {
 
-// Escaped for the content of an HTML element and for an attribute in double quotes. Control
-// characters become their pictures, what is no valid UTF-8 the replacement character.
+// Without characters that a page or an XML file cannot hold: control characters become their
+// pictures, what is no valid UTF-8 the replacement character.
+std::string Readable(std::string_view text);
+
+// Escaped for the content of an HTML element and for an attribute in double quotes,
+// and readable.
 std::string Escaped(std::string_view text);
 
 // For plain text: control characters and the marks that change the direction of writing become
