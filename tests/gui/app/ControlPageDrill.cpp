@@ -23,6 +23,7 @@ PageDrillData Controls(const char* bench) {
   PageDrillData data;
   data.name = bench;
   data.bench = bench;
+  data.without = {DrillTable::Shown, DrillTable::Edits, DrillTable::Refused, DrillTable::Enabling};
   data.make = MakePage;
   data.controls = {{"optControl_0", "Focus Drive"},   {"optControl_1", "XY Stage"},
                    {"optControl_2", "Other"},         {"optControl_3", "K70 Switch"},

@@ -38,6 +38,7 @@ std::string NameOf(clsK70& k70) {
 PageDrillData SystemPage() {
   PageDrillData data;
   data.name = "System";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = [](clsK70& k70) -> Page* { return new SystemSettingsCtl(k70); };
   data.controls = {{"Header", ""}, {"SystemNameCtl1", ""}, {"Label1", "System Name:"}};

@@ -47,6 +47,7 @@ std::vector<AccessibleControl> AccessibleCassette() {
 PageDrillData Cassette() {
   PageDrillData data;
   data.name = "Cassette";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeCondenserCassetteCtl;
   data.controls = {{"FrameBase", "Set Condenser Data to Each Address"},
@@ -78,6 +79,7 @@ PageDrillData Cassette() {
 PageDrillData Names() {
   PageDrillData data;
   data.name = "Names";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeCondenserOptionCtl;
   data.controls = {{"FrameBase", "Add Optional Condenser Data to the List"}};
@@ -114,6 +116,7 @@ PageDrillData Names() {
 PageDrillData Settings() {
   PageDrillData data;
   data.name = "Settings";
+  data.without = {DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeCondenserSettingsCtl;
   data.controls = {

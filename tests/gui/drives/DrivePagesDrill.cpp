@@ -80,6 +80,7 @@ PageDrillData Drill(const char* name, const char* bench, std::function<Page*(cls
 
 PageDrillData FocusDrive() {
   PageDrillData data = Drill("FocusDrive", "Harbour", MakeControlFocusDriveCtl, ToldOfFocusDrive());
+  data.without = {DrillTable::Refused};
   data.controls = {
       {"FrameBase", "Focus Drive Setting"},
       {"frmEscapeSetting", "Escape"},
@@ -142,6 +143,7 @@ PageDrillData FocusDrive() {
 
 PageDrillData Teaching() {
   PageDrillData data = Drill("Teaching", "Harbour", MakeControlFocusDriveCtl, ToldOfTeaching());
+  data.without = {DrillTable::Enabling};
   data.prepare = [](PageWindow& rig) { rig.Find("FrameZNose").show(); };
   data.controls = {
       {"FrameZControl", "Z Control"},         {"ButtonStart", "Start"},
@@ -190,6 +192,7 @@ PageDrillData Teaching() {
 
 PageDrillData Limits() {
   PageDrillData data = Drill("Limits", "Lantern", MakeControlFocusDriveCtl, ToldOfLimits());
+  data.without = {DrillTable::Controls, DrillTable::Refused, DrillTable::Enabling};
   data.shown = {
       {"optDownLimitation_0", Set<kZ, kLowerLimit, 0>, ValueOf<kZ, kLowerLimit>, "on"},
       {"optDownLimitation_1", Set<kZ, kLowerLimit, 1>, ValueOf<kZ, kLowerLimit>, "on"},
@@ -204,6 +207,7 @@ PageDrillData Limits() {
 
 PageDrillData XYStage() {
   PageDrillData data = Drill("XYStage", "Harbour", MakeControlXYStageCtl, ToldOfStage());
+  data.without = {DrillTable::Enabling};
   data.controls = {
       {"FrameBase", "XY Stage Setting"},
       {"Frame1", "Pitch adjustment to Magnification"},

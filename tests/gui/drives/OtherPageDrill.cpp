@@ -107,6 +107,7 @@ Told Switches(const char* caption) {
 PageDrillData NewBody() {
   PageDrillData data;
   data.name = "NewBody";
+  data.without = {DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeControlOtherCtl;
   data.controls = kControls;
@@ -161,6 +162,7 @@ PageDrillData NewBody() {
 PageDrillData FiberIlluminator() {
   PageDrillData data;
   data.name = "FiberIlluminator";
+  data.without = {DrillTable::Refused};
   data.bench = "Quay";
   data.make = [](clsK70& k70) -> Page* {
     k70.COther.curFiberStatus = true;
@@ -208,6 +210,7 @@ PageDrillData FiberIlluminator() {
 PageDrillData Remote() {
   PageDrillData data;
   data.name = "Remote";
+  data.without = {DrillTable::Refused};
   data.bench = "DeckRemote";
   data.make = MakeControlOtherCtl;
   data.controls = kControls;

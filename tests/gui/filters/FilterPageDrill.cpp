@@ -47,6 +47,7 @@ std::vector<AccessibleControl> AccessibleTurret() {
 PageDrillData Turret() {
   PageDrillData data;
   data.name = "Turret";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeFilterQubeCtl;
   data.controls = {
@@ -105,6 +106,7 @@ std::function<void(FilterUnits&)> Put(const char* name, int exciter, int dichroi
 PageDrillData OptionalCube() {
   PageDrillData data;
   data.name = "OptionalCube";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeFilterOptionalQubeCtl;
   data.controls = {
@@ -178,6 +180,7 @@ std::function<void(FilterUnits&)> PutName(FilterItemNames<kItem> FilterUnits::*l
 PageDrillData OptionalItem() {
   PageDrillData data;
   data.name = "OptionalItem";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeFilterOptionalItemCtl;
   data.controls = {{"FrameBase", "Add Optional Filter Data "},
@@ -230,6 +233,7 @@ PageDrillData OptionalItem() {
 PageDrillData Settings() {
   PageDrillData data;
   data.name = "Settings";
+  data.without = {DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeFilterQubeSettingsCtl;
   data.controls = {

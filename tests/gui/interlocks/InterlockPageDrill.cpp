@@ -130,6 +130,7 @@ void AddSwitches(PageDrillData& data, const SwitchArray& array) {
 PageDrillData Observation() {
   PageDrillData data;
   data.name = "Observation";
+  data.without = {DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeInterlockObservationCtl;
   data.controls = {{"FrameBase", "Observation Change to"}};
@@ -161,6 +162,7 @@ void TellOther(PageDrillData& data) {
 PageDrillData Other() {
   PageDrillData data;
   data.name = "Other";
+  data.without = {DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeInterlockOtherCtl;
   data.controls = {
@@ -189,6 +191,8 @@ PageDrillData Other() {
 PageDrillData OtherWithoutStage() {
   PageDrillData data;
   data.name = "OtherWithoutStage";
+  data.without = {DrillTable::Controls, DrillTable::Edits, DrillTable::Refused,
+                  DrillTable::Enabling};
   data.bench = "Lantern";
   data.make = MakeInterlockOtherCtl;
   data.shown = {{"CheckNosepiece_4", [](InterlockPageUnits& k70) { k70.ILOther.Status(12, 1); },
@@ -266,6 +270,7 @@ void AddFactorRow(PageDrillData& data, const FactorRow& row) {
 PageDrillData Compensation() {
   PageDrillData data;
   data.name = "Compensation";
+  data.without = {DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeInterlockOffsetCtl;
   data.controls = {
@@ -285,6 +290,7 @@ PageDrillData Compensation() {
 PageDrillData Settings() {
   PageDrillData data;
   data.name = "Settings";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeInterlockSettingsCtl;
   data.controls = {

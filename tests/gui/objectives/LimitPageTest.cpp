@@ -53,6 +53,7 @@ const std::vector<GivenControl> kControls{
 PageDrillData LimitPage() {
   PageDrillData data;
   data.name = "Limits";
+  data.without = {DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeObjectiveLimitCtl;
   data.controls = kControls;

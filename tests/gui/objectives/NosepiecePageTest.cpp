@@ -52,6 +52,7 @@ const std::vector<GivenControl> kControls{
 PageDrillData NosepiecePage() {
   PageDrillData data;
   data.name = "Nosepiece";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeObjectiveCtl;
   data.controls = kControls;

@@ -21,6 +21,7 @@ namespace {
 PageDrillData ObjectivePages() {
   PageDrillData data;
   data.name = "Objectives";
+  data.without = {DrillTable::Shown, DrillTable::Edits, DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeObjectiveSettingsCtl;
   data.controls = {{"optSettings_0", "Nosepiece"},

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QTest>
+#include <algorithm>
 
 #include "gui/support/PageActs.h"
 #include "widgets/Card.h"
@@ -36,6 +37,23 @@ void ExpectLoadBoxesOnly(const ScriptedPrompts& prompts, const std::string& load
 }
 
 }  // namespace
+
+// A drill over an empty table would pass without checking anything.
+void PageDrill::SetUp() {
+  const PageDrillData& data = GetParam();
+  const auto expect = [&](DrillTable table, const char* name, bool isEmpty) {
+    const bool isWithout =
+        std::find(data.without.begin(), data.without.end(), table) != data.without.end();
+    ASSERT_EQ(isEmpty, isWithout) << data.name << ": " << name;
+  };
+  expect(DrillTable::Controls, "controls", data.controls.empty());
+  expect(DrillTable::Shown, "shown", data.shown.empty());
+  expect(DrillTable::Edits, "edits", data.edits.empty());
+  expect(DrillTable::Refused, "refused", data.refused.empty());
+  expect(DrillTable::Enabling, "enabling", data.enabling.empty());
+  ASSERT_FALSE(data.tabOrder.empty()) << data.name;
+  ASSERT_FALSE(data.accessible.empty()) << data.name;
+}
 
 std::unique_ptr<PageWindow> PageDrill::MakeRig(Link link) {
   return GetParam().make.Rig(benches::Named(GetParam().bench), link);

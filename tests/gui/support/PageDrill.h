@@ -52,6 +52,9 @@ struct EnablingRule {
   bool enabled = false;
 };
 
+// A table of the drill that not every page has rows for.
+enum class DrillTable { Controls, Shown, Edits, Refused, Enabling };
+
 // `make` gives the page, which is loaded after the model has received from `bench`. What it needs
 // done before its controls can be worked, `prepare` does.
 struct PageDrillData {
@@ -64,6 +67,10 @@ struct PageDrillData {
   std::vector<PageEdit> edits;
   std::vector<RefusedText> refused;
   std::vector<EnablingRule> enabling;
+  // The tables that do not apply: the page shows no value of the model by itself, takes no edit,
+  // refuses no text, enables its controls by no rule that the bench decides, or is one whose
+  // controls another drill goes through. Each of the others has a row.
+  std::vector<DrillTable> without;
   std::vector<std::string> tabOrder;
   // All that a screen reader finds.
   std::vector<AccessibleControl> accessible;
@@ -82,6 +89,7 @@ inline std::string PageDrillName(const testing::TestParamInfo<PageDrillData>& in
 // Fill it with INSTANTIATE_TEST_SUITE_P(SomePage, PageDrill, Values(...), PageDrillName).
 class PageDrill : public testing::TestWithParam<PageDrillData> {
  protected:
+  void SetUp() override;
   // Shows the page of the data on its bench, or on another.
   static Page& ShowOn(PageWindow& rig);
   // The rig of the data's page on its bench, or on another.

@@ -45,6 +45,7 @@ std::function<void(PageWindow&)> SelectRow(int row) {
 PageDrillData Body() {
   PageDrillData data;
   data.name = "Body";
+  data.without = {DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeSwitchSettingCtl;
   data.prepare = SelectRow(5);
@@ -105,6 +106,7 @@ std::function<void(Bench&)> PutSide(std::int16_t side) {
 PageDrillData Tactor() {
   PageDrillData data;
   data.name = "Tactor";
+  data.without = {DrillTable::Refused};
   data.bench = "Harbour";
   data.make = MakeTactorSwitchSettingCtl;
   data.prepare = SelectRow(1);
@@ -201,6 +203,7 @@ JoypadSwitchSettingCtl* MakeJoypadSwitchSettingCtl(clsK70&) {
 PageDrillData Joypad() {
   PageDrillData data;
   data.name = "Joypad";
+  data.without = {DrillTable::Shown, DrillTable::Edits, DrillTable::Refused, DrillTable::Enabling};
   data.bench = "Harbour";
   data.make = MakeJoypadSwitchSettingCtl;
   data.prepare = SelectRow(0);

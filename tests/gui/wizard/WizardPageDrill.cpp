@@ -9,6 +9,7 @@ namespace {
 PageDrillData SetupItems() {
   PageDrillData data;
   data.name = "SetupItems";
+  data.without = {DrillTable::Shown, DrillTable::Edits, DrillTable::Refused};
   data.bench = "Harbour";
   data.make = [](clsK70& k70) -> Page* { return new SelSetupItemCtl(k70); };
   data.controls = {{"optSetupMode_0", "Standard"},
