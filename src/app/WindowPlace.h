@@ -20,7 +20,7 @@ class WindowPlace {
   // nothing is remembered.
   bool Restore(QWidget& window) const;
 
-  // A file that cannot be written costs the memory and nothing else.
+  // If the file cannot be written, the place is not remembered; nothing is shown.
   void Keep(const QWidget& window) const;
 
  private:
