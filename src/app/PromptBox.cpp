@@ -5,6 +5,7 @@
 #include <array>
 #include <span>
 
+#include "app/BoxText.h"
 #include "app/LongText.h"
 #include "app/ShownText.h"
 
@@ -83,12 +84,12 @@ QWidget* ParentOfBoxes() {
 }
 
 PromptBox::PromptBox(const std::string& text, int style, const std::string& caption)
-    : box_(new QMessageBox(
+    : box_(new CopiedBox(
           IconOf(style),
           caption.empty() ? QApplication::applicationName() : QString::fromStdString(caption),
-          FirstLines(ShownText(text)), QMessageBox::NoButton, ParentOfBoxes())) {
-  box_->setTextFormat(Qt::PlainText);
+          FirstLines(ShownText(text)), ParentOfBoxes())) {
   AddButtons(*box_, style);
+  box_->defaultButton()->setFocus();  // and not the text, which takes the focus, too
   ScrollLongText(*box_);
 }
 

@@ -41,6 +41,43 @@ TEST(BoxText, OfAFewLinesDoesNotScroll) {
   Show(Lines(5), [](QMessageBox& box) { EXPECT_EQ(Scrolling(box), nullptr); });
 }
 
+// As Windows' own boxes do.
+TEST(BoxText, IsCopiedWithItsTitle) {
+  for (const int lines : {1, 200}) {
+    Show(Lines(lines), [lines](QMessageBox& box) {
+      EXPECT_EQ(box.focusWidget(), box.defaultButton());
+      QTest::keyClick(box.defaultButton(), Qt::Key_C, Qt::ControlModifier);
+      const QString copied = QGuiApplication::clipboard()->text();
+      EXPECT_TRUE(copied.startsWith("Send\n\nLine 1")) << lines;
+      EXPECT_TRUE(copied.endsWith(QString("Line %1").arg(lines))) << lines;
+    });
+  }
+}
+
+TEST(BoxText, IsSelectedAndCopiedByKeyboard) {
+  for (const int lines : {3, 200}) {
+    Show(Lines(lines), [lines](QMessageBox& box) {
+      QTest::keyClick(box.defaultButton(), Qt::Key_A, Qt::ControlModifier);
+      QTest::keyClick(box.defaultButton(), Qt::Key_C, Qt::ControlModifier);
+      const QString copied = QGuiApplication::clipboard()->text();
+      EXPECT_TRUE(copied.startsWith("Line 1\n")) << lines;
+      EXPECT_EQ(copied.count(QChar(10)), lines - 1);
+    });
+  }
+}
+
+TEST(BoxText, CanBeSelectedByTheMouse) {
+  Show("DIA Lamp", [](QMessageBox& box) {
+    EXPECT_TRUE(box.textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+  });
+}
+
+TEST(BoxText, OfAWordLeavesRoomForTheTitle) {
+  Show("Stop", [](QMessageBox& box) {
+    EXPECT_GT(box.width(), box.fontMetrics().horizontalAdvance(box.windowTitle()) + 60);
+  });
+}
+
 class LongBox : public testing::TestWithParam<std::string> {};
 
 TEST_P(LongBox, FitsTheScreenAndScrolls) {

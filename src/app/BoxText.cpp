@@ -1,0 +1,62 @@
+#include "app/BoxText.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QStyle>
+#include <QTextDocumentFragment>
+
+namespace mortane {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+// Of a title bar, beside its text.
+constexpr int kKeysInTitleBar = 4;
+
+QLabel* LabelOf(const QMessageBox& box) {
+  return box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+}
+
+// The field that stands in the place of the label of a long text; nullptr without one.
+QPlainTextEdit* FieldOf(const QMessageBox& box) {
+  return box.findChild<QPlainTextEdit*>();
+}
+
+}  // namespace
+
+CopiedBox::CopiedBox(Icon icon, const QString& title, const QString& text, QWidget* parent)
+    : QMessageBox(icon, title, text, NoButton, parent) {
+  setTextFormat(Qt::PlainText);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  // A box of a few words is as wide as its title all the same.
+  const int bar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+  LabelOf(*this)->setMinimumWidth(fontMetrics().horizontalAdvance(title) + kKeysInTitleBar * bar);
+}
+
+void CopiedBox::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::SelectAll)) return SelectText();
+  if (event->matches(QKeySequence::Copy)) return CopyText();
+  QMessageBox::keyPressEvent(event);
+}
+
+void CopiedBox::SelectText() {
+  if (QPlainTextEdit* field = FieldOf(*this)) return field->selectAll();
+  QLabel* label = LabelOf(*this);
+  label->setSelection(0, static_cast<int>(label->text().size()));
+}
+
+void CopiedBox::CopyText() const {
+  QString selected;
+  if (const QPlainTextEdit* field = FieldOf(*this)) {
+    selected = field->textCursor().selection().toPlainText();
+  } else {
+    selected = LabelOf(*this)->selectedText().replace(QChar::ParagraphSeparator, u'\n');
+  }
+  const QString all = windowTitle() + u"\n\n"_s + text();
+  QGuiApplication::clipboard()->setText(selected.isEmpty() ? all : selected);
+}
+
+}  // namespace mortane
