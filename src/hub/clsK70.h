@@ -108,13 +108,17 @@ class clsK70 : public ConnectedMicroscope {
   std::string Modify();
 
   // By the name of a row of the transfers, or kSystemNameTransfer: whether the last Receive from
-  // this device read it without a failure, and whether a Send or Modify would run through it now.
+  // this device read it, and the last Send wrote it, without a failure, and whether a Send or
+  // Modify would run through it now.
   bool WasRead(std::string_view transfer) const;
+  bool WasSent(std::string_view transfer) const;
   bool IsSent(std::string_view transfer) const;
 
   // Look up the sections of a settings file, read the wanted ones, write all. What went wrong is
   // shown; reading and writing answer whether nothing did.
   void ReadXMLItems(const std::string& fname);
+  // Leaves the document for ReadSections; false when the file cannot be loaded.
+  bool ReadXMLItems(const std::string& fname, DomDocument& document);
   bool ReadXML(const std::string& fname);
   bool WriteXML(const std::string& fname);
   // The same on a document in memory; `name` is the file's in a box. Writing raises a Failure for
@@ -155,9 +159,9 @@ class clsK70 : public ConnectedMicroscope {
   std::string ReadTurretCounts();
   void Progress(std::size_t stepsDone) const;
 
-  bool Load(const std::string& fname, DomDocument& document);
   std::optional<std::vector<DomNode>> SectionsOf(const DomDocument& document,
                                                  const std::string& name);
+  bool Load(const std::string& fname, DomDocument& document);
   std::string ReadSection(std::size_t fileItem, const DomNode& section);
   std::string ReadSystemElement(const DomNode& element);
   void WriteSection(std::size_t fileItem, DomDocument& document, DomNode& root) const;
@@ -169,6 +173,7 @@ class clsK70 : public ConnectedMicroscope {
   std::unique_ptr<clsMutex> mutex_;
   TransferTable transfers_;
   std::vector<std::string_view> readTransfers_;
+  std::vector<std::string_view> sentTransfers_;
   FileTable fileTable_;
   std::array<Turret, 3> turrets_;
 };

@@ -29,9 +29,15 @@ bool NameMatches(const FileElement& row, const std::string& name) {
 }  // namespace
 
 void clsK70::ReadXMLItems(const std::string& fname) {
-  fileItems_.fill(0);
   DomDocument document;
-  if (Load(fname, document)) ReadItems(document, fname);
+  ReadXMLItems(fname, document);
+}
+
+bool clsK70::ReadXMLItems(const std::string& fname, DomDocument& document) {
+  fileItems_.fill(0);
+  if (!Load(fname, document)) return false;
+  ReadItems(document, fname);
+  return true;
 }
 
 bool clsK70::ReadXML(const std::string& fname) {

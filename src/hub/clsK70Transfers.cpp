@@ -32,11 +32,16 @@ bool clsK70::Receive() {
 
 bool clsK70::Send() {
   Progress(0);
+  sentTransfers_.clear();
   std::string failures = WriteSystemName();
+  if (failures.empty()) sentTransfers_.push_back(kSystemNameTransfer);
   for (std::size_t i = 0; i < transfers_.size(); ++i) {
     Progress(i + 1);
     const TransferStep& step = transfers_[i];
-    if (step.gate()) failures = AppendLine(std::move(failures), ReportOf(step.unit, step.write));
+    if (!step.gate()) continue;
+    const std::string failure = ReportOf(step.unit, step.write);
+    if (failure.empty()) sentTransfers_.push_back(step.unit);
+    failures = AppendLine(std::move(failures), failure);
   }
   Progress(transfers_.size() + 1);
   if (!failures.empty()) prompts().MsgBox(failures, box::kCritical, "Send");
@@ -56,6 +61,10 @@ std::string clsK70::Modify() {
 
 bool clsK70::WasRead(std::string_view transfer) const {
   return std::find(readTransfers_.begin(), readTransfers_.end(), transfer) != readTransfers_.end();
+}
+
+bool clsK70::WasSent(std::string_view transfer) const {
+  return std::find(sentTransfers_.begin(), sentTransfers_.end(), transfer) != sentTransfers_.end();
 }
 
 bool clsK70::IsSent(std::string_view transfer) const {
