@@ -86,7 +86,7 @@ bool ConnectMicroscope(const StartPath& start) {
                          box::kCritical + box::kCancelTryContinue);
     return false;
   }
-  start.received(start.k70.Receive());
+  start.received(OutcomeOf(start.k70.Receive()));
   return true;
 }
 

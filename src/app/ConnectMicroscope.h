@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Outcome.h"
 #include "controller/ControllerObject.h"
 #include "hub/clsK70.h"
 
@@ -20,8 +21,8 @@ struct StartPath {
   std::vector<std::string> arguments;
   // Shows the device selection and answers its Selected.
   std::function<std::int32_t()> selectDevice;
-  // Told whether the first Receive was without failures.
-  std::function<void(bool)> received = [](bool) {};
+  // Told how the first Receive has ended.
+  std::function<void(Outcome)> received = [](Outcome) {};
 };
 
 // Chooses a device, takes its exclusive use, connects and receives. True when the model is

@@ -18,14 +18,14 @@ class SystemSettingsCtl;
 class TactorSwitchSettingCtl;
 class clsK70;
 
-// Named after their kind: "ObjectiveSettingsCtl1".
+// The parent owns the page. Named after their kind: "ObjectiveSettingsCtl1".
 SystemSettingsCtl* MakeSystemSettings(clsK70& k70, QWidget* parent);
 ObjectiveSettingsCtl* MakeObjectiveSettings(clsK70& k70, QWidget* parent);
 FilterQubeSettingsCtl* MakeFilterQubeSettings(clsK70& k70, QWidget* parent);
 CondenserSettingsCtl* MakeCondenserSettings(clsK70& k70, QWidget* parent);
 InterlockSettingsCtl* MakeInterlockSettings(clsK70& k70, QWidget* parent);
 
-// Sub-pages, named by the page that takes them over.
+// Sub-pages without a parent: the caller hands each to the page that names and owns it.
 ControlFocusDriveCtl* MakeFocusDrive(clsK70& k70);
 ControlXYStageCtl* MakeXYStage(clsK70& k70);
 ControlOtherCtl* MakeOther(clsK70& k70);

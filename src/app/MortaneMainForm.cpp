@@ -60,9 +60,9 @@ void MortaneMainForm::LoadStep(int step) {
   }
 }
 
-void MortaneMainForm::OnConnected(bool whole) {
+void MortaneMainForm::OnConnected(Outcome received) {
   NoteConnection();
-  NoteTransfer(SessionNote::Act::Received, whole);
+  NoteTransfer(SessionNote::Act::Received, received);
   RefreshPages();
 }
 
@@ -77,6 +77,16 @@ void MortaneMainForm::RefreshPages() {
     RunStep(prompts(), [page] { page->SetNosePostiton(); });
     if (i == 0) optMenu[0]->setChecked(true);
   }
+}
+
+void MortaneMainForm::ShowPending(const std::vector<ItemChange>& changes) {
+  std::array<int, kPageCount> counts{};
+  for (const ItemChange& change : changes) ++counts[PageOf(change.to.key)];
+  for (std::size_t i = 0; i < kPageCount; ++i) {
+    ImageButton[i]->SetPending(counts[i] > 0);
+    ImageButton[i]->setAccessibleDescription(ChangesNotSent(counts[i]));
+  }
+  note_->ShowPending(static_cast<int>(changes.size()));
 }
 
 // The toolkit would hand the focus of a button that gets disabled to the next control, which is a

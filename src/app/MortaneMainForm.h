@@ -64,7 +64,8 @@ class MortaneMainForm : public ProgramForm {
   // One step of Load; `step` counts from 0 to 6.
   virtual void LoadStep(int step);
 
-  void OnConnected(bool whole) override;
+  void OnConnected(Outcome received) override;
+  void ShowPending(const std::vector<ItemChange>& changes) override;
 
  private:
   using Command = void (MortaneMainForm::*)();
@@ -91,10 +92,12 @@ class MortaneMainForm : public ProgramForm {
   void DoSelect();
   void DoReceive();
   void DoSend();
+  void DoShowPending();
+  void ShowStored();
   void EnableTransfers(bool enabled);
 
   void NoteConnection();
-  void NoteTransfer(SessionNote::Act act, bool whole);
+  void NoteTransfer(SessionNote::Act act, Outcome outcome);
   void NoteFile(SessionNote::Act act, const FileResult& file);
 
   PageTable table_;

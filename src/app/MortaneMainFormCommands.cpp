@@ -2,14 +2,19 @@
 #include <QAction>
 #include <QFileInfo>
 #include <QPointer>
+#include <QRadioButton>
+#include <algorithm>
 
 #include "app/CommandBoundary.h"
+#include "app/DifferencesDlg.h"
 #include "app/MortaneMainForm.h"
 #include "app/SettingsFiles.h"
 #include "common/Text.h"
 #include "hub/clsK70.h"
 #include "widgets/CommandKey.h"
 #include "widgets/Page.h"
+#include "widgets/PageButton.h"
+#include "widgets/TextField.h"
 
 namespace mortane {
 
@@ -63,10 +68,12 @@ void MortaneMainForm::DoSave() {
 void MortaneMainForm::DoReceive() {
   {
     const HourglassScope hourglass(prompts());
-    bool whole = false;
-    RunStep(prompts(), [&] { whole = GetK70().Receive(); });
+    note_->ShowRunning(u"Receiving..."_s);
+    Outcome outcome = Outcome::WithFailures;
+    RunStep(prompts(), [&] { outcome = OutcomeOf(GetK70().Receive()); });
+    Pending().TakeReceived();
     LoadAllPages();
-    NoteTransfer(SessionNote::Act::Received, whole);
+    NoteTransfer(SessionNote::Act::Received, outcome);
   }
   prompts().FlushInput();
 }
@@ -76,23 +83,47 @@ void MortaneMainForm::DoSend() {
   {
     const HourglassScope hourglass(prompts());
     setEnabled(false);
+    note_->ShowRunning(u"Sending..."_s);
     repaint();  // the thread stands still from here on
     SaveCurrentPage();
     RunStep(prompts(), [] {
       if (ModifyBeforeSend()) static_cast<void>(GetK70().Modify());
     });
-    bool whole = false;
-    RunStep(prompts(), [&] { whole = GetK70().Send(); });
+    Outcome outcome = Outcome::WithFailures;
+    RunStep(prompts(), [&] { outcome = OutcomeOf(GetK70().Send()); });
     if (Page* control = pages_[kControlPage]) {
       RunStep(prompts(), [control] { control->SendData(); });
     }
-    NoteTransfer(SessionNote::Act::Sent, whole);
+    Pending().TakeSent();
+    ShowStored();
+    NoteTransfer(SessionNote::Act::Sent, outcome);
     repaint();  // over what a box of failures leaves on the display
     prompts().Wait(kWaitAfterSendMs);
   }
   setEnabled(true);
   if (focus) focus->setFocus();
   prompts().FlushInput();
+}
+
+// A page with a text that was refused goes on showing it, while another value was sent.
+void MortaneMainForm::ShowStored() {
+  for (std::size_t i = 0; i < kPageCount; ++i) {
+    Page* page = pages_[i];
+    if (page == nullptr || !optMenu[i]->isChecked()) continue;
+    const QList<TextField*> fields = page->findChildren<TextField*>();
+    const bool refused = std::any_of(fields.begin(), fields.end(),
+                                     [](const TextField* field) { return field->isRefused(); });
+    if (refused) RunStep(prompts(), [page] { page->LoadData(); });
+  }
+}
+
+void MortaneMainForm::DoShowPending() {
+  DifferencesDlg::Content content{Pending().Find(), Pending().HeldNames(), ItemNames(GetK70()), {}};
+  for (const PageRow& row : table_) content.pageTitles.push_back(row.title);
+  DifferencesDlg dialog(content, this);
+  dialog.exec();
+  const std::optional<std::size_t> page = dialog.ChosenPage();
+  if (page && ImageButton[*page]->isEnabled()) optMenu[*page]->setChecked(true);
 }
 
 void MortaneMainForm::DoExit() {
@@ -107,6 +138,7 @@ void MortaneMainForm::DoSelect() {
     return;
   }
   GetK70().Disconnect();
+  Pending().Forget();
   NoteConnection();
   if (!GetK70().CreateConnectionName(std::to_string(device))) {
     prompts().MsgBox("Other Application has already used this Microscope.", box::kOk);
@@ -141,14 +173,14 @@ void MortaneMainForm::NoteConnection() {
                         k70.lConnectDevice == kSimulator);
 }
 
-void MortaneMainForm::NoteTransfer(SessionNote::Act act, bool whole) {
-  if (whole) NoteConnection();
-  note_->ShowDone(act, whole, Now().toString(u"HH:mm"_s));
+void MortaneMainForm::NoteTransfer(SessionNote::Act act, Outcome outcome) {
+  if (outcome == Outcome::Complete) NoteConnection();
+  note_->ShowDone(act, outcome, Now().toString(u"HH:mm"_s));
 }
 
 void MortaneMainForm::NoteFile(SessionNote::Act act, const FileResult& file) {
-  if (!file.whole) return;
-  note_->ShowDone(act, *file.whole, QFileInfo(QString::fromStdString(file.path)).fileName());
+  if (!file.outcome) return;
+  note_->ShowDone(act, *file.outcome, QFileInfo(QString::fromStdString(file.path)).fileName());
 }
 
 }  // namespace mortane

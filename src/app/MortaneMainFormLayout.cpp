@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QToolBar>
+#include <QToolButton>
 #include <algorithm>
 
 #include "app/CommandBar.h"
@@ -91,6 +92,8 @@ void MortaneMainForm::BuildToolbar() {
     OnToolbarButton(static_cast<int>(Toolbar1->actions().indexOf(button)) + 1);
   });
   note_ = Named(new SessionNote(*Toolbar1), "SessionNote");
+  connect(note_->ButtonPending, &QToolButton::clicked, this,
+          [this] { Run(&MortaneMainForm::DoShowPending); });
 }
 
 void MortaneMainForm::BuildRail() {

@@ -26,10 +26,14 @@ ProgramForm::ProgramForm(const FormServices& services, const QString& title)
     : StatusBar1(statusBar()),
       CommonDialog1(SettingsFileQuestion()),
       services_(services),
-      place_(services.placeFile) {
+      place_(services.placeFile),
+      pending_(services.k70) {
   setWindowTitle(title);
   setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
   BuildStatusBar();
+  pendingTimer_.setSingleShot(true);
+  connect(&pendingTimer_, &QTimer::timeout, this, &ProgramForm::LookForPending);
+  QCoreApplication::instance()->installEventFilter(this);
 }
 
 // Panels 1 to 4 stay empty and take no room.
@@ -78,19 +82,23 @@ void ProgramForm::Start() {
   QTimer::singleShot(0, this, [this] {
     RunCommand([this] { FirstActivation(); });
     startEnded_ = true;
+    LookForPending();
   });
 }
 
 void ProgramForm::FirstActivation() {
   bool connected = false;
-  bool whole = false;
+  Outcome outcome = Outcome::NotDone;
   RunStep(prompts(), [&] {
     connected = ConnectMicroscope({GetK70(), services_.library, prompts(), services_.arguments,
                                    [this] { return std::int32_t{AskDevice()}; },
-                                   [&whole](bool received) { whole = received; }});
+                                   [&](Outcome received) {
+                                     outcome = received;
+                                     pending_.TakeReceived();
+                                   }});
   });
   if (connected) {
-    OnConnected(whole);
+    OnConnected(outcome);
   } else {
     Unload();
   }
@@ -103,6 +111,30 @@ void ProgramForm::RunCommand(const std::function<void()>& command) {
   if (!form) return;
   commandRunning_ = false;
   AskWhenFree();
+  pendingTimer_.start(0);
+}
+
+// Whatever a person does may have stored an edit by the time that the event loop comes round.
+bool ProgramForm::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonRelease:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::FocusOut:
+    case QEvent::Wheel:
+    case QEvent::Drop:
+      if (!commandRunning_) pendingTimer_.start(0);
+      break;
+    default:
+      break;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+// The end of a command, a flush or a box comes back to it.
+void ProgramForm::LookForPending() {
+  if (!startEnded_ || IsBusy()) return;
+  ShowPending(pending_.Find());
 }
 
 // A command, an act of a page that drops input at its end, and a box that stands over the window.

@@ -3,10 +3,13 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <cstdint>
 #include <functional>
 
 #include "app/FormServices.h"
+#include "app/Outcome.h"
+#include "app/PendingChanges.h"
 #include "app/WindowPlace.h"
 #include "common/Prompts.h"
 
@@ -39,8 +42,8 @@ class ProgramForm : public QMainWindow {
   ProgressLine* Progress() const { return progress_; }
 
  protected:
-  // A microscope is connected, and the model filled from it; `whole` tells without failures.
-  virtual void OnConnected(bool whole) = 0;
+  // A microscope is connected, and the model filled from it.
+  virtual void OnConnected(Outcome received) = 0;
 
   // Everything between tool bar and status bar. The window gets its size and place.
   void SetContent(QWidget* content);
@@ -55,11 +58,16 @@ class ProgramForm : public QMainWindow {
   // Closes the window if the person agrees.
   void AskAndUnload();
 
+  // The edits that are not sent yet, told whenever they may have changed but during a command.
+  virtual void ShowPending(const std::vector<ItemChange>& changes) = 0;
+  PendingChanges& Pending() { return pending_; }
+
   Prompts& prompts() const { return services_.prompts; }
   // The time of day.
   QTime Now() const { return services_.now(); }
 
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
@@ -70,11 +78,14 @@ class ProgramForm : public QMainWindow {
   bool AgreesToExit();
   [[nodiscard]] bool IsBusy() const;
   void AskWhenFree();
+  void LookForPending();
 
   FormServices services_;
   WindowPlace place_;
   QLabel* versionPanel_ = nullptr;
   ProgressLine* progress_ = nullptr;
+  PendingChanges pending_;
+  QTimer pendingTimer_;  // looks once, however much input came at one go
   bool startBegun_ = false;
   bool startEnded_ = false;
   bool commandRunning_ = false;

@@ -1,6 +1,10 @@
 #include "app/SelFileItemDlg.h"
 
+#include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/DialogLayout.h"
 #include "hub/clsK70.h"
@@ -17,7 +21,7 @@ constexpr std::int16_t kNotWanted = 0;
 
 }  // namespace
 
-SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent)
+SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent, const std::string& whyEmpty)
     : QDialog(parent),
       List1(new ListBox(this)),
       Datalist(new ListBox(this)),
@@ -41,6 +45,31 @@ SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent)
     k70_.FileItem(static_cast<std::int16_t>(position), checked ? kWanted : kNotWanted);
   });
   LoadList();
+  if (List1->rowCount() == 0) ShowWhyEmpty(whyEmpty);
+  ShowAllRows();
+}
+
+// In the place of the rows, and for screen readers.
+void SelFileItemDlg::ShowWhyEmpty(const std::string& why) {
+  auto* label = new QLabel(QString::fromStdString(why), List1->viewport());
+  label->setObjectName("WhyEmpty");
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setForegroundRole(QPalette::PlaceholderText);
+  label->setAlignment(Qt::AlignCenter);
+  (new QVBoxLayout(List1->viewport()))->addWidget(label);
+  List1->setAccessibleDescription(label->text());
+}
+
+// Wherever the screen has the room, the list of all sections is not scrolled.
+void SelFileItemDlg::ShowAllRows() {
+  ListBox all(nullptr);
+  for (int i = 0; i < Datalist->rowCount(); ++i) all.addRow(Datalist->text(i));
+  all.SetRowChecked(0, true);
+  const int rows = Datalist->rowCount() * all.visualItemRect(all.topLevelItem(0)).height() +
+                   2 * List1->frameWidth();
+  const int more = rows - List1->sizeHint().height();
+  if (more > 0) resize(width(), std::min(height() + more, screen()->availableSize().height()));
 }
 
 // The items are asked one by one as the list grows: checking a new line writes the item of its

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <string>
 
 class QPushButton;
 
@@ -10,12 +11,11 @@ namespace mortane {
 class ListBox;
 class clsK70;
 
-// Lists the sections that the file holds. A line's check is written to the file item of the
-// line's position in the list, not of its section: with a section missing, the lines below it
-// speak for the wrong items. Settings were chosen by this rule for years, so it stays.
+// Lists the sections that the file holds; of a file without any it says why.
+// Kept: each line below a missing section sets the flag of the section before it.
 class SelFileItemDlg : public QDialog {
  public:
-  explicit SelFileItemDlg(clsK70& k70, QWidget* parent = nullptr);
+  explicit SelFileItemDlg(clsK70& k70, QWidget* parent = nullptr, const std::string& whyEmpty = {});
 
   // Cancel, the close box and Escape: no section is wanted.
   void reject() override;
@@ -27,6 +27,8 @@ class SelFileItemDlg : public QDialog {
 
  private:
   void LoadList();
+  void ShowWhyEmpty(const std::string& why);
+  void ShowAllRows();
 
   clsK70& k70_;
 };

@@ -1,10 +1,14 @@
 #include "app/SessionNote.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QToolBar>
+#include <QToolButton>
 #include <algorithm>
 #include <array>
 
+#include "widgets/Named.h"
+#include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -12,24 +16,48 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
+// In the order of Outcome.
 struct Wording {
-  const char* done;
-  const char* failed;
+  std::array<const char*, 3> texts;
 };
 
 // In the order of Act.
 constexpr std::array<Wording, 4> kWordings{{
-    {"Received %1", "Receive failed %1"},
-    {"Sent %1", "Send failed %1"},
-    {"Opened %1", "Open failed: %1"},
-    {"Saved %1", "Save failed: %1"},
+    {{"Received %1", "Received %1, with failures", "Receive failed %1"}},
+    {{"Sent %1", "Sent %1, with failures", "Send failed %1"}},
+    {{"Opened %1", "Opened %1, with failures", "Open failed: %1"}},
+    {{"Saved %1", "Saved %1, with failures", "Save failed: %1"}},
 }};
 
 constexpr char kBetweenParts[] = " \u00B7 ";
 
+// The dot of a pending change, beside the words.
+QIcon DotIcon(const QWidget& widget) {
+  constexpr int kSide = 16;
+  QPixmap pixmap(QSize(kSide, kSide) * widget.devicePixelRatioF());
+  pixmap.setDevicePixelRatio(widget.devicePixelRatioF());
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  const QPalette palette = widget.palette();
+  DrawPendingDot(painter, {kSide / 2.0, kSide / 2.0}, palette.color(QPalette::Link),
+                 palette.color(QPalette::Window));
+  return pixmap;
+}
+
 }  // namespace
 
-SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
+QString ChangesNotSent(int count) {
+  if (count == 0) return {};
+  return count == 1 ? u"1 change not sent"_s : u"%1 changes not sent"_s.arg(count);
+}
+
+SessionNote::SessionNote(QToolBar& bar)
+    : ValueLabel(&bar), ButtonPending(Named(new QToolButton(&bar), "ButtonPending")), bar_(bar) {
+  ButtonPending->setFont(CaptionFont());
+  ButtonPending->setAutoRaise(true);
+  ButtonPending->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  ButtonPending->setFocusPolicy(Qt::TabFocus);
+  ButtonPending->hide();
   setAccessibleName(u"Session"_s);
   setFont(CaptionFont());
   setForegroundRole(QPalette::PlaceholderText);
@@ -38,18 +66,34 @@ SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
 
 void SessionNote::ShowMicroscope(const QString& name, bool isSimulation) {
   microscope_ = name.trimmed().isEmpty() ? u"NoName"_s : name;
-  if (isSimulation) microscope_ += QString::fromUtf8(kBetweenParts) + u"Simulation"_s;
+  if (isSimulation) microscope_ += u", Simulation"_s;
   ShowText();
 }
 
 void SessionNote::ShowNoMicroscope() {
   microscope_ = u"Not connected"_s;
+  done_.clear();
   ShowText();
 }
 
-void SessionNote::ShowDone(Act act, bool whole, const QString& subject) {
+void SessionNote::ShowRunning(const QString& act) {
+  done_ = act;
+  ShowText();
+  repaint();
+}
+
+void SessionNote::ShowPending(int changes) {
+  const QString text = ChangesNotSent(changes);
+  if (text == ButtonPending->text()) return;
+  ButtonPending->setText(text);
+  ButtonPending->setIcon(DotIcon(*this));
+  ButtonPending->setVisible(changes > 0);
+  Place();
+}
+
+void SessionNote::ShowDone(Act act, Outcome outcome, const QString& subject) {
   const Wording& wording = kWordings[static_cast<std::size_t>(act)];
-  done_ = QString::fromLatin1(whole ? wording.done : wording.failed).arg(subject);
+  done_ = QString::fromLatin1(wording.texts[static_cast<std::size_t>(outcome)]).arg(subject);
   ShowText();
 }
 
@@ -70,7 +114,13 @@ bool SessionNote::eventFilter(QObject* watched, QEvent* event) {
 void SessionNote::Place() {
   const QWidget* last = bar_.widgetForAction(bar_.actions().constLast());
   const int left = last->geometry().right() + grid::kBetweenColumns;
-  const int right = bar_.width() - grid::kPageMargin;
+  int right = bar_.width() - grid::kPageMargin;
+  if (!ButtonPending->isHidden()) {
+    const QSize size = ButtonPending->sizeHint();
+    ButtonPending->setGeometry(right - size.width(), (bar_.height() - size.height()) / 2,
+                               size.width(), size.height());
+    right = ButtonPending->x() - grid::kBetweenControls;
+  }
   const int needed = fontMetrics().horizontalAdvance(text());
   const int width = std::clamp(needed, 0, std::max(right - left, 0));
   setGeometry(right - width, 0, width, bar_.height());

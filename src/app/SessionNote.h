@@ -1,9 +1,12 @@
-// What the right end of the tool bar says: which microscope is connected and what was done last.
+// What the right end of the tool bar says: which microscope is connected, what was done last, and
+// how much is not sent.
 #pragma once
 
+#include "app/Outcome.h"
 #include "widgets/ValueLabel.h"
 
 class QToolBar;
+class QToolButton;
 
 namespace mortane {
 
@@ -18,7 +21,13 @@ class SessionNote : public ValueLabel {
 
   enum class Act { Received, Sent, Opened, Saved };
   // `subject` is the time of a transfer, the name of a file.
-  void ShowDone(Act act, bool whole, const QString& subject);
+  // While it runs, painted at once.
+  void ShowRunning(const QString& act);
+  void ShowDone(Act act, Outcome outcome, const QString& subject);
+  void ShowPending(int changes);
+
+  // "3 changes not sent"; hidden while there are none.
+  QToolButton* ButtonPending;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -31,5 +40,8 @@ class SessionNote : public ValueLabel {
   QString microscope_;
   QString done_;
 };
+
+// "1 change not sent", "3 changes not sent"; empty for none.
+QString ChangesNotSent(int count);
 
 }  // namespace mortane

@@ -42,7 +42,7 @@ void SadrelMainForm::Load() {
   }
 }
 
-void SadrelMainForm::OnConnected(bool) {
+void SadrelMainForm::OnConnected(Outcome) {
   for (int item = 0; item < static_cast<int>(kSetupItemCount); ++item) {
     EnableStep(item + kFirstItem, false,
                QLatin1String(kSetupItems[static_cast<std::size_t>(item)].whyNotOffered));
@@ -50,6 +50,9 @@ void SadrelMainForm::OnConnected(bool) {
   RunStep(prompts(), [this] { pages_[kItemStep]->LoadData(); });
   GoToStep(kSystemStep);
 }
+
+// The report of the last step tells them.
+void SadrelMainForm::ShowPending(const std::vector<ItemChange>&) {}
 
 void SadrelMainForm::OnItemChanged(int item, bool enabled) {
   EnableStep(item + kFirstItem, enabled, u"Left out in Setup Items."_s);

@@ -73,7 +73,8 @@ class SadrelMainForm : public ProgramForm {
   void OnSent();
 
  protected:
-  void OnConnected(bool whole) override;
+  void OnConnected(Outcome received) override;
+  void ShowPending(const std::vector<ItemChange>& changes) override;
 
  private:
   using Act = void (SadrelMainForm::*)();

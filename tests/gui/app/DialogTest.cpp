@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include "AppRig.h"
 #include "app/GetAppIcon.h"
@@ -207,6 +208,23 @@ TEST(SelFileItemDlg, OffersNothingForAFileOfNothing) {
   EXPECT_EQ(rig.Dialog().List1->rowCount(), 0);
   rig.Dialog().OkButton->click();
   EXPECT_FALSE(rig.Dialog().isVisible());
+}
+
+TEST(SelFileItemDlg, SaysWhyItOffersNothing) {
+  FileRig rig({});
+  SelFileItemDlg dialog(rig.k70, nullptr, "Line 1: no root");
+  dialog.show();
+  const auto* why = dialog.findChild<QLabel*>("WhyEmpty");
+  ASSERT_NE(why, nullptr);
+  EXPECT_TRUE(why->isVisible());
+  EXPECT_EQ(why->text(), "Line 1: no root");
+  EXPECT_EQ(dialog.List1->accessibleDescription(), why->text());
+}
+
+TEST(SelFileItemDlg, ShowsAllSectionsWithoutScrolling) {
+  FileRig rig({0, 1, 2, 3, 4, 5, 6, 7});
+  QApplication::processEvents();
+  EXPECT_EQ(rig.Dialog().List1->verticalScrollBar()->maximum(), 0);
 }
 
 TEST(SelFileItemDlg, AnUncheckedLineIsNotWantedAndACheckedOneIs) {

@@ -159,6 +159,22 @@ TEST(Open, ReadsTheChosenSectionsAndLoadsAllPagesDisabledOnesToo) {
   EXPECT_TRUE(rig.app.journal.Writes().empty()) << "nothing is sent";
 }
 
+// Another program may write the file while the question stands.
+TEST(Open, TakesWhatWasOfferedWhateverBecomesOfTheFile) {
+  for (const char* later : {"<Setup><SYSTEM><QHRMNAME NAME=\"Later\"/></SYSTEM></Setup>", "gone"}) {
+    CommandRig rig;
+    const TempFolder folder;
+    rig.app.prompts.ExpectFileToOpen(folder.Write("a.xml", kOtherName));
+    const WhenShown<SelFileItemDlg> person([&](SelFileItemDlg& dialog) {
+      folder.Write("a.xml", later);
+      dialog.OkButton->click();
+    });
+    rig.form().MenuFileOpen->trigger();
+    EXPECT_EQ(GetK70().SystemName, "From File");
+    EXPECT_TRUE(rig.app.prompts.Boxes().empty());
+  }
+}
+
 TEST(Open, WithTheDialogCancelledReadsNothingAndStillLoadsAllPages) {
   CommandRig rig;
   const std::string before = GetK70().SystemName;
@@ -203,6 +219,7 @@ TEST(Open, AFileThatCannotBeReadIsToldTwiceAndThePagesAreLoaded) {
     rig.app.prompts.ExpectBox(box, 0);
     const WhenShown<SelFileItemDlg> person([](SelFileItemDlg& dialog) {
       EXPECT_EQ(dialog.List1->rowCount(), 0);
+      EXPECT_NE(dialog.List1->accessibleDescription(), "") << "it says why";
       dialog.OkButton->click();
     });
     rig.form().MenuFileOpen->trigger();

@@ -29,7 +29,8 @@ class LastLook : public ProgramForm {
   }
 
  protected:
-  void OnConnected(bool) override {}
+  void OnConnected(Outcome) override {}
+  void ShowPending(const std::vector<ItemChange>&) override {}
 
  private:
   clsK70& k70_;
@@ -80,8 +81,8 @@ class LoggedOut : public MortaneMainForm {
   explicit LoggedOut(const FormServices& services) : MortaneMainForm(services, MainPages()) {}
 
  protected:
-  void OnConnected(bool whole) override {
-    MortaneMainForm::OnConnected(whole);
+  void OnConnected(Outcome received) override {
+    MortaneMainForm::OnConnected(received);
     QTimer::singleShot(0, this, [this] {
       QEvent end(QEvent::Quit);  // what the session's manager brings about
       QCoreApplication::sendEvent(qApp, &end);

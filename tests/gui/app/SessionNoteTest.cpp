@@ -83,7 +83,7 @@ TEST_F(Note, TellsOfTheSimulation) {
   bench.instruments[0].name = "Desk";
   Start(bench, {"/SIM"},
         [](RigLibrary& rig) { rig.prompts.ExpectBox("This application runs Simulation mode", 0); });
-  EXPECT_EQ(Text(), "Desk · Simulation · Received 09:12");
+  EXPECT_EQ(Text(), "Desk, Simulation · Received 09:12");
 }
 
 TEST_F(Note, CallsANamelessMicroscopeSo) {
@@ -115,6 +115,17 @@ TEST_F(Note, IsThereWhileTheSendWaits) {
   form->MenuConnectSend->trigger();
 }
 
+TEST_F(Note, TellsWhatRuns) {
+  Start(benches::Named("Harbour"));
+  Lines running;
+  prompts().onCall = [&] {
+    if (prompts().Log().back() == "progress 3/19") running.push_back(Text());
+  };
+  form->MenuConnectReceive->trigger();
+  form->MenuConnectSend->trigger();
+  EXPECT_EQ(running, (Lines{"Harbour · Receiving...", "Harbour · Sending..."}));
+}
+
 TEST_F(Note, TellsTransfersThatFailed) {
   Start(benches::Named("Harbour"));
   prompts().AcceptAnyBox();
@@ -122,9 +133,9 @@ TEST_F(Note, TellsTransfersThatFailed) {
   library->faults.Add({"DeviceList.Item(1).Name"});
   GetK70().SystemName = "Bay 4";
   form->MenuConnectReceive->trigger();
-  EXPECT_EQ(Text(), "Harbour · Receive failed 09:15");
+  EXPECT_EQ(Text(), "Harbour · Received 09:15, with failures");
   form->MenuConnectSend->trigger();
-  EXPECT_EQ(Text(), "Harbour · Send failed 09:15");
+  EXPECT_EQ(Text(), "Harbour · Sent 09:15, with failures");
 }
 
 TEST_F(Note, TellsAFirstReceiveThatFailed) {
@@ -132,7 +143,7 @@ TEST_F(Note, TellsAFirstReceiveThatFailed) {
     rig.prompts.AcceptAnyBox();
     rig.faults.Add({"NosepieceDevice.Positions.Count", 2});
   });
-  EXPECT_EQ(Text(), "Harbour · Receive failed 09:12");
+  EXPECT_EQ(Text(), "Harbour · Received 09:12, with failures");
 }
 
 TEST_F(Note, TellsTheNameOfAFile) {
@@ -152,6 +163,13 @@ TEST_F(Note, TellsFilesThatFailed) {
   EXPECT_EQ(Text(), "Harbour · Save failed: clinic.xml");
   Open(folder.Write("bad.xml", "no xml"), [](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
   EXPECT_EQ(Text(), "Harbour · Open failed: bad.xml");
+  Open(folder.Write("other.xml", "<Other/>"),
+       [](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+  EXPECT_EQ(Text(), "Harbour · Open failed: other.xml");
+  Open(folder.Write("part.xml",
+                    "<Setup><SYSTEM><QHRMNAME NAME=\"123456789012345\"/></SYSTEM></Setup>"),
+       [](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+  EXPECT_EQ(Text(), "Harbour · Opened part.xml, with failures");
 }
 
 TEST_F(Note, StaysWhenNothingWasDone) {
@@ -177,9 +195,9 @@ TEST_F(Note, TellsThatNoneIsConnected) {
   Start(Microscopes({"Alpha", "Beta"}), {"Alpha"});
   library->faults.Add({"DeviceList.Item(2).Connect"});
   prompts().ExpectBox("Device Connect Error.", 16, Answer::Ok, {},
-                      [this] { EXPECT_EQ(Text(), "Not connected · Received 09:12"); });
+                      [this] { EXPECT_EQ(Text(), "Not connected"); });
   Choose(1);
-  EXPECT_EQ(Text(), "Not connected · Received 09:12");
+  EXPECT_EQ(Text(), "Not connected");
 }
 
 TEST_F(Note, TellsThatAHeldMicroscopeIsNotConnected) {
@@ -189,7 +207,7 @@ TEST_F(Note, TellsThatAHeldMicroscopeIsNotConnected) {
   ASSERT_TRUE(holder.CreateConnectionName("2"));
   prompts().ExpectBox("Other Application has already used this Microscope.", 0);
   Choose(1);
-  EXPECT_EQ(Text(), "Not connected · Received 09:12");
+  EXPECT_EQ(Text(), "Not connected");
 }
 
 TEST_F(Note, StandsAtTheRightEndAndGivesWayToTheButtons) {

@@ -1,0 +1,116 @@
+#include "app/DifferencesDlg.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "app/GetAppIcon.h"
+#include "app/PendingChanges.h"
+#include "record/ItemWords.h"
+#include "widgets/Named.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+constexpr QSize kSize{680, 420};
+constexpr int kButtonWidth = 96;
+constexpr int kColumns = 3;
+constexpr int kPageRole = Qt::UserRole;
+
+QStringList Cells(const ItemChange& change, const DifferencesDlg::Content& content) {
+  return {QString::fromStdString(NameInWords(change.to.key, change.to.kind)),
+          QString::fromStdString(ValueInWords(change.from, content.before)),
+          QString::fromStdString(ValueInWords(change.to, content.now))};
+}
+
+}  // namespace
+
+DifferencesDlg::DifferencesDlg(const Content& content, QWidget* parent)
+    : QDialog(parent),
+      List1(Named(new QTreeWidget(this), "List1")),
+      ButtonCopy(Named(new QPushButton(u"Copy"_s, this), "ButtonCopy")),
+      ButtonClose(Named(new QPushButton(u"Close"_s, this), "ButtonClose")) {
+  setWindowTitle(u"Changes not sent"_s);
+  setWindowIcon(GetAppIcon());
+  List1->setAccessibleName(windowTitle());
+  List1->setHeaderLabels({u"Item"_s, u"Microscope"_s, u"Here"_s});
+  List1->setRootIsDecorated(false);
+  List1->setItemsExpandable(false);
+  List1->setAllColumnsShowFocus(true);
+  List1->setUniformRowHeights(true);
+  Fill(content);
+  Arrange();
+  ButtonClose->setDefault(false);
+  ButtonClose->setAutoDefault(false);
+  ButtonCopy->setAutoDefault(false);
+  connect(List1, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* row) { GoTo(*row); });
+  connect(ButtonCopy, &QPushButton::clicked, this, [this] { Copy(); });
+  connect(ButtonClose, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void DifferencesDlg::Fill(const Content& content) {
+  QTreeWidgetItem* page = nullptr;
+  for (const ItemChange& change : content.changes) {
+    const auto index = static_cast<int>(PageOf(change.to.key));
+    if (page == nullptr || page->data(0, kPageRole).toInt() != index) {
+      page = new QTreeWidgetItem(List1, {content.pageTitles.at(static_cast<std::size_t>(index))});
+      page->setData(0, kPageRole, index);
+      page->setFont(0, BoldFont());
+      page->setFirstColumnSpanned(true);
+      page->setExpanded(true);
+    }
+    const QStringList cells = Cells(change, content);
+    auto* row = new QTreeWidgetItem(page, cells);
+    row->setData(0, kPageRole, index);
+    for (int column = 0; column < kColumns; ++column) row->setToolTip(column, cells[column]);
+  }
+  if (QTreeWidgetItem* first = List1->topLevelItem(0)) List1->setCurrentItem(first->child(0));
+}
+
+void DifferencesDlg::Arrange() {
+  List1->header()->setSectionResizeMode(QHeaderView::Interactive);
+  List1->header()->resizeSection(0, kSize.width() * 2 / 5);
+  List1->header()->resizeSection(1, kSize.width() / 4);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(grid::kPageMargin, grid::kPageMargin, grid::kPageMargin,
+                           grid::kPageMargin);
+  rows->setSpacing(grid::kBetweenGroups);
+  rows->addWidget(List1, 1);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(grid::kBetweenControls);
+  buttons->addStretch();
+  for (QPushButton* button : {ButtonCopy, ButtonClose}) {
+    button->setMinimumWidth(kButtonWidth);
+    buttons->addWidget(button);
+  }
+  rows->addLayout(buttons);
+  resize(kSize);
+}
+
+// One line for each change, its cells parted by tabs; captions as lines of their own.
+void DifferencesDlg::Copy() {
+  QString text;
+  for (int i = 0; i < List1->topLevelItemCount(); ++i) {
+    const QTreeWidgetItem& page = *List1->topLevelItem(i);
+    text += page.text(0) + u'\n';
+    for (int j = 0; j < page.childCount(); ++j) {
+      const QTreeWidgetItem& row = *page.child(j);
+      text += row.text(0) + u'\t' + row.text(1) + u'\t' + row.text(2) + u'\n';
+    }
+  }
+  QGuiApplication::clipboard()->setText(text);
+}
+
+void DifferencesDlg::GoTo(const QTreeWidgetItem& row) {
+  chosen_ = row.data(0, kPageRole).toUInt();
+  accept();
+}
+
+}  // namespace mortane

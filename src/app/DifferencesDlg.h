@@ -1,0 +1,45 @@
+// The list of what was changed and not sent: item, what the microscope has, what is here.
+#pragma once
+
+#include <QDialog>
+#include <optional>
+#include <vector>
+
+#include "record/Comparison.h"
+
+class QPushButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace mortane {
+
+// Rows stand under the captions of their pages. Enter or a double click on a row closes the dialog
+// and goes to the page.
+class DifferencesDlg : public QDialog {
+ public:
+  struct Content {
+    std::vector<ItemChange> changes;  // in the order of the pages
+    ItemNames before;
+    ItemNames now;
+    std::vector<QString> pageTitles;
+  };
+
+  explicit DifferencesDlg(const Content& content, QWidget* parent = nullptr);
+
+  // The page of the row that was gone to.
+  [[nodiscard]] std::optional<std::size_t> ChosenPage() const { return chosen_; }
+
+  QTreeWidget* List1;
+  QPushButton* ButtonCopy;
+  QPushButton* ButtonClose;
+
+ private:
+  void Fill(const Content& content);
+  void Arrange();
+  void Copy();
+  void GoTo(const QTreeWidgetItem& row);
+
+  std::optional<std::size_t> chosen_;
+};
+
+}  // namespace mortane

@@ -1,0 +1,74 @@
+#include "app/PendingChanges.h"
+
+#include <algorithm>
+#include <array>
+
+#include "app/PageTable.h"
+#include "common/Failure.h"
+#include "hub/SettingsFile.h"
+#include "record/ItemIndex.h"
+#include "record/ModelItems.h"
+#include "record/SentItems.h"
+
+namespace mortane {
+namespace {
+
+// In the order of the file's sections: the last three stand on the page of the controls.
+constexpr std::array<std::size_t, kFileSections.size()> kPages{0, 1, 2, 3, 4, 5, 5, 5};
+
+}  // namespace
+
+std::size_t PageOf(const ItemKey& key) {
+  for (std::size_t i = 0; i < kFileSections.size(); ++i) {
+    if (kFileSections[i].element == key.section) return kPages[i];
+  }
+  return 0;
+}
+
+void PendingChanges::TakeReceived() {
+  Take(&clsK70::WasRead);
+}
+
+void PendingChanges::TakeSent() {
+  Take(&clsK70::WasSent);
+}
+
+void PendingChanges::Take(Done done) {
+  try {
+    ConfigurationState now = StateOf(k70_);
+    if (held_) {
+      const ItemIndex before(held_->items);
+      for (ConfigurationItem& item : now.items) {
+        if ((k70_.*done)(TransferOf(item.kind))) continue;
+        if (const ConfigurationItem* former = before.Find(item.key)) item = *former;
+      }
+    }
+    held_ = std::move(now);
+  } catch (const Failure&) {
+    held_.reset();
+  }
+}
+
+std::vector<ItemChange> PendingChanges::Find() const {
+  if (!held_) return {};
+  std::vector<ItemChange> changes;
+  try {
+    changes = DifferencesOf(held_->items, ItemsOf(k70_)).changed;
+  } catch (const Failure&) {
+    return {};
+  }
+  std::erase_if(changes, [this](const ItemChange& change) {
+    const std::string_view transfer = TransferOf(change.to.kind);
+    return IsRepetition(change.to) || transfer.empty() || !k70_.IsSent(transfer);
+  });
+  std::stable_sort(changes.begin(), changes.end(), [](const ItemChange& a, const ItemChange& b) {
+    return PageOf(a.to.key) < PageOf(b.to.key);
+  });
+  return changes;
+}
+
+ItemNames PendingChanges::HeldNames() const {
+  return held_ ? held_->names : ItemNames(k70_);
+}
+
+}  // namespace mortane

@@ -1,0 +1,42 @@
+// What the model holds and the microscope does not: the edits since they were last made equal.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "record/Comparison.h"
+
+namespace mortane {
+
+// Compares the model with its own state after the last Receive or Send. Makes no call to the
+// controller.
+class PendingChanges {
+ public:
+  explicit PendingChanges(const clsK70& k70) : k70_(k70) {}
+
+  // Right after a transfer, before any page has loaded. What a transfer with failures did not read
+  // or write counts as it did before.
+  void TakeReceived();
+  void TakeSent();
+  // No microscope is connected.
+  void Forget() { held_.reset(); }
+
+  // In the order of the pages; `from` is what the microscope holds. Only what a Send would run
+  // through. Empty while nothing was received, and for a text that no settings file can hold.
+  [[nodiscard]] std::vector<ItemChange> Find() const;
+  // The names that belong to `from`.
+  [[nodiscard]] ItemNames HeldNames() const;
+
+ private:
+  using Done = bool (clsK70::*)(std::string_view transfer) const;
+  void Take(Done done);
+
+  const clsK70& k70_;
+  std::optional<ConfigurationState> held_;
+};
+
+// The page of the main window that shows an item, by its index.
+std::size_t PageOf(const ItemKey& key);
+
+}  // namespace mortane
