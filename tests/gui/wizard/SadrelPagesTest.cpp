@@ -78,8 +78,9 @@ TEST(Controls, ShowWhatALoadingThatFailsDidNotComeTo) {
     rig.k70().curType = type;
     auto& page = rig.Show(new SadrelControlOtherCtl(rig.k70()));
     ControlOtherCtl& inner = *page.ControlOtherCtl1;
-    for (InnerFrame* frame :
-         {inner.FrameManualHandle, inner.FrameBuzzer, inner.FrameSwitch, inner.FrameR_TLPORemote}) {
+    for (QWidget* frame :
+         std::initializer_list<QWidget*>{inner.FrameManualHandle, inner.FrameBuzzer,
+                                         inner.FrameSwitch, inner.FrameR_TLPORemote}) {
       frame->hide();
     }
     rig.k70().COther.curAutoXY = 0;
