@@ -165,6 +165,7 @@ MemberTable<DeviceLink> MembersOf(const DeviceRow& row) {
 const MemberTable<DeviceLink>& DeviceMembers(std::size_t place) {
   static const std::vector<MemberTable<DeviceLink>> tables = [] {
     std::vector<MemberTable<DeviceLink>> all;
+    all.reserve(kDevices.size());
     for (const DeviceRow& device : kDevices) all.push_back(MembersOf(device));
     return all;
   }();
@@ -215,6 +216,7 @@ Instrument& Commanded(const DeviceLink& link, int accessoryNumber) {
 
 std::vector<std::string_view> AccessoryDeviceMembers() {
   std::vector<std::string_view> names;
+  names.reserve(kDevices.size());
   for (const DeviceRow& device : kDevices) names.push_back(device.member);
   return names;
 }
