@@ -17,8 +17,10 @@ class DriveUnits : public BenchMicroscope {
   clsControlXYDrive CXYDrive{*this};
   clsControlOther COther{*this};
 
- private:
+ protected:
   std::string ReadUnits() override { return ReadInOrder(CZDrive, CXYDrive, COther); }
+
+ private:
   void TakeCounts() override {
     CXYDrive.NoseCount = CZDrive.NoseCount = TurretCount(accessory::kNosepiece);
   }

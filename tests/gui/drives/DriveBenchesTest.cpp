@@ -1,23 +1,19 @@
 // Both drive pages on every instrument: what loading does to the model, and what the move buttons
 // write altogether.
 #include "gui/drives/DrivePages.h"
-#include "support/TempFolder.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
 
 // All that a settings file holds.
-std::string Settings(clsK70& k70) {
-  const TempFolder folder;
-  const std::string path = folder.Path("settings.xml");
-  k70.WriteXML(path);
-  std::string settings = TempFolder::Read(path);
-  EXPECT_FALSE(settings.empty());
-  return settings;
+std::string Settings(const DrivePageUnits& k70) {
+  return FileTextOf(k70.ILOther) + FileTextOf(k70.CZDrive) + FileTextOf(k70.CXYDrive) +
+         FileTextOf(k70.COther);
 }
 
 // What the drive units hold beside it.
-std::string Unsaved(clsK70& k70) {
+std::string Unsaved(DrivePageUnits& k70) {
   std::string text = std::to_string(k70.CZDrive.curUpperLimit);
   for (std::int32_t address = 1; address <= 10; ++address) {
     text += ' ' + std::to_string(k70.CZDrive.Position(address));
@@ -29,7 +25,7 @@ std::string Unsaved(clsK70& k70) {
   return text;
 }
 
-void SetPositions(clsK70& k70) {
+void SetPositions(DrivePageUnits& k70) {
   k70.CZDrive.curUpperLimit = 1;
   for (std::int32_t address = 1; address <= 10; ++address) {
     k70.CZDrive.Position(address, 1000 + address);
@@ -67,7 +63,7 @@ TEST(DriveBenches, LoadingTheFocusPageChangesTheEscapeAndTheInterlockAndNothingE
   for (const LoadRow& row : AllBenches()) {
     PageRig rig(row.bench, Link::Reported);
     rig.prompts.AcceptAnyBox();
-    clsK70& k70 = rig.k70();
+    DrivePageUnits& k70 = rig.k70();
     SetPositions(k70);
     for (const std::int16_t flag : {std::int16_t{0}, std::int16_t{2}, std::int16_t{1}}) {
       const std::unique_ptr<Page> page(MakeControlFocusDriveCtl(k70));
@@ -124,7 +120,7 @@ bool AllAreTo(const Lines& writes, const std::string& opening) {
 
 using Steps = std::vector<std::int32_t>;
 
-bool CanBeDriven(clsK70& k70, std::int32_t accessory) {
+bool CanBeDriven(DrivePageUnits& k70, std::int32_t accessory) {
   return k70.IsMounted(accessory) == kControllable;
 }
 

@@ -12,9 +12,8 @@
 #include "drives/ControlFocusDriveCtl.h"
 #include "drives/ControlXYStageCtl.h"
 #include "drives/PositionTableCtl.h"
+#include "gui/drives/DrivePageUnits.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
-#include "hub/clsK70.h"
 #include "support/Rows.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/TextField.h"
@@ -30,13 +29,13 @@ inline constexpr const char* kTeach =
     "Please move Focus Position with Handle.\r\nIf Focus Position is OK, Click OK Button";
 inline constexpr const char* kTeachCaption = "Move Focus Postion";
 
-inline ControlFocusDriveCtl* MakeControlFocusDriveCtl(clsK70& k70) {
+inline ControlFocusDriveCtl* MakeControlFocusDriveCtl(DrivePageUnits& k70) {
   return new ControlFocusDriveCtl(k70.CZDrive, [&k70](bool follows) {
     k70.ILOther.Status(accessory::kZFocusDrive, follows ? kInterlockOn : kInterlockOff);
   });
 }
 
-inline ControlXYStageCtl* MakeControlXYStageCtl(clsK70& k70) {
+inline ControlXYStageCtl* MakeControlXYStageCtl(DrivePageUnits& k70) {
   return new ControlXYStageCtl(k70.CXYDrive);
 }
 
@@ -71,7 +70,7 @@ class DrivePageRig : public PageRig {
     std::size_t axis = 0;
   };
 
-  DrivePageRig(Bench bench, PageKind* (*make)(clsK70&))
+  DrivePageRig(Bench bench, PageKind* (*make)(DrivePageUnits&))
       : PageRig(Standing(std::move(bench)), Link::Reported), page(Show(make(k70()))) {
     Forget();
   }

@@ -2,55 +2,54 @@
 #include "gui/drives/DrivePages.h"
 #include "gui/drives/DrivesTold.h"
 #include "gui/support/PageDrill.h"
-#include "gui/support/PageRig.h"
 
 namespace mortane::test {
 namespace {
 
 template <auto Unit, auto Field>
-std::string ValueOf(clsK70& k70) {
+std::string ValueOf(DrivePageUnits& k70) {
   return std::to_string(k70.*Unit.*Field);
 }
 
 template <auto Unit, auto Field, std::int32_t Value>
-void Set(clsK70& k70) {
+void Set(DrivePageUnits& k70) {
   k70.*Unit.*Field = Value;
 }
 
-constexpr auto kZ = &clsK70::CZDrive;
-constexpr auto kXY = &clsK70::CXYDrive;
+constexpr auto kZ = &DrivePageUnits::CZDrive;
+constexpr auto kXY = &DrivePageUnits::CXYDrive;
 constexpr auto kZCompensation = &clsControlZDrive::curFocusCompensation;
 constexpr auto kLowerLimit = &clsControlZDrive::curLowerLimit;
 constexpr auto kUpperLimit = &clsControlZDrive::curUpperLimit;
 constexpr auto kXYCompensation = &clsControlXYDrive::curFocusCompensation;
 
 template <std::int32_t Axis>
-std::string EscapeOf(clsK70& k70) {
+std::string EscapeOf(DrivePageUnits& k70) {
   return std::to_string(k70.CZDrive.SetEscape(Axis));
 }
 
 template <std::int32_t Axis, std::int16_t Flag>
-void SetEscape(clsK70& k70) {
+void SetEscape(DrivePageUnits& k70) {
   k70.CZDrive.SetEscape(Axis, Flag);
 }
 
-std::function<std::string(clsK70&)> PositionOf(std::int32_t address) {
-  return [address](clsK70& k70) { return std::to_string(k70.CZDrive.Position(address)); };
+std::function<std::string(DrivePageUnits&)> PositionOf(std::int32_t address) {
+  return [address](DrivePageUnits& k70) { return std::to_string(k70.CZDrive.Position(address)); };
 }
-std::function<void(clsK70&)> PutPosition(std::int32_t address, std::int32_t steps) {
-  return [=](clsK70& k70) { k70.CZDrive.Position(address, steps); };
+std::function<void(DrivePageUnits&)> PutPosition(std::int32_t address, std::int32_t steps) {
+  return [=](DrivePageUnits& k70) { k70.CZDrive.Position(address, steps); };
 }
-std::function<std::string(clsK70&)> XOf(std::int32_t address) {
-  return [address](clsK70& k70) { return std::to_string(k70.CXYDrive.PositionX(address)); };
+std::function<std::string(DrivePageUnits&)> XOf(std::int32_t address) {
+  return [address](DrivePageUnits& k70) { return std::to_string(k70.CXYDrive.PositionX(address)); };
 }
-std::function<void(clsK70&)> PutX(std::int32_t address, std::int32_t steps) {
-  return [=](clsK70& k70) { k70.CXYDrive.PositionX(address, steps); };
+std::function<void(DrivePageUnits&)> PutX(std::int32_t address, std::int32_t steps) {
+  return [=](DrivePageUnits& k70) { k70.CXYDrive.PositionX(address, steps); };
 }
-std::function<std::string(clsK70&)> YOf(std::int32_t address) {
-  return [address](clsK70& k70) { return std::to_string(k70.CXYDrive.PositionY(address)); };
+std::function<std::string(DrivePageUnits&)> YOf(std::int32_t address) {
+  return [address](DrivePageUnits& k70) { return std::to_string(k70.CXYDrive.PositionY(address)); };
 }
-std::function<void(clsK70&)> PutY(std::int32_t address, std::int32_t steps) {
-  return [=](clsK70& k70) { k70.CXYDrive.PositionY(address, steps); };
+std::function<void(DrivePageUnits&)> PutY(std::int32_t address, std::int32_t steps) {
+  return [=](DrivePageUnits& k70) { k70.CXYDrive.PositionY(address, steps); };
 }
 
 // An instrument that has a lower limit: no condenser, not even a sensed one.
@@ -67,7 +66,7 @@ std::function<void(Bench&)> WithVersion(const char* version) {
 }
 
 // What the drills of all these pages begin with; their loading prepares a drive for moves.
-PageDrillData Drill(const char* name, const char* bench, std::function<Page*(clsK70&)> make,
+PageDrillData Drill(const char* name, const char* bench, std::function<Page*(DrivePageUnits&)> make,
                     std::vector<AccessibleControl> accessible) {
   PageDrillData data;
   data.name = name;

@@ -1,18 +1,17 @@
 // The drill for the page of the other controls, on instruments that have one part of it each.
 #include "gui/drives/OtherPage.h"
 #include "gui/support/PageDrill.h"
-#include "gui/support/PageRig.h"
 
 namespace mortane::test {
 namespace {
 
 template <std::int32_t clsControlOther::*Field>
-std::string ValueOf(clsK70& k70) {
+std::string ValueOf(DrivePageUnits& k70) {
   return std::to_string(k70.COther.*Field);
 }
 
 template <std::int32_t clsControlOther::*Field, std::int32_t Value>
-void Set(clsK70& k70) {
+void Set(DrivePageUnits& k70) {
   k70.COther.*Field = Value;
 }
 
@@ -164,7 +163,7 @@ PageDrillData FiberIlluminator() {
   data.name = "FiberIlluminator";
   data.without = {DrillTable::Refused};
   data.bench = "Quay";
-  data.make = [](clsK70& k70) -> Page* {
+  data.make = [](DrivePageUnits& k70) -> Page* {
     k70.COther.curFiberStatus = true;
     k70.COther.curFiberSwEnable = 1;
     k70.COther.curFiberLED = 2;

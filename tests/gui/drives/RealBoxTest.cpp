@@ -15,9 +15,8 @@ namespace {
 class RealBox : public testing::Test {
  protected:
   RealBox() {
-    k70.Initialize();
-    EXPECT_TRUE(k70.Connect(1));
-    k70.Receive();
+    k70.Connect(1);
+    EXPECT_EQ(k70.Receive(), "");
     page = new ControlXYStageCtl(k70.CXYDrive);
     auto* column = new QVBoxLayout(&window);
     column->addWidget(page);
@@ -41,7 +40,7 @@ class RealBox : public testing::Test {
 
   controller::SimulatedLibrary simulated{benches::Named("Harbour")};
   QtPrompts prompts{[](int) { ADD_FAILURE() << "nobody should wait"; }};
-  clsK70 k70{simulated, prompts};
+  DrivePageUnits k70{simulated, simulated.bench(), prompts};
   QWidget window;
   ControlXYStageCtl* page = nullptr;
 };

@@ -54,7 +54,7 @@ TEST(StagePage, TheMovesComeBackWithTheNextMicroscope) {
   auto& page = rig.Show(MakeControlXYStageCtl(rig.k70()));
   ASSERT_FALSE(page.FrameXYControl->isVisible());
   rig.k70().Disconnect();
-  ASSERT_TRUE(rig.k70().Connect(1));
+  rig.k70().Connect(1);
   page.LoadData();
   EXPECT_TRUE(page.FrameXYControl->isVisible());
 }
