@@ -10,7 +10,6 @@
 #include "model/OptionCodes.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
-#include "widgets/PairPanel.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
@@ -70,57 +69,33 @@ const std::array<FilterQubeCtl::Value, 4> FilterQubeCtl::kValues{{
 }};
 
 FilterQubeCtl::FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidget* parent)
-    : CardPage(u"Set Filter Cube Data to Each Address"_s, parent),
+    : TurretPage(u"Set Filter Cube Data to Each Address"_s, PlaceKind::Cubes, u"Filter Turret"_s,
+                 parent),
       filterTurret_(turret),
       cubes_(cubes) {
-  TabPocket = new TabStrip(FrameBase);
-  TabPocket->setAccessibleName(u"Address"_s);
-  FrameBase->body()->addWidget(TabPocket);
-  FrameBase->body()->addWidget(BuildList(FrameBase), 1);
-  FrameBase->body()->addWidget(BuildValueBox(FrameBase));
-
-  connect(TabPocket, &TabStrip::chosen, this, &FilterQubeCtl::ClickTab);
+  TabPocket = tabs();
+  BuildList();
+  BuildValues();
   connect(List1, &ListBox::selectionChanged, this, &FilterQubeCtl::ClickList);
-  connect(turret_, &TurretDrawing::chosen, this, [this](int index) {
-    TabPocket->setIndex(index);
-    ClickTab();
-  });
 }
 
-QWidget* FilterQubeCtl::BuildList(QWidget* parent) {
-  auto* panel = new PairPanel(parent);
-  turret_ = new TurretDrawing(PlaceKind::Cubes, panel);
-  turret_->setAccessibleName(u"Filter Turret"_s);
-  List1 = new ListBox(panel);
+void FilterQubeCtl::BuildList() {
+  List1 = new ListBox(listParent());
   List1->setAccessibleName(u"Filter Cubes"_s);
   QVector<ListColumn> columns;
   for (const Value& value : kValues) columns.append({QLatin1String(value.caption)});
   List1->SetColumns(columns);
-  List1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
-  panel->SetParts(turret_, 0, List1, 1);
-  panel->SetCharactersBeside(kListCharacters);
-  return panel;
+  SetLists(List1, kListCharacters);
+  SetTabStops(List1, {kTabStops.begin(), kTabStops.end()});
 }
 
-QFrame* FilterQubeCtl::BuildValueBox(QWidget* parent) {
-  auto* values = new ValueBox(parent);
-  Frm1 = values;
+void FilterQubeCtl::BuildValues() {
+  Frm1 = values();
   for (const Value& value : kValues) {
-    const ValueBox::Value added = values->AddValue(value.caption, kCharacters, 1);
+    const ValueBox::Value added = values()->AddValue(value.caption, kCharacters, 1);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }
-  return values;
-}
-
-void FilterQubeCtl::showEvent(QShowEvent* event) {
-  if (!shownBefore_) List1->SetTabStops({kTabStops.begin(), kTabStops.end()});
-  shownBefore_ = true;
-  Page::showEvent(event);
-}
-
-std::int32_t FilterQubeCtl::address() const {
-  return TabPocket->caption().toInt();
 }
 
 std::int32_t FilterQubeCtl::mounted() const {
@@ -168,7 +143,7 @@ int FilterQubeCtl::RowOf(std::int32_t code) const {
 
 // Kept: a mounted cube that is not listed leaves the row of the tab before.
 void FilterQubeCtl::ClickTab() {
-  turret_->setIndex(TabPocket->index());
+  turret()->setIndex(TabPocket->index());
   if (const int row = RowOf(mounted()); row >= 0) List1->setIndex(row);
   const bool avoidsFirst = TabPocket->caption() == QLatin1String(kAddressOfSecondCube);
   if (avoidsFirst && List1->index() == 0 && List1->rowCount() > 1) List1->setIndex(1);
@@ -194,7 +169,7 @@ bool FilterQubeCtl::LeavesProtectedCube(int row) const {
 void FilterQubeCtl::ShowAndStore(int row) {
   ShowParts(row);
   filterTurret_.code(address(), List1->data(row).toInt());
-  turret_->SetItem(TabPocket->index(), TurretItemOf(cubes_, mounted()));
+  turret()->SetItem(TabPocket->index(), TurretItemOf(cubes_, mounted()));
 }
 
 void FilterQubeCtl::ShowParts(int row) {
@@ -207,8 +182,8 @@ void FilterQubeCtl::UpdateTurret() {
   QVector<TurretItem> items;
   for (std::int32_t i = 1; i <= filterTurret_.Count; ++i)
     items.append(TurretItemOf(cubes_, filterTurret_.code(i)));
-  turret_->SetItems(items);
-  turret_->setIndex(TabPocket->index());
+  turret()->SetItems(items);
+  turret()->setIndex(TabPocket->index());
 }
 
 }  // namespace mortane

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-#include "widgets/CardPage.h"
+#include "drawings/TurretPage.h"
 #include "widgets/Control.h"
 
 class QFrame;
@@ -15,16 +15,14 @@ namespace mortane {
 
 class ListBox;
 class TabStrip;
-class TurretDrawing;
 class ValueLabel;
 class clsDbFilter;
 class clsFilter;
-struct TurretItem;
 
 // Every selection in the list mounts that cube, also one that the program makes. The observation
 // methods rely on the last address holding one of the first two cubes, so a change away from them
 // is asked about.
-class FilterQubeCtl : public CardPage {
+class FilterQubeCtl : public TurretPage {
   Q_OBJECT
 
  public:
@@ -45,31 +43,27 @@ class FilterQubeCtl : public CardPage {
   Control<ValueLabel> LabelBarrier{"LabelBarrier"};
 
  protected:
-  void showEvent(QShowEvent* event) override;
+  void ClickTab() override;
 
  private:
   struct Value;
   static const std::array<Value, 4> kValues;
 
-  QWidget* BuildList(QWidget* parent);
-  QFrame* BuildValueBox(QWidget* parent);
+  void BuildList();
+  void BuildValues();
   // The row to select for a mounted code; -1 when there is none.
   int FillList(std::int32_t mounted);
   void AddCube(std::int32_t code);
   int RowOf(std::int32_t code) const;
-  void ClickTab();
   void ClickList(int row);
   bool LeavesProtectedCube(int row) const;
   void ShowAndStore(int row);
   void ShowParts(int row);
-  std::int32_t address() const;  // of the selected tab; 0 without one
   std::int32_t mounted() const;
   void UpdateTurret();
 
   clsFilter& filterTurret_;
   const clsDbFilter& cubes_;
-  Control<TurretDrawing> turret_{"turret"};
-  bool shownBefore_ = false;
 };
 
 }  // namespace mortane

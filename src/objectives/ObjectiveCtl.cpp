@@ -13,7 +13,6 @@
 #include "objectives/clsNosepiece.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
-#include "widgets/PairPanel.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
@@ -80,29 +79,19 @@ const ObjectiveCtl::Value ObjectiveCtl::kValues[6]{
 
 ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& objectives,
                            QWidget* parent)
-    : CardPage(u"Set Objective Data to Each Address"_s, parent),
+    : TurretPage(u"Set Objective Data to Each Address"_s, PlaceKind::Objectives, u"Nosepiece"_s,
+                 parent),
       nosepiece_(nosepiece),
       objectives_(objectives) {
-  TabNosepiece = new TabStrip(FrameBase);
-  TabNosepiece->setAccessibleName(u"Address"_s);
-  FrameBase->body()->addWidget(TabNosepiece);
-  FrameBase->body()->addWidget(BuildLists(FrameBase), 1);
-  FrameBase->body()->addWidget(BuildValueBox(FrameBase));
-
-  connect(TabNosepiece, &TabStrip::chosen, this, &ObjectiveCtl::ClickTab);
+  TabNosepiece = tabs();
+  BuildLists();
+  BuildValues();
   connect(ListSeries, &ListBox::selectionChanged, this, &ObjectiveCtl::ClickSeries);
   connect(ListItem, &ListBox::selectionChanged, this, &ObjectiveCtl::ClickItem);
-  connect(turret_, &TurretDrawing::chosen, this, [this](int index) {
-    TabNosepiece->setIndex(index);
-    ClickTab();
-  });
 }
 
-QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
-  auto* panel = new PairPanel(parent);
-  turret_ = new TurretDrawing(PlaceKind::Objectives, panel);
-  turret_->setAccessibleName(u"Nosepiece"_s);
-  auto* lists = new QWidget(panel);
+void ObjectiveCtl::BuildLists() {
+  auto* lists = new QWidget(listParent());
   ListSeries = new ListBox(lists);
   ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
   ListSeries->setFixedWidth(kSeriesWidth);
@@ -114,39 +103,23 @@ QWidget* ObjectiveCtl::BuildLists(QWidget* parent) {
                         {u"N.A."_s, Qt::AlignRight},
                         {u"Name"_s}});
   ListItem->SetNameColumn(kNameColumn);
-  for (ListBox* list : std::initializer_list<ListBox*>{ListSeries, ListItem}) {
-    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
-  }
   auto* row = new QHBoxLayout(lists);
   row->setContentsMargins({});
   row->setSpacing(grid::kBetweenColumns);
   row->addWidget(ListSeries);
   row->addWidget(ListItem, 1);
-  panel->SetParts(turret_, 0, lists, 1);
-  panel->SetCharactersBeside(kListCharacters);
-  return panel;
+  SetLists(lists, kListCharacters);
+  SetTabStops(ListItem, {kTabStops.begin(), kTabStops.end()});
 }
 
-QFrame* ObjectiveCtl::BuildValueBox(QWidget* parent) {
-  auto* values = new ValueBox(parent);
-  Frame1 = values;
+void ObjectiveCtl::BuildValues() {
+  Frame1 = values();
   for (const Value& value : kValues) {
     const ValueBox::Value added =
-        values->AddValue(value.caption, value.characters, value.characters);
+        values()->AddValue(value.caption, value.characters, value.characters);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }
-  return values;
-}
-
-void ObjectiveCtl::showEvent(QShowEvent* event) {
-  if (!shownBefore_) ListItem->SetTabStops({kTabStops.begin(), kTabStops.end()});
-  shownBefore_ = true;
-  Page::showEvent(event);
-}
-
-std::int32_t ObjectiveCtl::address() const {
-  return TabNosepiece->caption().toInt();
 }
 
 void ObjectiveCtl::LoadData() {
@@ -171,7 +144,7 @@ void ObjectiveCtl::FillSeries() {
 void ObjectiveCtl::ClickTab() {
   const std::int32_t mounted = nosepiece_.code(address());
   const std::int32_t series = objectives_.SeriesCode(mounted);
-  turret_->setIndex(TabNosepiece->index());
+  turret()->setIndex(TabNosepiece->index());
   listing_.reset();
   ListSeries->setIndex(series);
   LabelSeries->setText(QString::fromStdString(objectives_.Series(series)));
@@ -192,7 +165,7 @@ void ObjectiveCtl::ClickItem(int row) {
   ShowParts(ListItem->cells(row));
   if (address() == 0) return;
   nosepiece_.code(address(), ListItem->data(row).toInt());
-  turret_->SetItem(TabNosepiece->index(), ItemAt(address()));
+  turret()->SetItem(TabNosepiece->index(), ItemAt(address()));
 }
 
 // Of neighbours that read the same one row stands for both, and the mounted code wins.
@@ -260,7 +233,7 @@ TurretItem ObjectiveCtl::ItemAt(std::int32_t address) const {
 void ObjectiveCtl::UpdateTurret() {
   QVector<TurretItem> items;
   for (std::int32_t i = 1; i <= nosepiece_.Count; ++i) items.append(ItemAt(i));
-  turret_->SetItems(items);
+  turret()->SetItems(items);
 }
 
 }  // namespace mortane

@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "widgets/CardPage.h"
+#include "drawings/TurretPage.h"
 #include "widgets/Control.h"
 
 class QFrame;
@@ -16,15 +16,13 @@ namespace mortane {
 
 class ListBox;
 class TabStrip;
-class TurretDrawing;
 class ValueLabel;
 class clsDbNosepiece;
 class clsNosepiece;
-struct TurretItem;
 
 // Every selection in the list of objectives mounts that objective, also one that the program
 // makes. Kept: so browsing another series mounts its first objective, and so may loading.
-class ObjectiveCtl : public CardPage {
+class ObjectiveCtl : public TurretPage {
   Q_OBJECT
 
  public:
@@ -51,7 +49,7 @@ class ObjectiveCtl : public CardPage {
   Control<ValueLabel> LabelName{"LabelName"};
 
  protected:
-  void showEvent(QShowEvent* event) override;
+  void ClickTab() override;
 
  private:
   struct Value;
@@ -67,8 +65,8 @@ class ObjectiveCtl : public CardPage {
     int row;
   };
 
-  QWidget* BuildLists(QWidget* parent);
-  QFrame* BuildValueBox(QWidget* parent);
+  void BuildLists();
+  void BuildValues();
   void ShowParts(const QStringList& cells);
   void FillSeries();
   // The row to select for the mounted code; -1 when the series does not list it.
@@ -77,17 +75,13 @@ class ObjectiveCtl : public CardPage {
   void SelectOrBlank(int row);
   void ClickSeries(int row);
   void ClickItem(int row);
-  void ClickTab();
-  std::int32_t address() const;  // of the selected tab; 0 without one
   TurretItem ItemAt(std::int32_t address) const;
   void UpdateTurret();
 
   clsNosepiece& nosepiece_;
   const clsDbNosepiece& objectives_;
-  Control<TurretDrawing> turret_{"turret"};
   std::vector<Row> rows_;  // of the objective list
   std::optional<Listing> listing_;
-  bool shownBefore_ = false;
 };
 
 }  // namespace mortane
