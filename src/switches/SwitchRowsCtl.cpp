@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <utility>
 
 #include "drawings/SwitchDrawing.h"
 #include "switches/ReportList.h"
@@ -22,7 +23,7 @@ constexpr int kFunctionColumn = 1;
 }  // namespace
 
 SwitchRowsCtl::SwitchRowsCtl(const QString& caption, KnobCheck knobCheck, QWidget* parent)
-    : CardPage(caption, parent), knobCheck_(knobCheck) {}
+    : CardPage(caption, parent), knobCheck_(std::move(knobCheck)) {}
 
 void SwitchRowsCtl::MakeDrawing(const SwitchPlan& plan, QWidget* parent) {
   auto* frame = new InnerFrame({}, parent);
