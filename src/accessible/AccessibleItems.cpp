@@ -24,7 +24,8 @@ class AccessibleItem : public QAccessibleInterface, public QAccessibleActionInte
   [[nodiscard]] int childCount() const override { return 0; }
   int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   [[nodiscard]] QString text(QAccessible::Text part) const override {
-    return part == QAccessible::Name ? owner_.itemName(index_) : QString();
+    if (part == QAccessible::Name) return owner_.itemName(index_);
+    return part == QAccessible::Description ? owner_.itemDescription(index_) : QString();
   }
   void setText(QAccessible::Text, const QString&) override {}
   [[nodiscard]] QRect rect() const override { return owner_.itemRect(index_); }

@@ -27,6 +27,7 @@ class AccessibleItems : public AccessibleControl {
   // On the widget that items are painted on, in its coordinates.
   [[nodiscard]] virtual QRect itemArea(int index) const = 0;
   [[nodiscard]] virtual QWidget& itemCanvas() const = 0;
+  [[nodiscard]] virtual QString itemDescription(int) const { return {}; }
   // What else is to be told of an item.
   virtual void completeState(int, QAccessible::State&) const {}
 

@@ -42,6 +42,10 @@ QWidget& AccessibleList::itemCanvas() const {
   return *list_.viewport();
 }
 
+QString AccessibleList::itemDescription(int index) const {
+  return list_.RowNote(index);
+}
+
 void AccessibleList::completeState(int index, QAccessible::State& state) const {
   const QVariant check = list_.topLevelItem(index)->data(0, Qt::CheckStateRole);
   if (!check.isValid()) return;

@@ -25,7 +25,9 @@ constexpr QSizeF kTextRoom{120, 24};
 }  // namespace
 
 SwitchDrawing::SwitchDrawing(SwitchPlan plan, const char* arrayName, QWidget* parent)
-    : QWidget(parent), plan_(std::move(plan)), group_(new OptionGroup(this)) {
+    : QWidget(parent),
+      plan_(std::move(plan)),
+      group_(new OptionGroup(this, OptionGroup::Arrows::ByButton)) {
   setFocusPolicy(Qt::NoFocus);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   for (const PlacedMark& placed : plan_.marks) MakeButton(placed, arrayName);

@@ -9,6 +9,7 @@
 
 #include "drawings/ArrowSteps.h"
 #include "widgets/Icons.h"
+#include "widgets/NotSent.h"
 #include "widgets/Paint.h"
 
 namespace mortane {
@@ -93,7 +94,12 @@ void TurretButton::SetItem(const TurretItem& item) {
   item_ = item;
   const QString details = item.label.isEmpty() ? QString(kFree) : item.details;
   setAccessibleName(u"Address %1, %2"_s.arg(address()).arg(details));
-  setToolTip(item.label.isEmpty() ? QString() : item.details);
+  const QString note = item.pending ? NotSent(item.was) : QString();
+  setAccessibleDescription(note);
+  QStringList tip;
+  if (!item.label.isEmpty()) tip.append(item.details);
+  if (!note.isEmpty()) tip.append(note);
+  setToolTip(tip.join(u'\n'));
   update();
 }
 

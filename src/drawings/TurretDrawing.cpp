@@ -79,7 +79,10 @@ Ring RingOf(PlaceKind kind, int count) {
 }  // namespace
 
 TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
-    : QWidget(parent), kind_(kind), group_(new OptionGroup(this)), leastScale_(kLeastScale) {
+    : QWidget(parent),
+      kind_(kind),
+      group_(new OptionGroup(this, OptionGroup::Arrows::ByButton)),
+      leastScale_(kLeastScale) {
   setFocusPolicy(Qt::NoFocus);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   // All at once, so that they stand at the drawing's place in the order of the Tab key.

@@ -13,9 +13,8 @@ namespace mortane {
 
 ContainerPage::ContainerPage(IconName icon, const QString& title, const char* arrayName,
                              QWidget* parent, NotOffered notOffered)
-    : Page(parent),
-      Header(Named(new PageHeader(icon, title, this), "Header")),
-      notOffered_(notOffered) {
+    : Page(parent), notOffered_(notOffered) {
+  Header = new PageHeader(icon, title, this);
   Header->AddSectionBar(arrayName);
   connect(sections(), &SectionBar::selectionChanged, this, &ContainerPage::Open);
   QVBoxLayout* column = MakePageLayout(this, Header);

@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "widgets/Control.h"
 #include "widgets/Icons.h"
 #include "widgets/Page.h"
 
@@ -51,7 +52,7 @@ class ContainerPage : public Page {
   [[nodiscard]] SectionBar* sections() const;
   [[nodiscard]] Page* shownSubPage() const { return shown_; }
 
-  PageHeader* Header;
+  Control<PageHeader> Header{"Header"};
 
  Q_SIGNALS:
   // At the end of every selection, when the sub-page is shown.

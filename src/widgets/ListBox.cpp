@@ -8,6 +8,7 @@
 #include <QStyleOption>
 
 #include "widgets/ClickFocus.h"
+#include "widgets/NotSent.h"
 #include "widgets/RowDelegate.h"
 #include "widgets/StylePrimitives.h"
 #include "widgets/Theme.h"
@@ -163,6 +164,14 @@ void ListBox::SetRowIcon(int row, const QIcon& icon) {
 
 void ListBox::SetRowDimmed(int row, bool dimmed) {
   for (int i = 0; i < columnCount(); ++i) topLevelItem(row)->setData(i, kDimmedRole, dimmed);
+}
+
+void ListBox::SetRowPending(int row, const std::optional<QString>& was) {
+  topLevelItem(row)->setData(0, kNotSentRole, NotSent(was));
+}
+
+QString ListBox::RowNote(int row) const {
+  return topLevelItem(row)->data(0, kNotSentRole).toString();
 }
 
 void ListBox::SetRowChecked(int row, bool checked) {

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <QVector>
+#include <optional>
 
 #include "widgets/ColumnWidths.h"
 #include "widgets/Icons.h"
@@ -45,6 +46,10 @@ class ListBox : public RowView {
   void SetRowIcon(int row, IconName icon) { SetRowIcon(row, Icon(icon)); }
   // Grey, but as selectable as the others.
   void SetRowDimmed(int row, bool dimmed);
+  // The dot before a row that differs from what was last received or sent, which was that text;
+  // none without one. Tool tip and screen readers tell it in words.
+  void SetRowPending(int row, const std::optional<QString>& was);
+  [[nodiscard]] QString RowNote(int row) const;  // those words; empty without a dot
   void SetRowChecked(int row, bool checked);
   [[nodiscard]] bool isRowChecked(int row) const;
   void clearRows();

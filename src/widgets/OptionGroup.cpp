@@ -19,7 +19,7 @@ bool IsUsable(const QAbstractButton* button) {
 
 }  // namespace
 
-OptionGroup::OptionGroup(QObject* parent) : QObject(parent) {
+OptionGroup::OptionGroup(QObject* parent, Arrows arrows) : QObject(parent), arrows_(arrows) {
   connect(&group_, &QButtonGroup::idToggled, this, [this] { UpdateTabStop(); });
   connect(&group_, &QButtonGroup::idClicked, this, &OptionGroup::selectionChanged);
 }
@@ -64,7 +64,9 @@ void OptionGroup::clear() {
 bool OptionGroup::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
-      if (ChooseEnd(static_cast<const QKeyEvent&>(*event).key())) return true;
+      if (const int key = static_cast<const QKeyEvent&>(*event).key();
+          ChooseEnd(key) || ChooseBeside(key))
+        return true;
       break;
     case QEvent::EnabledChange:
     case QEvent::ShowToParent:
@@ -88,6 +90,41 @@ bool OptionGroup::ChooseEnd(int key) {
   if (end == nullptr || end->hasFocus()) return true;
   end->setFocus();
   end->click();
+  return true;
+}
+
+// Options in several rows and columns are left to the toolkit, which goes by their places.
+bool OptionGroup::StandInALine() const {
+  constexpr int kAside = 8;  // pixels
+  bool column = true;
+  bool row = true;
+  const QAbstractButton* first = nullptr;
+  for (const QAbstractButton* button : buttons_) {
+    if (!button->isVisible()) continue;
+    if (first == nullptr) first = button;
+    const QPoint away = button->mapTo(button->window(), QPoint(0, button->height() / 2)) -
+                        first->mapTo(first->window(), QPoint(0, first->height() / 2));
+    column = column && qAbs(away.x()) <= kAside;
+    row = row && qAbs(away.y()) <= kAside;
+  }
+  return column || row;
+}
+
+// At the ends of the line an arrow changes nothing.
+bool OptionGroup::ChooseBeside(int key) {
+  const bool on = key == Qt::Key_Right || key == Qt::Key_Down;
+  if (!on && key != Qt::Key_Left && key != Qt::Key_Up) return false;
+  if (arrows_ == Arrows::ByButton || !StandInALine()) return false;
+  const auto focused = std::find_if(buttons_.begin(), buttons_.end(),
+                                    [](const QAbstractButton* b) { return b->hasFocus(); });
+  qsizetype index = focused - buttons_.begin();
+  do {
+    index += on ? 1 : -1;
+  } while (index >= 0 && index < buttons_.size() && !IsUsable(buttons_[index]));
+  if (index < 0 || index >= buttons_.size()) return true;
+  QAbstractButton* const beside = buttons_[index];
+  beside->setFocus();
+  beside->click();
   return true;
 }
 

@@ -17,7 +17,11 @@ class OptionGroup : public QObject {
   Q_OBJECT
 
  public:
-  explicit OptionGroup(QObject* parent);
+  // Where arrows lead: along a row or column of options, in whichever of the four directions; or
+  // where each button says itself.
+  enum class Arrows { AlongTheLine, ByButton };
+
+  explicit OptionGroup(QObject* parent, Arrows arrows = Arrows::AlongTheLine);
 
   // Adds an option of the next index, named arrayName_index.
   QRadioButton* addOption(const QString& text, const char* arrayName, QWidget* parent);
@@ -39,8 +43,11 @@ class OptionGroup : public QObject {
 
  private:
   bool ChooseEnd(int key);
+  bool ChooseBeside(int key);
+  [[nodiscard]] bool StandInALine() const;
   void UpdateTabStop();
 
+  Arrows arrows_;
   QButtonGroup group_;
   QVector<QAbstractButton*> buttons_;
 };

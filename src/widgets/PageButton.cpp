@@ -1,9 +1,12 @@
 #include "widgets/PageButton.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "widgets/AccessibleChange.h"
+#include "widgets/NotSent.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -31,7 +34,15 @@ void PageButton::SetSelected(bool selected) {
 void PageButton::SetPending(bool pending) {
   if (pending_ == pending) return;
   pending_ = pending;
+  setAccessibleDescription(pending ? SomethingNotSent() : QString());
   update();
+}
+
+bool PageButton::event(QEvent* event) {
+  const bool tells = event->type() == QEvent::ToolTip && pending_ && isEnabled();
+  if (!tells) return RailButton::event(event);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), SomethingNotSent(), this);
+  return true;
 }
 
 QSize PageButton::sizeHint() const {

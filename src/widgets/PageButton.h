@@ -14,7 +14,8 @@ class PageButton : public RailButton {
 
   void SetSelected(bool selected);
   [[nodiscard]] bool isSelected() const { return selected_; }
-  // The dot that says: differs from what was last received or sent.
+  // The dot that says: differs from what was last received or sent. Screen readers and the tool tip
+  // tell it too.
   void SetPending(bool pending);
   [[nodiscard]] bool isPending() const { return pending_; }
   [[nodiscard]] QSize sizeHint() const override;
@@ -23,6 +24,7 @@ class PageButton : public RailButton {
 
  protected:
   [[nodiscard]] bool IsCurrent() const override { return selected_; }
+  bool event(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

@@ -24,7 +24,8 @@ void DrawChevronDown(QPainter& painter, const QRectF& area, const QColor& line);
 // The tick of a check box or a passed step.
 void DrawTick(QPainter& painter, const QRectF& area, const QColor& line);
 
-// The round dot of a pending change.
+// The round dot of a pending change, and the room beside a text in which it stands.
+inline constexpr int kPendingRoom = 12;
 void DrawPendingDot(QPainter& painter, QPointF center, const QColor& fill,
                     const QColor& background);
 

@@ -1,34 +1,61 @@
 #include "widgets/RowDelegate.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
+#include <QPainter>
 
 #include "widgets/ElidedTip.h"
+#include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
+namespace {
+
+// Of the row, whose first cell holds it.
+QString NoteOf(const QModelIndex& cell) {
+  return cell.siblingAtColumn(0).data(kNotSentRole).toString();
+}
+
+}  // namespace
 
 RowDelegate::RowDelegate(QObject* parent)
     : QStyledItemDelegate(parent), leastHeight_(grid::kRowHeight) {}
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const QSize content = QStyledItemDelegate::sizeHint(option, index);
-  return {content.width(), GridHeight(leastHeight_, option.fontMetrics)};
+  const int dot = NoteOf(index).isEmpty() || index.column() > 0 ? 0 : kPendingRoom;
+  return {content.width() + dot, GridHeight(leastHeight_, option.fontMetrics)};
 }
 
 void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
   QStyleOptionViewItem row = option;
   row.state &= ~QStyle::State_HasFocus;
+  if (index.column() > 0 || NoteOf(index).isEmpty())
+    return QStyledItemDelegate::paint(painter, row, index);
+  // The background of the whole cell, then the rest to the right of the dot.
+  initStyleOption(&row, index);
+  const QStyle& style = row.widget != nullptr ? *row.widget->style() : *QApplication::style();
+  style.drawPrimitive(QStyle::PE_PanelItemViewItem, &row, painter, row.widget);
+  row.rect.adjust(kPendingRoom, 0, 0, 0);
   QStyledItemDelegate::paint(painter, row, index);
+  const bool selected = row.state.testFlag(QStyle::State_Selected);
+  DrawPendingDot(*painter, {option.rect.left() + kPendingRoom, option.rect.center().y() + 0.5},
+                 row.palette.color(selected ? QPalette::HighlightedText : QPalette::Link),
+                 row.palette.color(selected ? QPalette::Highlight : QPalette::Base));
 }
 
 bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                             const QStyleOptionViewItem& option, const QModelIndex& index) {
   if (event->type() != QEvent::ToolTip) return false;
   const bool fits = sizeHint(option, index).width() <= option.rect.width();
-  ShowWholeText(*event, *view->viewport(), index.data().toString(), fits ? Fits::Yes : Fits::No,
-                option.rect);
+  const QString note = NoteOf(index);
+  QStringList lines;
+  if (!fits) lines.append(index.data().toString());
+  if (!note.isEmpty()) lines.append(note);
+  ShowWholeText(*event, *view->viewport(), lines.join(u'\n'),
+                lines.isEmpty() ? Fits::Yes : Fits::No, option.rect);
   return true;
 }
 

@@ -1,4 +1,4 @@
-// Draws the rows of a list: grid height, no focus rectangle, dimmed and checked rows.
+// Draws the rows of a list: grid height, no focus rectangle, dimmed, checked and pending rows.
 #pragma once
 
 #include <QStyledItemDelegate>
@@ -6,7 +6,8 @@
 namespace mortane {
 
 inline constexpr int kDimmedRole = Qt::UserRole + 1;
-inline constexpr int kCheckedRole = Qt::UserRole + 2;  // the check mark last told
+inline constexpr int kCheckedRole = Qt::UserRole + 2;  // the check last told
+inline constexpr int kNotSentRole = Qt::UserRole + 3;  // words beside the dot of a pending row
 
 class RowDelegate : public QStyledItemDelegate {
   Q_OBJECT
@@ -19,7 +20,7 @@ class RowDelegate : public QStyledItemDelegate {
                                const QModelIndex& index) const override;
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
-  // A cell that is elided shows its whole text.
+  // A cell that is elided shows its whole text, a row with a dot what the dot means.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
 

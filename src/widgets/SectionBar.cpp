@@ -7,7 +7,9 @@
 
 #include "widgets/ElidedTip.h"
 #include "widgets/Named.h"
+#include "widgets/NotSent.h"
 #include "widgets/OptionGroup.h"
+#include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -44,6 +46,13 @@ void SectionOption::SetEnds(bool first, bool last) {
   update();
 }
 
+void SectionOption::SetPending(bool pending) {
+  if (pending_ == pending) return;
+  pending_ = pending;
+  setAccessibleDescription(pending ? SomethingNotSent() : QString());
+  update();
+}
+
 QSize SectionOption::sizeHint() const {
   const QFontMetrics bold(BoldFont());
   // A blue one stands in a line with buttons.
@@ -61,7 +70,9 @@ bool SectionOption::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QAbstractButton::event(event);
   const int needed = QFontMetrics(BoldFont()).horizontalAdvance(text());
   const bool fits = needed <= width() - 2 * kLeastPadding;
-  ShowWholeText(*static_cast<QHelpEvent*>(event), *this, text(), fits ? Fits::Yes : Fits::No);
+  const QString pending = pending_ ? u'\n' + SomethingNotSent() : QString();
+  ShowWholeText(*static_cast<QHelpEvent*>(event), *this, text() + pending,
+                fits && !pending_ ? Fits::Yes : Fits::No);
   return true;
 }
 
@@ -92,9 +103,13 @@ void SectionOption::paintEvent(QPaintEvent*) {
   }
   painter.setFont(chosen ? BoldFont() : font());
   painter.setPen(marked ? onMark : palette().color(QPalette::ButtonText));
-  painter.drawText(
-      rect(), Qt::AlignCenter,
-      painter.fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * kLeastPadding));
+  const int room = width() - 2 * kLeastPadding - (pending_ ? kPendingRoom - kLeastPadding : 0);
+  const QString shown = painter.fontMetrics().elidedText(text(), Qt::ElideRight, room);
+  painter.drawText(rect(), Qt::AlignCenter, shown);
+  if (!pending_) return;
+  const double textEnd = (width() + painter.fontMetrics().horizontalAdvance(shown)) / 2.0;
+  DrawPendingDot(painter, {textEnd + kPendingRoom / 2.0 + 1, height() / 2.0},
+                 palette().color(QPalette::Link), fill);
 }
 
 SectionBar::SectionBar(const char* arrayName, QWidget* parent)
@@ -141,6 +156,10 @@ void SectionBar::SetOptionEnabled(int index, bool enabled, const QString& whyDis
 void SectionBar::SetOptionVisible(int index, bool visible) {
   options_[index]->setVisible(visible);
   MarkEnds();
+}
+
+void SectionBar::SetOptionPending(int index, bool pending) {
+  options_[index]->SetPending(pending);
 }
 
 void SectionBar::MarkEnds() {

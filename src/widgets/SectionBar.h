@@ -19,6 +19,8 @@ class SectionOption : public QAbstractButton {
   SectionOption(const QString& text, QWidget* parent, ChosenLook look = ChosenLook::Amber);
 
   void SetEnds(bool first, bool last);
+  void SetPending(bool pending);
+  [[nodiscard]] bool isPending() const { return pending_; }
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -30,6 +32,7 @@ class SectionOption : public QAbstractButton {
   ChosenLook look_;
   bool first_ = false;
   bool last_ = false;
+  bool pending_ = false;
 };
 
 // One Tab stop; arrows, Home and End choose. A hidden option closes up, and the ends stay round.
@@ -48,6 +51,8 @@ class SectionBar : public QWidget {
   // A tool tip says why an option is disabled.
   void SetOptionEnabled(int index, bool enabled, const QString& whyDisabled = {});
   void SetOptionVisible(int index, bool visible);
+  // The dot that says: something in the section differs from what was last received or sent.
+  void SetOptionPending(int index, bool pending);
 
  Q_SIGNALS:
   // For every click of the person, and for a new selection that the program makes.

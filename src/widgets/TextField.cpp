@@ -2,13 +2,18 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QPointer>
 #include <algorithm>
 #include <utility>
 
+#include "widgets/ElidedTip.h"
 #include "widgets/FocusVeto.h"
+#include "widgets/NotSent.h"
+#include "widgets/Paint.h"
 #include "widgets/StyleProperties.h"
 #include "widgets/TextValidator.h"
 #include "widgets/Theme.h"
@@ -104,7 +109,19 @@ void TextField::SetWidthFor(int characters) {
   setFixedWidth(text + 2 * kTextMargin + 2 * grid::kBetweenControls);
 }
 
+void TextField::SetPending(const std::optional<QString>& was) {
+  if (was_ == was) return;
+  if (!was_) ownDescription_ = accessibleDescription();
+  was_ = was;
+  setAccessibleDescription(was ? NotSent(was) : ownDescription_);
+  update();
+}
+
 bool TextField::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && isPending()) {
+    ShowWholeText(*static_cast<QHelpEvent*>(event), *this, NotSent(was_), Fits::No);
+    return true;
+  }
   if (event->type() != QEvent::KeyPress) return QLineEdit::event(event);
   const int key = static_cast<QKeyEvent*>(event)->key();
   const FieldFlag pressed(this, tabKeyPressed_, key == Qt::Key_Tab || key == Qt::Key_Backtab);
@@ -140,6 +157,14 @@ void TextField::dropEvent(QDropEvent* event) {
   setFocus(Qt::MouseFocusReason);
   if (event->mimeData()->hasText() && ShowsPlaceholder()) clear();
   QLineEdit::dropEvent(event);
+}
+
+void TextField::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (!isPending()) return;
+  QPainter painter(this);
+  DrawPendingDot(painter, {width() - kPendingRoom / 2.0 - 1, height() / 2.0},
+                 palette().color(QPalette::Link), palette().color(QPalette::Base));
 }
 
 // The toolkit names the Tab key as the reason also when the focused control is hidden or disabled.

@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <functional>
+#include <optional>
 
 namespace mortane {
 
@@ -38,6 +39,11 @@ class TextField : public QLineEdit {
   bool Leave();
   [[nodiscard]] bool isRefused() const;
 
+  // The dot that says: differs from what was last received or sent, which was that text; none
+  // without one. Tool tip and accessible description say it in words.
+  void SetPending(const std::optional<QString>& was);
+  [[nodiscard]] bool isPending() const { return was_.has_value(); }
+
   // Wide enough for that many characters of text, at the height of the grid.
   void SetWidthFor(int characters);
 
@@ -50,6 +56,7 @@ class TextField : public QLineEdit {
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   [[nodiscard]] bool IsMovedByPerson(Qt::FocusReason reason) const;
@@ -64,6 +71,8 @@ class TextField : public QLineEdit {
   LeftBlank leftBlank_ = LeftBlank::GetsPlaceholder;
   std::function<bool(const QString& text)> accepts_;
   std::function<void()> complain_;
+  std::optional<QString> was_;
+  QString ownDescription_;  // while another is shown
   bool checking_ = false;
   bool tabKeyPressed_ = false;
 };

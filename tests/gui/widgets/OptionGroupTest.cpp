@@ -72,6 +72,36 @@ TEST_F(OptionGroupTest, ArrowsMoveInsideAndTabLeaves) {
   EXPECT_TRUE(after->hasFocus());
 }
 
+struct ArrowRow {
+  Qt::Key key;
+  int from;
+  int to;
+};
+
+TEST_F(OptionGroupTest, ArrowsInAllFourDirectionsGoAlongTheLineToItsEnds) {
+  const ArrowRow rows[] = {
+      {Qt::Key_Right, 0, 1}, {Qt::Key_Down, 1, 2}, {Qt::Key_Left, 2, 1},  {Qt::Key_Up, 1, 0},
+      {Qt::Key_Left, 0, 0},  {Qt::Key_Up, 0, 0},   {Qt::Key_Right, 2, 2}, {Qt::Key_Down, 2, 2},
+  };
+  for (const ArrowRow& row : rows) {
+    group->select(row.from);
+    group->button(row.from)->setFocus();
+    QSignalSpy clicks(group, &OptionGroup::selectionChanged);
+    QTest::keyClick(group->button(row.from), row.key);
+    EXPECT_EQ(group->selected(), row.to) << row.key << " from " << row.from;
+    EXPECT_TRUE(group->button(row.to)->hasFocus());
+    EXPECT_EQ(clicks.size(), row.from == row.to ? 0 : 1);
+  }
+}
+
+TEST_F(OptionGroupTest, ArrowsPassOverWhatCannotBeUsed) {
+  group->select(0);
+  group->button(0)->setFocus();
+  group->button(1)->setEnabled(false);
+  QTest::keyClick(group->button(0), Qt::Key_Right);
+  EXPECT_EQ(group->selected(), 2);
+}
+
 TEST_F(OptionGroupTest, HomeAndEndChooseTheFirstAndTheLast) {
   group->select(1);
   group->button(1)->setFocus();
