@@ -41,7 +41,10 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   row.rect.adjust(kPendingRoom, 0, 0, 0);
   QStyledItemDelegate::paint(painter, row, index);
   const bool selected = row.state.testFlag(QStyle::State_Selected);
-  DrawPendingDot(*painter, {option.rect.left() + kPendingRoom, option.rect.center().y() + 0.5},
+  DrawPendingDot(*painter,
+                 QRectF(option.rect.left() + kPendingRoom / 2, option.rect.top(), kPendingRoom,
+                        option.rect.height())
+                     .center(),
                  row.palette.color(selected ? QPalette::HighlightedText : QPalette::Link),
                  row.palette.color(selected ? QPalette::Highlight : QPalette::Base));
 }

@@ -1,0 +1,145 @@
+// The dot of what is not sent yet, and its words.
+#include <QHelpEvent>
+#include <QToolTip>
+#include <string>
+
+#include "drawings/TurretDrawing.h"
+#include "gui/support/TestWindow.h"
+#include "widgets/ListBox.h"
+#include "widgets/PageButton.h"
+#include "widgets/Rail.h"
+#include "widgets/SectionBar.h"
+#include "widgets/TextField.h"
+
+namespace mortane {
+namespace {
+
+struct Shown {
+  Shown() {
+    rail = window.Add<Rail>();
+    rail->AddPage(IconName::System, "System");
+    sections = window.Add<SectionBar>("optSettings");
+    sections->AddOption("Nosepiece");
+    field = window.Add<TextField>();
+    field->setText("Plan A 20x");
+    list = window.Add<ListBox>();
+    list->addRow("Plan A 20x");
+    list->addRow("Plan A 40x");
+    turret = window.Add<TurretDrawing>(PlaceKind::Cubes);
+    turret->SetItems({{"GFP", "GFP", {}}, {"DAPI", "DAPI", {}}});
+    window.Show();
+  }
+
+  TestWindow window;
+  Rail* rail = nullptr;
+  SectionBar* sections = nullptr;
+  TextField* field = nullptr;
+  ListBox* list = nullptr;
+  TurretDrawing* turret = nullptr;
+};
+
+// What bears a dot, how it gets and loses it, and what is then said of it.
+struct DotRow {
+  const char* name;
+  QWidget* (*widget)(Shown&);
+  void (*set)(Shown&, bool pending);
+  const char* words;
+  int item = -1;  // of a list
+};
+
+std::ostream& operator<<(std::ostream& stream, const DotRow& row) {
+  return stream << row.name;
+}
+
+std::optional<QString> Was(bool pending, const char* was) {
+  return pending ? std::optional<QString>(was) : std::nullopt;
+}
+
+const DotRow kDots[] = {
+    {"Page", [](Shown& s) -> QWidget* { return s.rail->button(0); },
+     [](Shown& s, bool pending) { s.rail->button(0)->SetPending(pending); }, "not sent"},
+    {"Section", [](Shown& s) -> QWidget* { return s.sections->option(0); },
+     [](Shown& s, bool pending) { s.sections->SetOptionPending(0, pending); }, "not sent"},
+    {"Field", [](Shown& s) -> QWidget* { return s.field; },
+     [](Shown& s, bool pending) { s.field->SetPending(Was(pending, "Plan A 10x")); },
+     "not sent: was Plan A 10x"},
+    {"Row", [](Shown& s) -> QWidget* { return s.list->viewport(); },
+     [](Shown& s, bool pending) { s.list->SetRowPending(0, Was(pending, "")); },
+     "not sent: was blank", 0},
+    {"Place", [](Shown& s) -> QWidget* { return s.turret->place(0); },
+     [](Shown& s, bool pending) {
+       TurretItem item{"GFP", "GFP", {}};
+       item.pending = pending;
+       item.was = "Free";
+       s.turret->SetItem(0, item);
+     },
+     "not sent: was Free"},
+};
+
+class NotSentOn : public testing::TestWithParam<DotRow> {
+ protected:
+  void Set(bool pending) { GetParam().set(s, pending); }
+  QWidget& widget() { return *GetParam().widget(s); }
+  QString Said() {
+    QWidget* told = GetParam().item < 0 ? &widget() : widget().parentWidget();
+    QAccessibleInterface* control = QAccessible::queryAccessibleInterface(told);
+    if (GetParam().item >= 0) control = control->child(GetParam().item);
+    return control->text(QAccessible::Description);
+  }
+  QString ToolTip() {
+    const QPoint at = GetParam().item < 0
+                          ? widget().rect().center()
+                          : s.list->visualItemRect(s.list->topLevelItem(0)).center();
+    QToolTip::showText({}, "of before");  // a tool tip without a successor fades out slowly
+    QHelpEvent help(QEvent::ToolTip, at, widget().mapToGlobal(at));
+    QApplication::sendEvent(&widget(), &help);
+    return QToolTip::text();
+  }
+
+  Shown s;
+};
+
+TEST_P(NotSentOn, ADotIsShownAndTakenAway) {
+  const QImage plain = widget().grab().toImage();
+  Set(true);
+  EXPECT_NE(widget().grab().toImage(), plain);
+  Set(false);
+  EXPECT_EQ(widget().grab().toImage(), plain);
+}
+
+TEST_P(NotSentOn, TheDescriptionAndTheToolTipSayIt) {
+  EXPECT_FALSE(Said().contains("not sent"));
+  Set(true);
+  EXPECT_EQ(Said(), GetParam().words);
+  EXPECT_TRUE(ToolTip().endsWith(GetParam().words)) << ToolTip().toStdString();
+  Set(false);
+  EXPECT_FALSE(Said().contains("not sent"));
+  EXPECT_FALSE(ToolTip().contains("not sent"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Dots, NotSentOn, testing::ValuesIn(kDots),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(NotSent, AFieldGetsItsOwnDescriptionBack) {
+  TextField field;
+  field.setAccessibleDescription("in steps");
+  field.SetPending("1");
+  field.SetPending("2");
+  EXPECT_EQ(field.accessibleDescription(), "not sent: was 2");
+  field.SetPending(std::nullopt);
+  EXPECT_EQ(field.accessibleDescription(), "in steps");
+}
+
+TEST(NotSent, ARowWithADotIsAsWideAsItsTextAndTheDot) {
+  ListBox list;
+  list.SetColumns({{"Name"}, {"Type"}});
+  list.addCells({"Plan A 20x", "Dry"});
+  list.show();
+  const int plain = list.columnWidth(0);
+  list.SetRowPending(0, "Plan A 10x");
+  QApplication::processEvents();
+  EXPECT_GT(list.columnWidth(0), plain);
+}
+
+}  // namespace
+}  // namespace mortane
