@@ -305,5 +305,35 @@ INSTANTIATE_TEST_SUITE_P(Pairs, LostDevice,
                                          std::pair{"DeckRemote", "Deck"},
                                          std::pair{"Pair", "Harbour"}));
 
+// A single call that fails, anywhere: no write without a backup, and a success only when the
+// microscope holds the file.
+TEST(Send, SurvivesAFailureOfAnyCall) {
+  CtlRig source("Lantern");
+  const std::string file = source.Received("file.xml");
+  std::size_t calls = 0;
+  std::map<ItemKey, std::string> after;
+  {
+    CtlRig rig("Harbour");
+    rig.Run({"send", file, "--yes"});
+    calls = rig.journal.CallCount();
+    after = Values(rig.simulated.bench());
+  }
+  constexpr std::size_t kStride = 23;
+  for (std::size_t call = 1; call <= calls; call += kStride) {
+    CtlRig rig("Harbour");
+    rig.faults.FailCall(call);
+    const Outcome outcome = rig.Run({"send", file, "--yes", "--json"});
+    const bool wrote = !rig.Written().empty();
+    const bool kept = std::filesystem::exists(PathOf(rig.surroundings.backups));
+    EXPECT_LE(wrote, kept) << "call " << call;
+    EXPECT_NE(outcome, Outcome::Different) << "call " << call;
+    if (outcome == Outcome::Done) {
+      EXPECT_TRUE(Values(rig.simulated.bench()) == after) << "call " << call;
+    } else {
+      EXPECT_TRUE(!rig.Err().empty() || !rig.Out().empty()) << "call " << call;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace mortane::test

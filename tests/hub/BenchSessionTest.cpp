@@ -71,6 +71,16 @@ TEST_F(BenchSessionFile, ADeviceThatOneProgramLeavesIsUpToDateInTheNext) {
   EXPECT_EQ(Connected(second, 1).ControllerSettings().EscapeMode(), 2);
 }
 
+TEST_F(BenchSessionFile, RenewingTakesWhatAnotherProgramWroteToAConnectedDevice) {
+  BenchSession session(path_);
+  const Microscope mine = Connected(session, 1);
+  controller::Bench changed = controller::ReadBenchFile(path_);
+  changed.instruments[1].name = "Bay 9";
+  WriteBenchFile(path_, changed);
+  session.Renew();
+  EXPECT_EQ(mine.DeviceList().Item(1).Name(), "Bay 9");
+}
+
 TEST_F(BenchSessionFile, KeepsTheRestAtItsEnd) {
   {
     BenchSession session(path_);
