@@ -6,6 +6,7 @@
 #include "ctl/MicroscopeLink.h"
 #include "ctl/OutputFile.h"
 #include "ctl/SettingsInput.h"
+#include "record/OmeExport.h"
 #include "record/Report.h"
 
 namespace mortane::ctl {
@@ -56,8 +57,13 @@ Outcome WriteReport(const Request& request, Surroundings& surroundings) {
   return unread.empty() ? outcome : Outcome::Failed;
 }
 
-Outcome ExportInstrument(const Request& /*request*/, Surroundings& /*surroundings*/) {
-  Refuse("not there yet");
+Outcome ExportInstrument(const Request& request, Surroundings& surroundings) {
+  MicroscopeLink link(request.microscope, surroundings);
+  link.Connect();
+  const std::vector<std::string> unread = link.Receive();
+  for (const std::string& line : unread) link.prompts().Say(line);
+  WriteOutput(request.output, OmeXml(link.k70()), surroundings);
+  return unread.empty() ? Outcome::Done : Outcome::Failed;
 }
 
 }  // namespace mortane::ctl

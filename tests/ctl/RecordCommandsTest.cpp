@@ -57,5 +57,23 @@ TEST(Report, OfWhatCouldNotBeReadIsWrittenAndAFailure) {
   EXPECT_NE(rig.Out().find("Harbour"), std::string::npos);
 }
 
+TEST(Export, WritesTheInstrumentToAFileOrTheStandardOutput) {
+  CtlRig rig("Harbour");
+  const std::string path = rig.folder.Path("a.ome.xml");
+  ASSERT_EQ(rig.Run({"export", "--ome", path}), Outcome::Done) << rig.Err();
+  EXPECT_EQ(rig.Out(), "");
+  EXPECT_NE(TempFolder::Read(path).find("<Instrument"), std::string::npos);
+  ASSERT_EQ(rig.Run({"export", "--ome", "-"}), Outcome::Done);
+  EXPECT_EQ(rig.Out(), TempFolder::Read(path));
+}
+
+TEST(Export, OfWhatCouldNotBeReadIsWrittenAndAFailure) {
+  CtlRig rig("Harbour");
+  rig.faults.Add({"NosepieceDevice.Positions(2).Code"});
+  EXPECT_EQ(rig.Run({"export", "--ome", "-"}), Outcome::Failed);
+  EXPECT_EQ(rig.ErrLines(), 1) << rig.Err();
+  EXPECT_NE(rig.Out().find("<Instrument"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace mortane::test

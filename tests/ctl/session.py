@@ -251,7 +251,8 @@ class Session(unittest.TestCase):
     def test_outputs_that_cannot_be_written(self):
         (self.folder / "dir").mkdir()
         for file in ("missing/a.txt", "dir", "/dev/null", ""):
-            for words in (("receive", "-o", file), ("report", "-o", file)):
+            for words in (("receive", "-o", file), ("report", "-o", file),
+                          ("export", "--ome", file)):
                 if words == ("report", "-o", ""):
                     continue  # the standard output
                 self.run_program(*words, "--bench", "Harbour.xml", code=2)
