@@ -58,6 +58,17 @@ TEST(WizardStart, ConnectsReceivesAndShowsTheSystem) {
   EXPECT_TRUE(rig.form->SystemSettingsCtl1->isVisible());
 }
 
+// One press of Alt+P more than there are steps: the key of Previous is off then.
+TEST(WizardStart, TakesALetterHeldWithAltForNoPartOfTheName) {
+  WizardRig rig(benches::Named("Harbour"));
+  rig.Start();
+  TextField& name = *rig.form->SystemSettingsCtl1->SystemNameCtl1->TextSystemName;
+  name.setFocus();
+  QTest::keyClick(&name, 'p', Qt::AltModifier);
+  QTest::mouseClick(rig.form->ButtonNext, Qt::LeftButton);
+  EXPECT_EQ(GetK70().SystemName, "Harbour");
+}
+
 TEST(WizardStart, SwitchesTheStepsOfTheStandardOn) {
   WizardRig rig(benches::Named("Harbour"));
   rig.Start();
