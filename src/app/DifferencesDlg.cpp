@@ -36,6 +36,7 @@ DifferencesDlg::DifferencesDlg(const Content& content, QWidget* parent)
     : QDialog(parent),
       List1(Named(new QTreeWidget(this), "List1")),
       ButtonCopy(Named(new QPushButton(u"Copy"_s, this), "ButtonCopy")),
+      ButtonSaveRecord(Named(new QPushButton(u"Save Record..."_s, this), "ButtonSaveRecord")),
       ButtonClose(Named(new QPushButton(u"Close"_s, this), "ButtonClose")) {
   setWindowTitle(u"Changes not sent"_s);
   setWindowIcon(GetAppIcon());
@@ -47,11 +48,12 @@ DifferencesDlg::DifferencesDlg(const Content& content, QWidget* parent)
   List1->setUniformRowHeights(true);
   Fill(content);
   Arrange();
-  ButtonClose->setDefault(false);
-  ButtonClose->setAutoDefault(false);
-  ButtonCopy->setAutoDefault(false);
+  for (QPushButton* button : {ButtonCopy, ButtonSaveRecord, ButtonClose}) {
+    button->setAutoDefault(false);  // Enter goes to the row
+  }
   connect(List1, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* row) { GoTo(*row); });
   connect(ButtonCopy, &QPushButton::clicked, this, [this] { Copy(); });
+  connect(ButtonSaveRecord, &QPushButton::clicked, this, content.saveRecord);
   connect(ButtonClose, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -86,7 +88,7 @@ void DifferencesDlg::Arrange() {
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(grid::kBetweenControls);
   buttons->addStretch();
-  for (QPushButton* button : {ButtonCopy, ButtonClose}) {
+  for (QPushButton* button : {ButtonCopy, ButtonSaveRecord, ButtonClose}) {
     button->setMinimumWidth(kButtonWidth);
     buttons->addWidget(button);
   }

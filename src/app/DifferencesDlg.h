@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -22,6 +23,7 @@ class DifferencesDlg : public QDialog {
     ItemNames before;
     ItemNames now;
     std::vector<QString> pageTitles;
+    std::function<void()> saveRecord;
   };
 
   explicit DifferencesDlg(const Content& content, QWidget* parent = nullptr);
@@ -31,6 +33,7 @@ class DifferencesDlg : public QDialog {
 
   QTreeWidget* List1;
   QPushButton* ButtonCopy;
+  QPushButton* ButtonSaveRecord;
   QPushButton* ButtonClose;
 
  private:

@@ -28,6 +28,9 @@ struct FormServices {
   std::string placeFile = {};
   // The user's folder for the data of programs; empty: nothing is kept there.
   std::string applicationData = {};
+  // Where the states before each Send are kept, and the edits that are not sent; empty: nowhere.
+  std::string backupFolder = {};
+  std::string unsentFolder = {};
 };
 
 }  // namespace mortane

@@ -1,6 +1,12 @@
 #include "app/MortaneMainForm.h"
 
+#include <QApplication>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMimeData>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "app/CommandBoundary.h"
 #include "app/GetAppIcon.h"
@@ -13,9 +19,22 @@
 #include "widgets/Rail.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kLastLoadStep = 6;
+
+// The one settings file; empty for anything else.
+QString DroppedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+  const QFileInfo file(urls.front().toLocalFile());
+  const bool isSettings =
+      file.isFile() && file.suffix().compare(u"xml"_s, Qt::CaseInsensitive) == 0;
+  return isSettings ? QDir::toNativeSeparators(file.filePath()) : QString();
+}
 
 }  // namespace
 
@@ -63,6 +82,7 @@ void MortaneMainForm::LoadStep(int step) {
 void MortaneMainForm::OnConnected(Outcome received) {
   NoteConnection();
   NoteTransfer(SessionNote::Act::Received, received);
+  NoteKept();
   RefreshPages();
 }
 
@@ -100,6 +120,18 @@ void MortaneMainForm::EnablePage(std::size_t index, bool enabled, const QString&
 void MortaneMainForm::OnMenuChanged(std::size_t index) {
   PictureMenu->select(static_cast<int>(index));
   area_->Show(pages_[index]);
+}
+
+void MortaneMainForm::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+// The dialog of the sections would stand in the way of the program that the file comes from.
+void MortaneMainForm::dropEvent(QDropEvent* event) {
+  const QString path = DroppedFile(*event->mimeData());
+  if (path.isEmpty() || QApplication::activeModalWidget() != nullptr) return;
+  event->acceptProposedAction();
+  QTimer::singleShot(0, this, [this, path] { OpenDropped(path.toStdString()); });
 }
 
 // A page that is not visible wrote its edits to the model when they were made.

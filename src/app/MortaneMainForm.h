@@ -65,6 +65,9 @@ class MortaneMainForm : public ProgramForm {
   virtual void LoadStep(int step);
 
   void OnConnected(Outcome received) override;
+  // A settings file is opened as by Open; nothing else is taken.
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void ShowPending(const std::vector<ItemChange>& changes) override;
 
  private:
@@ -93,11 +96,17 @@ class MortaneMainForm : public ProgramForm {
   void DoReceive();
   void DoSend();
   void DoShowPending();
+  void SaveRecord();
+  void DoOpenKept();
+  void DoLetKeptGo();
+  void TakeOpened(const FileResult& file);
+  void OpenDropped(const std::string& path);
   void ShowStored();
   void EnableTransfers(bool enabled);
 
   void NoteConnection();
-  void NoteTransfer(SessionNote::Act act, Outcome outcome);
+  void NoteTransfer(SessionNote::Act act, Outcome outcome, const QString& remark = {});
+  void NoteKept();
   void NoteFile(SessionNote::Act act, const FileResult& file);
 
   PageTable table_;

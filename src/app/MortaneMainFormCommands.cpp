@@ -1,6 +1,7 @@
 // The commands of the main window.
 #include <QAction>
 #include <QFileInfo>
+#include <QLocale>
 #include <QPointer>
 #include <QRadioButton>
 #include <algorithm>
@@ -11,6 +12,8 @@
 #include "app/SettingsFiles.h"
 #include "common/Text.h"
 #include "hub/clsK70.h"
+#include "platform/AtomicFile.h"
+#include "record/Report.h"
 #include "widgets/CommandKey.h"
 #include "widgets/Page.h"
 #include "widgets/PageButton.h"
@@ -53,10 +56,37 @@ void MortaneMainForm::OnToolbarButton(int position) {
 }
 
 void MortaneMainForm::DoOpen() {
-  const FileResult file = OpenSettings(prompts(), CommonDialog1, this);
+  TakeOpened(OpenSettings(prompts(), CommonDialog1, this));
+}
+
+void MortaneMainForm::TakeOpened(const FileResult& file) {
   if (!file.path.empty()) LoadAllPages();
   NoteFile(SessionNote::Act::Opened, file);
   prompts().FlushInput();
+}
+
+void MortaneMainForm::OpenDropped(const std::string& path) {
+  RunCommand([this, path] { TakeOpened(OpenSettingsFile(prompts(), path, this)); });
+}
+
+// What a session that died has left unsent.
+void MortaneMainForm::DoOpenKept() {
+  const auto left = Unsent().FromBefore();
+  if (!left) return;
+  const FileResult file = OpenSettingsFile(prompts(), left->path, this);
+  if (file.outcome && *file.outcome != Outcome::NotDone) Unsent().ForgetFromBefore();
+  NoteKept();
+  TakeOpened(file);
+}
+
+void MortaneMainForm::DoLetKeptGo() {
+  Unsent().ForgetFromBefore();
+  NoteKept();
+}
+
+void MortaneMainForm::NoteKept() {
+  const auto left = Unsent().FromBefore();
+  note_->ShowKept(left ? QLocale::c().toString(left->time, u"d MMM HH:mm"_s) : QString());
 }
 
 void MortaneMainForm::DoSave() {
@@ -71,7 +101,7 @@ void MortaneMainForm::DoReceive() {
     note_->ShowRunning(u"Receiving..."_s);
     Outcome outcome = Outcome::WithFailures;
     RunStep(prompts(), [&] { outcome = OutcomeOf(GetK70().Receive()); });
-    Pending().TakeReceived();
+    TakeReceived();
     LoadAllPages();
     NoteTransfer(SessionNote::Act::Received, outcome);
   }
@@ -89,14 +119,15 @@ void MortaneMainForm::DoSend() {
     RunStep(prompts(), [] {
       if (ModifyBeforeSend()) static_cast<void>(GetK70().Modify());
     });
+    const bool kept = KeepBackup();
     Outcome outcome = Outcome::WithFailures;
     RunStep(prompts(), [&] { outcome = OutcomeOf(GetK70().Send()); });
     if (Page* control = pages_[kControlPage]) {
       RunStep(prompts(), [control] { control->SendData(); });
     }
-    Pending().TakeSent();
+    TakeSent(outcome);
     ShowStored();
-    NoteTransfer(SessionNote::Act::Sent, outcome);
+    NoteTransfer(SessionNote::Act::Sent, outcome, kept ? QString() : u", no backup"_s);
     repaint();  // over what a box of failures leaves on the display
     prompts().Wait(kWaitAfterSendMs);
   }
@@ -117,8 +148,24 @@ void MortaneMainForm::ShowStored() {
   }
 }
 
+void MortaneMainForm::SaveRecord() {
+  const std::string path =
+      prompts().AskFileToSave({kFileSaveFlags, "HTML File (*.html)|*.html", ".html"});
+  if (path.empty()) return;
+  const clsK70& k70 = GetK70();
+  WriteFileAtomically(path, ReportAsHtml({.state = StateOf(k70),
+                                          .before = Pending().HeldState(),
+                                          .device = Pending().Device(),
+                                          .time = LocalTime(std::chrono::system_clock::now()),
+                                          .version = MORTANE_VERSION,
+                                          .accessories = AccessoriesOf(k70)}));
+}
+
 void MortaneMainForm::DoShowPending() {
-  DifferencesDlg::Content content{Pending().Find(), Pending().HeldNames(), ItemNames(GetK70()), {}};
+  DifferencesDlg::Content content{
+      Pending().Find(), Pending().HeldNames(), ItemNames(GetK70()), {}, [this] {
+        RunStep(prompts(), [this] { SaveRecord(); });
+      }};
   for (const PageRow& row : table_) content.pageTitles.push_back(row.title);
   DifferencesDlg dialog(content, this);
   dialog.exec();
@@ -138,7 +185,7 @@ void MortaneMainForm::DoSelect() {
     return;
   }
   GetK70().Disconnect();
-  Pending().Forget();
+  TakeDisconnected();
   NoteConnection();
   if (!GetK70().CreateConnectionName(std::to_string(device))) {
     prompts().MsgBox("Other Application has already used this Microscope.", box::kOk);
@@ -152,6 +199,7 @@ void MortaneMainForm::DoSelect() {
     return;
   }
   DoReceive();
+  NoteKept();
   EnableTransfers(true);
   RefreshPages();
   prompts().FlushInput();
@@ -173,9 +221,9 @@ void MortaneMainForm::NoteConnection() {
                         k70.lConnectDevice == kSimulator);
 }
 
-void MortaneMainForm::NoteTransfer(SessionNote::Act act, Outcome outcome) {
+void MortaneMainForm::NoteTransfer(SessionNote::Act act, Outcome outcome, const QString& remark) {
   if (outcome == Outcome::Complete) NoteConnection();
-  note_->ShowDone(act, outcome, Now().toString(u"HH:mm"_s));
+  note_->ShowDone(act, outcome, Now().toString(u"HH:mm"_s) + remark);
 }
 
 void MortaneMainForm::NoteFile(SessionNote::Act act, const FileResult& file) {

@@ -37,6 +37,7 @@ struct CommandRow {
 MortaneMainForm::MortaneMainForm(const FormServices& services, const PageTable& pages)
     : ProgramForm(services, QLatin1String(kMainTitle)), table_(pages) {
   setObjectName("MortaneMainForm");
+  setAcceptDrops(true);
   BuildMenus();
   BuildToolbar();
   // The Tab key goes by the order of making: page buttons, page, command keys.
@@ -92,6 +93,10 @@ void MortaneMainForm::BuildToolbar() {
     OnToolbarButton(static_cast<int>(Toolbar1->actions().indexOf(button)) + 1);
   });
   note_ = Named(new SessionNote(*Toolbar1), "SessionNote");
+  connect(note_->OpenKept, &QAction::triggered, this,
+          [this] { Run(&MortaneMainForm::DoOpenKept); });
+  connect(note_->LetKeptGo, &QAction::triggered, this,
+          [this] { Run(&MortaneMainForm::DoLetKeptGo); });
   connect(note_->ButtonPending, &QToolButton::clicked, this,
           [this] { Run(&MortaneMainForm::DoShowPending); });
 }

@@ -5,6 +5,7 @@
 
 #include "app/PageTable.h"
 #include "common/Failure.h"
+#include "common/Text.h"
 #include "hub/SettingsFile.h"
 #include "record/ItemIndex.h"
 #include "record/ModelItems.h"
@@ -27,10 +28,24 @@ std::size_t PageOf(const ItemKey& key) {
 
 void PendingChanges::TakeReceived() {
   Take(&clsK70::WasRead);
+  TakeDocument();
 }
 
-void PendingChanges::TakeSent() {
+void PendingChanges::TakeSent(Outcome sent) {
   Take(&clsK70::WasSent);
+  if (sent == Outcome::Complete) TakeDocument();
+}
+
+void PendingChanges::Forget() {
+  held_.reset();
+  device_.clear();
+}
+
+void PendingChanges::TakeDocument() {
+  if (!held_) return;
+  document_ = DomDocument();
+  k70_.WriteSections(document_);
+  device_ = FirstCharacters(k70_.SystemName, kSystemNameLength);
 }
 
 void PendingChanges::Take(Done done) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Outcome.h"
 #include "record/Comparison.h"
 
 namespace mortane {
@@ -18,9 +19,15 @@ class PendingChanges {
   // Right after a transfer, before any page has loaded. What a transfer with failures did not read
   // or write counts as it did before.
   void TakeReceived();
-  void TakeSent();
+  void TakeSent(Outcome sent);
   // No microscope is connected.
-  void Forget() { held_.reset(); }
+  void Forget();
+
+  // What the microscope holds, as a settings document, and its name; nullptr before a Receive.
+  // After a Send with failures as before that Send.
+  [[nodiscard]] const DomDocument* Held() const { return held_ ? &document_ : nullptr; }
+  [[nodiscard]] const std::string& Device() const { return device_; }
+  [[nodiscard]] const std::optional<ConfigurationState>& HeldState() const { return held_; }
 
   // In the order of the pages; `from` is what the microscope holds. Only what a Send would run
   // through. Empty while nothing was received, and for a text that no settings file can hold.
@@ -31,9 +38,12 @@ class PendingChanges {
  private:
   using Done = bool (clsK70::*)(std::string_view transfer) const;
   void Take(Done done);
+  void TakeDocument();
 
   const clsK70& k70_;
   std::optional<ConfigurationState> held_;
+  DomDocument document_;
+  std::string device_;
 };
 
 // The page of the main window that shows an item, by its index.

@@ -8,6 +8,7 @@
 #include "app/ApplyTheme.h"
 #include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
+#include "app/UnsentEdits.h"
 #include "app/WindowPlace.h"
 #include "common/Failure.h"
 #include "common/Numbers.h"
@@ -18,6 +19,7 @@
 #include "platform/Sleep.h"
 #include "platform/SpecialFolder.h"
 #include "platform/StartNotice.h"
+#include "record/Backups.h"
 
 namespace mortane {
 namespace {
@@ -50,7 +52,9 @@ int ShowForm(QApplication& application, SessionLibrary& session,
                      .joystick = joystick,
                      .arguments = arguments,
                      .placeFile = UsersPlaceFile(),
-                     .applicationData = GetSpecialFolder(kApplicationDataFolder)});
+                     .applicationData = GetSpecialFolder(kApplicationDataFolder),
+                     .backupFolder = Backups::DefaultFolder(),
+                     .unsentFolder = UnsentEdits::DefaultFolder()});
   prompts.ShowProgressOn(form->Progress());
   form->Load();
   form->show();

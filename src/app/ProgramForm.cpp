@@ -17,22 +17,44 @@
 #include "app/SettingsFiles.h"
 #include "hub/DeviceAvailability.h"
 #include "hub/clsK70.h"
+#include "platform/AtomicFile.h"
+#include "record/Backups.h"
 #include "widgets/ProgressLine.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+namespace {
+
+// Of the edits that are not sent.
+constexpr int kBetweenWritesMs = 1000;
+
+bool IsSameAs(const Backup& backup, const DomDocument& document) {
+  try {
+    return ReadWholeFile(backup.path) == document.ToText();
+  } catch (const Failure&) {
+    return false;
+  }
+}
+
+}  // namespace
 
 ProgramForm::ProgramForm(const FormServices& services, const QString& title)
     : StatusBar1(statusBar()),
       CommonDialog1(SettingsFileQuestion()),
       services_(services),
       place_(services.placeFile),
-      pending_(services.k70) {
+      pending_(services.k70),
+      unsent_(services.unsentFolder, services.k70) {
   setWindowTitle(title);
   setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
   BuildStatusBar();
   pendingTimer_.setSingleShot(true);
   connect(&pendingTimer_, &QTimer::timeout, this, &ProgramForm::LookForPending);
+  unsentTimer_.setObjectName("UnsentTimer");
+  unsentTimer_.setSingleShot(true);
+  unsentTimer_.setInterval(kBetweenWritesMs);
+  connect(&unsentTimer_, &QTimer::timeout, this, &ProgramForm::KeepUnsent);
   QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -94,7 +116,7 @@ void ProgramForm::FirstActivation() {
                                    [this] { return std::int32_t{AskDevice()}; },
                                    [&](Outcome received) {
                                      outcome = received;
-                                     pending_.TakeReceived();
+                                     TakeReceived();
                                    }});
   });
   if (connected) {
@@ -134,7 +156,53 @@ bool ProgramForm::eventFilter(QObject* watched, QEvent* event) {
 // The end of a command, a flush or a box comes back to it.
 void ProgramForm::LookForPending() {
   if (!startEnded_ || IsBusy()) return;
-  ShowPending(pending_.Find());
+  const std::vector<ItemChange> changes = pending_.Find();
+  if (changes.empty()) {
+    unsentTimer_.stop();
+    unsent_.Remove();
+  } else if (!unsentTimer_.isActive()) {
+    unsentTimer_.start();
+  }
+  ShowPending(changes);
+}
+
+void ProgramForm::KeepUnsent() {
+  if (IsBusy()) return unsentTimer_.start();
+  unsent_.Keep();
+}
+
+void ProgramForm::TakeReceived() {
+  const bool first = pending_.Held() == nullptr;
+  pending_.TakeReceived();
+  if (first) {
+    unsent_.Follow(pending_.Device());
+  } else {
+    unsent_.Rename(pending_.Device());
+  }
+}
+
+void ProgramForm::TakeSent(Outcome sent) {
+  pending_.TakeSent(sent);
+  unsent_.Rename(pending_.Device());
+}
+
+void ProgramForm::TakeDisconnected() {
+  pending_.Forget();
+  unsent_.Remove();
+  unsent_.Follow({});
+}
+
+bool ProgramForm::KeepBackup() const {
+  const DomDocument* held = pending_.Held();
+  if (services_.backupFolder.empty() || held == nullptr) return true;
+  try {
+    const Backups backups(services_.backupFolder, pending_.Device());
+    const std::vector<Backup> kept = backups.List();
+    if (kept.empty() || !IsSameAs(kept.front(), *held)) backups.Keep(*held);
+    return true;
+  } catch (const Failure&) {
+    return false;
+  }
 }
 
 // A command, an act of a page that drops input at its end, and a box that stands over the window.
@@ -186,6 +254,8 @@ void ProgramForm::closeEvent(QCloseEvent* event) {
     event->ignore();
   } else {
     place_.Keep(*this);
+    unsentTimer_.stop();
+    unsent_.Remove();
   }
 }
 

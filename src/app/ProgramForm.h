@@ -10,6 +10,7 @@
 #include "app/FormServices.h"
 #include "app/Outcome.h"
 #include "app/PendingChanges.h"
+#include "app/UnsentEdits.h"
 #include "app/WindowPlace.h"
 #include "common/Prompts.h"
 
@@ -31,6 +32,10 @@ class ProgramForm : public QMainWindow {
 
   // Asks nothing, other than the close box.
   void Unload();
+
+  // Keeps the state that a Send is about to overwrite, unless the newest backup is the same. False
+  // where that was not possible; the Send goes on either way.
+  bool KeepBackup() const;
 
   // Whether the start path has come to its end.
   bool IsStarted() const { return startEnded_; }
@@ -60,7 +65,12 @@ class ProgramForm : public QMainWindow {
 
   // The edits that are not sent yet, told whenever they may have changed but during a command.
   virtual void ShowPending(const std::vector<ItemChange>& changes) = 0;
-  PendingChanges& Pending() { return pending_; }
+  const PendingChanges& Pending() const { return pending_; }
+  UnsentEdits& Unsent() { return unsent_; }
+  // The model was received, was sent, or has no microscope any more.
+  void TakeReceived();
+  void TakeSent(Outcome sent);
+  void TakeDisconnected();
 
   Prompts& prompts() const { return services_.prompts; }
   // The time of day.
@@ -79,6 +89,7 @@ class ProgramForm : public QMainWindow {
   [[nodiscard]] bool IsBusy() const;
   void AskWhenFree();
   void LookForPending();
+  void KeepUnsent();
 
   FormServices services_;
   WindowPlace place_;
@@ -86,6 +97,8 @@ class ProgramForm : public QMainWindow {
   ProgressLine* progress_ = nullptr;
   PendingChanges pending_;
   QTimer pendingTimer_;  // looks once, however much input came at one go
+  UnsentEdits unsent_;
+  QTimer unsentTimer_{this};
   bool startBegun_ = false;
   bool startEnded_ = false;
   bool commandRunning_ = false;

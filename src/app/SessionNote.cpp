@@ -1,6 +1,7 @@
 #include "app/SessionNote.h"
 
 #include <QEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QToolBar>
 #include <QToolButton>
@@ -52,12 +53,22 @@ QString ChangesNotSent(int count) {
 }
 
 SessionNote::SessionNote(QToolBar& bar)
-    : ValueLabel(&bar), ButtonPending(Named(new QToolButton(&bar), "ButtonPending")), bar_(bar) {
-  ButtonPending->setFont(CaptionFont());
-  ButtonPending->setAutoRaise(true);
-  ButtonPending->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  ButtonPending->setFocusPolicy(Qt::TabFocus);
-  ButtonPending->hide();
+    : ValueLabel(&bar),
+      ButtonPending(Named(new QToolButton(&bar), "ButtonPending")),
+      ButtonKept(Named(new QToolButton(&bar), "ButtonKept")),
+      bar_(bar) {
+  for (QToolButton* button : {ButtonPending, ButtonKept}) {
+    button->setFont(CaptionFont());
+    button->setAutoRaise(true);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->hide();
+  }
+  auto* menu = new QMenu(ButtonKept);
+  OpenKept = Named(menu->addAction(u"Open"_s), "OpenKept");
+  LetKeptGo = Named(menu->addAction(u"Let Go"_s), "LetKeptGo");
+  ButtonKept->setMenu(menu);
+  ButtonKept->setPopupMode(QToolButton::InstantPopup);
   setAccessibleName(u"Session"_s);
   setFont(CaptionFont());
   setForegroundRole(QPalette::PlaceholderText);
@@ -91,6 +102,12 @@ void SessionNote::ShowPending(int changes) {
   Place();
 }
 
+void SessionNote::ShowKept(const QString& time) {
+  ButtonKept->setText(u"Unsent changes of %1 were kept"_s.arg(time));
+  ButtonKept->setVisible(!time.isEmpty());
+  Place();
+}
+
 void SessionNote::ShowDone(Act act, Outcome outcome, const QString& subject) {
   const Wording& wording = kWordings[static_cast<std::size_t>(act)];
   done_ = QString::fromLatin1(wording.texts[static_cast<std::size_t>(outcome)]).arg(subject);
@@ -115,11 +132,12 @@ void SessionNote::Place() {
   const QWidget* last = bar_.widgetForAction(bar_.actions().constLast());
   const int left = last->geometry().right() + grid::kBetweenColumns;
   int right = bar_.width() - grid::kPageMargin;
-  if (!ButtonPending->isHidden()) {
-    const QSize size = ButtonPending->sizeHint();
-    ButtonPending->setGeometry(right - size.width(), (bar_.height() - size.height()) / 2,
-                               size.width(), size.height());
-    right = ButtonPending->x() - grid::kBetweenControls;
+  for (QToolButton* button : {ButtonPending, ButtonKept}) {
+    if (button->isHidden()) continue;
+    const QSize size = button->sizeHint();
+    button->setGeometry(right - size.width(), (bar_.height() - size.height()) / 2, size.width(),
+                        size.height());
+    right = button->x() - grid::kBetweenControls;
   }
   const int needed = fontMetrics().horizontalAdvance(text());
   const int width = std::clamp(needed, 0, std::max(right - left, 0));

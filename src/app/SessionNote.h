@@ -5,6 +5,7 @@
 #include "app/Outcome.h"
 #include "widgets/ValueLabel.h"
 
+class QAction;
 class QToolBar;
 class QToolButton;
 
@@ -28,6 +29,14 @@ class SessionNote : public ValueLabel {
 
   // "3 changes not sent"; hidden while there are none.
   QToolButton* ButtonPending;
+
+  // "Unsent changes of 21 Nov 14:02 were kept", with a menu to open them or let them go; hidden for
+  // an empty time.
+  void ShowKept(const QString& time);
+
+  QToolButton* ButtonKept;
+  QAction* OpenKept;
+  QAction* LetKeptGo;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

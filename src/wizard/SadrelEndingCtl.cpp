@@ -64,6 +64,7 @@ bool SadrelEndingCtl::IsJustLoaded() const {
 }
 
 void SadrelEndingCtl::Send() {
+  beforeSend();
   RunStep(k70_.prompts(), [this] { k70_.Send(); });
   sent = kSent;
   Q_EMIT Sent();

@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "widgets/Page.h"
@@ -30,6 +31,9 @@ class SadrelEndingCtl : public Page {
   [[nodiscard]] bool IsJustLoaded() const;
   // Sends all. This page may be gone when it returns.
   void Send();
+
+  // Runs before each Send.
+  std::function<void()> beforeSend = [] {};
 
   // -1 when the changes of the report have been sent.
   std::int16_t sent = 0;

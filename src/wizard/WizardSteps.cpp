@@ -56,6 +56,7 @@ Page* MakeSwitches(SadrelMainForm& form, const FormServices& services) {
 
 Page* MakeEnding(SadrelMainForm& form, const FormServices& services) {
   auto* page = Named(new SadrelEndingCtl(services.k70, form.FrameControl), "SadrelEndingCtl1");
+  page->beforeSend = [&form] { form.KeepBackup(); };
   QObject::connect(page, &SadrelEndingCtl::Sent, &form, &SadrelMainForm::OnSent);
   return form.SadrelEndingCtl1 = page;
 }

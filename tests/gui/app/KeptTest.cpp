@@ -1,0 +1,202 @@
+// What is kept on the disk: the state before a Send, and the edits that are not sent.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QToolButton>
+#include <QUrl>
+#include <filesystem>
+
+#include "AppRig.h"
+#include "app/DifferencesDlg.h"
+#include "app/MainPages.h"
+#include "app/SelFileItemDlg.h"
+#include "app/SessionNote.h"
+#include "app/UnsentEdits.h"
+#include "record/Backups.h"
+#include "support/TempFolder.h"
+
+namespace mortane::test {
+namespace {
+
+// A window whose folders are the test's.
+class Kept : public testing::Test {
+ protected:
+  ~Kept() override { End(); }
+
+  void Start(const std::string& backups = {}) {
+    library.emplace(benches::Named("Harbour"));
+    clsK70& k70 = ProvideK70(library->library, library->prompts);
+    form = std::make_unique<MortaneMainForm>(
+        FormServices{.k70 = k70,
+                     .library = library->library,
+                     .prompts = library->prompts,
+                     .joystick = joystick,
+                     .arguments = {"mortane"},
+                     .now = [] { return QTime(14, 5); },
+                     .backupFolder = backups.empty() ? folder.Path("backups") : backups,
+                     .unsentFolder = folder.Path("unsent")},
+        MainPages());
+    form->Load();
+    form->show();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form->IsStarted(); }));
+  }
+  // As a process that is killed.
+  void End() {
+    form.reset();
+    if (library) ReleaseK70();
+    library.reset();
+  }
+  SessionNote& note() { return *form->findChild<SessionNote*>(); }
+  std::vector<Backup> List() { return Backups(folder.Path("backups"), "Harbour").List(); }
+  std::string Unsent(const char* name = "Unsent.xml") {
+    return folder.Path("unsent/" + DeviceFolderName("Harbour") + "/" + name);
+  }
+  // The edit, and what a person's next key brings about.
+  void Edit(std::int32_t code) {
+    GetK70().curNosepiece.code(1, code);
+    QTest::keyClick(form.get(), Qt::Key_Shift);
+    QApplication::processEvents();
+  }
+  // The time between two writings is over.
+  void Keep() {
+    form->findChild<QTimer*>("UnsentTimer")->setInterval(0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return std::filesystem::exists(Unsent()); }));
+  }
+
+  TempFolder folder;
+  ScriptedJoystick joystick;
+  std::optional<RigLibrary> library;
+  std::unique_ptr<MortaneMainForm> form;
+};
+
+TEST_F(Kept, IsTheStateBeforeASendOnce) {
+  Start();
+  const std::int32_t before = GetK70().curNosepiece.code(1);
+  Edit(before == 7 ? 8 : 7);
+  library->journal.Clear();
+  form->MenuConnectSend->trigger();
+  ASSERT_EQ(List().size(), 1U);
+  DomDocument document;
+  ASSERT_TRUE(document.Load(List().front().path));
+  GetK70().ReadItems(document, "backup");
+  EXPECT_TRUE(GetK70().ReadSections(document, "backup"));
+  EXPECT_EQ(GetK70().curNosepiece.code(1), before);
+  form->MenuConnectReceive->trigger();
+  form->MenuConnectSend->trigger();
+  EXPECT_EQ(List().size(), 2U) << "the state of the first Send";
+  form->MenuConnectSend->trigger();
+  EXPECT_EQ(List().size(), 2U) << "the newest one is the same";
+}
+
+TEST_F(Kept, ASendGoesOnWithoutABackupAndSaysSo) {
+  Start(folder.Write("taken", ""));
+  Edit(7);
+  form->MenuConnectSend->trigger();
+  EXPECT_EQ(note().text().toStdString(), "Harbour · Sent 14:05, no backup");
+}
+
+TEST_F(Kept, EditsAreThereWhileTheyAreNotSent) {
+  Start();
+  EXPECT_FALSE(std::filesystem::exists(Unsent()));
+  Edit(7);
+  Keep();
+  EXPECT_NE(TempFolder::Read(Unsent()).find("<Setup>"), std::string::npos);
+  form->MenuConnectSend->trigger();
+  QTest::qWait(1);
+  EXPECT_FALSE(std::filesystem::exists(Unsent()));
+}
+
+TEST_F(Kept, EditsAreGoneAfterAnOrderlyEnd) {
+  Start();
+  Edit(7);
+  Keep();
+  form->Unload();
+  EXPECT_FALSE(std::filesystem::exists(Unsent()));
+}
+
+TEST_F(Kept, EditsOfAProcessThatDiedAreOfferedAndOpened) {
+  Start();
+  EXPECT_TRUE(note().ButtonKept->isHidden());
+  const std::int32_t edited = GetK70().curNosepiece.code(1) == 7 ? 8 : 7;
+  Edit(edited);
+  Keep();
+  End();
+  Start();
+  EXPECT_FALSE(note().ButtonKept->isHidden());
+  EXPECT_TRUE(note().ButtonKept->text().startsWith("Unsent changes of "));
+  EXPECT_NE(GetK70().curNosepiece.code(1), edited);
+  {
+    const WhenShown<SelFileItemDlg> person(
+        [](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+    note().OpenKept->trigger();
+  }
+  EXPECT_EQ(GetK70().curNosepiece.code(1), edited);
+  EXPECT_TRUE(note().ButtonKept->isHidden());
+  EXPECT_FALSE(std::filesystem::exists(Unsent("Unsent-before.xml")));
+}
+
+TEST_F(Kept, EditsOfAProcessThatDiedStayUntilTheyAreLetGo) {
+  Start();
+  Edit(7);
+  Keep();
+  End();
+  Start();
+  Edit(8);
+  form->Unload();
+  EXPECT_TRUE(std::filesystem::exists(Unsent("Unsent-before.xml"))) << "not decided yet";
+  End();
+  Start();
+  note().LetKeptGo->trigger();
+  EXPECT_TRUE(note().ButtonKept->isHidden());
+  EXPECT_FALSE(std::filesystem::exists(Unsent("Unsent-before.xml")));
+}
+
+// What a drag of these files over the window comes to.
+bool TakesDrop(QWidget& window, const QList<QUrl>& urls) {
+  QMimeData data;
+  data.setUrls(urls);
+  QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  enter.ignore();
+  QApplication::sendEvent(&window, &enter);
+  if (!enter.isAccepted()) return false;
+  QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&window, &drop);
+  return drop.isAccepted();
+}
+
+TEST_F(Kept, ASettingsFileThatIsDroppedIsOpened) {
+  Start();
+  const std::string path =
+      folder.Write("a.XML", "<Setup><SYSTEM><QHRMNAME NAME=\"From File\"/></SYSTEM></Setup>");
+  const WhenShown<SelFileItemDlg> person([](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+  EXPECT_TRUE(TakesDrop(*form, {QUrl::fromLocalFile(QString::fromStdString(path))}));
+  EXPECT_TRUE(QTest::qWaitFor([] { return GetK70().SystemName == "From File"; }));
+}
+
+TEST_F(Kept, NothingElseIsTakenByDropping) {
+  Start();
+  const QUrl settings = QUrl::fromLocalFile(QString::fromStdString(folder.Write("a.xml", "")));
+  for (const QList<QUrl>& urls :
+       {QList<QUrl>{}, QList<QUrl>{settings, settings}, QList<QUrl>{QUrl("http://host/a.xml")},
+        QList<QUrl>{QUrl::fromLocalFile(QString::fromStdString(folder.Write("a.txt", "")))},
+        QList<QUrl>{QUrl::fromLocalFile(QString::fromStdString(folder.Path("gone.xml")))}}) {
+    EXPECT_FALSE(TakesDrop(*form, urls)) << urls.size();
+  }
+}
+
+TEST_F(Kept, TheListOfChangesIsSavedAsARecord) {
+  Start();
+  Edit(7);
+  library->prompts.ExpectFileToSave(folder.Path("record.html"));
+  const WhenShown<DifferencesDlg> person([](DifferencesDlg& dialog) {
+    dialog.ButtonSaveRecord->click();
+    dialog.ButtonClose->click();
+  });
+  note().ButtonPending->click();
+  EXPECT_NE(TempFolder::Read(folder.Path("record.html")).find("<html"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace mortane::test
