@@ -18,8 +18,8 @@ namespace mortane {
 
 // The part of SVG that the drawings use: svg with its viewBox, g, use, path, rect, circle and
 // ellipse; fill and stroke with their opacities, width, cap and join; translate, rotate and scale.
-// The toolkit's own module for SVG does far more, and is not to be had on every system that the
-// programs are built for.
+// The toolkit's own module for SVG does far more, but cannot be built from source where the
+// programs for Windows are made.
 class VectorDrawing {
  public:
   explicit VectorDrawing(const QByteArray& svg);
