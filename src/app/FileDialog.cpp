@@ -42,7 +42,7 @@ FileDialog::FileDialog(AcceptMode mode, const FileQuestion& question, const QStr
 
 QString FileDialog::Ask() {
   const bool accepted = exec() == Accepted && !selectedFiles().isEmpty();
-  return accepted ? QDir::toNativeSeparators(selectedFiles().front()) : QString();
+  return accepted ? QDir::toNativeSeparators(selectedFiles().constFirst()) : QString();
 }
 
 void FileDialog::accept() {

@@ -19,8 +19,7 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
-constexpr int kPageA = 1;
-constexpr int kPageB = 2;
+constexpr int kPageB = 2;  // page A is 1
 constexpr int kStandard = 0;
 constexpr int kLeft = 1;
 

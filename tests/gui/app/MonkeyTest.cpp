@@ -104,7 +104,7 @@ class MonkeyWalk : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(MonkeyWalk, BreaksNothing) {
   const bool odd = GetParam() == "Attic";
-  const int events = Setting("MORTANE_MONKEY_EVENTS", 1000);
+  const int events = Setting("MORTANE_MONKEY_EVENTS", 400);
   const auto seed = static_cast<std::uint32_t>(Setting("MORTANE_MONKEY_SEED", 1));
   std::mt19937 random(seed);
   const TempFolder folder;
