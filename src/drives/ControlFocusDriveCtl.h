@@ -59,6 +59,7 @@ class ControlFocusDriveCtl : public DrivePageCtl {
   void Build();
   InnerFrame* BuildEscape();
   InnerFrame* BuildLimit(const Limit& limit);
+  void AlignRows();
   void BuildTeaching();
   void StoreEdits();
 

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "drives/CaptionedFrame.h"
 #include "drives/ControlFocusDriveCtl.h"
@@ -68,7 +69,9 @@ void ControlFocusDriveCtl::Build() {
   FrameBase->body()->addLayout(row);
   row->addWidget(BuildEscape(), 1);
   for (const Limit& limit : kLimits) row->addWidget(BuildLimit(limit), 1);
+  AlignRows();
   BuildTeaching();
+  layout()->setAlignment(FrameBase, Qt::AlignTop);  // as tall as what it holds
 }
 
 InnerFrame* ControlFocusDriveCtl::BuildEscape() {
@@ -76,7 +79,7 @@ InnerFrame* ControlFocusDriveCtl::BuildEscape() {
   frmEscapeSetting = frame;
   auto* cells = new QGridLayout;
   cells->setHorizontalSpacing(grid::kBetweenGroups);
-  cells->setVerticalSpacing(grid::kUnit);
+  cells->setVerticalSpacing(grid::kBetweenControls);
   for (std::size_t axis = 0; axis < chkEscape.size(); ++axis) {
     const auto row = static_cast<int>(axis);
     const QString text = QLatin1String(kEscapeLabels[axis]);
@@ -89,6 +92,7 @@ InnerFrame* ControlFocusDriveCtl::BuildEscape() {
   }
   cells->setColumnStretch(2, 1);
   frame->body()->addLayout(cells);
+  frame->body()->addStretch();
   return frame;
 }
 
@@ -102,6 +106,18 @@ InnerFrame* ControlFocusDriveCtl::BuildLimit(const Limit& limit) {
   }
   frame->body()->addStretch();
   return frame;
+}
+
+// The rows of the three frames stand on one line.
+void ControlFocusDriveCtl::AlignRows() {
+  for (std::size_t row = 0; row < chkEscape.size(); ++row) {
+    QAbstractButton* upper = optUpperLimitation->button(static_cast<int>(row));
+    QAbstractButton* lower = optDownLimitation->button(static_cast<int>(row));
+    const int height = std::max(chkEscape[row]->sizeHint().height(), upper->sizeHint().height());
+    for (QAbstractButton* button : {static_cast<QAbstractButton*>(chkEscape[row]), upper, lower}) {
+      button->setMinimumHeight(height);
+    }
+  }
 }
 
 void ControlFocusDriveCtl::BuildTeaching() {

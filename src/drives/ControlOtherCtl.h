@@ -4,7 +4,6 @@
 #include "widgets/CardPage.h"
 #include "widgets/Control.h"
 
-class QBoxLayout;
 class QCheckBox;
 class QFrame;
 class QLabel;
@@ -74,6 +73,7 @@ class ControlOtherCtl : public CardPage {
 
  private:
   using Step = void (ControlOtherCtl::*)();
+  class Columns;
 
   void Build();
   void StoreEdits();
@@ -89,7 +89,7 @@ class ControlOtherCtl : public CardPage {
   void LoadFiber();
 
   clsControlOther& other_;
-  QBoxLayout* columns_ = nullptr;
+  Columns* columns_ = nullptr;
   bool hasFocusKnob_ = false;
   bool hasStageKnob_ = false;
 };

@@ -24,9 +24,8 @@ using Page = ControlOtherCtl;
 
 constexpr int kLabelColumn = 104;
 
-// The buzzer's option without a caption, for a screen reader.
+// What the buzzer's option without a caption stands for.
 constexpr const char* kNamelessOption = "The two controllers differ";
-constexpr std::array kShares{3, 2};
 
 // Behind a knob's options: whether it is automatic, and how sensitive it is.
 struct KnobControls {
@@ -155,7 +154,10 @@ void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
     if (text == nullptr) continue;
     QRadioButton* option = group->addOption(QLatin1String(text), panel);
     option->setAccessibleDescription(subject);
-    if (*text == '\0') option->setAccessibleName(QLatin1String(kNamelessOption));
+    if (*text == '\0') {
+      option->setAccessibleName(QLatin1String(kNamelessOption));
+      option->setToolTip(option->accessibleName());
+    }
     line->addWidget(option);
   }
   if (row.knob != nullptr) AddKnobControls(page, *row.knob, subject, panel);
@@ -174,17 +176,62 @@ void AddFrame(Page& page, const FrameRow& row, QBoxLayout* column) {
 
 }  // namespace
 
+// Two columns, one below the other where the width is short.
+class ControlOtherCtl::Columns : public QBoxLayout {
+ public:
+  Columns() : QBoxLayout(LeftToRight) { setSpacing(grid::kBetweenGroups); }
+
+  void SetSecondFirst(bool secondFirst) {
+    secondFirst_ = secondFirst;
+    Arrange();
+  }
+
+  [[nodiscard]] QSize minimumSize() const override {
+    const int widest = std::max(itemAt(0)->minimumSize().width(), itemAt(1)->minimumSize().width());
+    return {widest, QBoxLayout::minimumSize().height()};
+  }
+  void setGeometry(const QRect& area) override {
+    const int both =
+        itemAt(0)->minimumSize().width() + spacing() + itemAt(1)->minimumSize().width();
+    const bool stacked = area.width() < both;
+    if (stacked != stacked_) {
+      stacked_ = stacked;
+      Arrange();
+    }
+    QBoxLayout::setGeometry(area);
+  }
+
+ private:
+  // Side by side they share the width; stacked, the lower one takes the height that is left.
+  void Arrange() {
+    if (stacked_) {
+      setDirection(secondFirst_ ? BottomToTop : TopToBottom);
+      setStretch(0, secondFirst_ ? 1 : 0);
+      setStretch(1, secondFirst_ ? 0 : 1);
+    } else {
+      setDirection(secondFirst_ ? RightToLeft : LeftToRight);
+      setStretch(0, kLeftShare);
+      setStretch(1, kRightShare);
+    }
+  }
+
+  static constexpr int kLeftShare = 3;
+  static constexpr int kRightShare = 2;
+
+  bool secondFirst_ = false;
+  bool stacked_ = false;
+};
+
 // Each column is a widget, which keeps its width when all its frames are hidden.
 void ControlOtherCtl::Build() {
-  columns_ = new QHBoxLayout;
-  columns_->setSpacing(grid::kBetweenGroups);
+  columns_ = new Columns;
   std::array<QVBoxLayout*, 2> stacks{};
   for (std::size_t i = 0; i < stacks.size(); ++i) {
     auto* column = new QWidget(FrameBase);
     stacks[i] = new QVBoxLayout(column);
     stacks[i]->setContentsMargins({});
     stacks[i]->setSpacing(grid::kBetweenGroups);
-    columns_->addWidget(column, kShares[i]);
+    columns_->addWidget(column);
   }
   for (const FrameRow& frame : kFrames) {
     AddFrame(*this, frame, stacks[static_cast<std::size_t>(frame.column)]);
@@ -202,7 +249,7 @@ void ControlOtherCtl::Build() {
 void ControlOtherCtl::ArrangeColumns() {
   const bool leftIsEmpty = FrameManualHandle->isHidden() && FrameR_TLPORemote->isHidden() &&
                            FrameFiberRemote->isHidden();
-  columns_->setDirection(leftIsEmpty ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
+  columns_->SetSecondFirst(leftIsEmpty);
 }
 
 }  // namespace mortane

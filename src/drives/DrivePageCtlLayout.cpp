@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <cstdlib>
 #include <utility>
 
 #include "drives/CaptionedFrame.h"
@@ -61,6 +62,8 @@ DrivePageCtl::TeachingParts DrivePageCtl::AddTeaching(const TeachingTexts& texts
 }
 
 void DrivePageCtl::ConnectStep(MoveButton& button, std::int32_t steps, std::size_t axis) {
+  button.setToolTip(
+      u"%1: %2 µm"_s.arg(button.accessibleName(), ToQString(TextOfSteps(std::abs(steps)))));
   connect(&button, &QAbstractButton::clicked, this, [this, axis, steps] { Step(axis, steps); });
 }
 

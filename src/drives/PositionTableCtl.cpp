@@ -19,8 +19,8 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
-constexpr int kFieldCharacters = 12;
-constexpr int kHeaderIndent = 10;  // as the numbers in the fields
+constexpr int kFieldCharacters = 11;  // "No Setting" and some room
+constexpr int kHeaderIndent = 10;     // as the numbers in the fields
 constexpr std::string_view kNoSetting = "No Setting";
 
 // Drops the input that came while its choice was carried out.

@@ -51,7 +51,7 @@ InterlockOffsetCtl::InterlockOffsetCtl(clsInterLockOffset& offsets, QWidget* par
   Label2 = CaptionLabel(u"The compensation setting puts the compensation on the proper value. "_s,
                         FrameBase);
   FrameBase->body()->addWidget(Label2);
-  FrameBase->body()->addStretch();
+  layout()->setAlignment(FrameBase, Qt::AlignTop);  // as tall as what it holds
 }
 
 void InterlockOffsetCtl::BuildRow(const OffsetAccessory& row, QGridLayout& rows) {

@@ -2,6 +2,7 @@
 #include <QApplication>
 
 #include "gui/drives/OtherPage.h"
+#include "gui/support/PageLayout.h"
 
 namespace mortane::test {
 namespace {
@@ -280,6 +281,30 @@ TEST(OtherPageFrames, OptionsBeginAtOnePlaceInTheLeftColumn) {
   QApplication::processEvents();
   EXPECT_FALSE(page.lblFocusDrive->isVisible());
   EXPECT_EQ(start(page.optAuto), start(page.optXYAuto)) << "the label's place stays";
+}
+
+// The columns stand side by side, or one below the other where both do not fit.
+TEST(OtherPageFrames, TheColumnsStackWhereTheWidthIsShort) {
+  for (const char* bench : {"Quay", "DeckRemote"}) {
+    OtherRig rig(bench);
+    auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
+    const QWidget& left = *page.FrameManualHandle->parentWidget();
+    const QWidget& right = *page.FrameBuzzer->parentWidget();
+    rig.window().resize(1000, 900);
+    QApplication::processEvents();
+    EXPECT_EQ(left.y(), right.y()) << bench;
+    const int both = page.minimumSizeHint().width();
+    rig.window().resize(both + 40, 900);
+    QApplication::processEvents();
+    EXPECT_EQ(left.x(), right.x()) << bench;
+    EXPECT_EQ(left.width(), right.width()) << bench;
+    EXPECT_LT(left.y(), right.y()) << bench;
+    EXPECT_EQ(LayoutFaults(page), std::vector<std::string>{}) << bench;
+    rig.window().resize(1000, 900);
+    QApplication::processEvents();
+    EXPECT_EQ(left.y(), right.y()) << bench;
+    EXPECT_EQ(LayoutFaults(page), std::vector<std::string>{}) << bench;
+  }
 }
 
 }  // namespace

@@ -223,6 +223,7 @@ TEST(OtherPageLoad, ABuzzerOfTwoControllersThatDisagreeSelectsTheOptionWithoutAC
   EXPECT_EQ(page.optBuzzer->selected(), 2);
   EXPECT_EQ(page.optBuzzer->button(2)->text(), "");
   EXPECT_TRUE(page.optBuzzer->button(2)->isVisible());
+  EXPECT_EQ(page.optBuzzer->button(2)->toolTip(), "The two controllers differ");
 }
 
 TEST(OtherPageLoad, AnLedOfThreeFromASettingsFileSelectsTheFirstOptionAndIsKept) {

@@ -143,5 +143,14 @@ TEST_F(StageStart, TheTimesOfBothAxesAreAdded) {
   }
 }
 
+TEST(DriveButtons, TellTheirStepInMicrometres) {
+  FocusRig focus;
+  EXPECT_EQ(focus.page.ButtonUpLarge->toolTip(), "Up, large step: 2.5 \u00B5m");
+  EXPECT_EQ(focus.page.ButtonDownSmall->toolTip(), "Down, small step: 0.05 \u00B5m");
+  StageRig stage;
+  EXPECT_EQ(stage.page.ButtonLeftLarge->toolTip(), "Left, large step: 2.5 \u00B5m");
+  EXPECT_EQ(stage.page.ButtonRightSmall->toolTip(), "Right, small step: 0.05 \u00B5m");
+}
+
 }  // namespace
 }  // namespace mortane::test
