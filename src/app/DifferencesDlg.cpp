@@ -43,6 +43,7 @@ DifferencesDlg::DifferencesDlg(const Content& content, QWidget* parent)
   List1->setAccessibleName(windowTitle());
   List1->setHeaderLabels({u"Item"_s, u"Microscope"_s, u"Here"_s});
   List1->setRootIsDecorated(false);
+  List1->setIndentation(0);
   List1->setItemsExpandable(false);
   List1->setAllColumnsShowFocus(true);
   List1->setUniformRowHeights(true);
@@ -58,6 +59,7 @@ DifferencesDlg::DifferencesDlg(const Content& content, QWidget* parent)
 }
 
 void DifferencesDlg::Fill(const Content& content) {
+  const QSize room(0, GridHeight(grid::kRowHeight, *List1));
   QTreeWidgetItem* page = nullptr;
   for (const ItemChange& change : content.changes) {
     const auto index = static_cast<int>(PageOf(change.to.key));
@@ -65,12 +67,14 @@ void DifferencesDlg::Fill(const Content& content) {
       page = new QTreeWidgetItem(List1, {content.pageTitles.at(static_cast<std::size_t>(index))});
       page->setData(0, kPageRole, index);
       page->setFont(0, BoldFont());
+      page->setSizeHint(0, room);
       page->setFirstColumnSpanned(true);
       page->setExpanded(true);
     }
     const QStringList cells = Cells(change, content);
     auto* row = new QTreeWidgetItem(page, cells);
     row->setData(0, kPageRole, index);
+    row->setSizeHint(0, room);
     for (int column = 0; column < kColumns; ++column) row->setToolTip(column, cells[column]);
   }
   if (QTreeWidgetItem* first = List1->topLevelItem(0)) List1->setCurrentItem(first->child(0));
