@@ -33,7 +33,8 @@ class SystemSettingsCtl;
 
 inline constexpr char kWizardTitle[] = "Sadrel";
 
-// Pages store edits as they are made: nothing else is taken from their controls before a Send.
+// It owns its pages, which the table makes and which stay to its end. Pages store edits as they are
+// made: nothing else is taken from their controls before a Send. A Send ends the window.
 class SadrelMainForm : public ProgramForm {
  public:
   explicit SadrelMainForm(const FormServices& services, const StepTable& steps);

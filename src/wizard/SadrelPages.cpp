@@ -52,7 +52,7 @@ bool SadrelControlOtherCtl::qhrOnly() const {
   return k70_.curType == kHubOnly;
 }
 
-// Kept oddity: type 1 has its buzzer hidden although the help line names it.
+// Kept: type 1 has its buzzer hidden although the help line names it.
 void SadrelControlOtherCtl::LoadData() {
   ControlOtherCtl1->R_TLPORemoteVisible(true);
   ControlOtherCtl1->SwitchVisible(true);

@@ -87,7 +87,7 @@ class SadrelControlTactorSwitch : public ContainerPage {
  public:
   SadrelControlTactorSwitch(clsK70& k70, Prompts& prompts, QWidget* parent = nullptr);
 
-  // Kept oddity: both pages are saved where the interlock offsets are enabled.
+  // Kept: both pages are saved where the interlock offsets are enabled.
   void SaveData() override;
 
   SectionBar* optSettings;

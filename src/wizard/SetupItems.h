@@ -30,6 +30,8 @@ inline constexpr std::size_t kSetupItemCount = 7;
 // The number of an item is its place here; its step of the wizard is two further.
 extern const std::array<SetupItem, kSetupItemCount> kSetupItems;
 
+// Asks the controller for firmware versions where the item depends on them; a unit that does not
+// answer has none, and nothing is raised.
 bool IsOffered(const SetupItem& item, clsK70& k70);
 
 }  // namespace mortane
