@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "common/Numbers.h"
