@@ -47,12 +47,16 @@ UnitOperations OperationsOf(Unit Units::*unit) {
           [of](BenchMicroscope& microscope) { return FileTextOf(of(microscope)); }};
 }
 
+class UnitChange;
+
+template <typename Type>
+concept UnitLambda = !std::same_as<std::remove_cvref_t<Type>, UnitChange>;
+
 // A function of the room's units, made of a lambda that takes them by reference.
 class UnitChange {
  public:
-  template <typename Change>
-  requires(!std::same_as<std::remove_cvref_t<Change>, UnitChange>) UnitChange(Change change)
-      : change_(Erased(std::function(std::move(change)))) {}
+  template <UnitLambda Change>
+  UnitChange(Change change) : change_(Erased(std::function(std::move(change)))) {}
 
   void operator()(BenchMicroscope& microscope) const { change_(microscope); }
 
