@@ -117,8 +117,10 @@ bool clsControlZDrive::IsEnable() const {
 }
 
 EscapeFirmware clsControlZDrive::BodyFirmware() const {
-  const double version = FirmwareVersion(parent, controllerunit::kBody);
-  if (version == kNoVersion) return EscapeFirmware::Unknown;
+  double version = kNoVersion;
+  ErrorTrap trap;
+  const bool wasRead = trap.Run([&] { version = parent.ReadMicVer(controllerunit::kBody); });
+  if (!wasRead || parent.lConnectDevice < 0) return EscapeFirmware::Unknown;
   return version >= kFullFirmware ? EscapeFirmware::With : EscapeFirmware::Without;
 }
 

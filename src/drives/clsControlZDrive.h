@@ -46,8 +46,8 @@ class clsControlZDrive {
 
   bool IsEnable() const;
 
-  // By the version of the body's firmware, from 1.3 on with; a version that cannot be read is
-  // Unknown.
+  // By the version of the body's firmware, from 1.3 on with. A connected microscope without a body
+  // is Without; a version that cannot be read, and no connection, is Unknown.
   EscapeFirmware BodyFirmware() const;
 
   // Real moves, as DriveMotion tells. MoveStart prepares the hardware for them.

@@ -199,7 +199,7 @@ TEST(FocusDrive, TheBodysFirmwareKnowsTheEscapeFromVersion13) {
        {VersionRow{"Harbour", "V1.3", With}, VersionRow{"Harbour", "V1.30b", With},
         VersionRow{"Harbour", "V1.29", Without}, VersionRow{"Harbour", "V2.0", With},
         VersionRow{"Harbour", "V1.10", Without}, VersionRow{"Harbour", "vDEMO", Without},
-        VersionRow{"Harbour", "", Without}, VersionRow{"Hub", "V1.3", Unknown}}) {
+        VersionRow{"Harbour", "", Without}, VersionRow{"Hub", "V1.3", Without}}) {
     Rig rig(row.bench);
     rig.instrument().Unit(1).version = row.version;
     rig.Connect();

@@ -37,17 +37,16 @@ void SetPositions(DrivePageUnits& k70) {
 
 struct LoadRow {
   const char* bench;
-  bool escapeSetOn;        // there is a body, and its firmware is below 1.3
+  bool escapeSetOn;        // the body's firmware is below 1.3, or there is none
   std::int32_t interlock;  // of the focus drive after the nosepiece, afterwards
 };
 
 const std::vector<LoadRow>& AllBenches() {
   static const std::vector<LoadRow> rows{
-      {"Quay", true, 1},    {"Harbour", false, 1}, {"Lantern", true, 0},
-      {"Hub", false, -1},   {"Pair", false, -1},   {"Outpost", false, -1},
-      {"Relay", false, -1}, {"Deck", false, -1},   {"DeckRemote", false, -1},
-      {"Watch", false, -1}, {"Shell", false, -1},  {"Hollow", false, -1},
-      {"Attic", false, 0},  {"Crowd", false, -1},
+      {"Quay", true, 1},        {"Harbour", false, 1}, {"Lantern", true, 0}, {"Hub", true, -1},
+      {"Pair", false, -1},      {"Outpost", true, -1}, {"Relay", false, -1}, {"Deck", true, -1},
+      {"DeckRemote", true, -1}, {"Watch", false, -1},  {"Shell", true, -1},  {"Hollow", false, -1},
+      {"Attic", false, 0},      {"Crowd", true, -1},
   };
   return rows;
 }

@@ -222,14 +222,21 @@ TEST(FocusPage, AVersionThatCannotBeReadDisablesTheEscapeAndStoresNothing) {
   }
 }
 
-TEST(FocusPage, WithoutABodyOrAConnectionTheEscapeStays) {
-  for (const Link link : {Link::None, Link::Reported}) {
-    PageRig rig("Outpost", link);
+struct LinkRow {
+  Link link;
+  const char* caption;
+  std::int16_t escape;
+};
+
+// A microscope without a body has told that it knows no escape; without a connection nobody has.
+TEST(FocusPage, WithoutABodyTheEscapeIsOnAndWithoutAConnectionItStays) {
+  for (const LinkRow& row : {LinkRow{Link::None, "OFF", 0}, LinkRow{Link::Reported, "ON", 1}}) {
+    PageRig rig("Outpost", row.link);
     rig.k70().CZDrive.SetEscape(0, 0);
     auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
     EXPECT_FALSE(page.frmEscapeSetting->isEnabled());
-    EXPECT_EQ(page.chkEscape[0]->text(), "OFF");
-    EXPECT_EQ(rig.k70().CZDrive.SetEscape(0), 0);
+    EXPECT_EQ(page.chkEscape[0]->text(), row.caption);
+    EXPECT_EQ(rig.k70().CZDrive.SetEscape(0), row.escape);
   }
 }
 
