@@ -104,7 +104,7 @@ void RunProcess(benchmark::State& state, const std::vector<std::string>& words) 
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
   posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-  struct rusage usage {};
+  struct rusage usage = {};
   for ([[maybe_unused]] auto _ : state) {
     pid_t child = 0;
     int status = 0;

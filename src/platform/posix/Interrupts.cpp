@@ -21,12 +21,12 @@ void Remember(int /*signal*/) {
 // A request that the process was started to ignore, as below nohup, stays ignored.
 InterruptWatch::InterruptWatch() {
   asked = 0;
-  struct sigaction action {};
+  struct sigaction action = {};
   action.sa_handler = Remember;
   action.sa_flags = SA_RESTART;
   sigemptyset(&action.sa_mask);
   for (const int request : kRequests) {
-    struct sigaction former {};
+    struct sigaction former = {};
     const bool ignored = ::sigaction(request, nullptr, &former) == 0 &&
                          former.sa_handler == SIG_IGN;  // NOLINT(performance-no-int-to-ptr)
     if (!ignored) ::sigaction(request, &action, nullptr);
@@ -35,7 +35,7 @@ InterruptWatch::InterruptWatch() {
 
 InterruptWatch::~InterruptWatch() {
   for (const int request : kRequests) {
-    struct sigaction former {};
+    struct sigaction former = {};
     if (::sigaction(request, nullptr, &former) == 0 && former.sa_handler == Remember) {
       ::signal(request, SIG_DFL);
     }

@@ -12,15 +12,16 @@
 
 namespace mortane::test {
 
+template <typename Type, typename Own>
+concept OtherThan = !std::same_as<std::remove_cvref_t<Type>, Own>;
+
 // Made of a function of clsK70 or of an area's units; it may be called with that model only.
 template <typename Result>
 class ModelFunction {
  public:
   ModelFunction() = default;
-  template <typename Function>
-  requires(!std::same_as<std::remove_cvref_t<Function>, ModelFunction>)
-      ModelFunction(Function function)
-      : function_(Erased(std::function(std::move(function)))) {}
+  template <OtherThan<ModelFunction> Function>
+  ModelFunction(Function function) : function_(Erased(std::function(std::move(function)))) {}
 
   Result operator()(ConnectedMicroscope& model) const { return function_(model); }
 
@@ -39,9 +40,8 @@ class ModelFunction {
 class PageMaker {
  public:
   PageMaker() = default;
-  template <typename Function>
-  requires(!std::same_as<std::remove_cvref_t<Function>, PageMaker>) PageMaker(Function function)
-      : page_(function), rig_(RigOf(std::function(function))) {}
+  template <OtherThan<PageMaker> Function>
+  PageMaker(Function function) : page_(function), rig_(RigOf(std::function(function))) {}
 
   Page* operator()(ConnectedMicroscope& model) const { return page_(model); }
   std::unique_ptr<PageWindow> Rig(Bench bench, Link link) const {

@@ -31,7 +31,10 @@ TEST_P(Interrupts, TheSecondEndsTheProcess) {
 
 TEST_P(Interrupts, AfterTheWatchEverythingIsAsBefore) {
   ChildProcess child([](const ChildProcess::Side& /*test*/) {
-    { const InterruptWatch watch; }
+    {
+      // Its end leaves the signals as they were.
+      const InterruptWatch watch;
+    }
     std::raise(GetParam());
     return 0;
   });

@@ -43,7 +43,7 @@ TEST(AKeptState, OnAFullDiskIsAFailureAndNoFile) {
   const Backups backups(folder.Path(""), "Alpha");
   ChildProcess child([&](const ChildProcess::Side&) {
     ::signal(SIGXFSZ, SIG_IGN);
-    const struct rlimit limit { 4096, 4096 };
+    const struct rlimit limit = {4096, 4096};
     if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 3;
     return Try(backups, "File too large");
   });
