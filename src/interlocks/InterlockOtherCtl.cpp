@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <functional>
 #include <utility>
 
 #include "interlocks/InterlockCtlTiles.h"
@@ -98,6 +99,7 @@ InnerFrame* InterlockOtherCtl::BuildFrame(const Change<Count>& change) {
   return frame;
 }
 
+// The tables of changes outlive every page.
 template <std::size_t Count>
 ToggleTile* InterlockOtherCtl::BuildTile(const Change<Count>& change, const OtherAccessory& row) {
   ToggleTile* tile = MakeAccessoryTile(row.number, row.caption, ToggleTile::Ground::InnerFrame,
@@ -107,8 +109,8 @@ ToggleTile* InterlockOtherCtl::BuildTile(const Change<Count>& change, const Othe
   (this->*change.labels).Set(i, tile->label());
   (this->*change.boxes).Set(i, tile->toggle());
   connect(tile->toggle(), &CheckToggle::toggled, this,
-          [this, store = change.store, number = row.number](bool on) {
-            (interlocks_.*store)(number, on ? kInterlockOn : kInterlockOff);
+          [this, &change, number = row.number](bool on) {
+            std::invoke(change.store, interlocks_, number, on ? kInterlockOn : kInterlockOff);
             TellDrives(number, on);
           });
   return tile;
