@@ -5,8 +5,8 @@
 
 #include "condensers/clsDbCondenser.h"
 #include "widgets/Card.h"
-#include "widgets/FoldingLayout.h"
 #include "widgets/QtText.h"
+#include "widgets/ReflowGrid.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 
@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNameLength = static_cast<int>(kOptionNameLength);
+constexpr int kMostColumns = 2;
 constexpr int kColumnGap = 48;
 
 std::int32_t CodeOf(int row) {
@@ -26,7 +27,8 @@ std::int32_t CodeOf(int row) {
 
 CondenserOptionCtl::CondenserOptionCtl(clsDbCondenser& condensers, QWidget* parent)
     : CardPage(u"Add Optional Condenser Data to the List"_s, parent), condensers_(condensers) {
-  auto* rows = new FoldingLayout(kColumnGap);
+  auto* rows = new ReflowGrid(ReflowGrid::Order::ColumnByColumn, kMostColumns, kColumnGap,
+                              grid::kBetweenControls);
   FrameBase->body()->addLayout(rows, 1);
   for (int row = 0; row < kOptionPositions; ++row) rows->addWidget(BuildRow(row));
 }

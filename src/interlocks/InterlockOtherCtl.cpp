@@ -10,8 +10,8 @@
 #include "interlocks/clsInterLockOther.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
+#include "widgets/ReflowGrid.h"
 #include "widgets/Theme.h"
-#include "widgets/TileLayout.h"
 
 namespace mortane {
 
@@ -91,7 +91,8 @@ template <std::size_t Count>
 InnerFrame* InterlockOtherCtl::BuildFrame(const Change<Count>& change) {
   auto* frame = new InnerFrame(QLatin1String(change.caption), FrameBase);
   this->*change.frame = frame;
-  auto* tiles = new TileLayout(kColumns, grid::kBetweenColumns, grid::kUnit);
+  auto* tiles =
+      new ReflowGrid(ReflowGrid::Order::RowByRow, kColumns, grid::kBetweenColumns, grid::kUnit);
   for (const OtherAccessory* row : InPageOrder(kOtherAccessories, change.place)) {
     tiles->addWidget(BuildTile(change, *row));
   }

@@ -1,6 +1,7 @@
-#include "widgets/TileLayout.h"
+#include "widgets/ReflowGrid.h"
 
-#include <array>
+#include <memory>
+#include <vector>
 
 #include "gui/support/TestWindow.h"
 
@@ -25,12 +26,20 @@ constexpr int WidthOf(int columns) {
   return columns * (kTileWidth + kColumnGap) - kColumnGap;
 }
 
-// Five tiles in at most three columns, in a panel of the size that the test gives.
-class TileLayoutTest : public ::testing::Test {
+// Tiles in a grid of at most so many columns, in a panel of the size that the test gives.
+class Grid : public ::testing::Test {
  protected:
-  TileLayoutTest() {
-    layout->setContentsMargins({});
-    for (Tile*& tile : tiles) layout->addWidget(tile = new Tile(&panel));
+  Grid(ReflowGrid::Order order, int mostColumns, std::size_t count)
+      : layout(new ReflowGrid(order, mostColumns, kColumnGap, kRowGap)) {
+    // The panel takes any size, however small.
+    auto* column = new QVBoxLayout(&panel);
+    column->setContentsMargins({});
+    column->setSizeConstraint(QLayout::SetNoConstraint);
+    column->addLayout(layout);
+    for (std::size_t i = 0; i < count; ++i) {
+      tiles.push_back(new Tile(&panel));
+      layout->addWidget(tiles.back());
+    }
     panel.show();
   }
 
@@ -46,21 +55,16 @@ class TileLayoutTest : public ::testing::Test {
   }
 
   QWidget panel;
-  TileLayout* layout = new TileLayout(3, kColumnGap, kRowGap);
-  std::array<Tile*, 5> tiles{};
-
- private:
-  QWidget* holder_ = [this] {
-    // A panel whose window takes any size, however small.
-    auto* column = new QVBoxLayout(&panel);
-    column->setContentsMargins({});
-    column->setSizeConstraint(QLayout::SetNoConstraint);
-    column->addLayout(layout);
-    return &panel;
-  }();
+  ReflowGrid* layout;
+  std::vector<Tile*> tiles;
 };
 
-TEST_F(TileLayoutTest, FillsRowAfterRowInEqualColumns) {
+class GridRowByRow : public Grid {
+ protected:
+  GridRowByRow() : Grid(ReflowGrid::Order::RowByRow, 3, 5) {}
+};
+
+TEST_F(GridRowByRow, FillsRowAfterRowInEqualColumns) {
   Resize(WidthOf(3) + 60, 200);
   EXPECT_EQ(ColumnsOfTiles(), (std::vector<int>{0, 1, 2, 0, 1}));
   for (const Tile* tile : tiles) EXPECT_EQ(tile->size(), QSize(kTileWidth + 20, kTileHeight));
@@ -73,7 +77,7 @@ struct WidthRow {
   std::vector<int> columns;
 };
 
-TEST_F(TileLayoutTest, HasAsManyColumnsAsTheWidthHolds) {
+TEST_F(GridRowByRow, HasAsManyColumnsAsTheWidthHolds) {
   for (const WidthRow& row :
        {WidthRow{WidthOf(4), {0, 1, 2, 0, 1}}, WidthRow{WidthOf(3), {0, 1, 2, 0, 1}},
         WidthRow{WidthOf(3) - 1, {0, 1, 0, 1, 0}}, WidthRow{WidthOf(2), {0, 1, 0, 1, 0}},
@@ -83,7 +87,7 @@ TEST_F(TileLayoutTest, HasAsManyColumnsAsTheWidthHolds) {
   }
 }
 
-TEST_F(TileLayoutTest, AsksForTheHeightOfTheRowsThatItsWidthMakes) {
+TEST_F(GridRowByRow, AsksForTheHeightOfTheRowsThatItsWidthMakes) {
   Resize(WidthOf(3), 400);
   EXPECT_EQ(layout->sizeHint(),
             QSize(3 * (kTileWidth + 50) + 2 * kColumnGap, 2 * kTileHeight + kRowGap));
@@ -95,13 +99,13 @@ TEST_F(TileLayoutTest, AsksForTheHeightOfTheRowsThatItsWidthMakes) {
   EXPECT_EQ(layout->minimumSize().height(), 3 * kLeastHeight + 2 * kRowGap);
 }
 
-TEST_F(TileLayoutTest, RowsShareAHeightThatIsShort) {
+TEST_F(GridRowByRow, RowsShareAHeightThatIsShort) {
   Resize(WidthOf(3), 2 * 30 + kRowGap);
   EXPECT_EQ(tiles[0]->height(), 30);
   EXPECT_EQ(PlaceOf(4).y(), 30 + kRowGap);
 }
 
-TEST_F(TileLayoutTest, AHiddenTileLeavesNoGap) {
+TEST_F(GridRowByRow, AHiddenTileLeavesNoGap) {
   tiles[1]->hide();
   Resize(WidthOf(3), 400);
   EXPECT_EQ(PlaceOf(2).x(), kTileWidth + kColumnGap);
@@ -115,10 +119,70 @@ TEST_F(TileLayoutTest, AHiddenTileLeavesNoGap) {
   Resize(WidthOf(2), 300);
 }
 
-TEST(TileLayoutInAPanel, MakesThePanelHigherWhenTheRowsBreak) {
+class GridColumnByColumn : public Grid {
+ protected:
+  GridColumnByColumn() : Grid(ReflowGrid::Order::ColumnByColumn, 2, 9) {}
+};
+
+constexpr int HeightOf(int rows) {
+  return rows * (kTileHeight + kRowGap) - kRowGap;
+}
+
+struct HeightRow {
+  int height;
+  std::vector<int> columns;
+};
+
+TEST_F(GridColumnByColumn, HasOneColumnUnlessTheHeightIsShort) {
+  const std::vector<int> one(9, 0);
+  const std::vector<int> two{0, 0, 0, 0, 0, 1, 1, 1, 1};
+  for (const HeightRow& row :
+       {HeightRow{HeightOf(10), one}, HeightRow{HeightOf(9), one}, HeightRow{HeightOf(9) - 1, two},
+        HeightRow{HeightOf(5), two}, HeightRow{HeightOf(1), two}, HeightRow{HeightOf(9), one}}) {
+    Resize(600, row.height);
+    EXPECT_EQ(ColumnsOfTiles(), row.columns) << row.height;
+  }
+}
+
+TEST_F(GridColumnByColumn, TilesKeepTheirSizeAndStandAtTheLeft) {
+  const QSize size(kTileWidth + 50, kTileHeight);
+  Resize(600, HeightOf(12));
+  EXPECT_EQ(PlaceOf(8), QPoint(0, 8 * (kTileHeight + kRowGap)));
+  for (const Tile* tile : tiles) EXPECT_EQ(tile->size(), size);
+  Resize(600, HeightOf(5));
+  EXPECT_EQ(PlaceOf(5), QPoint(size.width() + kColumnGap, 0)) << "the top of the second column";
+  for (const Tile* tile : tiles) EXPECT_EQ(tile->size(), size);
+}
+
+TEST_F(GridColumnByColumn, AsksForOneColumnAndIsContentWithTwo) {
+  const int width = kTileWidth + 50;
+  for (const int height : {HeightOf(9), HeightOf(5)}) {
+    Resize(600, height);
+    EXPECT_EQ(layout->sizeHint(), QSize(width, HeightOf(9)));
+    EXPECT_EQ(layout->minimumSize(), QSize(2 * width + kColumnGap, HeightOf(5)));
+  }
+}
+
+TEST_F(GridColumnByColumn, AHiddenTileLeavesNoGap) {
+  tiles[0]->hide();
+  Resize(600, HeightOf(8));
+  EXPECT_EQ(PlaceOf(1), QPoint(0, 0));
+  EXPECT_EQ(PlaceOf(8), QPoint(0, 7 * (kTileHeight + kRowGap)));
+}
+
+TEST_F(GridColumnByColumn, GivesBackWhatIsTaken) {
+  EXPECT_EQ(layout->itemAt(9), nullptr);
+  EXPECT_EQ(layout->takeAt(-1), nullptr);
+  const std::unique_ptr<QLayoutItem> taken(layout->takeAt(0));
+  ASSERT_NE(taken, nullptr);
+  EXPECT_EQ(taken->widget(), tiles[0]);
+  EXPECT_EQ(layout->count(), 8);
+}
+
+TEST(ReflowGridInAPanel, MakesThePanelHigherWhenTheRowsBreak) {
   TestWindow window;
   auto* panel = window.Add<QWidget>();
-  auto* layout = new TileLayout(2, kColumnGap, kRowGap);
+  auto* layout = new ReflowGrid(ReflowGrid::Order::RowByRow, 2, kColumnGap, kRowGap);
   panel->setLayout(layout);
   for (int i = 0; i < 2; ++i) layout->addWidget(new Tile(panel));
   window.Show();
