@@ -6,7 +6,6 @@
 #include "drawings/TurretDrawing.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
-#include "widgets/Named.h"
 #include "widgets/PairPanel.h"
 #include "widgets/TabStrip.h"
 #include "widgets/ValueBox.h"
@@ -20,8 +19,8 @@ TurretPage::TurretPage(const QString& caption, PlaceKind kind, const QString& tu
     : CardPage(caption, parent),
       tabs_(new TabStrip(FrameBase)),
       panel_(new PairPanel(FrameBase)),
-      turret_(Named(new TurretDrawing(kind, panel_), "turret")),
       values_(new ValueBox(FrameBase)) {
+  turret_ = new TurretDrawing(kind, panel_);
   tabs_->setAccessibleName(u"Address"_s);
   turret_->setAccessibleName(turretName);
   FrameBase->body()->addWidget(tabs_);

@@ -6,6 +6,7 @@
 
 #include "drawings/TurretItem.h"
 #include "widgets/CardPage.h"
+#include "widgets/Control.h"
 
 namespace mortane {
 
@@ -44,7 +45,7 @@ class TurretPage : public CardPage {
  private:
   TabStrip* tabs_;
   PairPanel* panel_;
-  TurretDrawing* turret_;
+  Control<TurretDrawing> turret_{"turret"};
   ValueBox* values_;
   ListBox* stoppedList_ = nullptr;  // until the page is shown
   std::vector<int> tabStops_;

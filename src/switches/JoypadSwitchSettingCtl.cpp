@@ -30,7 +30,7 @@ JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick, std::string a
     : CardPage(u"Joypad Switch Settings"_s, parent),
       joystick_(joystick),
       applicationData_(std::move(applicationData)) {
-  Frame1 = FrameBase;
+  Frame1 = static_cast<Card*>(FrameBase);
   textSwFunc = ShownField("Function", FrameBase);
   whyEmpty = CaptionLabel(
       u"The joypad has more than 21 buttons. Their functions cannot be set here."_s, FrameBase);

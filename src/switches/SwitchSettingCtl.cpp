@@ -49,7 +49,7 @@ SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor
           KnobCheck(switches, tactor, knobs, TactorSearch::IfPresent, switches.parent.prompts()),
           parent),
       switches_(switches) {
-  Frame1 = FrameBase;
+  Frame1 = static_cast<Card*>(FrameBase);
   auto* upper = new PairPanel(FrameBase);
   MakeDrawing(BodyPlan(), upper);
   Picture4 = optBtn;

@@ -3,12 +3,11 @@
 #include <QVBoxLayout>
 
 #include "widgets/Card.h"
-#include "widgets/Named.h"
 
 namespace mortane {
 
-CardPage::CardPage(const QString& caption, QWidget* parent)
-    : Page(parent), FrameBase(Named(new Card(caption, this), "FrameBase")) {
+CardPage::CardPage(const QString& caption, QWidget* parent) : Page(parent) {
+  FrameBase = new Card(caption, this);
   auto* panel = new QVBoxLayout(this);
   panel->setContentsMargins({});
   panel->addWidget(FrameBase);

@@ -1,6 +1,7 @@
 // A page that is one card.
 #pragma once
 
+#include "widgets/Control.h"
 #include "widgets/Page.h"
 
 namespace mortane {
@@ -14,7 +15,7 @@ class CardPage : public Page {
   explicit CardPage(const QString& caption, QWidget* parent = nullptr);
 
   // The card, its caption as the first line; the page's controls go into its body.
-  Card* FrameBase;
+  Control<Card> FrameBase{"FrameBase"};
 };
 
 }  // namespace mortane

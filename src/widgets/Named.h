@@ -1,4 +1,5 @@
-// Names of controls, by which styles, tests and screen readers' scripts find them.
+// Names that controls get at run time: from a caller, a table, or with a number counted as they are
+// made. A member with one fixed name is a Control, which names what it is given.
 #pragma once
 
 #include <QObject>
