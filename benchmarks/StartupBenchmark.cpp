@@ -89,7 +89,7 @@ int RunFormChild(int argc, char** argv, const char* title) {
             Table());
   prompts.ShowProgressOn(form.Progress());
   form.Load();
-  const auto* report = form.SystemSettingsCtl1->SystemNameCtl1->TextAccessories;
+  const QPlainTextEdit* report = form.SystemSettingsCtl1->SystemNameCtl1->TextAccessories;
   EndWhenPainted watcher(form, [report] { return !report->document()->isEmpty(); });
   form.show();
   return QApplication::exec() == 0 ? 1 : 2;

@@ -11,7 +11,6 @@
 #include "app/GetAppIcon.h"
 #include "app/PendingChanges.h"
 #include "record/ItemWords.h"
-#include "widgets/Named.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -32,12 +31,11 @@ QStringList Cells(const ItemChange& change, const DifferencesDlg::Content& conte
 
 }  // namespace
 
-DifferencesDlg::DifferencesDlg(const Content& content, QWidget* parent)
-    : QDialog(parent),
-      List1(Named(new QTreeWidget(this), "List1")),
-      ButtonCopy(Named(new QPushButton(u"Copy"_s, this), "ButtonCopy")),
-      ButtonSaveRecord(Named(new QPushButton(u"Save Record..."_s, this), "ButtonSaveRecord")),
-      ButtonClose(Named(new QPushButton(u"Close"_s, this), "ButtonClose")) {
+DifferencesDlg::DifferencesDlg(const Content& content, QWidget* parent) : QDialog(parent) {
+  List1 = new QTreeWidget(this);
+  ButtonCopy = new QPushButton(u"Copy"_s, this);
+  ButtonSaveRecord = new QPushButton(u"Save Record..."_s, this);
+  ButtonClose = new QPushButton(u"Close"_s, this);
   setWindowTitle(u"Changes not sent"_s);
   setWindowIcon(GetAppIcon());
   List1->setAccessibleName(windowTitle());
@@ -49,13 +47,17 @@ DifferencesDlg::DifferencesDlg(const Content& content, QWidget* parent)
   List1->setUniformRowHeights(true);
   Fill(content);
   Arrange();
-  for (QPushButton* button : {ButtonCopy, ButtonSaveRecord, ButtonClose}) {
+  for (QPushButton* button : Buttons()) {
     button->setAutoDefault(false);  // Enter goes to the row
   }
   connect(List1, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* row) { GoTo(*row); });
   connect(ButtonCopy, &QPushButton::clicked, this, [this] { Copy(); });
   connect(ButtonSaveRecord, &QPushButton::clicked, this, content.saveRecord);
   connect(ButtonClose, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+std::array<QPushButton*, 3> DifferencesDlg::Buttons() const {
+  return {ButtonCopy, ButtonSaveRecord, ButtonClose};
 }
 
 void DifferencesDlg::Fill(const Content& content) {
@@ -92,7 +94,7 @@ void DifferencesDlg::Arrange() {
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(grid::kBetweenControls);
   buttons->addStretch();
-  for (QPushButton* button : {ButtonCopy, ButtonSaveRecord, ButtonClose}) {
+  for (QPushButton* button : Buttons()) {
     button->setMinimumWidth(kButtonWidth);
     buttons->addWidget(button);
   }

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <QDialog>
+#include <array>
 #include <functional>
 #include <optional>
 #include <vector>
 
 #include "record/Comparison.h"
+#include "widgets/Control.h"
 
 class QPushButton;
 class QTreeWidget;
@@ -31,12 +33,13 @@ class DifferencesDlg : public QDialog {
   // The page of the row that was gone to.
   [[nodiscard]] std::optional<std::size_t> ChosenPage() const { return chosen_; }
 
-  QTreeWidget* List1;
-  QPushButton* ButtonCopy;
-  QPushButton* ButtonSaveRecord;
-  QPushButton* ButtonClose;
+  Control<QTreeWidget> List1{"List1"};
+  Control<QPushButton> ButtonCopy{"ButtonCopy"};
+  Control<QPushButton> ButtonSaveRecord{"ButtonSaveRecord"};
+  Control<QPushButton> ButtonClose{"ButtonClose"};
 
  private:
+  [[nodiscard]] std::array<QPushButton*, 3> Buttons() const;  // from left to right
   void Fill(const Content& content);
   void Arrange();
   void Copy();

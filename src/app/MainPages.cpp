@@ -12,7 +12,6 @@
 #include "hub/clsK70.h"
 #include "interlocks/InterlockSettingsCtl.h"
 #include "objectives/ObjectiveSettingsCtl.h"
-#include "widgets/Named.h"
 
 namespace mortane {
 
@@ -52,10 +51,8 @@ PageTable MainPages() {
        u"Nothing is mounted that follows another accessory or is compensated."_s},
       {u"Controls"_s, IconName::Control,
        [](MortaneMainForm& form, const FormServices& services) -> Page* {
-         return form.ControlSettingsCtl1 =
-                    Named(new ControlSettingsCtl(services, MakeControlSubPages(services),
-                                                 form.FrameControl),
-                          "ControlSettingsCtl1");
+         return form.ControlSettingsCtl1 = new ControlSettingsCtl(
+                    services, MakeControlSubPages(services), form.FrameControl);
        },
        [](const clsK70& k70) {
          return k70.CZDrive.IsEnable() || k70.CXYDrive.IsEnable() || k70.COther.IsEnable();

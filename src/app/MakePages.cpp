@@ -16,7 +16,6 @@
 #include "objectives/ObjectiveSettingsCtl.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
-#include "widgets/Named.h"
 
 namespace mortane {
 namespace {
@@ -35,28 +34,25 @@ DriveFollowers FollowersOf(clsK70& k70) {
 }  // namespace
 
 SystemSettingsCtl* MakeSystemSettings(clsK70& k70, QWidget* parent) {
-  return Named(new SystemSettingsCtl(k70, parent), "SystemSettingsCtl1");
+  return new SystemSettingsCtl(k70, parent);
 }
 
 ObjectiveSettingsCtl* MakeObjectiveSettings(clsK70& k70, QWidget* parent) {
-  return Named(new ObjectiveSettingsCtl(k70.curNosepiece, k70.DbNosepiece, k70.curLimit, parent),
-               "ObjectiveSettingsCtl1");
+  return new ObjectiveSettingsCtl(k70.curNosepiece, k70.DbNosepiece, k70.curLimit, parent);
 }
 
 FilterQubeSettingsCtl* MakeFilterQubeSettings(clsK70& k70, QWidget* parent) {
   const FilterItemLists items{k70.Exciter, k70.Dichroic, k70.Barrier};
-  return Named(new FilterQubeSettingsCtl(k70.curFilter, k70.dbFilter, items, parent),
-               "FilterQubeSettingsCtl1");
+  return new FilterQubeSettingsCtl(k70.curFilter, k70.dbFilter, items, parent);
 }
 
 CondenserSettingsCtl* MakeCondenserSettings(clsK70& k70, QWidget* parent) {
-  return Named(new CondenserSettingsCtl(k70.curCondenser, k70.dbcon, parent),
-               "CondenserSettingsCtl1");
+  return new CondenserSettingsCtl(k70.curCondenser, k70.dbcon, parent);
 }
 
 InterlockSettingsCtl* MakeInterlockSettings(clsK70& k70, QWidget* parent) {
   const InterlockSettingsCtl::Units units{k70.ILObservation, k70.ILOther, k70.ILOffset};
-  return Named(new InterlockSettingsCtl(units, FollowersOf(k70), parent), "InterlockSettingsCtl1");
+  return new InterlockSettingsCtl(units, FollowersOf(k70), parent);
 }
 
 ControlFocusDriveCtl* MakeFocusDrive(clsK70& k70) {

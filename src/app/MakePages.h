@@ -18,7 +18,7 @@ class SystemSettingsCtl;
 class TactorSwitchSettingCtl;
 class clsK70;
 
-// The parent owns the page. Named after their kind: "ObjectiveSettingsCtl1".
+// The parent owns the page.
 SystemSettingsCtl* MakeSystemSettings(clsK70& k70, QWidget* parent);
 ObjectiveSettingsCtl* MakeObjectiveSettings(clsK70& k70, QWidget* parent);
 FilterQubeSettingsCtl* MakeFilterQubeSettings(clsK70& k70, QWidget* parent);

@@ -6,6 +6,7 @@
 #include "app/PageTable.h"
 #include "app/ProgramForm.h"
 #include "app/SessionNote.h"
+#include "widgets/Control.h"
 
 class QAction;
 class QFrame;
@@ -36,29 +37,29 @@ class MortaneMainForm : public ProgramForm {
   // A step that fails is shown and ends the loading; the window can be shown all the same.
   void Load() override;
 
-  QMenu* MenuFile;
-  QAction* MenuFileOpen;
-  QAction* MenuFileSave;
-  QAction* MenuSeparator;
-  QAction* FileMenuExit;
-  QMenu* MenuConnect;
-  QAction* MenuConnectSelect;
-  QAction* MenuConnectReceive;
-  QAction* MenuConnectSend;
-  QToolBar* Toolbar1;
-  QWidget* Picture2;
-  std::array<CommandKey*, 4> ImageCommand;
-  Rail* PictureMenu;
-  std::array<PageButton*, kPageCount> ImageButton;
-  QFrame* FrameOptionButton;
-  std::array<QRadioButton*, kPageCount> optMenu;
-  QFrame* FrameControl;
-  SystemSettingsCtl* SystemSettingsCtl1 = nullptr;
-  ObjectiveSettingsCtl* ObjectiveSettingsCtl1 = nullptr;
-  FilterQubeSettingsCtl* FilterQubeSettingsCtl1 = nullptr;
-  CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
-  InterlockSettingsCtl* InterlockSettingsCtl1 = nullptr;
-  ControlSettingsCtl* ControlSettingsCtl1 = nullptr;
+  Control<QMenu> MenuFile{"MenuFile"};
+  Control<QAction> MenuFileOpen{"MenuFileOpen"};
+  Control<QAction> MenuFileSave{"MenuFileSave"};
+  Control<QAction> MenuSeparator{"MenuSeparator"};
+  Control<QAction> FileMenuExit{"FileMenuExit"};
+  Control<QMenu> MenuConnect{"MenuConnect"};
+  Control<QAction> MenuConnectSelect{"MenuConnectSelect"};
+  Control<QAction> MenuConnectReceive{"MenuConnectReceive"};
+  Control<QAction> MenuConnectSend{"MenuConnectSend"};
+  Control<QToolBar> Toolbar1{"Toolbar1"};
+  Control<QWidget> Picture2{"Picture2"};
+  Controls<CommandKey, 4> ImageCommand{"ImageCommand"};
+  Control<Rail> PictureMenu{"PictureMenu"};
+  std::array<PageButton*, kPageCount> ImageButton;  // of the rail, which names them
+  Control<QFrame> FrameOptionButton{"FrameOptionButton"};
+  Controls<QRadioButton, kPageCount> optMenu{"optMenu"};
+  Control<QFrame> FrameControl{"FrameControl"};
+  Control<SystemSettingsCtl> SystemSettingsCtl1{"SystemSettingsCtl1"};
+  Control<ObjectiveSettingsCtl> ObjectiveSettingsCtl1{"ObjectiveSettingsCtl1"};
+  Control<FilterQubeSettingsCtl> FilterQubeSettingsCtl1{"FilterQubeSettingsCtl1"};
+  Control<CondenserSettingsCtl> CondenserSettingsCtl1{"CondenserSettingsCtl1"};
+  Control<InterlockSettingsCtl> InterlockSettingsCtl1{"InterlockSettingsCtl1"};
+  Control<ControlSettingsCtl> ControlSettingsCtl1{"ControlSettingsCtl1"};
 
  protected:
   // One step of Load; `step` counts from 0 to 6.
@@ -73,7 +74,7 @@ class MortaneMainForm : public ProgramForm {
  private:
   using Command = void (MortaneMainForm::*)();
 
-  QAction* AddMenuItem(QMenu& menu, const char* name, const QString& text, Command command);
+  QAction* AddMenuItem(QMenu& menu, const QString& text, Command command);
   void BuildMenus();
   void BuildToolbar();
   void BuildRail();
@@ -111,8 +112,8 @@ class MortaneMainForm : public ProgramForm {
 
   PageTable table_;
   std::array<Page*, kPageCount> pages_{};
-  SessionNote* note_ = nullptr;
-  PageArea* area_ = nullptr;
+  Control<SessionNote> note_{"SessionNote"};
+  Control<PageArea> area_{"ScrollControl"};
 };
 
 }  // namespace mortane

@@ -13,7 +13,6 @@
 #include "app/MortaneMainForm.h"
 #include "app/PageArea.h"
 #include "widgets/CommandKey.h"
-#include "widgets/Named.h"
 #include "widgets/Page.h"
 #include "widgets/PageButton.h"
 #include "widgets/Rail.h"
@@ -49,36 +48,27 @@ MortaneMainForm::MortaneMainForm(const FormServices& services, const PageTable& 
   ImageButton[0]->setFocus();
 }
 
-QAction* MortaneMainForm::AddMenuItem(QMenu& menu, const char* name, const QString& text,
-                                      Command command) {
+QAction* MortaneMainForm::AddMenuItem(QMenu& menu, const QString& text, Command command) {
   QAction* item = menu.addAction(text);
-  item->setObjectName(QLatin1String(name));
   connect(item, &QAction::triggered, this, [this, command] { Run(command); });
   return item;
 }
 
 void MortaneMainForm::BuildMenus() {
   MenuFile = menuBar()->addMenu(u"File(&F)"_s);
-  MenuFile->setObjectName("MenuFile");
-  MenuFileOpen = AddMenuItem(*MenuFile, "MenuFileOpen", u"Open(&O)"_s, &MortaneMainForm::DoOpen);
-  MenuFileSave = AddMenuItem(*MenuFile, "MenuFileSave", u"Save(&S)"_s, &MortaneMainForm::DoSave);
+  MenuFileOpen = AddMenuItem(*MenuFile, u"Open(&O)"_s, &MortaneMainForm::DoOpen);
+  MenuFileSave = AddMenuItem(*MenuFile, u"Save(&S)"_s, &MortaneMainForm::DoSave);
   MenuSeparator = MenuFile->addSeparator();
-  MenuSeparator->setObjectName("MenuSeparator");
-  FileMenuExit = AddMenuItem(*MenuFile, "FileMenuExit", u"Exit(&X)"_s, &MortaneMainForm::DoExit);
+  FileMenuExit = AddMenuItem(*MenuFile, u"Exit(&X)"_s, &MortaneMainForm::DoExit);
 
   MenuConnect = menuBar()->addMenu(u"Connect(&C)"_s);
-  MenuConnect->setObjectName("MenuConnect");
-  MenuConnectSelect =
-      AddMenuItem(*MenuConnect, "MenuConnectSelect", u"Select(&L)"_s, &MortaneMainForm::DoSelect);
-  MenuConnectReceive = AddMenuItem(*MenuConnect, "MenuConnectReceive", u"Receive(&R)"_s,
-                                   &MortaneMainForm::DoReceive);
-  MenuConnectSend =
-      AddMenuItem(*MenuConnect, "MenuConnectSend", u"Send(&N)"_s, &MortaneMainForm::DoSend);
+  MenuConnectSelect = AddMenuItem(*MenuConnect, u"Select(&L)"_s, &MortaneMainForm::DoSelect);
+  MenuConnectReceive = AddMenuItem(*MenuConnect, u"Receive(&R)"_s, &MortaneMainForm::DoReceive);
+  MenuConnectSend = AddMenuItem(*MenuConnect, u"Send(&N)"_s, &MortaneMainForm::DoSend);
 }
 
 void MortaneMainForm::BuildToolbar() {
   Toolbar1 = addToolBar(u"Toolbar1"_s);
-  Toolbar1->setObjectName("Toolbar1");
   Toolbar1->setAccessibleName(u"Commands"_s);
   Toolbar1->setMovable(false);
   Toolbar1->setIconSize({kToolbarIcon, kToolbarIcon});
@@ -92,7 +82,7 @@ void MortaneMainForm::BuildToolbar() {
   connect(Toolbar1, &QToolBar::actionTriggered, this, [this](QAction* button) {
     OnToolbarButton(static_cast<int>(Toolbar1->actions().indexOf(button)) + 1);
   });
-  note_ = Named(new SessionNote(*Toolbar1), "SessionNote");
+  note_ = new SessionNote(*Toolbar1);
   connect(note_->OpenKept, &QAction::triggered, this,
           [this] { Run(&MortaneMainForm::DoOpenKept); });
   connect(note_->LetKeptGo, &QAction::triggered, this,
@@ -103,12 +93,10 @@ void MortaneMainForm::BuildToolbar() {
 
 void MortaneMainForm::BuildRail() {
   PictureMenu = new Rail(this);
-  PictureMenu->setObjectName("PictureMenu");
   FrameOptionButton = new QFrame(this);
-  FrameOptionButton->setObjectName("FrameOptionButton");
   FrameOptionButton->hide();
   for (std::size_t i = 0; i < table_.size(); ++i) {
-    optMenu[i] = Named(new QRadioButton(FrameOptionButton), "optMenu", static_cast<int>(i));
+    optMenu.Set(i, new QRadioButton(FrameOptionButton));
     ImageButton[i] = PictureMenu->button(PictureMenu->AddPage(table_[i].icon, table_[i].title));
     EnablePage(i, i == 0, u"No microscope is connected."_s);
     connect(optMenu[i], &QRadioButton::toggled, this, [this, i](bool checked) {
@@ -126,13 +114,12 @@ void MortaneMainForm::BuildCommandBar() {
       {"Send", IconName::Send, &MortaneMainForm::DoSend},
       {"Exit", IconName::Exit, &MortaneMainForm::DoExit},
   }};
-  auto* bar = Named(new CommandBar(this), "Picture2");
+  auto* bar = new CommandBar(this);
   Picture2 = bar;
   for (std::size_t i = 0; i < kCommands.size(); ++i) {
     const CommandRow& row = kCommands[i];
     if (i == 2) bar->row().addStretch();
-    ImageCommand[i] = Named(new CommandKey(row.icon, QLatin1String(row.text), Picture2),
-                            "ImageCommand", static_cast<int>(i));
+    ImageCommand.Set(i, new CommandKey(row.icon, QLatin1String(row.text), Picture2));
     connect(ImageCommand[i], &CommandKey::commanded, this, [this, &row] { Run(row.run); });
     bar->row().addWidget(ImageCommand[i]);
   }

@@ -4,14 +4,11 @@
 #include <QGridLayout>
 #include <QScrollBar>
 
-#include "widgets/Named.h"
 #include "widgets/Page.h"
 
 namespace mortane {
 
-PageArea::PageArea(QWidget* parent)
-    : QScrollArea(parent), frame_(Named(new QFrame(this), "FrameControl")) {
-  setObjectName("ScrollControl");
+PageArea::PageArea(QWidget* parent) : QScrollArea(parent), frame_(new QFrame(this)) {
   setFrameShape(NoFrame);
   setWidgetResizable(true);
   setFocusPolicy(Qt::NoFocus);

@@ -16,7 +16,7 @@ class PageArea : public QScrollArea {
  public:
   explicit PageArea(QWidget* parent);
 
-  // FrameControl, the parent of the pages.
+  // The parent of the pages.
   QFrame* frame() const { return frame_; }
   // Hides the page and takes it in.
   void Add(Page* page);

@@ -40,8 +40,7 @@ bool IsSameAs(const Backup& backup, const DomDocument& document) {
 }  // namespace
 
 ProgramForm::ProgramForm(const FormServices& services, const QString& title)
-    : StatusBar1(statusBar()),
-      CommonDialog1(SettingsFileQuestion()),
+    : CommonDialog1(SettingsFileQuestion()),
       services_(services),
       place_(services.placeFile),
       pending_(services.k70),
@@ -60,11 +59,10 @@ ProgramForm::ProgramForm(const FormServices& services, const QString& title)
 
 // Panels 1 to 4 stay empty and take no room.
 void ProgramForm::BuildStatusBar() {
-  StatusBar1->setObjectName("StatusBar1");
+  StatusBar1 = statusBar();
   StatusBar1->setSizeGripEnabled(false);
   StatusBar1->setContentsMargins(0, 0, grid::kBetweenColumns, 0);
   versionPanel_ = new QLabel(StatusBar1);
-  versionPanel_->setObjectName("StatusBar1_5");
   versionPanel_->setFont(CaptionFont());
   versionPanel_->setForegroundRole(QPalette::PlaceholderText);
   StatusBar1->addPermanentWidget(versionPanel_);

@@ -13,6 +13,7 @@
 #include "app/UnsentEdits.h"
 #include "app/WindowPlace.h"
 #include "common/Prompts.h"
+#include "widgets/Control.h"
 
 class QLabel;
 class QStatusBar;
@@ -40,7 +41,7 @@ class ProgramForm : public QMainWindow {
   // Whether the start path has come to its end.
   bool IsStarted() const { return startEnded_; }
 
-  QStatusBar* StatusBar1;
+  Control<QStatusBar> StatusBar1{"StatusBar1"};
   FileQuestion CommonDialog1;
 
   // The line that shows how far a transfer is.
@@ -93,7 +94,7 @@ class ProgramForm : public QMainWindow {
 
   FormServices services_;
   WindowPlace place_;
-  QLabel* versionPanel_ = nullptr;
+  Control<QLabel> versionPanel_{"StatusBar1_5"};
   ProgressLine* progress_ = nullptr;
   PendingChanges pending_;
   QTimer pendingTimer_;  // looks once, however much input came at one go

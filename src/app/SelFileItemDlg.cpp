@@ -22,19 +22,14 @@ constexpr std::int16_t kNotWanted = 0;
 }  // namespace
 
 SelFileItemDlg::SelFileItemDlg(clsK70& k70, QWidget* parent, const std::string& whyEmpty)
-    : QDialog(parent),
-      List1(new ListBox(this)),
-      Datalist(new ListBox(this)),
-      OkButton(new QPushButton(u"&OK"_s, this)),
-      CancelButton(new QPushButton(u"&Cancel"_s, this)),
-      k70_(k70) {
+    : QDialog(parent), k70_(k70) {
+  List1 = new ListBox(this);
+  Datalist = new ListBox(this);
+  OkButton = new QPushButton(u"&OK"_s, this);
+  CancelButton = new QPushButton(u"&Cancel"_s, this);
   setWindowTitle(u"Select File Items"_s);
-  List1->setObjectName("List1");
   List1->setAccessibleName(windowTitle());
-  Datalist->setObjectName("Datalist");
   Datalist->hide();
-  OkButton->setObjectName("OkButton");
-  CancelButton->setObjectName("CancelButton");
   for (const FileSection& section : kFileSections) {
     Datalist->addRow(ToQString(section.label));
   }

@@ -4,6 +4,8 @@
 #include <QDialog>
 #include <string>
 
+#include "widgets/Control.h"
+
 class QPushButton;
 
 namespace mortane {
@@ -20,10 +22,10 @@ class SelFileItemDlg : public QDialog {
   // Cancel, the close box and Escape: no section is wanted.
   void reject() override;
 
-  ListBox* List1;
-  ListBox* Datalist;  // hidden, the labels in the order of the file items
-  QPushButton* OkButton;
-  QPushButton* CancelButton;
+  Control<ListBox> List1{"List1"};
+  Control<ListBox> Datalist{"Datalist"};  // hidden, the labels in the order of the file items
+  Control<QPushButton> OkButton{"OkButton"};
+  Control<QPushButton> CancelButton{"CancelButton"};
 
  private:
   void LoadList();

@@ -23,26 +23,20 @@ constexpr char kNotAvailable[] = "Not Available";
 
 SelScopeDlg::SelScopeDlg(clsK70& k70, Prompts& prompts, Availability isDeviceAvailable,
                          QWidget* parent)
-    : QDialog(parent),
-      Label1(new QLabel(u"Please Click Microscope Name on the List."_s, this)),
-      List1(new ListBox(this)),
-      OkButton(new QPushButton(u"&OK"_s, this)),
-      CancelButton(new QPushButton(u"&Cancel"_s, this)),
-      prompts_(prompts),
-      isDeviceAvailable_(std::move(isDeviceAvailable)) {
+    : QDialog(parent), prompts_(prompts), isDeviceAvailable_(std::move(isDeviceAvailable)) {
+  Label1 = new QLabel(u"Please Click Microscope Name on the List."_s, this);
+  List1 = new ListBox(this);
+  OkButton = new QPushButton(u"&OK"_s, this);
+  CancelButton = new QPushButton(u"&Cancel"_s, this);
   setWindowTitle(u"Select Microscope Dialog"_s);
-  Label1->setObjectName("Label1");
   Label1->setBuddy(List1);
-  List1->setObjectName("List1");
   List1->SetIconRows(true);
-  OkButton->setObjectName("OkButton");
-  CancelButton->setObjectName("CancelButton");
   ArrangeDialog(*this, Label1, *List1, *OkButton, *CancelButton);
   connect(OkButton, &QPushButton::clicked, this, [this] { OnOk(); });
   LoadList(k70);
 }
 
-// A list with the simulator alone still gets the line of device 1, which is not available.
+// Kept: a list with the simulator alone gets the line of device 1, which is not available.
 void SelScopeDlg::LoadList(clsK70& k70) {
   const std::int32_t count = k70.DeviceCount();
   const std::int32_t last = count == 1 ? 1 : count - 1;

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <functional>
 
+#include "widgets/Control.h"
+
 class QLabel;
 class QPushButton;
 
@@ -25,10 +27,10 @@ class SelScopeDlg : public QDialog {
   // Index of the chosen device; -1 until OK is pressed on a usable one.
   std::int16_t Selected = -1;
 
-  QLabel* Label1;
-  ListBox* List1;
-  QPushButton* OkButton;
-  QPushButton* CancelButton;
+  Control<QLabel> Label1{"Label1"};
+  Control<ListBox> List1{"List1"};
+  Control<QPushButton> OkButton{"OkButton"};
+  Control<QPushButton> CancelButton{"CancelButton"};
 
  private:
   void LoadList(clsK70& k70);

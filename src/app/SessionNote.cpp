@@ -6,9 +6,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
-#include <array>
 
-#include "widgets/Named.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -52,12 +50,10 @@ QString ChangesNotSent(int count) {
   return count == 1 ? u"1 change not sent"_s : u"%1 changes not sent"_s.arg(count);
 }
 
-SessionNote::SessionNote(QToolBar& bar)
-    : ValueLabel(&bar),
-      ButtonPending(Named(new QToolButton(&bar), "ButtonPending")),
-      ButtonKept(Named(new QToolButton(&bar), "ButtonKept")),
-      bar_(bar) {
-  for (QToolButton* button : {ButtonPending, ButtonKept}) {
+SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
+  ButtonPending = new QToolButton(&bar);
+  ButtonKept = new QToolButton(&bar);
+  for (QToolButton* button : Buttons()) {
     button->setFont(CaptionFont());
     button->setAutoRaise(true);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -65,14 +61,18 @@ SessionNote::SessionNote(QToolBar& bar)
     button->hide();
   }
   auto* menu = new QMenu(ButtonKept);
-  OpenKept = Named(menu->addAction(u"Open"_s), "OpenKept");
-  LetKeptGo = Named(menu->addAction(u"Let Go"_s), "LetKeptGo");
+  OpenKept = menu->addAction(u"Open"_s);
+  LetKeptGo = menu->addAction(u"Let Go"_s);
   ButtonKept->setMenu(menu);
   ButtonKept->setPopupMode(QToolButton::InstantPopup);
   setAccessibleName(u"Session"_s);
   setFont(CaptionFont());
   setForegroundRole(QPalette::PlaceholderText);
   bar_.installEventFilter(this);
+}
+
+std::array<QToolButton*, 2> SessionNote::Buttons() const {
+  return {ButtonPending, ButtonKept};
 }
 
 void SessionNote::ShowMicroscope(const QString& name, bool isSimulation) {
@@ -132,7 +132,7 @@ void SessionNote::Place() {
   const QWidget* last = bar_.widgetForAction(bar_.actions().constLast());
   const int left = last->geometry().right() + grid::kBetweenColumns;
   int right = bar_.width() - grid::kPageMargin;
-  for (QToolButton* button : {ButtonPending, ButtonKept}) {
+  for (QToolButton* button : Buttons()) {
     if (button->isHidden()) continue;
     const QSize size = button->sizeHint();
     button->setGeometry(right - size.width(), (bar_.height() - size.height()) / 2, size.width(),

@@ -2,7 +2,10 @@
 // how much is not sent.
 #pragma once
 
+#include <array>
+
 #include "app/Outcome.h"
+#include "widgets/Control.h"
 #include "widgets/ValueLabel.h"
 
 class QAction;
@@ -28,20 +31,21 @@ class SessionNote : public ValueLabel {
   void ShowPending(int changes);
 
   // "3 changes not sent"; hidden while there are none.
-  QToolButton* ButtonPending;
+  Control<QToolButton> ButtonPending{"ButtonPending"};
 
   // "Unsent changes of 21 Nov 14:02 were kept", with a menu to open them or let them go; hidden for
   // an empty time.
   void ShowKept(const QString& time);
 
-  QToolButton* ButtonKept;
-  QAction* OpenKept;
-  QAction* LetKeptGo;
+  Control<QToolButton> ButtonKept{"ButtonKept"};
+  Control<QAction> OpenKept{"OpenKept"};
+  Control<QAction> LetKeptGo{"LetKeptGo"};
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  [[nodiscard]] std::array<QToolButton*, 2> Buttons() const;  // from right to left
   void ShowText();
   void Place();
 

@@ -12,7 +12,6 @@
 #include "hub/AccessoryTable.h"
 #include "hub/clsK70.h"
 #include "widgets/Card.h"
-#include "widgets/Named.h"
 #include "widgets/QtText.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
@@ -45,15 +44,8 @@ QFont ReportFont() {
 }  // namespace
 
 SystemNameCtl::SystemNameCtl(clsK70& k70, QWidget* parent)
-    : Page(parent),
-      FrameBase(Named(new QFrame(this), "FrameBase")),
-      Frame1(nullptr),
-      Label1(nullptr),
-      TextSystemName(nullptr),
-      TextAccessories(nullptr),
-      k70_(k70),
-      drawing_(nullptr),
-      drawingFrame_(nullptr) {
+    : Page(parent), k70_(k70), drawing_(nullptr), drawingFrame_(nullptr) {
+  FrameBase = new QFrame(this);
   auto* panel = new QVBoxLayout(this);
   panel->setContentsMargins({});
   panel->addWidget(FrameBase);
@@ -67,10 +59,10 @@ SystemNameCtl::SystemNameCtl(clsK70& k70, QWidget* parent)
 }
 
 QWidget* SystemNameCtl::BuildNameCard() {
-  auto* card = Named(new Card({}, FrameBase), "Frame1");
+  auto* card = new Card({}, FrameBase);
   Frame1 = card;
-  Label1 = Named(new QLabel(u"System Name:"_s, Frame1), "Label1");
-  TextSystemName = Named(new TextField(Frame1), "TextSystemName");
+  Label1 = new QLabel(u"System Name:"_s, Frame1);
+  TextSystemName = new TextField(Frame1);
   TextSystemName->SetLimit(kNameLength);
   TextSystemName->SetWidthFor(kNameWidthCharacters);
   Label1->setBuddy(TextSystemName);
@@ -86,7 +78,7 @@ QWidget* SystemNameCtl::BuildNameCard() {
 
 QWidget* SystemNameCtl::BuildReportCard() {
   auto* card = new Card({}, FrameBase);
-  TextAccessories = Named(new QPlainTextEdit(card), "TextAccessories");
+  TextAccessories = new QPlainTextEdit(card);
   TextAccessories->setAccessibleName(u"Accessories"_s);
   TextAccessories->setReadOnly(true);
   TextAccessories->setTabChangesFocus(true);

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "widgets/Control.h"
 #include "widgets/Page.h"
 
 class QFrame;
@@ -25,11 +26,11 @@ class SystemNameCtl : public Page {
   void LoadData() override;
   void SaveData() override;
 
-  QFrame* FrameBase;
-  QFrame* Frame1;
-  QLabel* Label1;
-  TextField* TextSystemName;
-  QPlainTextEdit* TextAccessories;
+  Control<QFrame> FrameBase{"FrameBase"};
+  Control<QFrame> Frame1{"Frame1"};
+  Control<QLabel> Label1{"Label1"};
+  Control<TextField> TextSystemName{"TextSystemName"};
+  Control<QPlainTextEdit> TextAccessories{"TextAccessories"};
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

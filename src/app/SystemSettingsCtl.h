@@ -1,6 +1,7 @@
 // The system page: the name panel under a header.
 #pragma once
 
+#include "widgets/Control.h"
 #include "widgets/Page.h"
 
 namespace mortane {
@@ -16,8 +17,8 @@ class SystemSettingsCtl : public Page {
   void LoadData() override;
   void SaveData() override;
 
-  PageHeader* Header;
-  SystemNameCtl* SystemNameCtl1;
+  Control<PageHeader> Header{"Header"};
+  Control<SystemNameCtl> SystemNameCtl1{"SystemNameCtl1"};
 };
 
 }  // namespace mortane

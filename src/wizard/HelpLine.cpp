@@ -7,7 +7,6 @@
 #include <QPainter>
 
 #include "widgets/Icons.h"
-#include "widgets/Named.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -20,8 +19,8 @@ constexpr int kLeastLines = 2;
 
 }  // namespace
 
-HelpLine::HelpLine(QWidget* parent)
-    : QWidget(parent), LabelHelp(Named(new QLabel(this), "LabelHelp")) {
+HelpLine::HelpLine(QWidget* parent) : QWidget(parent) {
+  LabelHelp = new QLabel(this);
   LabelHelp->setTextFormat(Qt::PlainText);
   LabelHelp->setWordWrap(true);
   auto* row = new QHBoxLayout(this);

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "widgets/Control.h"
+
 class QAccessibleEvent;
 class QLabel;
 
@@ -22,7 +24,7 @@ class HelpLine : public QWidget {
   // A new text is announced to screen readers.
   void Show(const QString& text);
 
-  QLabel* LabelHelp;
+  Control<QLabel> LabelHelp{"LabelHelp"};
 
  protected:
   virtual void Announce(QAccessibleEvent& changed);

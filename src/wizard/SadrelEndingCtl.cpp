@@ -10,7 +10,6 @@
 #include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
-#include "widgets/Named.h"
 #include "widgets/PageHeader.h"
 #include "widgets/Theme.h"
 
@@ -24,13 +23,11 @@ constexpr std::int16_t kSent = -1;
 
 }  // namespace
 
-SadrelEndingCtl::SadrelEndingCtl(clsK70& k70, QWidget* parent)
-    : Page(parent),
-      Header(Named(new PageHeader(IconName::Flag, u"Ending"_s, this), "Header")),
-      FrameBase(Named(new Card(u"Ending"_s, this), "FrameBase")),
-      TextResult(Named(new QPlainTextEdit(FrameBase), "TextResult")),
-      ButtonSend(Named(new QPushButton(u"Send to Microscope"_s, FrameBase), "ButtonSend")),
-      k70_(k70) {
+SadrelEndingCtl::SadrelEndingCtl(clsK70& k70, QWidget* parent) : Page(parent), k70_(k70) {
+  Header = new PageHeader(IconName::Flag, u"Ending"_s, this);
+  FrameBase = new Card(u"Ending"_s, this);
+  TextResult = new QPlainTextEdit(FrameBase);
+  ButtonSend = new QPushButton(u"Send to Microscope"_s, FrameBase);
   TextResult->setAccessibleName(u"Changes"_s);
   TextResult->setReadOnly(true);
   TextResult->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

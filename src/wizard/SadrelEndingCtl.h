@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 
+#include "widgets/Control.h"
 #include "widgets/Page.h"
 
 class QPlainTextEdit;
@@ -38,10 +39,10 @@ class SadrelEndingCtl : public Page {
   // -1 when the changes of the report have been sent.
   std::int16_t sent = 0;
 
-  PageHeader* Header;
-  Card* FrameBase;
-  QPlainTextEdit* TextResult;
-  QPushButton* ButtonSend;
+  Control<PageHeader> Header{"Header"};
+  Control<Card> FrameBase{"FrameBase"};
+  Control<QPlainTextEdit> TextResult{"TextResult"};
+  Control<QPushButton> ButtonSend{"ButtonSend"};
 
  Q_SIGNALS:
   // The sending is done.

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "app/ProgramForm.h"
+#include "widgets/Control.h"
 #include "wizard/StepTable.h"
 
 class QFrame;
@@ -47,27 +48,28 @@ class SadrelMainForm : public ProgramForm {
   Page* currentPage = nullptr;
   int menuIndex = -1;  // of the highlighted picture
 
-  StepRail* PictureMenu;
-  std::array<StepButton*, kStepCount> ImageMenu;
-  QFrame* FrameOptionButton;
-  std::array<QRadioButton*, kStepCount> optMenu;
-  QLabel* LabelHelp;
-  QFrame* FrameControl;
-  QPushButton* ButtonCancel;
-  QPushButton* ButtonPrevious;
-  QPushButton* ButtonNext;
-  QPushButton* ButtonFinish;
-  SystemSettingsCtl* SystemSettingsCtl1 = nullptr;
-  SelSetupItemCtl* SelSetupItemCtl1 = nullptr;
-  ObjectiveSettingsCtl* ObjectiveSettingsCtl1 = nullptr;
-  FilterQubeSettingsCtl* FilterQubeSettingsCtl1 = nullptr;
-  CondenserSettingsCtl* CondenserSettingsCtl1 = nullptr;
-  SadrelControlOtherCtl* SadrelControlOtherCtl1 = nullptr;
-  InterlockSettingsCtl* InterlockSettingsCtl1 = nullptr;
-  SadrelControlFocusDriveCtl* SadrelControlFocusDriveCtl1 = nullptr;
-  SadrelControlTactorSwitch* SadrelControlTactorSwitch1 = nullptr;
-  SadrelControlXYStageCtl* SadrelControlXYStageCtl1;  // no step shows it
-  SadrelEndingCtl* SadrelEndingCtl1 = nullptr;
+  Control<StepRail> PictureMenu{"PictureMenu"};
+  std::array<StepButton*, kStepCount> ImageMenu;  // of the rail, which names them
+  Control<QFrame> FrameOptionButton{"FrameOptionButton"};
+  Controls<QRadioButton, kStepCount> optMenu{"optMenu"};
+  QLabel* LabelHelp;  // of the help line
+  Control<QFrame> FrameControl{"FrameControl"};
+  Control<QPushButton> ButtonCancel{"ButtonCancel"};
+  Control<QPushButton> ButtonPrevious{"ButtonPrevious"};
+  Control<QPushButton> ButtonNext{"ButtonNext"};
+  Control<QPushButton> ButtonFinish{"ButtonFinish"};
+  Control<SystemSettingsCtl> SystemSettingsCtl1{"SystemSettingsCtl1"};
+  Control<SelSetupItemCtl> SelSetupItemCtl1{"SelSetupItemCtl1"};
+  Control<ObjectiveSettingsCtl> ObjectiveSettingsCtl1{"ObjectiveSettingsCtl1"};
+  Control<FilterQubeSettingsCtl> FilterQubeSettingsCtl1{"FilterQubeSettingsCtl1"};
+  Control<CondenserSettingsCtl> CondenserSettingsCtl1{"CondenserSettingsCtl1"};
+  Control<SadrelControlOtherCtl> SadrelControlOtherCtl1{"SadrelControlOtherCtl1"};
+  Control<InterlockSettingsCtl> InterlockSettingsCtl1{"InterlockSettingsCtl1"};
+  Control<SadrelControlFocusDriveCtl> SadrelControlFocusDriveCtl1{"SadrelControlFocusDriveCtl1"};
+  Control<SadrelControlTactorSwitch> SadrelControlTactorSwitch1{"SadrelControlTactorSwitch1"};
+  // Kept: no step shows it.
+  Control<SadrelControlXYStageCtl> SadrelControlXYStageCtl1{"SadrelControlXYStageCtl1"};
+  Control<SadrelEndingCtl> SadrelEndingCtl1{"SadrelEndingCtl1"};
 
   // What the pages' events bring about; connected where the pages are made.
   void OnItemChanged(int item, bool enabled);
@@ -83,7 +85,7 @@ class SadrelMainForm : public ProgramForm {
   void BuildRail();
   void BuildPages(const FormServices& services);
   QWidget* BuildButtons();
-  QPushButton* AddButton(const char* name, const QString& text, Act act, QWidget* bar);
+  QPushButton* AddButton(const QString& text, Act act, QWidget* bar);
   void Arrange(QWidget* buttons);
 
   void EnableStep(int step, bool enabled, const QString& whyOff);
@@ -107,7 +109,7 @@ class SadrelMainForm : public ProgramForm {
   StepTable table_;
   std::array<Page*, kStepCount> pages_{};
   HelpLine* help_ = nullptr;
-  PageArea* area_ = nullptr;
+  Control<PageArea> area_{"ScrollControl"};
 };
 
 }  // namespace mortane

@@ -7,7 +7,6 @@
 #include "app/PageArea.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/ContainerPage.h"
-#include "widgets/Named.h"
 #include "widgets/Theme.h"
 #include "wizard/HelpLine.h"
 #include "wizard/SadrelMainForm.h"
@@ -39,12 +38,12 @@ SadrelMainForm::SadrelMainForm(const FormServices& services, const StepTable& st
 }
 
 void SadrelMainForm::BuildRail() {
-  PictureMenu = Named(new StepRail(this), "PictureMenu");
-  FrameOptionButton = Named(new QFrame(this), "FrameOptionButton");
+  PictureMenu = new StepRail(this);
+  FrameOptionButton = new QFrame(this);
   FrameOptionButton->hide();
   for (int i = 0; i < kStepCount; ++i) {
     const auto step = static_cast<std::size_t>(i);
-    optMenu[step] = Named(new QRadioButton(FrameOptionButton), "optMenu", i);
+    optMenu.Set(step, new QRadioButton(FrameOptionButton));
     ImageMenu[step] =
         PictureMenu->button(PictureMenu->AddStep(table_[step].icon, table_[step].name));
     connect(optMenu[step], &QRadioButton::toggled, this, [this, i](bool checked) {
@@ -69,14 +68,12 @@ void SadrelMainForm::BuildPages(const FormServices& services) {
     }
   }
   help_->SetTexts(texts);
-  SadrelControlXYStageCtl1 =
-      Named(new SadrelControlXYStageCtl(services.k70, FrameControl), "SadrelControlXYStageCtl1");
+  SadrelControlXYStageCtl1 = new SadrelControlXYStageCtl(services.k70, FrameControl);
   area_->Add(SadrelControlXYStageCtl1);
 }
 
-QPushButton* SadrelMainForm::AddButton(const char* name, const QString& text, Act act,
-                                       QWidget* bar) {
-  auto* button = Named(new QPushButton(text, bar), name);
+QPushButton* SadrelMainForm::AddButton(const QString& text, Act act, QWidget* bar) {
+  auto* button = new QPushButton(text, bar);
   button->setMinimumWidth(kButtonWidth);
   button->setAutoDefault(true);  // acts on the Enter key, too
   TakeFocusByClicks(*button);
@@ -90,12 +87,12 @@ QPushButton* SadrelMainForm::AddButton(const char* name, const QString& text, Ac
 
 QWidget* SadrelMainForm::BuildButtons() {
   auto* bar = new CommandBar(this);
-  ButtonCancel = AddButton("ButtonCancel", u"&Cancel"_s, &SadrelMainForm::DoCancel, bar);
+  ButtonCancel = AddButton(u"&Cancel"_s, &SadrelMainForm::DoCancel, bar);
   bar->row().addStretch();
-  ButtonPrevious = AddButton("ButtonPrevious", u"&Previous"_s, &SadrelMainForm::DoPrevious, bar);
-  ButtonNext = AddButton("ButtonNext", u"&Next"_s, &SadrelMainForm::DoNext, bar);
+  ButtonPrevious = AddButton(u"&Previous"_s, &SadrelMainForm::DoPrevious, bar);
+  ButtonNext = AddButton(u"&Next"_s, &SadrelMainForm::DoNext, bar);
   bar->row().addSpacing(grid::kBetweenColumns);
-  ButtonFinish = AddButton("ButtonFinish", u"&Finish"_s, &SadrelMainForm::DoFinish, bar);
+  ButtonFinish = AddButton(u"&Finish"_s, &SadrelMainForm::DoFinish, bar);
   return bar;
 }
 

@@ -10,7 +10,6 @@
 #include "hub/clsK70.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
-#include "widgets/Named.h"
 #include "widgets/PageHeader.h"
 
 namespace mortane {
@@ -24,11 +23,9 @@ constexpr std::int32_t kWithKnobs = 6;
 
 }  // namespace
 
-SadrelPage::SadrelPage(IconName icon, const QString& title, Page* inner, const char* innerName,
-                       QWidget* parent)
-    : Page(parent),
-      Header(Named(new PageHeader(icon, title, this), "Header")),
-      inner_(Named(inner, innerName)) {
+SadrelPage::SadrelPage(IconName icon, const QString& title, Page* inner, QWidget* parent)
+    : Page(parent), inner_(inner) {
+  Header = new PageHeader(icon, title, this);
   MakePageLayout(this, Header)->addWidget(inner_, 1);
 }
 
@@ -44,9 +41,9 @@ SadrelControlOtherCtl::SadrelControlOtherCtl(clsK70& k70, QWidget* parent)
     : SadrelControlOtherCtl(k70, MakeOther(k70), parent) {}
 
 SadrelControlOtherCtl::SadrelControlOtherCtl(clsK70& k70, ControlOtherCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::Loudspeaker, u"Control"_s, inner, "ControlOtherCtl1", parent),
-      ControlOtherCtl1(inner),
-      k70_(k70) {}
+    : SadrelPage(IconName::Loudspeaker, u"Control"_s, inner, parent), k70_(k70) {
+  ControlOtherCtl1 = inner;
+}
 
 bool SadrelControlOtherCtl::qhrOnly() const {
   return k70_.curType == kHubOnly;
@@ -70,8 +67,9 @@ SadrelControlFocusDriveCtl::SadrelControlFocusDriveCtl(clsK70& k70, QWidget* par
     : SadrelControlFocusDriveCtl(MakeFocusDrive(k70), parent) {}
 
 SadrelControlFocusDriveCtl::SadrelControlFocusDriveCtl(ControlFocusDriveCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::ZFocus, u"Z Focus"_s, inner, "ControlFocusDriveCtl1", parent),
-      ControlFocusDriveCtl1(inner) {}
+    : SadrelPage(IconName::ZFocus, u"Z Focus"_s, inner, parent) {
+  ControlFocusDriveCtl1 = inner;
+}
 
 void SadrelControlFocusDriveCtl::SetNosePositgion() {
   ControlFocusDriveCtl1->SetNosePosition();
@@ -81,8 +79,9 @@ SadrelControlXYStageCtl::SadrelControlXYStageCtl(clsK70& k70, QWidget* parent)
     : SadrelControlXYStageCtl(MakeXYStage(k70), parent) {}
 
 SadrelControlXYStageCtl::SadrelControlXYStageCtl(ControlXYStageCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::XYStage, u"XY Stage"_s, inner, "ControlXYStageCtl1", parent),
-      ControlXYStageCtl1(inner) {}
+    : SadrelPage(IconName::XYStage, u"XY Stage"_s, inner, parent) {
+  ControlXYStageCtl1 = inner;
+}
 
 void SadrelControlXYStageCtl::SetNosePosition() {
   ControlXYStageCtl1->SetNosePosition();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "widgets/ContainerPage.h"
+#include "widgets/Control.h"
 
 namespace mortane {
 
@@ -19,13 +20,12 @@ class SadrelPage : public Page {
   Q_OBJECT
 
  public:
-  SadrelPage(IconName icon, const QString& title, Page* inner, const char* innerName,
-             QWidget* parent);
+  SadrelPage(IconName icon, const QString& title, Page* inner, QWidget* parent);
 
   void LoadData() override;
   void SaveData() override;
 
-  PageHeader* Header;
+  Control<PageHeader> Header{"Header"};
 
  private:
   Page* inner_;
@@ -42,7 +42,7 @@ class SadrelControlOtherCtl : public SadrelPage {
   // Shows every frame, then hides those that the microscope or its type has not.
   void LoadData() override;
 
-  ControlOtherCtl* ControlOtherCtl1;
+  Control<ControlOtherCtl> ControlOtherCtl1{"ControlOtherCtl1"};
 
  private:
   SadrelControlOtherCtl(clsK70& k70, ControlOtherCtl* inner, QWidget* parent);
@@ -59,7 +59,7 @@ class SadrelControlFocusDriveCtl : public SadrelPage {
   // Shows where the nosepiece stands.
   void SetNosePositgion();
 
-  ControlFocusDriveCtl* ControlFocusDriveCtl1;
+  Control<ControlFocusDriveCtl> ControlFocusDriveCtl1{"ControlFocusDriveCtl1"};
 
  private:
   SadrelControlFocusDriveCtl(ControlFocusDriveCtl* inner, QWidget* parent);
@@ -74,7 +74,7 @@ class SadrelControlXYStageCtl : public SadrelPage {
   // Shows where the nosepiece stands.
   void SetNosePosition();
 
-  ControlXYStageCtl* ControlXYStageCtl1;
+  Control<ControlXYStageCtl> ControlXYStageCtl1{"ControlXYStageCtl1"};
 
  private:
   SadrelControlXYStageCtl(ControlXYStageCtl* inner, QWidget* parent);

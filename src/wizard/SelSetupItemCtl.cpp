@@ -12,7 +12,6 @@
 #include "hub/clsK70.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
-#include "widgets/Named.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/PageHeader.h"
 #include "widgets/Theme.h"
@@ -70,16 +69,13 @@ class ReleaseList : public ListBox {
 }  // namespace
 
 SelSetupItemCtl::SelSetupItemCtl(clsK70& k70, QWidget* parent)
-    : Page(parent),
-      CommonDialog1(SettingsFileQuestion()),
-      Header(Named(new PageHeader(IconName::CheckList, u"Setup Items"_s, this), "Header")),
-      FrameBase(Named(new Card({}, this), "FrameBase")),
-      List1(Named(new ListBox(FrameBase), "List1")),
-      Frame1(BuildOptions()),
-      ListStandard(Named(new ListBox(FrameBase), "ListStandard")),
-      ListCustom(
-          Named(new ReleaseList(FrameBase, [this] { RaiseRows(*ListCustom); }), "ListCustom")),
-      k70_(k70) {
+    : Page(parent), CommonDialog1(SettingsFileQuestion()), k70_(k70) {
+  Header = new PageHeader(IconName::CheckList, u"Setup Items"_s, this);
+  FrameBase = new Card({}, this);
+  List1 = new ListBox(FrameBase);
+  BuildOptions();
+  ListStandard = new ListBox(FrameBase);
+  ListCustom = new ReleaseList(FrameBase, [this] { RaiseRows(*ListCustom); });
   List1->hide();
   for (const SetupItem& item : kSetupItems) List1->addRow(QLatin1String(item.name));
   Watch(*ListStandard, kModes[kStandard]);
@@ -89,20 +85,19 @@ SelSetupItemCtl::SelSetupItemCtl(clsK70& k70, QWidget* parent)
   connect(optSetupMode, &OptionGroup::selectionChanged, this, &SelSetupItemCtl::OnMode);
 }
 
-QFrame* SelSetupItemCtl::BuildOptions() {
-  auto* frame = Named(new QFrame(FrameBase), "Frame1");
+void SelSetupItemCtl::BuildOptions() {
+  Frame1 = new QFrame(FrameBase);
   optSetupMode = new OptionGroup(this);
-  auto* column = new QVBoxLayout(frame);
+  auto* column = new QVBoxLayout(Frame1);
   column->setContentsMargins({});
   column->setSpacing(grid::kBetweenControls);
   for (const int mode : {kStandard, kCustom}) {
-    column->addWidget(optSetupMode->addOption(QLatin1String(kModes[mode]), "optSetupMode", frame));
+    column->addWidget(optSetupMode->addOption(QLatin1String(kModes[mode]), Frame1));
   }
-  auto* file = new FileOption(QLatin1String(kModes[kFile]), frame, [this] { OnFile(); });
-  optSetupMode->add(Named(file, "optSetupMode", kFile), kFile);
+  auto* file = new FileOption(QLatin1String(kModes[kFile]), Frame1, [this] { OnFile(); });
+  optSetupMode->add(file, kFile);
   column->addWidget(file);
   column->addStretch();
-  return frame;
 }
 
 // The person's clicks raise the event of a row; so does a check mark that changes.
@@ -182,8 +177,8 @@ void SelSetupItemCtl::OnMode(int mode) {
   if (mode == kCustom) RaiseRows(*ListCustom);
 }
 
-// Settings from a file never change the system's name here. Whether a file was read or not, every
-// step that is offered is on afterwards; the check marks stay.
+// Settings from a file never change the system's name here. Kept: whether a file was read or not,
+// every step that is offered is on afterwards, and the check marks stay.
 void SelSetupItemCtl::OnFile() {
   optSetupMode->select(kFile);
   const std::string name = k70_.SystemName;

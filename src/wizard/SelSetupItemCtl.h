@@ -4,6 +4,7 @@
 #include <array>
 
 #include "common/Prompts.h"
+#include "widgets/Control.h"
 #include "widgets/Page.h"
 
 class QFrame;
@@ -35,13 +36,13 @@ class SelSetupItemCtl : public Page {
 
   FileQuestion CommonDialog1;
 
-  PageHeader* Header;
-  Card* FrameBase;
-  ListBox* List1;  // hidden, the names by the number of the item
-  QFrame* Frame1;
-  OptionGroup* optSetupMode;
-  ListBox* ListStandard;
-  ListBox* ListCustom;
+  Control<PageHeader> Header{"Header"};
+  Control<Card> FrameBase{"FrameBase"};
+  Control<ListBox> List1{"List1"};  // hidden, the names by the number of the item
+  Control<QFrame> Frame1{"Frame1"};
+  Control<OptionGroup> optSetupMode{"optSetupMode"};
+  Control<ListBox> ListStandard{"ListStandard"};
+  Control<ListBox> ListCustom{"ListCustom"};
 
  Q_SIGNALS:
   void ModeChanged(int mode);
@@ -49,7 +50,7 @@ class SelSetupItemCtl : public Page {
   void ItemChanged(int item, bool enabled);
 
  private:
-  QFrame* BuildOptions();
+  void BuildOptions();
   void Watch(ListBox& list, const char* accessibleName);
   void Arrange();
   void AddRow(ListBox& list, int item, bool checked);

@@ -10,7 +10,6 @@
 #include "hub/clsK70.h"
 #include "interlocks/InterlockSettingsCtl.h"
 #include "objectives/ObjectiveSettingsCtl.h"
-#include "widgets/Named.h"
 #include "wizard/SadrelEndingCtl.h"
 #include "wizard/SadrelMainForm.h"
 #include "wizard/SadrelPages.h"
@@ -32,30 +31,27 @@ Page* MakeAs(SadrelMainForm& form, const FormServices& services) {
 }
 
 Page* MakeItems(SadrelMainForm& form, const FormServices& services) {
-  auto* page = Named(new SelSetupItemCtl(services.k70, form.FrameControl), "SelSetupItemCtl1");
+  auto* page = new SelSetupItemCtl(services.k70, form.FrameControl);
   QObject::connect(page, &SelSetupItemCtl::ItemChanged, &form, &SadrelMainForm::OnItemChanged);
   return form.SelSetupItemCtl1 = page;
 }
 
 Page* MakeControls(SadrelMainForm& form, const FormServices& services) {
-  return form.SadrelControlOtherCtl1 = Named(
-             new SadrelControlOtherCtl(services.k70, form.FrameControl), "SadrelControlOtherCtl1");
+  return form.SadrelControlOtherCtl1 = new SadrelControlOtherCtl(services.k70, form.FrameControl);
 }
 
 Page* MakeFocusStep(SadrelMainForm& form, const FormServices& services) {
   return form.SadrelControlFocusDriveCtl1 =
-             Named(new SadrelControlFocusDriveCtl(services.k70, form.FrameControl),
-                   "SadrelControlFocusDriveCtl1");
+             new SadrelControlFocusDriveCtl(services.k70, form.FrameControl);
 }
 
 Page* MakeSwitches(SadrelMainForm& form, const FormServices& services) {
   return form.SadrelControlTactorSwitch1 =
-             Named(new SadrelControlTactorSwitch(services.k70, services.prompts, form.FrameControl),
-                   "SadrelControlTactorSwitch1");
+             new SadrelControlTactorSwitch(services.k70, services.prompts, form.FrameControl);
 }
 
 Page* MakeEnding(SadrelMainForm& form, const FormServices& services) {
-  auto* page = Named(new SadrelEndingCtl(services.k70, form.FrameControl), "SadrelEndingCtl1");
+  auto* page = new SadrelEndingCtl(services.k70, form.FrameControl);
   page->beforeSend = [&form] { form.KeepBackup(); };
   QObject::connect(page, &SadrelEndingCtl::Sent, &form, &SadrelMainForm::OnSent);
   return form.SadrelEndingCtl1 = page;

@@ -45,7 +45,7 @@ TEST(CloseBox, IsNotAskedByTheProgramItself) {
 
 // What comes in during the blocked part of a command is delivered while the command drops input,
 // which is before it is over.
-class CloseBoxDuring : public testing::TestWithParam<QAction * MortaneMainForm::*> {
+class CloseBoxDuring : public testing::TestWithParam<Control<QAction> MortaneMainForm::*> {
  protected:
   CloseBoxDuring() {
     rig.app.prompts.onCall = [this] {

@@ -28,7 +28,7 @@ enum class Way { Menu, Tool, Key };
 
 struct RouteRow {
   const char* first;  // what the command's log begins with
-  QAction* MortaneMainForm::*menu;
+  Control<QAction> MortaneMainForm::*menu;
   int tool;
   int key;
 };

@@ -159,7 +159,7 @@ TEST(Select, ThatCannotConnectStopsAndLeavesTheControlsAsTheyWere) {
   EXPECT_EQ(GetK70().lConnectDevice, 2) << "the same device can be tried again";
 }
 
-using CommandRow = QAction* MortaneMainForm::*;
+using CommandRow = Control<QAction> MortaneMainForm::*;
 
 // Each controller call that the model makes for a command fails in turn, and none of them unseen.
 TEST(Commands, SurviveAFailureOfEachControllerCallInTurn) {

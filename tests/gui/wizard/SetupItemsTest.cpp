@@ -84,7 +84,8 @@ TEST(SetupItems, BearTheirControlsByName) {
 TEST(SetupItems, ListTheNamesOfTheItems) {
   ItemsRig rig;
   ASSERT_FALSE(RowsOf(*rig.page->ListStandard).empty());
-  for (const ListBox* list : {rig.page->ListStandard, rig.page->ListCustom}) {
+  for (const auto* item : {&rig.page->ListStandard, &rig.page->ListCustom}) {
+    const ListBox* list = *item;
     for (int row = 0; row < list->rowCount(); ++row) {
       EXPECT_EQ(list->text(row), rig.page->List1->text(list->data(row).toInt()));
     }

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <array>
 
 #include "WizardRig.h"
 #include "app/GetAppIcon.h"
@@ -199,8 +200,10 @@ TEST_P(SmallWizard, KeepsStepsHelpAndButtonsInSight) {
            rig.form->rect().contains(
                QRect(widget.mapTo(rig.form.get(), QPoint(0, 0)), widget.size()));
   };
-  for (const QPushButton* button : {rig.form->ButtonCancel, rig.form->ButtonPrevious,
-                                    rig.form->ButtonNext, rig.form->ButtonFinish}) {
+  const SadrelMainForm& form = *rig.form;
+  const std::array<const QPushButton*, 4> buttons{form.ButtonCancel, form.ButtonPrevious,
+                                                  form.ButtonNext, form.ButtonFinish};
+  for (const QPushButton* button : buttons) {
     EXPECT_TRUE(inSight(*button)) << button->text().toStdString();
     EXPECT_GE(button->width(), button->sizeHint().width());
   }
