@@ -20,7 +20,7 @@ class ControlSettingsCtl : public ContainerPage {
                      QWidget* parent = nullptr);
 
   void LoadData() override;
-  // The focus drive decides whether the other controls are saved, and they whether it is.
+  // Kept: the focus drive decides whether the other controls are saved, and they whether it is.
   void SaveData() override;
   void SetNosePostiton() override;
   void SendData() override;

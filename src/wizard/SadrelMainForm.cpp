@@ -63,7 +63,7 @@ void SadrelMainForm::EnableStep(int step, bool enabled, const QString& whyOff) {
   PictureMenu->SetStepEnabled(step, enabled, whyOff);
 }
 
-// The picture of step 1 leads to step 0; Next and Previous alone reach step 1.
+// Kept: the picture of step 1 leads to step 0; Next and Previous alone reach step 1.
 void SadrelMainForm::OnPicture(int index) {
   const int wanted = index == kItemPicture ? kSystemPicture : index;
   RunCommand([this, wanted] { optMenu[static_cast<std::size_t>(wanted)]->setChecked(true); });

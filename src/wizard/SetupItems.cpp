@@ -35,7 +35,7 @@ bool HasFocusDrive(clsK70& k70) {
   return k70.CZDrive.IsEnable();
 }
 
-// A simulated hub without a body has the hand controller's tab and yet no such step.
+// Kept: a simulated hub without a body has the hand controller's tab and yet no such step.
 bool HasSwitches(clsK70& k70) {
   const double body = FirmwareVersion(k70, controllerunit::kBody);
   if (HasSwitchFunctions(body)) return true;
