@@ -123,6 +123,7 @@ void DrivePageCtl::MoveToRow(int row, const Positions& targets) {
     if (scope.IsLost()) return;
   }
   MoveAsyncStart(targets);
+  if (scope.IsLost()) return;
   const auto isAtTarget = [&] {
     bool arrived = true;
     for (std::size_t axis = 0; axis < targets.size() && !scope.IsLost(); ++axis) {
