@@ -48,7 +48,9 @@ class Kept : public testing::Test {
     if (library) ReleaseK70();
     library.reset();
   }
-  SessionNote& note() { return *form->findChild<SessionNote*>(); }
+  SessionNote& note() {
+    return static_cast<SessionNote&>(*form->findChild<ValueLabel*>("SessionNote"));
+  }
   std::vector<Backup> List() { return Backups(folder.Path("backups"), "Harbour").List(); }
   std::string Unsent(const char* name = "Unsent.xml") {
     return folder.Path("unsent/" + DeviceFolderName("Harbour") + "/" + name);

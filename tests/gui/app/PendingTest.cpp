@@ -28,7 +28,9 @@ class Pending : public testing::Test {
  protected:
   explicit Pending(Bench bench = benches::Named("Harbour")) : rig(std::move(bench)) { rig.Start(); }
 
-  SessionNote& note() { return *rig.form->findChild<SessionNote*>(); }
+  SessionNote& note() {
+    return static_cast<SessionNote&>(*rig.form->findChild<ValueLabel*>("SessionNote"));
+  }
   std::string Count() {
     Look();
     return note().ButtonPending->isHidden() ? "" : note().ButtonPending->text().toStdString();
