@@ -7,8 +7,8 @@
 
 namespace mortane {
 
-// With the mouse it acts only if the left button was let go over it with no modifier held. A click
-// leaves the focus where it is, so that a command does the same by key, menu and tool bar.
+// Kept: with the mouse it acts only if the left button was let go over it with no modifier held.
+// A click leaves the focus where it is, so that a command does the same by key, menu and tool bar.
 class CommandKey : public QAbstractButton {
   Q_OBJECT
 

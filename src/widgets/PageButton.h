@@ -5,7 +5,7 @@
 
 namespace mortane {
 
-// Acts when the left button goes down with no modifier, and on Space; a click is not needed.
+// Kept: acts when the left button goes down with no modifier, and on Space; a click is not needed.
 class PageButton : public RailButton {
   Q_OBJECT
 
