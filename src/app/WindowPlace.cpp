@@ -31,9 +31,10 @@ std::string SectionOf(const QWidget& window) {
 void MoveOntoScreen(QWidget& window) {
   QRect place = window.geometry();
   const QRect available = window.screen()->availableGeometry();
-  if (window.isMaximized() || available.contains(place)) return;
   const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
   const QRect room = available.adjusted(kFrame, title, -kFrame, -kFrame);
+  const bool fits = place.width() <= room.width() && place.height() <= room.height();
+  if (window.isMaximized() || (fits && available.contains(place))) return;
   place.setSize(place.size().boundedTo(room.size()));
   place.moveLeft(std::clamp(place.left(), room.left(), room.right() - place.width() + 1));
   place.moveTop(std::clamp(place.top(), room.top(), room.bottom() - place.height() + 1));
