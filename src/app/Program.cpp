@@ -8,6 +8,7 @@
 #include "app/ApplyTheme.h"
 #include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
+#include "app/StartOptions.h"
 #include "app/UnsentEdits.h"
 #include "app/WindowPlace.h"
 #include "common/Failure.h"
@@ -65,20 +66,27 @@ int ShowForm(QApplication& application, SessionLibrary& session,
   return result;
 }
 
+int Tell(const ProgramKind& kind, const std::string& answer) {
+  return ShowStartAnswer(kind.title, answer) ? 0 : kCannotStart;
+}
+
 }  // namespace
 
 int RunProgram(int argc, char** argv, const ProgramKind& kind) {
   // The toolkit takes the options that it knows out of argv.
-  const std::vector<std::string> arguments = GetCommandLineArray(argc, argv);
+  StartOptions options;
   std::optional<SessionLibrary> session;
   try {
+    options = ReadStartOptions(GetCommandLineArray(argc, argv));
+    if (options.help) return Tell(kind, HelpText(kind.name, kind.description));
+    if (options.version) return Tell(kind, VersionText(kind.name));
     session.emplace(WishOfEnvironment());
   } catch (const Failure& failure) {
     ShowStartNotice(kind.name, failure.Description());
     return kCannotStart;
   }
   QApplication application(argc, argv);
-  return ShowForm(application, *session, arguments, kind);
+  return ShowForm(application, *session, options.arguments, kind);
 }
 
 }  // namespace mortane

@@ -6,7 +6,9 @@
 
 int main(int argc, char** argv) {
   using namespace mortane;
-  return RunProgram(argc, argv, {"mortane", kMainTitle, [](const FormServices& services) {
-                                   return std::make_unique<MortaneMainForm>(services, MainPages());
-                                 }});
+  return RunProgram(argc, argv,
+                    {"mortane", kMainTitle, "Sets up a motorised microscope on pages.",
+                     [](const FormServices& services) {
+                       return std::make_unique<MortaneMainForm>(services, MainPages());
+                     }});
 }

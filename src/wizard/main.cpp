@@ -5,7 +5,9 @@
 
 int main(int argc, char** argv) {
   using namespace mortane;
-  return RunProgram(argc, argv, {"sadrel", kWizardTitle, [](const FormServices& services) {
-                                   return std::make_unique<SadrelMainForm>(services, WizardSteps());
-                                 }});
+  return RunProgram(argc, argv,
+                    {"sadrel", kWizardTitle, "Sets up a motorised microscope step by step.",
+                     [](const FormServices& services) {
+                       return std::make_unique<SadrelMainForm>(services, WizardSteps());
+                     }});
 }

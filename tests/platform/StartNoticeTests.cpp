@@ -12,5 +12,11 @@ TEST(StartNotice, IsOneLineOnStandardError) {
             "mortane: Cannot read bench.xml: No such file\n");
 }
 
+TEST(StartAnswer, IsTheTextOnStandardOutput) {
+  testing::internal::CaptureStdout();
+  EXPECT_TRUE(ShowStartAnswer("Mortane", "mortane 1.2.3"));
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "mortane 1.2.3\n");
+}
+
 }  // namespace
 }  // namespace mortane::test

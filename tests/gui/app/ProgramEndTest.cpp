@@ -49,7 +49,7 @@ int RunInChild() {
   char name[] = "mortane";
   char* arguments[] = {name, nullptr};
   qApp->~QApplication();  // it stands on the stack of main, to which this process never returns
-  return RunProgram(1, arguments, {"mortane", "Mortane", [](const FormServices& services) {
+  return RunProgram(1, arguments, {"mortane", "Mortane", "", [](const FormServices& services) {
                                      auto form = std::make_unique<Form>(services);
                                      auto* watch = new QTimer(form.get());
                                      QObject::connect(watch, &QTimer::timeout, watch, [] {

@@ -84,6 +84,33 @@ TEST_F(Program, RefusesAWrongBenchFileWithOneLineAndCodeTwo) {
   EXPECT_EQ(program_.exitCode(), 2);
 }
 
+TEST_F(Program, AnswersHelpAndVersionWithoutADisplayAndOpensNothing) {
+  const TempFolder folder;
+  const std::string bench = folder.Write("bench.xml", "no bench");
+  for (const char* option : {"--help", "--version"}) {
+    Start({"/SIM", option}, bench);
+    ExpectGoodEnd();
+    EXPECT_TRUE(program_.readAllStandardError().isEmpty()) << option;
+    EXPECT_TRUE(program_.readAllStandardOutput().contains("mortane")) << option;
+  }
+}
+
+TEST_F(Program, RefusesAnOptionThatThereIsNotWithOneLineAndCodeTwo) {
+  Start({"/SIM", "--frobnicate=3"});
+  ASSERT_TRUE(program_.waitForFinished(kPatienceMs));
+  EXPECT_EQ(program_.exitCode(), 2);
+  EXPECT_TRUE(program_.readAllStandardOutput().isEmpty());
+  EXPECT_EQ(program_.readAllStandardError(),
+            "mortane: --frobnicate is no option. \"--help\" lists the options.\n");
+}
+
+TEST_F(Program, FailsWhenItsAnswerCannotBeWritten) {
+  program_.setStandardOutputFile("/dev/full");
+  Start({"--version"});
+  ASSERT_TRUE(program_.waitForFinished(kPatienceMs));
+  EXPECT_EQ(program_.exitCode(), 2);
+}
+
 TEST_F(Program, WritesTheJournalOfItsCallsWhereTheEnvironmentSays) {
   const TempFolder folder;
   const std::string journal = folder.Path("journal.txt");

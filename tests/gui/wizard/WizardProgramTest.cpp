@@ -42,6 +42,12 @@ TEST_F(Wizard, RefusesAWrongBenchFileInItsOwnName) {
   EXPECT_TRUE(program_.readAllStandardError().startsWith("sadrel: "));
 }
 
+TEST_F(Wizard, TellsItsVersionInItsOwnName) {
+  Start({"--version"});
+  ExpectGoodEnd();
+  EXPECT_TRUE(program_.readAllStandardOutput().startsWith("sadrel "));
+}
+
 TEST_F(Wizard, LeavesByCancelOnTheSimulator) {
   Start({"/sim"});
   Press(AwaitWindows(2).front(), {"Return"});
