@@ -73,6 +73,10 @@ QString AccessibleTabs::itemText(int index) const {
   return strip_.tabText(index);
 }
 
+QString AccessibleTabs::itemDescription(int index) const {
+  return strip_.tabToolTip(index);
+}
+
 QRect AccessibleTabs::itemArea(int index) const {
   return strip_.tabRect(index);
 }

@@ -37,6 +37,7 @@ class AccessibleTabs : public AccessibleItems {
   [[nodiscard]] QString itemText(int index) const override;
   [[nodiscard]] QRect itemArea(int index) const override;
   [[nodiscard]] QWidget& itemCanvas() const override;
+  [[nodiscard]] QString itemDescription(int index) const override;
   void completeState(int index, QAccessible::State& state) const override;
 
  private:

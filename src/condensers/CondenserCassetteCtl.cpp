@@ -126,7 +126,7 @@ void CondenserCassetteCtl::UpdateTurret() {
     const QString name = Combo1[static_cast<std::size_t>(row)]->currentText();
     const std::string text = name.toStdString();
     const bool free = Trim(text).empty() || IsVacant(text);
-    items.append({free ? QString() : name, name, std::nullopt, false, row + 1});
+    items.append({free ? QString() : name, name, std::nullopt, row + 1});
   }
   turret_->SetItems(items);
   ChooseRow(chosenRow_);

@@ -92,12 +92,22 @@ TurretButton::TurretButton(PlaceKind kind, int number, QWidget* parent)
 
 void TurretButton::SetItem(const TurretItem& item) {
   item_ = item;
-  const QString details = item.label.isEmpty() ? QString(kFree) : item.details;
+  Tell();
+}
+
+void TurretButton::SetPending(const std::optional<QString>& was) {
+  if (was_ == was) return;
+  was_ = was;
+  Tell();
+}
+
+void TurretButton::Tell() {
+  const QString details = item_.label.isEmpty() ? QString(kFree) : item_.details;
   setAccessibleName(u"Address %1, %2"_s.arg(address()).arg(details));
-  const QString note = item.pending ? NotSent(item.was) : QString();
+  const QString note = NotSent(was_);
   setAccessibleDescription(note);
   QStringList tip;
-  if (!item.label.isEmpty()) tip.append(item.details);
+  if (!item_.label.isEmpty()) tip.append(item_.details);
   if (!note.isEmpty()) tip.append(note);
   setToolTip(tip.join(u'\n'));
   update();
@@ -283,7 +293,7 @@ void TurretButton::paintEvent(QPaintEvent*) {
     painter.setBrush(Qt::NoBrush);
     PaintShape(painter, around(kFocusOutside - 0.2));
   }
-  if (item_.pending) {
+  if (isPending()) {
     const double reach = kind_ == PlaceKind::Objectives ? 0.36 : 0.5;
     DrawPendingDot(painter,
                    place.center() + QPointF(placeSize_.width(), -placeSize_.height()) * reach,

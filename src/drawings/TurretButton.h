@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <optional>
 
 #include "drawings/TurretItem.h"
 #include "widgets/Theme.h"
@@ -21,6 +22,9 @@ class TurretButton : public QAbstractButton {
 
   void SetItem(const TurretItem& item);
   [[nodiscard]] const TurretItem& item() const { return item_; }
+  // The dot that says: differs from what was last received or sent, which was that; none without.
+  void SetPending(const std::optional<QString>& was);
+  [[nodiscard]] bool isPending() const { return was_.has_value(); }
   [[nodiscard]] int address() const;
   void SetPlaceSize(const QSizeF& size);
   [[nodiscard]] QSizeF PlaceSizeFor(double width) const;
@@ -49,6 +53,7 @@ class TurretButton : public QAbstractButton {
   [[nodiscard]] bool hitButton(const QPoint& at) const override;
 
  private:
+  void Tell();
   void PaintObjective(QPainter& painter, const QRectF& place) const;
   void PaintTile(QPainter& painter, const QRectF& place) const;
   void PaintGlyph(QPainter& painter, const QRectF& area) const;
@@ -58,6 +63,7 @@ class TurretButton : public QAbstractButton {
   PlaceKind kind_;
   int number_;  // of the place, from 1
   TurretItem item_;
+  std::optional<QString> was_;
   QSizeF placeSize_;
   bool largeLabel_ = true;
   bool pressed_ = false;

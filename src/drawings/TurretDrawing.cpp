@@ -116,9 +116,29 @@ void TurretDrawing::SetItems(const QVector<TurretItem>& items) {
     if (i < count_) buttons_[i]->SetItem(items[i]);
     buttons_[i]->setVisible(i < count_);
   }
+  ShowPending();
   UpdateLeastScale();
   PlaceButtons();
   Describe();
+}
+
+void TurretDrawing::SetPending(const QMap<int, QString>& was) {
+  was_ = was;
+  ShowPending();
+}
+
+void TurretDrawing::ShowPending() {
+  for (int i = 0; i < count_; ++i) {
+    const auto place = was_.constFind(buttons_[i]->address());
+    buttons_[i]->SetPending(place == was_.constEnd() ? std::nullopt : std::optional(*place));
+  }
+}
+
+int TurretDrawing::placeOf(int address) const {
+  for (int i = 0; i < count_; ++i) {
+    if (buttons_[i]->address() == address) return i;
+  }
+  return -1;
 }
 
 void TurretDrawing::SetItem(int index, const TurretItem& item) {

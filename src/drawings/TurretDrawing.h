@@ -1,6 +1,7 @@
 // A turret from above: what stands at each of its addresses, to be seen and chosen.
 #pragma once
 
+#include <QMap>
 #include <QPixmap>
 #include <QVector>
 #include <QWidget>
@@ -26,6 +27,10 @@ class TurretDrawing : public QWidget {
   // Up to ten. The chosen place stays if there is one of its index.
   void SetItems(const QVector<TurretItem>& items);
   void SetItem(int index, const TurretItem& item);
+  // The dots of places that differ from what was last received or sent, by their addresses, with
+  // what that was. They stay with the addresses until they are set again.
+  void SetPending(const QMap<int, QString>& was);
+  [[nodiscard]] int placeOf(int address) const;  // -1: none
   [[nodiscard]] int count() const { return count_; }
   [[nodiscard]] QAbstractButton* place(int index) const;
   [[nodiscard]] int index() const;  // -1: none
@@ -54,6 +59,7 @@ class TurretDrawing : public QWidget {
   void PaintDisc();
   void UpdateLeastScale();
   void UpdateLabels();
+  void ShowPending();
   [[nodiscard]] QPointF Center() const;
   [[nodiscard]] QRectF NumberArea(int index) const;
 
@@ -61,6 +67,7 @@ class TurretDrawing : public QWidget {
   OptionGroup* group_;
   QVector<TurretButton*> buttons_;  // of all addresses that there can be
   int count_ = 0;
+  QMap<int, QString> was_;
   double leastScale_;
   QPixmap disc_;
 };

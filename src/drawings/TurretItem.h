@@ -13,15 +13,12 @@ enum class PlaceKind {
 };
 
 // `label` stands on the place; an empty one makes it a free place. `details` follow the address in
-// the accessible name. `pending` tells that it differs from what was last received or sent, and
-// `was` what that is.
+// the accessible name.
 struct TurretItem {
   QString label;
   QString details;
   std::optional<double> magnification;
-  bool pending = false;
   int address = 0;  // 0: places are numbered from 1
-  QString was = {};
 
   bool operator==(const TurretItem&) const = default;
 };

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 
 #include "widgets/ClickFocus.h"
+#include "widgets/NotSentMark.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -108,6 +109,10 @@ void CheckToggle::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF track(kPadding, (height() - kTrackHeight) / 2.0, kTrackWidth, kTrackHeight);
   DrawTrack(painter, track);
+  if (!NoteOfNotSent(*this).isEmpty()) {
+    DrawPendingDot(painter, track.topRight() + QPointF(-1, 1), palette().color(QPalette::Link),
+                   palette().color(QPalette::Base));
+  }
   const QPalette colors = ShownColors();
   painter.setPen(colors.color(unknown_ ? QPalette::PlaceholderText : QPalette::WindowText));
   painter.setFont(isChecked() && isEnabledTo(window()) ? BoldFont() : font());

@@ -4,11 +4,14 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
 #include "widgets/ClickFocus.h"
 #include "widgets/ElidedTip.h"
+#include "widgets/NotSentMark.h"
+#include "widgets/Paint.h"
 #include "widgets/RowDelegate.h"
 
 namespace mortane {
@@ -43,13 +46,24 @@ void ComboBox::setIndex(int row) {
   if (currentIndex() >= 0 && currentIndex() != before) Q_EMIT selectionChanged(currentIndex());
 }
 
+QRect ComboBox::TextArea() const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+}
+
+void ComboBox::paintEvent(QPaintEvent* event) {
+  QComboBox::paintEvent(event);
+  if (NoteOfNotSent(*this).isEmpty()) return;
+  QPainter painter(this);
+  DrawPendingDot(painter, {TextArea().right() - kPendingRoom / 2.0, height() / 2.0},
+                 palette().color(QPalette::Link), palette().color(QPalette::Base));
+}
+
 // An elided entry shows its whole text.
 bool ComboBox::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
-  QStyleOptionComboBox option;
-  initStyleOption(&option);
-  const QRect shown =
-      style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  const QRect shown = TextArea();
   ShowWholeText(*static_cast<QHelpEvent*>(event), *this, currentText(),
                 FitsIn(shown.width(), currentText(), fontMetrics()));
   return true;

@@ -28,9 +28,13 @@ class ComboBox : public QComboBox {
 
  protected:
   bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  [[nodiscard]] QRect TextArea() const;
 };
 
 }  // namespace mortane

@@ -2,7 +2,10 @@
 
 #include <QHelpEvent>
 #include <QToolTip>
+#include <QVariant>
 #include <QWidget>
+
+#include "widgets/StyleProperties.h"
 
 namespace mortane {
 
@@ -19,7 +22,10 @@ void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text
                    const QRect& area) {
   QStringList lines;
   if (fits == Fits::No) lines.append(text);
-  if (!control.toolTip().isEmpty()) lines.append(control.toolTip());
+  const QString notSent = control.property(kNotSentProperty).toString();
+  for (const QString& own : {control.toolTip(), notSent}) {
+    if (!own.isEmpty()) lines.append(own);
+  }
   QToolTip::showText(help.globalPos(), lines.join(u'\n'), &control, area);
 }
 

@@ -17,8 +17,9 @@ Fits FitsIn(int width, const QString& text, const QFontMetrics& metrics);
 // ask for them; the toolkit's own elision would cut a text that is wider by less than a pixel.
 QString ShownIn(int width, const QString& text, const QFontMetrics& metrics);
 
-// Shows the text where it does not fit, and the control's own tool tip if it has one, while the
-// pointer stays in the area; or takes away a tip that is there.
+// Shows the text where it does not fit, the control's own tool tip and what it has that is not
+// sent, as far as there is any, while the pointer stays in the area; or takes away a tip that is
+// there.
 void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text, Fits fits,
                    const QRect& area);
 void ShowWholeText(const QHelpEvent& help, QWidget& control, const QString& text, Fits fits);

@@ -9,6 +9,7 @@
 
 #include "widgets/AltKeys.h"
 #include "widgets/ElidedTip.h"
+#include "widgets/NotSentMark.h"
 #include "widgets/Paint.h"
 #include "widgets/StylePrimitives.h"
 #include "widgets/StyleProperties.h"
@@ -219,6 +220,10 @@ void Style::DrawOption(const QStyleOptionButton& option, bool radio, QPainter& p
     DrawRadioIndicator(part, painter);
   else
     DrawCheckBoxIndicator(part, painter);
+  if (widget != nullptr && !NoteOfNotSent(*widget).isEmpty()) {
+    DrawPendingDot(painter, QRectF(part.rect).topRight(), option.palette.color(QPalette::Link),
+                   option.palette.color(QPalette::Base));
+  }
   const int offset = kIndicatorSide + grid::kBetweenControls;
   part.rect = visualRect(option.direction, inside, inside.adjusted(offset, 0, 0, 0));
   QProxyStyle::drawControl(radio ? CE_RadioButtonLabel : CE_CheckBoxLabel, &part, &painter, widget);

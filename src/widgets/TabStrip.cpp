@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include "widgets/ClickFocus.h"
+#include "widgets/NotSent.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -50,12 +51,22 @@ void TabStrip::setIndex(int index) {
   setCurrentIndex(index);
 }
 
+void TabStrip::Choose(int index) {
+  setIndex(index);
+  Q_EMIT chosen(index);
+}
+
+void TabStrip::SetTabPending(int index, bool pending) {
+  if (isTabPending(index) == pending) return;
+  setTabData(index, pending);
+  setTabToolTip(index, pending ? SomethingNotSent() : QString());
+  update();
+}
+
 void TabStrip::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const int index = tabAt(event->position().toPoint());
-  if (index < 0 || !isTabEnabled(index) || !TakeFocus(*this)) return;
-  setIndex(index);
-  Q_EMIT chosen(index);
+  if (index >= 0 && isTabEnabled(index) && TakeFocus(*this)) Choose(index);
 }
 
 void TabStrip::keyPressEvent(QKeyEvent* event) {
@@ -102,6 +113,13 @@ void TabStrip::paintEvent(QPaintEvent*) {
     painter.setPen(
         palette().color(usable ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     painter.drawText(area.adjusted(0, 0, 0, -kUnderline), Qt::AlignCenter, tabText(i));
+    if (isTabPending(i)) {
+      const double textEnd =
+          area.center().x() + painter.fontMetrics().horizontalAdvance(tabText(i)) / 2.0;
+      DrawPendingDot(painter,
+                     {textEnd + kPendingRoom / 2.0 + 2, (area.height() - kUnderline) / 2.0},
+                     palette().color(QPalette::Link), palette().color(QPalette::Base));
+    }
     if (chosen)
       painter.fillRect(QRect(area.left(), area.bottom() - kUnderline + 1, area.width(), kUnderline),
                        palette().color(QPalette::Highlight));

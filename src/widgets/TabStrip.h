@@ -22,6 +22,11 @@ class TabStrip : public QTabBar {
   [[nodiscard]] int index() const { return currentIndex(); }
   void setIndex(int index);
   [[nodiscard]] QString caption() const { return tabText(currentIndex()); }
+  // What a click on the tab does.
+  void Choose(int index);
+  // The dot behind the caption of a tab that stands for something not sent. New tabs have none.
+  void SetTabPending(int index, bool pending);
+  [[nodiscard]] bool isTabPending(int index) const { return tabData(index).toBool(); }
 
  Q_SIGNALS:
   // For a click or a key of the person only.

@@ -1,14 +1,20 @@
 // The dot of what is not sent yet, and its words.
+#include <QCheckBox>
 #include <QHelpEvent>
+#include <QRadioButton>
 #include <QToolTip>
 #include <string>
 
 #include "drawings/TurretDrawing.h"
 #include "gui/support/TestWindow.h"
+#include "widgets/CheckToggle.h"
+#include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
+#include "widgets/NotSentMark.h"
 #include "widgets/PageButton.h"
 #include "widgets/Rail.h"
 #include "widgets/SectionBar.h"
+#include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
 
 namespace mortane {
@@ -27,6 +33,13 @@ struct Shown {
     list->addRow("Plan A 40x");
     turret = window.Add<TurretDrawing>(PlaceKind::Cubes);
     turret->SetItems({{"GFP", "GFP", {}}, {"DAPI", "DAPI", {}}});
+    option = window.Add<QRadioButton>("No Rotation");
+    check = window.Add<QCheckBox>("Auto");
+    toggle = window.Add<CheckToggle>();
+    combo = window.Add<ComboBox>();
+    combo->addRow("0.95");
+    tabs = window.Add<TabStrip>();
+    tabs->SetNumberedTabs(2);
     window.Show();
   }
 
@@ -36,6 +49,11 @@ struct Shown {
   TextField* field = nullptr;
   ListBox* list = nullptr;
   TurretDrawing* turret = nullptr;
+  QRadioButton* option = nullptr;
+  QCheckBox* check = nullptr;
+  CheckToggle* toggle = nullptr;
+  ComboBox* combo = nullptr;
+  TabStrip* tabs = nullptr;
 };
 
 // What bears a dot, how it gets and loses it, and what is then said of it.
@@ -68,12 +86,23 @@ const DotRow kDots[] = {
      "not sent: was blank", 0},
     {"Place", [](Shown& s) -> QWidget* { return s.turret->place(0); },
      [](Shown& s, bool pending) {
-       TurretItem item{"GFP", "GFP", {}};
-       item.pending = pending;
-       item.was = "Free";
-       s.turret->SetItem(0, item);
+       s.turret->SetPending(pending ? QMap<int, QString>{{1, "Free"}} : QMap<int, QString>());
      },
      "not sent: was Free"},
+    {"Option", [](Shown& s) -> QWidget* { return s.option; },
+     [](Shown& s, bool pending) { MarkNotSent(*s.option, Was(pending, "Free")); },
+     "not sent: was Free"},
+    {"CheckBox", [](Shown& s) -> QWidget* { return s.check; },
+     [](Shown& s, bool pending) { MarkNotSent(*s.check, Was(pending, "OFF")); },
+     "not sent: was OFF"},
+    {"Switch", [](Shown& s) -> QWidget* { return s.toggle; },
+     [](Shown& s, bool pending) { MarkNotSent(*s.toggle, Was(pending, "OFF")); },
+     "not sent: was OFF"},
+    {"DropDownList", [](Shown& s) -> QWidget* { return s.combo; },
+     [](Shown& s, bool pending) { MarkNotSent(*s.combo, Was(pending, "1.00")); },
+     "not sent: was 1.00"},
+    {"Tab", [](Shown& s) -> QWidget* { return s.tabs; },
+     [](Shown& s, bool pending) { s.tabs->SetTabPending(0, pending); }, "not sent", 0},
 };
 
 class NotSentOn : public testing::TestWithParam<DotRow> {
@@ -81,15 +110,18 @@ class NotSentOn : public testing::TestWithParam<DotRow> {
   void Set(bool pending) { GetParam().set(s, pending); }
   QWidget& widget() { return *GetParam().widget(s); }
   QString Said() {
-    QWidget* told = GetParam().item < 0 ? &widget() : widget().parentWidget();
+    QWidget* told = &widget();
+    if (told == s.list->viewport()) told = s.list;
     QAccessibleInterface* control = QAccessible::queryAccessibleInterface(told);
     if (GetParam().item >= 0) control = control->child(GetParam().item);
     return control->text(QAccessible::Description);
   }
   QString ToolTip() {
-    const QPoint at = GetParam().item < 0
-                          ? widget().rect().center()
-                          : s.list->visualItemRect(s.list->topLevelItem(0)).center();
+    QPoint at = widget().rect().center();
+    if (&widget() == s.list->viewport()) {
+      at = s.list->visualItemRect(s.list->topLevelItem(0)).center();
+    }
+    if (&widget() == s.tabs) at = s.tabs->tabRect(0).center();
     QToolTip::showText({}, "of before");  // a tool tip without a successor fades out slowly
     QHelpEvent help(QEvent::ToolTip, at, widget().mapToGlobal(at));
     QApplication::sendEvent(&widget(), &help);
@@ -128,6 +160,49 @@ TEST(NotSent, AFieldGetsItsOwnDescriptionBack) {
   EXPECT_EQ(field.accessibleDescription(), "not sent: was 2");
   field.SetPending(std::nullopt);
   EXPECT_EQ(field.accessibleDescription(), "in steps");
+}
+
+TEST(NotSent, AControlKeepsItsOwnDescriptionAndToolTip) {
+  TestWindow window;
+  auto* option = window.Add<QRadioButton>("");
+  window.Show();
+  option->setAccessibleDescription("Buzzer");
+  option->setToolTip("The two controllers differ");
+  MarkNotSent(*option, "ON");
+  MarkNotSent(*option, "OFF");
+  EXPECT_EQ(option->accessibleDescription(), "Buzzer, not sent: was OFF");
+  EXPECT_EQ(NoteOfNotSent(*option), "not sent: was OFF");
+  QHelpEvent help(QEvent::ToolTip, {}, option->mapToGlobal(QPoint()));
+  QApplication::sendEvent(option, &help);
+  EXPECT_EQ(QToolTip::text(), "The two controllers differ\nnot sent: was OFF");
+  MarkNotSent(*option, std::nullopt);
+  EXPECT_EQ(option->accessibleDescription(), "Buzzer");
+  EXPECT_EQ(NoteOfNotSent(*option), "");
+}
+
+TEST(NotSent, APlaceKeepsItsDotWithItsAddress) {
+  TurretDrawing turret(PlaceKind::Condensers);
+  turret.SetItems({{"C1", "C1", {}, 1}, {"C3", "C3", {}, 3}});
+  turret.SetPending({{3, "C2"}});
+  turret.SetItem(1, {"C4", "C4", {}, 3});
+  EXPECT_EQ(turret.place(1)->accessibleDescription(), "not sent: was C2");
+  turret.SetItems({{"C3", "C3", {}, 3}, {"C4", "C4", {}, 4}});
+  EXPECT_EQ(turret.placeOf(3), 0);
+  EXPECT_EQ(turret.placeOf(1), -1);
+  EXPECT_EQ(turret.place(0)->accessibleDescription(), "not sent: was C2");
+  EXPECT_EQ(turret.place(1)->accessibleDescription(), "");
+  turret.SetPending({});
+  EXPECT_EQ(turret.place(0)->accessibleDescription(), "");
+}
+
+TEST(NotSent, ATabThatIsMadeAnewHasNoDot) {
+  TabStrip tabs;
+  tabs.SetNumberedTabs(2);
+  tabs.SetTabPending(1, true);
+  EXPECT_TRUE(tabs.isTabPending(1));
+  EXPECT_FALSE(tabs.isTabPending(0));
+  tabs.SetNumberedTabs(2);
+  EXPECT_FALSE(tabs.isTabPending(1));
 }
 
 TEST(NotSent, ARowWithADotIsAsWideAsItsTextAndTheDot) {
