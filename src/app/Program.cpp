@@ -35,6 +35,8 @@ NumberFormat FormatOf(const QLocale& locale) {
 int ShowForm(QApplication& application, SessionLibrary& session,
              const std::vector<std::string>& arguments, const ProgramKind& kind) {
   QApplication::setApplicationName(QLatin1String(kind.title));
+  // The desktop finds the entry of the program by this name, and its icon by the entry.
+  QApplication::setDesktopFileName(QLatin1String(kind.name));
   ApplyTheme(application);
   SetSystemNumberFormat(FormatOf(QLocale::system()));
   QtPrompts prompts(SleepMilliseconds);
