@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
 #include "switches/SwitchFunctions.h"
 #include "widgets/ComboBox.h"
@@ -247,7 +246,9 @@ TEST_F(BodyFunctions, TheReportNamesCodeThreeAsZEscapeAlthoughThePageDoesNot) {
   ClickRow(*page.ListView1, 5);
   ChooseRow(*page.ComboFunction, 1);
   EXPECT_EQ(cell(5), "Z Focus Knob Speed Change");
-  EXPECT_NE(rig.k70().Modify().find("Switch Function[6] Z Escape"), std::string::npos);
+  std::string report;
+  EXPECT_EQ(unit().ModifySdk(report), "");
+  EXPECT_NE(report.find("Switch Function[6] Z Escape"), std::string::npos) << report;
 }
 
 TEST_F(BodyFunctions, AnEditAsksTheControllerNothing) {

@@ -7,7 +7,6 @@
 
 #include "drawings/SwitchDrawing.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
 #include "switches/FunctionNames.h"
 #include "widgets/ComboBox.h"

@@ -2,19 +2,16 @@
 #include <gtest/gtest.h>
 
 #include <QPointer>
-#include <filesystem>
 
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
-#include "support/TempFolder.h"
 #include "widgets/ComboBox.h"
 
 namespace mortane::test {
 namespace {
 
 using Names = std::vector<std::string>;
-using MakePage = SwitchRowsCtl* (*)(clsK70&);
+using MakePage = SwitchRowsCtl* (*)(SwitchPageUnits&);
 
 struct BoxRow {
   const char* name;
@@ -33,11 +30,11 @@ std::string NameOf(const testing::TestParamInfo<BoxRow>& row) {
   return row.param.name;
 }
 
-SwitchRowsCtl* Body(clsK70& k70) {
+SwitchRowsCtl* Body(SwitchPageUnits& k70) {
   return MakeSwitchSettingCtl(k70);
 }
 
-SwitchRowsCtl* Hand(clsK70& k70) {
+SwitchRowsCtl* Hand(SwitchPageUnits& k70) {
   return MakeTactorSwitchSettingCtl(k70);
 }
 
@@ -88,14 +85,16 @@ class DestroyedInAFileCommand : public testing::Test {
     };
   }
 
-  TempFolder folder;
+  static constexpr const char* kFile = "hand.xml";
+  static constexpr const char* kBadFile = "the file is bad";
+
   PageRig rig{"Harbour"};
   QPointer<TactorSwitchSettingCtl> page = &rig.Show(MakeTactorSwitchSettingCtl(rig.k70()));
 };
 
 TEST_F(DestroyedInAFileCommand, WhileTheNameIsAskedForNothingIsReadOrWritten) {
   DestroyAt("open");
-  rig.prompts.ExpectFileToOpen(folder.Path("missing.xml"));
+  rig.prompts.ExpectFileToOpen(kFile);
   ClickButton(*page->btnReadFileOpen);
   EXPECT_TRUE(page.isNull());
   EXPECT_EQ(rig.prompts.Log(), Names{"open"});
@@ -103,17 +102,17 @@ TEST_F(DestroyedInAFileCommand, WhileTheNameIsAskedForNothingIsReadOrWritten) {
 
 TEST_F(DestroyedInAFileCommand, WhileTheNameToSaveIsAskedForNothingIsWritten) {
   DestroyAt("save");
-  rig.prompts.ExpectFileToSave(folder.Path("saved.xml"));
+  rig.prompts.ExpectFileToSave(kFile);
   ClickButton(*page->Command1);
   EXPECT_TRUE(page.isNull());
   EXPECT_EQ(rig.prompts.Log(), (Names{"save", "flush"}));
-  EXPECT_FALSE(std::filesystem::exists(folder.Path("saved.xml")));
 }
 
 TEST_F(DestroyedInAFileCommand, WhileABadFileIsToldOfThePageIsNotLoaded) {
   DestroyAt("box");
-  rig.prompts.ExpectFileToOpen(folder.Path("missing.xml"));
-  rig.prompts.ExpectBox("Can't Load Xml", box::kOk);
+  rig.k70().readFile = [this](const std::string&) { rig.prompts.MsgBox(kBadFile, box::kOk); };
+  rig.prompts.ExpectFileToOpen(kFile);
+  rig.prompts.ExpectBox(kBadFile, box::kOk);
   ClickButton(*page->btnReadFileOpen);
   EXPECT_TRUE(page.isNull());
   EXPECT_TRUE(rig.prompts.AllAnswersUsed());
@@ -121,8 +120,9 @@ TEST_F(DestroyedInAFileCommand, WhileABadFileIsToldOfThePageIsNotLoaded) {
 
 TEST_F(DestroyedInAFileCommand, WhileAFailedWriteIsToldOfInputIsDroppedAllTheSame) {
   DestroyAt("box");
-  rig.prompts.AcceptAnyBox();
-  rig.prompts.ExpectFileToSave(folder.Path("no folder/saved.xml"));
+  rig.k70().writeFile = [this](const std::string&) { rig.prompts.MsgBox(kBadFile, box::kOk); };
+  rig.prompts.ExpectFileToSave(kFile);
+  rig.prompts.ExpectBox(kBadFile, box::kOk);
   ClickButton(*page->Command1);
   EXPECT_TRUE(page.isNull());
   EXPECT_EQ(rig.prompts.Log().back(), "flush");

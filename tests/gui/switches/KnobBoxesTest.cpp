@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
 #include "widgets/ComboBox.h"
 
@@ -57,7 +56,7 @@ void Act(SwitchRowsCtl& page, int pushRow, const std::string& act) {
   }
 }
 
-void ExpectBoxes(const KnobRow& row, SwitchRowsCtl* (*make)(clsK70& k70), int pushRow) {
+void ExpectBoxes(const KnobRow& row, SwitchRowsCtl* (*make)(SwitchPageUnits& k70), int pushRow) {
   PageRig rig(row.bench);
   SetCodes(rig.k70().curSwitch, 0);
   SetCodes(rig.k70().curTactor, 0);
@@ -79,7 +78,8 @@ class BodyKnobs : public testing::TestWithParam<KnobRow> {};
 
 TEST_P(BodyKnobs, AreToldOfOnceEach) {
   ExpectBoxes(
-      GetParam(), [](clsK70& k70) -> SwitchRowsCtl* { return MakeSwitchSettingCtl(k70); }, 9);
+      GetParam(), [](SwitchPageUnits& k70) -> SwitchRowsCtl* { return MakeSwitchSettingCtl(k70); },
+      9);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -122,7 +122,8 @@ class TactorKnobs : public testing::TestWithParam<KnobRow> {};
 
 TEST_P(TactorKnobs, AreToldOfOnceEach) {
   ExpectBoxes(
-      GetParam(), [](clsK70& k70) -> SwitchRowsCtl* { return MakeTactorSwitchSettingCtl(k70); }, 5);
+      GetParam(),
+      [](SwitchPageUnits& k70) -> SwitchRowsCtl* { return MakeTactorSwitchSettingCtl(k70); }, 5);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -150,9 +151,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 // A dial's function tells of no knob.
 TEST(KnobsAndDials, HaveNothingToDoWithEachOther) {
-  for (SwitchRowsCtl* (*make)(clsK70&) :
-       {+[](clsK70& k70) -> SwitchRowsCtl* { return MakeSwitchSettingCtl(k70); },
-        +[](clsK70& k70) -> SwitchRowsCtl* { return MakeTactorSwitchSettingCtl(k70); }}) {
+  for (SwitchRowsCtl* (*make)(SwitchPageUnits&) :
+       {+[](SwitchPageUnits& k70) -> SwitchRowsCtl* { return MakeSwitchSettingCtl(k70); },
+        +[](SwitchPageUnits& k70) -> SwitchRowsCtl* { return MakeTactorSwitchSettingCtl(k70); }}) {
     PageRig rig("Harbour");
     SetCodes(rig.k70().curSwitch, 0);
     SetCodes(rig.k70().curTactor, 0);

@@ -1,7 +1,6 @@
 // The drill of the pages of the switches.
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
 #include "support/Rows.h"
 #include "support/ScriptedJoystick.h"
@@ -10,20 +9,20 @@
 namespace mortane::test {
 namespace {
 
-std::function<std::string(clsK70&)> BodyCode(std::int16_t position) {
-  return [=](clsK70& k70) { return std::to_string(k70.curSwitch.Func(position)); };
+std::function<std::string(SwitchPageUnits&)> BodyCode(std::int16_t position) {
+  return [=](SwitchPageUnits& k70) { return std::to_string(k70.curSwitch.Func(position)); };
 }
 
-std::function<void(clsK70&)> PutBodyCode(std::int16_t position, std::int16_t code) {
-  return [=](clsK70& k70) { k70.curSwitch.Func(position, code); };
+std::function<void(SwitchPageUnits&)> PutBodyCode(std::int16_t position, std::int16_t code) {
+  return [=](SwitchPageUnits& k70) { k70.curSwitch.Func(position, code); };
 }
 
-std::function<std::string(clsK70&)> HandCode(std::int16_t position) {
-  return [=](clsK70& k70) { return std::to_string(k70.curTactor.Func(position)); };
+std::function<std::string(SwitchPageUnits&)> HandCode(std::int16_t position) {
+  return [=](SwitchPageUnits& k70) { return std::to_string(k70.curTactor.Func(position)); };
 }
 
-std::function<void(clsK70&)> PutHandCode(std::int16_t position, std::int16_t code) {
-  return [=](clsK70& k70) { k70.curTactor.Func(position, code); };
+std::function<void(SwitchPageUnits&)> PutHandCode(std::int16_t position, std::int16_t code) {
+  return [=](SwitchPageUnits& k70) { k70.curTactor.Func(position, code); };
 }
 
 AccessibleControl Button(std::string caption) {
@@ -139,18 +138,18 @@ PageDrillData Tactor() {
       {"ListView1", PutHandCode(3, 41), HandCode(3), "L (A)\tDIC <-> Brightfield"},
       {"ListView1", PutHandCode(3, 52), HandCode(3), "L (A)\t"},
       {"textSW", PutHandCode(3, 4), HandCode(3), "L (A)"},
-      {"OptMode_1", [](clsK70& k70) { k70.curTactor.ControlMode = 1; },
-       [](clsK70& k70) { return std::to_string(k70.curTactor.ControlMode); }, "on"},
-      {"optHandle_1", [](clsK70& k70) { k70.curTactor.HandleMode = 1; },
-       [](clsK70& k70) { return std::to_string(k70.curTactor.HandleMode); }, "on"},
+      {"OptMode_1", [](SwitchPageUnits& k70) { k70.curTactor.ControlMode = 1; },
+       [](SwitchPageUnits& k70) { return std::to_string(k70.curTactor.ControlMode); }, "on"},
+      {"optHandle_1", [](SwitchPageUnits& k70) { k70.curTactor.HandleMode = 1; },
+       [](SwitchPageUnits& k70) { return std::to_string(k70.curTactor.HandleMode); }, "on"},
   };
   data.edits = {
       {"ComboFunction", "Z Escape", HandCode(3), "4"},
       {"cmdAllClear", "All Clear", HandCode(9), "0"},
-      {"OptMode_1", "Extend", [](clsK70& k70) { return std::to_string(k70.curTactor.ControlMode); },
-       "1"},
-      {"optHandle_1", "Left", [](clsK70& k70) { return std::to_string(k70.curTactor.HandleMode); },
-       "1"},
+      {"OptMode_1", "Extend",
+       [](SwitchPageUnits& k70) { return std::to_string(k70.curTactor.ControlMode); }, "1"},
+      {"optHandle_1", "Left",
+       [](SwitchPageUnits& k70) { return std::to_string(k70.curTactor.HandleMode); }, "1"},
   };
   data.enabling = {{"frmHandle", "Harbour", {}, true},
                    {"frmHandle", "Hub", {}, false},
@@ -194,7 +193,7 @@ PageDrillData Tactor() {
 }
 
 // Both must outlive the page.
-JoypadSwitchSettingCtl* MakeJoypadSwitchSettingCtl(clsK70&) {
+JoypadSwitchSettingCtl* MakeJoypadSwitchSettingCtl(SwitchPageUnits&) {
   static const TempFolder folder;
   static ScriptedJoystick joystick;
   return new JoypadSwitchSettingCtl(joystick, folder.Path(""));

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
 #include "widgets/OptionGroup.h"
 
@@ -14,7 +13,7 @@ namespace {
 using Names = std::vector<std::string>;
 
 struct Held {
-  explicit Held(clsK70& k70)
+  explicit Held(SwitchPageUnits& k70)
       : body(CodesOf(k70.curSwitch)),
         hand(CodesOf(k70.curTactor)),
         modes{k70.curTactor.ControlMode, k70.curTactor.HandleMode, k70.COther.curAutoZ,
@@ -26,26 +25,10 @@ struct Held {
   std::vector<std::int32_t> modes;
 };
 
-// Connected and received, whatever boxes that brings about.
-struct BenchRig : PageRig {
-  explicit BenchRig(std::string_view bench) : BenchRig(benches::Named(bench)) {}
-  explicit BenchRig(Bench bench) : PageRig(std::move(bench), Link::None) {
-    prompts.AcceptAnyBox();
-    Receive(static_cast<std::int32_t>(simulated.bench().instruments.size()) - 1);
-    prompts.ClearRecords();
-    journal.Clear();
-  }
-
-  void Receive(std::int32_t device) {
-    ASSERT_TRUE(k70().Connect(device));
-    k70().Receive();
-  }
-};
-
 class SwitchesOfBenches : public testing::TestWithParam<std::string> {};
 
 TEST_P(SwitchesOfBenches, LoadingLeavesTheModelAsItIs) {
-  BenchRig rig(GetParam());
+  PageRig rig(GetParam(), Link::Reported);
   const Held before(rig.k70());
   auto& body = rig.Show(MakeSwitchSettingCtl(rig.k70()));
   const std::unique_ptr<TactorSwitchSettingCtl> tactor(MakeTactorSwitchSettingCtl(rig.k70()));
@@ -67,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(Benches, SwitchesOfBenches, testing::ValuesIn(benches::
                          });
 
 TEST(SwitchesOfAttic, ShowWhatOddCodesLeave) {
-  BenchRig rig("Attic");
+  PageRig rig("Attic", Link::Reported);
   auto& page = rig.Show(MakeSwitchSettingCtl(rig.k70()));
   EXPECT_EQ(Column(*page.ListView1, 1),
             (Names{"", "-----------------", "Objective CW/CCW", "Objective CW/CCW",
@@ -75,10 +58,11 @@ TEST(SwitchesOfAttic, ShowWhatOddCodesLeave) {
 }
 
 TEST(SwitchesOfSeveral, ShowTheDeviceThatWasConnectedLast) {
-  BenchRig rig(List({"Attic", "Harbour", "Hub"}));
+  PageRig rig(List({"Attic", "Harbour", "Hub"}));
   auto& page = rig.Show(MakeTactorSwitchSettingCtl(rig.k70()));
   const auto receive = [&](std::int32_t device) {
-    rig.Receive(device);
+    rig.k70().Connect(device);
+    rig.k70().Receive();
     page.LoadData();
   };
   EXPECT_FALSE(page.frmHandle->isEnabled());

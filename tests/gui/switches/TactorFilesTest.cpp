@@ -1,12 +1,8 @@
 // The hand controller's data file, opened and saved from its page.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
-#include "support/TempFolder.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/TabStrip.h"
 
@@ -18,26 +14,24 @@ using Names = std::vector<std::string>;
 class TactorFiles : public testing::Test {
  protected:
   clsControlTactor& unit() { return rig.k70().curTactor; }
-  // Codes 13 down to 0, in the extended mode with the knob on the left.
-  std::string WriteOther() const {
-    std::string text = "<Setup><TACTOR><SWITCH><SETTING MODE=\"1\" HANDLE=\"1\"/>";
-    for (int i = 1; i <= 14; ++i) {
-      text += "<SWITCH POSITION=\"" + std::to_string(i) + "\" FUNCTION=\"" +
-              std::to_string(14 - i) + "\"/>";
-    }
-    return folder.Write("other.xml", text + "</SWITCH></TACTOR></Setup>");
-  }
 
-  TempFolder folder;
+  static constexpr const char* kFile = "hand.xml";
+
   PageRig rig{"Harbour"};
   TactorSwitchSettingCtl& page = rig.Show(MakeTactorSwitchSettingCtl(rig.k70()));
 };
 
 TEST_F(TactorFiles, AreOpenedIntoUnitAndPage) {
-  const std::string path = WriteOther();
-  rig.prompts.ExpectFileToOpen(path);
+  std::string opened;
+  rig.k70().readFile = [&](const std::string& path) {
+    opened = path;
+    SetCodes(unit(), 11);
+    unit().ControlMode = unit().HandleMode = 1;
+  };
+  rig.prompts.ExpectFileToOpen(kFile);
   ClickButton(*page.btnReadFileOpen);
-  EXPECT_EQ(CodesOf(unit()), (std::vector<int>{13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0}));
+  EXPECT_EQ(opened, kFile);
+  EXPECT_EQ(CodesOf(unit()), std::vector<int>(14, 11));
   EXPECT_EQ(unit().ControlMode, 1);
   EXPECT_EQ(unit().HandleMode, 1);
   EXPECT_TRUE(page.OptMode->button(1)->isChecked());
@@ -58,18 +52,21 @@ TEST_F(TactorFiles, AreAskedForAsXmlFilesThatAreThere) {
 }
 
 TEST_F(TactorFiles, AreSavedAfterAQuestionAndInputIsDropped) {
-  const std::string path = folder.Path("saved.xml");
-  unit().Func(12, 51);
-  rig.prompts.ExpectFileToSave(path);
+  std::string saved;
+  Names before;
+  rig.k70().writeFile = [&](const std::string& path) {
+    saved = path;
+    before = rig.prompts.Log();
+  };
+  rig.prompts.ExpectFileToSave(kFile);
   ClickButton(*page.Command1);
   const FileQuestion& question = rig.prompts.FileQuestions().at(0);
   EXPECT_EQ(question.flags, 2050);
   EXPECT_EQ(question.filter, "XML File (*.xml)|*.xml");
   EXPECT_EQ(question.defaultExtension, ".xml");
+  EXPECT_EQ(saved, kFile);
   EXPECT_EQ(rig.prompts.Log(), (Names{"save", "flush"}));
-  unit().Func(12, 0);
-  rig.k70().Tactor_ReadXML(path);
-  EXPECT_EQ(unit().Func(12), 51);
+  EXPECT_EQ(before, Names{"save"}) << "input is dropped after the saving";
 }
 
 TEST_F(TactorFiles, CancellingChangesNothing) {
@@ -83,46 +80,26 @@ TEST_F(TactorFiles, CancellingChangesNothing) {
   ClickButton(*page.Command1);
   EXPECT_EQ(CodesOf(unit()), before);
   EXPECT_EQ(rig.prompts.Log(), (Names{"open", "save", "flush"}));
-  EXPECT_TRUE(std::filesystem::is_empty(folder.Path("")));
 }
 
 TEST_F(TactorFiles, ThatCannotBeReadAreToldAndThePageIsLoaded) {
   const std::vector<int> before = CodesOf(unit());
-  const std::string missing = folder.Path("missing.xml");
-  const std::string other = folder.Write("other.xml", "<Settings/>");
-  for (const auto& [path, text] : {std::pair{missing, std::string("Can't Load Xml")},
-                                   std::pair{other, other + " Other Format"}}) {
-    page.btnNewFileOpen->click();
-    rig.prompts.ExpectFileToOpen(path);
-    rig.prompts.ExpectBox(text, box::kOk);
-    ClickButton(*page.btnReadFileOpen);
-    EXPECT_TRUE(rig.prompts.AllAnswersUsed()) << text;
-    EXPECT_EQ(CodesOf(unit()), before) << text;
-    EXPECT_EQ(page.TabSwitch->count(), 1) << text;
-  }
-}
-
-TEST_F(TactorFiles, WithRefusedValuesAreToldInOneLine) {
-  const std::string path = folder.Write("bad.xml",
-                                        "<Setup><TACTOR><SWITCH><SETTING MODE=\"2\" HANDLE=\"1\"/>"
-                                        "<SWITCH POSITION=\"15\" FUNCTION=\"3\"/>"
-                                        "<SWITCH POSITION=\"3\" FUNCTION=\"52\"/>"
-                                        "</SWITCH></TACTOR></Setup>");
-  rig.prompts.ExpectBox("Tactor[ Mode ]Tactor[15]", box::kOk, Answer::Ok, "Tactor_XML Read");
-  rig.prompts.ExpectFileToOpen(path);
+  rig.k70().readFile = [&](const std::string& path) { rig.prompts.MsgBox(path, box::kOk); };
+  page.btnNewFileOpen->click();
+  rig.prompts.ExpectFileToOpen(kFile);
+  rig.prompts.ExpectBox(kFile, box::kOk);
   ClickButton(*page.btnReadFileOpen);
-  EXPECT_EQ(unit().HandleMode, 1);
-  EXPECT_EQ(unit().Func(3), 52);
-  EXPECT_EQ(page.ListView1->cell(1, 1), "");
+  EXPECT_TRUE(rig.prompts.AllAnswersUsed());
+  EXPECT_EQ(CodesOf(unit()), before);
+  EXPECT_EQ(page.TabSwitch->count(), 1);
 }
 
-TEST_F(TactorFiles, ThatCannotBeWrittenAreTold) {
-  rig.prompts.AcceptAnyBox();
-  rig.prompts.ExpectFileToSave(folder.Path("no folder/saved.xml"));
+TEST_F(TactorFiles, ThatCannotBeWrittenAreToldBeforeInputIsDropped) {
+  rig.k70().writeFile = [&](const std::string& path) { rig.prompts.MsgBox(path, box::kCritical); };
+  rig.prompts.ExpectFileToSave(kFile);
+  rig.prompts.ExpectBox(kFile, box::kCritical);
   ClickButton(*page.Command1);
-  ASSERT_EQ(rig.prompts.Boxes().size(), 1U);
-  EXPECT_TRUE(rig.prompts.Boxes()[0].text.starts_with("XML Tactor DataFile Write Error\r\n"));
-  EXPECT_EQ(rig.prompts.Boxes()[0].style, box::kCritical);
+  EXPECT_TRUE(rig.prompts.AllAnswersUsed());
   EXPECT_EQ(rig.prompts.Log().back(), "flush");
 }
 

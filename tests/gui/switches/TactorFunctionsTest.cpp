@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
 #include "switches/SwitchFunctions.h"
 #include "widgets/ComboBox.h"

@@ -6,7 +6,6 @@
 
 #include "drawings/SwitchDrawing.h"
 #include "gui/support/PageActs.h"
-#include "gui/support/PageRig.h"
 #include "gui/switches/SwitchPages.h"
 #include "switches/FunctionNames.h"
 #include "widgets/ComboBox.h"
@@ -119,7 +118,7 @@ TEST_F(TactorPageTest, KeepsAndSendsTheCodesOfPageBInStandardMode) {
   Click(page.OptMode, kStandard);
   for (std::int16_t i = 10; i <= 14; ++i) EXPECT_EQ(unit().Func(i), 40 + i);
   rig.journal.Clear();
-  rig.k70().Send();
+  EXPECT_EQ(unit().WriteSdk(), "");
   for (const char* position : {"A", "B", "C", "D", "E"}) {
     const std::string call =
         std::string("ControllerSettings.SetSwitchFunction(4, \"") + position + "\"";
