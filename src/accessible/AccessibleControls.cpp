@@ -38,7 +38,7 @@ AccessibleButton::AccessibleButton(QAbstractButton* button, QAccessible::Role ro
     : AccessibleControl(button, role), button_(*button) {}
 
 QString AccessibleButton::text(QAccessible::Text part) const {
-  const QString told = AccessibleControl::text(part);
+  QString told = AccessibleControl::text(part);
   if (!told.isEmpty()) return told;
   if (part == QAccessible::Name) return WithoutMnemonic(button_.text());
   if (part == QAccessible::Accelerator)
@@ -100,8 +100,9 @@ bool AccessiblePageButton::isChosen() const {
 AccessibleToggle::AccessibleToggle(CheckToggle* toggle)
     : AccessibleButton(toggle, QAccessible::CheckBox), toggle_(*toggle) {}
 
-// The caption is no name.
+// A button's text would give the caption as the name.
 QString AccessibleToggle::text(QAccessible::Text part) const {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call)
   return part == QAccessible::Value ? toggle_.text() : AccessibleControl::text(part);
 }
 

@@ -37,7 +37,7 @@ QIcon DotIcon(const QWidget& widget) {
   pixmap.setDevicePixelRatio(widget.devicePixelRatioF());
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
-  const QPalette palette = widget.palette();
+  const QPalette& palette = widget.palette();
   DrawPendingDot(painter, {kSide / 2.0, kSide / 2.0}, palette.color(QPalette::Link),
                  palette.color(QPalette::Window));
   return pixmap;
