@@ -5,17 +5,13 @@
 # tools/tour.sh PROGRAM WIZARD FOLDER
 # The palette is asked of the programs by MORTANE_SCHEME, which stands in for the system's.
 set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/display.sh"
 
 program="$1"
 wizard="$2"
 folder="$3"
 width=1152
 height=740
-
-fail() {
-  echo "tour: $1" >&2
-  exit 1
-}
 
 work="$(mktemp -d)"
 # Where no session has left the place of its window.
@@ -29,46 +25,6 @@ cleanup() {
   rm -rf "$work"
 }
 trap cleanup EXIT
-
-# The server chooses a free display and tells its number. Without -noreset it would start afresh
-# whenever its last client leaves, under the feet of a program that is just connecting.
-start_server() {
-  Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp -noreset 3>"$work/display" >/dev/null 2>&1 &
-  server=$!
-  for _ in {1..100}; do
-    [[ ! -s "$work/display" ]] || break
-    sleep 0.1
-  done
-  [[ -s "$work/display" ]] || fail "no virtual display"
-  DISPLAY=":$(<"$work/display")"
-  export DISPLAY
-}
-
-# Windows of the program that are on the display; its title is theirs.
-windows() {
-  xdotool search --onlyvisible --name "^$title\$" 2>/dev/null || true
-}
-
-# Waits for that many windows. The smallest one, a box where there is one, goes into `box`, the
-# largest one into `main`.
-await_windows() {
-  local found
-  for _ in {1..100}; do
-    mapfile -t found < <(windows)
-    if [[ ${#found[@]} -eq "$1" ]]; then
-      mapfile -t found < <(for window in "${found[@]}"; do
-        xdotool getwindowgeometry --shell "$window" |
-          awk -F= -v id="$window" '/^(WIDTH|HEIGHT)/ {n = n ? n * $2 : $2} END {print n, id}'
-      done | sort -n | cut -d' ' -f2)
-      box="${found[0]}"
-      main="${found[-1]}"
-      return 0
-    fi
-    kill -0 "$guest" 2>/dev/null || fail "the program has ended: $(<"$work/errors")"
-    sleep 0.1
-  done
-  fail "${#found[@]} windows instead of $1"
-}
 
 # The window as it stands once two pictures in a row are the same.
 take_picture() {
@@ -105,15 +61,6 @@ start_guest() {
   await_windows 1
   # What is typed or clicked while the window loads its pages is dropped.
   sleep 1
-}
-
-# Out by the keys given, as a person leaves.
-leave_guest() {
-  xdotool key "$@"
-  await_windows 2
-  xdotool windowfocus --sync "$box" key Return
-  wait "$guest" || fail "the program ended with $?: $(<"$work/errors")"
-  guest=
 }
 
 # Pictures of the sections of the page on show but the first. The bar of sections follows the page
