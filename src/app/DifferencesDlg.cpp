@@ -21,7 +21,7 @@ namespace {
 constexpr QSize kSize{680, 420};
 constexpr int kButtonWidth = 96;
 constexpr int kColumns = 3;
-constexpr int kPageRole = Qt::UserRole;
+constexpr int kChangeRole = Qt::UserRole;
 
 QStringList Cells(const ItemChange& change, const DifferencesDlg::Content& content) {
   return {QString::fromStdString(NameInWords(change.to.key, change.to.kind)),
@@ -63,11 +63,15 @@ std::array<QPushButton*, 3> DifferencesDlg::Buttons() const {
 void DifferencesDlg::Fill(const Content& content) {
   const QSize room(0, GridHeight(grid::kRowHeight, *List1));
   QTreeWidgetItem* page = nullptr;
-  for (const ItemChange& change : content.changes) {
-    const auto index = static_cast<int>(PageOf(change.to.key));
-    if (page == nullptr || page->data(0, kPageRole).toInt() != index) {
-      page = new QTreeWidgetItem(List1, {content.pageTitles.at(static_cast<std::size_t>(index))});
-      page->setData(0, kPageRole, index);
+  std::size_t pageBefore = 0;
+  for (std::size_t i = 0; i < content.changes.size(); ++i) {
+    const ItemChange& change = content.changes[i];
+    const std::size_t index = PageOf(change.to.key);
+    const auto number = QVariant::fromValue(static_cast<uint>(i));
+    if (page == nullptr || pageBefore != index) {
+      pageBefore = index;
+      page = new QTreeWidgetItem(List1, {content.pageTitles.at(index)});
+      page->setData(0, kChangeRole, number);
       page->setFont(0, BoldFont());
       page->setSizeHint(0, room);
       page->setFirstColumnSpanned(true);
@@ -75,7 +79,7 @@ void DifferencesDlg::Fill(const Content& content) {
     }
     const QStringList cells = Cells(change, content);
     auto* row = new QTreeWidgetItem(page, cells);
-    row->setData(0, kPageRole, index);
+    row->setData(0, kChangeRole, number);
     row->setSizeHint(0, room);
     for (int column = 0; column < kColumns; ++column) row->setToolTip(column, cells[column]);
   }
@@ -117,7 +121,7 @@ void DifferencesDlg::Copy() {
 }
 
 void DifferencesDlg::GoTo(const QTreeWidgetItem& row) {
-  chosen_ = row.data(0, kPageRole).toUInt();
+  chosen_ = row.data(0, kChangeRole).toUInt();
   accept();
 }
 

@@ -17,7 +17,7 @@ class QTreeWidgetItem;
 namespace mortane {
 
 // Rows stand under the captions of their pages. Enter or a double click on a row closes the dialog
-// and goes to the page.
+// and goes to the item.
 class DifferencesDlg : public QDialog {
  public:
   struct Content {
@@ -30,8 +30,8 @@ class DifferencesDlg : public QDialog {
 
   explicit DifferencesDlg(const Content& content, QWidget* parent = nullptr);
 
-  // The page of the row that was gone to.
-  [[nodiscard]] std::optional<std::size_t> ChosenPage() const { return chosen_; }
+  // The change of the row that was gone to, by its index; of a caption the first one of its page.
+  [[nodiscard]] std::optional<std::size_t> ChosenChange() const { return chosen_; }
 
   Control<QTreeWidget> List1{"List1"};
   Control<QPushButton> ButtonCopy{"ButtonCopy"};

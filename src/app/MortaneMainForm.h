@@ -97,6 +97,7 @@ class MortaneMainForm : public ProgramForm {
   void DoReceive();
   void DoSend();
   void DoShowPending();
+  void GoTo(const ItemChange& change);
   void SaveRecord();
   void DoOpenKept();
   void DoLetKeptGo();

@@ -169,8 +169,16 @@ void MortaneMainForm::DoShowPending() {
   for (const PageRow& row : table_) content.pageTitles.push_back(row.title);
   DifferencesDlg dialog(content, this);
   dialog.exec();
-  const std::optional<std::size_t> page = dialog.ChosenPage();
-  if (page && ImageButton[*page]->isEnabled()) optMenu[*page]->setChecked(true);
+  if (const std::optional<std::size_t> chosen = dialog.ChosenChange()) {
+    GoTo(content.changes[*chosen]);
+  }
+}
+
+void MortaneMainForm::GoTo(const ItemChange& change) {
+  const std::size_t page = PageOf(change.to.key);
+  if (!ImageButton[page]->isEnabled()) return;
+  optMenu[page]->setChecked(true);
+  Marks().GoTo(change, Pending().HeldNames());
 }
 
 void MortaneMainForm::DoExit() {

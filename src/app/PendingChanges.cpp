@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "app/PageTable.h"
 #include "common/Failure.h"
@@ -16,6 +17,14 @@ namespace {
 
 // In the order of the file's sections: the last three stand on the page of the controls.
 constexpr std::array<std::size_t, kFileSections.size()> kPages{0, 1, 2, 3, 4, 5, 5, 5};
+
+constexpr std::string_view kUnknownWord = "Unknown";
+
+ConfigurationItem Unknown(ConfigurationItem item) {
+  item.value = kUnknownWord;
+  item.exact.clear();
+  return item;
+}
 
 }  // namespace
 
@@ -68,13 +77,17 @@ std::vector<ItemChange> PendingChanges::Find() const {
   if (!held_) return {};
   std::vector<ItemChange> changes;
   try {
-    changes = DifferencesOf(held_->items, ItemsOf(k70_)).changed;
+    Differences differences = DifferencesOf(held_->items, ItemsOf(k70_));
+    changes = std::move(differences.changed);
+    // What follows nosepiece, light path and zoom has an entry only while it is known.
+    for (ConfigurationItem& item : differences.onlySecond) {
+      changes.push_back({Unknown(item), std::move(item)});
+    }
   } catch (const Failure&) {
     return {};
   }
   std::erase_if(changes, [this](const ItemChange& change) {
-    const std::string_view transfer = TransferOf(change.to.kind);
-    return IsRepetition(change.to) || transfer.empty() || !k70_.IsSent(transfer);
+    return !IsWrittenWhereItDiffers(k70_, change.to);
   });
   std::stable_sort(changes.begin(), changes.end(), [](const ItemChange& a, const ItemChange& b) {
     return PageOf(a.to.key) < PageOf(b.to.key);
@@ -82,8 +95,8 @@ std::vector<ItemChange> PendingChanges::Find() const {
   return changes;
 }
 
-ItemNames PendingChanges::HeldNames() const {
-  return held_ ? held_->names : ItemNames(k70_);
+const ItemNames& PendingChanges::HeldNames() const {
+  return held_ ? held_->names : noNames_;
 }
 
 }  // namespace mortane

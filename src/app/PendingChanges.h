@@ -29,11 +29,12 @@ class PendingChanges {
   [[nodiscard]] const std::string& Device() const { return device_; }
   [[nodiscard]] const std::optional<ConfigurationState>& HeldState() const { return held_; }
 
-  // In the order of the pages; `from` is what the microscope holds. Only what a Send would run
-  // through. Empty while nothing was received, and for a text that no settings file can hold.
+  // In the order of the pages; `from` is what the microscope holds, unknown where that was not
+  // read. Only what a Send would write. Empty while nothing was received, and for a text that no
+  // settings file can hold.
   [[nodiscard]] std::vector<ItemChange> Find() const;
   // The names that belong to `from`.
-  [[nodiscard]] ItemNames HeldNames() const;
+  [[nodiscard]] const ItemNames& HeldNames() const;
 
  private:
   using Done = bool (clsK70::*)(std::string_view transfer) const;
@@ -42,6 +43,7 @@ class PendingChanges {
 
   const clsK70& k70_;
   std::optional<ConfigurationState> held_;
+  ItemNames noNames_{std::vector<ConfigurationItem>()};
   DomDocument document_;
   std::string device_;
 };

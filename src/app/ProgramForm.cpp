@@ -161,6 +161,7 @@ void ProgramForm::LookForPending() {
   } else if (!unsentTimer_.isActive()) {
     unsentTimer_.start();
   }
+  marks_.Show(changes, pending_.HeldNames());
   ShowPending(changes);
 }
 

@@ -10,6 +10,7 @@
 #include "app/FormServices.h"
 #include "app/Outcome.h"
 #include "app/PendingChanges.h"
+#include "app/PendingMarks.h"
 #include "app/UnsentEdits.h"
 #include "app/WindowPlace.h"
 #include "common/Prompts.h"
@@ -67,6 +68,7 @@ class ProgramForm : public QMainWindow {
   // The edits that are not sent yet, told whenever they may have changed but during a command.
   virtual void ShowPending(const std::vector<ItemChange>& changes) = 0;
   const PendingChanges& Pending() const { return pending_; }
+  PendingMarks& Marks() { return marks_; }
   UnsentEdits& Unsent() { return unsent_; }
   // The model was received, was sent, or has no microscope any more.
   void TakeReceived();
@@ -97,6 +99,7 @@ class ProgramForm : public QMainWindow {
   Control<QLabel> versionPanel_{"StatusBar1_5"};
   ProgressLine* progress_ = nullptr;
   PendingChanges pending_;
+  PendingMarks marks_{*this};
   QTimer pendingTimer_;  // looks once, however much input came at one go
   UnsentEdits unsent_;
   QTimer unsentTimer_{this};

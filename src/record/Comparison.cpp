@@ -21,30 +21,11 @@ constexpr std::string_view kBuzzerOff = "True";
 constexpr std::string_view kBuzzersDiffer = "2";
 constexpr std::string_view kInterlockIsOn = "True";
 constexpr std::string_view kInterlockIsOff = "False";
-constexpr std::int16_t kSkipWithoutCode = 2;
 
 ConfigurationItem Unknown(ConfigurationItem item) {
   item.value = kUnknownWord;
   item.exact.clear();
   return item;
-}
-
-// The controller holds the limits as one number, and the escapes as another: none is written while
-// one of them has no place in it.
-bool LimitsCanBeSent(const clsK70& k70) {
-  const clsLimitation& limits = k70.curLimit;
-  return limits.curIncrease >= 0 && limits.curSkip >= 0 && limits.curImmersion >= 0 &&
-         limits.curSkip != kSkipWithoutCode;
-}
-
-bool EscapesCanBeSent(const clsK70& k70) {
-  return k70.CZDrive.SetEscape(0) <= 1 && k70.CZDrive.SetEscape(1) <= 1;
-}
-
-bool CanBeSent(const clsK70& k70, ItemKind kind) {
-  if (kind == ItemKind::NosepieceLimit) return LimitsCanBeSent(k70);
-  if (kind == ItemKind::FocusEscape || kind == ItemKind::StageEscape) return EscapesCanBeSent(k70);
-  return true;
 }
 
 // The buzzers that a Send commands: those of body, hub and hand controller where there is a body or

@@ -1,9 +1,11 @@
 #include "record/ItemWords.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <span>
 #include <sstream>
+#include <utility>
 
 #include "common/Numbers.h"
 #include "common/Text.h"
@@ -239,20 +241,39 @@ std::optional<SpelledObjective> Spelled(const ConfigurationItem& item) {
                           ShortestGeneral(values.numericalAperture)};
 }
 
+std::vector<ValuePart> PartsOfObjective(const SpelledObjective& spelled, const ItemNames& names) {
+  const auto named = [&](std::string_view name, CodeList list, std::int32_t code) {
+    return ValuePart{name, std::to_string(code), NameOrCode(names, list, code)};
+  };
+  const auto number = [](std::string_view name, const std::string& text) {
+    return ValuePart{name, text, text};
+  };
+  ValuePart condenser = named("DIC / Ph Condenser", CodeList::Condensers, spelled.condenser);
+  if (spelled.condenser == 0) condenser.words = "None";
+  return {named("Series", CodeList::Series, spelled.series),
+          named("Type", CodeList::Types, spelled.type),
+          number("Mag.", spelled.magnification),
+          number("W.D.", spelled.distance),
+          number("N.A.", spelled.aperture),
+          std::move(condenser)};
+}
+
+std::string Joined(const std::vector<ValuePart>& parts) {
+  std::string words;
+  for (const ValuePart& part : parts) {
+    words += (words.empty() ? "" : ", ") + std::string(part.name) + " " + part.words;
+  }
+  return words;
+}
+
 std::string ObjectiveInWords(const ConfigurationItem& item, const ItemNames& names) {
   const std::optional<SpelledObjective> spelled = Spelled(item);
   if (!spelled) return item.value;
   if (spelled->IsEmpty()) return std::string(kNoMagnification);
-  const std::string condenser = spelled->condenser == 0
-                                    ? "None"
-                                    : NameOrCode(names, CodeList::Condensers, spelled->condenser);
-  return "Series " + NameOrCode(names, CodeList::Series, spelled->series) + ", Type " +
-         NameOrCode(names, CodeList::Types, spelled->type) + ", Mag. " + spelled->magnification +
-         ", W.D. " + spelled->distance + ", N.A. " + spelled->aperture + ", DIC / Ph Condenser " +
-         condenser;
+  return Joined(PartsOfObjective(*spelled, names));
 }
 
-std::string CubeInWords(const ConfigurationItem& item, const ItemNames& names) {
+std::vector<ValuePart> PartsOfCube(const ConfigurationItem& item, const ItemNames& names) {
   struct Part {
     std::string_view name;
     CodeList list;
@@ -261,18 +282,24 @@ std::string CubeInWords(const ConfigurationItem& item, const ItemNames& names) {
                                                    {"Dichroic", CodeList::Dichroics},
                                                    {"Barrier", CodeList::Barriers}}};
   constexpr std::size_t kGroup = 4;  // a mark and three digits
-  if (item.value.size() != kGroup * kParts.size()) return item.value;
-  std::string words;
-  bool any = false;
+  if (item.value.size() != kGroup * kParts.size()) return {};
+  std::vector<ValuePart> parts;
   for (std::size_t i = 0; i < kParts.size(); ++i) {
     const std::string digits = item.value.substr(i * kGroup + 1, kGroup - 1);
-    if (!IsNumeric(digits, PointFormat())) return item.value;
+    if (!IsNumeric(digits, PointFormat())) return {};
     const std::int32_t code = ToLong(digits, PointFormat());
-    any = any || code != 0;
-    words += (words.empty() ? "" : ", ") + std::string(kParts[i].name) + " " +
-             NameOrCode(names, kParts[i].list, code);
+    parts.push_back(
+        {kParts[i].name, std::to_string(code), NameOrCode(names, kParts[i].list, code)});
   }
-  return any ? words : std::string(kNoMagnification);
+  return parts;
+}
+
+std::string CubeInWords(const ConfigurationItem& item, const ItemNames& names) {
+  const std::vector<ValuePart> parts = PartsOfCube(item, names);
+  if (parts.empty()) return item.value;
+  const bool empty = std::all_of(parts.begin(), parts.end(),
+                                 [](const ValuePart& part) { return part.value == "0"; });
+  return empty ? std::string(kNoMagnification) : Joined(parts);
 }
 
 std::string FunctionInWords(const std::string& value) {
@@ -327,6 +354,13 @@ std::string ValueInWords(const ConfigurationItem& item, const ItemNames& names) 
       break;
   }
   return item.value;
+}
+
+std::vector<ValuePart> PartsOf(const ConfigurationItem& item, const ItemNames& names) {
+  if (item.kind == CubeCode) return PartsOfCube(item, names);
+  if (item.kind != ObjectiveCode) return {};
+  const std::optional<SpelledObjective> spelled = Spelled(item);
+  return spelled ? PartsOfObjective(*spelled, names) : std::vector<ValuePart>();
 }
 
 std::string InWords(const ConfigurationItem& item, const ItemNames& names) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "record/ConfigurationItems.h"
 #include "record/ItemNames.h"
@@ -16,6 +18,18 @@ std::string NameInWords(const ItemKey& key, ItemKind kind);
 // code without a name is "code 9", a value that is not known "unknown"; what is no value of the
 // item is shown as it stands. Numbers are in the user's format.
 std::string ValueInWords(const ConfigurationItem& item, const ItemNames& names);
+
+// A part of a value that has several.
+struct ValuePart {
+  std::string_view name;
+  std::string value;  // what is compared
+  std::string words;
+};
+
+// Of an optional objective series, type, magnification, distance, aperture and condenser; of an
+// optional cube exciter, dichroic and barrier. None for other items, and for what is no value of
+// the item.
+std::vector<ValuePart> PartsOf(const ConfigurationItem& item, const ItemNames& names);
 
 // "Objective 3: Plan F 20x".
 std::string InWords(const ConfigurationItem& item, const ItemNames& names);

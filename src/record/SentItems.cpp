@@ -124,6 +124,18 @@ bool HasParts(const clsK70& k70, const ConfigurationItem& item) {
   return false;
 }
 
+constexpr std::int16_t kSkipWithoutCode = 2;
+
+bool LimitsCanBeSent(const clsK70& k70) {
+  const clsLimitation& limits = k70.curLimit;
+  return limits.curIncrease >= 0 && limits.curSkip >= 0 && limits.curImmersion >= 0 &&
+         limits.curSkip != kSkipWithoutCode;
+}
+
+bool EscapesCanBeSent(const clsK70& k70) {
+  return k70.CZDrive.SetEscape(0) <= 1 && k70.CZDrive.SetEscape(1) <= 1;
+}
+
 // The list whose record of the user the item belongs to, and the code of position 0.
 struct OptionOf {
   ItemKind kind;
@@ -216,6 +228,18 @@ std::string_view TransferOf(ItemKind kind) {
 bool IsRepetition(const ConfigurationItem& item) {
   return item.kind == NosepieceInterlock &&
          (item.key.position == "OpticalZoom" || item.key.position == "LightPath");
+}
+
+bool CanBeSent(const clsK70& k70, ItemKind kind) {
+  if (kind == ItemKind::NosepieceLimit) return LimitsCanBeSent(k70);
+  if (kind == ItemKind::FocusEscape || kind == ItemKind::StageEscape) return EscapesCanBeSent(k70);
+  return true;
+}
+
+bool IsWrittenWhereItDiffers(const clsK70& k70, const ConfigurationItem& item) {
+  const std::string_view transfer = TransferOf(item.kind);
+  return !transfer.empty() && !IsRepetition(item) && IsKnown(item) && k70.IsSent(transfer) &&
+         HasParts(k70, item) && CanBeSent(k70, item.kind);
 }
 
 std::optional<bool> SentItems::IsFitted(const ConfigurationItem& item) {

@@ -21,6 +21,14 @@ std::string_view TransferOf(ItemKind kind);
 // second time among what follows the nosepiece.
 bool IsRepetition(const ConfigurationItem& item);
 
+// Whether a Send writes the item where its value differs, as far as the model tells: nothing is
+// asked of the controller, and a record of the user counts as there.
+bool IsWrittenWhereItDiffers(const clsK70& k70, const ConfigurationItem& item);
+
+// Whether the controller has a number for what the item belongs to: the limits are held as one
+// number and the escapes as another, and neither is written while one of them has no place in it.
+bool CanBeSent(const clsK70& k70, ItemKind kind);
+
 // What the connected microscope has. Asks the controller for its records of the user, once and
 // only when they are needed.
 class SentItems {

@@ -1,5 +1,6 @@
 #include "widgets/ContainerPage.h"
 
+#include <QAbstractButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -66,6 +67,20 @@ void ContainerPage::SaveData() {
 
 int ContainerPage::CurrentItem() const {
   return sections()->selected();
+}
+
+int ContainerPage::SectionOf(const QWidget& subPage) const {
+  const auto found =
+      std::find_if(sections_.begin(), sections_.end(),
+                   [&subPage](const Section& section) { return section.page == &subPage; });
+  return found == sections_.end() ? -1 : static_cast<int>(found - sections_.begin());
+}
+
+bool ContainerPage::OpenSection(int index) {
+  const QAbstractButton* option = sections()->option(index);
+  if (option == nullptr || !option->isEnabled() || option->isHidden()) return false;
+  sections()->select(index);
+  return true;
 }
 
 SectionBar* ContainerPage::sections() const {

@@ -51,6 +51,10 @@ class ContainerPage : public Page {
   [[nodiscard]] int CurrentItem() const;  // -1 before the first selection
   [[nodiscard]] SectionBar* sections() const;
   [[nodiscard]] Page* shownSubPage() const { return shown_; }
+  [[nodiscard]] int SectionOf(const QWidget& subPage) const;  // -1: none
+  // What a click on the option of a section does; one that is on show stays as it is. False where
+  // its option cannot be clicked.
+  bool OpenSection(int index);
 
   Control<PageHeader> Header{"Header"};
 

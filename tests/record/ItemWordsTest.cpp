@@ -138,6 +138,30 @@ TEST(ItemWords, AreThoseOfThePages) {
   for (const Row& row : rows) EXPECT_EQ(WordsOfFile(row.file), Lines{row.words}) << row.file;
 }
 
+std::string PartsInWords(const std::string& file) {
+  std::string words;
+  for (const ConfigurationItem& item : Items(file)) {
+    for (const ValuePart& part : PartsOf(item, ItemNames(std::vector<ConfigurationItem>()))) {
+      words += std::string(part.name) + "=" + part.value + "=" + part.words + ";";
+    }
+  }
+  return words;
+}
+
+TEST(ItemWords, TellThePartsOfARecord) {
+  EXPECT_EQ(PartsInWords("<FILTER><OPTION POSITION='2' CODE='124120043000'/></FILTER>"),
+            "Exciter=241=code 241;Dichroic=4=code 4;Barrier=0=----;");
+  EXPECT_EQ(PartsInWords("<NOSEPIECE><OPTION POSITION='1' CODE='230FA0C63B65'/></NOSEPIECE>"),
+            "Series=2=code 2;Type=3=code 3;Mag.=25x=25x;W.D.=1.98=1.98;N.A.=0.95=0.95;"
+            "DIC / Ph Condenser=5=code 5;");
+  for (const char* without : {"<FILTER><OPTION POSITION='2' CODE='1x4120043000'/></FILTER>",
+                              "<FILTER><OPTION POSITION='2' CODE='1'/></FILTER>",
+                              "<NOSEPIECE><OPTION POSITION='1' CODE='230FA0C63B6x'/></NOSEPIECE>",
+                              "<NOSEPIECE><ITEM POSITION='1' CODE='3'/></NOSEPIECE>"}) {
+    EXPECT_EQ(PartsInWords(without), "") << without;
+  }
+}
+
 TEST(ItemWords, TakeNamesFromTheFileItself) {
   EXPECT_EQ(WordsOfFile("<NOSEPIECE><ITEM POSITION='1' CODE='241'/>"
                         "<OPTION POSITION='1' NAME='Own 5x'/></NOSEPIECE>"
