@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <optional>
+#include <utility>
 
 #include "app/ApplyTheme.h"
 #include "app/ProgramForm.h"
@@ -32,7 +33,30 @@ NumberFormat FormatOf(const QLocale& locale) {
   return {locale.decimalPoint().toStdString(), locale.groupSeparator().toStdString()};
 }
 
-int ShowForm(QApplication& application, SessionLibrary& session,
+// What the library has to say in the middle of a call is shown when the program is at rest: a box
+// would run its own loop of events.
+class Notices {
+ public:
+  explicit Notices(std::string program) : program_(std::move(program)) {}
+
+  void Add(const std::string& text) { texts_.push_back(text); }
+  void Show() {
+    for (const std::string& text : std::exchange(texts_, {})) ShowStartNotice(program_, text);
+  }
+
+ private:
+  std::string program_;
+  std::vector<std::string> texts_;
+};
+
+LibraryWish WishOf(const ProgramKind& kind, Notices& notices) {
+  LibraryWish wish = WishOfEnvironment();
+  wish.program = VersionText(kind.name);
+  wish.tell = [&notices](const std::string& text) { notices.Add(text); };
+  return wish;
+}
+
+int ShowForm(QApplication& application, SessionLibrary& session, Notices& notices,
              const std::vector<std::string>& arguments, const ProgramKind& kind) {
   QApplication::setApplicationName(QLatin1String(kind.title));
   // The desktop finds the entry of the program by this name, and its icon by the entry.
@@ -46,7 +70,10 @@ int ShowForm(QApplication& application, SessionLibrary& session,
   SystemJoystick joystick;
   clsK70& k70 = ProvideK70(session.Library(), prompts);
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                   &application, [&session] { session.Keep(); });
+                   &application, [&session, &notices] {
+                     session.Keep();
+                     notices.Show();
+                   });
 
   std::unique_ptr<ProgramForm> form =
       kind.makeForm({.k70 = k70,
@@ -77,18 +104,24 @@ int Tell(const ProgramKind& kind, const std::string& answer) {
 int RunProgram(int argc, char** argv, const ProgramKind& kind) {
   // The toolkit takes the options that it knows out of argv.
   StartOptions options;
+  Notices notices(kind.name);
   std::optional<SessionLibrary> session;
   try {
     options = ReadStartOptions(GetCommandLineArray(argc, argv));
     if (options.help) return Tell(kind, HelpText(kind.name, kind.description));
     if (options.version) return Tell(kind, VersionText(kind.name));
-    session.emplace(WishOfEnvironment());
+    session.emplace(WishOf(kind, notices));
   } catch (const Failure& failure) {
     ShowStartNotice(kind.name, failure.Description());
     return kCannotStart;
   }
   QApplication application(argc, argv);
-  return ShowForm(application, *session, options.arguments, kind);
+  notices.Show();
+  const int result = ShowForm(application, *session, notices, options.arguments, kind);
+  // The end of a session that is replayed tells the calls that were not made.
+  session.reset();
+  notices.Show();
+  return result;
 }
 
 }  // namespace mortane

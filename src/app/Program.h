@@ -19,8 +19,8 @@ struct ProgramKind {
 };
 
 // The program's exit code: 2 when it cannot start, for an option that there is not, a bench file
-// that is wrong or a journal that cannot be written; one line on standard error tells why. Help and
-// version are told before anything is opened, and need no display.
+// that is wrong or a session that cannot be replayed; one line on standard error tells why. Help
+// and version are told before anything is opened, and need no display.
 int RunProgram(int argc, char** argv, const ProgramKind& kind);
 
 }  // namespace mortane

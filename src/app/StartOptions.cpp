@@ -36,9 +36,10 @@ constexpr std::array<HelpRow, 2> kArguments{{
     {"/SIM", "Connect the simulated microscope"},
 }};
 
-constexpr std::array<HelpRow, 3> kVariables{{
+constexpr std::array<HelpRow, 4> kVariables{{
     {"MORTANE_BENCH", "A bench file, whose microscopes take the place of the real ones"},
     {"MORTANE_JOURNAL", "A file to whose end every call to the controller is written"},
+    {"MORTANE_REPLAY", "Such a file, which answers in place of the controller"},
     {"MORTANE_SCHEME", "\"light\" or \"dark\", whatever the desktop has"},
 }};
 

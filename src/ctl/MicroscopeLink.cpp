@@ -27,7 +27,11 @@ std::string Joined(const std::vector<std::string>& lines) {
 MicroscopeLink::MicroscopeLink(const MicroscopeChoice& choice, Surroundings& surroundings)
     : choice_(choice), surroundings_(surroundings), prompts_(surroundings) {
   LibraryWish wish = surroundings.library;
-  if (!choice.bench.empty()) wish.bench = choice.bench;
+  if (!choice.bench.empty()) {
+    wish.bench = choice.bench;
+    wish.replay.clear();
+  }
+  wish.tell = [this](const std::string& text) { prompts_.Say(text); };
   wish.notice = [this](const std::string& text) { notKept_ = text; };
   wish.openInstalled = [this, open = wish.openInstalled]() {
     try {

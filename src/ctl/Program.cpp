@@ -73,6 +73,7 @@ int RunProcess(int argc, char** argv) {
   surroundings.sleepMilliseconds = SleepMilliseconds;
   surroundings.backups = Backups::DefaultFolder();
   surroundings.library = WishOfEnvironment();
+  surroundings.library.program = std::string(kProgram) + " " MORTANE_VERSION;
 
   const Outcome outcome = Run(arguments, surroundings);
   if (!buffer.Problem().empty()) {

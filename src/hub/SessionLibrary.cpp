@@ -1,12 +1,12 @@
 #include "hub/SessionLibrary.h"
 
-#include <filesystem>
+#include <iostream>
 
 #include "common/Failure.h"
 #include "common/Numbers.h"
 #include "common/Text.h"
-#include "platform/AtomicFile.h"
 #include "platform/Environment.h"
+#include "platform/SystemDescription.h"
 
 namespace mortane {
 namespace {
@@ -20,24 +20,59 @@ std::string ComplaintOf(const Failure& failure) {
          "Until then only the simulated microscope is there, with \"/SIM\" on the command line.";
 }
 
-std::ofstream OpenAtEnd(const std::string& utf8Path) {
-  const std::filesystem::path path(std::u8string(utf8Path.begin(), utf8Path.end()));
-  std::ofstream file(path, std::ios::app | std::ios::binary);
-  if (!file) RaiseOwnFailure(kFileError, "Cannot write " + utf8Path);
-  return file;
+void WriteLine(const std::string& text) {
+  std::cerr << "mortane: " << text << '\n';
 }
 
 }  // namespace
 
 LibraryWish WishOfEnvironment() {
-  return {EnvironmentVariable("MORTANE_BENCH"), EnvironmentVariable("MORTANE_JOURNAL")};
+  LibraryWish wish;
+  wish.bench = EnvironmentVariable("MORTANE_BENCH");
+  wish.journal = EnvironmentVariable("MORTANE_JOURNAL");
+  wish.replay = EnvironmentVariable("MORTANE_REPLAY");
+  return wish;
 }
 
-SessionLibrary::SessionLibrary(const LibraryWish& wish) {
-  if (!wish.journal.empty()) journal_ = OpenAtEnd(wish.journal);
+SessionLibrary::SessionLibrary(const LibraryWish& wish) : tell_(wish.tell ? wish.tell : WriteLine) {
+  Open(wish);
+  if (!wish.journal.empty()) Record(wish);
+}
+
+// All objects of the library are gone by now, and every call that the program makes was made.
+SessionLibrary::~SessionLibrary() {
+  if (!replayed_ || !replayed_->Difference().empty()) return;
+  const std::string rest = replayed_->Rest();
+  if (!rest.empty()) tell_(rest);
+}
+
+void SessionLibrary::Open(const LibraryWish& wish) {
+  if (!wish.replay.empty()) {
+    replayed_.emplace(wish.replay, tell_);
+    return;
+  }
   if (wish.bench.empty()) OpenInstalled(wish);
   if (installed_ == nullptr) bench_.emplace(wish.bench, wish.notice);
-  if (!wish.journal.empty()) log_.emplace(installed_ ? *installed_ : bench_->Library(), journal_);
+}
+
+void SessionLibrary::Record(const LibraryWish& wish) {
+  const controller::LibraryIdentity identity = Identity();
+  journal_.emplace(wish.journal,
+                   controller::SessionHeader{wish.program, SystemDescription(), identity.className,
+                                             identity.version, controller::NewSessionName(), 1},
+                   tell_);
+  recorded_.emplace(Source(), [this](const std::string& line) { journal_->Write(line); });
+}
+
+controller::LibraryIdentity SessionLibrary::Identity() const {
+  if (replayed_) return {"a replayed session", {}};
+  return bench_ ? controller::LibraryIdentity{"the simulator", {}}
+                : controller::InstalledLibraryIdentity();
+}
+
+controller::ControllerLibrary& SessionLibrary::Source() {
+  if (replayed_) return *replayed_;
+  return installed_ ? *installed_ : bench_->Library();
 }
 
 void SessionLibrary::OpenInstalled(const LibraryWish& wish) {
@@ -49,8 +84,7 @@ void SessionLibrary::OpenInstalled(const LibraryWish& wish) {
 }
 
 controller::ControllerLibrary& SessionLibrary::Library() {
-  if (log_) return *log_;
-  return installed_ ? *installed_ : bench_->Library();
+  return recorded_ ? *recorded_ : Source();
 }
 
 void SessionLibrary::Keep() {

@@ -1,14 +1,15 @@
 // The controller library that a program works with, chosen when it starts.
 #pragma once
 
-#include <fstream>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
-#include "controller/CallLog.h"
 #include "controller/InstalledLibrary.h"
+#include "controller/replay/JournalFile.h"
+#include "controller/replay/RecordedLibrary.h"
+#include "controller/replay/ReplayedLibrary.h"
 #include "hub/BenchSession.h"
 
 namespace mortane {
@@ -17,21 +18,32 @@ namespace mortane {
 struct LibraryWish {
   // MORTANE_BENCH: a bench file, whose instruments come before every installed library.
   std::string bench;
-  // MORTANE_JOURNAL: a file to whose end a log of all calls is written.
+  // MORTANE_JOURNAL: a file to whose end the journal of the session is written.
   std::string journal;
   std::function<std::unique_ptr<controller::ControllerLibrary>()> openInstalled =
       controller::OpenInstalledLibrary;
   BenchSession::Notice notice = {};
+  // MORTANE_REPLAY: the journal of a session, which comes before a bench file.
+  std::string replay = {};
+  // Of the program, as the journal names it.
+  std::string program = "mortane";
+  // Says in one line why the journal ends, or where the program differs from the session that it
+  // replays. Without it a line goes to standard error.
+  BenchSession::Notice tell = {};
 };
 
 LibraryWish WishOfEnvironment();
 
-// A bench file's instruments where one is named, else the installed library; the simulated
-// microscope alone where there is none.
+// The answers of a session's journal where one is named, else a bench file's instruments, else the
+// installed library; the simulated microscope alone where there is none.
 class SessionLibrary {
  public:
-  // Raises a Failure for a bench file that is wrong and for a journal that cannot be written.
+  // Raises a Failure for a bench file that is wrong and for a session that cannot be replayed. A
+  // journal that cannot be written is told, and the session goes on without.
   explicit SessionLibrary(const LibraryWish& wish);
+  ~SessionLibrary();
+  SessionLibrary(const SessionLibrary&) = delete;
+  SessionLibrary& operator=(const SessionLibrary&) = delete;
 
   controller::ControllerLibrary& Library();
 
@@ -44,12 +56,18 @@ class SessionLibrary {
   void Renew();
 
  private:
+  void Open(const LibraryWish& wish);
   void OpenInstalled(const LibraryWish& wish);
+  void Record(const LibraryWish& wish);
+  controller::ControllerLibrary& Source();
+  controller::LibraryIdentity Identity() const;
 
+  BenchSession::Notice tell_;
   std::unique_ptr<controller::ControllerLibrary> installed_;
+  std::optional<controller::ReplayedLibrary> replayed_;
   std::optional<BenchSession> bench_;
-  std::ofstream journal_;
-  std::optional<controller::CallLog> log_;
+  std::optional<controller::JournalFile> journal_;
+  std::optional<controller::RecordedLibrary> recorded_;
   std::string complaint_;
 };
 

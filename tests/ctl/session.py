@@ -30,7 +30,7 @@ class Session(unittest.TestCase):
             shutil.copy(f"{SOURCE}/benches/{bench}.xml", self.folder)
         self.environment = {**os.environ, "XDG_DATA_HOME": str(self.folder / "data"),
                             "TERM": "xterm"}
-        for name in ("MORTANE_BENCH", "MORTANE_JOURNAL", "NO_COLOR"):
+        for name in ("MORTANE_BENCH", "MORTANE_JOURNAL", "MORTANE_REPLAY", "NO_COLOR"):
             self.environment.pop(name, None)
 
     def start(self, *words, **options):
@@ -73,6 +73,27 @@ class Session(unittest.TestCase):
 
     def backups(self):
         return sorted((self.folder / "data").rglob("*.xml"))
+
+    # A session at a microscope, played back without it.
+
+    def test_a_session_is_recorded_and_replayed(self):
+        journal = str(self.folder / "journal.txt")
+        words = ("send", "--sections", "INTERLOCK", "--yes", "--no-backup", "reference.xml")
+        self.run_program("receive", "--bench", "Harbour.xml", "-o", "reference.xml")
+        self.environment.update(MORTANE_JOURNAL=journal, MORTANE_BENCH="Lantern.xml")
+        recorded = self.run_program(*words, "--wait", "20")
+        del self.environment["MORTANE_JOURNAL"], self.environment["MORTANE_BENCH"]
+        self.environment["MORTANE_REPLAY"] = journal
+        self.assertEqual(self.run_program(*words, "--wait", "20"), recorded)
+        self.assertNotIn("the session", self.err)
+        self.run_program("receive", "-o", "other.xml", "--wait", "20")
+        self.assertIn(f"mortanectl: {journal}:", self.err)
+        self.assertIn("; the program called ", self.err)
+        self.run_program("send", "--yes", "--no-backup", "reference.xml", "--wait", "20", code=2)
+        self.assertIn("; the program called ", self.err)
+        self.environment["MORTANE_REPLAY"] = "reference.xml"
+        self.run_program("devices", code=2)
+        self.assertIn("no journal of a session", self.err)
 
     # The day of a service engineer.
 

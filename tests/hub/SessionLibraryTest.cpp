@@ -97,19 +97,74 @@ TEST_F(SessionLibraryFiles, TheJournalHasEveryCallAtOnceAndKeepsFormerOnes) {
         << TempFolder::Read(journal_);
   }
   const std::string lines = TempFolder::Read(journal_);
-  EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 8) << lines;
-  EXPECT_TRUE(lines.starts_with("   seconds         ms  call\n")) << lines;
+  EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 10) << lines;
+  EXPECT_TRUE(lines.starts_with("mortane-journal 1 program=\"mortane\" system=\"")) << lines;
+  EXPECT_NE(lines.find("library=\"the simulator\""), std::string::npos) << lines;
 }
 
-TEST_F(SessionLibraryFiles, AJournalThatCannotBeWrittenIsRefused) {
-  const std::string missing = folder_.Path("no such folder/journal.txt");
-  try {
-    SessionLibrary({"", missing, NoLibrary});
-    FAIL() << "not refused";
-  } catch (const Failure& failure) {
-    EXPECT_EQ(failure.Number(), kFileError);
-    EXPECT_EQ(failure.Description(), "Cannot write " + missing);
+TEST_F(SessionLibraryFiles, WithoutTheJournalThatCannotBeWrittenTheSessionGoesOn) {
+  LibraryWish wish{"", folder_.Path("no such folder/journal.txt"), Installed};
+  std::vector<std::string> told;
+  wish.tell = [&](const std::string& text) { told.push_back(text); };
+  SessionLibrary session(wish);
+  EXPECT_EQ(CountOn(session), 5);
+  ASSERT_EQ(told.size(), 1U);
+  EXPECT_TRUE(told[0].starts_with("Cannot write the journal " + wish.journal + ": ")) << told[0];
+}
+
+class Replays : public SessionLibraryFiles {
+ protected:
+  Replays() { SessionLibrary({"", journal_, Installed}).Library().Create("Microscope"); }
+
+  LibraryWish Wish() {
+    LibraryWish wish{"missing.xml", "", NotRegistered};
+    wish.replay = journal_;
+    wish.tell = [this](const std::string& text) { told_.push_back(text); };
+    return wish;
   }
+
+  std::vector<std::string> told_;
+};
+
+TEST_F(Replays, ComeBeforeABenchFileAndTheInstalledLibrary) {
+  SessionLibrary session(Wish());
+  session.Library().Create("Microscope");
+  EXPECT_EQ(session.Complaint(), "");
+  session.Keep();
+  session.Renew();
+}
+
+TEST_F(Replays, TellADifferenceOnce) {
+  {
+    SessionLibrary session(Wish());
+    EXPECT_THROW(session.Library().Create("FiberServer"), Failure);
+    EXPECT_THROW(session.Library().Create("FiberServer"), Failure);
+  }
+  EXPECT_EQ(told_, std::vector{journal_ + ":3: the session has #0 create Create(Microscope); the "
+                                          "program called #0 create Create(FiberServer)"});
+}
+
+TEST_F(Replays, TellAtTheEndWhatWasNotCalled) {
+  { SessionLibrary session(Wish()); }
+  EXPECT_EQ(told_, std::vector{journal_ + ":3: the session goes on with "
+                                          "#0 create Create(Microscope)"});
+}
+
+TEST_F(Replays, AreRecordedThemselvesAlsoIntoTheirOwnFile) {
+  {
+    LibraryWish wish = Wish();
+    wish.journal = journal_;
+    SessionLibrary session(wish);
+    session.Library().Create("Microscope");
+  }
+  EXPECT_EQ(told_, std::vector<std::string>());
+  EXPECT_NE(TempFolder::Read(journal_).find("library=\"a replayed session\""), std::string::npos);
+}
+
+TEST_F(Replays, OfWhatIsNoJournalAreRefused) {
+  LibraryWish wish = Wish();
+  wish.replay = folder_.Write("other.txt", "nothing");
+  EXPECT_THROW(SessionLibrary{wish}, Failure);
 }
 
 TEST_F(SessionLibraryFiles, AWrongBenchFileIsRefused) {

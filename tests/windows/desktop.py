@@ -102,7 +102,7 @@ class Program:
 
     def called(self, text):
         """Whether a call reads so, whenever it was made and however long it took."""
-        return any(line.split("  ")[-1] == text for line in self.journal())
+        return any(line.split("  ")[-1].strip() == text for line in self.journal())
 
     def await_call(self, text):
         await_that(lambda: self.called(text), f"the call {text}")

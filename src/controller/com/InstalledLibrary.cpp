@@ -1,12 +1,16 @@
 #include "controller/InstalledLibrary.h"
 
 #include <windows.h>
+#include <winver.h>
 
 #include <algorithm>
+#include <array>
 #include <string_view>
+#include <vector>
 
 #include "controller/ControllerError.h"
 #include "controller/com/ComLibrary.h"
+#include "platform/windows/Wide.h"
 
 namespace mortane::controller {
 namespace {
@@ -26,7 +30,44 @@ std::string ReasonOf(const ControllerError& error) {
   return unknown ? "not registered" : error.Description();
 }
 
+constexpr DWORD kLongestText = 1024;
+
+// The default value of a key of the classes; empty when there is none.
+std::string RegisteredText(const std::string& key) {
+  std::array<wchar_t, kLongestText> text{};
+  DWORD size = sizeof text;
+  const LSTATUS result = RegGetValueW(HKEY_CLASSES_ROOT, ToWide(key).c_str(), nullptr,
+                                      RRF_RT_REG_SZ, nullptr, text.data(), &size);
+  return result == ERROR_SUCCESS ? ToUtf8(text.data()) : std::string();
+}
+
+std::string VersionOfFile(const std::string& path) {
+  const std::wstring file = ToWide(path);
+  DWORD unused = 0;
+  const DWORD size = GetFileVersionInfoSizeW(file.c_str(), &unused);
+  if (size == 0) return {};
+  std::vector<char> block(size);
+  if (GetFileVersionInfoW(file.c_str(), 0, size, block.data()) == FALSE) return {};
+  void* found = nullptr;
+  UINT length = 0;
+  if (VerQueryValueW(block.data(), L"\\", &found, &length) == FALSE) return {};
+  const auto* version = static_cast<const VS_FIXEDFILEINFO*>(found);
+  return std::to_string(HIWORD(version->dwFileVersionMS)) + "." +
+         std::to_string(LOWORD(version->dwFileVersionMS)) + "." +
+         std::to_string(HIWORD(version->dwFileVersionLS)) + "." +
+         std::to_string(LOWORD(version->dwFileVersionLS));
+}
+
 }  // namespace
+
+LibraryIdentity InstalledLibraryIdentity() {
+  const std::string name = ProgIdOf(InstalledClasses(), kRootClass);
+  const std::string id = name.starts_with('{') ? name : RegisteredText(name + "\\CLSID");
+  if (id.empty()) return {name, {}};
+  const std::string version = RegisteredText("CLSID\\" + id + "\\Version");
+  if (!version.empty()) return {name, version};
+  return {name, VersionOfFile(RegisteredText("CLSID\\" + id + "\\InprocServer32"))};
+}
 
 std::unique_ptr<ControllerLibrary> OpenInstalledLibrary() {
   const std::vector<ComClass> classes = InstalledClasses();

@@ -6,4 +6,8 @@ std::unique_ptr<ControllerLibrary> OpenInstalledLibrary() {
   return nullptr;
 }
 
+LibraryIdentity InstalledLibraryIdentity() {
+  return {};
+}
+
 }  // namespace mortane::controller

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "common/Failure.h"
-#include "common/Numbers.h"
 #include "controller/simulator/BenchFile.h"
 #include "platform/AtomicFile.h"
 #include "platform/FilePath.h"
@@ -44,14 +43,8 @@ bool IsChanged(const Bench& ours, const Bench& known, std::size_t place) {
 SharedBench::SharedBench(const std::string& path)
     : path_(path), lockName_(LockName(path)), known_(ReadBenchFile(path)) {}
 
-// A hash, because a path can be longer than a name may be.
 std::string SharedBench::LockName(const std::string& path) {
-  std::uint64_t hash = 14695981039346656037U;  // FNV-1a
-  for (const char c : ResolvedPath(path)) {
-    hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
-  }
-  return "MortaneBench-" + HexPadded(static_cast<std::int32_t>(hash >> 32U), 8) +
-         HexPadded(static_cast<std::int32_t>(hash & 0xFFFFFFFFU), 8);
+  return "MortaneBench-" + PathToken(path);
 }
 
 Bench SharedBench::Merged(const Bench& ours, const Bench& theirs) const {

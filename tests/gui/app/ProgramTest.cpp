@@ -111,7 +111,7 @@ TEST_F(Program, FailsWhenItsAnswerCannotBeWritten) {
   EXPECT_EQ(program_.exitCode(), 2);
 }
 
-TEST_F(Program, WritesTheJournalOfItsCallsWhereTheEnvironmentSays) {
+TEST_F(Program, WritesTheJournalOfItsCallsAndReplaysIt) {
   const TempFolder folder;
   const std::string journal = folder.Path("journal.txt");
   qputenv("MORTANE_JOURNAL", QByteArray::fromStdString(journal));
@@ -120,8 +120,26 @@ TEST_F(Program, WritesTheJournalOfItsCallsWhereTheEnvironmentSays) {
   Press(AwaitWindows(2).front(), {"Return"});
   Exit();
   const std::string lines = TempFolder::Read(journal);
+  EXPECT_TRUE(lines.starts_with("mortane-journal 1 program=\"mortane ")) << lines;
   EXPECT_NE(lines.find("  DeviceList.Item(0).Connect()\n"), std::string::npos) << lines;
   EXPECT_NE(lines.find("  DeviceList.Item(0).Disconnect()\n"), std::string::npos) << lines;
+
+  qputenv("MORTANE_REPLAY", QByteArray::fromStdString(journal));
+  Start({"/SIM"});
+  qunsetenv("MORTANE_REPLAY");
+  Press(AwaitWindows(2).front(), {"Return"});
+  Exit();
+  EXPECT_FALSE(errors_.contains("the session")) << errors_.toStdString();
+}
+
+TEST_F(Program, GoesOnWithoutAJournalThatCannotBeWritten) {
+  qputenv("MORTANE_JOURNAL", "/no such folder/journal.txt");
+  Start({"/SIM"});
+  qunsetenv("MORTANE_JOURNAL");
+  Press(AwaitWindows(2).front(), {"Return"});
+  Exit();
+  EXPECT_EQ(errors_.count("mortane: Cannot write the journal /no such folder/journal.txt: "), 1)
+      << errors_.toStdString();
 }
 
 }  // namespace

@@ -120,7 +120,8 @@ class BuiltProgram : public testing::Test {
   void ExpectGoodEnd() {
     EXPECT_TRUE(program_.waitForFinished(kPatienceMs));
     EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(program_.exitCode(), 0) << program_.readAllStandardError().toStdString();
+    errors_ = program_.readAllStandardError();
+    EXPECT_EQ(program_.exitCode(), 0) << errors_.toStdString();
   }
 
   QString path_;
@@ -129,6 +130,7 @@ class BuiltProgram : public testing::Test {
   DeviceNamesLock lock_;
   Display display_;
   QProcess program_;
+  QByteArray errors_;  // of a program that has ended well
 };
 
 }  // namespace mortane::test

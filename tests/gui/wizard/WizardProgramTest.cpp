@@ -48,14 +48,21 @@ TEST_F(Wizard, TellsItsVersionInItsOwnName) {
   EXPECT_TRUE(program_.readAllStandardOutput().startsWith("sadrel "));
 }
 
-TEST_F(Wizard, LeavesByCancelOnTheSimulator) {
-  Start({"/sim"});
-  Press(AwaitWindows(2).front(), {"Return"});
-  const QString window = AwaitWindows(1).front();
-  AwaitRest();
-  Press(window, {"alt+c"});
-  Press(AwaitWindows(2).front(), {"Return"});
-  ExpectGoodEnd();
+TEST_F(Wizard, LeavesByCancelOnTheSimulatorAndReplaysTheJournalOfThat) {
+  const std::string journal = config_.Path("journal.txt");
+  for (const char* variable : {"MORTANE_JOURNAL", "MORTANE_REPLAY"}) {
+    qputenv(variable, QByteArray::fromStdString(journal));
+    Start({"/sim"});
+    qunsetenv(variable);
+    Press(AwaitWindows(2).front(), {"Return"});
+    const QString window = AwaitWindows(1).front();
+    AwaitRest();
+    Press(window, {"alt+c"});
+    Press(AwaitWindows(2).front(), {"Return"});
+    ExpectGoodEnd();
+    EXPECT_FALSE(errors_.contains("the session")) << errors_.toStdString();
+  }
+  EXPECT_TRUE(TempFolder::Read(journal).starts_with("mortane-journal 1 program=\"sadrel "));
 }
 
 TEST_F(Wizard, IsRefusedADeviceThatTheFullWindowHolds) {

@@ -1,0 +1,82 @@
+#include "controller/replay/NumberedObject.h"
+
+#include <utility>
+
+namespace mortane::controller {
+namespace {
+
+constexpr std::string_view kEnumeratorMember = "_NewEnum";
+constexpr std::string_view kNextMember = "Next";
+
+struct Converter {
+  SessionValue operator()(const ObjectRef& object) const {
+    const auto* ours = dynamic_cast<const NumberedObject*>(object.get());
+    return ObjectNumber{ours == nullptr ? 0 : ours->Number()};
+  }
+  template <typename Plain>
+  SessionValue operator()(const Plain& plain) const {
+    return plain;
+  }
+};
+
+void AppendArguments(std::string& text, Args args) {
+  text += '(';
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    if (i > 0) text += ", ";
+    AppendValue(text, NumberedObject::ToSessionValue(args[i]));
+  }
+  text += ')';
+}
+
+}  // namespace
+
+SessionValue NumberedObject::ToSessionValue(const Value& value) {
+  return std::visit(Converter(), value);
+}
+
+std::string NumberedObject::CreateCall(std::string_view className) {
+  return std::string("#0 create Create(").append(className) += ')';
+}
+
+Value NumberedObject::Pass(Use use) {
+  const bool isNext = place_.role == Role::Enumerator && use.kind == Kind::Call &&
+                      use.member == kNextMember && use.args.empty();
+  const bool isNumber = use.kind == Kind::Get && use.member.empty() && use.args.empty();
+  std::string path = place_.path;
+  if (isNext) {
+    path.append("(").append(std::to_string(turns_ + 1)) += ')';
+  } else if (!isNumber) {
+    if (!path.empty()) path += '.';
+    path += use.member;
+    if (use.kind == Kind::Call || !use.args.empty()) AppendArguments(path, use.args);
+  }
+  constexpr std::string_view kNames[]{"get", "put", "call"};
+  const std::string_view name = isNext     ? "next"
+                                : isNumber ? "number"
+                                           : kNames[static_cast<std::size_t>(use.kind)];
+  std::string text = "#" + std::to_string(place_.number);
+  ((text += ' ').append(name) += ' ') += path;
+  if (use.written != nullptr) AppendValue(text += " = ", ToSessionValue(*use.written));
+  if (use.kind == Kind::Get && use.member == kEnumeratorMember) {
+    use.result = {0, place_.path, Role::Enumerator};
+  } else {
+    use.result = {0, std::move(path), Role::Plain};
+  }
+  Value result = Make(use, std::move(text));
+  if (isNext) ++turns_;
+  return result;
+}
+
+Value NumberedObject::Get(std::string_view member, Args args) {
+  return Pass({Kind::Get, member, args, nullptr, {}});
+}
+
+void NumberedObject::Put(std::string_view member, const Value& value, Args args) {
+  Pass({Kind::Put, member, args, &value, {}});
+}
+
+Value NumberedObject::Call(std::string_view member, Args args) {
+  return Pass({Kind::Call, member, args, nullptr, {}});
+}
+
+}  // namespace mortane::controller
