@@ -31,6 +31,8 @@ struct FormServices {
   // Where the states before each Send are kept, and the edits that are not sent; empty: nowhere.
   std::string backupFolder = {};
   std::string unsentFolder = {};
+  // Where the chapters of the manual stand, or would stand.
+  std::string manualFolder = {};
 };
 
 }  // namespace mortane

@@ -109,6 +109,12 @@ void MortaneMainForm::ShowPending(const std::vector<ItemChange>& changes) {
   note_->ShowPending(static_cast<int>(changes.size()));
 }
 
+QString MortaneMainForm::Chapter() const {
+  std::size_t shown = 0;
+  while (shown + 1 < kPageCount && !optMenu[shown]->isChecked()) ++shown;
+  return table_[shown].chapter;
+}
+
 // The toolkit would hand the focus of a button that gets disabled to the next control, which is a
 // field that nobody went to.
 void MortaneMainForm::EnablePage(std::size_t index, bool enabled, const QString& whyDisabled) {

@@ -70,6 +70,7 @@ class MortaneMainForm : public ProgramForm {
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void ShowPending(const std::vector<ItemChange>& changes) override;
+  [[nodiscard]] QString Chapter() const override;
 
  private:
   using Command = void (MortaneMainForm::*)();

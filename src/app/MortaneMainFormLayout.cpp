@@ -87,6 +87,7 @@ void MortaneMainForm::BuildToolbar() {
           [this] { Run(&MortaneMainForm::DoOpenKept); });
   connect(note_->LetKeptGo, &QAction::triggered, this,
           [this] { Run(&MortaneMainForm::DoLetKeptGo); });
+  connect(note_->ButtonManual, &QToolButton::clicked, this, &MortaneMainForm::ShowManual);
   connect(note_->ButtonPending, &QToolButton::clicked, this,
           [this] { Run(&MortaneMainForm::DoShowPending); });
 }

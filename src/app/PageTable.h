@@ -18,6 +18,7 @@ class clsK70;
 struct PageRow {
   QString title;
   IconName icon;
+  QString chapter;  // of the manual
   // The new page, a child of the window's frame of pages.
   std::function<Page*(MortaneMainForm&, const FormServices&)> make = {};
   // Whether the connected microscope has something for the page to show; always, where there is no

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/ApplyTheme.h"
+#include "app/Manual.h"
 #include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
 #include "app/StartOptions.h"
@@ -84,7 +85,8 @@ int ShowForm(QApplication& application, SessionLibrary& session, Notices& notice
                      .placeFile = UsersPlaceFile(),
                      .applicationData = GetSpecialFolder(kApplicationDataFolder),
                      .backupFolder = Backups::DefaultFolder(),
-                     .unsentFolder = UnsentEdits::DefaultFolder()});
+                     .unsentFolder = UnsentEdits::DefaultFolder(),
+                     .manualFolder = ManualFolder()});
   prompts.ShowProgressOn(form->Progress());
   form->Load();
   form->show();

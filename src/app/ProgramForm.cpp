@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <utility>
@@ -13,6 +14,7 @@
 #include "app/CommandBoundary.h"
 #include "app/ConnectMicroscope.h"
 #include "app/InputFlush.h"
+#include "app/Manual.h"
 #include "app/SelScopeDlg.h"
 #include "app/SettingsFiles.h"
 #include "hub/DeviceAvailability.h"
@@ -48,6 +50,7 @@ ProgramForm::ProgramForm(const FormServices& services, const QString& title)
   setWindowTitle(title);
   setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
   BuildStatusBar();
+  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &ProgramForm::ShowManual);
   pendingTimer_.setSingleShot(true);
   connect(&pendingTimer_, &QTimer::timeout, this, &ProgramForm::LookForPending);
   unsentTimer_.setObjectName("UnsentTimer");
@@ -82,6 +85,11 @@ void ProgramForm::SetContent(QWidget* content) {
 
 void ProgramForm::ShowVersion() {
   versionPanel_->setText(QStringLiteral(MORTANE_VERSION));
+}
+
+// The field with the focus keeps it, and its text.
+void ProgramForm::ShowManual() {
+  RunCommand([this] { OpenManual(services_.manualFolder, Chapter(), prompts()); });
 }
 
 bool ProgramForm::event(QEvent* event) {

@@ -57,6 +57,10 @@ class ProgramForm : public QMainWindow {
   // Writes the program's version into panel 5 of the status bar.
   void ShowVersion();
 
+  // The chapter of the manual that tells of what the window shows.
+  [[nodiscard]] virtual QString Chapter() const = 0;
+  void ShowManual();
+
   // A command that is asked for while another runs is dropped.
   void RunCommand(const std::function<void()>& command);
 

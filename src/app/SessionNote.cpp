@@ -53,6 +53,7 @@ QString ChangesNotSent(int count) {
 SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
   ButtonPending = new QToolButton(&bar);
   ButtonKept = new QToolButton(&bar);
+  ButtonManual = new QToolButton(&bar);
   for (QToolButton* button : Buttons()) {
     button->setFont(CaptionFont());
     button->setAutoRaise(true);
@@ -60,6 +61,12 @@ SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
     button->setFocusPolicy(Qt::TabFocus);
     button->hide();
   }
+  ButtonManual->setText(u"?"_s);
+  ButtonManual->setAccessibleName(u"Manual"_s);
+  ButtonManual->setToolTip(u"Manual (F1)"_s);
+  // F1 does the same, and the Tab key begins with the page buttons.
+  ButtonManual->setFocusPolicy(Qt::NoFocus);
+  ButtonManual->show();
   auto* menu = new QMenu(ButtonKept);
   OpenKept = menu->addAction(u"Open"_s);
   LetKeptGo = menu->addAction(u"Let Go"_s);
@@ -71,8 +78,8 @@ SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
   bar_.installEventFilter(this);
 }
 
-std::array<QToolButton*, 2> SessionNote::Buttons() const {
-  return {ButtonPending, ButtonKept};
+std::array<QToolButton*, 3> SessionNote::Buttons() const {
+  return {ButtonManual, ButtonPending, ButtonKept};
 }
 
 void SessionNote::ShowMicroscope(const QString& name, bool isSimulation) {

@@ -37,6 +37,9 @@ class SessionNote : public ValueLabel {
   // an empty time.
   void ShowKept(const QString& time);
 
+  // "?"
+  Control<QToolButton> ButtonManual{"ButtonManual"};
+
   Control<QToolButton> ButtonKept{"ButtonKept"};
   Control<QAction> OpenKept{"OpenKept"};
   Control<QAction> LetKeptGo{"LetKeptGo"};
@@ -45,7 +48,7 @@ class SessionNote : public ValueLabel {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  [[nodiscard]] std::array<QToolButton*, 2> Buttons() const;  // from right to left
+  [[nodiscard]] std::array<QToolButton*, 3> Buttons() const;  // from right to left
   void ShowText();
   void Place();
 

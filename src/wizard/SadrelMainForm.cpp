@@ -120,6 +120,10 @@ void SadrelMainForm::EnterStep(int step) {
   ShowPage(page);
 }
 
+QString SadrelMainForm::Chapter() const {
+  return table_[static_cast<std::size_t>(std::max(currentStep, kSystemStep))].chapter;
+}
+
 void SadrelMainForm::ShowPage(Page* page) {
   currentPage = page;
   area_->Show(page);

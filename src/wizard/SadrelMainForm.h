@@ -78,6 +78,7 @@ class SadrelMainForm : public ProgramForm {
  protected:
   void OnConnected(Outcome received) override;
   void ShowPending(const std::vector<ItemChange>& changes) override;
+  [[nodiscard]] QString Chapter() const override;
 
  private:
   using Act = void (SadrelMainForm::*)();

@@ -17,6 +17,7 @@ struct FormServices;
 struct StepRow {
   QString name;
   IconName icon;
+  QString chapter;  // of the manual
   // What the help line says: one text, or one for each tab or kind of the page.
   std::vector<QString> help;
   // The new page, a child of the window's frame of pages.

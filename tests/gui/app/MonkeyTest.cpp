@@ -30,6 +30,8 @@ bool BeginsWithAny(const std::string& text, const std::vector<std::string_view>&
 const std::vector<std::string_view> kBoxes{
     "Can't Load Xml",
     "XML File Write Error",
+    "Cannot write ",
+    "The manual is not installed.",
     "Please Input right value.",
     "This position is related with Observation Method.",
     "Exit Setup?",

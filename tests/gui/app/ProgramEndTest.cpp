@@ -31,6 +31,7 @@ class LastLook : public ProgramForm {
  protected:
   void OnConnected(Outcome) override {}
   void ShowPending(const std::vector<ItemChange>&) override {}
+  QString Chapter() const override { return {}; }
 
  private:
   clsK70& k70_;

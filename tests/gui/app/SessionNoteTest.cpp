@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "CommandRig.h"
 #include "app/MainPages.h"
@@ -213,13 +214,15 @@ TEST_F(Note, TellsThatAHeldMicroscopeIsNotConnected) {
 TEST_F(Note, StandsAtTheRightEndAndGivesWayToTheButtons) {
   Start(benches::Named("Harbour"));
   const auto& note = *form->findChild<ValueLabel*>("SessionNote");
+  const auto& manual = *form->findChild<QToolButton*>("ButtonManual");
   const QToolBar& bar = *form->Toolbar1;
   EXPECT_EQ(bar.actions().size(), 6) << "it is none of the buttons";
   for (const int width : {1400, 1152, 800}) {
     form->resize(width, 600);
     QApplication::processEvents();
     EXPECT_EQ(note.width(), note.fontMetrics().horizontalAdvance(note.text())) << width;
-    EXPECT_EQ(bar.width() - 1 - note.geometry().right(), 20) << width;
+    EXPECT_EQ(bar.width() - 1 - manual.geometry().right(), 20) << width;
+    EXPECT_EQ(manual.x() - 1 - note.geometry().right(), 8) << width;
     EXPECT_EQ(note.height(), bar.height());
   }
   form->resize(720, 600);

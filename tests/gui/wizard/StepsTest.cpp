@@ -1,6 +1,7 @@
 // The sequence of steps: Next, Previous, Finish, the pictures, and what each step begins with.
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QLabel>
 #include <QPointer>
 
@@ -346,6 +347,25 @@ TEST(Buttons, ActOnTheirLettersOnSpaceAndOnEnter) {
   rig.form().ButtonPrevious->setFocus();
   QTest::keyClick(rig.form().ButtonPrevious, Qt::Key_Space);
   EXPECT_EQ(rig.form().currentStep, 1);
+}
+
+// No manual stands where the rig's window looks for it, so a box names the file of the chapter.
+TEST(Steps, F1OpensTheManualAtTheChapterOfTheStep) {
+  StepsRig rig;
+  rig.SwitchOn({2, 3, 4, 5, 6, 7, 8});
+  const char* const chapters[] = {"system",     "wizard",   "objectives", "filter-cubes",
+                                  "condensers", "controls", "interlocks", "controls",
+                                  "controls",   "wizard"};
+  for (const char* chapter : chapters) {
+    rig.app.prompts.ExpectBox(
+        "The manual is not installed.\r\nIts place is " +
+            QDir::toNativeSeparators(QStringLiteral("/%1.html").arg(QLatin1String(chapter)))
+                .toStdString(),
+        box::kOk + box::kExclamation);
+    QTest::keyClick(&rig.form(), Qt::Key_F1);
+    EXPECT_TRUE(rig.app.prompts.AllAnswersUsed()) << chapter;
+    if (rig.form().ButtonNext->isEnabled()) rig.Click(rig.form().ButtonNext);
+  }
 }
 
 }  // namespace
