@@ -1,6 +1,6 @@
 #include "widgets/PageHeader.h"
 
-#include <QHBoxLayout>
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -14,6 +14,7 @@ namespace {
 constexpr int kIconSize = 28;
 constexpr int kTitleLeft = 38;
 constexpr int kAboveLine = 12;
+constexpr int kBelowBar = 4;  // of a bar below the title
 
 // The longest one of all pages.
 constexpr char kLongestTitle[] = "Filter Cubes";
@@ -32,21 +33,66 @@ int TitleRoom() {
 PageHeader::PageHeader(IconName icon, const QString& title, QWidget* parent)
     : QWidget(parent), icon_(icon), title_(new QLabel(title, this)) {
   title_->setFont(TitleFont());
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(kTitleLeft, kAboveLine, 0, 0);
-  row->setSpacing(grid::kBetweenColumns);
-  row->addWidget(title_);
-  row->addStretch();
-  setFixedHeight(qMax(grid::kHeaderHeight, title_->sizeHint().height() + 2 * kAboveLine));
+  Arrange();
 }
 
 SectionBar* PageHeader::AddSectionBar(const char* arrayName) {
   sectionBar_ = new SectionBar(arrayName, this);
   sectionBar_->setAccessibleName(title());
-  title_->setMinimumWidth(qMax(TitleRoom(), title_->sizeHint().width()));
-  auto* row = static_cast<QHBoxLayout*>(layout());
-  row->insertWidget(1, sectionBar_);
   return sectionBar_;
+}
+
+int PageHeader::TitleHeight() const {
+  return qMax(grid::kHeaderHeight, title_->sizeHint().height() + 2 * kAboveLine);
+}
+
+// The bar stands beside the title, or below it where the header is lower so.
+void PageHeader::Arrange() {
+  const int titleHeight = TitleHeight();
+  const int room = sectionBar_ == nullptr ? 0 : TitleRoom();
+  const int titleWidth = qMax(room, title_->sizeHint().width());
+  title_->setGeometry(kTitleLeft, kAboveLine, titleWidth, titleHeight - kAboveLine);
+  int height = titleHeight;
+  if (sectionBar_ != nullptr) {
+    const int left = kTitleLeft + titleWidth + grid::kBetweenColumns;
+    const int wanted = sectionBar_->sizeHint().width();
+    const int beside = qMin(wanted, width() - left);
+    const int below = qMin(wanted, width());
+    const int besideHeight = sectionBar_->heightForWidth(beside);
+    const int belowHeight = sectionBar_->heightForWidth(below);
+    const int withBeside = qMax(titleHeight, kAboveLine + besideHeight);
+    const int withBelow = titleHeight + belowHeight + kBelowBar;
+    const bool fits = beside >= sectionBar_->minimumSizeHint().width();
+    if (fits && withBeside <= withBelow) {
+      const int top = kAboveLine + (withBeside - kAboveLine - besideHeight) / 2;
+      sectionBar_->setGeometry(left, top, beside, besideHeight);
+      height = withBeside;
+    } else {
+      sectionBar_->setGeometry(0, titleHeight, below, belowHeight);
+      height = withBelow;
+    }
+  }
+  if (height != this->height()) setFixedHeight(height);
+}
+
+QSize PageHeader::sizeHint() const {
+  return {minimumSizeHint().width(), height()};
+}
+
+QSize PageHeader::minimumSizeHint() const {
+  const int bar = sectionBar_ == nullptr ? 0 : sectionBar_->minimumSizeHint().width();
+  return {qMax(kTitleLeft + title_->sizeHint().width(), bar), height()};
+}
+
+bool PageHeader::event(QEvent* event) {
+  const bool done = QWidget::event(event);
+  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange) Arrange();
+  return done;
+}
+
+void PageHeader::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Arrange();
 }
 
 QString PageHeader::title() const {
@@ -55,7 +101,7 @@ QString PageHeader::title() const {
 
 void PageHeader::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const double top = kAboveLine + (height() - kAboveLine - kIconSize) / 2.0;
+  const double top = kAboveLine + (TitleHeight() - kAboveLine - kIconSize) / 2.0;
   DrawIcon(painter, icon_, QRectF(0, top, kIconSize, kIconSize),
            {palette().color(QPalette::WindowText),
             isEnabled() ? ToneColor(Tone::IconAccent) : QColor()});

@@ -18,16 +18,23 @@ class PageHeader : public QWidget {
  public:
   PageHeader(IconName icon, const QString& title, QWidget* parent = nullptr);
 
-  // The bar begins at the same place on all pages of the program. `arrayName` is that of its
-  // options.
+  // The bar begins at the same place on all pages of the program; in a narrow window it stands
+  // below the title. `arrayName` is that of its options.
   SectionBar* AddSectionBar(const char* arrayName);
   [[nodiscard]] SectionBar* sectionBar() const { return sectionBar_; }
   [[nodiscard]] QString title() const;
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] int TitleHeight() const;
+  void Arrange();
+
   IconName icon_;
   QLabel* title_ = nullptr;
   SectionBar* sectionBar_ = nullptr;

@@ -1,9 +1,13 @@
 #include "widgets/SectionBar.h"
 
-#include <QHBoxLayout>
 #include <QHelpEvent>
+#include <QLayout>
 #include <QPainter>
 #include <QPainterPath>
+#include <QtMath>
+#include <algorithm>
+#include <memory>
+#include <vector>
 
 #include "widgets/ElidedTip.h"
 #include "widgets/Named.h"
@@ -17,7 +21,7 @@ namespace {
 
 constexpr int kSidePadding = 18;
 constexpr int kLeastPadding = 8;
-constexpr int kLeastCharacters = 5;
+constexpr int kBetweenRows = 4;
 
 // Rounded only where the bar begins or ends.
 QPainterPath OptionShape(const QRectF& area, bool first, bool last) {
@@ -60,10 +64,10 @@ QSize SectionOption::sizeHint() const {
   return {bold.horizontalAdvance(text()) + 2 * kSidePadding, GridHeight(height, *this)};
 }
 
-// In a narrow window its text is elided.
+// Its whole text, and the dot.
 QSize SectionOption::minimumSizeHint() const {
-  const int least = QFontMetrics(BoldFont()).averageCharWidth() * kLeastCharacters;
-  return {qMin(least + 2 * kLeastPadding, sizeHint().width()), sizeHint().height()};
+  const int text = QFontMetrics(BoldFont()).horizontalAdvance(this->text());
+  return {text + kLeastPadding + kPendingRoom, sizeHint().height()};
 }
 
 bool SectionOption::event(QEvent* event) {
@@ -112,11 +116,115 @@ void SectionOption::paintEvent(QPaintEvent*) {
                  palette().color(QPalette::Link), fill);
 }
 
+// As few rows of joined options as the width holds. Where it is short they first give way at both
+// sides of their texts.
+class SectionBar::Rows : public QLayout {
+ public:
+  explicit Rows(QWidget* bar) : QLayout(bar) { setContentsMargins({}); }
+
+  void addItem(QLayoutItem* item) override { items_.emplace_back(item); }
+  [[nodiscard]] int count() const override { return static_cast<int>(items_.size()); }
+  [[nodiscard]] QLayoutItem* itemAt(int index) const override {
+    return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)].get() : nullptr;
+  }
+  QLayoutItem* takeAt(int index) override {
+    if (itemAt(index) == nullptr) return nullptr;
+    QLayoutItem* item = items_[static_cast<std::size_t>(index)].release();
+    items_.erase(items_.begin() + index);
+    return item;
+  }
+
+  [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+  [[nodiscard]] int heightForWidth(int width) const override {
+    const Options options = Shown();
+    return options.empty()
+               ? 0
+               : RowCount(options, width) * (HeightOf(options) + kBetweenRows) - kBetweenRows;
+  }
+  [[nodiscard]] QSize sizeHint() const override {
+    const Options options = Shown();
+    return {Sum(options, 0, options.size(), &QLayoutItem::sizeHint), HeightOf(options)};
+  }
+  // Of one option in each row.
+  [[nodiscard]] QSize minimumSize() const override {
+    const Options options = Shown();
+    int widest = 0;
+    for (const QLayoutItem* option : options)
+      widest = std::max(widest, option->minimumSize().width());
+    return {widest, HeightOf(options)};
+  }
+  void setGeometry(const QRect& area) override {
+    QLayout::setGeometry(area);
+    const Options options = Shown();
+    if (options.empty()) return;
+    const std::size_t inRow = InRow(options, RowCount(options, area.width()));
+    int top = area.top();
+    for (std::size_t first = 0; first < options.size(); first += inRow) {
+      PlaceRow(options, first, std::min(first + inRow, options.size()), area, top);
+      top += HeightOf(options) + kBetweenRows;
+    }
+  }
+
+ private:
+  using Options = std::vector<QLayoutItem*>;
+  using Measure = QSize (QLayoutItem::*)() const;
+
+  [[nodiscard]] Options Shown() const {
+    Options shown;
+    for (const auto& item : items_) {
+      if (!item->isEmpty()) shown.push_back(item.get());
+    }
+    return shown;
+  }
+  static int HeightOf(const Options& options) {
+    return options.empty() ? 0 : options[0]->sizeHint().height();
+  }
+  static int Sum(const Options& options, std::size_t first, std::size_t end, Measure measure) {
+    int sum = 0;
+    for (std::size_t i = first; i < end; ++i) sum += (options[i]->*measure)().width();
+    return sum;
+  }
+  static std::size_t InRow(const Options& options, int rows) {
+    const auto count = static_cast<std::size_t>(rows);
+    return (options.size() + count - 1) / count;
+  }
+  static int RowCount(const Options& options, int width) {
+    const auto fits = [&](int rows) {
+      const std::size_t inRow = InRow(options, rows);
+      for (std::size_t first = 0; first < options.size(); first += inRow) {
+        const std::size_t end = std::min(first + inRow, options.size());
+        if (Sum(options, first, end, &QLayoutItem::minimumSize) > width) return false;
+      }
+      return true;
+    };
+    int rows = 1;
+    while (rows < static_cast<int>(options.size()) && !fits(rows)) ++rows;
+    return rows;
+  }
+  static void PlaceRow(const Options& options, std::size_t first, std::size_t end,
+                       const QRect& area, int top) {
+    const int wanted = Sum(options, first, end, &QLayoutItem::sizeHint);
+    const int least = Sum(options, first, end, &QLayoutItem::minimumSize);
+    const double given =
+        wanted <= least
+            ? 0
+            : std::clamp<double>(area.width() - least, 0, wanted - least) / (wanted - least);
+    int left = area.left();
+    for (std::size_t i = first; i < end; ++i) {
+      const QSize smallest = options[i]->minimumSize();
+      const int width =
+          smallest.width() + qFloor((options[i]->sizeHint().width() - smallest.width()) * given);
+      static_cast<SectionOption*>(options[i]->widget())->SetEnds(i == first, i + 1 == end);
+      options[i]->setGeometry({left, top, width, smallest.height()});
+      left += width;
+    }
+  }
+
+  std::vector<std::unique_ptr<QLayoutItem>> items_;
+};
+
 SectionBar::SectionBar(const char* arrayName, QWidget* parent)
-    : QWidget(parent), arrayName_(arrayName), group_(new OptionGroup(this)) {
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(0);
+    : QWidget(parent), arrayName_(arrayName), group_(new OptionGroup(this)), rows_(new Rows(this)) {
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   connect(group_, &OptionGroup::selectionChanged, this, &SectionBar::selectionChanged);
 }
@@ -127,8 +235,7 @@ int SectionBar::AddOption(const QString& text) {
   option->setAccessibleName(text);
   options_.append(option);
   group_->add(option, index);
-  layout()->addWidget(option);
-  MarkEnds();
+  rows_->addWidget(option);
   return index;
 }
 
@@ -155,20 +262,10 @@ void SectionBar::SetOptionEnabled(int index, bool enabled, const QString& whyDis
 
 void SectionBar::SetOptionVisible(int index, bool visible) {
   options_[index]->setVisible(visible);
-  MarkEnds();
 }
 
 void SectionBar::SetOptionPending(int index, bool pending) {
   options_[index]->SetPending(pending);
-}
-
-void SectionBar::MarkEnds() {
-  QVector<SectionOption*> shown;
-  for (SectionOption* option : options_) {
-    const bool hidden = option->isHidden() && option->testAttribute(Qt::WA_WState_ExplicitShowHide);
-    if (!hidden) shown.append(option);
-  }
-  for (qsizetype i = 0; i < shown.size(); ++i) shown[i]->SetEnds(i == 0, i + 1 == shown.size());
 }
 
 }  // namespace mortane

@@ -36,6 +36,7 @@ class SectionOption : public QAbstractButton {
 };
 
 // One Tab stop; arrows, Home and End choose. A hidden option closes up, and the ends stay round.
+// Options show their whole texts: where they do not fit in one row they stand in several.
 class SectionBar : public QWidget {
   Q_OBJECT
 
@@ -59,11 +60,12 @@ class SectionBar : public QWidget {
   void selectionChanged(int index);
 
  private:
-  void MarkEnds();
+  class Rows;
 
   const char* arrayName_;
   QVector<SectionOption*> options_;
   OptionGroup* group_ = nullptr;
+  Rows* rows_ = nullptr;
 };
 
 }  // namespace mortane

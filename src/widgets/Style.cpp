@@ -23,6 +23,7 @@ namespace {
 constexpr int kIndicatorSide = 16;
 constexpr int kListFrameWidth = 2;
 constexpr int kCellMargin = 7;
+constexpr int kHeaderMargin = kCellMargin + 1;  // which cells have in addition
 constexpr int kScrollBarExtent = 12;
 constexpr int kComboTextMargin = 8;
 constexpr int kComboArrowWidth = 26;
@@ -97,7 +98,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_FocusFrameHMargin:
       return kCellMargin;
     case PM_HeaderMargin:
-      return kCellMargin + 1;  // which cells have in addition
+      return kHeaderMargin;
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }
@@ -240,7 +241,9 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     case CE_HeaderLabel:
       if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option)) {
         painter->setPen(option->palette.color(QPalette::PlaceholderText));
-        painter->drawText(header->rect, static_cast<int>(header->textAlignment) | Qt::AlignVCenter,
+        // The toolkit leaves the margin at all sides; above and below a large font needs it.
+        const QRect label = header->rect.adjusted(0, -kHeaderMargin, 0, kHeaderMargin);
+        painter->drawText(label, static_cast<int>(header->textAlignment) | Qt::AlignVCenter,
                           header->text);
       }
       return;

@@ -30,6 +30,7 @@ bool BeginsWithAny(const std::string& text, const std::vector<std::string_view>&
 const std::vector<std::string_view> kBoxes{
     "Can't Load Xml",
     "XML File Write Error",
+    "XML Tactor DataFile Write Error",
     "Cannot write ",
     "The manual is not installed.",
     "Please Input right value.",

@@ -2,9 +2,12 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QtMath>
 #include <utility>
 
+#include "gui/support/FontScope.h"
 #include "gui/support/TestWindow.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -51,6 +54,33 @@ TEST_F(ListBoxTest, ProgramRaisesAClickForANewValidIndexOnly) {
   list->setIndex(7);
   list->setIndex(1);
   EXPECT_EQ(Indices(clicks), (Rows{1, 1}));
+}
+
+// Rows of pixels in which a column head shows ink.
+int InkedRows(const QString& head) {
+  ListBox list;
+  list.SetColumns({{head}, {}});
+  list.resize(300, 200);
+  list.show();
+  const QImage picture = list.header()->grab().toImage();
+  int inked = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    const QRgb ground = picture.pixel(1, y);
+    bool found = false;
+    for (int x = 2; x < list.header()->sectionSize(0); ++x) {
+      found = found || std::abs(qGray(picture.pixel(x, y)) - qGray(ground)) > 32;
+    }
+    inked += found ? 1 : 0;
+  }
+  return inked;
+}
+
+TEST(ListBoxHead, ShowsItsTextDownToTheFeetInEveryFont) {
+  for (const double points : {9.0, 10.0, 12.0, 14.0, 16.0, 18.0}) {
+    const FontScope scope(FontOf(points));
+    const QRectF whole = QFontMetricsF(CaptionFont()).tightBoundingRect("Typg");
+    EXPECT_GE(InkedRows("Typg"), qFloor(whole.height())) << points;
+  }
 }
 
 TEST_F(ListBoxTest, AnIndexThatIsNoRowClearsTheSelection) {

@@ -1,6 +1,7 @@
 #include "widgets/PageHeader.h"
 
 #include "gui/support/TestWindow.h"
+#include "widgets/SectionBar.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -23,6 +24,34 @@ TEST(PageHeader, TheIconIsDisabledAsAWhole) {
   header.setEnabled(false);
   EXPECT_EQ(PixelsOf(header, accent), 0);
   EXPECT_GT(PixelsOf(header, header.palette().color(QPalette::Disabled, QPalette::WindowText)), 0);
+}
+
+// A bar of that many options in a header of that width.
+struct BarRow {
+  int options;
+  int width;
+  bool isBelow;
+};
+
+TEST(PageHeader, TheBarStandsBelowTheTitleWhereThatIsLower) {
+  for (const BarRow& row : {BarRow{6, 1000, false}, BarRow{6, 860, false}, BarRow{2, 400, false},
+                            BarRow{2, 300, false}, BarRow{3, 360, true}, BarRow{1, 210, true}}) {
+    QWidget window;
+    auto* column = new QVBoxLayout(&window);
+    column->setContentsMargins({});
+    auto* header = new PageHeader(IconName::Control, "Controls");
+    column->addWidget(header);
+    column->addStretch();
+    SectionBar* bar = header->AddSectionBar("optControl");
+    for (int i = 0; i < row.options; ++i) bar->AddOption("Tactor Switch");
+    window.resize(row.width, 300);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(window.width(), row.width);
+    EXPECT_EQ(bar->y() >= 56, row.isBelow) << row.options << " " << row.width;
+    EXPECT_TRUE(header->rect().contains(bar->geometry())) << row.options << " " << row.width;
+    EXPECT_EQ(bar->height(), bar->heightForWidth(bar->width()));
+  }
 }
 
 TEST(PageHeader, TellsItsTitle) {

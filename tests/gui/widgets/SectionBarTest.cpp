@@ -99,6 +99,34 @@ TEST_F(SectionBarTest, IsOneTabStopWithArrowsInside) {
   EXPECT_TRUE(after->hasFocus());
 }
 
+TEST_F(SectionBarTest, AnOptionIsNeverNarrowerThanItsTextAndStandsInTheNextRowInstead) {
+  int oneRow = 0;
+  int widest = 0;
+  for (int i = 0; i < bar->count(); ++i) {
+    const int least = bar->option(i)->minimumSizeHint().width();
+    EXPECT_GT(least, QFontMetrics(BoldFont()).horizontalAdvance(bar->option(i)->text()));
+    oneRow += least;
+    widest = std::max(widest, least);
+  }
+  EXPECT_EQ(bar->minimumSizeHint().width(), widest);
+  const int high = bar->heightForWidth(oneRow);
+  EXPECT_EQ(high, bar->sizeHint().height());
+  for (const int width : {oneRow, oneRow - 1, widest}) {
+    const int height = bar->heightForWidth(width);
+    if (width < oneRow) {
+      EXPECT_GT(height, high) << width;
+    }
+    bar->setFixedSize(width, height);
+    QApplication::processEvents();
+    for (int i = 0; i < bar->count(); ++i) {
+      EXPECT_GE(bar->option(i)->width(), bar->option(i)->minimumSizeHint().width()) << width;
+      EXPECT_TRUE(bar->rect().contains(bar->option(i)->geometry())) << width;
+    }
+    EXPECT_EQ(bar->option(1)->y() > bar->option(0)->y(), width == widest) << width;
+    EXPECT_EQ(bar->option(2)->y() > bar->option(0)->y(), width < oneRow) << width;
+  }
+}
+
 TEST_F(SectionBarTest, OptionsBearTheNameOfTheirArrayAndTheirText) {
   EXPECT_EQ(bar->option(2)->objectName(), "optSettings_2");
   EXPECT_EQ(bar->option(2)->accessibleName(), "Limit Control");
