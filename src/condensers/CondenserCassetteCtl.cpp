@@ -59,6 +59,7 @@ CondenserCassetteCtl::CondenserCassetteCtl(clsCondenser& cassette, const clsDbCo
     rows->addWidget(Combo1[i], row, 1);
   }
   columns->SetParts(turret_, 0, lists, 1);
+  columns->KeepShapeOfLeft();
   FrameBase->body()->addWidget(columns, 1);
 
   turret_->setAccessibleName(u"Condenser Turret"_s);

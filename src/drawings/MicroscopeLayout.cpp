@@ -10,7 +10,7 @@ namespace {
 
 constexpr QSizeF kDesign{606, 370};
 constexpr double kLeastScale = 0.8;
-constexpr double kMostScale = 1.5;
+constexpr double kMostScale = 2.5;
 constexpr double kTextGap = 7;
 constexpr double kElbow = 26;
 constexpr double kRounding = 0.5;

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -18,9 +19,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kLeastScale = 0.8;
-constexpr double kMostScale = 1.5;
+constexpr double kMostScale = 2.5;
+constexpr double kMostLeastScale = 1.5;  // of large fonts
 constexpr double kDisabledOpacity = 0.4;
-constexpr QSizeF kTextRoom{120, 24};
 
 }  // namespace
 
@@ -100,11 +101,20 @@ double SwitchDrawing::drawingScale() const {
 }
 
 QSize SwitchDrawing::sizeHint() const {
-  return plan_.size.toSize();
+  return plan_.size.toSize().expandedTo(minimumSizeHint());
 }
 
+// As high as texts want it, as far as the present width makes use of that height.
 QSize SwitchDrawing::minimumSizeHint() const {
-  return (plan_.size * kLeastScale).toSize();
+  const double scale = qBound(kLeastScale, width() / plan_.size.width(), LeastScale());
+  return QSizeF(plan_.size.width() * kLeastScale, plan_.size.height() * scale).toSize();
+}
+
+double SwitchDrawing::LeastScale() const {
+  double least = kLeastScale;
+  for (const PlacedMark& placed : plan_.marks)
+    least = qMax(least, LeastMarkScale(placed.mark, placed.area.size()));
+  return qMin(least, kMostLeastScale);
 }
 
 QRectF SwitchDrawing::DrawnArea() const {
@@ -115,6 +125,7 @@ QRectF SwitchDrawing::DrawnArea() const {
 
 void SwitchDrawing::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  if (event->oldSize().width() != width()) updateGeometry();
   ground_ = {};
   const double scale = drawingScale();
   const QPointF origin = DrawnArea().topLeft();
@@ -156,9 +167,9 @@ void SwitchDrawing::paintEvent(QPaintEvent*) {
   painter.setFont(CaptionFont());
   painter.setPen(palette().color(QPalette::Active, QPalette::PlaceholderText));
   for (const DrawnText& text : plan_.texts) {
-    QRectF room(QPointF(), kTextRoom);
+    QRectF room = painter.fontMetrics().boundingRect(text.text);
     room.moveCenter(area.topLeft() + text.center * drawingScale());
-    painter.drawText(room, Qt::AlignCenter, text.text);
+    painter.drawText(room, Qt::AlignCenter | Qt::TextDontClip, text.text);
   }
 }
 

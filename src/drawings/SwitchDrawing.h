@@ -37,7 +37,8 @@ struct SwitchPlan {
 };
 
 // The marks are buttons, at least 24 x 24, of which one is chosen; together they are one Tab stop,
-// with arrows inside. Scales from 0.8 to 1.5 with its size and never stretches.
+// with arrows inside. Scales from 0.8 to 2.5 with its size and never stretches; large fonts ask for
+// a larger drawing, so that texts stay within their marks.
 class SwitchDrawing : public QWidget {
   Q_OBJECT
 
@@ -75,6 +76,7 @@ class SwitchDrawing : public QWidget {
   void MakeButton(const PlacedMark& placed, const char* arrayName);
   void Step(int from, int steps);
   void PaintGround();
+  [[nodiscard]] double LeastScale() const;
   [[nodiscard]] QRectF DrawnArea() const;
   [[nodiscard]] MarkButton* buttonOf(int index) const;
 

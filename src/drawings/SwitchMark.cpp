@@ -11,6 +11,7 @@
 namespace mortane {
 namespace {
 
+constexpr int kMarkIconSide = 20;
 constexpr double kSwitchCorner = 5;
 constexpr double kKeyCorner = 9;
 constexpr double kLine = 1.4;
@@ -18,7 +19,7 @@ constexpr double kKeyLine = 1.6;
 constexpr double kChosenKeyLine = 2.6;
 
 // Of the radius of a dial.
-constexpr double kChevronAt = 0.52;
+constexpr double kChevronAt = 0.6;
 constexpr double kChevronSide = 0.17;
 constexpr double kTickFrom = 0.80;
 constexpr double kTickTo = 0.89;
@@ -27,6 +28,15 @@ constexpr double kArrowRing = 0.56;
 constexpr int kTicks = 48;
 constexpr double kArrowHalfAngle = 62;  // degrees to both sides of the top
 constexpr double kArrowHead = 5;
+
+// Room between a text and what stands around it.
+constexpr double kClearOfChevron = 1.2;
+constexpr double kClearOfEdge = 3;
+
+// Heights of texts as shares of the mark's height, from which they grow with a drawing.
+constexpr double kTextShare = 0.45;
+constexpr double kDialTextShare = 0.4;
+constexpr double kHandDialTextShare = 0.11;
 
 struct MarkColors {
   QColor line;
@@ -110,9 +120,42 @@ void DrawDialFace(QPainter& painter, const QRectF& circle, const QColor& color) 
   }
 }
 
+QFont OwnFont(MarkKind kind) {
+  return kind == MarkKind::HandKey ? TitleFont() : MarkFont();
+}
+
+double TextShare(MarkKind kind) {
+  if (kind == MarkKind::HandDial) return kHandDialTextShare;
+  return kind == MarkKind::BodyDial ? kDialTextShare : kTextShare;
+}
+
+// What a text may take of the width of a mark, as a share and less that many pixels.
+struct TextRoom {
+  double share;
+  double less;
+};
+
+TextRoom RoomOf(MarkKind kind) {
+  if (kind == MarkKind::BodyDial) return {kChevronAt, 2 * kClearOfChevron};
+  return {kind == MarkKind::HandDial ? kInnerRing : 1, 2 * kClearOfEdge};
+}
+
+// In its own size or in one that grows with the mark, and never wider than its room.
+QFont TextFont(const SwitchMark& mark, const QRectF& area) {
+  QFont font = OwnFont(mark.kind);
+  const int own = QFontInfo(font).pixelSize();
+  const double size = qMax<double>(own, area.height() * TextShare(mark.kind));
+  font.setPixelSize(qRound(size));
+  const TextRoom room = RoomOf(mark.kind);
+  const double most = area.width() * room.share - room.less;
+  const double needed = QFontMetricsF(font).horizontalAdvance(mark.text);
+  if (needed > most) font.setPixelSize(qMax(1, qFloor(size * most / needed)));
+  return font;
+}
+
 void DrawMarkText(QPainter& painter, const SwitchMark& mark, const QRectF& area,
                   const QColor& color) {
-  painter.setFont(mark.kind == MarkKind::HandKey ? TitleFont() : MarkFont());
+  painter.setFont(TextFont(mark, area));
   painter.setPen(color);
   painter.drawText(area, Qt::AlignCenter, mark.text);
 }
@@ -144,9 +187,7 @@ void DrawMarkInRow(QPainter& painter, const SwitchMark& mark, const QRectF& area
     return;
   }
   if (mark.kind == MarkKind::BodyDial) DrawChevrons(painter, shape, colors.text, 1.3, kChevronAt);
-  painter.setFont(MarkFont());
-  painter.setPen(colors.text);
-  painter.drawText(shape, Qt::AlignCenter, mark.text);
+  DrawMarkText(painter, mark, shape, colors.text);
 }
 
 class MarkIconEngine : public QIconEngine {
@@ -174,6 +215,18 @@ class MarkIconEngine : public QIconEngine {
 };
 
 }  // namespace
+
+double LeastMarkScale(const SwitchMark& mark, const QSizeF& size) {
+  const QFontMetricsF metrics(OwnFont(mark.kind));
+  const TextRoom room = RoomOf(mark.kind);
+  const double across =
+      (metrics.horizontalAdvance(mark.text) + room.less) / (size.width() * room.share);
+  return qMax(across, (metrics.capHeight() + 2 * kClearOfEdge) / size.height());
+}
+
+int MarkIconSide() {
+  return qMax(kMarkIconSide, QFontMetrics(QApplication::font()).height());
+}
 
 void DrawMarkShape(QPainter& painter, MarkKind kind, const QRectF& area, double outside) {
   const QRectF shape = area.adjusted(-outside, -outside, outside, outside);

@@ -30,12 +30,17 @@ inline bool IsDial(MarkKind kind) {
 // The outline of a mark that fills the area; `outside` widens it on all sides.
 void DrawMarkShape(QPainter& painter, MarkKind kind, const QRectF& area, double outside = 0);
 
-// A mark on the dark plate of a drawing. Text keeps its size, whatever that of the area.
+// The scale from which a mark of that size has room for its text in the text's own size.
+double LeastMarkScale(const SwitchMark& mark, const QSizeF& size);
+
+// A mark on the dark plate of a drawing. Text grows with a large mark, and is made smaller where it
+// would run into what stands around it.
 void DrawMark(QPainter& painter, const SwitchMark& mark, const QRectF& area,
               const MarkState& state);
 
 // The mark for a row; chosen on the selected one.
 QIcon MarkIcon(const SwitchMark& mark);
-inline constexpr int kMarkIconSide = 20;
+// Side of the icon in pixels, which follows large fonts.
+int MarkIconSide();
 
 }  // namespace mortane

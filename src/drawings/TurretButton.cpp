@@ -28,11 +28,12 @@ constexpr int kLeastCharacters = 8;  // of a name that is elided
 constexpr double kTextMiddle = 0.3;
 constexpr double kGlyphMiddle = 0.7;
 constexpr double kGlyphHeight = 0.4;
-constexpr double kMostGlyph = 26;
+constexpr double kMostGlyph = 60;
 constexpr double kRimInset = 1.5;
 constexpr double kShareOfRing = 0.18;
 constexpr double kLeastRing = 3;
-constexpr double kMostRing = 5;
+constexpr double kMostRing = 5;  // of a place up to 100 wide
+constexpr double kLargeRing = kMostRing / 100;
 const QLatin1String kFree("----");
 
 struct RingRow {
@@ -59,7 +60,8 @@ QPen DashedPen(const QColor& line) {
 }
 
 double RingWidth(double placeWidth) {
-  return qBound(kLeastRing, placeWidth / 2 * kShareOfRing, kMostRing);
+  return qBound(kLeastRing, placeWidth / 2 * kShareOfRing,
+                qMax(kMostRing, placeWidth * kLargeRing));
 }
 
 double FaceWidth(double placeWidth) {
@@ -83,7 +85,7 @@ Tone RingTone(double magnification) {
 }
 
 TurretButton::TurretButton(PlaceKind kind, int number, QWidget* parent)
-    : QAbstractButton(parent), kind_(kind), number_(number) {
+    : QAbstractButton(parent), kind_(kind), number_(number), labelFont_(MarkFont()) {
   setCheckable(true);
   setAttribute(Qt::WA_Hover);
   constexpr int kRoom = static_cast<int>(kHaloRoom);
@@ -136,16 +138,15 @@ double TurretButton::LeastPlaceWidth() const {
          2 * kTextMargin;
 }
 
-bool TurretButton::HasRoomForLargeLabel() const {
-  const QFont font = FrameCaptionFont();
+bool TurretButton::HasRoomForLabel(const QFont& font) const {
   if (kind_ == PlaceKind::Objectives) {
     return FaceWidthFor(item_.label, font) <= FaceWidth(placeSize_.width());
   }
   return QFontMetricsF(font).horizontalAdvance(item_.label) <= placeSize_.width() - 2 * kTextMargin;
 }
 
-void TurretButton::SetLargeLabel(bool large) {
-  largeLabel_ = large;
+void TurretButton::SetLabelFont(const QFont& font) {
+  labelFont_ = font;
   update();
 }
 
@@ -221,7 +222,7 @@ void TurretButton::PaintObjective(QPainter& painter, const QRectF& place) const 
   face.moveCenter(place.center());
   painter.setBrush(underMouse() ? hovered : palette().color(QPalette::Active, QPalette::Base));
   painter.drawEllipse(face);
-  painter.setFont(largeLabel_ ? FrameCaptionFont() : MarkFont());
+  painter.setFont(labelFont_);
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(face, Qt::AlignCenter, item_.label);
 }
@@ -231,13 +232,12 @@ void TurretButton::PaintTile(QPainter& painter, const QRectF& place) const {
   painter.setBrush(palette().color(underMouse() ? QPalette::Midlight : QPalette::Base));
   PaintShape(painter, place);
   const double room = place.width() - 2 * kTextMargin;
-  const QFont font = largeLabel_ ? FrameCaptionFont() : MarkFont();
-  painter.setFont(font);
+  painter.setFont(labelFont_);
   painter.setPen(palette().color(QPalette::WindowText));
-  QRectF text(0, 0, room, QFontMetricsF(font).height());
+  const QFontMetricsF metrics(labelFont_);
+  QRectF text(0, 0, room, metrics.height());
   text.moveCenter({place.center().x(), place.top() + place.height() * kTextMiddle});
-  painter.drawText(text, Qt::AlignCenter,
-                   QFontMetricsF(font).elidedText(item_.label, Qt::ElideRight, room));
+  painter.drawText(text, Qt::AlignCenter, metrics.elidedText(item_.label, Qt::ElideRight, room));
   const double side = qMin(kMostGlyph, place.height() * kGlyphHeight);
   QRectF glyph(0, 0, side, side);
   glyph.moveCenter({place.center().x(), place.top() + place.height() * kGlyphMiddle});

@@ -31,9 +31,8 @@ class TurretButton : public QAbstractButton {
   static double TileShape();  // height as a share of the width
   // So wide that the label stands clear of the place's edge, or a part of it that can be read.
   [[nodiscard]] double LeastPlaceWidth() const;
-  // Whether the label fits in the larger of the two fonts that labels are written in.
-  [[nodiscard]] bool HasRoomForLargeLabel() const;
-  void SetLargeLabel(bool large);
+  [[nodiscard]] bool HasRoomForLabel(const QFont& font) const;
+  void SetLabelFont(const QFont& font);
   // How far the place with its halo reaches from its centre in that direction, a vector of
   // length 1.
   [[nodiscard]] double ReachTowards(QPointF direction) const;
@@ -65,7 +64,7 @@ class TurretButton : public QAbstractButton {
   TurretItem item_;
   std::optional<QString> was_;
   QSizeF placeSize_;
-  bool largeLabel_ = true;
+  QFont labelFont_;
   bool pressed_ = false;
 };
 

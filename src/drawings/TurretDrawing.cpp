@@ -6,6 +6,7 @@
 #include <QtMath>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "drawings/TurretButton.h"
 #include "widgets/Named.h"
@@ -29,9 +30,11 @@ constexpr double kLargestPlace = 34;
 constexpr double kBetweenPlaces = 5;
 constexpr double kBetweenTiles = 8;
 constexpr double kNumberGap = 8;  // from the halo to the middle, in pixels of any scale
-constexpr QSizeF kNumberSize{40, 20};
+constexpr int kNumberCharacters = 3;
 constexpr double kLeastScale = 0.8;
-constexpr double kMostScale = 1.5;
+constexpr double kMostScale = 2.5;
+constexpr double kMostLeastScale = 1.5;    // of large fonts
+constexpr double kTitleLabelScale = 1.75;  // from which labels may be as large as titles
 constexpr int kLeastButton = 24;
 constexpr int kMostPlaces = 10;
 
@@ -84,7 +87,8 @@ TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
       group_(new OptionGroup(this, OptionGroup::Arrows::ByButton)),
       leastScale_(kLeastScale) {
   setFocusPolicy(Qt::NoFocus);
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  setMaximumSize(qCeil(kSide * kMostScale), QWIDGETSIZE_MAX);
   // All at once, so that they stand at the drawing's place in the order of the Tab key.
   for (int i = 0; i < kMostPlaces; ++i) MakeButton(i);
   connect(group_, &OptionGroup::selectionChanged, this, [this](int index) {
@@ -154,7 +158,7 @@ void TurretDrawing::UpdateLeastScale() {
   double least = kLeastScale;
   const double width = 2 * RingOf(kind_, count_).placeRadius;
   for (int i = 0; i < count_; ++i) least = qMax(least, buttons_[i]->LeastPlaceWidth() / width);
-  least = qMin(least, kMostScale);
+  least = qMin(least, kMostLeastScale);
   if (least == leastScale_) return;
   leastScale_ = least;
   updateGeometry();
@@ -186,12 +190,11 @@ void TurretDrawing::setIndex(int index) {
 }
 
 double TurretDrawing::drawingScale() const {
-  return qBound(leastScale_, height() / kSide, kMostScale);
+  return qBound(leastScale_, qMin(width(), height()) / kSide, kMostScale);
 }
 
 QSize TurretDrawing::sizeHint() const {
-  const int side = qCeil(kSide * drawingScale());
-  return {side, qMax(qCeil(kSide), minimumSizeHint().height())};
+  return minimumSizeHint().expandedTo({qCeil(kSide), qCeil(kSide)});
 }
 
 QSize TurretDrawing::minimumSizeHint() const {
@@ -203,7 +206,6 @@ void TurretDrawing::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   disc_ = {};
   PlaceButtons();
-  updateGeometry();
 }
 
 void TurretDrawing::PlaceButtons() {
@@ -225,11 +227,14 @@ void TurretDrawing::PlaceButtons() {
 // In one size: it would seem to mean something if labels differed.
 void TurretDrawing::UpdateLabels() {
   const auto end = buttons_.begin() + count_;
-  const bool large = std::all_of(buttons_.begin(), end, [](const TurretButton* button) {
-    return button->HasRoomForLargeLabel();
+  std::vector<QFont> fonts{FrameCaptionFont()};
+  if (drawingScale() >= kTitleLabelScale) fonts.insert(fonts.begin(), TitleFont());
+  const auto largest = std::find_if(fonts.begin(), fonts.end(), [&](const QFont& font) {
+    return std::all_of(buttons_.begin(), end,
+                       [&](const TurretButton* button) { return button->HasRoomForLabel(font); });
   });
-  std::for_each(buttons_.begin(), end,
-                [large](TurretButton* button) { button->SetLargeLabel(large); });
+  const QFont font = largest == fonts.end() ? MarkFont() : *largest;
+  std::for_each(buttons_.begin(), end, [&](TurretButton* button) { button->SetLabelFont(font); });
 }
 
 void TurretDrawing::changeEvent(QEvent* event) {
@@ -275,7 +280,8 @@ QRectF TurretDrawing::NumberArea(int index) const {
   const QPointF direction = Direction(index, count());
   const double reach = buttons_[index]->ReachTowards(direction);
   const double distance = ring.orbit * scale - reach - kNumberGap;
-  QRectF area(QPointF(), kNumberSize);
+  const QFontMetricsF metrics(BoldFont());
+  QRectF area(0, 0, metrics.averageCharWidth() * kNumberCharacters, metrics.height());
   area.moveCenter(Center() + direction * distance);
   return area;
 }

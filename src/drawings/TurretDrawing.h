@@ -16,8 +16,8 @@ class OptionGroup;
 class TurretButton;
 
 // Address 1 is at the top, the others follow clockwise. The places are buttons, of which one is
-// chosen; together they are one Tab stop, with arrows inside. Scales from 0.8 to 1.5 with its
-// height and never stretches; large fonts make it larger, so that labels stay within their places.
+// chosen; together they are one Tab stop, with arrows inside. Scales from 0.8 to 2.5 with its
+// size and never stretches; large fonts make it larger, so that labels stay within their places.
 class TurretDrawing : public QWidget {
   Q_OBJECT
 

@@ -43,6 +43,7 @@ QWidget* TurretPage::listParent() const {
 
 void TurretPage::SetLists(QWidget* lists, int characters) {
   panel_->SetParts(turret_, 0, lists, 1);
+  panel_->KeepShapeOfLeft();
   panel_->SetCharactersBeside(characters);
   // In a low window the page is scrolled, and the lists keep their rows.
   for (ListBox* list : panel_->findChildren<ListBox*>()) {

@@ -1,7 +1,5 @@
 #include "objectives/ObjectiveCtl.h"
 
-#include <QHBoxLayout>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 
@@ -13,6 +11,7 @@
 #include "objectives/clsNosepiece.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
+#include "widgets/PairPanel.h"
 #include "widgets/TabStrip.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
@@ -26,8 +25,11 @@ namespace {
 constexpr int kSeriesWidth = 150;
 constexpr int kSeriesList = -1;
 constexpr int kNameColumn = 4;
-// Of both lists, up to the end of the names.
+// Of both lists, up to the end of the names, beside the turret.
 constexpr int kListCharacters = 86;
+// Of the lists beside each other, of usual names.
+constexpr int kSeriesCharacters = 12;
+constexpr int kObjectiveCharacters = 46;
 
 // Where the list's columns begin at least, in quarters of a character.
 constexpr std::array kTabStops{30, 60, 90, 120, 180};
@@ -91,10 +93,10 @@ ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& object
 }
 
 void ObjectiveCtl::BuildLists() {
-  auto* lists = new QWidget(listParent());
+  auto* lists = new PairPanel(listParent());
   ListSeries = new ListBox(lists);
   ListSeries->setAccessibleName(QLatin1String(kValues[0].caption));
-  ListSeries->setFixedWidth(kSeriesWidth);
+  ListSeries->setMinimumWidth(kSeriesWidth);
   ListItem = new ListBox(lists);
   ListItem->setAccessibleName(u"Objectives"_s);
   ListItem->SetColumns({{u"Type"_s},
@@ -103,11 +105,8 @@ void ObjectiveCtl::BuildLists() {
                         {u"N.A."_s, Qt::AlignRight},
                         {u"Name"_s}});
   ListItem->SetNameColumn(kNameColumn);
-  auto* row = new QHBoxLayout(lists);
-  row->setContentsMargins({});
-  row->setSpacing(grid::kBetweenColumns);
-  row->addWidget(ListSeries);
-  row->addWidget(ListItem, 1);
+  lists->SetParts(ListSeries, 0, ListItem, 1, PairPanel::Upper::Left);
+  lists->SetCharactersBeside(kObjectiveCharacters, kSeriesCharacters);
   SetLists(lists, kListCharacters);
   SetTabStops(ListItem, {kTabStops.begin(), kTabStops.end()});
 }

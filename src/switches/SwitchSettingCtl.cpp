@@ -37,7 +37,7 @@ int ListWidth() {
   for (const SwitchFunction& dial : DialFunctions()) {
     function = qMax(function, metrics.horizontalAdvance(ToQString(dial.name)));
   }
-  return kMarkIconSide + name + function + kBesidesTexts;
+  return MarkIconSide() + name + function + kBesidesTexts;
 }
 
 }  // namespace
@@ -54,8 +54,8 @@ SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor
   MakeDrawing(BodyPlan(), upper);
   Picture4 = optBtn;
   MakeList(upper);
-  ListView1->setMinimumWidth(ListWidth());
   upper->SetParts(pictureFrame(), kDrawingShare, ListView1, kListShare);
+  upper->SetWidthBeside(ListWidth());
   textSwFunc = ShownField("Function", FrameBase);
   MakeCombos(FrameBase);
   MakeButtons(FrameBase);
@@ -66,13 +66,19 @@ SwitchSettingCtl::SwitchSettingCtl(clsDbSwitch& switches, const clsControlTactor
 
 void SwitchSettingCtl::BuildLayout(QWidget* upper) {
   auto* editor = new InnerFrame({}, FrameBase);
-  auto* strip = new QHBoxLayout;
-  strip->setSpacing(grid::kBetweenControls);
-  strip->addWidget(textSwFunc, 1);
-  strip->addLayout(ComboRow(), 1);
-  strip->addSpacing(grid::kBetweenColumns);
-  strip->addLayout(ButtonRow());
-  editor->body()->addLayout(strip);
+  auto* strip = new PairPanel(editor);
+  auto* fields = new QWidget(strip);
+  auto* cells = new QHBoxLayout(fields);
+  cells->setContentsMargins({});
+  cells->setSpacing(grid::kBetweenControls);
+  cells->addWidget(textSwFunc, 1);
+  cells->addLayout(ComboRow(), 1);
+  auto* buttons = new QWidget(strip);
+  QBoxLayout* row = ButtonRow();
+  row->setContentsMargins({});
+  buttons->setLayout(row);
+  strip->SetParts(fields, 1, buttons, 0, PairPanel::Upper::Left);
+  editor->body()->addWidget(strip);
 
   FrameBase->body()->addWidget(upper, 1);
   FrameBase->body()->addWidget(editor);

@@ -96,7 +96,7 @@ struct ScaleRow {
 TEST(MicroscopeDrawing, ScalesWithinItsBoundsByTheShorterSide) {
   for (const ScaleRow& row :
        {ScaleRow{{606, 370}, 1.0}, ScaleRow{{1212, 370}, 1.0}, ScaleRow{{606, 740}, 1.0},
-        ScaleRow{{727, 444}, 1.2}, ScaleRow{{100, 100}, 0.8}, ScaleRow{{3000, 3000}, 1.5}}) {
+        ScaleRow{{727, 444}, 1.2}, ScaleRow{{100, 100}, 0.8}, ScaleRow{{3000, 3000}, 2.5}}) {
     MicroscopeDrawing drawing;
     drawing.resize(row.size);
     EXPECT_NEAR(drawing.drawingScale(), row.scale, 0.001) << row.size.width();

@@ -68,7 +68,8 @@ TEST_F(SwitchDrawingTest, ScalesWithItsSizeBetweenItsLimits) {
                                     {QSize(604, 900), 1.0},
                                     {QSize(2000, 302), 1.0},
                                     {QSize(755, 400), 1.25},
-                                    {QSize(1000, 1000), 1.5}}) {
+                                    {QSize(1510, 1000), 2.5},
+                                    {QSize(3000, 3000), 2.5}}) {
     drawing->resize(size);
     EXPECT_NEAR(drawing->drawingScale(), scale, 0.001) << size.width();
   }
@@ -203,7 +204,7 @@ TEST_F(SwitchDrawingTest, TellsTheNamesOfItsMarksInTheOrderOfTheRows) {
 }
 
 TEST_F(SwitchDrawingTest, EachRowHasTheIconOfItsMark) {
-  const QSize size(kMarkIconSide, kMarkIconSide);
+  const QSize size(MarkIconSide(), MarkIconSide());
   for (const PlacedMark& placed : Plan().marks) {
     EXPECT_EQ(drawing->markIcon(placed.index).pixmap(size).toImage(),
               MarkIcon(placed.mark).pixmap(size).toImage());

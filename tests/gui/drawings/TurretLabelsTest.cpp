@@ -16,8 +16,7 @@ QVector<TurretItem> Labels(const QStringList& labels) {
 
 void Resize(TurretDrawing& turret, int height) {
   turret.show();
-  turret.resize(turret.width(), height);
-  turret.resize(turret.sizeHint().width(), height);
+  turret.resize(height, height);
 }
 
 const TurretButton& PlaceOf(const TurretDrawing& turret, int index) {
@@ -91,6 +90,28 @@ TEST(TurretLabels, AllLabelsOfATurretAreOfOneSize) {
   EXPECT_NE(turret.place(0)->grab().toImage(), before) << "smaller, as its neighbour needs it";
   turret.SetItem(1, {"DAPI", "DAPI", {}});
   EXPECT_EQ(turret.place(0)->grab().toImage(), before);
+}
+
+TEST(TurretLabels, GrowWithALargeDrawing) {
+  const auto darkHeight = [](int side) {
+    TurretDrawing turret(PlaceKind::Objectives);
+    turret.SetItems(Labels({"4x", "2x"}));
+    Resize(turret, side);
+    const QImage place = turret.place(0)->grab().toImage();
+    const QColor text = turret.palette().color(QPalette::WindowText);
+    const int middle = place.width() / 2;
+    int dark = 0;
+    for (int y = 0; y < place.height(); ++y) {
+      bool found = false;
+      for (int x = middle - 15; x < middle + 15; ++x)
+        found = found || place.pixelColor(x, y) == text;
+      dark += found ? 1 : 0;
+    }
+    return dark;
+  };
+  const int usual = darkHeight(350);
+  EXPECT_GT(usual, 0);
+  EXPECT_GE(darkHeight(600), usual * 5 / 4);
 }
 
 TEST(TurretLabels, TilesOfCubesAndOfCondensersLookDifferent) {

@@ -85,12 +85,20 @@ TEST_F(Turret, PlacesOfAnyNumberAreLargeEnoughAndLieApartInsideTheDrawing) {
   }
 }
 
-TEST_F(Turret, ScalesWithItsHeightBetweenItsLimits) {
-  for (const auto& [height, scale] :
-       {std::pair{100, 0.8}, {224, 0.8}, {280, 1.0}, {350, 1.25}, {420, 1.5}, {900, 1.5}}) {
-    turret->resize(turret->width(), height);
-    EXPECT_NEAR(turret->drawingScale(), scale, 0.001) << height;
-    EXPECT_NEAR(turret->sizeHint().width(), 280 * scale, 1) << height;
+TEST_F(Turret, ScalesByItsShorterSideBetweenItsLimits) {
+  for (const auto& [side, scale] : {std::pair{100, 0.8},
+                                    {224, 0.8},
+                                    {280, 1.0},
+                                    {350, 1.25},
+                                    {420, 1.5},
+                                    {700, 2.5},
+                                    {900, 2.5}}) {
+    turret->resize(side, side);
+    EXPECT_NEAR(turret->drawingScale(), scale, 0.001) << side;
+    turret->resize(side, 1000);
+    EXPECT_NEAR(turret->drawingScale(), scale, 0.001) << side;
+    turret->resize(700, side);
+    EXPECT_NEAR(turret->drawingScale(), scale, 0.001) << side;
   }
 }
 

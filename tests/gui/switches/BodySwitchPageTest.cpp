@@ -110,12 +110,12 @@ TEST_F(BodySwitchPage, WithoutARowTheListsOfFunctionsAreDisabledAndSayWhy) {
 }
 
 // Where its drawing and list do not fit side by side.
-TEST_F(BodySwitchPage, StacksThemInANarrowWindow) {
+TEST_F(BodySwitchPage, PutsTheListAboveTheDrawingInANarrowWindow) {
   EXPECT_LE(page.minimumSizeHint().width(), kSmallestRoom);
   rig.window().resize(kSmallestRoom, 900);
   QApplication::processEvents();
-  EXPECT_GT(page.ListView1->mapTo(&page, QPoint()).y(),
-            page.optBtn->mapTo(&page, page.optBtn->rect().bottomLeft()).y());
+  EXPECT_LT(page.ListView1->mapTo(&page, page.ListView1->rect().bottomLeft()).y(),
+            page.optBtn->mapTo(&page, QPoint()).y());
   rig.window().resize(1048, 560);
   QApplication::processEvents();
   EXPECT_GT(page.ListView1->mapTo(&page, QPoint()).x(),
@@ -225,7 +225,7 @@ TEST_F(BodySwitchPage, TheTextCannotBeTyped) {
 }
 
 TEST_F(BodySwitchPage, RowsBearTheirMarksAndTheSelectedOneIsAmber) {
-  const QSize size(kMarkIconSide, kMarkIconSide);
+  const QSize size(MarkIconSide(), MarkIconSide());
   for (int row = 0; row < kRows; ++row) {
     const QIcon icon = page.ListView1->topLevelItem(row)->icon(0);
     const QImage resting = icon.pixmap(size, QIcon::Normal).toImage();
