@@ -31,6 +31,7 @@ CondenserOptionCtl::CondenserOptionCtl(clsDbCondenser& condensers, QWidget* pare
                               grid::kBetweenControls);
   FrameBase->body()->addLayout(rows, 1);
   for (int row = 0; row < kOptionPositions; ++row) rows->addWidget(BuildRow(row));
+  layout()->setAlignment(FrameBase, Qt::AlignTop);  // as tall as what it holds
 }
 
 QWidget* CondenserOptionCtl::BuildRow(int row) {

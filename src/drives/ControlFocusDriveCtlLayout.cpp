@@ -1,6 +1,5 @@
 // Where the controls of the focus drive page stand.
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -12,6 +11,7 @@
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/OptionGroup.h"
+#include "widgets/ReflowGrid.h"
 #include "widgets/TextField.h"
 #include "widgets/Theme.h"
 
@@ -64,11 +64,11 @@ constexpr std::array<ControlFocusDriveCtl::StepButton, 4> ControlFocusDriveCtl::
 }};
 
 void ControlFocusDriveCtl::Build() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(grid::kBetweenGroups);
-  FrameBase->body()->addLayout(row);
-  row->addWidget(BuildEscape(), 1);
-  for (const Limit& limit : kLimits) row->addWidget(BuildLimit(limit), 1);
+  auto* frames = new ReflowGrid(ReflowGrid::Order::RowByRow, 1 + static_cast<int>(kLimits.size()),
+                                grid::kBetweenGroups, grid::kBetweenGroups);
+  FrameBase->body()->addLayout(frames);
+  frames->addWidget(BuildEscape());
+  for (const Limit& limit : kLimits) frames->addWidget(BuildLimit(limit));
   AlignRows();
   BuildTeaching();
   layout()->setAlignment(FrameBase, Qt::AlignTop);  // as tall as what it holds

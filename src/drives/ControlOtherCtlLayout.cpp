@@ -12,6 +12,7 @@
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/ComboBox.h"
+#include "widgets/FlowRow.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 
@@ -141,9 +142,7 @@ void AddKnobControls(Page& page, const KnobControls& knob, const QString& captio
 
 void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
   auto* panel = new QFrame(frame);
-  auto* line = new QHBoxLayout(panel);
-  line->setContentsMargins({});
-  line->setSpacing(grid::kBetweenGroups);
+  panel->setLayout(new FlowRow(grid::kBetweenGroups, 0));
   if (row.row != nullptr) page.*row.row = panel;
   if (row.label != nullptr) page.*row.label = AddLabel(row, panel);
   const QString subject =
@@ -158,10 +157,9 @@ void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
       option->setAccessibleName(QLatin1String(kNamelessOption));
       option->setToolTip(option->accessibleName());
     }
-    line->addWidget(option);
+    panel->layout()->addWidget(option);
   }
   if (row.knob != nullptr) AddKnobControls(page, *row.knob, subject, panel);
-  line->addStretch();
   frame->body()->addWidget(panel);
 }
 
@@ -191,8 +189,7 @@ class ControlOtherCtl::Columns : public QBoxLayout {
     return {widest, QBoxLayout::minimumSize().height()};
   }
   void setGeometry(const QRect& area) override {
-    const int both =
-        itemAt(0)->minimumSize().width() + spacing() + itemAt(1)->minimumSize().width();
+    const int both = itemAt(0)->sizeHint().width() + spacing() + itemAt(1)->sizeHint().width();
     const bool stacked = area.width() < both;
     if (stacked != stacked_) {
       stacked_ = stacked;
@@ -241,6 +238,10 @@ void ControlOtherCtl::Build() {
       CaptionLabel(u"Select Auto is effective after rotating the nosepiece with interlock mode."_s,
                    FrameManualHandle);
   Label1->setWordWrap(true);
+  // It takes the width that the rows make.
+  QSizePolicy policy = Label1->sizePolicy();
+  policy.setHorizontalPolicy(QSizePolicy::Ignored);
+  Label1->setSizePolicy(policy);
   FrameManualHandle->body()->addWidget(Label1);
   FrameBase->body()->addLayout(columns_, 1);
 }

@@ -1,6 +1,5 @@
 // Where the controls stand that the drive pages have in common.
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <cstdlib>
@@ -11,7 +10,9 @@
 #include "drives/DrivePosition.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
+#include "widgets/FlowRow.h"
 #include "widgets/OptionGroup.h"
+#include "widgets/PairPanel.h"
 #include "widgets/QtText.h"
 #include "widgets/Theme.h"
 
@@ -24,19 +25,18 @@ DrivePageCtl::TeachingParts DrivePageCtl::AddTeaching(const TeachingTexts& texts
                                                       MoveCross::Axes axes) {
   auto* frame = new CaptionedFrame(QLatin1String(texts.caption), FrameBase);
 
-  auto* compensation = new QHBoxLayout;
-  compensation->setSpacing(grid::kBetweenColumns);
+  auto* compensation = new FlowRow(grid::kBetweenColumns, 0);
   optFocusCompensation = new OptionGroup(this);
   for (const char* caption : texts.compensations) {
     compensation->addWidget(optFocusCompensation->addOption(QLatin1String(caption), frame));
   }
-  compensation->addStretch();
 
+  auto* parts = new PairPanel(frame);
   optNosepiece = new OptionGroup(this);
   FrameNosepiece =
-      new PositionTableCtl(microscope_.prompts(), std::move(columns), *optNosepiece, frame);
+      new PositionTableCtl(microscope_.prompts(), std::move(columns), *optNosepiece, parts);
 
-  auto* control = new InnerFrame(QLatin1String(texts.controlCaption), frame);
+  auto* control = new InnerFrame(QLatin1String(texts.controlCaption), parts);
   CheckRealMove = new QCheckBox(u"Is Real Move ?"_s, control);
   TakeFocusByClicks(*CheckRealMove);
   auto* cross = new MoveCross(axes, u"Start"_s, control);
@@ -46,12 +46,9 @@ DrivePageCtl::TeachingParts DrivePageCtl::AddTeaching(const TeachingTexts& texts
   control->body()->addWidget(cross, 0, Qt::AlignHCenter);
   control->body()->addStretch();
 
-  auto* row = new QHBoxLayout;
-  row->setSpacing(grid::kBetweenGroups);
-  row->addWidget(FrameNosepiece, 1);
-  row->addWidget(control, 1);
+  parts->SetParts(FrameNosepiece, 1, control, 1, PairPanel::Upper::Left);
   frame->body()->addLayout(compensation);
-  frame->body()->addLayout(row);
+  frame->body()->addWidget(parts);
   FrameBase->body()->addWidget(frame);
   FrameBase->body()->addStretch(1);
 

@@ -46,7 +46,7 @@ FilterOptionalItemCtl::FilterOptionalItemCtl(const FilterItemLists& items, QWidg
   for (int row = 0; row < kOptionPositions; ++row) BuildRow(row, *cells);
   cells->setColumnStretch(static_cast<int>(kFilterItems) + 1, 1);
   FrameBase->body()->addLayout(cells);
-  FrameBase->body()->addStretch();
+  layout()->setAlignment(FrameBase, Qt::AlignTop);  // as tall as what it holds
 }
 
 void FilterOptionalItemCtl::BuildHeaders(QGridLayout& cells) {
@@ -74,7 +74,10 @@ TextField* FilterOptionalItemCtl::BuildField(const Column& column, int row) {
   field->setAccessibleName(u"%1 %2"_s.arg(QLatin1String(column.caption)).arg(row + 1));
   field->setFont(FixedFont());
   field->SetLimit(static_cast<int>(kOptionNameLength));
+  field->SetWidthFor(static_cast<int>(kOptionNameLength));
+  const int least = field->maximumWidth();
   field->SetWidthFor(kFieldCharacters);
+  field->setMinimumWidth(least);
   field->SetPlaceholder(ToQString(kUnnamedMark));
   connect(field, &TextField::committed, this, [this, &column, row] { Store(column, row); });
   return field;

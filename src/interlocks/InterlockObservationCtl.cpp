@@ -1,12 +1,12 @@
 #include "interlocks/InterlockObservationCtl.h"
 
-#include <QGridLayout>
 #include <QLabel>
 
 #include "interlocks/InterlockCtlTiles.h"
 #include "interlocks/clsInterLockObservation.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
+#include "widgets/ReflowGrid.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -15,24 +15,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kColumns = 3;
-constexpr int kTilesInColumn = 4;
 
 }  // namespace
 
 InterlockObservationCtl::InterlockObservationCtl(clsInterLockObservation& interlocks,
                                                  QWidget* parent)
     : CardPage(u"Observation Change to"_s, parent), interlocks_(interlocks), tiles_{} {
-  auto* tiles = new QGridLayout;
-  tiles->setHorizontalSpacing(grid::kBetweenColumns);
-  tiles->setVerticalSpacing(grid::kBetweenGroups);
-  for (int column = 0; column < kColumns; ++column) tiles->setColumnStretch(column, 1);
+  auto* tiles = new ReflowGrid(ReflowGrid::Order::Downwards, kColumns, grid::kBetweenColumns,
+                               grid::kBetweenGroups);
   for (const ObservationAccessory* row :
        InPageOrder(kObservationAccessories, &ObservationAccessory::pageIndex)) {
-    const int index = row->pageIndex;
-    tiles->addWidget(BuildTile(*row), index % kTilesInColumn, index / kTilesInColumn);
+    tiles->addWidget(BuildTile(*row));
   }
-  tiles->setRowStretch(kTilesInColumn, 1);
-  FrameBase->body()->addLayout(tiles);
+  FrameBase->body()->addLayout(tiles, 1);
 }
 
 ToggleTile* InterlockObservationCtl::BuildTile(const ObservationAccessory& row) {

@@ -1,13 +1,15 @@
 #include "interlocks/InterlockOffsetCtl.h"
 
-#include <QGridLayout>
 #include <QLabel>
+#include <QVBoxLayout>
+#include <algorithm>
 
 #include "interlocks/Interlock.h"
 #include "interlocks/InterlockCtlTiles.h"
 #include "interlocks/clsInterLockOffset.h"
 #include "widgets/Card.h"
 #include "widgets/ComboBox.h"
+#include "widgets/FlowRow.h"
 #include "widgets/QtText.h"
 #include "widgets/Theme.h"
 
@@ -40,21 +42,21 @@ constexpr std::array<InterlockOffsetCtl::Row, InterlockOffsetCtl::kRowCount>
 
 InterlockOffsetCtl::InterlockOffsetCtl(clsInterLockOffset& offsets, QWidget* parent)
     : CardPage(u"Compensation"_s, parent), offsets_(offsets) {
-  auto* rows = new QGridLayout;
-  rows->setHorizontalSpacing(grid::kBetweenColumns);
-  rows->setVerticalSpacing(grid::kBetweenControls);
+  auto* rows = new QVBoxLayout;
+  rows->setSpacing(grid::kBetweenControls);
   for (const OffsetAccessory* row : InPageOrder(kOffsetAccessories, &OffsetAccessory::pageRow)) {
     BuildRow(*row, *rows);
   }
-  rows->setColumnStretch(rows->columnCount(), 1);
+  AlignLabels();
   FrameBase->body()->addLayout(rows);
   Label2 = CaptionLabel(u"The compensation setting puts the compensation on the proper value. "_s,
                         FrameBase);
+  Label2->setWordWrap(true);
   FrameBase->body()->addWidget(Label2);
   layout()->setAlignment(FrameBase, Qt::AlignTop);  // as tall as what it holds
 }
 
-void InterlockOffsetCtl::BuildRow(const OffsetAccessory& row, QGridLayout& rows) {
+void InterlockOffsetCtl::BuildRow(const OffsetAccessory& row, QBoxLayout& rows) {
   const auto i = static_cast<std::size_t>(row.pageRow);
   const Row& controls = kRows[i];
   const QString caption = ToQString(row.caption);
@@ -71,11 +73,20 @@ void InterlockOffsetCtl::BuildRow(const OffsetAccessory& row, QGridLayout& rows)
   list->setFixedWidth(kComboWidth);
   list->setAccessibleName(caption);
   label->setBuddy(list);
-  rows.addWidget(label, row.pageRow, 0);
-  rows.addWidget(Label1[i], row.pageRow, 1);
-  rows.addWidget(list, row.pageRow, 2);
+  auto* line = new FlowRow(grid::kBetweenColumns, 0);
+  for (QWidget* part : {static_cast<QWidget*>(label), static_cast<QWidget*>(Label1[i]),
+                        static_cast<QWidget*>(list)})
+    line->addWidget(part);
+  rows.addLayout(line);
   connect(list, &ComboBox::chosen, this,
           [this, value = row.value](int factor) { offsets_.*value = factor; });
+}
+
+// What follows them begins at one place.
+void InterlockOffsetCtl::AlignLabels() {
+  int width = 0;
+  for (const Row& row : kRows) width = std::max(width, (this->*row.label)->sizeHint().width());
+  for (const Row& row : kRows) (this->*row.label)->setMinimumWidth(width);
 }
 
 void InterlockOffsetCtl::LoadData() {

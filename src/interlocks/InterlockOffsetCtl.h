@@ -6,7 +6,7 @@
 #include "widgets/CardPage.h"
 #include "widgets/Control.h"
 
-class QGridLayout;
+class QBoxLayout;
 class QLabel;
 
 namespace mortane {
@@ -41,7 +41,8 @@ class InterlockOffsetCtl : public CardPage {
   struct Row;
   static const std::array<Row, kRowCount> kRows;
 
-  void BuildRow(const OffsetAccessory& row, QGridLayout& rows);
+  void BuildRow(const OffsetAccessory& row, QBoxLayout& rows);
+  void AlignLabels();
   void LoadRow(const OffsetAccessory& row);
 
   clsInterLockOffset& offsets_;

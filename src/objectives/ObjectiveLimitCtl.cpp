@@ -1,14 +1,15 @@
 #include "objectives/ObjectiveLimitCtl.h"
 
 #include <QAbstractButton>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
 #include "objectives/clsLimitation.h"
 #include "widgets/Card.h"
+#include "widgets/FlowRow.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 
@@ -76,6 +77,7 @@ const ObjectiveLimitCtl::Rule ObjectiveLimitCtl::kRules[3]{
 ObjectiveLimitCtl::ObjectiveLimitCtl(clsLimitation& limits, QWidget* parent)
     : CardPage(u"Limitation Controls"_s, parent), limits_(limits) {
   for (const Rule& rule : kRules) AddRule(rule);
+  AlignOptions();
   Label2 = WrappedCaption(
       "Limitation Controls are effective after rotating the nosepiece with interlock mode.",
       FrameBase);
@@ -99,15 +101,11 @@ void ObjectiveLimitCtl::AddRule(const Rule& rule) {
   frame->setAccessibleDescription(explanation);
   auto* group = new OptionGroup(this);
   this->*rule.group = group;
-  auto* row = new QHBoxLayout;
-  row->setSpacing(grid::kBetweenColumns);
+  auto* row = new FlowRow(grid::kBetweenColumns, 0);
   for (const char* text : rule.options) {
     if (text == nullptr) continue;
-    QRadioButton* option = group->addOption(QLatin1String(text), frame);
-    option->setMinimumWidth(kOptionColumn);
-    row->addWidget(option);
+    row->addWidget(group->addOption(QLatin1String(text), frame));
   }
-  row->addStretch();
   frame->body()->addLayout(row);
   QLabel* label = WrappedCaption(rule.explanation, frame);
   this->*rule.label = label;
@@ -115,6 +113,21 @@ void ObjectiveLimitCtl::AddRule(const Rule& rule) {
   FrameBase->body()->addWidget(frame);
   connect(group, &OptionGroup::selectionChanged, this,
           [this, &rule](int index) { limits_.*rule.value = static_cast<std::int16_t>(index); });
+}
+
+// Options stand below those of the other rules.
+void ObjectiveLimitCtl::AlignOptions() {
+  for (int column = 0; column <= kStageDown; ++column) {
+    int width = kOptionColumn;
+    const auto forEach = [&](auto act) {
+      for (const Rule& rule : kRules) {
+        if (QAbstractButton* option = (this->*rule.group)->button(column)) act(*option);
+      }
+    };
+    forEach(
+        [&](const QAbstractButton& option) { width = std::max(width, option.sizeHint().width()); });
+    forEach([&](QAbstractButton& option) { option.setMinimumWidth(width); });
+  }
 }
 
 void ObjectiveLimitCtl::LoadData() {

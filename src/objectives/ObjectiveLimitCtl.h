@@ -40,6 +40,7 @@ class ObjectiveLimitCtl : public CardPage {
   static const Rule kRules[3];
 
   void AddRule(const Rule& rule);
+  void AlignOptions();
   void LoadRule(const Rule& rule);
 
   clsLimitation& limits_;

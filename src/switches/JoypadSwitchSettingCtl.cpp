@@ -1,10 +1,10 @@
 #include "switches/JoypadSwitchSettingCtl.h"
 
-#include <QHBoxLayout>
 #include <QHideEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
 #include "common/Failure.h"
 #include "switches/JoypadAssignments.h"
@@ -13,6 +13,7 @@
 #include "switches/SwitchFunctions.h"
 #include "widgets/Card.h"
 #include "widgets/ClickFocus.h"
+#include "widgets/PairPanel.h"
 #include "widgets/QtText.h"
 #include "widgets/Theme.h"
 
@@ -22,6 +23,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFunctionColumn = 1;
+// Of a row with the longest function, for which both lists have room.
+constexpr int kListCharacters = 36;
 
 }  // namespace
 
@@ -53,17 +56,22 @@ JoypadSwitchSettingCtl::~JoypadSwitchSettingCtl() {
 }
 
 void JoypadSwitchSettingCtl::BuildLayout() {
-  auto* left = new QVBoxLayout;
+  auto* lists = new PairPanel(FrameBase);
+  auto* rows = new QWidget(lists);
+  auto* left = new QVBoxLayout(rows);
+  left->setContentsMargins({});
   left->setSpacing(grid::kBetweenControls);
   left->addWidget(textSwFunc);
   left->addWidget(whyEmpty);
   left->addWidget(ListView1, 1);
-  auto* columns = new QHBoxLayout;
-  columns->setSpacing(grid::kBetweenColumns);
-  columns->addLayout(left, 1);
-  columns->addWidget(lstSwFunc, 1);
-  FrameBase->body()->addLayout(columns, 1);
+  // In a low window the page is scrolled, and the lists keep some rows.
+  ListView1->setMinimumHeight(lstSwFunc->sizeHint().height());
+  lstSwFunc->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+  lists->SetParts(rows, 1, lstSwFunc, 1, PairPanel::Upper::Left);
+  lists->SetCharactersBeside(kListCharacters, kListCharacters);
+  FrameBase->body()->addWidget(lists, 1);
   FrameBase->body()->addWidget(cmdAllClear, 0, Qt::AlignRight);
+  cmdAllClear->raise();  // the last one that screen readers meet
 }
 
 bool JoypadSwitchSettingCtl::TakeJoystick() {

@@ -102,15 +102,13 @@ void TactorSwitchSettingCtl::BuildLayout() {
   files->addWidget(btnReadFileOpen);
   files->addWidget(Command1);
 
-  auto* options = new QHBoxLayout;
-  options->setSpacing(grid::kBetweenGroups);
-  options->addWidget(frmMode);
-  options->addWidget(frmHandle);
+  auto* options = new PairPanel(left_);
+  options->SetParts(frmMode, 1, frmHandle, 1, PairPanel::Upper::Left);
   auto* left = new QVBoxLayout(left_);
   left->setContentsMargins({});
   left->setSpacing(grid::kBetweenControls);
   left->addWidget(pictureFrame(), 1);
-  left->addLayout(options);
+  left->addWidget(options);
 
   auto* pages = new QHBoxLayout;
   pages->setSpacing(0);

@@ -87,7 +87,7 @@ ReflowGrid::Cells ReflowGrid::ShownCells() const {
 
 int ReflowGrid::ColumnsIn(const QSize& room) const {
   const Cells cells = ShownCells();
-  if (order_ == Order::RowByRow) {
+  if (order_ != Order::ColumnByColumn) {
     const int pitch = std::max(LeastSize(cells).width() + columnGap_, 1);
     return std::clamp((room.width() + columnGap_) / pitch, 1, mostColumns_);
   }

@@ -15,6 +15,8 @@ class ReflowGrid : public QLayout {
     // cells ask for, from the top, or share what there is. What the grid asks for is the height of
     // the rows that its present width makes.
     RowByRow,
+    // The same with cells that follow one another downwards.
+    Downwards,
     // As few columns as the height holds, from the left; cells keep the size that they ask for. The
     // grid asks for the height of one column and is content with that of the most.
     ColumnByColumn,

@@ -291,17 +291,17 @@ TEST(OtherPageFrames, TheColumnsStackWhereTheWidthIsShort) {
     const QWidget& left = *page.FrameManualHandle->parentWidget();
     const QWidget& right = *page.FrameBuzzer->parentWidget();
     rig.window().resize(1000, 900);
-    QApplication::processEvents();
+    ComeToRest();
     EXPECT_EQ(left.y(), right.y()) << bench;
     const int both = page.minimumSizeHint().width();
     rig.window().resize(both + 40, 900);
-    QApplication::processEvents();
+    ComeToRest();
     EXPECT_EQ(left.x(), right.x()) << bench;
     EXPECT_EQ(left.width(), right.width()) << bench;
     EXPECT_LT(left.y(), right.y()) << bench;
     EXPECT_EQ(LayoutFaults(page), std::vector<std::string>{}) << bench;
     rig.window().resize(1000, 900);
-    QApplication::processEvents();
+    ComeToRest();
     EXPECT_EQ(left.y(), right.y()) << bench;
     EXPECT_EQ(LayoutFaults(page), std::vector<std::string>{}) << bench;
   }

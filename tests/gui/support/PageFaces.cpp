@@ -50,13 +50,6 @@ class SchemeScope {
   static void Apply(Scheme scheme) { ApplyTheme(*qobject_cast<QApplication*>(qApp), scheme); }
 };
 
-// A size that follows from a width, such as that of tiles in fewer columns, is asked for from one
-// parent to the next, each in a turn of the event loop of its own.
-void ComeToRest() {
-  constexpr int kLongest = 10000;  // ms
-  QApplication::processEvents(QEventLoop::AllEvents, kLongest);
-}
-
 QImage PictureOf(PageWindow& rig, const QWidget& control) {
   QApplication::processEvents();
   const QPoint corner = control.mapTo(&rig.window(), QPoint());

@@ -1,6 +1,7 @@
 #include "gui/support/PageLayout.h"
 
 #include <QAbstractScrollArea>
+#include <QApplication>
 #include <QScrollArea>
 #include <QWidget>
 #include <sstream>
@@ -77,6 +78,11 @@ std::vector<std::string> LayoutFaults(const QWidget& root) {
   std::vector<std::string> faults;
   Walk(root, faults);
   return faults;
+}
+
+void ComeToRest() {
+  constexpr int kLongest = 10000;  // ms
+  QApplication::processEvents(QEventLoop::AllEvents, kLongest);
 }
 
 }  // namespace mortane::test

@@ -13,4 +13,8 @@ namespace mortane::test {
 // larger than the area: it is scrolled to.
 std::vector<std::string> LayoutFaults(const QWidget& root);
 
+// A size that follows from a width, such as that of tiles in fewer columns, is asked for from one
+// parent to the next, each in a turn of the event loop of its own.
+void ComeToRest();
+
 }  // namespace mortane::test

@@ -264,12 +264,12 @@ TEST_F(TactorPageTest, AAndBAreAsHighAsTheButtonsBesideThem) {
   EXPECT_EQ(page.optChg->button(2)->height(), page.cmdDefault->height());
 }
 
-TEST_F(TactorPageTest, StacksDrawingAndListInANarrowWindow) {
+TEST_F(TactorPageTest, PutsTheListAboveTheDrawingInANarrowWindow) {
   EXPECT_LE(page.minimumSizeHint().width(), kSmallestRoom);
   rig.window().resize(kSmallestRoom, 900);
   QApplication::processEvents();
-  EXPECT_GT(page.ListView1->mapTo(&page, QPoint()).y(),
-            page.optBtn->mapTo(&page, page.optBtn->rect().bottomLeft()).y());
+  EXPECT_LT(page.ListView1->mapTo(&page, page.ListView1->rect().bottomLeft()).y(),
+            page.optBtn->mapTo(&page, QPoint()).y());
 }
 
 TEST_F(TactorPageTest, KeysOnTheDrawingPassOverMarksWithoutARow) {

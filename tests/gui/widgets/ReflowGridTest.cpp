@@ -119,6 +119,21 @@ TEST_F(GridRowByRow, AHiddenTileLeavesNoGap) {
   Resize(WidthOf(2), 300);
 }
 
+class GridDownwards : public Grid {
+ protected:
+  GridDownwards() : Grid(ReflowGrid::Order::Downwards, 3, 7) {}
+};
+
+TEST_F(GridDownwards, FillsTheColumnsThatTheWidthHoldsFromTheTop) {
+  Resize(WidthOf(3), 400);
+  EXPECT_EQ(ColumnsOfTiles(), (std::vector<int>{0, 0, 0, 1, 1, 1, 2}));
+  EXPECT_EQ(PlaceOf(1), QPoint(0, kTileHeight + kRowGap));
+  Resize(WidthOf(3) - 1, 400);
+  EXPECT_EQ(ColumnsOfTiles(), (std::vector<int>{0, 0, 0, 0, 1, 1, 1}));
+  Resize(WidthOf(1), 400);
+  EXPECT_EQ(ColumnsOfTiles(), std::vector<int>(7, 0));
+}
+
 class GridColumnByColumn : public Grid {
  protected:
   GridColumnByColumn() : Grid(ReflowGrid::Order::ColumnByColumn, 2, 9) {}

@@ -1,0 +1,70 @@
+#include "widgets/FlowRow.h"
+
+#include "gui/support/TestWindow.h"
+
+namespace mortane {
+namespace {
+
+constexpr int kGap = 10;
+constexpr int kLineGap = 4;
+
+// Controls of 100 x 20, 60 x 30 and 80 x 20.
+class FlowRowTest : public ::testing::Test {
+ protected:
+  FlowRowTest() {
+    panel.setLayout(row);
+    for (const QSize size : {QSize(100, 20), QSize(60, 30), QSize(80, 20)}) {
+      parts.push_back(new QWidget(&panel));
+      parts.back()->setFixedSize(size);
+      row->addWidget(parts.back());
+    }
+  }
+  void ShowIn(int width) {
+    panel.resize(width, 200);
+    panel.show();
+    QApplication::processEvents();
+  }
+
+  QWidget panel;
+  FlowRow* row = new FlowRow(kGap, kLineGap);
+  std::vector<QWidget*> parts;
+};
+
+TEST_F(FlowRowTest, IsOneLineWhereTheWidthHoldsAll) {
+  ShowIn(260);
+  EXPECT_EQ(parts[0]->pos(), QPoint(0, 5)) << "in the middle of the line";
+  EXPECT_EQ(parts[1]->pos(), QPoint(110, 0));
+  EXPECT_EQ(parts[2]->pos(), QPoint(180, 5));
+  EXPECT_EQ(row->sizeHint(), QSize(260, 30));
+  EXPECT_EQ(row->minimumSize(), QSize(100, 30));
+}
+
+TEST_F(FlowRowTest, GoesOnInTheNextLineInOnePixelLessAndAsksForItsHeight) {
+  ShowIn(259);
+  EXPECT_EQ(parts[1]->pos(), QPoint(110, 0));
+  EXPECT_EQ(parts[2]->pos(), QPoint(0, 34));
+  EXPECT_EQ(row->minimumSize(), QSize(100, 54));
+  ShowIn(100);
+  EXPECT_EQ(parts[1]->pos(), QPoint(0, 24));
+  EXPECT_EQ(parts[2]->pos(), QPoint(0, 58));
+  EXPECT_EQ(row->minimumSize(), QSize(100, 78));
+}
+
+TEST_F(FlowRowTest, AHiddenControlLeavesNoGap) {
+  parts[1]->hide();
+  ShowIn(190);
+  EXPECT_EQ(parts[2]->pos(), QPoint(110, 0));
+  EXPECT_EQ(row->sizeHint(), QSize(190, 20));
+}
+
+TEST_F(FlowRowTest, GivesBackWhatIsTaken) {
+  EXPECT_EQ(row->itemAt(3), nullptr);
+  EXPECT_EQ(row->takeAt(-1), nullptr);
+  const std::unique_ptr<QLayoutItem> taken(row->takeAt(0));
+  ASSERT_NE(taken, nullptr);
+  EXPECT_EQ(taken->widget(), parts[0]);
+  EXPECT_EQ(row->count(), 2);
+}
+
+}  // namespace
+}  // namespace mortane
