@@ -243,7 +243,7 @@ TEST_F(Turret, APendingPlaceShowsItsDot) {
   };
   turret->SetItem(2, {"5x", "5x, C", 5.0});
   EXPECT_FALSE(hasDot());
-  turret->SetItem(2, {"5x", "5x, C", 5.0, true});
+  turret->SetPending({{3, "2x, B"}});
   EXPECT_TRUE(hasDot());
 }
 
