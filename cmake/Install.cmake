@@ -79,4 +79,7 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/benches"
   DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/mortane" FILES_MATCHING PATTERN "*.xml")
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${doc}" RENAME copyright)
 
+# Built by the target "manual", which needs more than the programs do.
+install(DIRECTORY "${PROJECT_BINARY_DIR}/manual" DESTINATION "${doc}" OPTIONAL)
+
 add_custom_target(installed_files ALL DEPENDS ${made_files})

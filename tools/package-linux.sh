@@ -5,13 +5,13 @@
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
-tools/setup.sh build tour linux-package
+tools/setup.sh build manual linux-package
 
 # The distribution's own flags, with all of its hardening and without what only a debugger needs.
 export DEB_BUILD_MAINT_OPTIONS=hardening=+all DEB_CXXFLAGS_MAINT_STRIP=-g
 CXXFLAGS="$(dpkg-buildflags --get CPPFLAGS) $(dpkg-buildflags --get CXXFLAGS)" \
   LDFLAGS="$(dpkg-buildflags --get LDFLAGS)" cmake --preset package </dev/null
-cmake --build --preset package </dev/null
+cmake --build --preset package --target all manual </dev/null
 # What stands in the package belongs to root, and nobody else may write it.
 umask 022
 rm -f dist/mortane_*.deb

@@ -133,6 +133,8 @@ class Installed(unittest.TestCase):
         self.assertEqual(sorted(os.listdir(self.share)),
                          ["applications", "bash-completion", "doc", "icons", "man", "metainfo",
                           "mortane"])
+        self.assertIn(os.listdir(self.share / "doc/mortane"),
+                      (["copyright"], ["copyright", "manual"], ["manual", "copyright"]))
         for path in self.prefix.rglob("*"):
             self.assertEqual(path.stat().st_mode & 0o444, 0o444, path)
 

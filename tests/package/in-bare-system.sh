@@ -59,6 +59,9 @@ apt install xvfb xdotool fonts-dejavu-core
 apt remove mortane
 apt autoremove
 useradd --create-home person
+# Stands in for the desktop's way to the person's browser.
+printf '#!/bin/sh\necho "$1" >>"$HOME/opened"\n' >/usr/local/bin/xdg-open
+chmod +x /usr/local/bin/xdg-open
 home="$(getent passwd person | cut -d: -f6)"
 files >"$work/before"
 apt install "$package"
@@ -66,6 +69,14 @@ start_server 1400 900
 
 step "the program and the wizard on the simulated microscope"
 start_on_simulator Mortane mortane
+xdotool key F1
+for _ in {1..50}; do
+  [[ ! -s "$home/opened" ]] || break
+  sleep 0.1
+done
+opened="$(<"$home/opened")"
+[[ "$opened" == file:///usr/share/doc/mortane/manual/system.html && -s "${opened#file://}" ]] ||
+  fail "F1 opens $opened"
 leave_guest alt+f key x
 start_on_simulator Sadrel sadrel
 leave_guest alt+c

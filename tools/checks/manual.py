@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""What the manual says about the program stands in the program: captions, messages and links."""
+"""What the manual says about the program stands in the program: captions, messages, controls that
+are marked in pictures, and links."""
 
 import re
 
@@ -8,7 +9,9 @@ import tree
 FOLDER = "docs/manual/"
 PROBLEMS = FOLDER + "11-when-something-goes-wrong.md"
 CAPTION = re.compile(r"(?<!\*)\*\*(?!\*)([^*\n]+)\*\*(?!\*)")
-LINK = re.compile(r"\]\(([^)#\s]*)(?:#([\w-]+))?\)")
+LINK = re.compile(r"(?<!!)\[[^\]]*\]\(([^)#\s]*)(?:#([\w-]+))?\)")
+# The controls that get a circle in a picture; "_0" is the first of an array.
+MARKS = re.compile(r'^!\[.*\bmarks="([^"]*)"')
 ANCHOR = re.compile(r"\{#([\w-]+)\}")
 QUOTED = re.compile(r'^(?:"[^"\n]+"(?:, )?)+$', re.M)
 LITERAL = re.compile(r'u?"((?:[^"\\\n]|\\.)*)"')
@@ -57,6 +60,9 @@ def check(root):
             for caption in CAPTION.findall(line):
                 if caption not in captions and caption.rstrip(":") not in captions:
                     said.append(f"{name}:{number}: **{caption}**: no text of the program")
+            for mark in " ".join(MARKS.findall(line)).split():
+                if re.sub(r"_\d+$", "", mark) not in captions:
+                    said.append(f"{name}:{number}: {mark}: no control of the program")
             for target, anchor in LINK.findall(line):
                 page = FOLDER + target if target else name
                 if page not in pages:
@@ -78,12 +84,16 @@ def check(root):
 
 GOOD = {
     "src/app/A.cpp": 'void F() {\n  menu->addMenu(u"File(&F)"_s);\n  prompts.MsgBox("No Lamp\\r\\nGo", 0);\n}\n',
-    FOLDER + "01-a.md": "# A {#a}\nChoose **File**, see [B](11-when-something-goes-wrong.md#b).\n",
+    FOLDER + "01-a.md": "# A {#a}\n![A](pictures/a.png){shows=\"A\" marks=\"File_1\"}\n"
+                        "Choose **File**, see [B](11-when-something-goes-wrong.md#b).\n",
     PROBLEMS: '# B {#b}\n\n"No Lamp"\n:   Buy one.\n',
 }
 BAD = {
     "a caption that is none": ({FOLDER + "02-b.md": "\n**Fiel**\n"}, FOLDER + "02-b.md:2"),
     "a chapter that is none": ({FOLDER + "02-b.md": "\n[x](03-c.md)\n"}, FOLDER + "02-b.md:2"),
+    "a control that is none": (
+        {FOLDER + "02-b.md": '\n![B](pictures/b.png){shows="A" marks="Fiel"}\n'},
+        FOLDER + "02-b.md:2"),
     "an anchor that is none": ({FOLDER + "02-b.md": "\n[x](01-a.md#c)\n"}, FOLDER + "02-b.md:2"),
     "a message that is none": ({PROBLEMS: '# B {#b}\n\n"No Lamp"\n:   Buy.\n\n"No Fun"\n:   Laugh.\n'},
                                PROBLEMS),
