@@ -16,6 +16,7 @@ cmake --build --preset package --target all manual </dev/null
 umask 022
 rm -f dist/mortane_*.deb
 (cd build/package && cpack -G DEB >cpack.log 2>&1) || { cat build/package/cpack.log >&2; exit 1; }
+rm -rf dist/_CPack_Packages
 
 package="$(echo dist/mortane_*.deb)"
 lintian --allow-root --fail-on error,warning --show-overrides "$package"
