@@ -11,8 +11,8 @@ tools/setup.sh build test bench lint
 
 folder=build/lint
 cmake --preset lint </dev/null >/dev/null
-ninja -C "$folder" -t targets all | sed -nE 's/^([^ ]*cmake_pch\.hxx\.pch|[a-z_]+_autogen): .*/\1/p' |
-  xargs cmake --build "$folder" --target >/dev/null
+prepared="$(ninja -C "$folder" -t targets all | sed -nE 's/^([^ ]*cmake_pch\.hxx\.pch): .*/\1/p' |
+  xargs cmake --build "$folder" --target 2>&1)" || { echo "$prepared" >&2; exit 1; }
 
 known="$(python3 -c 'import json, os, sys
 names = (os.path.relpath(entry["file"]) for entry in json.load(open(sys.argv[1])))

@@ -57,6 +57,7 @@ MicroscopeLink::MicroscopeLink(const MicroscopeChoice& choice, Surroundings& sur
 std::vector<DeviceRow> MicroscopeLink::Devices() {
   std::vector<DeviceRow> rows;
   const std::int32_t count = k70_->DeviceCount();
+  rows.reserve(static_cast<std::size_t>(count));
   for (std::int32_t index = 0; index < count; ++index) {
     rows.push_back({index, k70_->DeviceName(index), UseOf(index)});
   }
