@@ -12,6 +12,7 @@
 #include "drawings/MoveCross.h"
 #include "drives/ControlFocusDriveCtl.h"
 #include "drives/ControlXYStageCtl.h"
+#include "gui/support/EventLoop.h"
 #include "support/TempFolder.h"
 #include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/OptionGroup.h"
@@ -122,7 +123,7 @@ TEST_P(CloseBoxDuringAct, AsksOnceItIsOver) {
   EXPECT_TRUE(rig.form->isVisible());
   rig.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption,
                         [] { EXPECT_FALSE(InputFlush::IsRunning()) << "nobody could answer"; });
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_TRUE(rig.prompts.AllAnswersUsed()) << "not asked";
   EXPECT_FALSE(rig.form->isVisible());
 }
@@ -131,7 +132,7 @@ TEST_P(CloseBoxDuringAct, CancelledGoesOn) {
   FlushingRig rig;
   GetParam().run(rig);
   rig.prompts.ExpectBox(kExitQuestion, 33, Answer::Cancel, kMainCaption);
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_TRUE(rig.form->isVisible());
   EXPECT_TRUE(rig.prompts.AllAnswersUsed());
   rig.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption);
@@ -153,11 +154,11 @@ TEST(CloseBox, UnderABoxIsAskedWhenTheBoxHasGone) {
   standing.setModal(true);
   standing.show();
   EXPECT_FALSE(rig.RequestClose());
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_TRUE(rig.prompts.Boxes().empty());
   rig.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption);
   standing.hide();
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_FALSE(rig.form->isVisible());
 }
 

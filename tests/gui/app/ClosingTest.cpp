@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "CommandRig.h"
+#include "gui/support/EventLoop.h"
 #include "support/TempFolder.h"
 
 namespace mortane::test {
@@ -59,7 +60,7 @@ class CloseBoxDuring : public testing::TestWithParam<Control<QAction> MortaneMai
   // The command, and after it what the event loop has to do.
   void Trigger() {
     (rig.form().*GetParam())->trigger();
-    QTest::qWait(1);
+    DeliverAll();
   }
 
   CommandRig rig;
@@ -81,7 +82,7 @@ TEST_P(CloseBoxDuring, CancelledGoesOnAndIsNotAskedAgain) {
   Trigger();
   EXPECT_TRUE(rig.form().isVisible());
   rig.form().MenuConnectReceive->trigger();
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_EQ(rig.app.prompts.Boxes().size(), 1U);
 }
 
@@ -98,7 +99,7 @@ TEST(CloseBox, AskedForTwiceDuringACommandIsOneQuestion) {
   };
   rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Cancel, kMainCaption);
   rig.form().MenuConnectSend->trigger();
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_EQ(rig.app.prompts.Boxes().size(), 1U);
 }
 
@@ -108,7 +109,7 @@ TEST(CloseBox, DuringAnExitThatClosesAsksNothingMore) {
   rig.app.prompts.ExpectBox(kExitQuestion, 33, Answer::Ok, kMainCaption,
                             [&] { EXPECT_FALSE(rig.app.RequestClose()); });
   rig.form().FileMenuExit->trigger();
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_FALSE(rig.form().isVisible());
   EXPECT_EQ(rig.app.prompts.Boxes().size(), 1U);
 }

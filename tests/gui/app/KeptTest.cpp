@@ -14,6 +14,7 @@
 #include "app/SelFileItemDlg.h"
 #include "app/SessionNote.h"
 #include "app/UnsentEdits.h"
+#include "gui/support/EventLoop.h"
 #include "record/Backups.h"
 #include "support/TempFolder.h"
 
@@ -106,7 +107,7 @@ TEST_F(Kept, EditsAreThereWhileTheyAreNotSent) {
   Keep();
   EXPECT_NE(TempFolder::Read(Unsent()).find("<Setup>"), std::string::npos);
   form->MenuConnectSend->trigger();
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_FALSE(std::filesystem::exists(Unsent()));
 }
 

@@ -15,6 +15,7 @@
 #include "app/SelScopeDlg.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
+#include "gui/support/EventLoop.h"
 #include "widgets/CommandKey.h"
 #include "widgets/ListBox.h"
 #include "widgets/PageButton.h"
@@ -148,7 +149,7 @@ TEST(Start, RunsOnceHoweverOftenTheWindowIsActivated) {
   rig.form->show();
   QEvent activation(QEvent::WindowActivate);
   QApplication::sendEvent(rig.form.get(), &activation);
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_TRUE(rig.journal.Lines().empty());
   EXPECT_TRUE(rig.prompts.Log().empty());
 }
@@ -160,7 +161,7 @@ TEST(Start, BeginsWithActivationWithoutWaitingForAPainting) {
   QEvent activation(QEvent::WindowActivate);
   QApplication::sendEvent(rig.form.get(), &activation);
   EXPECT_TRUE(rig.journal.Lines().empty()) << "not inside the event";
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_EQ(GetK70().lConnectDevice, 1);
 }
 

@@ -6,12 +6,17 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QThread>
+#include <QTimer>
 
 #include "AppRig.h"
 #include "widgets/ProgressLine.h"
 
 namespace mortane::test {
 namespace {
+
+// Of a timed box that nobody answers in time.
+constexpr int kShortMs = 1;
 
 QtPrompts MakePrompts() {
   return QtPrompts([](int) { ADD_FAILURE() << "nobody should wait"; });
@@ -135,7 +140,7 @@ TEST(MessageBox, OfAWindowThatEndsIsNotAnswered) {
 
 TEST(TimedMsgBox, ClosesItselfAndAnswersZero) {
   QtPrompts prompts = MakePrompts();
-  EXPECT_EQ(prompts.TimedMsgBox(1, "Move Stop?", 0, "Title"), Answer::TimedOut);
+  EXPECT_EQ(prompts.TimedMsgBox(kShortMs, "Move Stop?", 0, "Title"), Answer::TimedOut);
   EXPECT_EQ(static_cast<int>(Answer::TimedOut), 0);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
@@ -156,11 +161,13 @@ TEST(TimedMsgBox, AnsweredInTimeGivesTheAnswerAndNeverFires) {
 TEST(TimedMsgBox, AnAnswerAfterTheTimeIsStillZero) {
   QtPrompts prompts = MakePrompts();
   const WhenShown<QMessageBox> person([](QMessageBox& box) {
-    // The tick comes while the thread is busy, and the person's click right behind it.
-    QTest::qSleep(5);
+    // The thread is busy until the tick is due, and the person's click comes right behind it.
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() <= kShortMs) QThread::yieldCurrentThread();
     QTimer::singleShot(0, &box, [&box] { ButtonOf(box, "OK")->click(); });
   });
-  EXPECT_EQ(prompts.TimedMsgBox(1, "Move Stop?", 0, "Title"), Answer::TimedOut);
+  EXPECT_EQ(prompts.TimedMsgBox(kShortMs, "Move Stop?", 0, "Title"), Answer::TimedOut);
 }
 
 TEST(Pointer, IsTheHourglassUntilEachOneIsTakenBack) {

@@ -1,7 +1,9 @@
 #include "widgets/ListBox.h"
 
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QThread>
 #include <QtMath>
 #include <utility>
 
@@ -273,12 +275,18 @@ TEST_F(ListBoxSearch, OneLetterRepeatedGoesFromRowToRowAndRoundAgain) {
 
 TEST_F(ListBoxSearch, AfterAPauseANewSearchBeginsBelow) {
   const int usual = QApplication::keyboardInputInterval();
-  QApplication::setKeyboardInputInterval(1);
+  constexpr int kPauseMs = 1;
+  QApplication::setKeyboardInputInterval(kPauseMs);
+  const auto pause = [] {
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() <= kPauseMs) QThread::yieldCurrentThread();
+  };
   QTest::keyClicks(list, "p");
-  QTest::qWait(5);
+  pause();
   QTest::keyClicks(list, "p");
   EXPECT_EQ(list->index(), 2);
-  QTest::qWait(5);
+  pause();
   QTest::keyClicks(list, "s");
   EXPECT_EQ(list->index(), 3);
   QApplication::setKeyboardInputInterval(usual);

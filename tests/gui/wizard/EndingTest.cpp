@@ -8,6 +8,7 @@
 
 #include "WizardRig.h"
 #include "app/InputFlush.h"
+#include "gui/support/EventLoop.h"
 #include "support/TempFolder.h"
 #include "widgets/Card.h"
 #include "widgets/Theme.h"
@@ -98,7 +99,7 @@ TEST_F(EndingStep, ARequestToCloseDuringTheSendingAsksNothingMore) {
   };
   ExpectSaveQuestion(Answer::Cancel);
   QTest::mouseClick(ending().ButtonSend, Qt::LeftButton);
-  QTest::qWait(1);
+  DeliverAll();
   EXPECT_FALSE(form().isVisible());
   EXPECT_EQ(rig.prompts.Boxes().size(), 1U);
 }
