@@ -1,5 +1,7 @@
 #include "ctl/MicroscopeLink.h"
 
+#include <algorithm>
+
 #include "common/Failure.h"
 #include "common/Numbers.h"
 #include "ctl/Outcome.h"
@@ -57,7 +59,7 @@ MicroscopeLink::MicroscopeLink(const MicroscopeChoice& choice, Surroundings& sur
 std::vector<DeviceRow> MicroscopeLink::Devices() {
   std::vector<DeviceRow> rows;
   const std::int32_t count = k70_->DeviceCount();
-  rows.reserve(static_cast<std::size_t>(count));
+  rows.reserve(static_cast<std::size_t>(std::max(count, 0)));
   for (std::int32_t index = 0; index < count; ++index) {
     rows.push_back({index, k70_->DeviceName(index), UseOf(index)});
   }

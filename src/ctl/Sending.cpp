@@ -129,9 +129,9 @@ class Sender {
     }
     ReadBack();
     link_.Keep();
-    const bool whole = result_.notWritten.empty() && result_.notKnown.empty();
-    result_.sending = whole ? Sending::Done : Sending::Partly;
-    return whole && result_.failures.empty() ? Outcome::Done : Outcome::Failed;
+    const bool complete = result_.notWritten.empty() && result_.notKnown.empty();
+    result_.sending = complete ? Sending::Done : Sending::Partly;
+    return complete && result_.failures.empty() ? Outcome::Done : Outcome::Failed;
   }
 
   // What was read back decides. What could not be read back is told by the calls that were made.

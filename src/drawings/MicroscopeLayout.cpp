@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -81,8 +82,10 @@ Extras ExtrasAt(const QVector<Wish>& wishes, double scale) {
 double ScaleFor(const QVector<Wish>& wishes, const QSizeF& room) {
   constexpr double kStep = 0.01;
   const double largest = std::min(room.width() / kDesign.width(), room.height() / kDesign.height());
-  double scale = std::clamp(largest, kLeastScale, kMostScale);
-  for (; scale > kLeastScale; scale -= kStep) {
+  const double first = std::clamp(largest, kLeastScale, kMostScale);
+  const int steps = static_cast<int>(std::ceil((first - kLeastScale) / kStep));
+  for (int step = 0; step < steps; ++step) {
+    const double scale = first - step * kStep;
     const Extras extras = ExtrasAt(wishes, scale);
     if (kDesign.width() * scale + extras.left + extras.right <= room.width()) return scale;
   }
@@ -99,10 +102,10 @@ void KeepApart(std::vector<DrawnLabel*> labels, double bottom) {
     label->area.moveTop(std::max(label->area.top(), next));
     next = label->area.bottom();
   }
-  for (auto label = labels.rbegin(); label != labels.rend(); ++label) {
-    (*label)->area.moveBottom(std::min((*label)->area.bottom(), bottom));
-    bottom = (*label)->area.top();
-  }
+  std::for_each(labels.rbegin(), labels.rend(), [&bottom](DrawnLabel* label) {
+    label->area.moveBottom(std::min(label->area.bottom(), bottom));
+    bottom = label->area.top();
+  });
 }
 
 void DrawLine(DrawnLabel& label, Side side, double scale) {

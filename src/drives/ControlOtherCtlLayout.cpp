@@ -223,11 +223,11 @@ class ControlOtherCtl::Columns : public QBoxLayout {
 void ControlOtherCtl::Build() {
   columns_ = new Columns;
   std::array<QVBoxLayout*, 2> stacks{};
-  for (std::size_t i = 0; i < stacks.size(); ++i) {
+  for (QVBoxLayout*& stack : stacks) {
     auto* column = new QWidget(FrameBase);
-    stacks[i] = new QVBoxLayout(column);
-    stacks[i]->setContentsMargins({});
-    stacks[i]->setSpacing(grid::kBetweenGroups);
+    stack = new QVBoxLayout(column);
+    stack->setContentsMargins({});
+    stack->setSpacing(grid::kBetweenGroups);
     columns_->addWidget(column);
   }
   for (const FrameRow& frame : kFrames) {

@@ -118,7 +118,7 @@ std::string DeviceFolderName(const std::string& device) {
   return name + "-" + HexPadded(static_cast<std::int32_t>(number), 8);
 }
 
-Backups::Backups(std::string folder, const std::string& device, Clock clock)
+Backups::Backups(const std::string& folder, const std::string& device, Clock clock)
     : folder_(Joined(folder, DeviceFolderName(device))), clock_(std::move(clock)) {}
 
 std::string Backups::DefaultFolder() {
@@ -156,6 +156,7 @@ std::vector<Backup> Backups::List() const {
     return std::tie(right.time, right.number) < std::tie(left.time, left.number);
   });
   std::vector<Backup> backups;
+  backups.reserve(found.size());
   for (const Named& named : found) backups.push_back({Joined(folder_, named.name), named.time});
   return backups;
 }

@@ -24,7 +24,7 @@ class Backups {
   using Clock = std::function<BackupTime()>;
 
   // `folder` holds the folders of all devices; the device's is made by the first Keep.
-  Backups(std::string folder, const std::string& device, Clock clock = SystemTime);
+  Backups(const std::string& folder, const std::string& device, Clock clock = SystemTime);
 
   // The user's folder for backups; empty when the system names none.
   static std::string DefaultFolder();

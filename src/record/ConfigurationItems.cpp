@@ -31,7 +31,7 @@ class SectionItems {
   SectionItems(std::string section, std::vector<ConfigurationItem>& items)
       : section_(std::move(section)), items_(items) {}
 
-  void Collect(const DomNode& node, const std::string& path, std::string position) {
+  void Collect(const DomNode& node, const std::string& path, const std::string& position) {
     for (const DomNode& child : node.Children()) {
       if (!child.IsElement()) continue;
       const std::string element = path.empty() ? child.Name() : path + "/" + child.Name();

@@ -78,6 +78,7 @@ std::string Place(std::string_view section, std::string_view element, std::strin
 template <typename Rows>
 std::vector<std::string_view> WordsOf(const Rows& rows) {
   std::vector<std::string_view> words;
+  words.reserve(std::size(rows));
   for (const auto& row : rows) words.push_back(row.word);
   return words;
 }

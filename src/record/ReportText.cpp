@@ -23,7 +23,7 @@ void AddHeading(std::string& text, const std::string& title) {
   AddLine(text, std::string(std::min(CharacterCount(title), kWidth), '-'));
 }
 
-std::string Filled(std::string line, std::size_t width) {
+std::string Filled(const std::string& line, std::size_t width) {
   const std::size_t length = CharacterCount(line);
   return line + std::string(width > length ? width - length : 0, ' ');
 }

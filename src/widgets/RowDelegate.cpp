@@ -42,7 +42,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   QStyledItemDelegate::paint(painter, row, index);
   const bool selected = row.state.testFlag(QStyle::State_Selected);
   DrawPendingDot(*painter,
-                 QRectF(option.rect.left() + kPendingRoom / 2, option.rect.top(), kPendingRoom,
+                 QRectF(option.rect.left() + kPendingRoom / 2.0, option.rect.top(), kPendingRoom,
                         option.rect.height())
                      .center(),
                  row.palette.color(selected ? QPalette::HighlightedText : QPalette::Link),

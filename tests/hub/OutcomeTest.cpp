@@ -9,7 +9,7 @@ namespace {
 
 struct OutcomeRow {
   const char* fault;  // empty: none
-  bool whole;
+  bool complete;
 };
 
 class TransferOutcome : public testing::TestWithParam<OutcomeRow> {
@@ -23,11 +23,11 @@ class TransferOutcome : public testing::TestWithParam<OutcomeRow> {
 };
 
 TEST_P(TransferOutcome, OfAReceiveTellsWhetherAllWasRead) {
-  EXPECT_EQ(rig.k70.Receive(), GetParam().whole);
+  EXPECT_EQ(rig.k70.Receive(), GetParam().complete);
 }
 
 TEST_P(TransferOutcome, OfASendTellsWhetherAllWasWritten) {
-  EXPECT_EQ(rig.k70.Send(), GetParam().whole);
+  EXPECT_EQ(rig.k70.Send(), GetParam().complete);
 }
 
 INSTANTIATE_TEST_SUITE_P(Faults, TransferOutcome,
