@@ -17,8 +17,8 @@ class MicroscopeDrawing;
 class TextField;
 class clsK70;
 
-// A nameless controller shows "NoName". That is only shown until the field is left or the page
-// is saved: then it is the name, and a Send writes it.
+// A nameless controller shows "NoName". Kept: that is only shown until the field is left or the
+// page is saved; then it is the name, and a Send writes it.
 class SystemNameCtl : public Page {
  public:
   explicit SystemNameCtl(clsK70& k70, QWidget* parent = nullptr);

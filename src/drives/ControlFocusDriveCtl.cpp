@@ -64,7 +64,7 @@ void ControlFocusDriveCtl::LoadData() {
   LoadEscape();
 }
 
-// Options after the one that is selected keep their visibility.
+// Kept: options after the one that is selected keep their visibility.
 void ControlFocusDriveCtl::LoadCompensation() {
   OptionGroup& options = *optFocusCompensation;
   const std::int32_t code = drive_.curFocusCompensation;

@@ -11,9 +11,9 @@ namespace mortane {
 class CheckToggle;
 class clsControlZDrive;
 
-// Every edit reaches the unit at once. The teaching section, FrameZNose, is hidden by each loading
-// but works: its buttons move the real drive. A position that a step, or the question of a row, has
-// shown is stored, unless it is 0.
+// Every edit reaches the unit at once. Kept: the teaching section, FrameZNose, is hidden by each
+// loading but works; its buttons move the real drive. A position that a step, or the question of a
+// row, has shown is stored, unless it is 0.
 class ControlFocusDriveCtl : public DrivePageCtl {
   Q_OBJECT
 

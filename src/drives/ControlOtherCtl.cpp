@@ -193,7 +193,7 @@ void ControlOtherCtl::LoadStep(int step) {
 }
 
 // Selecting Manual sets the sensitivity to coarse, so it is read before and selected again after.
-// The focus knob's list and check box are never shown.
+// Kept: the focus knob's list and check box are never shown.
 void ControlOtherCtl::LoadFocusKnob() {
   const bool fitted = other_.parent.IsControllable(accessory::kZFocusDrive);
   const std::int32_t automatic = fitted ? other_.curAutoZ : kUnknown;
@@ -209,8 +209,8 @@ void ControlOtherCtl::LoadFocusKnob() {
   }
 }
 
-// Other than the focus knob's, the controls appear also for a stage that is only sensed, and a
-// sensitivity that is not in the list is a failure.
+// Kept: other than the focus knob's, the controls appear also for a stage that is only sensed, and
+// a sensitivity that is not in the list is a failure.
 void ControlOtherCtl::LoadStageKnob() {
   const bool fitted = other_.parent.IsMounted(accessory::kXYStage) != kNotMounted;
   const std::int32_t automatic = fitted ? other_.curAutoXY : kUnknown;

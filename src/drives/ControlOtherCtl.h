@@ -26,8 +26,8 @@ class ControlOtherCtl : public CardPage {
   // A step that fails is shown with its number and ends the loading.
   void LoadData() override;
 
-  // Whether a frame is shown. Reading one of the last three writes "True" or "False" over the
-  // frame's caption and returns false.
+  // Whether a frame is shown. Kept: reading one of the last three writes "True" or "False" over
+  // the frame's caption and returns false.
   bool ManualHandleVisible() const;
   void ManualHandleVisible(bool visible);
   bool BuzzerVisible();

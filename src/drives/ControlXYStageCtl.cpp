@@ -73,7 +73,7 @@ void ControlXYStageCtl::Build() {
   }
 }
 
-// Without any stage its controls are shown, and preparing it fails with a box.
+// Kept: without any stage its controls are shown, and preparing it fails with a box.
 void ControlXYStageCtl::LoadData() {
   LoadCompensation();
   FrameNosepiece->Load(stage_.NoseCount);

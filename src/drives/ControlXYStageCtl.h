@@ -16,7 +16,7 @@ class ControlXYStageCtl : public DrivePageCtl {
  public:
   explicit ControlXYStageCtl(clsControlXYDrive& stage, QWidget* parent = nullptr);
 
-  // Prepares the stage for moves, unless there is one and the nosepiece does not turn.
+  // Prepares the stage for moves where the nosepiece turns, or where there is no stage.
   void LoadData() override;
 
   Control<CaptionedFrame> Frame1{"Frame1"};

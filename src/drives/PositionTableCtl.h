@@ -42,8 +42,8 @@ class PositionTableCtl : public InnerFrame {
   // Shows the rows of that many addresses and their positions; `noSetting`, where there is one,
   // is the position that means none. The fields of hidden rows are emptied.
   void Load(std::int32_t addresses, std::optional<std::int32_t> noSetting = {});
-  // Stores what all fields show, those of hidden rows too. What is no number, or no position of
-  // its column, is stored as 0.
+  // Kept: stores what all fields show, those of hidden rows too. What is no number, or no position
+  // of its column, is stored as 0.
   void Save();
 
   // Of the field's text; none for a number outside 32 bits.

@@ -72,7 +72,7 @@ constexpr std::array<WrittenBuzzer, 3> kWrittenBuzzers{{
 constexpr WrittenBuzzer kRemoteBuzzer{controllerunit::kRemote, buzzer::kHub,
                                       "Control Other Buzzer QH_R"};
 
-// The controllers whose buzzer is compared: more than WriteSdk commands.
+// The controllers whose buzzer is compared. Kept: more than WriteSdk commands.
 constexpr std::initializer_list<std::int32_t> kComparedBuzzers{
     controllerunit::kBody, controllerunit::kHub, controllerunit::kUnit5, controllerunit::kRemote};
 

@@ -21,7 +21,7 @@ class clsControlOther {
   // Knobs of focus drive and stage: 1 automatic, 0 manual.
   std::int32_t curAutoZ = kUnknown;
   std::int32_t curAutoXY = kUnknown;
-  // 1 coarse, 2 medium, 3 fine; read of a manual knob alone, and never sent.
+  // 1 coarse, 2 medium, 3 fine; read of a manual knob alone. Kept: never sent.
   std::int32_t curSensitivityZ = kUnknown;
   std::int32_t curSensitivityXY = kUnknown;
   // 0 on, 1 off, 2 body and hub differ. Kept: sending anything but 0 switches all off.
@@ -30,7 +30,7 @@ class clsControlOther {
   std::int32_t curSwEnable = kUnknown;
   std::int32_t curTactorSwEnable = kUnknown;
   std::int32_t curR_TLPOSwEnable = kUnknown;
-  // 0 off, 1 dark, 2 bright. A settings file may make it 3, which no option stands for.
+  // 0 off, 1 dark, 2 bright. Kept: a settings file may make it 3, which no option stands for.
   std::int32_t curR_TLPOLED = kUnknown;
   // The fiber illuminator's remote: switch 0 off, 1 on; LED as above; whether its server answered.
   // The page that talks to that server fills them.
@@ -41,13 +41,13 @@ class clsControlOther {
   bool IsEnable() const;
 
   std::string ReadSdk();
-  // Compares the buzzer with what the last read found, the rest with the controller.
+  // Kept: compares the buzzer with what the last read found, the rest with the controller.
   std::string ModifySdk(std::string& list) const;
   // Kept: writes the buzzers whether they changed or not.
   std::string WriteSdk() const;
 
-  // One "OTHER" element holds all, each in a child of its own. The remote's LED does not come back
-  // from a file as it was written.
+  // One "OTHER" element holds all, each in a child of its own. Kept: the remote's LED does not come
+  // back from a file as it was written.
   std::string ReadDom(const DomNode& node);
   void WriteDom(DomDocument& document, DomNode section) const;
 

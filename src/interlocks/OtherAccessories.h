@@ -26,8 +26,8 @@ struct OtherAccessory {
   constexpr bool FollowsPath() const { return !pathItem.empty(); }
 };
 
-// In the order of the accessory numbers. The zoom and the light path follow nothing: settings files
-// have an entry for each. Kept: "Foucus" in files and reports.
+// In the order of the accessory numbers. Kept: the zoom and the light path follow nothing, but have
+// an entry each in settings files; and "Foucus" in files and reports.
 inline constexpr std::array<OtherAccessory, 9> kOtherAccessories{{
     {accessory::kNDFilter, "ND", "InterLock Other[ND]", "ND Filter", "ND Filter", 0, 1},
     {accessory::kDiaFieldStop, "DiaFStop", "InterLock Other[Dia F.Stop]", "FieldStop",

@@ -32,7 +32,7 @@ class clsInterLockOffset {
   std::string ModifySdk(std::string& list) const;
   std::string WriteSdk() const;
 
-  // An "OFFSET" element holds one accessory. One that cannot be used is ignored without a word.
+  // An "OFFSET" element holds one accessory. Kept: one that is of no use is ignored without a word.
   std::string ReadDom(const DomNode& node);
   // Always four elements.
   void WriteDom(DomDocument& document, DomNode section) const;

@@ -21,7 +21,7 @@ bool IsPresent(const ConnectedMicroscope& microscope, std::int32_t item) {
   return microscope.IsMounted(item) != kNotMounted;
 }
 
-// Files have the epi field stop under light path and zoom only.
+// Kept: files have the epi field stop under light path and zoom only.
 bool HasNosepieceEntry(const OtherAccessory& row) {
   return row.number != accessory::kEpiFieldStop;
 }
@@ -134,7 +134,7 @@ void clsInterLockOther::ReadFollower(const Change& change, std::int32_t follower
   (this->*change.states).Set(follower, ReadInterlock(parent, follower, change.cause));
 }
 
-// Whether the followers are mounted is not asked.
+// Kept: whether the followers are mounted is not asked.
 void clsInterLockOther::ReadPath(const Change& change) {
   if (!IsPresent(parent, change.accessory)) return;
   if (!parent.Controller(controllerunit::kBody) && !parent.Controller(controllerunit::kHub)) return;

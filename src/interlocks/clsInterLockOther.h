@@ -44,8 +44,8 @@ class clsInterLockOther {
   std::string ModifySdk(std::string& list) const;
   std::string WriteSdk() const;
 
-  // An element holds one accessory, and makes an unknown state known. One of an accessory that
-  // its table does not have is ignored without a word.
+  // An element holds one accessory, and makes an unknown state known. Kept: one of an accessory
+  // that its table does not have is ignored without a word.
   std::string ReadDom(const DomNode& node);
   std::string ReadLPDom(const DomNode& node);
   std::string ReadZMDom(const DomNode& node);
