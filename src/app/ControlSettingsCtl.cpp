@@ -16,40 +16,29 @@ namespace {
 
 using namespace controltab;
 
-struct TabRow {
-  const char* caption;
-  const char* name;  // of the sub-page
-};
-
-constexpr std::array<TabRow, kCount> kTabs{{
-    {"Focus Drive", "ControlFocusDriveCtl1"},
-    {"XY Stage", "ControlXYStageCtl1"},
-    {"Other", "ControlOtherCtl1"},
-    {"K70 Switch", "SwitchSettingCtl1"},
-    {"Tactor Switch", "ControlTactorSwitchCtl1"},
-    {"Joypad Switch", "JoypadSwitchSettingCtl1"},
-}};
+constexpr std::array<const char*, kCount> kCaptions{
+    "Focus Drive", "XY Stage", "Other", "K70 Switch", "Tactor Switch", "Joypad Switch"};
 
 }  // namespace
 
 ControlSettingsCtl::ControlSettingsCtl(const FormServices& services, const ControlSubPages& pages,
                                        QWidget* parent)
-    : ContainerPage(IconName::Control, u"Controls"_s, "optControl", parent, NotOffered::Hidden),
-      optControl(sections()),
-      ControlFocusDriveCtl1(pages[kFocusDrive].page),
-      ControlXYStageCtl1(pages[kXYStage].page),
-      ControlOtherCtl1(pages[kOther].page),
-      SwitchSettingCtl1(pages[kK70Switch].page),
-      ControlTactorSwitchCtl1(pages[kTactorSwitch].page),
-      JoypadSwitchSettingCtl1(pages[kJoypadSwitch].page),
+    : ContainerPage(IconName::Control, u"Controls"_s, parent, NotOffered::Hidden),
       k70_(services.k70),
       joystick_(services.joystick),
       fiber_(services.library),
       setNosePosition_(pages[kFocusDrive].SetNosePosition) {
+  optControl = sections();
+  ControlFocusDriveCtl1 = pages[kFocusDrive].page;
+  ControlXYStageCtl1 = pages[kXYStage].page;
+  ControlOtherCtl1 = pages[kOther].page;
+  SwitchSettingCtl1 = pages[kK70Switch].page;
+  ControlTactorSwitchCtl1 = pages[kTactorSwitch].page;
+  JoypadSwitchSettingCtl1 = pages[kJoypadSwitch].page;
   std::vector<Section> sections;
-  for (std::size_t i = 0; i < kTabs.size(); ++i) {
-    sections.push_back({QLatin1String(kTabs[i].caption), kTabs[i].name, pages[i].page,
-                        [this, i] { return tabs_[i]; }, pages[i].SetNosePosition});
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    sections.push_back({QLatin1String(kCaptions[i]), pages[i].page, [this, i] { return tabs_[i]; },
+                        pages[i].SetNosePosition});
   }
   SetSections(std::move(sections),
               {kJoypadSwitch, kTactorSwitch, kK70Switch, kOther, kXYStage, kFocusDrive});

@@ -11,8 +11,8 @@
 
 namespace mortane {
 
-// Opens on the lowest tab from "XY Stage" on that the microscope has, else on "Focus Drive", also
-// where there is nothing to show. Talks to the fiber illuminator's server as long as it lives.
+// Kept: opens on the lowest tab from "XY Stage" on that the microscope has, else on "Focus Drive",
+// also where there is nothing to show. Talks to the fiber illuminator's server as long as it lives.
 class ControlSettingsCtl : public ContainerPage {
  public:
   // Takes the sub-pages over.
@@ -25,13 +25,13 @@ class ControlSettingsCtl : public ContainerPage {
   void SetNosePostiton() override;
   void SendData() override;
 
-  SectionBar* optControl;
-  Page* ControlFocusDriveCtl1;
-  Page* ControlXYStageCtl1;
-  Page* ControlOtherCtl1;
-  Page* SwitchSettingCtl1;
-  Page* ControlTactorSwitchCtl1;
-  Page* JoypadSwitchSettingCtl1;
+  Control<SectionBar> optControl{"optControl"};
+  Control<Page> ControlFocusDriveCtl1{"ControlFocusDriveCtl1"};
+  Control<Page> ControlXYStageCtl1{"ControlXYStageCtl1"};
+  Control<Page> ControlOtherCtl1{"ControlOtherCtl1"};
+  Control<Page> SwitchSettingCtl1{"SwitchSettingCtl1"};
+  Control<Page> ControlTactorSwitchCtl1{"ControlTactorSwitchCtl1"};
+  Control<Page> JoypadSwitchSettingCtl1{"JoypadSwitchSettingCtl1"};
 
  protected:
   [[nodiscard]] int FirstSection() const override;

@@ -50,7 +50,7 @@ class MortaneMainForm : public ProgramForm {
   Control<QWidget> Picture2{"Picture2"};
   Controls<CommandKey, 4> ImageCommand{"ImageCommand"};
   Control<Rail> PictureMenu{"PictureMenu"};
-  std::array<PageButton*, kPageCount> ImageButton;  // of the rail, which names them
+  Controls<PageButton, kPageCount> ImageButton{"ImageButton"};
   Control<QFrame> FrameOptionButton{"FrameOptionButton"};
   Controls<QRadioButton, kPageCount> optMenu{"optMenu"};
   Control<QFrame> FrameControl{"FrameControl"};

@@ -98,7 +98,8 @@ void MortaneMainForm::BuildRail() {
   FrameOptionButton->hide();
   for (std::size_t i = 0; i < table_.size(); ++i) {
     optMenu.Set(i, new QRadioButton(FrameOptionButton));
-    ImageButton[i] = PictureMenu->button(PictureMenu->AddPage(table_[i].icon, table_[i].title));
+    const int added = PictureMenu->AddPage(table_[i].icon, table_[i].title);
+    ImageButton.Set(i, PictureMenu->button(added));
     EnablePage(i, i == 0, u"No microscope is connected."_s);
     connect(optMenu[i], &QRadioButton::toggled, this, [this, i](bool checked) {
       if (checked) OnMenuChanged(i);

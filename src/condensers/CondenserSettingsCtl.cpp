@@ -3,6 +3,7 @@
 #include "condensers/CondenserCassetteCtl.h"
 #include "condensers/CondenserOptionCtl.h"
 #include "condensers/clsCondenser.h"
+#include "widgets/SectionBar.h"
 
 namespace mortane {
 
@@ -10,20 +11,20 @@ using namespace Qt::StringLiterals;
 
 CondenserSettingsCtl::CondenserSettingsCtl(clsCondenser& cassette, clsDbCondenser& condensers,
                                            QWidget* parent)
-    : ContainerPage(IconName::Condenser, u"Condensers"_s, "optCondenserSetting", parent),
-      optCondenserSetting(sections()),
-      CondenserCassetteCtl1(new CondenserCassetteCtl(cassette, condensers)),
-      CondenserOptionCtl1(new CondenserOptionCtl(condensers)) {
+    : ContainerPage(IconName::Condenser, u"Condensers"_s, parent) {
+  optCondenserSetting = sections();
+  CondenserCassetteCtl1 = new CondenserCassetteCtl(cassette, condensers);
+  CondenserOptionCtl1 = new CondenserOptionCtl(condensers);
   const auto hasCondenser = [&cassette] {
     return cassette.parent.IsMounted(accessory::kCondenser) != kNotMounted;
   };
   SetSections({{u"Condenser"_s,
-                "CondenserCassetteCtl1",
+
                 CondenserCassetteCtl1,
                 hasCondenser,
                 {},
                 u"No condenser is mounted."_s},
-               {u"Optional"_s, "CondenserOptionCtl1", CondenserOptionCtl1}},
+               {u"Optional"_s, CondenserOptionCtl1}},
               {1, 0});
 }
 

@@ -18,9 +18,9 @@ class CondenserSettingsCtl : public ContainerPage {
   CondenserSettingsCtl(clsCondenser& cassette, clsDbCondenser& condensers,
                        QWidget* parent = nullptr);
 
-  SectionBar* optCondenserSetting;
-  CondenserCassetteCtl* CondenserCassetteCtl1;
-  CondenserOptionCtl* CondenserOptionCtl1;
+  Control<SectionBar> optCondenserSetting{"optCondenserSetting"};
+  Control<CondenserCassetteCtl> CondenserCassetteCtl1{"CondenserCassetteCtl1"};
+  Control<CondenserOptionCtl> CondenserOptionCtl1{"CondenserOptionCtl1"};
 };
 
 }  // namespace mortane

@@ -7,7 +7,6 @@
 
 #include "widgets/ClickFocus.h"
 #include "widgets/Icons.h"
-#include "widgets/Named.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -61,8 +60,7 @@ void MoveButton::paintEvent(QPaintEvent*) {
 
 // In the order of the Tab key: from left to right, from top to bottom.
 struct MoveCross::Place {
-  const char* name;  // none for the middle
-  const char* accessibleName;
+  const char* accessibleName;  // none for the middle, which has a caption
   MoveDirection direction;
   MoveSize size;
   int row;
@@ -70,15 +68,15 @@ struct MoveCross::Place {
 };
 
 const std::array<MoveCross::Place, 9> MoveCross::kPlaces{{
-    {"ButtonUpLarge", "Up, large step", MoveDirection::Up, MoveSize::Large, 0, kMiddle},
-    {"ButtonUpSmall", "Up, small step", MoveDirection::Up, MoveSize::Small, 1, kMiddle},
-    {"ButtonLeftLarge", "Left, large step", MoveDirection::Left, MoveSize::Large, kMiddle, 0},
-    {"ButtonLeftSmall", "Left, small step", MoveDirection::Left, MoveSize::Small, kMiddle, 1},
-    {nullptr, nullptr, {}, {}, kMiddle, kMiddle},
-    {"ButtonRightSmall", "Right, small step", MoveDirection::Right, MoveSize::Small, kMiddle, 3},
-    {"ButtonRightLarge", "Right, large step", MoveDirection::Right, MoveSize::Large, kMiddle, 4},
-    {"ButtonDownSmall", "Down, small step", MoveDirection::Down, MoveSize::Small, 3, kMiddle},
-    {"ButtonDownLarge", "Down, large step", MoveDirection::Down, MoveSize::Large, 4, kMiddle},
+    {"Up, large step", MoveDirection::Up, MoveSize::Large, 0, kMiddle},
+    {"Up, small step", MoveDirection::Up, MoveSize::Small, 1, kMiddle},
+    {"Left, large step", MoveDirection::Left, MoveSize::Large, kMiddle, 0},
+    {"Left, small step", MoveDirection::Left, MoveSize::Small, kMiddle, 1},
+    {nullptr, {}, {}, kMiddle, kMiddle},
+    {"Right, small step", MoveDirection::Right, MoveSize::Small, kMiddle, 3},
+    {"Right, large step", MoveDirection::Right, MoveSize::Large, kMiddle, 4},
+    {"Down, small step", MoveDirection::Down, MoveSize::Small, 3, kMiddle},
+    {"Down, large step", MoveDirection::Down, MoveSize::Large, 4, kMiddle},
 }};
 
 MoveCross::MoveCross(Axes axes, const QString& middle, QWidget* parent)
@@ -87,12 +85,12 @@ MoveCross::MoveCross(Axes axes, const QString& middle, QWidget* parent)
   cells_->setSpacing(grid::kUnit);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   for (const Place& place : kPlaces) {
-    if (place.name == nullptr) {
+    if (place.accessibleName == nullptr) {
       middle_ = new QPushButton(middle, this);
       middle_->setMinimumHeight(GridHeight(kButtonSide, *middle_));
       Add(middle_, place);
     } else if (axes == Axes::Both || place.column == kMiddle) {
-      auto* button = Named(new MoveButton(place.direction, place.size, this), place.name);
+      auto* button = new MoveButton(place.direction, place.size, this);
       button->setAccessibleName(QLatin1String(place.accessibleName));
       buttons_[SlotOf(place.direction, place.size)] = button;
       Add(button, place);

@@ -30,8 +30,7 @@ class MoveButton : public QPushButton {
   MoveSize size_;
 };
 
-// Small steps stand inside, large ones outside. Buttons are named after what they do:
-// ButtonUpLarge, ButtonLeftSmall ... Arrows move the focus along the cross and no drive.
+// Small steps stand inside, large ones outside. Arrows move the focus along the cross and no drive.
 class MoveCross : public QWidget {
   Q_OBJECT
 

@@ -8,7 +8,7 @@
 
 #include "drawings/InkedDrawing.h"
 #include "drawings/MarkButton.h"
-#include "widgets/Named.h"
+#include "widgets/Control.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 #include "widgets/VectorDrawing.h"
@@ -36,7 +36,8 @@ SwitchDrawing::SwitchDrawing(SwitchPlan plan, const char* arrayName, QWidget* pa
 }
 
 void SwitchDrawing::MakeButton(const PlacedMark& placed, const char* arrayName) {
-  auto* button = Named(new MarkButton(placed.mark, this), arrayName, placed.index + 1);
+  auto* button = new MarkButton(placed.mark, this);
+  button->setObjectName(ElementName(QLatin1String(arrayName), placed.index + 1));
   group_->add(button, placed.index);
   const auto at = static_cast<int>(buttons_.size());
   connect(button, &MarkButton::stepped, this, [this, at](int steps) { Step(at, steps); });

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "drawings/TurretButton.h"
-#include "widgets/Named.h"
+#include "widgets/Control.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Theme.h"
 
@@ -98,7 +98,8 @@ TurretDrawing::TurretDrawing(PlaceKind kind, QWidget* parent)
 }
 
 void TurretDrawing::MakeButton(int index) {
-  auto* button = Named(new TurretButton(kind_, index + 1, this), "place", index + 1);
+  auto* button = new TurretButton(kind_, index + 1, this);
+  button->setObjectName(ElementName(u"place"_s, index + 1));
   button->hide();
   group_->add(button, index);
   connect(button, &TurretButton::toggled, this,

@@ -5,6 +5,7 @@
 #include "filters/FilterQubeCtl.h"
 #include "filters/clsDbFilter.h"
 #include "filters/clsFilter.h"
+#include "widgets/SectionBar.h"
 
 namespace mortane {
 
@@ -12,22 +13,22 @@ using namespace Qt::StringLiterals;
 
 FilterQubeSettingsCtl::FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cubes,
                                              const FilterItemLists& items, QWidget* parent)
-    : ContainerPage(IconName::Cube, u"Filter Cubes"_s, "optFilterSetting", parent),
-      optFilterSetting(sections()),
-      FilterQubeCtl1(new FilterQubeCtl(turret, cubes)),
-      FilterOptionalQubeCtl1(new FilterOptionalQubeCtl(cubes, items)),
-      FilterOptionalItemCtl1(new FilterOptionalItemCtl(items)) {
+    : ContainerPage(IconName::Cube, u"Filter Cubes"_s, parent) {
+  optFilterSetting = sections();
+  FilterQubeCtl1 = new FilterQubeCtl(turret, cubes);
+  FilterOptionalQubeCtl1 = new FilterOptionalQubeCtl(cubes, items);
+  FilterOptionalItemCtl1 = new FilterOptionalItemCtl(items);
   const auto hasTurret = [&turret] {
     return turret.parent.IsMounted(accessory::kFilterCube) != kNotMounted;
   };
   SetSections({{u"Filter Cube"_s,
-                "FilterQubeCtl1",
+
                 FilterQubeCtl1,
                 hasTurret,
                 {},
                 u"No filter cube turret is mounted."_s},
-               {u"Optional Cube"_s, "FilterOptionalQubeCtl1", FilterOptionalQubeCtl1},
-               {u"Optional Item"_s, "FilterOptionalItemCtl1", FilterOptionalItemCtl1}},
+               {u"Optional Cube"_s, FilterOptionalQubeCtl1},
+               {u"Optional Item"_s, FilterOptionalItemCtl1}},
               {2, 0});
 }
 

@@ -21,10 +21,10 @@ class FilterQubeSettingsCtl : public ContainerPage {
   FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cubes, const FilterItemLists& items,
                         QWidget* parent = nullptr);
 
-  SectionBar* optFilterSetting;
-  FilterQubeCtl* FilterQubeCtl1;
-  FilterOptionalQubeCtl* FilterOptionalQubeCtl1;
-  FilterOptionalItemCtl* FilterOptionalItemCtl1;
+  Control<SectionBar> optFilterSetting{"optFilterSetting"};
+  Control<FilterQubeCtl> FilterQubeCtl1{"FilterQubeCtl1"};
+  Control<FilterOptionalQubeCtl> FilterOptionalQubeCtl1{"FilterOptionalQubeCtl1"};
+  Control<FilterOptionalItemCtl> FilterOptionalItemCtl1{"FilterOptionalItemCtl1"};
 };
 
 }  // namespace mortane

@@ -9,6 +9,7 @@
 #include "interlocks/clsInterLockObservation.h"
 #include "interlocks/clsInterLockOffset.h"
 #include "interlocks/clsInterLockOther.h"
+#include "widgets/SectionBar.h"
 
 namespace mortane {
 
@@ -16,22 +17,19 @@ using namespace Qt::StringLiterals;
 
 InterlockSettingsCtl::InterlockSettingsCtl(const Units& units, const DriveFollowers& drives,
                                            QWidget* parent)
-    : ContainerPage(IconName::Interlock, u"Interlocks"_s, "optSettings", parent),
-      optSettings(sections()),
-      InterlockObservationCtl1(new InterlockObservationCtl(units.observation)),
-      InterlockOtherCtl1(new InterlockOtherCtl(units.other, drives)),
-      InterlockOffsetCtl1(new InterlockOffsetCtl(units.offset)),
-      other_(units.other) {
+    : ContainerPage(IconName::Interlock, u"Interlocks"_s, parent), other_(units.other) {
+  optSettings = sections();
+  InterlockObservationCtl1 = new InterlockObservationCtl(units.observation);
+  InterlockOtherCtl1 = new InterlockOtherCtl(units.other, drives);
+  InterlockOffsetCtl1 = new InterlockOffsetCtl(units.offset);
   const auto isEnable = [](const auto& unit) { return [&unit] { return unit.IsEnable(); }; };
-  SetSections(
-      {{u"Observation"_s, "InterlockObservationCtl1", InterlockObservationCtl1,
-        isEnable(units.observation), KeepAsLoaded,
-        u"Nothing is mounted that follows the observation method."_s},
-       {u"Other"_s, "InterlockOtherCtl1", InterlockOtherCtl1, isEnable(units.other), KeepAsLoaded,
-        u"Nothing is mounted that follows nosepiece, light path or zoom."_s},
-       {u"Compensation"_s, "InterlockOffsetCtl1", InterlockOffsetCtl1, isEnable(units.offset),
-        KeepAsLoaded, u"Nothing is mounted that is compensated."_s}},
-      {2, 1, 0});
+  SetSections({{u"Observation"_s, InterlockObservationCtl1, isEnable(units.observation),
+                KeepAsLoaded, u"Nothing is mounted that follows the observation method."_s},
+               {u"Other"_s, InterlockOtherCtl1, isEnable(units.other), KeepAsLoaded,
+                u"Nothing is mounted that follows nosepiece, light path or zoom."_s},
+               {u"Compensation"_s, InterlockOffsetCtl1, isEnable(units.offset), KeepAsLoaded,
+                u"Nothing is mounted that is compensated."_s}},
+              {2, 1, 0});
 }
 
 void InterlockSettingsCtl::LoadData() {

@@ -32,10 +32,10 @@ class InterlockSettingsCtl : public ContainerPage {
   // on show all the same where no section is offered.
   void LoadData() override;
 
-  SectionBar* optSettings;
-  InterlockObservationCtl* InterlockObservationCtl1;
-  InterlockOtherCtl* InterlockOtherCtl1;
-  InterlockOffsetCtl* InterlockOffsetCtl1;
+  Control<SectionBar> optSettings{"optSettings"};
+  Control<InterlockObservationCtl> InterlockObservationCtl1{"InterlockObservationCtl1"};
+  Control<InterlockOtherCtl> InterlockOtherCtl1{"InterlockOtherCtl1"};
+  Control<InterlockOffsetCtl> InterlockOffsetCtl1{"InterlockOffsetCtl1"};
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -5,6 +5,7 @@
 #include "objectives/ObjectiveOptionCtl.h"
 #include "objectives/clsLimitation.h"
 #include "objectives/clsNosepiece.h"
+#include "widgets/SectionBar.h"
 
 namespace mortane {
 
@@ -12,24 +13,24 @@ using namespace Qt::StringLiterals;
 
 ObjectiveSettingsCtl::ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepiece& objectives,
                                            clsLimitation& limits, QWidget* parent)
-    : ContainerPage(IconName::Objective, u"Objectives"_s, "optSettings", parent),
-      optSettings(sections()),
-      ObjectiveCtl1(new ObjectiveCtl(nosepiece, objectives)),
-      ObjectiveOptionCtl1(new ObjectiveOptionCtl(objectives)),
-      ObjectiveLimitCtl1(new ObjectiveLimitCtl(limits)) {
+    : ContainerPage(IconName::Objective, u"Objectives"_s, parent) {
+  optSettings = sections();
+  ObjectiveCtl1 = new ObjectiveCtl(nosepiece, objectives);
+  ObjectiveOptionCtl1 = new ObjectiveOptionCtl(objectives);
+  ObjectiveLimitCtl1 = new ObjectiveLimitCtl(limits);
   const auto hasNosepiece = [&limits] {
     return limits.parent.IsMounted(accessory::kNosepiece) != kNotMounted;
   };
   const auto isLimited = [&limits] { return limits.IsEnable(); };
   SetSections({{u"Nosepiece"_s,
-                "ObjectiveCtl1",
+
                 ObjectiveCtl1,
                 hasNosepiece,
                 {},
                 u"No nosepiece is mounted."_s},
-               {u"Optional Obj."_s, "ObjectiveOptionCtl1", ObjectiveOptionCtl1},
+               {u"Optional Obj."_s, ObjectiveOptionCtl1},
                {u"Limit Control"_s,
-                "ObjectiveLimitCtl1",
+
                 ObjectiveLimitCtl1,
                 isLimited,
                 {},

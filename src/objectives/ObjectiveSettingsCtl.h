@@ -20,10 +20,10 @@ class ObjectiveSettingsCtl : public ContainerPage {
   ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepiece& objectives, clsLimitation& limits,
                        QWidget* parent = nullptr);
 
-  SectionBar* optSettings;
-  ObjectiveCtl* ObjectiveCtl1;
-  ObjectiveOptionCtl* ObjectiveOptionCtl1;
-  ObjectiveLimitCtl* ObjectiveLimitCtl1;
+  Control<SectionBar> optSettings{"optSettings"};
+  Control<ObjectiveCtl> ObjectiveCtl1{"ObjectiveCtl1"};
+  Control<ObjectiveOptionCtl> ObjectiveOptionCtl1{"ObjectiveOptionCtl1"};
+  Control<ObjectiveLimitCtl> ObjectiveLimitCtl1{"ObjectiveLimitCtl1"};
 };
 
 }  // namespace mortane

@@ -6,17 +6,16 @@
 #include <algorithm>
 #include <utility>
 
-#include "widgets/Named.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 
 namespace mortane {
 
-ContainerPage::ContainerPage(IconName icon, const QString& title, const char* arrayName,
-                             QWidget* parent, NotOffered notOffered)
+ContainerPage::ContainerPage(IconName icon, const QString& title, QWidget* parent,
+                             NotOffered notOffered)
     : Page(parent), notOffered_(notOffered) {
   Header = new PageHeader(icon, title, this);
-  Header->AddSectionBar(arrayName);
+  Header->AddSectionBar();
   connect(sections(), &SectionBar::selectionChanged, this, &ContainerPage::Open);
   QVBoxLayout* column = MakePageLayout(this, Header);
   auto* scroll = new QScrollArea(this);
@@ -38,7 +37,7 @@ void ContainerPage::SetSections(std::vector<Section> sections, std::vector<int> 
     // The option comes first, so that the Tab key reaches it before the sub-page.
     this->sections()->AddOption(section.caption);
     section.page->hide();
-    stack_->addWidget(Named(section.page, section.name));
+    stack_->addWidget(section.page);
   }
 }
 

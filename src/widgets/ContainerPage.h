@@ -15,10 +15,9 @@ namespace mortane {
 class PageHeader;
 class SectionBar;
 
-// A sub-page and its option.
+// A sub-page, which has its name, and its option.
 struct Section {
   QString caption;
-  const char* name;  // of the sub-page
   Page* page;
   // Whether there is something to show on the connected microscope; always, when empty.
   std::function<bool()> isOffered = {};
@@ -40,9 +39,9 @@ class ContainerPage : public Page {
   // What becomes of the option of a section that is not offered.
   enum class NotOffered { Disabled, Hidden };
 
-  // `arrayName` is that of the options.
-  ContainerPage(IconName icon, const QString& title, const char* arrayName,
-                QWidget* parent = nullptr, NotOffered notOffered = NotOffered::Disabled);
+  // A derived page names the bar of the options before it sets the sections.
+  ContainerPage(IconName icon, const QString& title, QWidget* parent = nullptr,
+                NotOffered notOffered = NotOffered::Disabled);
 
   // Asks which sections are offered, loads the sub-pages of those and selects the first section.
   void LoadData() override;

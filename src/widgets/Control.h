@@ -34,7 +34,12 @@ class Control {
   Widget* widget_ = nullptr;
 };
 
-// The same for an array of controls, whose elements are named by their index: "Label1_0".
+// The name of an element of an array of controls: "Label1_0".
+inline QString ElementName(const QString& array, qsizetype index) {
+  return u"%1_%2"_s.arg(array).arg(index);
+}
+
+// A Control for each element of an array, whose elements are named by their index.
 template <typename Widget, std::size_t Count>
 class Controls {
  public:
@@ -43,7 +48,7 @@ class Controls {
   Controls& operator=(const Controls&) = delete;
 
   void Set(std::size_t index, Widget* made) {
-    made->setObjectName(u"%1_%2"_s.arg(QLatin1String(name_)).arg(index));
+    made->setObjectName(ElementName(QLatin1String(name_), static_cast<qsizetype>(index)));
     widgets_.at(index) = made;
   }
 

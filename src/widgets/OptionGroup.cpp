@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "widgets/ClickFocus.h"
-#include "widgets/Named.h"
+#include "widgets/Control.h"
 
 namespace mortane {
 
@@ -24,12 +24,6 @@ OptionGroup::OptionGroup(QObject* parent, Arrows arrows) : QObject(parent), arro
   connect(&group_, &QButtonGroup::idClicked, this, &OptionGroup::selectionChanged);
 }
 
-QRadioButton* OptionGroup::addOption(const QString& text, const char* arrayName, QWidget* parent) {
-  auto* option = Named(new QRadioButton(text, parent), arrayName, count());
-  add(option, count());
-  return option;
-}
-
 QRadioButton* OptionGroup::addOption(const QString& text, QWidget* parent) {
   auto* option = new QRadioButton(text, parent);
   add(option, count());
@@ -38,7 +32,7 @@ QRadioButton* OptionGroup::addOption(const QString& text, QWidget* parent) {
 
 void OptionGroup::add(QAbstractButton* button, int index) {
   if (button->objectName().isEmpty() && !objectName().isEmpty()) {
-    button->setObjectName(u"%1_%2"_s.arg(objectName()).arg(index));
+    button->setObjectName(ElementName(objectName(), index));
   }
   buttons_.append(button);
   group_.addButton(button, index);

@@ -23,8 +23,7 @@ class OptionGroup : public QObject {
 
   explicit OptionGroup(QObject* parent, Arrows arrows = Arrows::AlongTheLine);
 
-  // Adds an option of the next index, named arrayName_index.
-  QRadioButton* addOption(const QString& text, const char* arrayName, QWidget* parent);
+  // Adds an option of the next index.
   QRadioButton* addOption(const QString& text, QWidget* parent);
   // A button without a name gets that of the group with its index: "optNosepiece_0".
   void add(QAbstractButton* button, int index);

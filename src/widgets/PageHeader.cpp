@@ -36,8 +36,8 @@ PageHeader::PageHeader(IconName icon, const QString& title, QWidget* parent)
   Arrange();
 }
 
-SectionBar* PageHeader::AddSectionBar(const char* arrayName) {
-  sectionBar_ = new SectionBar(arrayName, this);
+SectionBar* PageHeader::AddSectionBar() {
+  sectionBar_ = new SectionBar(this);
   sectionBar_->setAccessibleName(title());
   return sectionBar_;
 }

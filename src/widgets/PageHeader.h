@@ -19,8 +19,8 @@ class PageHeader : public QWidget {
   PageHeader(IconName icon, const QString& title, QWidget* parent = nullptr);
 
   // The bar begins at the same place on all pages of the program; in a narrow window it stands
-  // below the title. `arrayName` is that of its options.
-  SectionBar* AddSectionBar(const char* arrayName);
+  // below the title.
+  SectionBar* AddSectionBar();
   [[nodiscard]] SectionBar* sectionBar() const { return sectionBar_; }
   [[nodiscard]] QString title() const;
   [[nodiscard]] QSize sizeHint() const override;

@@ -3,7 +3,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "widgets/Named.h"
 #include "widgets/PageButton.h"
 #include "widgets/RovingTabStop.h"
 #include "widgets/Theme.h"
@@ -23,7 +22,7 @@ Rail::Rail(QWidget* parent) : QWidget(parent), stop_(new RovingTabStop(this)) {
 
 int Rail::AddPage(IconName icon, const QString& text) {
   const int index = count();
-  auto* button = Named(new PageButton(icon, text, this), "ImageButton", index);
+  auto* button = new PageButton(icon, text, this);
   buttons_.append(button);
   static_cast<QVBoxLayout*>(layout())->insertWidget(index, button);
   connect(button, &PageButton::chosen, this, [this, index] { select(index); });

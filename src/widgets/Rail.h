@@ -18,7 +18,7 @@ class Rail : public QWidget {
  public:
   explicit Rail(QWidget* parent = nullptr);
 
-  // Buttons are named ImageButton_0, ImageButton_1 ...
+  // The index of the new button, which has no name.
   int AddPage(IconName icon, const QString& text);
   [[nodiscard]] PageButton* button(int index) const { return buttons_[index]; }
   [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }

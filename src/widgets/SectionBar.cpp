@@ -9,8 +9,8 @@
 #include <memory>
 #include <vector>
 
+#include "widgets/Control.h"
 #include "widgets/ElidedTip.h"
-#include "widgets/Named.h"
 #include "widgets/NotSent.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Paint.h"
@@ -223,15 +223,16 @@ class SectionBar::Rows : public QLayout {
   std::vector<std::unique_ptr<QLayoutItem>> items_;
 };
 
-SectionBar::SectionBar(const char* arrayName, QWidget* parent)
-    : QWidget(parent), arrayName_(arrayName), group_(new OptionGroup(this)), rows_(new Rows(this)) {
+SectionBar::SectionBar(QWidget* parent)
+    : QWidget(parent), group_(new OptionGroup(this)), rows_(new Rows(this)) {
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   connect(group_, &OptionGroup::selectionChanged, this, &SectionBar::selectionChanged);
 }
 
 int SectionBar::AddOption(const QString& text) {
   const int index = count();
-  auto* option = Named(new SectionOption(text, this), arrayName_, index);
+  auto* option = new SectionOption(text, this);
+  option->setObjectName(ElementName(objectName(), index));
   option->setAccessibleName(text);
   options_.append(option);
   group_->add(option, index);

@@ -41,9 +41,9 @@ class SectionBar : public QWidget {
   Q_OBJECT
 
  public:
-  // Options are named after their array: optSettings_0, optSettings_1 ...
-  explicit SectionBar(const char* arrayName, QWidget* parent = nullptr);
+  explicit SectionBar(QWidget* parent = nullptr);
 
+  // Options are named after the bar: optSettings_0, optSettings_1 ...
   int AddOption(const QString& text);
   [[nodiscard]] QAbstractButton* option(int index) const;
   [[nodiscard]] int count() const;
@@ -62,7 +62,6 @@ class SectionBar : public QWidget {
  private:
   class Rows;
 
-  const char* arrayName_;
   QVector<SectionOption*> options_;
   OptionGroup* group_ = nullptr;
   Rows* rows_ = nullptr;

@@ -49,7 +49,7 @@ class SadrelMainForm : public ProgramForm {
   int menuIndex = -1;  // of the highlighted picture
 
   Control<StepRail> PictureMenu{"PictureMenu"};
-  std::array<StepButton*, kStepCount> ImageMenu;  // of the rail, which names them
+  Controls<StepButton, kStepCount> ImageMenu{"ImageMenu"};
   Control<QFrame> FrameOptionButton{"FrameOptionButton"};
   Controls<QRadioButton, kStepCount> optMenu{"optMenu"};
   QLabel* LabelHelp;  // of the help line

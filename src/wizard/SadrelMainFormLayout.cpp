@@ -44,8 +44,8 @@ void SadrelMainForm::BuildRail() {
   for (int i = 0; i < kStepCount; ++i) {
     const auto step = static_cast<std::size_t>(i);
     optMenu.Set(step, new QRadioButton(FrameOptionButton));
-    ImageMenu[step] =
-        PictureMenu->button(PictureMenu->AddStep(table_[step].icon, table_[step].name));
+    const int added = PictureMenu->AddStep(table_[step].icon, table_[step].name);
+    ImageMenu.Set(step, PictureMenu->button(added));
     connect(optMenu[step], &QRadioButton::toggled, this, [this, i](bool checked) {
       if (checked) OnMenuChanged(i);
     });

@@ -11,6 +11,7 @@
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/PageHeader.h"
+#include "widgets/SectionBar.h"
 
 namespace mortane {
 
@@ -88,15 +89,14 @@ void SadrelControlXYStageCtl::SetNosePosition() {
 }
 
 SadrelControlTactorSwitch::SadrelControlTactorSwitch(clsK70& k70, Prompts& prompts, QWidget* parent)
-    : ContainerPage(IconName::HandController, u"Controller"_s, "optSettings", parent,
-                    NotOffered::Hidden),
-      optSettings(sections()),
-      SwitchSettingCtl1(MakeBodySwitches(k70)),
-      TactorSwitchSettingCtl1(MakeTactorSwitches(k70, prompts)),
+    : ContainerPage(IconName::HandController, u"Controller"_s, parent, NotOffered::Hidden),
       k70_(k70) {
-  SetSections({{u"K70 Switch"_s, "SwitchSettingCtl1", SwitchSettingCtl1,
-                [&k70] { return FindSwitchTabs(k70).k70; }, KeepAsLoaded},
-               {u"Tactor Switch"_s, "TactorSwitchSettingCtl1", TactorSwitchSettingCtl1,
+  optSettings = sections();
+  SwitchSettingCtl1 = MakeBodySwitches(k70);
+  TactorSwitchSettingCtl1 = MakeTactorSwitches(k70, prompts);
+  SetSections({{u"K70 Switch"_s, SwitchSettingCtl1, [&k70] { return FindSwitchTabs(k70).k70; },
+                KeepAsLoaded},
+               {u"Tactor Switch"_s, TactorSwitchSettingCtl1,
                 [&k70] { return FindSwitchTabs(k70).tactor; }, KeepAsLoaded}},
               {1, 0});
 }

@@ -90,9 +90,9 @@ class SadrelControlTactorSwitch : public ContainerPage {
   // Kept: both pages are saved where the interlock offsets are enabled.
   void SaveData() override;
 
-  SectionBar* optSettings;
-  SwitchSettingCtl* SwitchSettingCtl1;
-  TactorSwitchSettingCtl* TactorSwitchSettingCtl1;
+  Control<SectionBar> optSettings{"optSettings"};
+  Control<SwitchSettingCtl> SwitchSettingCtl1{"SwitchSettingCtl1"};
+  Control<TactorSwitchSettingCtl> TactorSwitchSettingCtl1{"TactorSwitchSettingCtl1"};
 
  private:
   const clsK70& k70_;

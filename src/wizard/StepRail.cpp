@@ -5,7 +5,6 @@
 #include <QVBoxLayout>
 
 #include "accessible/AccessibleControls.h"
-#include "widgets/Named.h"
 #include "widgets/RovingTabStop.h"
 #include "widgets/Theme.h"
 #include "wizard/StepButton.h"
@@ -36,7 +35,7 @@ StepRail::StepRail(QWidget* parent) : QWidget(parent), stop_(new RovingTabStop(t
 
 int StepRail::AddStep(IconName icon, const QString& text) {
   const int index = count();
-  auto* button = Named(new StepButton(index + 1, icon, text, this), "ImageMenu", index);
+  auto* button = new StepButton(index + 1, icon, text, this);
   if (index > 0) buttons_[index - 1]->SetLast(false);
   buttons_.append(button);
   enabled_.append(false);

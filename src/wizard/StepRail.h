@@ -18,7 +18,7 @@ class StepRail : public QWidget {
  public:
   explicit StepRail(QWidget* parent = nullptr);
 
-  // Buttons are named ImageMenu_0, ImageMenu_1 ...; a new one is off.
+  // The index of the new button, which has no name and is off.
   int AddStep(IconName icon, const QString& text);
   [[nodiscard]] StepButton* button(int index) const { return buttons_[index]; }
   [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }

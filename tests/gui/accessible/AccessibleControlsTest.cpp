@@ -53,7 +53,7 @@ TEST(AccessibleRail, APageCanBeChosen) {
 }
 
 TEST(AccessibleSections, AreExclusiveOptionsOfANamedGroup) {
-  SectionBar bar("optSettings");
+  SectionBar bar;
   bar.setAccessibleName("Objectives");
   bar.AddOption("Nosepiece");
   bar.AddOption("Limit Control");
@@ -68,7 +68,7 @@ class AccessibleAction : public testing::Test {
  protected:
   void SetUp() override {
     field = window.Add<TextField>();
-    bar = window.Add<SectionBar>("optSettings");
+    bar = window.Add<SectionBar>();
     toggle = window.Add<CheckToggle>();
     bar->AddOption("One");
     bar->AddOption("Two");

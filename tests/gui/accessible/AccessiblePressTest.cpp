@@ -48,11 +48,11 @@ struct PressedControls {
     QObject::connect(check, &QCheckBox::clicked, check, [this] { ++presses; });
     options = new OptionGroup(&window.widget());
     for (const char* text : {"ON", "OFF"})
-      window.widget().layout()->addWidget(options->addOption(text, "opt", &window.widget()));
+      window.widget().layout()->addWidget(options->addOption(text, &window.widget()));
     radio = window.Add<QRadioButton>("Single");
     QObject::connect(radio, &QRadioButton::clicked, radio, [this] { ++presses; });
     toggle = window.Add<CheckToggle>();
-    sections = window.Add<SectionBar>("optSettings");
+    sections = window.Add<SectionBar>();
     for (const char* text : {"Left", "Right"}) sections->AddOption(text);
     rail = window.Add<Rail>();
     for (const char* text : {"System", "Objectives"}) rail->AddPage(IconName::System, text);

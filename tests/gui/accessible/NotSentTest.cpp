@@ -24,7 +24,7 @@ struct Shown {
   Shown() {
     rail = window.Add<Rail>();
     rail->AddPage(IconName::System, "System");
-    sections = window.Add<SectionBar>("optSettings");
+    sections = window.Add<SectionBar>();
     sections->AddOption("Nosepiece");
     field = window.Add<TextField>();
     field->setText("Plan A 20x");

@@ -78,12 +78,12 @@ TEST(ControlsWiring, AJoystickAloneDoesNotEnableThePage) {
 
 TEST(ControlsWiring, EachTabHasItsOwnPage) {
   StartedRig rig("Harbour");
-  EXPECT_NE(dynamic_cast<ControlFocusDriveCtl*>(rig.page().ControlFocusDriveCtl1), nullptr);
-  EXPECT_NE(dynamic_cast<ControlXYStageCtl*>(rig.page().ControlXYStageCtl1), nullptr);
-  EXPECT_NE(dynamic_cast<ControlOtherCtl*>(rig.page().ControlOtherCtl1), nullptr);
-  EXPECT_NE(dynamic_cast<SwitchSettingCtl*>(rig.page().SwitchSettingCtl1), nullptr);
-  EXPECT_NE(dynamic_cast<TactorSwitchSettingCtl*>(rig.page().ControlTactorSwitchCtl1), nullptr);
-  EXPECT_NE(dynamic_cast<JoypadSwitchSettingCtl*>(rig.page().JoypadSwitchSettingCtl1), nullptr);
+  EXPECT_NE(dynamic_cast<ControlFocusDriveCtl*>(&*rig.page().ControlFocusDriveCtl1), nullptr);
+  EXPECT_NE(dynamic_cast<ControlXYStageCtl*>(&*rig.page().ControlXYStageCtl1), nullptr);
+  EXPECT_NE(dynamic_cast<ControlOtherCtl*>(&*rig.page().ControlOtherCtl1), nullptr);
+  EXPECT_NE(dynamic_cast<SwitchSettingCtl*>(&*rig.page().SwitchSettingCtl1), nullptr);
+  EXPECT_NE(dynamic_cast<TactorSwitchSettingCtl*>(&*rig.page().ControlTactorSwitchCtl1), nullptr);
+  EXPECT_NE(dynamic_cast<JoypadSwitchSettingCtl*>(&*rig.page().JoypadSwitchSettingCtl1), nullptr);
 }
 
 TEST(ControlsWiring, EveryTabOpensOnEveryMicroscope) {

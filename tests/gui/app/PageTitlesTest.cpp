@@ -16,7 +16,7 @@ namespace {
 int SectionStart(const QString& title) {
   QWidget page;
   auto* header = new PageHeader(IconName::System, title, &page);
-  SectionBar* bar = header->AddSectionBar("opt");
+  SectionBar* bar = header->AddSectionBar();
   bar->AddOption("Option");
   MakePageLayout(&page, header);
   page.resize(1000, 400);

@@ -97,7 +97,7 @@ TEST_F(ElidedTip, AnElidedEntryIsPaintedWithAnEllipsis) {
 }
 
 TEST_F(ElidedTip, OfASection) {
-  auto* bar = window.Add<SectionBar>("optSettings");
+  auto* bar = window.Add<SectionBar>();
   bar->AddOption("Nosepiece");
   bar->AddOption("Optional Objectives");
   ShowAt(600);
@@ -110,7 +110,7 @@ TEST_F(ElidedTip, OfASection) {
 }
 
 TEST_F(ElidedTip, TheReasonWhyASectionIsDisabledStandsBelowItsText) {
-  auto* bar = window.Add<SectionBar>("optSettings");
+  auto* bar = window.Add<SectionBar>();
   bar->AddOption("Nosepiece");
   bar->AddOption("Optional Objectives");
   bar->SetOptionEnabled(1, false, "Not fitted");

@@ -115,12 +115,12 @@ Card* PageButtons() {
 Card* Sections() {
   auto* card = new Card("Section options");
   auto* row = Row(card);
-  auto* bar = new SectionBar("optSettings");
+  auto* bar = new SectionBar;
   for (const char* text : {"Nosepiece", "Optional Obj.", "Limit Control"}) bar->AddOption(text);
   bar->select(0);
   bar->SetOptionEnabled(2, false);
   row->addWidget(Shown(Picture(bar), "selected, resting, disabled"));
-  auto* focused = new SectionBar("optSettings");
+  auto* focused = new SectionBar;
   for (const char* text : {"Nosepiece", "Optional Obj.", "Limit Control"}) focused->AddOption(text);
   focused->SetOptionVisible(0, false);
   focused->select(1);
@@ -347,8 +347,8 @@ class ListsPage : public Page {
     card->body()->addLayout(frames);
     auto* fitted = new InnerFrame("Mode");
     auto* options = new OptionGroup(this);
-    fitted->body()->addWidget(options->addOption("Standard", "OptMode", fitted));
-    fitted->body()->addWidget(options->addOption("Extend", "OptMode", fitted));
+    fitted->body()->addWidget(options->addOption("Standard", fitted));
+    fitted->body()->addWidget(options->addOption("Extend", fitted));
     options->select(1);
     frames->addWidget(fitted);
     auto* missing = new InnerFrame("Zoom");
@@ -362,10 +362,10 @@ class ListsPage : public Page {
 
 class ObjectivesPage : public ContainerPage {
  public:
-  ObjectivesPage() : ContainerPage(IconName::Objective, "Objectives", "optSettings") {
-    SetSections({{"Nosepiece", "ObjectiveCtl1", new ListsPage},
-                 {"Optional Obj.", "ObjectiveOptionCtl1", new ListsPage},
-                 {"Limit Control", "ObjectiveLimitCtl1", new ListsPage}},
+  ObjectivesPage() : ContainerPage(IconName::Objective, "Objectives") {
+    SetSections({{"Nosepiece", new ListsPage},
+                 {"Optional Obj.", new ListsPage},
+                 {"Limit Control", new ListsPage}},
                 {});
     LoadData();
   }

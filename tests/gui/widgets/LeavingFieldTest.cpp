@@ -39,12 +39,12 @@ struct Controls {
     combo->addRow("entry");
     tabs = window.Add<TabStrip>();
     tabs->SetNumberedTabs(3);
-    sections = window.Add<SectionBar>("optSettings");
+    sections = window.Add<SectionBar>();
     for (const char* text : {"Left", "Middle", "Right"}) sections->AddOption(text);
     sections->select(0);
     options = new OptionGroup(&window.widget());
     for (const char* text : {"ON", "OFF"})
-      window.widget().layout()->addWidget(options->addOption(text, "opt", &window.widget()));
+      window.widget().layout()->addWidget(options->addOption(text, &window.widget()));
     toggle = window.Add<CheckToggle>();
     turret = window.Add<TurretDrawing>(PlaceKind::Cubes);
     turret->SetItems({{"A", "A", {}}, {"B", "B", {}}});

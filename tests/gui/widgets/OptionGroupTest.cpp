@@ -13,8 +13,9 @@ class OptionGroupTest : public ::testing::Test {
  protected:
   void SetUp() override {
     group = new OptionGroup(&window.widget());
+    group->setObjectName("optMode");
     for (const char* text : {"Absolute", "ON", "OFF"})
-      window.widget().layout()->addWidget(group->addOption(text, "optMode", &window.widget()));
+      window.widget().layout()->addWidget(group->addOption(text, &window.widget()));
     after = window.Add<QLineEdit>();
     window.Show();
   }

@@ -42,7 +42,7 @@ TEST(PageHeader, TheBarStandsBelowTheTitleWhereThatIsLower) {
     auto* header = new PageHeader(IconName::Control, "Controls");
     column->addWidget(header);
     column->addStretch();
-    SectionBar* bar = header->AddSectionBar("optControl");
+    SectionBar* bar = header->AddSectionBar();
     for (int i = 0; i < row.options; ++i) bar->AddOption("Tactor Switch");
     window.resize(row.width, 300);
     window.show();

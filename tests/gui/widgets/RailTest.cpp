@@ -122,8 +122,7 @@ TEST_F(RailTest, ThePendingDotChangesTheFaceOfTheButton) {
   EXPECT_EQ(rail->button(1)->grab().toImage(), plain);
 }
 
-TEST_F(RailTest, ButtonsBearNamesAndSizesOfTheGrid) {
-  EXPECT_EQ(rail->button(1)->objectName(), "ImageButton_1");
+TEST_F(RailTest, ButtonsBearTheirTextAndSizesOfTheGrid) {
   EXPECT_EQ(rail->button(1)->accessibleName(), "Objectives");
   EXPECT_GE(rail->button(1)->sizeHint().width(), 104);
   EXPECT_GE(rail->button(1)->sizeHint().height(), 78);

@@ -1,5 +1,6 @@
 #include "widgets/SectionBar.h"
 
+#include "gui/support/EventLoop.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/Theme.h"
 
@@ -12,7 +13,8 @@ class SectionBarTest : public ::testing::Test {
  protected:
   void SetUp() override {
     before = window.Add<QLineEdit>();
-    bar = window.Add<SectionBar>("optSettings");
+    bar = window.Add<SectionBar>();
+    bar->setObjectName("optSettings");
     for (const char* text : {"Nosepiece", "Optional Obj.", "Limit Control"}) bar->AddOption(text);
     after = window.Add<QLineEdit>();
     window.Show();
@@ -81,7 +83,7 @@ TEST_F(SectionBarTest, ADisabledOptionCannotBeChosen) {
 TEST_F(SectionBarTest, AHiddenOptionClosesUp) {
   const int second = bar->option(1)->x();
   bar->SetOptionVisible(0, false);
-  QTest::qWait(1);
+  test::DeliverAll();
   EXPECT_LT(bar->option(1)->x(), second);
   EXPECT_EQ(bar->option(1)->x(), 0);
 }
@@ -127,7 +129,7 @@ TEST_F(SectionBarTest, AnOptionIsNeverNarrowerThanItsTextAndStandsInTheNextRowIn
   }
 }
 
-TEST_F(SectionBarTest, OptionsBearTheNameOfTheirArrayAndTheirText) {
+TEST_F(SectionBarTest, OptionsBearTheNameOfTheBarAndTheirText) {
   EXPECT_EQ(bar->option(2)->objectName(), "optSettings_2");
   EXPECT_EQ(bar->option(2)->accessibleName(), "Limit Control");
 }
