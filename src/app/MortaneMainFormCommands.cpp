@@ -4,7 +4,6 @@
 #include <QLocale>
 #include <QPointer>
 #include <QRadioButton>
-#include <algorithm>
 
 #include "app/CommandBoundary.h"
 #include "app/DifferencesDlg.h"
@@ -17,7 +16,6 @@
 #include "widgets/CommandKey.h"
 #include "widgets/Page.h"
 #include "widgets/PageButton.h"
-#include "widgets/TextField.h"
 
 namespace mortane {
 
@@ -136,15 +134,12 @@ void MortaneMainForm::DoSend() {
   prompts().FlushInput();
 }
 
-// A page with a text that was refused goes on showing it, while another value was sent.
+// A saving stores another value for a text that was refused.
 void MortaneMainForm::ShowStored() {
   for (std::size_t i = 0; i < kPageCount; ++i) {
     Page* page = pages_[i];
     if (page == nullptr || !optMenu[i]->isChecked()) continue;
-    const QList<TextField*> fields = page->findChildren<TextField*>();
-    const bool refused = std::any_of(fields.begin(), fields.end(),
-                                     [](const TextField* field) { return field->isRefused(); });
-    if (refused) RunStep(prompts(), [page] { page->LoadData(); });
+    RunStep(prompts(), [page] { page->ShowStored(); });
   }
 }
 

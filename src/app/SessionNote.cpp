@@ -45,6 +45,11 @@ QIcon DotIcon(const QWidget& widget) {
 
 }  // namespace
 
+QString MicroscopeInWords(const QString& name, bool isSimulation) {
+  const QString shown = name.trimmed().isEmpty() ? u"NoName"_s : name;
+  return isSimulation ? shown + u", Simulation"_s : shown;
+}
+
 QString ChangesNotSent(int count) {
   if (count == 0) return {};
   return count == 1 ? u"1 change not sent"_s : u"%1 changes not sent"_s.arg(count);
@@ -83,8 +88,7 @@ std::array<QToolButton*, 3> SessionNote::Buttons() const {
 }
 
 void SessionNote::ShowMicroscope(const QString& name, bool isSimulation) {
-  microscope_ = name.trimmed().isEmpty() ? u"NoName"_s : name;
-  if (isSimulation) microscope_ += u", Simulation"_s;
+  microscope_ = MicroscopeInWords(name, isSimulation);
   ShowText();
 }
 

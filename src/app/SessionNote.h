@@ -57,6 +57,9 @@ class SessionNote : public ValueLabel {
   QString done_;
 };
 
+// "Harbour, Simulation", "NoName".
+QString MicroscopeInWords(const QString& name, bool isSimulation);
+
 // "1 change not sent", "3 changes not sent"; empty for none.
 QString ChangesNotSent(int count);
 

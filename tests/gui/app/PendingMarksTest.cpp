@@ -20,6 +20,7 @@
 #include "gui/support/PageActs.h"
 #include "interlocks/InterlockSettingsCtl.h"
 #include "objectives/ObjectiveSettingsCtl.h"
+#include "record/ModelItems.h"
 #include "record/SentItems.h"
 #include "support/Rows.h"
 #include "widgets/ComboBox.h"
@@ -286,6 +287,49 @@ TEST_F(MarksOf, TheWayToAnItemStoresNothing) {
   EXPECT_EQ(rig.journal.Lines(), Lines());
   EXPECT_EQ(GetK70().curNosepiece.code(3), 8);
   EXPECT_EQ(Shown().size(), 2U);
+}
+
+// A saving stores 0 for a number that may not be; the field was neither left nor entered.
+TEST_F(MarksOf, AfterASendTheFieldsShowWhatWasStored) {
+  auto& page = *rig.form->ObjectiveSettingsCtl1;
+  ShowSection(1, page, 1);
+  auto& aperture = *page.findChild<TextField*>("TextNA");
+  TypeInto(aperture, "415.5");
+  rig.form->MenuConnectSend->trigger();
+  EXPECT_EQ(aperture.text(), "0");
+  EXPECT_FALSE(aperture.isRefused());
+  EXPECT_EQ(page.CurrentItem(), 1) << "the page stays as it is";
+  EXPECT_EQ(rig.form->focusWidget(), &aperture);
+  EXPECT_EQ(Shown(), Marks());
+}
+
+TEST_F(MarksOf, AfterASendThatFailsTheFieldsShowItToo) {
+  auto& page = *rig.form->ObjectiveSettingsCtl1;
+  ShowSection(1, page, 1);
+  auto& aperture = *page.findChild<TextField*>("TextNA");
+  const std::string before = aperture.text().toStdString();
+  TypeInto(aperture, "415.5");
+  rig.faults.Add({"AccessoryDatabase.Nosepieces"});
+  rig.prompts.AcceptAnyBox();
+  rig.form->MenuConnectSend->trigger();
+  EXPECT_EQ(aperture.text(), "0");
+  EXPECT_TRUE(Shown().contains("ObjectiveOptionCtl1 TextNA: not sent: was " + before));
+}
+
+TEST_F(MarksOf, WhatWasStoredIsShownWithoutACallAndWithoutAnEdit) {
+  for (const std::size_t number : {1U, 5U}) ShowPage(number);
+  GetK70().CZDrive.Position(1, 4000);
+  GetK70().CXYDrive.PositionY(2, 6000);
+  const auto items = ItemsOf(GetK70());
+  rig.journal.Clear();
+  rig.prompts.ClearRecords();
+  rig.form->ObjectiveSettingsCtl1->ShowStored();
+  rig.form->ControlSettingsCtl1->ShowStored();
+  EXPECT_EQ(rig.form->findChild<TextField*>("TextNosepiece_0")->text(), "200");
+  EXPECT_EQ(rig.form->findChild<TextField*>("TextNosepieceY_1")->text(), "300");
+  EXPECT_EQ(rig.journal.Lines(), Lines());
+  EXPECT_EQ(rig.prompts.Log(), Lines());
+  EXPECT_EQ(ItemsOf(GetK70()), items);
 }
 
 class MarksAfterLoading : public MarksOf {
