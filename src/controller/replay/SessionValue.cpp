@@ -150,13 +150,13 @@ std::optional<std::string> TakeQuoted(std::string_view& text) {
 
 std::optional<SessionValue> TakeValue(std::string_view& text) {
   if (text.starts_with('"')) {
-    auto value = TakeQuoted(text);
-    if (!value) return std::nullopt;
-    return SessionValue(std::move(*value));
+    std::optional<SessionValue> value;
+    if (auto quoted = TakeQuoted(text)) value.emplace(std::move(*quoted));
+    return value;
   }
-  if (TakePrefix(text, "nothing")) return SessionValue();
-  if (TakePrefix(text, "true")) return SessionValue(true);
-  if (TakePrefix(text, "false")) return SessionValue(false);
+  if (TakePrefix(text, "nothing")) return std::monostate();
+  if (TakePrefix(text, "true")) return true;
+  if (TakePrefix(text, "false")) return false;
   if (TakePrefix(text, kSmallOpening)) return TakeSmall(text);
   if (TakePrefix(text, "#")) return TakeObject(text);
   return TakeNumber(text);
