@@ -48,6 +48,9 @@ if(NOT release MATCHES "^## ${PROJECT_VERSION} \\(([0-9-]+)\\)$")
   message(FATAL_ERROR "CHANGELOG.md begins with \"${release}\", not with version ${PROJECT_VERSION}")
 endif()
 set(MORTANE_RELEASE_DATE "${CMAKE_MATCH_1}")
+# A catalogue of programs wants an address. None is published yet; this domain is reserved for such
+# cases.
+set(MORTANE_HOMEPAGE "https://mortane.invalid" CACHE STRING "Where the project shows itself")
 # The catalogue of programs takes pictures from the web only.
 set(MORTANE_PICTURES_URL "" CACHE STRING "Where the pictures of the manual are published; empty: nowhere")
 set(MORTANE_SCREENSHOTS "")
