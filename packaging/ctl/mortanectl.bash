@@ -9,7 +9,8 @@ _mortanectl() {
   for ((i = 1; i < COMP_CWORD; ++i)); do
     word="${COMP_WORDS[i]}"
     case "$word" in
-      devices | receive | compare | diff | send | backups | restore | check | report | export | watch)
+      devices | receive | compare | diff | send | backups | restore | check | report | export | watch | \
+        bench)
         command="$word"
         break
         ;;
@@ -17,12 +18,12 @@ _mortanectl() {
   done
   if [[ -z "$command" ]]; then
     mapfile -t COMPREPLY < <(compgen -W "devices receive compare diff send backups restore check \
-      report export watch --help --version" -- "$current")
+      report export watch bench --help --version" -- "$current")
     return
   fi
 
   case "$previous" in
-    --bench | -o | --output | --ome | --since)
+    --bench | -o | --output | --ome | --since | --from-journal)
       compopt -o filenames 2>/dev/null
       mapfile -t COMPREPLY < <(compgen -f -- "$current")
       return
@@ -40,7 +41,7 @@ _mortanectl() {
       ;;
   esac
 
-  local microscope="--device --sim --bench --wait" sending="--dry-run --yes --no-backup"
+  local microscope="--device --sim --bench --wait --journal" sending="--dry-run --yes --no-backup"
   local options="--help"
   case "$command" in
     devices) options+=" $microscope --json" ;;
@@ -52,6 +53,7 @@ _mortanectl() {
     report) options+=" $microscope --output --since" ;;
     export) options+=" $microscope --ome" ;;
     watch) options+=" $microscope --every --json" ;;
+    bench) options+=" --from-journal --output" ;;
   esac
   if [[ "$current" == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")

@@ -9,6 +9,9 @@
 namespace mortane::ctl {
 namespace {
 
+// Of a journal: the file in the user's documents. No file can be called so.
+constexpr std::string_view kNoName = "/";
+
 constexpr int kLongestWaitSeconds = 24 * 60 * 60;
 
 // Which options a command has.
@@ -27,7 +30,7 @@ struct CommandRow {
   const char* examples;
 };
 
-constexpr std::array<CommandRow, 11> kCommands{{
+constexpr std::array<CommandRow, 12> kCommands{{
     {Verb::Devices, "devices", "List the microscopes, and whether each can be used now",
      kMicroscope | kJson,
      "  mortanectl devices\n"
@@ -70,6 +73,9 @@ constexpr std::array<CommandRow, 11> kCommands{{
      kMicroscope | kJson,
      "  mortanectl watch\n"
      "  mortanectl watch --every 60 --json >> changes.log\n"},
+    {Verb::Bench, "bench", "Make a bench file of the microscope of a recorded session", 0,
+     "  mortanectl bench --from-journal journal.txt -o room-12-bench.xml\n"
+     "  mortanectl bench --from-journal journal.txt -o - | less\n"},
 }};
 
 constexpr char kExamplesOfAll[] =
@@ -94,6 +100,11 @@ void AddMicroscope(CLI::App& command, MicroscopeChoice& choice) {
   command.add_option("--wait", choice.waitSeconds, "Wait for a microscope that is used elsewhere")
       ->type_name("SECONDS")
       ->check(Between(0, kLongestWaitSeconds));
+  // The text in braces is what the option without a value stands for.
+  command
+      .add_flag("--journal{" + std::string(kNoName) + "}", choice.journal,
+                "Write every call to FILE, or to the documents")
+      ->type_name("[=FILE]");
 }
 
 void AddSending(CLI::App& command, Request& request) {
@@ -157,6 +168,12 @@ void AddOwn(CLI::App& command, Verb verb, Request& request) {
                       "Seconds between two readings; 5 when not given")
           ->type_name("SECONDS")
           ->check(Between(1, kLongestWaitSeconds));
+      return;
+    case Verb::Bench:
+      command.add_option("--from-journal", request.journal, "The journal of the session")
+          ->type_name("FILE")
+          ->required();
+      AddOutput(command, request, "The bench file to write")->required();
       return;
     case Verb::Devices:
       return;
@@ -229,6 +246,7 @@ std::variant<Request, Outcome> ParseCommandLine(const std::vector<std::string>& 
     err << kProgram << ": " << Shown(wrong.what()) << "\nTry \"" << HelpOf(program) << "\".\n";
     return Outcome::Failed;
   }
+  if (request.microscope.journal == kNoName) request.microscope.journal = UsersJournal();
   if (!sections.empty()) request.sections = Split(sections);
   return request;
 }

@@ -20,5 +20,6 @@ Outcome CheckFiles(const Request& request, Surroundings& surroundings);
 Outcome WriteReport(const Request& request, Surroundings& surroundings);
 Outcome ExportInstrument(const Request& request, Surroundings& surroundings);
 Outcome WatchMicroscope(const Request& request, Surroundings& surroundings);
+Outcome MakeBench(const Request& request, Surroundings& surroundings);
 
 }  // namespace mortane::ctl

@@ -33,6 +33,7 @@ MicroscopeLink::MicroscopeLink(const MicroscopeChoice& choice, Surroundings& sur
     wish.bench = choice.bench;
     wish.replay.clear();
   }
+  if (!choice.journal.empty()) wish.journal = choice.journal;
   wish.tell = [this](const std::string& text) { prompts_.Say(text); };
   wish.notice = [this](const std::string& text) { notKept_ = text; };
   wish.openInstalled = [this, open = wish.openInstalled]() {

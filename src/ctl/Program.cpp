@@ -21,9 +21,9 @@ namespace {
 using Command = Outcome (*)(const Request&, Surroundings&);
 
 // In the order of the verbs.
-constexpr std::array<Command, 11> kCommands{
-    ListDevices,   ReceiveToFile, CompareWithFile, CompareFiles,     SendFile,       ListBackups,
-    RestoreBackup, CheckFiles,    WriteReport,     ExportInstrument, WatchMicroscope};
+constexpr std::array<Command, 12> kCommands{
+    ListDevices,   ReceiveToFile, CompareWithFile, CompareFiles,     SendFile,        ListBackups,
+    RestoreBackup, CheckFiles,    WriteReport,     ExportInstrument, WatchMicroscope, MakeBench};
 
 Outcome RunRequest(const Request& request, Surroundings& surroundings) {
   try {

@@ -20,6 +20,7 @@ enum class Verb {
   Report,
   Export,
   Watch,
+  Bench,
 };
 
 // Which microscope, and where it stands. Without a name the only one that is connected.
@@ -28,6 +29,7 @@ struct MicroscopeChoice {
   bool simulated = false;  // the simulated microscope
   std::string bench;       // a bench file in place of the installed library
   int waitSeconds = 0;     // for a microscope that another program uses
+  std::string journal;     // of the session
 };
 
 // "-" as a file is the standard input, as an output the standard output.
@@ -46,6 +48,7 @@ struct Request {
   std::optional<std::size_t> keep;  // backups to keep of each device
   std::string which;                // of the backups: a number, a time or a path
   int everySeconds = 5;
+  std::string journal;  // a session to make a bench of
 };
 
 }  // namespace mortane::ctl

@@ -6,6 +6,7 @@
 #include "common/Numbers.h"
 #include "common/Text.h"
 #include "platform/Environment.h"
+#include "platform/SpecialFolder.h"
 #include "platform/SystemDescription.h"
 
 namespace mortane {
@@ -32,6 +33,10 @@ LibraryWish WishOfEnvironment() {
   wish.journal = EnvironmentVariable("MORTANE_JOURNAL");
   wish.replay = EnvironmentVariable("MORTANE_REPLAY");
   return wish;
+}
+
+std::string UsersJournal() {
+  return DocumentsFolder() + "/Mortane Journal.txt";
 }
 
 SessionLibrary::SessionLibrary(const LibraryWish& wish) : tell_(wish.tell ? wish.tell : WriteLine) {

@@ -34,6 +34,9 @@ struct LibraryWish {
 
 LibraryWish WishOfEnvironment();
 
+// The journal that is asked for without a name: a file in the user's documents.
+std::string UsersJournal();
+
 // The answers of a session's journal where one is named, else a bench file's instruments, else the
 // installed library; the simulated microscope alone where there is none.
 class SessionLibrary {

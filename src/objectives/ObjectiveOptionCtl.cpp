@@ -101,7 +101,8 @@ void ObjectiveOptionCtl::FillLists() {
             [this](std::int32_t index) { return objectives_.Mag(index); });
 }
 
-void ObjectiveOptionCtl::ReadObjective() {
+// All values are taken over before a row is selected, since a new row stores what is shown.
+void ObjectiveOptionCtl::ShowObjective(Condensers condensers) {
   std::string name;
   std::string magnification;
   std::string workingDistance;
@@ -112,11 +113,6 @@ void ObjectiveOptionCtl::ReadObjective() {
   TextMag->setText(QString::fromStdString(magnification));
   TextWD->setText(QString::fromStdString(workingDistance));
   TextNA->setText(QString::fromStdString(numericalAperture));
-}
-
-// All values are taken over before a row is selected, since a new row stores what is shown.
-void ObjectiveOptionCtl::ShowObjective(Condensers condensers) {
-  ReadObjective();
   ListSeries->setIndex(series_);
   ListType->setIndex(type_);
   LabelSeries->setText(ListSeries->text(ListSeries->index()));
@@ -153,10 +149,6 @@ void ObjectiveOptionCtl::Store() {
 void ObjectiveOptionCtl::StoreNumbers(const std::array<std::string, 3>& numbers) {
   objectives_.Set_DbNosepiece(TabStrip1->caption().toInt(), TextName->text().toStdString(), series_,
                               type_, numbers[0], numbers[1], numbers[2], condenser_);
-}
-
-void ObjectiveOptionCtl::ShowStored() {
-  ReadObjective();
 }
 
 void ObjectiveOptionCtl::SaveData() {

@@ -14,4 +14,7 @@ std::string GetSpecialFolder(int folder);
 // The user's folder for what a program keeps for him, as above.
 std::string UserDataFolder();
 
+// The folder of the user's documents; the home folder where the system names none.
+std::string DocumentsFolder();
+
 }  // namespace mortane

@@ -80,6 +80,9 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongCase{{"compare"}, "FILE"}, WrongCase{{"compare", "a", "b"}, "b"},
                     WrongCase{{"diff", "a"}, "FILE"}, WrongCase{{"diff", "a", "b", "c"}, "c"},
                     WrongCase{{"receive"}, "--output"}, WrongCase{{"export"}, "--ome"},
+                    WrongCase{{"bench", "-o", "a"}, "--from-journal"},
+                    WrongCase{{"bench", "--from-journal", "a"}, "--output"},
+                    WrongCase{{"bench", "--from-journal", "a", "-o", "b", "--sim"}, "--sim"},
                     WrongCase{{"send", "a", "--wait", "soon"}, "soon"},
                     WrongCase{{"send", "a", "--wait", "-1"}, "--wait"},
                     WrongCase{{"send", "a", "--wait", "99999999999"}, "--wait"},
@@ -93,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CommandLine, EveryHelpTeachesByExamples) {
   for (const char* command : {"", "devices", "receive", "compare", "diff", "send", "backups",
-                              "restore", "check", "report", "export", "watch"}) {
+                              "restore", "check", "report", "export", "watch", "bench"}) {
     std::vector<std::string> arguments{"--help"};
     if (*command != '\0') arguments.insert(arguments.begin(), command);
     const Parsed parsed(arguments);

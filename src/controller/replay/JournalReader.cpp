@@ -21,7 +21,7 @@ constexpr std::size_t kShownOfLine = 80;
 
 }  // namespace
 
-JournalLines::JournalLines(const std::string& path) : path_(path), buffer_(kLongestLine) {
+JournalLines::JournalLines(const std::string& path) : buffer_(kLongestLine) {
   const std::filesystem::path file(std::u8string(path.begin(), path.end()));
   std::error_code error;
   const bool regular = std::filesystem::is_regular_file(file, error);
@@ -59,7 +59,7 @@ std::optional<std::string_view> JournalLines::Next() {
     if (searched == 0) return std::nullopt;
     ++lineNumber_;
     if (searched == buffer_.size()) {
-      RaiseInFile(path_ + ":" + std::to_string(lineNumber_), "the line is too long for a journal");
+      RaiseOwnFailure(kConversionError, "the line is too long for a journal");
     }
     cut_ = true;
     begin_ = end_;
@@ -71,10 +71,14 @@ JournalReader::Piece JournalReader::LastPieceOf(const std::string& path) {
   JournalLines lines(path);
   std::string header;
   std::uint64_t headerLine = 0;
-  while (const auto line = lines.Next()) {
-    if (!IsSessionHeader(*line) || lines.IsCut()) continue;
-    header = *line;
-    headerLine = lines.LineNumber();
+  try {
+    while (const auto line = lines.Next()) {
+      if (!IsSessionHeader(*line) || lines.IsCut()) continue;
+      header = *line;
+      headerLine = lines.LineNumber();
+    }
+  } catch (const Failure& failure) {
+    RaiseInFile(path + ":" + std::to_string(lines.LineNumber()), failure.Description());
   }
   if (headerLine == 0) {
     RaiseInFile(path,

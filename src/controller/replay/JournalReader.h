@@ -34,7 +34,6 @@ class JournalLines {
  private:
   bool Fill();
 
-  std::string path_;
   std::ifstream file_;
   std::vector<char> buffer_;
   std::size_t begin_ = 0;
@@ -53,7 +52,8 @@ class JournalReader {
 
   const SessionHeader& Header() const { return header_; }
 
-  // Nothing at the end of the session. Raises a Failure for a line that is none of a journal.
+  // Nothing at the end of the session. Raises a Failure for a line that is none of a journal; Where
+  // names it.
   std::optional<SessionLine> Next();
 
   // "FILE:LINE" of the line that was read last.

@@ -4,35 +4,10 @@
 #include <cmath>
 #include <vector>
 
+#include "controller/simulator/AccessoryRows.h"
+
 namespace mortane::controller {
 namespace {
-
-struct DeviceRow {
-  std::string_view member;
-  int number;
-  std::string_view stateMember;
-  bool writable;  // whether the interface has a write of the state member
-  bool hasOffset;
-  TurretPlaces Instrument::*places;
-};
-
-constexpr std::array kDevices{
-    DeviceRow{"NosepieceDevice", accessory::kNosepiece, "Position", true, false,
-              &Instrument::nosepiece},
-    DeviceRow{"CondenserDevice", accessory::kCondenser, "Position", true, false,
-              &Instrument::condensers},
-    DeviceRow{"FilterCubeDevice", accessory::kFilterCube, "Position", true, false,
-              &Instrument::filterCubes},
-    DeviceRow{"LightPathDevice", accessory::kLightPath, "Path", false, false, nullptr},
-    DeviceRow{"AnalyzerDevice", accessory::kAnalyzer, "Position", true, false, nullptr},
-    DeviceRow{"LampDevice", accessory::kDiaLamp, "Voltage", false, false, nullptr},
-    DeviceRow{"ShutterDevice", accessory::kEpiShutter, "Position", true, false, nullptr},
-    DeviceRow{"NDFilterDevice", accessory::kNDFilter, "Position", true, true, nullptr},
-    DeviceRow{"FieldStopDevice", accessory::kDiaFieldStop, "Position", true, true, nullptr},
-    DeviceRow{"ApertureStopDevice", accessory::kDiaApertureStop, "Position", true, true, nullptr},
-    DeviceRow{"EpiFieldStopDevice", accessory::kEpiFieldStop, "Position", true, true, nullptr},
-    DeviceRow{"ZoomDevice", accessory::kOpticalZoom, "Magnification", false, false, nullptr},
-};
 
 // Positions are given as whole numbers; voltages and magnifications may have fractions.
 Value WireNumber(double value) {
@@ -43,7 +18,7 @@ Value WireNumber(double value) {
   return value;
 }
 
-void AddStateMember(MemberTable<DeviceLink>& table, const DeviceRow& row) {
+void AddStateMember(MemberTable<DeviceLink>& table, const AccessoryRow& row) {
   table.OnGet(row.stateMember, 0, [number = row.number](const DeviceLink& link, Args) -> Value {
     return MakeStateValue(link, number, WireNumber(link.Fitted(number).Accessory(number).value));
   });
@@ -75,7 +50,7 @@ void AddOffset(MemberTable<DeviceLink>& table, int number) {
 // The places of one turret.
 struct TurretLink {
   DeviceLink device;
-  const DeviceRow* row;
+  const AccessoryRow* row;
 
   TurretPlaces& Places() const { return device.Fitted(row->number).*(row->places); }
 };
@@ -128,7 +103,7 @@ ObjectRef MakePositions(const TurretLink& link) {
   return MakeObject(members, link);
 }
 
-void AddPositions(MemberTable<DeviceLink>& table, const DeviceRow& row) {
+void AddPositions(MemberTable<DeviceLink>& table, const AccessoryRow& row) {
   table.OnGet("Positions", 0, [&row](const DeviceLink& link, Args) -> Value {
     link.Connected();
     return MakePositions({link, &row});
@@ -152,7 +127,7 @@ void AddNosepieceMembers(MemberTable<DeviceLink>& table) {
       });
 }
 
-MemberTable<DeviceLink> MembersOf(const DeviceRow& row) {
+MemberTable<DeviceLink> MembersOf(const AccessoryRow& row) {
   MemberTable<DeviceLink> table;
   AddAccessoryState(table, row.number);
   AddStateMember(table, row);
@@ -165,8 +140,8 @@ MemberTable<DeviceLink> MembersOf(const DeviceRow& row) {
 const MemberTable<DeviceLink>& DeviceMembers(std::size_t place) {
   static const std::vector<MemberTable<DeviceLink>> tables = [] {
     std::vector<MemberTable<DeviceLink>> all;
-    all.reserve(kDevices.size());
-    for (const DeviceRow& device : kDevices) all.push_back(MembersOf(device));
+    all.reserve(kAccessoryRows.size());
+    for (const AccessoryRow& device : kAccessoryRows) all.push_back(MembersOf(device));
     return all;
   }();
   return tables.at(place);
@@ -216,8 +191,8 @@ Instrument& Commanded(const DeviceLink& link, int accessoryNumber) {
 
 std::vector<std::string_view> AccessoryDeviceMembers() {
   std::vector<std::string_view> names;
-  names.reserve(kDevices.size());
-  for (const DeviceRow& device : kDevices) names.push_back(device.member);
+  names.reserve(kAccessoryRows.size());
+  for (const AccessoryRow& device : kAccessoryRows) names.push_back(device.member);
   return names;
 }
 

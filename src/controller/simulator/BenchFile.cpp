@@ -99,6 +99,14 @@ Bench BenchOf(const DomNode& root) {
   return bench;
 }
 
+DomDocument DocumentOf(const Bench& bench) {
+  DomDocument document;
+  const DomNode root = document.CreateElement(kRoot);
+  document.Append(root);
+  WriteChildren(document, root, bench, kBenchRows);
+  return document;
+}
+
 }  // namespace
 }  // namespace bench_file
 
@@ -116,11 +124,11 @@ Bench ReadBenchFile(const std::string& path) {
 }
 
 void WriteBenchFile(const std::string& path, const Bench& bench) {
-  DomDocument document;
-  const DomNode root = document.CreateElement(bench_file::kRoot);
-  document.Append(root);
-  bench_file::WriteChildren(document, root, bench, bench_file::kBenchRows);
-  document.Save(path);
+  bench_file::DocumentOf(bench).Save(path);
+}
+
+std::string BenchFileText(const Bench& bench) {
+  return bench_file::DocumentOf(bench).ToText();
 }
 
 }  // namespace mortane::controller

@@ -16,5 +16,7 @@ Bench ReadBenchFile(const std::string& path);
 // Writes what differs from the defaults; reading gives an equal bench. Replaces the file in one
 // step; after a Failure it is unchanged.
 void WriteBenchFile(const std::string& path, const Bench& bench);
+// The same as a text.
+std::string BenchFileText(const Bench& bench);
 
 }  // namespace mortane::controller

@@ -4,19 +4,10 @@
 #include <string_view>
 
 #include "controller/simulator/AccessoryObjects.h"
+#include "controller/simulator/DriveRows.h"
 
 namespace mortane::controller {
 namespace {
-
-// An Order can be written only, and only to a drive that can be commanded.
-enum class Access { Read, Order, Both };
-
-template <typename Drive>
-struct FieldRow {
-  std::string_view member;
-  std::int32_t Drive::*field;
-  Access access;
-};
 
 void Store(const DeviceLink& link, std::int32_t& field, const Value& value) {
   link.Assign(field, LongArgument(value));
@@ -25,23 +16,6 @@ void Store(const DeviceLink& link, std::int32_t& field, const Value& value) {
 void Store(const DeviceLink& link, std::int16_t& field, const Value& value) {
   link.Assign(field, IntegerArgument(value));
 }
-
-constexpr std::array kZFields{
-    FieldRow<ZDriveData>{"KnobSensitivity", &ZDriveData::knobSensitivity, Access::Read},
-    FieldRow<ZDriveData>{"KnobAuto", &ZDriveData::knobAuto, Access::Both},
-    FieldRow<ZDriveData>{"MoveProfile", &ZDriveData::moveProfile, Access::Order},
-    FieldRow<ZDriveData>{"MoveOption", &ZDriveData::moveOption, Access::Order},
-    FieldRow<ZDriveData>{"FocusCompensation", &ZDriveData::focusCompensation, Access::Both},
-    FieldRow<ZDriveData>{"LowerLimit", &ZDriveData::lowerLimit, Access::Both},
-    FieldRow<ZDriveData>{"UpperLimit", &ZDriveData::upperLimit, Access::Read},
-};
-
-constexpr std::array kXYFields{
-    FieldRow<XYDriveData>{"KnobSensitivity", &XYDriveData::knobSensitivity, Access::Read},
-    FieldRow<XYDriveData>{"KnobAuto", &XYDriveData::knobAuto, Access::Both},
-    FieldRow<XYDriveData>{"MoveProfile", &XYDriveData::moveProfile, Access::Order},
-    FieldRow<XYDriveData>{"FocusCompensation", &XYDriveData::focusCompensation, Access::Both},
-};
 
 template <typename Drive, typename Number>
 void AddField(MemberTable<DeviceLink>& table, int number, Drive Instrument::*drive,
@@ -63,8 +37,8 @@ void AddField(MemberTable<DeviceLink>& table, int number, Drive Instrument::*dri
 
 template <typename Drive, std::size_t Count>
 void AddFields(MemberTable<DeviceLink>& table, int number, Drive Instrument::*drive,
-               const std::array<FieldRow<Drive>, Count>& rows) {
-  for (const FieldRow<Drive>& row : rows) {
+               const std::array<DriveRow<Drive>, Count>& rows) {
+  for (const DriveRow<Drive>& row : rows) {
     AddField(table, number, drive, row.member, row.field, row.access);
   }
 }
@@ -126,7 +100,7 @@ void AddAxis(MemberTable<DeviceLink>& table, int number, std::string_view member
 MemberTable<DeviceLink> ZMembers() {
   MemberTable<DeviceLink> table;
   AddAccessoryState(table, accessory::kZFocusDrive);
-  AddFields(table, accessory::kZFocusDrive, &Instrument::zDrive, kZFields);
+  AddFields(table, accessory::kZFocusDrive, &Instrument::zDrive, kZRows);
   AddAxis(table, accessory::kZFocusDrive, "Position", Axis::Z);
   return table;
 }
@@ -134,7 +108,7 @@ MemberTable<DeviceLink> ZMembers() {
 MemberTable<DeviceLink> XYMembers() {
   MemberTable<DeviceLink> table;
   AddAccessoryState(table, accessory::kXYStage);
-  AddFields(table, accessory::kXYStage, &Instrument::xyDrive, kXYFields);
+  AddFields(table, accessory::kXYStage, &Instrument::xyDrive, kXYRows);
   AddField(table, accessory::kXYStage, &Instrument::xyDrive, "HandleMode", &XYDriveData::handleMode,
            Access::Both);
   AddAxis(table, accessory::kXYStage, "PositionX", Axis::X);

@@ -3,6 +3,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <fstream>
 #include <string_view>
 
 #include "platform/Environment.h"
@@ -30,6 +31,22 @@ std::string BaseFolder(const char* variable, const char* belowHome) {
   return home.empty() ? std::string() : WithoutSeparatorAtEnd(home) + belowHome;
 }
 
+// In the file that desktops write: XDG_DOCUMENTS_DIR="$HOME/Documents" or an absolute path.
+constexpr std::string_view kDocumentsSetting = "XDG_DOCUMENTS_DIR=\"";
+constexpr std::string_view kHomeVariable = "$HOME";
+
+std::string NamedDocumentsFolder(const std::string& home) {
+  std::ifstream file(GetSpecialFolder(kApplicationDataFolder) + "/user-dirs.dirs");
+  std::string line;
+  while (std::getline(file, line)) {
+    if (!line.starts_with(kDocumentsSetting) || !line.ends_with('"')) continue;
+    line = line.substr(kDocumentsSetting.size(), line.size() - kDocumentsSetting.size() - 1);
+    if (line.starts_with(kHomeVariable)) line.replace(0, kHomeVariable.size(), home);
+    return line;
+  }
+  return {};
+}
+
 }  // namespace
 
 std::string GetSpecialFolder(int folder) {
@@ -39,6 +56,12 @@ std::string GetSpecialFolder(int folder) {
 
 std::string UserDataFolder() {
   return BaseFolder("XDG_DATA_HOME", "/.local/share");
+}
+
+std::string DocumentsFolder() {
+  const std::string home = WithoutSeparatorAtEnd(HomeFolder());
+  const std::string named = NamedDocumentsFolder(home);
+  return named.starts_with('/') ? WithoutSeparatorAtEnd(named) : home;
 }
 
 }  // namespace mortane

@@ -11,15 +11,26 @@
 
 namespace mortane {
 
-std::string GetSpecialFolder(int folder) {
-  if (folder != kApplicationDataFolder) return {};
+namespace {
+
+std::string FolderOf(int folder) {
   std::array<wchar_t, MAX_PATH> path{};
   if (FAILED(SHGetFolderPathW(nullptr, folder, nullptr, 0, path.data()))) return {};
   return TruncateAtNul(ToUtf8({path.data(), path.size()}));
 }
 
+}  // namespace
+
+std::string GetSpecialFolder(int folder) {
+  return folder == kApplicationDataFolder ? FolderOf(folder) : std::string();
+}
+
 std::string UserDataFolder() {
   return GetSpecialFolder(kApplicationDataFolder);
+}
+
+std::string DocumentsFolder() {
+  return FolderOf(CSIDL_PERSONAL);
 }
 
 }  // namespace mortane

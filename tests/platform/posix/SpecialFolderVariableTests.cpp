@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/SpecialFolder.h"
+#include "support/TempFolder.h"
 
 namespace mortane {
 namespace {
@@ -77,6 +78,22 @@ TEST(GetSpecialFolder, AsksTheUserTableWithoutHome) {
   const std::string expected =
       user == nullptr ? std::string() : std::string(user->pw_dir) + "/.config";
   EXPECT_EQ(GetSpecialFolder(kApplicationDataFolder), expected);
+}
+
+TEST(DocumentsFolder, IsTheOneThatTheDesktopNamesElseTheHomeFolder) {
+  const test::TempFolder folder;
+  const Variable config("XDG_CONFIG_HOME", folder.Path(".").c_str());
+  const Variable home("HOME", "/homes/someone/");
+  EXPECT_EQ(DocumentsFolder(), "/homes/someone");
+  folder.Write("user-dirs.dirs",
+               "# a comment\nXDG_MUSIC_DIR=\"$HOME/M\"\nXDG_DOCUMENTS_DIR=\"$HOME/D \xC3\xA4\"\n");
+  EXPECT_EQ(DocumentsFolder(), "/homes/someone/D \xC3\xA4");
+  folder.Write("user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"/data/documents/\"\n");
+  EXPECT_EQ(DocumentsFolder(), "/data/documents");
+  for (const char* wrong : {"XDG_DOCUMENTS_DIR=\"", "XDG_DOCUMENTS_DIR=\"here\"\n", "nonsense"}) {
+    folder.Write("user-dirs.dirs", wrong);
+    EXPECT_EQ(DocumentsFolder(), "/homes/someone") << wrong;
+  }
 }
 
 }  // namespace

@@ -1,0 +1,197 @@
+// A bench that is made of a session's journal answers as the session was answered.
+#include "controller/simulator/BenchOfSession.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "common/Failure.h"
+#include "controller/replay/ProgramSession.h"
+#include "controller/replay/ReplayedLibrary.h"
+#include "controller/simulator/BenchFile.h"
+#include "support/TempFolder.h"
+
+namespace mortane::test {
+namespace {
+
+using namespace controller;
+
+SessionBench MadeOf(const std::string& journal) {
+  JournalReader reader(journal);
+  return BenchOfSession(reader);
+}
+
+// The answers of a session without its times and numbers.
+std::vector<SessionLine> LinesOf(const std::string& journal) {
+  std::vector<SessionLine> lines;
+  JournalReader reader(journal);
+  while (auto line = reader.Next()) lines.push_back(std::move(*line));
+  return lines;
+}
+
+class BenchesOfSessions : public testing::TestWithParam<std::string> {
+ protected:
+  TempFolder folder_;
+  std::string journal_ = folder_.Path("journal.txt");
+};
+
+TEST_P(BenchesOfSessions, AnswerTheSameSessionAlike) {
+  const ProgramSession recorded = RecordOn(benches::Named(GetParam()), journal_);
+  const std::string file = folder_.Path("bench.xml");
+  WriteBenchFile(file, MadeOf(journal_).bench);
+  const std::string again = folder_.Path("again.txt");
+  const ProgramSession made = RecordOn(ReadBenchFile(file), again);
+  const std::vector<SessionLine> before = LinesOf(journal_);
+  const std::vector<SessionLine> after = LinesOf(again);
+  for (std::size_t i = 0; i < std::min(before.size(), after.size()); ++i) {
+    ASSERT_EQ(after[i].call, before[i].call);
+    ASSERT_EQ(after[i].result, before[i].result) << before[i].call;
+    ASSERT_EQ(after[i].failure, before[i].failure) << before[i].call;
+  }
+  EXPECT_EQ(after.size(), before.size());
+  EXPECT_EQ(made, recorded);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, BenchesOfSessions, testing::ValuesIn(benches::Names()));
+
+// Lines behind the first one of a session, as a journal has them.
+class FewLines : public testing::Test {
+ protected:
+  SessionBench Made(const std::vector<std::string>& calls) {
+    std::string text = FormatSessionHeader({}) + "\n";
+    for (const std::string& call : calls) text += "0.1 0.1 " + call + "\n";
+    return MadeOf(folder_.Write("journal.txt", text));
+  }
+  // On device 1, connected.
+  SessionBench MadeConnected(std::vector<std::string> calls) {
+    calls.insert(calls.begin(),
+                 {"#2 get DeviceList.Count -> 2", "#3 get DeviceList.Item(1).Name -> \"Room 12\"",
+                  "#3 call DeviceList.Item(1).Connect()"});
+    return Made(calls);
+  }
+
+  TempFolder folder_;
+};
+
+bool Has(const SessionBench& made, const std::string& line) {
+  return std::find(made.defaults.begin(), made.defaults.end(), line) != made.defaults.end();
+}
+
+TEST_F(FewLines, WhatIsNotToldHasItsDefaultAndIsListed) {
+  const SessionBench made = MadeConnected({"#1 get ControllerPresent(1) -> 1",
+                                           "#5 get NosepieceDevice.AccessoryState.State -> 1",
+                                           "#5 get NosepieceDevice.Positions.Count -> 3",
+                                           "#5 get NosepieceDevice.Positions(2).Code -> 14"});
+  Bench bench;
+  bench.instruments.resize(2);
+  bench.instruments[1].name = "Room 12";
+  bench.instruments[1].Unit(1).present = 1;
+  bench.instruments[1].Accessory(accessory::kNosepiece).state = 1;
+  bench.instruments[1].nosepiece = {{}, {0, 14}, {}};
+  EXPECT_EQ(made.bench, bench);
+  for (const char* text :
+       {"ControllerPresent: 6 of 7", "ControllerVersion", "NosepieceDevice.Limitation",
+        "NosepieceDevice.Position", "NosepieceDevice.Positions.Code: 2 of 3",
+        "NosepieceDevice.Positions.Position: 3 of 3", "ControllerSettings.Interlock: 56 of 56",
+        "CondenserDevice.AccessoryState.State"}) {
+    EXPECT_TRUE(Has(made, std::string("device 1 \"Room 12\": ") + text)) << text;
+  }
+  EXPECT_FALSE(Has(made, "device 1 \"Room 12\": CondenserDevice.Position"));
+  EXPECT_TRUE(Has(made, "device 0 \"\": its name"));
+  EXPECT_TRUE(Has(made, "device 0 \"\": everything but its name: it was not connected"));
+}
+
+TEST_F(FewLines, OfEachThingTheFirstAnswerCounts) {
+  const SessionBench made = MadeConnected(
+      {"#7 get ControllerSettings.EscapeMode -> 2", "#7 put ControllerSettings.EscapeMode = 3",
+       "#7 get ControllerSettings.EscapeMode -> 3", "#3 get DeviceList.Item(1).Name -> \"Other\""});
+  EXPECT_EQ(made.bench.instruments[1].escapeMode, 2);
+  EXPECT_EQ(made.bench.instruments[1].name, "Room 12");
+}
+
+TEST_F(FewLines, AnswersBelongToTheDeviceThatIsConnected) {
+  const SessionBench made = MadeConnected(
+      {"#7 get ControllerSettings.EscapeMode -> 2", "#3 call DeviceList.Item(1).Disconnect()",
+       "#7 get ControllerSettings.EscapeMode -> 3", "#3 call DeviceList.Item(0).Connect()",
+       "#7 get ControllerSettings.EscapeMode -> 1"});
+  EXPECT_EQ(made.bench.instruments[0].escapeMode, 1);
+  EXPECT_EQ(made.bench.instruments[1].escapeMode, 2);
+}
+
+TEST_F(FewLines, AvailabilityCountsWhileTheDeviceIsNotConnected) {
+  const SessionBench made = MadeConnected(
+      {"#3 get DeviceList.Item(1).IsAvailable -> 0", "#3 get DeviceList.Item(0).IsAvailable -> 0"});
+  EXPECT_EQ(made.bench.instruments[0].available, 0);
+  EXPECT_EQ(made.bench.instruments[1].available, 1);
+  EXPECT_TRUE(made.bench.instruments[1].busyWhenConnected);
+}
+
+TEST_F(FewLines, ALibraryMayAnswerNumbersInPlaceOfStateValuesAndOtherKindsOfNumbers) {
+  SessionBench made = MadeConnected(
+      {"#5 get ZDriveDevice.Position -> 12.0", "#5 get XYDriveDevice.HandleMode -> 1",
+       "#5 get LampDevice.Voltage -> int16(3)", "#5 number NosepieceDevice.Position -> 4"});
+  EXPECT_EQ(made.bench.instruments[1].zDrive.position, 12);
+  EXPECT_EQ(made.bench.instruments[1].xyDrive.handleMode, 1);
+  EXPECT_EQ(made.bench.instruments[1].Accessory(accessory::kDiaLamp).value, 3);
+  EXPECT_EQ(made.bench.instruments[1].Accessory(accessory::kNosepiece).value, 4);
+}
+
+TEST_F(FewLines, TheFiberServerIsKnownByWhatItDoes) {
+  EXPECT_FALSE(Made({"#2 get DeviceList.Count -> 1"}).bench.fiber.installed);
+  const Bench open = Made({"#2 get DeviceList.Count -> 1", "#0 create Create(FiberServer) -> #3",
+                           "#3 get IsOpen -> true", "#3 get Status -> 1", "#4 get LED -> int16(2)"})
+                         .bench;
+  EXPECT_TRUE(open.fiber.installed && open.fiber.open && open.fiber.opens);
+  EXPECT_EQ(open.fiber.status, 1);
+  EXPECT_EQ(open.fiber.led, 2);
+  const Bench raises = Made({"#2 get DeviceList.Count -> 1", "#0 create Create(FiberServer) -> #3",
+                             "#3 get IsOpen -> false", R"(#3 call Open(0) ! "F" 5 "no")"})
+                           .bench;
+  EXPECT_FALSE(raises.fiber.opens);
+  EXPECT_TRUE(raises.fiber.openRaises);
+  const Bench silent = Made({"#2 get DeviceList.Count -> 1", "#0 create Create(FiberServer) -> #3",
+                             "#3 get IsOpen -> false", "#3 call Open(0)", "#3 get IsOpen -> false"})
+                           .bench;
+  EXPECT_FALSE(silent.fiber.opens || silent.fiber.openRaises);
+}
+
+// Whatever the answers are, the bench is one that a file can hold.
+TEST_F(FewLines, OddAnswersMakeNoOddBench) {
+  const SessionBench made =
+      MadeConnected({"#1 get ControllerPresent(9) -> 1",
+                     "#1 get ControllerPresent(\"a\") -> 1",
+                     "#1 get ControllerPresent -> 1",
+                     "#1 get ControllerPresent(1) -> \"yes\"",
+                     "#5 get NosepieceDevice.Positions.Count -> 2000000000",
+                     "#5 get NosepieceDevice.Positions(0).Code -> 1",
+                     "#5 get NosepieceDevice.Positions(99999).Code -> 1",
+                     "#5 get NosepieceDevice.Positions.Code -> 1",
+                     "#5 get ZDriveDevice.Position -> 1e300",
+                     "#5 get LampDevice.Voltage -> inf",
+                     "#5 get XYDriveDevice.HandleMode -> 70000",
+                     "#6 get AccessoryDatabase.Condensers.Item(1).SuitsAddress(11) -> 1",
+                     "#6 get AccessoryDatabase.Condensers.Item(2).SuitsAddress(3) -> 7",
+                     "#7 get ControllerSettings.Interlock(15, 1) -> 1",
+                     "#7 get ControllerSettings.SwitchFunction(4, \"long\") -> \"1\"",
+                     "#1 call QueryCommand(\"rONRx\") -> \"?\"",
+                     "#1 call QueryCommand(\"rONR1\") -> \"\"",
+                     "#2 get DeviceList.Item(-1).Name -> \"a\"",
+                     "#2 get DeviceList.Item(5000).Name -> \"a\"",
+                     "#2 get DeviceList.Item(0).Name -> \"a name that is too long for a system\"",
+                     "#2 get DeviceList.Count -> -7",
+                     "#2 get DeviceList.Item -> 1",
+                     "#2 call DeviceList.Item(70000).Connect()"});
+  const std::string file = folder_.Path("bench.xml");
+  WriteBenchFile(file, made.bench);
+  EXPECT_EQ(ReadBenchFile(file), made.bench);
+  EXPECT_EQ(made.bench.instruments.size(), 2U);
+  EXPECT_EQ(made.bench.instruments[0].name, "a name that is ");
+  EXPECT_EQ(made.bench.instruments[1].database.condensers[1].suits, "001");
+}
+
+TEST_F(FewLines, ASessionWithoutADeviceIsRefused) {
+  EXPECT_THROW(Made({"#0 create Create(Microscope) -> #1"}), Failure);
+}
+
+}  // namespace
+}  // namespace mortane::test
