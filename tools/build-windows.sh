@@ -7,7 +7,8 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 tools/setup.sh windows package
 tools/windows/libraries.sh gui
+tools/windows/host32.sh
 
 cmake --preset windows-gui
-cmake --build --preset windows-gui --target mortane sadrel
+cmake --build --preset windows-gui --target mortane sadrel mortanectl
 tools/windows/package.sh build/windows-gui dist

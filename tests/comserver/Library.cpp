@@ -14,7 +14,7 @@ HMODULE module = nullptr;
 
 server::Registration Entry() {
   return {server::kInProcessFamily, std::wstring(server::kInProcessPrefix), L"InprocServer32",
-          server::ModulePath(module)};
+          server::ModulePath(module), 0};
 }
 
 }  // namespace
@@ -25,8 +25,9 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
 }
 
 STDAPI DllGetClassObject(REFCLSID classId, REFIID id, LPVOID* object) {
+  const server::ClassFamily other = server::FamilyOfEnvironment();
   for (std::size_t place = 0; place < server::kClassNames.size(); ++place) {
-    if (classId == server::kInProcessFamily.ClassId(place)) {
+    if (classId == server::kInProcessFamily.ClassId(place) || classId == other.ClassId(place)) {
       const mortane::controller::ComPointer<IClassFactory> factory(server::MakeFactory(place));
       return factory->QueryInterface(id, object);
     }

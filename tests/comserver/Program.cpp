@@ -66,7 +66,7 @@ int Serve(const ClassFamily& family) {
 
 int Run() {
   const Registration entry{kOwnProcessFamily, std::wstring(kOwnProcessPrefix), L"LocalServer32",
-                           L'"' + ModulePath(nullptr) + L'"'};
+                           L'"' + ModulePath(nullptr) + L'"', 0};
   ClassFamily family = kOwnProcessFamily;
   bool serves = false;
   const std::vector<std::wstring> words = Arguments();

@@ -8,10 +8,28 @@ namespace {
 const std::array kRoots{HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER};
 constexpr std::wstring_view kClasses = L"Software\\Classes\\";
 
-LSTATUS Set(HKEY root, const std::wstring& key, const wchar_t* name, const std::wstring& text) {
+// Values are written by way of an opened key: the call that does both knows no other list.
+LSTATUS Set(HKEY root, REGSAM view, const std::wstring& key, const wchar_t* name,
+            const std::wstring& text) {
+  HKEY opened = nullptr;
+  const LSTATUS status = RegCreateKeyExW(root, (std::wstring(kClasses) + key).c_str(), 0, nullptr,
+                                         0, KEY_WRITE | view, nullptr, &opened, nullptr);
+  if (status != ERROR_SUCCESS) return status;
   const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-  return RegSetKeyValueW(root, (std::wstring(kClasses) + key).c_str(), name, REG_SZ, text.c_str(),
-                         bytes);
+  const LSTATUS written =
+      RegSetValueExW(opened, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), bytes);
+  RegCloseKey(opened);
+  return written;
+}
+
+void Remove(HKEY root, REGSAM view, const std::wstring& key) {
+  const std::wstring whole = std::wstring(kClasses) + key;
+  HKEY opened = nullptr;
+  if (RegOpenKeyExW(root, whole.c_str(), 0, KEY_ALL_ACCESS | view, &opened) != ERROR_SUCCESS)
+    return;
+  RegDeleteTreeW(opened, nullptr);
+  RegCloseKey(opened);
+  RegDeleteKeyExW(root, whole.c_str(), view, 0);
 }
 
 HRESULT RegisterIn(HKEY root, const Registration& entry) {
@@ -19,11 +37,14 @@ HRESULT RegisterIn(HKEY root, const Registration& entry) {
     const std::wstring id = GuidText(entry.family.ClassId(place));
     const std::wstring progId = ProgId(entry.progIdPrefix, place);
     const std::wstring server = L"CLSID\\" + id + L"\\" + entry.serverKey;
+    const auto set = [&](const std::wstring& key, const wchar_t* name, const std::wstring& text) {
+      return Set(root, entry.view, key, name, text);
+    };
     for (const LSTATUS status :
-         {Set(root, L"CLSID\\" + id, nullptr, progId), Set(root, server, nullptr, entry.command),
-          Set(root, server, L"ThreadingModel", L"Apartment"),
-          Set(root, L"CLSID\\" + id + L"\\ProgID", nullptr, progId),
-          Set(root, progId, nullptr, progId), Set(root, progId + L"\\CLSID", nullptr, id)}) {
+         {set(L"CLSID\\" + id, nullptr, progId), set(server, nullptr, entry.command),
+          set(server, L"ThreadingModel", L"Apartment"),
+          set(L"CLSID\\" + id + L"\\ProgID", nullptr, progId), set(progId, nullptr, progId),
+          set(progId + L"\\CLSID", nullptr, id)}) {
       if (status != ERROR_SUCCESS) return HRESULT_FROM_WIN32(static_cast<unsigned long>(status));
     }
   }
@@ -47,7 +68,7 @@ HRESULT Unregister(const Registration& entry) {
     for (std::size_t place = 0; place < kClassNames.size(); ++place) {
       for (const std::wstring& key : {L"CLSID\\" + GuidText(entry.family.ClassId(place)),
                                       ProgId(entry.progIdPrefix, place)}) {
-        RegDeleteTreeW(root, (std::wstring(kClasses) + key).c_str());
+        Remove(root, entry.view, key);
       }
     }
   }

@@ -14,6 +14,7 @@ struct Registration {
   std::wstring progIdPrefix;
   const wchar_t* serverKey;  // "InprocServer32" or "LocalServer32"
   std::wstring command;      // the library's path, or the program's in quotes
+  REGSAM view = 0;  // KEY_WOW64_32KEY or KEY_WOW64_64KEY for another list than this program's
 };
 
 // For the machine where that is allowed, else for the user alone. Not every system looks for

@@ -8,6 +8,15 @@ CLSID ClassFamily::ClassId(std::size_t place) const {
   return id;
 }
 
+ClassFamily FamilyOfEnvironment() {
+  std::array<wchar_t, 64> text{};
+  ClassFamily family = kInProcessFamily;
+  const DWORD size =
+      GetEnvironmentVariableW(kFamilyVariable, text.data(), static_cast<DWORD>(text.size()));
+  if (size == 0 || FAILED(CLSIDFromString(text.data(), &family.base))) return kInProcessFamily;
+  return family;
+}
+
 std::wstring ProgId(std::wstring_view prefix, std::size_t place) {
   const std::string_view name = kClassNames.at(place);
   return std::wstring(prefix) + std::wstring(name.begin(), name.end());

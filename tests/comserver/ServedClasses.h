@@ -29,6 +29,11 @@ inline constexpr ClassFamily kInProcessFamily{
 inline constexpr ClassFamily kOwnProcessFamily{
     {0x6B0F4E53, 0x52A4, 0x4C0B, {0x9D, 0x11, 0x3E, 0x8A, 0x70, 0x5C, 0x21, 0x00}}};
 
+// Identifiers that the library's classes have besides their usual ones, as a text in braces: a test
+// names them for the process that loads the library.
+inline constexpr const wchar_t* kFamilyVariable = L"MORTANE_SERVER_FAMILY";
+ClassFamily FamilyOfEnvironment();
+
 // Before the class's name in the ProgIDs of a registered server.
 inline constexpr std::wstring_view kInProcessPrefix = L"MortaneTest.InProcess.";
 inline constexpr std::wstring_view kOwnProcessPrefix = L"MortaneTest.OwnProcess.";

@@ -112,6 +112,57 @@ bool ServerProcess::EndsWithin(DWORD milliseconds) const {
   return WaitForSingleObject(process_.hProcess, milliseconds) == WAIT_OBJECT_0;
 }
 
+controller::LibraryWays HostFiles::Ways() const {
+  return are32 ? controller::LibraryWays::kAny : controller::LibraryWays::kHost32;
+}
+
+HostFiles OwnHostFiles() {
+  return {ServerFile(L""), false};
+}
+
+std::vector<HostFiles> AllHostFiles() {
+  std::vector<HostFiles> all{OwnHostFiles()};
+  std::wstring folder(32768, L'\0');
+  folder.resize(GetEnvironmentVariableW(L"MORTANE_TEST_HOST32", folder.data(),
+                                        static_cast<DWORD>(folder.size())));
+  if (!folder.empty()) all.push_back({folder + L"\\", true});
+  return all;
+}
+
+RegisteredLibrary::RegisteredLibrary(const HostFiles& files, const wchar_t* library)
+    : entry_{NewFamily(), L"", L"InprocServer32", files.File(library),
+             files.are32 ? REGSAM{KEY_WOW64_32KEY} : REGSAM{KEY_WOW64_64KEY}} {
+  const std::wstring id = GuidText(entry_.family.base);
+  entry_.progIdPrefix = L"MortaneTest." + id.substr(1, 13) + L".";
+  Require(SUCCEEDED(comserver::Register(entry_)), "registration");
+  SetEnvironmentVariableW(kFamilyVariable, id.c_str());
+}
+
+RegisteredLibrary::~RegisteredLibrary() {
+  SetEnvironmentVariableW(kFamilyVariable, nullptr);
+  comserver::Unregister(entry_);
+}
+
+HostedProcess::HostedProcess(DWORD id)
+    : id_(id), process_(OpenProcess(PROCESS_ALL_ACCESS, FALSE, id)) {
+  Require(process_.get() != nullptr, "host's process");
+}
+
+void HostedProcess::Kill() const {
+  TerminateProcess(process_.get(), 99);
+  WaitForSingleObject(process_.get(), kStartMs);
+}
+
+bool HostedProcess::EndsWithin(DWORD milliseconds) const {
+  return WaitForSingleObject(process_.get(), milliseconds) == WAIT_OBJECT_0;
+}
+
+bool HostedProcess::Is32Bit() const {
+  BOOL is32 = FALSE;
+  IsWow64Process(process_.get(), &is32);
+  return is32 != FALSE;
+}
+
 RegisteredNames::RegisteredNames() : prefix_(L"MortaneTest." + GuidText(NewFamily().base) + L".") {}
 
 RegisteredNames::~RegisteredNames() {
@@ -134,7 +185,8 @@ std::vector<controller::ComClass> RegisteredNames::Classes() const {
 
 Registration RegisteredNames::Entry() const {
   return {family_, prefix_, L"LocalServer32",
-          L'"' + ServerFile(L"mortane_test_server.exe") + L"\" -Family " + GuidText(family_.base)};
+          L'"' + ServerFile(L"mortane_test_server.exe") + L"\" -Family " + GuidText(family_.base),
+          0};
 }
 
 }  // namespace mortane::comserver

@@ -1,4 +1,4 @@
-// The test server's two ways to serve.
+// The test server's ways to serve.
 #pragma once
 
 #include <windows.h>
@@ -76,6 +76,56 @@ class ServerProcess {
   ClassFamily family_;
   Handle job_;
   PROCESS_INFORMATION process_{};
+};
+
+// A library of the tests and the host that loads it, both of 64 bits or both of 32.
+struct HostFiles {
+  std::wstring folder;
+  // Those of 32 bits are registered for programs of 32 bits alone, and found without being asked
+  // for.
+  bool are32 = false;
+
+  std::wstring File(const wchar_t* name) const { return folder + name; }
+  std::wstring Host() const { return File(L"mortane-host32.exe"); }
+  controller::LibraryWays Ways() const;
+};
+
+// Those beside the test program, of its own 64 bits.
+HostFiles OwnHostFiles();
+// Those and, in the folder that MORTANE_TEST_HOST32 names, the ones of 32 bits.
+std::vector<HostFiles> AllHostFiles();
+
+// A library of the tests, registered under identifiers that nothing else has, for as long as this
+// object lives. One at a time in a process.
+class RegisteredLibrary {
+ public:
+  RegisteredLibrary(const HostFiles& files, const wchar_t* library);
+  ~RegisteredLibrary();
+  RegisteredLibrary(const RegisteredLibrary&) = delete;
+  RegisteredLibrary& operator=(const RegisteredLibrary&) = delete;
+
+  const ClassFamily& Family() const { return entry_.family; }
+  // A registered name of a class instead of its identifier.
+  std::wstring Name(std::size_t place) const { return ProgId(entry_.progIdPrefix, place); }
+
+ private:
+  Registration entry_;
+};
+
+// A process that something else started.
+class HostedProcess {
+ public:
+  explicit HostedProcess(DWORD id);
+
+  DWORD Id() const { return id_; }
+  // Returns when it has ended.
+  void Kill() const;
+  bool EndsWithin(DWORD milliseconds) const;
+  bool Is32Bit() const;
+
+ private:
+  DWORD id_;
+  Handle process_;
 };
 
 // Names for the server's classes in the system's list, which nothing else uses and which go with

@@ -1,15 +1,13 @@
 #!/bin/bash
 # Builds for Windows what the programs and their tests need, from the distribution's source
-# packages: tools/windows/libraries.sh [gui]
-# libxml2 and GoogleTest always, Qt with "gui". All of it goes into the folder that cache.sh names
-# and is built once.
+# packages: tools/windows/libraries.sh [gui] [32]
+# libxml2 and GoogleTest always, Qt with "gui"; with "32" all but Qt for 32 bits as well. All of it goes
+# into the folder that cache.sh names and is built once.
 set -euo pipefail
 
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
-toolchain="$here/../../cmake/mingw-w64.cmake"
 cache="$("$here/cache.sh")"
-prefix="$cache/prefix"
-mkdir -p "$prefix/stamps"
+mkdir -p "$cache"
 
 # One build of a library at a time, also with two calls of this script.
 exec 9>"$cache/lock"
@@ -40,6 +38,7 @@ know_source_packages() {
 library() {
   local package="$1" shared="$2" licence="$3"
   shift 3
+  mkdir -p "$prefix/stamps"
   local stamp="$prefix/stamps/$package"
   local wanted="$shared $*"
   [[ ! -f "$stamp" || "$(cat "$stamp")" != "$wanted" ]] || return 0
@@ -76,14 +75,22 @@ without() {
   done
 }
 
-without LIBXML2_WITH_ "" FTP HTTP ICONV LZMA PROGRAMS PYTHON TESTS ZLIB
-library libxml2 OFF Copyright "${options[@]}"
-library googletest OFF LICENSE -DBUILD_GMOCK=OFF
-# Headers alone.
-library cli11 OFF LICENSE -DCLI11_BUILD_TESTS=OFF -DCLI11_BUILD_EXAMPLES=OFF -DCLI11_BUILD_DOCS=OFF
-library nlohmann-json3 OFF LICENSE.MIT -DJSON_BuildTests=OFF
+# for_processor TOOLCHAIN FOLDER: what the core and its tests need.
+for_processor() {
+  toolchain="$here/../../cmake/$1.cmake"
+  prefix="$cache/$2"
+  without LIBXML2_WITH_ "" FTP HTTP ICONV LZMA PROGRAMS PYTHON TESTS ZLIB
+  library libxml2 OFF Copyright "${options[@]}"
+  library googletest OFF LICENSE -DBUILD_GMOCK=OFF
+  # Headers alone.
+  library cli11 OFF LICENSE -DCLI11_BUILD_TESTS=OFF -DCLI11_BUILD_EXAMPLES=OFF -DCLI11_BUILD_DOCS=OFF
+  library nlohmann-json3 OFF LICENSE.MIT -DJSON_BuildTests=OFF
+}
 
-if [[ "${1:-}" == gui ]]; then
+[[ " $* " != *" 32 "* ]] || for_processor mingw-w64-i686 prefix32
+for_processor mingw-w64 prefix
+
+if [[ " $* " == *" gui "* ]]; then
   host="$(dpkg-architecture -qDEB_HOST_MULTIARCH)"
   # The header that tablets need is not in the source package.
   without FEATURE_ "" opengl vulkan sql network dbus concurrent xml printsupport tabletevent \

@@ -18,7 +18,8 @@ folder="$dist/$name"
 rm -rf "$folder" "$dist/$name.zip"
 mkdir -p "$folder/platforms" "$folder/licences/gcc"
 
-cp "$build/src/app/mortane.exe" "$build/src/wizard/sadrel.exe" "$folder/"
+cp "$build/src/app/mortane.exe" "$build/src/wizard/sadrel.exe" "$build/src/ctl/mortanectl.exe" \
+  "$root/build/windows32/src/controller/com/host/mortane-host32.exe" "$folder/"
 for library in Core Gui Widgets; do
   cp "$prefix/bin/Qt6$library.dll" "$folder/"
 done

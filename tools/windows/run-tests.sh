@@ -12,6 +12,12 @@ fonts="$(tools/windows/cache.sh)/prefix/lib/fonts"
 mkdir -p "$fonts"
 cp /usr/share/fonts/truetype/dejavu/DejaVuSans{,-Bold,Mono}.ttf "$fonts/"
 
+# Windows that a library of the tests shows need a display.
+work="$(mktemp -d)"
+source tools/display.sh
+start_server 1024 768
+trap 'kill "$server"; rm -rf "$work"' EXIT
+
 # Makes what Wine needs, which takes longer than the listing of tests may.
 tools/windows/wine.sh --collect cmd /c exit
 

@@ -31,8 +31,11 @@ std::int32_t NumberOf(const EXCEPINFO& told) {
 }  // namespace
 
 void RaiseComError(HRESULT result) {
-  throw ControllerError(kOwnSource, static_cast<std::int32_t>(result),
-                        SystemMessage(static_cast<unsigned long>(result)));
+  RaiseComError(result, SystemMessage(static_cast<unsigned long>(result)));
+}
+
+void RaiseComError(HRESULT result, const std::string& text) {
+  throw ControllerError(kOwnSource, static_cast<std::int32_t>(result), text);
 }
 
 void RaiseLibraryError(EXCEPINFO& told) {

@@ -6,12 +6,10 @@
 #include <array>
 #include <utility>
 
-#include "common/Failure.h"
 #include "controller/com/ComError.h"
 #include "controller/com/ComObject.h"
 #include "controller/com/ComRoot.h"
 #include "platform/Environment.h"
-#include "platform/windows/Wide.h"
 
 namespace mortane::controller {
 namespace {
@@ -28,14 +26,6 @@ constexpr std::array<InstalledClass, 3> kInstalledClasses{{
     {"FiberRemote", "RAVLINCONTROLSERVERLib.FiberRemote", "MORTANE_PROGID_FIBERREMOTE"},
 }};
 
-CLSID ClassIdOf(const std::string& progId) {
-  const std::wstring text = ToWide(progId);
-  CLSID id{};
-  RequireSuccess(text.starts_with(L'{') ? CLSIDFromString(text.c_str(), &id)
-                                        : CLSIDFromProgID(text.c_str(), &id));
-  return id;
-}
-
 }  // namespace
 
 std::vector<ComClass> InstalledClasses() {
@@ -47,13 +37,17 @@ std::vector<ComClass> InstalledClasses() {
   return classes;
 }
 
-ComLibrary::ComLibrary(std::vector<ComClass> classes)
-    : classes_(std::move(classes)), ids_(std::make_unique<MemberIds>()) {
+ComLibrary::ComLibrary(std::vector<ComClass> classes, LibraryWays ways, std::wstring hostFile)
+    : classes_(std::move(classes)),
+      ways_(ways),
+      host_(std::make_unique<HostProcess>(std::move(hostFile))),
+      ids_(std::make_unique<MemberIds>()) {
   RequireSuccess(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
 }
 
 ComLibrary::~ComLibrary() {
   ids_.reset();  // holds type information
+  host_.reset();
   CoUninitialize();
 }
 
@@ -65,11 +59,7 @@ ObjectRef ComLibrary::Create(std::string_view className) {
 }
 
 ObjectRef ComLibrary::MakeRoot(const ComClass& row) {
-  const CLSID classId = ClassIdOf(row.progId);
-  void* made = nullptr;
-  RequireSuccess(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
-                                  IID_IDispatch, &made));
-  return MakeComObject(ComPointer<IDispatch>(static_cast<IDispatch*>(made)), *ids_);
+  return MakeComObject(MakeByFirstWay(row.progId, ways_, *host_), *ids_);
 }
 
 }  // namespace mortane::controller

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "controller/ControllerObject.h"
+#include "controller/com/HostProcess.h"
+#include "controller/com/LibraryWays.h"
 
 namespace mortane::controller {
 
@@ -24,11 +26,11 @@ struct ComClass {
 std::vector<ComClass> InstalledClasses();
 
 // Belongs to the thread that makes it, whose single-threaded apartment it enters and leaves; its
-// objects must be gone before it. Creation raises the system's failure for a class that is not
-// registered.
+// objects must be gone before it. Creation raises what LibraryWays.h says.
 class ComLibrary : public ControllerLibrary {
  public:
-  explicit ComLibrary(std::vector<ComClass> classes = InstalledClasses());
+  explicit ComLibrary(std::vector<ComClass> classes = InstalledClasses(),
+                      LibraryWays ways = LibraryWays::kAny, std::wstring hostFile = HostFile());
   ~ComLibrary() override;
   ComLibrary(const ComLibrary&) = delete;
   ComLibrary& operator=(const ComLibrary&) = delete;
@@ -39,6 +41,8 @@ class ComLibrary : public ControllerLibrary {
   ObjectRef MakeRoot(const ComClass& row);
 
   std::vector<ComClass> classes_;
+  LibraryWays ways_;
+  std::unique_ptr<HostProcess> host_;  // for all classes
   std::unique_ptr<MemberIds> ids_;
 };
 

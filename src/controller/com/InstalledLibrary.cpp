@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/Text.h"
 #include "controller/ControllerError.h"
 #include "controller/com/ComLibrary.h"
 #include "platform/windows/Wide.h"
@@ -23,22 +24,27 @@ std::string ProgIdOf(const std::vector<ComClass>& classes, std::string_view name
   return row == classes.end() ? std::string(name) : row->progId;
 }
 
-// COM's own text for an unregistered class does not help the user.
+// COM's own text for an unknown name does not help the user.
 std::string ReasonOf(const ControllerError& error) {
   const auto result = static_cast<HRESULT>(error.Number());
-  const bool unknown = result == CO_E_CLASSSTRING || result == REGDB_E_CLASSNOTREG;
-  return unknown ? "not registered" : error.Description();
+  if (result == CO_E_CLASSSTRING) return " not registered";
+  return std::string(kLineBreak) + error.Description();
 }
 
 constexpr DWORD kLongestText = 1024;
 
-// The default value of a key of the classes; empty when there is none.
+// The default value of a key of the classes, of those for programs of 64 bits or else of those for
+// programs of 32; empty when there is none.
 std::string RegisteredText(const std::string& key) {
-  std::array<wchar_t, kLongestText> text{};
-  DWORD size = sizeof text;
-  const LSTATUS result = RegGetValueW(HKEY_CLASSES_ROOT, ToWide(key).c_str(), nullptr,
-                                      RRF_RT_REG_SZ, nullptr, text.data(), &size);
-  return result == ERROR_SUCCESS ? ToUtf8(text.data()) : std::string();
+  for (const DWORD list : {DWORD{RRF_SUBKEY_WOW6464KEY}, DWORD{RRF_SUBKEY_WOW6432KEY}}) {
+    std::array<wchar_t, kLongestText> text{};
+    DWORD size = sizeof text;
+    if (RegGetValueW(HKEY_CLASSES_ROOT, ToWide(key).c_str(), nullptr, RRF_RT_REG_SZ | list, nullptr,
+                     text.data(), &size) == ERROR_SUCCESS) {
+      return ToUtf8(text.data());
+    }
+  }
+  return {};
 }
 
 std::string VersionOfFile(const std::string& path) {
@@ -71,12 +77,12 @@ LibraryIdentity InstalledLibraryIdentity() {
 
 std::unique_ptr<ControllerLibrary> OpenInstalledLibrary() {
   const std::vector<ComClass> classes = InstalledClasses();
-  auto library = std::make_unique<ComLibrary>(classes);
+  auto library = std::make_unique<ComLibrary>(classes, WaysOfEnvironment());
   try {
     library->Create(kRootClass);
   } catch (const ControllerError& error) {
     throw ControllerError(error.Source(), error.Number(),
-                          ProgIdOf(classes, kRootClass) + ": " + ReasonOf(error));
+                          ProgIdOf(classes, kRootClass) + ":" + ReasonOf(error));
   }
   return library;
 }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -30,9 +31,11 @@ struct Refusal {
   std::int32_t number;
 };
 
+using BackEndMaker = std::function<std::unique_ptr<BackEnd>(const std::string& bench)>;
+
 struct BackEndKind {
   const char* name;
-  std::unique_ptr<BackEnd> (*make)(const std::string& bench);
+  BackEndMaker make;
   Refusal unknownMember;
   Refusal wrongCount;
   Refusal wrongUse;  // a write of what can only be read, and the reverse
@@ -43,7 +46,8 @@ struct BackEndKind {
 
 std::ostream& operator<<(std::ostream& stream, const BackEndKind& kind);
 
-// In place; on Windows through COM as well, in the caller's process and in another one.
+// In place; on Windows through COM as well, in the caller's process, in a server's, and in the
+// host's.
 const std::vector<BackEndKind>& BackEndKinds();
 
 // Those in this process, for long runs.

@@ -246,7 +246,7 @@ TEST_P(Transport, WaitsForAnAsynchronousMove) {
   const Microscope root = ConnectedRoot(backEnd->Library());
   const DeviceEntry entry = root.DeviceList().Item(0);
   entry.PutAsyncMode(true);
-  const std::int32_t target = 12000 + 200 * 20;  // 200 ms at the usual speed
+  const std::int32_t target = 12000 + 1000 * 20;  // a second at the usual speed
   root.ZDriveDevice().PutPosition(target);
   EXPECT_LT(root.ZDriveDevice().Position().Number(), target);
   entry.WaitMove();
