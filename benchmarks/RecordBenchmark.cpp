@@ -8,6 +8,7 @@
 #include "controller/simulator/SimulatedLibrary.h"
 #include "hub/clsK70.h"
 #include "record/Differences.h"
+#include "record/ModelItems.h"
 #include "record/Report.h"
 
 namespace mortane {
@@ -36,14 +37,33 @@ void DifferencesOfItems(benchmark::State& state) {
 }
 BENCHMARK(DifferencesOfItems)->RangeMultiplier(10)->Range(100, 10000)->Complexity(benchmark::oN);
 
-// Of the benches that are read without a box the one with the most items, all of them changed.
-ReportContent LargestContent() {
+// Of the benches that are read without a box the one with the most items.
+struct LargestBench {
+  LargestBench() {
+    k70.Initialize();
+    k70.Connect(1);
+    k70.Receive();
+  }
+
   controller::SimulatedLibrary library{controller::benches::Named("Harbour")};
   SilentPrompts prompts;
   clsK70 k70{library, prompts};
-  k70.Initialize();
-  k70.Connect(1);
-  k70.Receive();
+};
+
+// What the windows do after each input of a person, with that many items changed: compare the model
+// with its state after the last Receive.
+void ComparingTheModelWithItsStateBefore(benchmark::State& state) {
+  LargestBench bench;
+  const std::vector<ConfigurationItem> held = ItemsOf(bench.k70);
+  for (std::int16_t i = 1; i <= state.range(0); ++i) bench.k70.curSwitch.Func(i, 40);
+  for (auto _ : state) benchmark::DoNotOptimize(DifferencesOf(held, ItemsOf(bench.k70)));
+}
+BENCHMARK(ComparingTheModelWithItsStateBefore)->Arg(0)->Arg(1)->Arg(16);
+
+// All items changed.
+ReportContent LargestContent() {
+  LargestBench bench;
+  clsK70& k70 = bench.k70;
   ReportContent content{StateOf(k70),      {}, "Harbour", "2026-11-22 05:12:33 +0100", "1.0",
                         AccessoriesOf(k70)};
   content.before = content.state;

@@ -32,7 +32,7 @@ for picture in "$folder"/pictures/*.png; do
 done
 
 python3 -B "$root/tools/manual/manual.py" text "$chapters" >"$work/manual.md"
-pandoc --from markdown --to html5 --standalone --section-divs --toc --toc-depth=2 \
+pandoc --from markdown-smart --to html5 --standalone --section-divs --toc --toc-depth=2 \
   --template "$root/tools/manual/template.html" --metadata title="Mortane" \
   --metadata version="$version" --output "$work/manual.html" "$work/manual.md"
 python3 -B "$root/tools/manual/manual.py" page "$chapters" "$work/manual.html" "$folder"

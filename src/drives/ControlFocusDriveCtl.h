@@ -53,6 +53,7 @@ class ControlFocusDriveCtl : public DrivePageCtl {
   void MoveAsyncStart(const std::vector<std::int32_t>& targets) const override;
   bool IsMoveAsyncEnd() const override;
   void MoveStop() const override;
+  void LoadPositions() override;
   void RowSelected(int row) override;
   void PositionShown(int row, std::int32_t position) override;
 
@@ -64,7 +65,6 @@ class ControlFocusDriveCtl : public DrivePageCtl {
   void StoreEdits();
 
   void LoadCompensation();
-  void LoadPositions();
   void LoadLowerLimit();
   void LoadEscape();
   void ShowEscape(int axis);

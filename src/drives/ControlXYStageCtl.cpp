@@ -76,11 +76,15 @@ void ControlXYStageCtl::Build() {
 // Kept: without any stage its controls are shown, and preparing it fails with a box.
 void ControlXYStageCtl::LoadData() {
   LoadCompensation();
-  FrameNosepiece->Load(stage_.NoseCount);
+  LoadPositions();
   const bool hasStage = stage_.parent.IsMounted(accessory::kXYStage) != kNotMounted;
   const bool turns = stage_.parent.IsControllable(accessory::kNosepiece);
   FrameXYControl->setVisible(turns || !hasStage);
   if (turns || !hasStage) PrepareMoves();
+}
+
+void ControlXYStageCtl::LoadPositions() {
+  FrameNosepiece->Load(stage_.NoseCount);
 }
 
 void ControlXYStageCtl::showEvent(QShowEvent* event) {

@@ -47,6 +47,7 @@ class ControlXYStageCtl : public DrivePageCtl {
   void MoveAsyncStart(const std::vector<std::int32_t>& targets) const override;
   bool IsMoveAsyncEnd() const override;
   void MoveStop() const override;
+  void LoadPositions() override;
 
   void Build();
   void LoadCompensation();

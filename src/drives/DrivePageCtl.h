@@ -39,6 +39,7 @@ class DrivePageCtl : public CardPage {
  public:
   // Stores the positions of all rows.
   void SaveData() override;
+  void ShowStored() override { LoadPositions(); }
   // Selects the row of the address at which the nosepiece stands.
   void SetNosePosition();
 
@@ -86,6 +87,9 @@ class DrivePageCtl : public CardPage {
   virtual void MoveAsyncStart(const Positions& targets) const = 0;
   virtual bool IsMoveAsyncEnd() const = 0;
   virtual void MoveStop() const = 0;
+
+  // Fills the table from the unit.
+  virtual void LoadPositions() = 0;
 
   // What else a page does with a row that was selected, and with a position shown in it.
   virtual void RowSelected(int /*row*/) {}

@@ -101,8 +101,7 @@ void ObjectiveOptionCtl::FillLists() {
             [this](std::int32_t index) { return objectives_.Mag(index); });
 }
 
-// All values are taken over before a row is selected, since a new row stores what is shown.
-void ObjectiveOptionCtl::ShowObjective(Condensers condensers) {
+void ObjectiveOptionCtl::ReadObjective() {
   std::string name;
   std::string magnification;
   std::string workingDistance;
@@ -113,6 +112,11 @@ void ObjectiveOptionCtl::ShowObjective(Condensers condensers) {
   TextMag->setText(QString::fromStdString(magnification));
   TextWD->setText(QString::fromStdString(workingDistance));
   TextNA->setText(QString::fromStdString(numericalAperture));
+}
+
+// All values are taken over before a row is selected, since a new row stores what is shown.
+void ObjectiveOptionCtl::ShowObjective(Condensers condensers) {
+  ReadObjective();
   ListSeries->setIndex(series_);
   ListType->setIndex(type_);
   LabelSeries->setText(ListSeries->text(ListSeries->index()));
@@ -149,6 +153,10 @@ void ObjectiveOptionCtl::Store() {
 void ObjectiveOptionCtl::StoreNumbers(const std::array<std::string, 3>& numbers) {
   objectives_.Set_DbNosepiece(TabStrip1->caption().toInt(), TextName->text().toStdString(), series_,
                               type_, numbers[0], numbers[1], numbers[2], condenser_);
+}
+
+void ObjectiveOptionCtl::ShowStored() {
+  ReadObjective();
 }
 
 void ObjectiveOptionCtl::SaveData() {

@@ -33,6 +33,7 @@ class ObjectiveOptionCtl : public CardPage {
   // Stores once more. Kept: a number that may not be, the dashes too, is stored as 0 without a
   // word, and the box keeps what it shows.
   void SaveData() override;
+  void ShowStored() override;
 
   Control<TabStrip> TabStrip1{"TabStrip1"};
   Control<QFrame> NosepieceOptionItemFrm{"NosepieceOptionItemFrm"};
@@ -77,6 +78,7 @@ class ObjectiveOptionCtl : public CardPage {
   void ConnectNumber(const Number& number);
 
   void ShowObjective(Condensers condensers);
+  void ReadObjective();
   void FillLists();
   void RebuildCondensers();
   void SelectCondenser();

@@ -109,11 +109,11 @@ void CheckToggle::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF track(kPadding, (height() - kTrackHeight) / 2.0, kTrackWidth, kTrackHeight);
   DrawTrack(painter, track);
-  if (!NoteOfNotSent(*this).isEmpty()) {
-    DrawPendingDot(painter, track.topRight() + QPointF(-1, 1), palette().color(QPalette::Link),
-                   palette().color(QPalette::Base));
-  }
   const QPalette colors = ShownColors();
+  if (!NoteOfNotSent(*this).isEmpty()) {
+    DrawPendingDot(painter, track.topRight() + QPointF(-1, 1), colors.color(QPalette::Link),
+                   colors.color(QPalette::Base));
+  }
   painter.setPen(colors.color(unknown_ ? QPalette::PlaceholderText : QPalette::WindowText));
   painter.setFont(isChecked() && isEnabledTo(window()) ? BoldFont() : font());
   painter.drawText(QRectF(track.right() + kGap, 0, width() - track.right() - kGap, height()),

@@ -64,6 +64,12 @@ void ContainerPage::SaveData() {
   }
 }
 
+void ContainerPage::ShowStored() {
+  for (std::size_t i = 0; i < sections_.size(); ++i) {
+    if (offered_[i]) sections_[i].page->ShowStored();
+  }
+}
+
 int ContainerPage::CurrentItem() const {
   return sections()->selected();
 }

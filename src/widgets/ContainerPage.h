@@ -46,6 +46,8 @@ class ContainerPage : public Page {
   // Asks which sections are offered, loads the sub-pages of those and selects the first section.
   void LoadData() override;
   void SaveData() override;
+  // Of the sections that are offered.
+  void ShowStored() override;
 
   [[nodiscard]] int CurrentItem() const;  // -1 before the first selection
   [[nodiscard]] SectionBar* sections() const;

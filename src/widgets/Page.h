@@ -24,6 +24,9 @@ class Page : public QWidget {
   virtual void LoadData() {}
   // Takes what the controls hold into the model.
   virtual void SaveData() {}
+  // Brings fields whose text SaveData did not take as it stood to what the model holds. Stores and
+  // asks nothing, and makes no call to the controller.
+  virtual void ShowStored() {}
   // Shows where the nosepiece stands; called after the loading that follows a connection.
   virtual void SetNosePostiton() {}
   // Carries out what a page itself has to send, after a Send of the model.

@@ -8,16 +8,19 @@
 #include "app/CommandBoundary.h"
 #include "app/GetAppIcon.h"
 #include "app/PageArea.h"
+#include "app/SessionNote.h"
 #include "app/SettingsFiles.h"
 #include "common/Text.h"
 #include "hub/clsK70.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/Page.h"
 #include "widgets/StyleProperties.h"
+#include "widgets/ValueLabel.h"
 #include "wizard/HelpLine.h"
 #include "wizard/SadrelEndingCtl.h"
 #include "wizard/SelSetupItemCtl.h"
 #include "wizard/SetupItems.h"
+#include "wizard/StepButton.h"
 #include "wizard/StepRail.h"
 
 namespace mortane {
@@ -43,6 +46,9 @@ void SadrelMainForm::Load() {
 }
 
 void SadrelMainForm::OnConnected(Outcome) {
+  const clsK70& k70 = GetK70();
+  const std::string name = FirstCharacters(k70.SystemName, kSystemNameLength);
+  note_->setText(MicroscopeInWords(QString::fromStdString(name), k70.lConnectDevice == kSimulator));
   for (int item = 0; item < static_cast<int>(kSetupItemCount); ++item) {
     EnableStep(item + kFirstItem, false,
                QLatin1String(kSetupItems[static_cast<std::size_t>(item)].whyNotOffered));
@@ -52,7 +58,11 @@ void SadrelMainForm::OnConnected(Outcome) {
 }
 
 // The report of the last step tells them.
-void SadrelMainForm::ShowPending(const std::vector<ItemChange>&) {}
+void SadrelMainForm::ShowPending(const std::vector<ItemChange>&) {
+  for (std::size_t step = 0; step < pages_.size(); ++step) {
+    ImageMenu[step]->SetPending(Marks().IsOnPage(*pages_[step]));
+  }
+}
 
 void SadrelMainForm::OnItemChanged(int item, bool enabled) {
   EnableStep(item + kFirstItem, enabled, u"Left out in Setup Items."_s);

@@ -31,6 +31,7 @@ class SelSetupItemCtl;
 class StepButton;
 class StepRail;
 class SystemSettingsCtl;
+class ValueLabel;
 
 inline constexpr char kWizardTitle[] = "Sadrel";
 
@@ -110,6 +111,7 @@ class SadrelMainForm : public ProgramForm {
   StepTable table_;
   std::array<Page*, kStepCount> pages_{};
   HelpLine* help_ = nullptr;
+  Control<ValueLabel> note_{"SessionNote"};  // which microscope is connected
   Control<PageArea> area_{"ScrollControl"};
 };
 

@@ -8,6 +8,7 @@
 #include "widgets/ClickFocus.h"
 #include "widgets/ContainerPage.h"
 #include "widgets/Theme.h"
+#include "widgets/ValueLabel.h"
 #include "wizard/HelpLine.h"
 #include "wizard/SadrelMainForm.h"
 #include "wizard/SadrelPages.h"
@@ -88,7 +89,12 @@ QPushButton* SadrelMainForm::AddButton(const QString& text, Act act, QWidget* ba
 QWidget* SadrelMainForm::BuildButtons() {
   auto* bar = new CommandBar(this);
   ButtonCancel = AddButton(u"&Cancel"_s, &SadrelMainForm::DoCancel, bar);
-  bar->row().addStretch();
+  note_ = new ValueLabel(bar);
+  note_->setFont(CaptionFont());
+  note_->setForegroundRole(QPalette::PlaceholderText);
+  note_->setAccessibleName(u"Session"_s);
+  bar->row().addSpacing(grid::kBetweenControls);
+  bar->row().addWidget(note_, 1);
   ButtonPrevious = AddButton(u"&Previous"_s, &SadrelMainForm::DoPrevious, bar);
   ButtonNext = AddButton(u"&Next"_s, &SadrelMainForm::DoNext, bar);
   bar->row().addSpacing(grid::kBetweenColumns);

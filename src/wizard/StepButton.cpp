@@ -1,8 +1,11 @@
 #include "wizard/StepButton.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "widgets/ElidedTip.h"
+#include "widgets/NotSent.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -35,9 +38,28 @@ void StepButton::SetState(StepState state) {
   state_ = state;
   setEnabled(state != StepState::Off);
   setChecked(state == StepState::Current);
-  setAccessibleDescription(u"Step %1, %2"_s.arg(number_).arg(
-      QLatin1String(kStateTexts[static_cast<std::size_t>(state)])));
+  Describe();
   update();
+}
+
+void StepButton::SetPending(bool pending) {
+  if (pending_ == pending) return;
+  pending_ = pending;
+  Describe();
+  update();
+}
+
+void StepButton::Describe() {
+  const QString state = QLatin1String(kStateTexts[static_cast<std::size_t>(state_)]);
+  QString text = u"Step %1, %2"_s.arg(number_).arg(state);
+  if (pending_) text += u", "_s + SomethingNotSent();
+  setAccessibleDescription(text);
+}
+
+bool StepButton::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || !pending_) return RailButton::event(event);
+  ShowWholeText(*static_cast<QHelpEvent*>(event), *this, SomethingNotSent(), Fits::No);
+  return true;
 }
 
 QSize StepButton::sizeHint() const {
@@ -95,6 +117,10 @@ void StepButton::paintEvent(QPaintEvent*) {
   const int iconTop = (height() - kIconSide) / 2;
   DrawIcon(painter, icon(), QRectF(kIconLeft, iconTop, kIconSide, kIconSide),
            {foreground, IsCurrent() ? ToneColor(Tone::Amber) : foreground});
+  if (pending_) {
+    DrawPendingDot(painter, {kIconLeft + kIconSide + 2.0, iconTop + 1.0},
+                   ToneColor(Tone::RailPending), Background());
+  }
   painter.setFont(font());
   painter.setPen(foreground);
   painter.drawText(QRect(kTextLeft, 0, width() - kTextLeft, height()),

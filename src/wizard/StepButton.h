@@ -21,6 +21,9 @@ class StepButton : public RailButton {
   // Off also disables the button.
   void SetState(StepState state);
   [[nodiscard]] StepState state() const { return state_; }
+  // The dot that says: something on the step's page is not sent.
+  void SetPending(bool pending);
+  [[nodiscard]] bool isPending() const { return pending_; }
   // The last step of a rail; as it is made.
   void SetLast(bool last) { last_ = last; }
   [[nodiscard]] QSize sizeHint() const override;
@@ -29,16 +32,19 @@ class StepButton : public RailButton {
 
  protected:
   [[nodiscard]] bool IsCurrent() const override { return state_ == StepState::Current; }
+  bool event(QEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void Describe();
   void DrawJoints(QPainter& painter) const;
   void DrawMark(QPainter& painter) const;
 
   int number_;
   StepState state_ = StepState::Off;
   bool last_ = true;
+  bool pending_ = false;
 };
 
 }  // namespace mortane

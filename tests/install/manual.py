@@ -74,6 +74,7 @@ class Manual(unittest.TestCase):
         for tag in ("script", "link", "iframe", "object"):
             self.assertNotIn(tag, self.page.tags)
         self.assertNotRegex(self.text, r"url\(|@import")
+        self.assertNotIn("mark", self.page.tags, "a text that is marked as found")
 
     def test_every_picture_is_in_it_at_both_scales(self):
         asked = sum(path.read_text(encoding="utf-8").count("](pictures/") for path in CHAPTERS)

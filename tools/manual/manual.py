@@ -61,7 +61,7 @@ def text_of(source):
     for text in chapters(source).values():
         text = LINK.sub(r"](#\1)", text)
         text = PICTURE.sub(r"![\1](pictures/\2.png)", text)
-        yield NUMBER.sub(lambda found: f'[{chr(0x2460 + int(found[1]) - 1)}]{{.mark}}', text)
+        yield NUMBER.sub(lambda found: f'[{chr(0x2460 + int(found[1]) - 1)}]{{.circle}}', text)
 
 
 def data(path):
