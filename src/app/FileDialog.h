@@ -5,12 +5,18 @@
 
 #include "common/Prompts.h"
 
+class QListWidget;
+class QListWidgetItem;
+
 namespace mortane {
+
+class RecentFiles;
 
 class FileDialog : public QFileDialog {
  public:
-  // Begins in `folder`, or in the current one where that is empty or gone.
-  FileDialog(AcceptMode mode, const FileQuestion& question, const QString& folder);
+  // Begins in the folder of the recent files, or in the current one where they have none. Those of
+  // the asked kind stand in the side bar; the system's own dialog does not show them.
+  FileDialog(AcceptMode mode, const FileQuestion& question, const RecentFiles& recent);
 
   // The chosen path; empty when the person gave none, or when the window ended meanwhile.
   QString Ask();
@@ -20,6 +26,9 @@ class FileDialog : public QFileDialog {
   void accept() override;
 
  private:
+  void ShowInSideBar(const QStringList& files);
+  void Choose(const QListWidgetItem& file);
+
   bool pathMustExist_;
 };
 

@@ -10,6 +10,7 @@
 #include "app/Manual.h"
 #include "app/ProgramForm.h"
 #include "app/QtPrompts.h"
+#include "app/RecentFiles.h"
 #include "app/StartOptions.h"
 #include "app/UnsentEdits.h"
 #include "app/WindowPlace.h"
@@ -64,7 +65,7 @@ int ShowForm(QApplication& application, SessionLibrary& session, Notices& notice
   QApplication::setDesktopFileName(QLatin1String(kind.name));
   ApplyTheme(application);
   SetSystemNumberFormat(FormatOf(QLocale::system()));
-  QtPrompts prompts(SleepMilliseconds);
+  QtPrompts prompts(SleepMilliseconds, RecentFiles(UsersPlaceFile(), UsersDocuments()));
   if (!session.Complaint().empty()) {
     prompts.MsgBox(session.Complaint(), box::kOk + box::kExclamation);
   }

@@ -1,7 +1,6 @@
 #include "app/QtPrompts.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QTimer>
 #include <utility>
 
@@ -12,18 +11,19 @@
 namespace mortane {
 namespace {
 
-// Begins in the folder, which becomes that of the answer.
-std::string AskFile(QFileDialog::AcceptMode mode, const FileQuestion& question, QString& folder) {
-  const QPointer<FileDialog> dialog = new FileDialog(mode, question, folder);
+std::string AskFile(QFileDialog::AcceptMode mode, const FileQuestion& question,
+                    RecentFiles& recent) {
+  const QPointer<FileDialog> dialog = new FileDialog(mode, question, recent);
   const QString path = dialog->Ask();
   delete dialog;  // nothing, where its window has ended and taken it along
-  if (!path.isEmpty()) folder = QFileInfo(path).path();
+  if (!path.isEmpty()) recent.Add(path);
   return path.toStdString();
 }
 
 }  // namespace
 
-QtPrompts::QtPrompts(Sleeper sleep) : sleep_(std::move(sleep)) {}
+QtPrompts::QtPrompts(Sleeper sleep, RecentFiles recent)
+    : sleep_(std::move(sleep)), recent_(std::move(recent)) {}
 
 void QtPrompts::ShowProgressOn(ProgressLine* line) {
   progress_ = line;
@@ -50,11 +50,11 @@ Answer QtPrompts::TimedMsgBox(int milliseconds, const std::string& prompt, int s
 }
 
 std::string QtPrompts::AskFileToOpen(const FileQuestion& question) {
-  return AskFile(QFileDialog::AcceptOpen, question, folder_);
+  return AskFile(QFileDialog::AcceptOpen, question, recent_);
 }
 
 std::string QtPrompts::AskFileToSave(const FileQuestion& question) {
-  return AskFile(QFileDialog::AcceptSave, question, folder_);
+  return AskFile(QFileDialog::AcceptSave, question, recent_);
 }
 
 void QtPrompts::SetPointer(Pointer pointer) {

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "app/InputFlush.h"
+#include "app/RecentFiles.h"
 #include "common/Prompts.h"
 
 namespace mortane {
@@ -18,8 +19,9 @@ class QtPrompts : public Prompts {
  public:
   using Sleeper = std::function<void(int milliseconds)>;
 
-  // `sleep` is the wait of Wait; the program sleeps for real.
-  explicit QtPrompts(Sleeper sleep);
+  // `sleep` is the wait of Wait; the program sleeps for real. `recent` are the files that dialogs
+  // begin with and add to.
+  explicit QtPrompts(Sleeper sleep, RecentFiles recent = {});
 
   // Where ShowProgress draws; nowhere before a window gives its line. The line of a transfer that
   // has ended stays whole while the hourglass does.
@@ -42,7 +44,7 @@ class QtPrompts : public Prompts {
   Sleeper sleep_;
   QPointer<ProgressLine> progress_;
   bool progressEnded_ = false;
-  QString folder_;  // of the file dialog answered last
+  RecentFiles recent_;
   InputFlush flush_;
 };
 

@@ -4,11 +4,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <filesystem>
 
 #include "AppRig.h"
 #include "app/QtPrompts.h"
+#include "app/RecentFiles.h"
 #include "support/TempFolder.h"
 
 namespace mortane::test {
@@ -152,6 +155,179 @@ TEST_F(FolderUsedLast, ThatIsGoneIsForgotten) {
   Save(folder.Path("a/lab.xml"));
   std::filesystem::remove_all(folder.Path("a"));
   EXPECT_EQ(Open(""), QDir::toNativeSeparators(QDir::currentPath()).toStdString());
+}
+
+// Dialogs of sessions that remember their files in one place.
+class RememberedFiles : public testing::Test {
+ protected:
+  QtPrompts Session() const {
+    return QtPrompts([](int) {}, RecentFiles(place, QString::fromStdString(documents)));
+  }
+  // The paths that the side bar offers.
+  static QStringList Offered(const QFileDialog& dialog) {
+    QStringList files;
+    const auto* list = dialog.findChild<QListWidget*>("RecentFiles");
+    for (int i = 0; list != nullptr && i < list->count(); ++i)
+      files.append(list->item(i)->toolTip());
+    return files;
+  }
+  std::string Settings(const std::string& name) { return folder.Write(name, "<Setup/>"); }
+
+  TempFolder folder;
+  std::string place = folder.Path("not/yet/there/Window.ini");
+  std::string documents = folder.Path("");
+};
+
+TEST_F(RememberedFiles, AreTheLastEightOfAllSessionsTheLastOneFirst) {
+  QStringList wanted;
+  for (int i = 0; i < 10; ++i) {
+    const std::string path = Settings(std::to_string(i) + ".xml");
+    QtPrompts session = Session();
+    const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+      EXPECT_EQ(Offered(dialog), wanted.first(qMin(wanted.size(), qsizetype{8})));
+      Type(dialog, path);
+    });
+    EXPECT_EQ(session.AskFileToOpen(kToOpen), path);
+    wanted.prepend(QString::fromStdString(path));
+  }
+}
+
+TEST_F(RememberedFiles, ComeUpToTheFrontWhenTheyAreChosenAgain) {
+  RecentFiles recent(place, {});
+  for (const char* name : {"/a.xml", "/ b \".xml", "/a.xml"}) recent.Add(name);
+  EXPECT_EQ(RecentFiles(place, {}).Files(), (QStringList{"/a.xml", "/ b \".xml"}));
+}
+
+TEST_F(RememberedFiles, OfAProgramThatRunsMeanwhileAreKept) {
+  RecentFiles one(place, {});
+  RecentFiles other(place, {});
+  one.Add("/one.xml");
+  other.Add("/other.xml");
+  EXPECT_EQ(RecentFiles(place, {}).Files(), (QStringList{"/other.xml", "/one.xml"}));
+}
+
+TEST_F(RememberedFiles, StandBesideThePlaceOfTheWindow) {
+  std::filesystem::create_directories(folder.Path("not/yet/there"));
+  folder.Write("not/yet/there/Window.ini", "[MortaneMainForm]\nGeometry=01\n");
+  RecentFiles(place, {}).Add("/a.xml");
+  EXPECT_TRUE(TempFolder::Read(place).starts_with("[MortaneMainForm]\nGeometry=01\n"));
+}
+
+TEST_F(RememberedFiles, ThatCannotBeWrittenDownAreKnownToTheSession) {
+  folder.Write("taken", "");
+  RecentFiles recent(folder.Path("taken/Window.ini"), {});
+  recent.Add("/a.xml");
+  EXPECT_EQ(recent.Files(), QStringList{"/a.xml"});
+}
+
+TEST_F(RememberedFiles, OfAnotherKindAreNotOffered) {
+  QtPrompts session = Session();
+  const std::string record = folder.Path("record.html");
+  {
+    const WhenShown<QFileDialog> person([&](QFileDialog& dialog) { Type(dialog, record); });
+    EXPECT_EQ(session.AskFileToSave({kFileSaveFlags, "HTML File (*.html)|*.html", ".html"}),
+              record);
+  }
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    EXPECT_EQ(Offered(dialog), QStringList());
+    dialog.reject();
+  });
+  session.AskFileToOpen(kToOpen);
+}
+
+TEST_F(RememberedFiles, AreChosenByAClickAndTheEnterKeyOpensThem) {
+  std::filesystem::create_directory(folder.Path("a"));
+  const std::string first = Settings("a/first.xml");
+  const std::string second = Settings("second.xml");
+  RecentFiles(place, {}).Add(QString::fromStdString(first));
+  RecentFiles(place, {}).Add(QString::fromStdString(second));
+  QtPrompts session = Session();
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    auto* list = dialog.findChild<QListWidget*>("RecentFiles");
+    EXPECT_EQ(list->item(1)->text(), "first.xml");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                      list->visualItemRect(list->item(1)).center());
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "first.xml");
+    EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder.Path("a"));
+    QTest::keyClick(list, Qt::Key_Return);
+  });
+  EXPECT_EQ(session.AskFileToOpen(kToOpen), first);
+}
+
+TEST_F(RememberedFiles, AreOpenedByADoubleClick) {
+  const std::string path = Settings("lab.xml");
+  RecentFiles(place, {}).Add(QString::fromStdString(path));
+  QtPrompts session = Session();
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    auto* list = dialog.findChild<QListWidget*>("RecentFiles");
+    const QPoint at = list->visualItemRect(list->item(0)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
+  });
+  EXPECT_EQ(session.AskFileToOpen(kToOpen), path);
+}
+
+TEST_F(RememberedFiles, ThatAreGoneAreRefusedAsATypedNameIs) {
+  RecentFiles(place, {}).Add(QString::fromStdString(folder.Path("gone.xml")));
+  QtPrompts session = Session();
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    const WhenShown<QMessageBox> reader([](QMessageBox& box) { box.accept(); });
+    auto* list = dialog.findChild<QListWidget*>("RecentFiles");
+    list->setCurrentRow(0);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    dialog.reject();
+  });
+  EXPECT_EQ(session.AskFileToOpen(kToOpen), "");
+}
+
+TEST_F(RememberedFiles, AreAskedAboutOnceBeforeTheyAreWrittenOver) {
+  const std::string path = Settings("lab.xml");
+  RecentFiles(place, {}).Add(QString::fromStdString(path));
+  QtPrompts session = Session();
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    int asked = 0;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, &answer, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr) return;
+      ++asked;
+      box->button(QMessageBox::No)->click();
+    });
+    answer.start(0);
+    auto* list = dialog.findChild<QListWidget*>("RecentFiles");
+    list->setCurrentRow(0);
+    QTest::keyClick(list, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(asked, 1);
+    dialog.reject();
+  });
+  EXPECT_EQ(session.AskFileToSave(kToSave), "");
+}
+
+TEST_F(RememberedFiles, TellTheFolderInWhichTheNextSessionBegins) {
+  std::filesystem::create_directory(folder.Path("a"));
+  documents = folder.Path("documents");
+  EXPECT_EQ(RecentFiles(place, QString::fromStdString(documents)).Folder(), "") << "not there";
+  std::filesystem::create_directory(documents);
+  EXPECT_EQ(RecentFiles(place, QString::fromStdString(documents)).Folder().toStdString(),
+            documents);
+  RecentFiles(place, {}).Add(QString::fromStdString(folder.Path("a/lab.xml")));
+  EXPECT_EQ(RecentFiles(place, QString::fromStdString(documents)).Folder().toStdString(),
+            folder.Path("a"));
+  std::filesystem::remove_all(folder.Path("a"));
+  EXPECT_EQ(RecentFiles(place, QString::fromStdString(documents)).Folder().toStdString(),
+            documents);
+}
+
+TEST_F(RememberedFiles, BeginInTheDocumentsOfTheUser) {
+  QtPrompts session = Session();
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory(), QDir(QString::fromStdString(documents)));
+    dialog.reject();
+  });
+  session.AskFileToOpen(kToOpen);
 }
 
 }  // namespace

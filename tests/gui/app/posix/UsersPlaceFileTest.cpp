@@ -1,9 +1,11 @@
-// Where the place of the window is remembered, on a system where a variable names the folder.
+// Where the place of the window is remembered, and where dialogs begin, on a system where variables
+// name the folders.
 #include <gtest/gtest.h>
 
 #include <QSettings>
 #include <filesystem>
 
+#include "app/RecentFiles.h"
 #include "app/WindowPlace.h"
 #include "support/TempFolder.h"
 
@@ -27,6 +29,15 @@ TEST(UsersPlaceFile, StandsInTheFolderOfApplicationData) {
   } else {
     qputenv("XDG_CONFIG_HOME", before);
   }
+}
+
+TEST(UsersDocuments, AreTheFolderThatTheDesktopNames) {
+  const TempFolder folder;
+  folder.Write("user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"" + folder.Path("papers") + "\"\n");
+  const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+  qputenv("XDG_CONFIG_HOME", folder.Path("").c_str());
+  EXPECT_EQ(UsersDocuments().toStdString(), folder.Path("papers"));
+  qputenv("XDG_CONFIG_HOME", before);
 }
 
 }  // namespace
