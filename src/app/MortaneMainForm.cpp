@@ -26,8 +26,9 @@ namespace {
 
 constexpr int kLastLoadStep = 6;
 
-// The one settings file; empty for anything else.
+// The one settings file; empty for anything else, and under a box.
 QString DroppedFile(const QMimeData& data) {
+  if (QApplication::activeModalWidget() != nullptr) return {};
   const QList<QUrl> urls = data.urls();
   if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
   const QFileInfo file(urls.front().toLocalFile());
@@ -135,7 +136,7 @@ void MortaneMainForm::dragEnterEvent(QDragEnterEvent* event) {
 // The dialog of the sections would stand in the way of the program that the file comes from.
 void MortaneMainForm::dropEvent(QDropEvent* event) {
   const QString path = DroppedFile(*event->mimeData());
-  if (path.isEmpty() || QApplication::activeModalWidget() != nullptr) return;
+  if (path.isEmpty()) return;
   event->acceptProposedAction();
   QTimer::singleShot(0, this, [this, path] { OpenDropped(path.toStdString()); });
 }

@@ -72,13 +72,16 @@ void MortaneMainForm::DoOpenKept() {
   const auto left = Unsent().FromBefore();
   if (!left) return;
   const FileResult file = OpenSettingsFile(prompts(), left->path, this);
-  if (file.outcome && *file.outcome != Outcome::NotDone) Unsent().ForgetFromBefore();
+  if (file.outcome && *file.outcome != Outcome::NotDone) {
+    Unsent().Keep();
+    Unsent().Forget(*left);
+  }
   NoteKept();
   TakeOpened(file);
 }
 
 void MortaneMainForm::DoLetKeptGo() {
-  Unsent().ForgetFromBefore();
+  if (const auto left = Unsent().FromBefore()) Unsent().Forget(*left);
   NoteKept();
 }
 

@@ -133,7 +133,9 @@ void ProgramForm::FirstActivation() {
 }
 
 void ProgramForm::RunCommand(const std::function<void()>& command) {
-  if (std::exchange(commandRunning_, true)) return;
+  if (commandRunning_) return;
+  if (pendingTimer_.isActive()) LookForPending();  // the command may stand in a dialog for long
+  commandRunning_ = true;
   const QPointer<QWidget> form(this);  // a command may end it
   RunStep(prompts(), command);
   if (!form) return;
@@ -159,9 +161,9 @@ bool ProgramForm::eventFilter(QObject* watched, QEvent* event) {
   return QMainWindow::eventFilter(watched, event);
 }
 
-// The end of a command, a flush or a box comes back to it.
+// The end of a command or a flush comes back to it.
 void ProgramForm::LookForPending() {
-  if (!startEnded_ || IsBusy()) return;
+  if (!startEnded_ || commandRunning_ || InputFlush::IsRunning()) return;
   const std::vector<ItemChange> changes = pending_.Find();
   if (changes.empty()) {
     unsentTimer_.stop();
@@ -173,8 +175,9 @@ void ProgramForm::LookForPending() {
   ShowPending(changes);
 }
 
+// Under a box and a dialog, too, which may stand there when the process dies.
 void ProgramForm::KeepUnsent() {
-  if (IsBusy()) return unsentTimer_.start();
+  if (InputFlush::IsRunning()) return unsentTimer_.start();
   unsent_.Keep();
 }
 
@@ -196,7 +199,7 @@ void ProgramForm::TakeSent(Outcome sent) {
 void ProgramForm::TakeDisconnected() {
   pending_.Forget();
   unsent_.Remove();
-  unsent_.Follow({});
+  unsent_.FollowNone();
 }
 
 bool ProgramForm::KeepBackup() const {

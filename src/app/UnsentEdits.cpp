@@ -1,7 +1,9 @@
 #include "app/UnsentEdits.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <chrono>
 
 #include "common/Failure.h"
 #include "hub/clsK70.h"
@@ -10,10 +12,18 @@
 #include "record/Backups.h"
 
 namespace mortane {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char kPresent[] = "Unsent.xml";
-constexpr char kFromBefore[] = "Unsent-before.xml";
+// With the time of the last edit.
+constexpr char kFromBefore[] = "Unsent-%1.xml";
+
+QFileInfoList AllFromBefore(const std::string& folder) {
+  return QDir(QString::fromStdString(folder))
+      .entryInfoList({QString::fromLatin1(kFromBefore).arg(u"*"_s)}, QDir::Files, QDir::Time);
+}
 
 }  // namespace
 
@@ -23,43 +33,50 @@ std::string UnsentEdits::DefaultFolder() {
 }
 
 void UnsentEdits::Follow(const std::string& device) {
+  if (folder_.empty()) return;
   device_ = device;
-  if (folder_.empty() || device_.empty()) return;
-  const QString left = QString::fromStdString(Path(kPresent));
-  if (!QFileInfo::exists(left)) return;
-  const QString aside = QString::fromStdString(Path(kFromBefore));
-  QFile::remove(aside);
-  QFile::rename(left, aside);
+  const QFileInfo left(QString::fromStdString(Path(kPresent)));
+  if (!left.exists()) return;
+  const auto time = BackupTime(std::chrono::milliseconds(left.lastModified().toMSecsSinceEpoch()));
+  const QString aside =
+      QString::fromLatin1(kFromBefore).arg(QString::fromStdString(TimeInFileName(time)));
+  QFile::rename(left.filePath(), left.dir().filePath(aside));
+}
+
+void UnsentEdits::FollowNone() {
+  device_.reset();
 }
 
 std::optional<UnsentEdits::Left> UnsentEdits::FromBefore() const {
-  if (folder_.empty() || device_.empty()) return std::nullopt;
-  const std::string path = Path(kFromBefore);
-  const QFileInfo file(QString::fromStdString(path));
-  if (!file.exists()) return std::nullopt;
-  return Left{path, file.lastModified()};
+  if (!device_) return std::nullopt;
+  const QFileInfoList files = AllFromBefore(FolderOf(*device_));
+  if (files.isEmpty()) return std::nullopt;
+  return Left{files.constFirst().filePath().toStdString(), files.constFirst().lastModified()};
 }
 
-void UnsentEdits::ForgetFromBefore() const {
-  QFile::remove(QString::fromStdString(Path(kFromBefore)));
+void UnsentEdits::Forget(const Left& left) const {
+  QFile::remove(QString::fromStdString(left.path));
 }
 
 void UnsentEdits::Rename(const std::string& device) {
-  if (device == device_) return;
+  if (!device_ || device == *device_) return;
   Remove();
+  const QFileInfoList left = AllFromBefore(FolderOf(*device_));
   device_ = device;
+  if (left.isEmpty() || !MakeFolder(FolderOf(device))) return;
+  for (const QFileInfo& file : left) {
+    QFile::rename(file.filePath(), QString::fromStdString(Path(file.fileName().toStdString())));
+  }
 }
 
 void UnsentEdits::Keep() {
-  if (folder_.empty() || device_.empty()) return;
+  if (!device_) return;
   try {
     DomDocument document;
     k70_.WriteSections(document);
     const std::string text = document.ToText();
-    if (text == written_) return;
-    const std::string path = Path(kPresent);
-    if (!MakeFolder(QFileInfo(QString::fromStdString(path)).path().toStdString())) return;
-    document.Save(path);
+    if (text == written_ || !MakeFolder(FolderOf(*device_))) return;
+    document.Save(Path(kPresent));
     written_ = text;
   } catch (const Failure&) {
     return;  // the file of the edits before is still whole
@@ -67,13 +84,17 @@ void UnsentEdits::Keep() {
 }
 
 void UnsentEdits::Remove() {
-  if (folder_.empty() || device_.empty()) return;
+  if (!device_) return;
   written_.clear();
   QFile::remove(QString::fromStdString(Path(kPresent)));
 }
 
-std::string UnsentEdits::Path(const char* name) const {
-  return folder_ + "/" + DeviceFolderName(device_) + "/" + name;
+std::string UnsentEdits::FolderOf(const std::string& device) const {
+  return folder_ + "/" + DeviceFolderName(device);
+}
+
+std::string UnsentEdits::Path(const std::string& name) const {
+  return FolderOf(*device_) + "/" + name;
 }
 
 }  // namespace mortane

@@ -11,7 +11,7 @@ class clsK70;
 
 // A settings file of the whole model in the folder of its device, there only while something is
 // not sent. What a process that died has left is put aside at the next start with that device and
-// stays until the person has opened it or let it go.
+// stays until the person has opened it or let it go; there may be several such files.
 class UnsentEdits {
  public:
   struct Left {
@@ -25,13 +25,14 @@ class UnsentEdits {
   // The user's folder for it; empty when the system names none.
   static std::string DefaultFolder();
 
-  // The device whose edits are kept from here on, by its name; empty: none.
+  // The device whose edits are kept from here on, by its name, which may be empty.
   void Follow(const std::string& device);
-  // What was left by a process that died.
+  void FollowNone();
+  // What was left by processes that died: the last of it.
   [[nodiscard]] std::optional<Left> FromBefore() const;
-  void ForgetFromBefore() const;
+  void Forget(const Left& left) const;
 
-  // The device that is followed has got another name.
+  // The device that is followed has got another name. What was left goes with it.
   void Rename(const std::string& device);
 
   // Writes the file whole or leaves it as it was, where the model has changed since. If it cannot
@@ -41,11 +42,12 @@ class UnsentEdits {
   void Remove();
 
  private:
-  [[nodiscard]] std::string Path(const char* name) const;
+  [[nodiscard]] std::string FolderOf(const std::string& device) const;
+  [[nodiscard]] std::string Path(const std::string& name) const;
 
   std::string folder_;
   const clsK70& k70_;
-  std::string device_;
+  std::optional<std::string> device_;  // none while nothing is kept
   std::string written_;
 };
 

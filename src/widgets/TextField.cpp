@@ -152,6 +152,12 @@ void TextField::focusOutEvent(QFocusEvent* event) {
   if (!Leave() && field != nullptr) FocusVeto::Start(field);
 }
 
+// A file is for the window to take; the toolkit would insert its path.
+void TextField::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) return event->ignore();
+  QLineEdit::dragEnterEvent(event);
+}
+
 // A text that is dropped belongs to the field as one that is typed: the field is left afterwards.
 void TextField::dropEvent(QDropEvent* event) {
   setFocus(Qt::MouseFocusReason);

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QDropEvent>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QToolButton>
 #include <QUrl>
@@ -12,11 +13,13 @@
 #include "app/DifferencesDlg.h"
 #include "app/MainPages.h"
 #include "app/SelFileItemDlg.h"
+#include "app/SelScopeDlg.h"
 #include "app/SessionNote.h"
 #include "app/UnsentEdits.h"
 #include "gui/support/EventLoop.h"
 #include "record/Backups.h"
 #include "support/TempFolder.h"
+#include "widgets/TextField.h"
 
 namespace mortane::test {
 namespace {
@@ -27,7 +30,7 @@ class Kept : public testing::Test {
   ~Kept() override { End(); }
 
   void Start(const std::string& backups = {}) {
-    library.emplace(benches::Named("Harbour"));
+    library.emplace(bench);
     clsK70& k70 = ProvideK70(library->library, library->prompts);
     form = std::make_unique<MortaneMainForm>(
         FormServices{.k70 = k70,
@@ -53,8 +56,14 @@ class Kept : public testing::Test {
     return static_cast<SessionNote&>(*form->findChild<ValueLabel*>("SessionNote"));
   }
   std::vector<Backup> List() { return Backups(folder.Path("backups"), "Harbour").List(); }
-  std::string Unsent(const char* name = "Unsent.xml") {
-    return folder.Path("unsent/" + DeviceFolderName("Harbour") + "/" + name);
+  std::string Unsent(const std::string& device = "Harbour") {
+    return folder.Path("unsent/" + DeviceFolderName(device) + "/Unsent.xml");
+  }
+  // Files in the folder of the device's edits.
+  int UnsentFiles(const std::string& device = "Harbour") {
+    const std::filesystem::path files = std::filesystem::path(Unsent(device)).parent_path();
+    if (!std::filesystem::exists(files)) return 0;
+    return static_cast<int>(std::distance(std::filesystem::directory_iterator(files), {}));
   }
   // The edit, and what a person's next key brings about.
   void Edit(std::int32_t code) {
@@ -63,12 +72,19 @@ class Kept : public testing::Test {
     QApplication::processEvents();
   }
   // The time between two writings is over.
-  void Keep() {
+  void Keep(const std::string& device = "Harbour") {
     form->findChild<QTimer*>("UnsentTimer")->setInterval(0);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return std::filesystem::exists(Unsent()); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(Unsent(device)); }));
+  }
+  // Opens what was left by a process that died, with all its sections.
+  void OpenKept() {
+    const WhenShown<SelFileItemDlg> person(
+        [](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+    note().OpenKept->trigger();
   }
 
   TempFolder folder;
+  Bench bench = benches::Named("Harbour");
   ScriptedJoystick joystick;
   std::optional<RigLibrary> library;
   std::unique_ptr<MortaneMainForm> form;
@@ -130,14 +146,11 @@ TEST_F(Kept, EditsOfAProcessThatDiedAreOfferedAndOpened) {
   EXPECT_FALSE(note().ButtonKept->isHidden());
   EXPECT_TRUE(note().ButtonKept->text().startsWith("Unsent changes of "));
   EXPECT_NE(GetK70().curNosepiece.code(1), edited);
-  {
-    const WhenShown<SelFileItemDlg> person(
-        [](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
-    note().OpenKept->trigger();
-  }
+  OpenKept();
   EXPECT_EQ(GetK70().curNosepiece.code(1), edited);
   EXPECT_TRUE(note().ButtonKept->isHidden());
-  EXPECT_FALSE(std::filesystem::exists(Unsent("Unsent-before.xml")));
+  EXPECT_TRUE(std::filesystem::exists(Unsent())) << "kept anew before the old file goes";
+  EXPECT_EQ(UnsentFiles(), 1);
 }
 
 TEST_F(Kept, EditsOfAProcessThatDiedStayUntilTheyAreLetGo) {
@@ -148,12 +161,78 @@ TEST_F(Kept, EditsOfAProcessThatDiedStayUntilTheyAreLetGo) {
   Start();
   Edit(8);
   form->Unload();
-  EXPECT_TRUE(std::filesystem::exists(Unsent("Unsent-before.xml"))) << "not decided yet";
+  EXPECT_EQ(UnsentFiles(), 1) << "not decided yet";
   End();
   Start();
   note().LetKeptGo->trigger();
   EXPECT_TRUE(note().ButtonKept->isHidden());
-  EXPECT_FALSE(std::filesystem::exists(Unsent("Unsent-before.xml")));
+  EXPECT_EQ(UnsentFiles(), 0);
+}
+
+TEST_F(Kept, EditsOfSeveralProcessesThatDiedAreOfferedOneByOneTheLastOnesFirst) {
+  for (const std::int32_t code : {7, 8}) {
+    Start();
+    Edit(code);
+    Keep();
+    std::filesystem::last_write_time(
+        Unsent(), std::filesystem::file_time_type::clock::now() + std::chrono::seconds(code));
+    End();
+  }
+  Start();
+  OpenKept();
+  EXPECT_EQ(GetK70().curNosepiece.code(1), 8);
+  EXPECT_FALSE(note().ButtonKept->isHidden());
+  OpenKept();
+  EXPECT_EQ(GetK70().curNosepiece.code(1), 7);
+  EXPECT_TRUE(note().ButtonKept->isHidden());
+}
+
+TEST_F(Kept, EditsOfADeviceWithoutANameAreOfferedToo) {
+  bench.instruments.back().name.clear();
+  Start();
+  Edit(7);
+  Keep("");
+  End();
+  Start();
+  EXPECT_FALSE(note().ButtonKept->isHidden());
+}
+
+TEST_F(Kept, EditsOfAProcessThatDiedStayOfferedWhenTheDeviceGetsAnotherName) {
+  Start();
+  const std::int32_t edited = GetK70().curNosepiece.code(1) == 7 ? 8 : 7;
+  Edit(edited);
+  Keep();
+  End();
+  Start();
+  GetK70().SystemName = "Pier";
+  form->MenuConnectSend->trigger();
+  EXPECT_EQ(UnsentFiles(), 0);
+  EXPECT_EQ(UnsentFiles("Pier"), 1);
+  OpenKept();
+  EXPECT_EQ(GetK70().curNosepiece.code(1), edited);
+  EXPECT_TRUE(note().ButtonKept->isHidden());
+}
+
+TEST_F(Kept, EditsAreThereWhileABoxStands) {
+  Start();
+  Edit(7);
+  const WhenShown<QMessageBox> person([this](QMessageBox& box) {
+    Keep();
+    box.accept();
+  });
+  QMessageBox(QMessageBox::NoIcon, {}, {}, QMessageBox::Ok, form.get()).exec();
+}
+
+TEST_F(Kept, EditsRightBeforeACommandAreThereWhileItAsks) {
+  Start();
+  GetK70().curNosepiece.code(1, 7);
+  QTest::keyClick(form.get(), Qt::Key_Shift);
+  library->prompts.AcceptAnyBox();
+  const WhenShown<SelScopeDlg> person([this](SelScopeDlg& dialog) {
+    Keep();
+    dialog.reject();
+  });
+  form->MenuConnectSelect->trigger();
 }
 
 // What a drag of these files over the window comes to.
@@ -187,6 +266,30 @@ TEST_F(Kept, NothingElseIsTakenByDropping) {
         QList<QUrl>{QUrl::fromLocalFile(QString::fromStdString(folder.Path("gone.xml")))}}) {
     EXPECT_FALSE(TakesDrop(*form, urls)) << urls.size();
   }
+}
+
+TEST_F(Kept, AFileIsNoTextThatIsDroppedOnAField) {
+  Start();
+  auto* field = form->findChild<TextField*>("TextSystemName");
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.Write("a.txt", "")))});
+  QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(field, &enter);
+  EXPECT_FALSE(enter.isAccepted());
+  data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.Write("a.xml", "")))});
+  QDragEnterEvent settings(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(field, &settings);
+  EXPECT_TRUE(settings.isAccepted()) << "by the window";
+}
+
+TEST_F(Kept, NothingIsTakenByDroppingUnderABox) {
+  Start();
+  const QUrl settings = QUrl::fromLocalFile(QString::fromStdString(folder.Write("a.xml", "")));
+  const WhenShown<QMessageBox> person([&](QMessageBox& box) {
+    EXPECT_FALSE(TakesDrop(*form, {settings}));
+    box.accept();
+  });
+  QMessageBox(QMessageBox::NoIcon, {}, {}, QMessageBox::Ok, form.get()).exec();
 }
 
 TEST_F(Kept, TheListOfChangesIsSavedAsARecord) {
