@@ -1,6 +1,7 @@
 #include "accessible/Accessible.h"
 
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <QToolBar>
 #include <QToolButton>
 #include <array>
@@ -18,6 +19,7 @@
 #include "widgets/ComboBox.h"
 #include "widgets/ListBox.h"
 #include "widgets/PageButton.h"
+#include "widgets/PageHeader.h"
 #include "widgets/Rail.h"
 #include "widgets/SectionBar.h"
 #include "widgets/TabStrip.h"
@@ -40,6 +42,13 @@ QAccessibleInterface* MakeButton(QObject* object) {
   return Make<QAbstractButton, AccessibleButton>(object);
 }
 
+// A field is made read-only once, before anybody asks.
+QAccessibleInterface* MakeShownText(QObject* object) {
+  const auto* field = qobject_cast<QLineEdit*>(object);
+  return field == nullptr || !field->isReadOnly() ? nullptr
+                                                  : Make<QLineEdit, AccessibleShownText>(object);
+}
+
 constexpr std::array kMakers{
     &Make<Card, AccessibleGroup>,
     &Make<InnerFrame, AccessibleGroup>,
@@ -55,6 +64,8 @@ constexpr std::array kMakers{
     &Make<PageButton, AccessiblePageButton>,
     &Make<CheckToggle, AccessibleToggle>,
     &Make<ValueLabel, AccessibleValue>,
+    &Make<PageTitle, AccessibleHeading>,
+    &MakeShownText,
     &Make<MicroscopeDrawing, AccessiblePicture>,
     &Make<ListBox, AccessibleList>,
     &Make<TabStrip, AccessibleTabs>,

@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 #include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -130,6 +132,35 @@ QAccessible::State AccessibleValue::state() const {
 }
 
 void* AccessibleValue::interface_cast(QAccessible::InterfaceType type) {
+  if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
+  return QAccessibleWidget::interface_cast(type);
+}
+
+AccessibleHeading::AccessibleHeading(QLabel* label)
+    : QAccessibleWidget(label, QAccessible::Heading), label_(*label) {}
+
+QString AccessibleHeading::text(QAccessible::Text part) const {
+  return part == QAccessible::Name ? label_.text() : QAccessibleWidget::text(part);
+}
+
+AccessibleShownText::AccessibleShownText(QLineEdit* field)
+    : QAccessibleWidget(field, QAccessible::EditableText), field_(*field) {}
+
+QString AccessibleShownText::content() const {
+  return field_.text();
+}
+
+QString AccessibleShownText::text(QAccessible::Text part) const {
+  return part == QAccessible::Value ? content() : QAccessibleWidget::text(part);
+}
+
+QAccessible::State AccessibleShownText::state() const {
+  QAccessible::State state = QAccessibleWidget::state();
+  state.readOnly = true;
+  return state;
+}
+
+void* AccessibleShownText::interface_cast(QAccessible::InterfaceType type) {
   if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
   return QAccessibleWidget::interface_cast(type);
 }

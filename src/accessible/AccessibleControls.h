@@ -7,6 +7,8 @@
 #include "accessible/AccessibleText.h"
 
 class QAbstractButton;
+class QLabel;
+class QLineEdit;
 
 namespace mortane {
 
@@ -91,6 +93,32 @@ class AccessibleValue : public QAccessibleWidget, public ReadOnlyText {
 class AccessibleToolBar : public QAccessibleWidget {
  public:
   explicit AccessibleToolBar(QWidget* widget) : QAccessibleWidget(widget, QAccessible::ToolBar) {}
+};
+
+// The title of a page.
+class AccessibleHeading : public QAccessibleWidget {
+ public:
+  explicit AccessibleHeading(QLabel* label);
+
+  [[nodiscard]] QString text(QAccessible::Text part) const override;
+
+ private:
+  QLabel& label_;
+};
+
+// A box that only shows its text. The toolkit would let a screen reader write into it.
+class AccessibleShownText : public QAccessibleWidget, public ReadOnlyText {
+ public:
+  explicit AccessibleShownText(QLineEdit* field);
+
+  using ReadOnlyText::text;
+  [[nodiscard]] QString text(QAccessible::Text part) const override;
+  [[nodiscard]] QAccessible::State state() const override;
+  void* interface_cast(QAccessible::InterfaceType type) override;
+  [[nodiscard]] QString content() const override;
+
+ private:
+  QLineEdit& field_;
 };
 
 // A drawing tells in its description what it shows.

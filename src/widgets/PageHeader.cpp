@@ -1,7 +1,6 @@
 #include "widgets/PageHeader.h"
 
 #include <QEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -31,7 +30,7 @@ int TitleRoom() {
 }  // namespace
 
 PageHeader::PageHeader(IconName icon, const QString& title, QWidget* parent)
-    : QWidget(parent), icon_(icon), title_(new QLabel(title, this)) {
+    : QWidget(parent), icon_(icon), title_(new PageTitle(title, this)) {
   title_->setFont(TitleFont());
   Arrange();
 }

@@ -1,16 +1,24 @@
 // The strip at the top of a page: icon, title and, where the page has sections, their bar.
 #pragma once
 
+#include <QLabel>
 #include <QWidget>
 
 #include "widgets/Icons.h"
 
-class QLabel;
 class QVBoxLayout;
 
 namespace mortane {
 
 class SectionBar;
+
+// A heading to screen readers.
+class PageTitle : public QLabel {
+  Q_OBJECT
+
+ public:
+  using QLabel::QLabel;
+};
 
 class PageHeader : public QWidget {
   Q_OBJECT
@@ -36,7 +44,7 @@ class PageHeader : public QWidget {
   void Arrange();
 
   IconName icon_;
-  QLabel* title_ = nullptr;
+  PageTitle* title_ = nullptr;
   SectionBar* sectionBar_ = nullptr;
 };
 

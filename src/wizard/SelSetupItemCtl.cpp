@@ -1,7 +1,8 @@
 #include "wizard/SelSetupItemCtl.h"
 
 #include <QFrame>
-#include <QHBoxLayout>
+#include <QGridLayout>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -15,6 +16,7 @@
 #include "widgets/OptionGroup.h"
 #include "widgets/PageHeader.h"
 #include "widgets/Theme.h"
+#include "wizard/ModeList.h"
 #include "wizard/SetupItems.h"
 
 namespace mortane {
@@ -28,12 +30,8 @@ constexpr int kFile = 2;
 
 constexpr const char* kModes[] = {"Standard", "Custom", "File"};
 
-bool IsReleasedOver(const QWidget& control, const QMouseEvent& release) {
-  return control.rect().contains(release.position().toPoint());
-}
-
-// Acts on each release of the mouse over it, also when it is selected already; the keyboard only
-// selects it.
+// Acts on each release of the mouse over it, also when it is selected already, and on Space and
+// Enter. The arrows only select it.
 class FileOption : public QRadioButton {
  public:
   FileOption(const QString& text, QWidget* parent, std::function<void()> act)
@@ -41,25 +39,19 @@ class FileOption : public QRadioButton {
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override {
-    const bool over = IsReleasedOver(*this, *event);
+    const bool over = rect().contains(event->position().toPoint());
     QRadioButton::mouseReleaseEvent(event);
     if (over) act_();
   }
-
- private:
-  std::function<void()> act_;
-};
-
-// Acts on each release of the mouse over it, after its check marks have followed.
-class ReleaseList : public ListBox {
- public:
-  ReleaseList(QWidget* parent, std::function<void()> act) : ListBox(parent), act_(std::move(act)) {}
-
- protected:
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    const bool over = IsReleasedOver(*viewport(), *event);
-    ListBox::mouseReleaseEvent(event);
-    if (over) act_();
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter) return QRadioButton::keyPressEvent(event);
+    if (!event->isAutoRepeat()) act_();
+  }
+  void keyReleaseEvent(QKeyEvent* event) override {
+    const bool acts = event->key() == Qt::Key_Space && !event->isAutoRepeat() && isDown();
+    QRadioButton::keyReleaseEvent(event);
+    if (acts) act_();
   }
 
  private:
@@ -74,8 +66,8 @@ SelSetupItemCtl::SelSetupItemCtl(clsK70& k70, QWidget* parent)
   FrameBase = new Card({}, this);
   List1 = new ListBox(FrameBase);
   BuildOptions();
-  ListStandard = new ListBox(FrameBase);
-  ListCustom = new ReleaseList(FrameBase, [this] { RaiseRows(*ListCustom); });
+  ListStandard = new ModeList(Frame1);
+  ListCustom = new ModeList(Frame1, [this] { RaiseRows(*ListCustom); });
   List1->hide();
   for (const SetupItem& item : kSetupItems) List1->addRow(QLatin1String(item.name));
   Watch(*ListStandard, kModes[kStandard]);
@@ -88,16 +80,11 @@ SelSetupItemCtl::SelSetupItemCtl(clsK70& k70, QWidget* parent)
 void SelSetupItemCtl::BuildOptions() {
   Frame1 = new QFrame(FrameBase);
   optSetupMode = new OptionGroup(this);
-  auto* column = new QVBoxLayout(Frame1);
-  column->setContentsMargins({});
-  column->setSpacing(grid::kBetweenControls);
   for (const int mode : {kStandard, kCustom}) {
-    column->addWidget(optSetupMode->addOption(QLatin1String(kModes[mode]), Frame1));
+    optSetupMode->addOption(QLatin1String(kModes[mode]), Frame1);
   }
   auto* file = new FileOption(QLatin1String(kModes[kFile]), Frame1, [this] { OnFile(); });
   optSetupMode->add(file, kFile);
-  column->addWidget(file);
-  column->addStretch();
 }
 
 // The person's clicks raise the event of a row; so does a check mark that changes.
@@ -108,13 +95,21 @@ void SelSetupItemCtl::Watch(ListBox& list, const char* accessibleName) {
   connect(&list, &ListBox::rowChecked, this, raise);
 }
 
+// Each list stands under its option; the file has none.
 void SelSetupItemCtl::Arrange() {
-  auto* columns = new QHBoxLayout;
-  columns->setSpacing(grid::kBetweenColumns);
-  columns->addWidget(Frame1);
-  columns->addWidget(ListStandard, 1);
-  columns->addWidget(ListCustom, 1);
-  FrameBase->body()->addLayout(columns);
+  auto* columns = new QGridLayout(Frame1);
+  columns->setContentsMargins({});
+  columns->setHorizontalSpacing(grid::kBetweenColumns);
+  columns->setVerticalSpacing(grid::kBetweenControls);
+  for (const int mode : {kStandard, kCustom, kFile}) {
+    columns->addWidget(optSetupMode->button(mode), 0, mode, Qt::AlignLeft);
+  }
+  columns->addWidget(ListStandard, 1, kStandard);
+  columns->addWidget(ListCustom, 1, kCustom);
+  columns->setColumnStretch(kStandard, 1);
+  columns->setColumnStretch(kCustom, 1);
+  columns->setRowStretch(1, 1);
+  FrameBase->body()->addWidget(Frame1, 1);
   MakePageLayout(this, Header)->addWidget(FrameBase, 1);
 }
 
@@ -171,6 +166,8 @@ void SelSetupItemCtl::RaiseRows(const ListBox& list) {
 }
 
 void SelSetupItemCtl::OnMode(int mode) {
+  ListStandard->SetChosen(mode == kStandard);
+  ListCustom->SetChosen(mode == kCustom);
   ListCustom->setEnabled(mode == kCustom);
   Q_EMIT ModeChanged(mode);
   if (mode == kStandard) RaiseRows(*ListStandard);

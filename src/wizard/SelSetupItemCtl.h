@@ -13,6 +13,7 @@ namespace mortane {
 
 class Card;
 class ListBox;
+class ModeList;
 class OptionGroup;
 class PageHeader;
 class clsK70;
@@ -41,8 +42,8 @@ class SelSetupItemCtl : public Page {
   Control<ListBox> List1{"List1"};  // hidden, the names by the number of the item
   Control<QFrame> Frame1{"Frame1"};
   Control<OptionGroup> optSetupMode{"optSetupMode"};
-  Control<ListBox> ListStandard{"ListStandard"};
-  Control<ListBox> ListCustom{"ListCustom"};
+  Control<ModeList> ListStandard{"ListStandard"};
+  Control<ModeList> ListCustom{"ListCustom"};
 
  Q_SIGNALS:
   void ModeChanged(int mode);

@@ -24,7 +24,8 @@ constexpr int kIconSide = 24;
 constexpr int kTextLeft = 88;
 
 // In the order of StepState; for screen readers.
-constexpr const char* kStateTexts[] = {"passed", "current", "to come", "switched off"};
+constexpr const char* kStateTexts[] = {"passed", "current", "to come", "not visited",
+                                       "switched off"};
 
 }  // namespace
 

@@ -7,7 +7,8 @@ class QPainter;
 
 namespace mortane {
 
-enum class StepState { Passed, Current, ToCome, Off };
+// NotVisited is one before the current step that was never shown.
+enum class StepState { Passed, Current, ToCome, NotVisited, Off };
 
 // Acts when the left button, pressed over it, is let go over it with no modifier held, and on
 // Space.

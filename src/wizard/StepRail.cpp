@@ -39,6 +39,7 @@ int StepRail::AddStep(IconName icon, const QString& text) {
   if (index > 0) buttons_[index - 1]->SetLast(false);
   buttons_.append(button);
   enabled_.append(false);
+  visited_.append(false);
   static_cast<QVBoxLayout*>(layout())->insertWidget(index, button);
   stop_->Add(button);
   connect(button, &StepButton::chosen, this, [this, index] { Q_EMIT chosen(index); });
@@ -53,13 +54,15 @@ void StepRail::SetStepEnabled(int index, bool enabled, const QString& whyOff) {
 
 void StepRail::SetCurrent(int index) {
   current_ = index;
+  if (index >= 0) visited_[index] = true;
   stop_->SetStop(index);
   ShowStates();
 }
 
 void StepRail::ShowStates() {
   for (int i = 0; i < count(); ++i) {
-    StepState state = i < current_ ? StepState::Passed : StepState::ToCome;
+    StepState state = StepState::ToCome;
+    if (i < current_) state = visited_[i] ? StepState::Passed : StepState::NotVisited;
     if (i == current_) state = StepState::Current;
     if (!enabled_[i]) state = StepState::Off;
     buttons_[i]->SetState(state);

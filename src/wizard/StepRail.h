@@ -24,7 +24,7 @@ class StepRail : public QWidget {
   [[nodiscard]] int count() const { return static_cast<int>(buttons_.size()); }
   // A tool tip says why a step is off.
   void SetStepEnabled(int index, bool enabled, const QString& whyOff = {});
-  // -1: none.
+  // -1: none. A step that was current counts as passed before the current one.
   void SetCurrent(int index);
 
  Q_SIGNALS:
@@ -38,6 +38,7 @@ class StepRail : public QWidget {
 
   QVector<StepButton*> buttons_;
   QVector<bool> enabled_;
+  QVector<bool> visited_;
   RovingTabStop* stop_;
   int current_ = -1;
 };

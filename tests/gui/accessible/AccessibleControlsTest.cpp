@@ -6,6 +6,7 @@
 #include "gui/support/TestWindow.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/PageButton.h"
+#include "widgets/PageHeader.h"
 #include "widgets/Rail.h"
 #include "widgets/SectionBar.h"
 #include "widgets/TextField.h"
@@ -159,6 +160,26 @@ TEST(AccessibleFrame, IsAGroupUnderItsCaption) {
   EXPECT_EQ(AccessibleTree(*frame),
             (std::vector<test::AccessibleControl>{told::Group("Moves"), told::Label("Moves"),
                                                   told::Label("inside")}));
+}
+
+TEST(AccessibleHeading, IsTheTitleOfAPage) {
+  PageHeader header(IconName::System, "Cubes");
+  header.show();
+  EXPECT_EQ(AccessibleTree(header), std::vector{told::Heading("Cubes")});
+}
+
+TEST(AccessibleField, ThatOnlyShowsItsTextCannotBeWrittenInto) {
+  TextField field;
+  field.setReadOnly(true);
+  field.setAccessibleName("Function");
+  field.setText("Shutter");
+  EXPECT_EQ(AccessibleOf(field), (test::AccessibleControl{QAccessible::EditableText, "Function",
+                                                          "Shutter", "read only"}));
+  EXPECT_EQ(InterfaceOf(&field).editableTextInterface(), nullptr);
+  EXPECT_EQ(InterfaceOf(&field).textInterface()->text(0, 4), "Shut");
+  EXPECT_FALSE(InterfaceOf(&field).state().editable);
+  TextField editable;
+  EXPECT_NE(InterfaceOf(&editable).editableTextInterface(), nullptr);
 }
 
 TEST(AccessibleValue, TellsTheCaptionOnceAndTheValue) {

@@ -29,7 +29,7 @@ PageDrillData Controls(const char* bench) {
                    {"optControl_2", "Other"},         {"optControl_3", "K70 Switch"},
                    {"optControl_4", "Tactor Switch"}, {"optControl_5", "Joypad Switch"}};
   data.tabOrder = {"optControl_1"};
-  data.accessible = {told::Label("Controls"),          told::Group("Controls"),
+  data.accessible = {told::Heading("Controls"),        told::Group("Controls"),
                      told::NotChosen("Focus Drive"),   told::Chosen("XY Stage"),
                      told::NotChosen("Other"),         told::NotChosen("K70 Switch"),
                      told::NotChosen("Tactor Switch"), told::NotChosen("Joypad Switch")};

@@ -52,7 +52,7 @@ PageDrillData SystemPage() {
   };
   data.tabOrder = {"TextSystemName", "TextAccessories"};
   data.accessible = {
-      told::Label("System"),
+      told::Heading("System"),
       told::Label("System Name:"),
       told::Field("System Name:", "Harbour"),
       {QAccessible::EditableText, "Accessories", kReport, "read only"},

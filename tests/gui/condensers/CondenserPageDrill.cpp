@@ -148,7 +148,7 @@ PageDrillData Settings() {
                    "Combo1_4",
                    "Combo1_5",
                    "Combo1_6"};
-  data.accessible = {told::Label("Condensers"), told::Group("Condensers"),
+  data.accessible = {told::Heading("Condensers"), told::Group("Condensers"),
                      told::Chosen("Condenser"), told::NotChosen("Optional")};
   for (AccessibleControl& control : AccessibleCassette()) {
     data.accessible.push_back(std::move(control));

@@ -254,7 +254,7 @@ PageDrillData Settings() {
       {"optFilterSetting_2", "Harbour", Without<accessory::kFilterCube>, true},
   };
   data.tabOrder = {"optFilterSetting_0", "TabPocket", "place_1", "List1"};
-  data.accessible = {told::Label("Filter Cubes"), told::Group("Filter Cubes"),
+  data.accessible = {told::Heading("Filter Cubes"), told::Group("Filter Cubes"),
                      told::Chosen("Filter Cube"), told::NotChosen("Optional Cube"),
                      told::NotChosen("Optional Item")};
   for (AccessibleControl& control : AccessibleTurret()) {

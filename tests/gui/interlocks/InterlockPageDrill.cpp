@@ -304,7 +304,7 @@ PageDrillData Settings() {
   };
   AddSwitches(data, kObservation);
   data.tabOrder.insert(data.tabOrder.begin(), "optSettings_0");
-  data.accessible = {told::Label("Interlocks"), told::Group("Interlocks"),
+  data.accessible = {told::Heading("Interlocks"), told::Group("Interlocks"),
                      told::Chosen("Observation"), told::NotChosen("Other"),
                      told::NotChosen("Compensation")};
   TellFrame(data, "Observation Change to");

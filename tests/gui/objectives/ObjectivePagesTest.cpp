@@ -38,7 +38,7 @@ PageDrillData ObjectivePages() {
       {"optSettings_2", "Harbour", {}, true},  {"optSettings_2", "Hub", {}, false},
       {"optSettings_2", "Outpost", {}, false}, {"optSettings_2", "Harbour", unknown, false}};
   data.tabOrder = {"optSettings_0", "TabNosepiece", "place_1", "ListSeries", "ListItem"};
-  data.accessible = {told::Label("Objectives"), told::Group("Objectives"),
+  data.accessible = {told::Heading("Objectives"), told::Group("Objectives"),
                      told::Chosen("Nosepiece"), told::NotChosen("Optional Obj."),
                      told::NotChosen("Limit Control")};
   for (AccessibleControl& control : AccessibleNosepiece()) {

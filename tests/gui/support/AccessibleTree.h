@@ -32,6 +32,9 @@ inline AccessibleControl Group(std::string name) {
 inline AccessibleControl Label(std::string text) {
   return {QAccessible::StaticText, std::move(text), "", "read only"};
 }
+inline AccessibleControl Heading(std::string title) {
+  return {QAccessible::Heading, std::move(title)};
+}
 inline AccessibleControl Value(std::string caption, std::string value) {
   return {QAccessible::StaticText, std::move(caption), std::move(value), "read only"};
 }

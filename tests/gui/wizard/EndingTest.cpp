@@ -8,6 +8,7 @@
 
 #include "WizardRig.h"
 #include "app/InputFlush.h"
+#include "gui/support/AccessibleTree.h"
 #include "gui/support/EventLoop.h"
 #include "support/TempFolder.h"
 #include "widgets/Card.h"
@@ -77,6 +78,21 @@ TEST_F(EndingStep, TakesTheSecondClickOfADoubleClickForNoExit) {
   EXPECT_TRUE(form().isVisible());
   GoBack();
   EXPECT_NE(form().currentStep, kEndingStep) << "what does not send acts at once";
+}
+
+TEST_F(EndingStep, TellsItsReportAndItsKeyToScreenReaders) {
+  GoBack();
+  GetK70().SystemName = "Bay 4";
+  GoToEnding();
+  const std::string report = ending().TextResult->toPlainText().toStdString();
+  ASSERT_NE(report.find("Bay 4"), std::string::npos) << report;
+  EXPECT_EQ(
+      AccessibleTree(ending()),
+      (std::vector<AccessibleControl>{told::Heading("Ending"),
+                                      told::Group("Ending"),
+                                      told::Label("Ending"),
+                                      {QAccessible::EditableText, "Changes", report, "read only"},
+                                      {QAccessible::Button, "Send to Microscope"}}));
 }
 
 TEST_F(EndingStep, DropsTheInputThatCameWhileItLoaded) {

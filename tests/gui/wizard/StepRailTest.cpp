@@ -17,6 +17,7 @@ struct RailOfThree {
   RailOfThree() {
     for (const char* name : {"One", "Two", "Three"}) rail.AddStep(IconName::Flag, name);
     for (int i = 0; i < 3; ++i) rail.SetStepEnabled(i, true);
+    rail.SetCurrent(0);
     rail.SetCurrent(1);
     rail.resize(200, 400);
     rail.show();
@@ -55,6 +56,46 @@ TEST(StepRail, TellsStepsAndStatesToScreenReaders) {
   EXPECT_EQ(AccessibleTree(rig.rail),
             (std::vector<AccessibleControl>{told::Group("Steps"), told::NotChosen("One"),
                                             told::Chosen("Two"), told::NotChosen("Three")}));
+}
+
+// Within the circle of a step.
+constexpr QRect kMark(20, 19, 16, 16);
+
+TEST(StepRail, TicksTheStepsThatWerePassedAndFillsTheCircleOfTheCurrentOne) {
+  RailOfThree rig;
+  const QImage passed = rig.Picture(0).copy(kMark);
+  const QImage current = rig.Picture(1).copy(kMark);
+  const QImage toCome = rig.Picture(2).copy(kMark);
+  EXPECT_GT(Count(passed, ToneColor(Tone::RailSelected)), 60);
+  EXPECT_GT(Count(current, ToneColor(Tone::Amber)), 60);
+  EXPECT_GT(Count(toCome, ToneColor(Tone::Rail)), 60);
+  for (const auto& [picture, colour] :
+       {std::pair(passed, Tone::Amber), std::pair(current, Tone::RailSelected),
+        std::pair(toCome, Tone::Amber), std::pair(toCome, Tone::RailSelected)}) {
+    EXPECT_EQ(Count(picture, ToneColor(colour)), 0);
+  }
+}
+
+TEST(StepRail, DoesNotTickAStepThatWasNeverShown) {
+  RailOfThree rig;
+  const QImage toCome = rig.Picture(2).copy(kMark);
+  StepRail rail;
+  rail.AddStep(IconName::Flag, "One");
+  for (const char* name : {"Two", "Three", "Four"}) rail.AddStep(IconName::Flag, name);
+  for (int i = 0; i < 4; ++i) rail.SetStepEnabled(i, true);
+  rail.SetCurrent(0);
+  rail.SetCurrent(3);
+  EXPECT_EQ(rail.button(0)->accessibleDescription(), "Step 1, passed");
+  EXPECT_EQ(rail.button(1)->accessibleDescription(), "Step 2, not visited");
+  EXPECT_EQ(rail.button(2)->accessibleDescription(), "Step 3, not visited");
+  rail.resize(200, 400);
+  rail.show();
+  QApplication::processEvents();
+  EXPECT_EQ(rail.button(2)->grab().toImage().copy(kMark), toCome) << "its number, in a circle";
+  rail.SetCurrent(1);
+  EXPECT_EQ(rail.button(2)->accessibleDescription(), "Step 3, to come");
+  rail.SetCurrent(2);
+  EXPECT_EQ(rail.button(1)->accessibleDescription(), "Step 2, passed");
 }
 
 TEST(StepRail, LetsAScreenReaderChooseAStep) {

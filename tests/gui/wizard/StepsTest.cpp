@@ -8,6 +8,7 @@
 #include "WizardRig.h"
 #include "common/Failure.h"
 #include "widgets/StyleProperties.h"
+#include "wizard/StepRail.h"
 
 namespace mortane::test {
 namespace {
@@ -308,8 +309,32 @@ TEST(Picture, ShowsHowFarThePersonIs) {
   std::vector<StepState> states;
   for (const StepButton* picture : rig.form().ImageMenu) states.push_back(picture->state());
   using enum StepState;
-  EXPECT_EQ(states, (std::vector<StepState>{Passed, Passed, Passed, Off, Current, Off, Off, Off,
-                                            Off, ToCome}));
+  EXPECT_EQ(states, (std::vector<StepState>{Passed, NotVisited, NotVisited, Off, Current, Off, Off,
+                                            Off, Off, ToCome}));
+}
+
+TEST(Picture, OfAStepThatFinishLeapsOverIsNotTicked) {
+  StepsRig rig;
+  rig.SwitchOn({2, 3, 4, 5, 6, 7, 8});
+  for (int i = 0; i < 2; ++i) rig.Click(rig.form().ButtonNext);
+  rig.Click(rig.form().ButtonFinish);
+  std::vector<std::string> told;
+  for (const StepButton* picture : rig.form().ImageMenu)
+    told.push_back(picture->accessibleDescription().toStdString());
+  EXPECT_EQ(told, (std::vector<std::string>{
+                      "Step 1, passed", "Step 2, passed", "Step 3, passed", "Step 4, not visited",
+                      "Step 5, not visited", "Step 6, not visited", "Step 7, not visited",
+                      "Step 8, not visited", "Step 9, not visited", "Step 10, current"}));
+}
+
+TEST(Picture, IsThereForEachOfTheTenStepsAndNoMore) {
+  StepsRig rig;
+  std::vector<std::string> names;
+  for (const StepButton* picture : rig.form().PictureMenu->findChildren<StepButton*>())
+    names.push_back(picture->text().toStdString());
+  EXPECT_EQ(names, (std::vector<std::string>{"System", "Setup Items", "Objective", "Filter Cube",
+                                             "Condenser", "Control", "InterLock", "Z Focus",
+                                             "Controller", "Ending"}));
 }
 
 TEST(ToolTip, SaysWhyAStepIsOff) {

@@ -19,7 +19,7 @@ PageDrillData SetupItems() {
                    {"ListCustom", "Custom"}};
   data.enabling = {{"ListStandard", "Harbour", {}, false}, {"ListCustom", "Harbour", {}, false}};
   data.tabOrder = {"optSetupMode_0"};
-  data.accessible = {told::Label("Setup Items"),
+  data.accessible = {told::Heading("Setup Items"),
                      told::Chosen("Standard"),
                      told::NotChosen("Custom"),
                      told::NotChosen("File"),

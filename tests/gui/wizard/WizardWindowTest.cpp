@@ -12,6 +12,7 @@
 #include "app/SystemSettingsCtl.h"
 #include "widgets/ListBox.h"
 #include "widgets/TextField.h"
+#include "wizard/ModeList.h"
 #include "wizard/SelSetupItemCtl.h"
 
 namespace mortane::test {
