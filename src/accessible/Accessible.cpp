@@ -53,6 +53,7 @@ constexpr std::array kMakers{
     &Make<Card, AccessibleGroup>,
     &Make<InnerFrame, AccessibleGroup>,
     &Make<CaptionedFrame, AccessibleGroup>,
+    &Make<RowGroup, AccessibleGroup>,
     &Make<SectionBar, AccessibleGroup>,
     &Make<Rail, AccessibleGroup>,
     &Make<TurretDrawing, AccessibleGroup>,

@@ -77,7 +77,6 @@ SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
   LetKeptGo = menu->addAction(u"Let Go"_s);
   ButtonKept->setMenu(menu);
   ButtonKept->setPopupMode(QToolButton::InstantPopup);
-  setAccessibleName(u"Session"_s);
   setFont(CaptionFont());
   setForegroundRole(QPalette::PlaceholderText);
   bar_.installEventFilter(this);
@@ -129,6 +128,7 @@ void SessionNote::ShowText() {
   QStringList parts{microscope_, done_};
   parts.removeAll(QString());
   setText(parts.join(QString::fromUtf8(kBetweenParts)));
+  setAccessibleName(text());  // a screen reader says the name of a label
   Place();
 }
 

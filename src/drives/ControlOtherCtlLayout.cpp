@@ -140,8 +140,15 @@ void AddKnobControls(Page& page, const KnobControls& knob, const QString& captio
   page.*knob.combo = combo;
 }
 
+// A knob's options may stand there while its label is hidden.
+void NameWithoutLabel(QRadioButton& option, const QString& subject) {
+  option.setAccessibleName(subject + u' ' + option.text());
+  option.setToolTip(subject);
+}
+
 void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
-  auto* panel = new QFrame(frame);
+  auto* panel = new RowGroup(frame);
+  if (row.label != nullptr) panel->setAccessibleName(QLatin1String(row.caption));
   panel->setLayout(new FlowRow(grid::kBetweenGroups, 0));
   if (row.row != nullptr) page.*row.row = panel;
   if (row.label != nullptr) page.*row.label = AddLabel(row, panel);
@@ -157,6 +164,7 @@ void AddRow(Page& page, const OptionRow& row, InnerFrame* frame) {
       option->setAccessibleName(QLatin1String(kNamelessOption));
       option->setToolTip(option->accessibleName());
     }
+    if (row.knob != nullptr) NameWithoutLabel(*option, subject);
     panel->layout()->addWidget(option);
   }
   if (row.knob != nullptr) AddKnobControls(page, *row.knob, subject, panel);

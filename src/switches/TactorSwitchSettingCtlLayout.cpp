@@ -83,12 +83,18 @@ void TactorSwitchSettingCtl::BuildControls() {
 
 void TactorSwitchSettingCtl::BuildPageOptions() {
   optChg = new OptionGroup(this);
+  auto* letters = new RowGroup(right_);
+  letters->setAccessibleName(u"Page"_s);
+  auto* row = new QHBoxLayout(letters);
+  row->setContentsMargins({});
+  row->setSpacing(0);
   const QStringList captions{u"A"_s, u"B"_s};
   for (int i = 0; i < captions.size(); ++i) {
-    auto* option = new SectionOption(captions[i], right_, ChosenLook::Blue);
+    auto* option = new SectionOption(captions[i], letters, ChosenLook::Blue);
     option->setAccessibleName(captions[i]);
     option->SetEnds(i == 0, i + 1 == captions.size());
     optChg->add(option, i + 1);
+    row->addWidget(option);
   }
   optChg->select(1);
 }
@@ -112,8 +118,7 @@ void TactorSwitchSettingCtl::BuildLayout() {
 
   auto* pages = new QHBoxLayout;
   pages->setSpacing(0);
-  pages->addWidget(optChg->button(1));
-  pages->addWidget(optChg->button(2));
+  pages->addWidget(optChg->button(1)->parentWidget());
   pages->addStretch();
   pages->addLayout(ButtonRow());
   auto* right = new QVBoxLayout(right_);

@@ -28,6 +28,15 @@ class Card : public QFrame {
   QVBoxLayout* body_ = nullptr;
 };
 
+// Controls that belong together, a group to screen readers under its accessible name. It draws
+// nothing.
+class RowGroup : public QFrame {
+  Q_OBJECT
+
+ public:
+  using QFrame::QFrame;
+};
+
 // A frame inside a card. Not fitted, it loses its fill and its line is dashed.
 class InnerFrame : public QFrame {
   Q_OBJECT

@@ -6,6 +6,7 @@
 
 #include "widgets/ClickFocus.h"
 #include "widgets/Control.h"
+#include "widgets/SkippedTip.h"
 
 namespace mortane {
 
@@ -112,13 +113,17 @@ bool OptionGroup::ChooseBeside(int key) {
   const auto focused = std::find_if(buttons_.begin(), buttons_.end(),
                                     [](const QAbstractButton* b) { return b->hasFocus(); });
   qsizetype index = focused - buttons_.begin();
-  do {
-    index += on ? 1 : -1;
-  } while (index >= 0 && index < buttons_.size() && !IsUsable(buttons_[index]));
-  if (index < 0 || index >= buttons_.size()) return true;
-  QAbstractButton* const beside = buttons_[index];
-  beside->setFocus();
-  beside->click();
+  const int step = on ? 1 : -1;
+  QList<QAbstractButton*> skipped;
+  for (index += step; index >= 0 && index < buttons_.size() && !IsUsable(buttons_[index]);
+       index += step)
+    skipped.append(buttons_[index]);
+  if (index >= 0 && index < buttons_.size()) {
+    QAbstractButton* const beside = buttons_[index];
+    beside->setFocus();
+    beside->click();
+  }
+  ShowWhySkipped(skipped);
   return true;
 }
 

@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QKeyEvent>
 
+#include "widgets/SkippedTip.h"
+
 namespace mortane {
 
 void RovingTabStop::Add(QAbstractButton* button) {
@@ -56,8 +58,11 @@ bool RovingTabStop::MoveFocus(int key) {
     default:
       return false;
   }
-  while (index >= 0 && index < count && !buttons_[index]->isEnabled()) index += step;
+  QList<QAbstractButton*> skipped;
+  for (; index >= 0 && index < count && !buttons_[index]->isEnabled(); index += step)
+    skipped.append(buttons_[index]);
   if (index >= 0 && index < count) buttons_[index]->setFocus();
+  ShowWhySkipped(skipped);
   return true;
 }
 

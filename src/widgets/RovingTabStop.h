@@ -8,7 +8,8 @@ class QAbstractButton;
 
 namespace mortane {
 
-// Up, Down, Home and End only move the focus among the buttons that can be used.
+// Up, Down, Home and End only move the focus among the buttons that can be used; why the others
+// cannot is shown as they are passed.
 class RovingTabStop : public QObject {
  public:
   using QObject::QObject;

@@ -1,7 +1,10 @@
 // Tool tips that say why a page or one of its sections is disabled.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QAction>
+#include <QTest>
+#include <QToolTip>
 
 #include "AppRig.h"
 #include "condensers/CondenserSettingsCtl.h"
@@ -56,6 +59,26 @@ TEST(PageTips, OfPagesThatCanBeUsedAreNone) {
       EXPECT_EQ(rig.form->ImageButton[i]->toolTip(), "") << i;
     }
   }
+}
+
+TEST(PageTips, AreShownAsTheArrowsPassOverTheirPages) {
+  AppRig rig(benches::Named("Shell"));
+  rig.Start();
+  rig.form->ImageButton[0]->setFocus();
+  QTest::keyClick(rig.form->focusWidget(), Qt::Key_Down);
+  ASSERT_TRUE(QToolTip::isVisible());
+  const QString wanted =
+      "Objectives: No nosepiece is mounted.\n"
+      "Filter Cubes: No filter cube turret is mounted.\n"
+      "Condensers: No condenser is mounted, or the body of the microscope is not connected.";
+  EXPECT_TRUE(QToolTip::text().startsWith(wanted)) << QToolTip::text().toStdString();
+}
+
+TEST(PageTips, AreToldAsTheDescriptionOfTheirButtons) {
+  AppRig rig(benches::Named("Shell"));
+  rig.Start();
+  const auto* button = QAccessible::queryAccessibleInterface(rig.form->ImageButton[1]);
+  EXPECT_EQ(button->text(QAccessible::Description), "No nosepiece is mounted.");
 }
 
 TEST(SectionTips, SayWhatAnEmptyInstrumentLacks) {

@@ -31,14 +31,14 @@ const std::vector<GivenControl> kControls{
     {"FrameFiberRemote", "Fiber Remote Controler Settings"},
     {"optFiber_Switch_0", "OFF"},
     {"optFiber_Switch_1", "ON ( default )"},
-    {"Frame4", ""},
+    {"Frame4", "LED Setting"},
     {"optFiber_LED_0", "OFF"},
     {"optFiber_LED_1", "Dark"},
     {"optFiber_LED_2", "Bright ( default )"},
     {"Label2", "LED Setting"},
     {"Label3", "Switch Setting"},
     {"FrameR_TLPORemote", "B-KM-R Remote Controler Settings"},
-    {"Frame2", ""},
+    {"Frame2", "LED Setting"},
     {"optR_TLPO_LED_0", "OFF"},
     {"optR_TLPO_LED_1", "Dark"},
     {"optR_TLPO_LED_2", "Bright ( default )"},
@@ -50,7 +50,7 @@ const std::vector<GivenControl> kControls{
     {"optTactorSwitch_0", "ON ( default )"},
     {"optTactorSwitch_1", "OFF"},
     {"FrameManualHandle", "Knob Setting"},
-    {"Frame1", ""},
+    {"Frame1", "Stage Knob"},
     {"optXYAuto_0", "Auto"},
     {"optXYAuto_1", "Manual ( default )"},
     {"lblXYStage", "Stage Knob"},
@@ -148,11 +148,13 @@ PageDrillData NewBody() {
                    "optTactorSwitch_0"};
   data.loadBox = "Data_Load Error";
   data.accessible =
-      Joined({Frame("Knob Setting", {told::Label("Focus Knob"), Disabled(told::NotChosen("Auto")),
-                                     Disabled(told::Chosen("Manual ( default )")),
-                                     told::Label("Stage Knob"), Disabled(told::NotChosen("Auto")),
-                                     Disabled(told::Chosen("Manual ( default )")), kUnticked,
-                                     told::Combo("Stage Knob", "Coarse"), kNote}),
+      Joined({Frame("Knob Setting", {told::Group("Focus Knob"), told::Label("Focus Knob"),
+                                     Disabled(told::NotChosen("Focus Knob Auto")),
+                                     Disabled(told::Chosen("Focus Knob Manual ( default )")),
+                                     told::Group("Stage Knob"), told::Label("Stage Knob"),
+                                     Disabled(told::NotChosen("Stage Knob Auto")),
+                                     Disabled(told::Chosen("Stage Knob Manual ( default )")),
+                                     kUnticked, told::Combo("Stage Knob", "Coarse"), kNote}),
               Buzzer(), Switches("K70 Switch"), Switches("Tactor Switch")});
   return data;
 }
@@ -194,14 +196,17 @@ PageDrillData FiberIlluminator() {
                    "optFiber_LED_2", "optFiber_Switch_1", "optBuzzer_0",    "optSwitch_0"};
   data.loadBox = "Data_Load Error";
   data.accessible = Joined(
-      {Frame("Knob Setting", {told::Label("Focus Knob"), told::Chosen("Auto"),
-                              told::NotChosen("Manual ( default )"), told::Label("Stage Knob"),
-                              told::NotChosen("Auto"), told::Chosen("Manual ( default )"),
-                              kUnticked, told::Combo("Stage Knob", "Fine"), kNote}),
+      {Frame("Knob Setting",
+             {told::Group("Focus Knob"), told::Label("Focus Knob"), told::Chosen("Focus Knob Auto"),
+              told::NotChosen("Focus Knob Manual ( default )"), told::Group("Stage Knob"),
+              told::Label("Stage Knob"), told::NotChosen("Stage Knob Auto"),
+              told::Chosen("Stage Knob Manual ( default )"), kUnticked,
+              told::Combo("Stage Knob", "Fine"), kNote}),
        Frame("Fiber Remote Controler Settings",
-             {told::Label("LED Setting"), told::NotChosen("OFF"), told::NotChosen("Dark"),
-              told::Chosen("Bright ( default )"), told::Label("Switch Setting"),
-              told::NotChosen("OFF"), told::Chosen("ON ( default )")}),
+             {told::Group("LED Setting"), told::Label("LED Setting"), told::NotChosen("OFF"),
+              told::NotChosen("Dark"), told::Chosen("Bright ( default )"),
+              told::Group("Switch Setting"), told::Label("Switch Setting"), told::NotChosen("OFF"),
+              told::Chosen("ON ( default )")}),
        Buzzer(), Switches("K70 Switch")});
   return data;
 }
@@ -232,8 +237,9 @@ PageDrillData Remote() {
   data.tabOrder = {"optR_TLPO_LED_2", "optR_TLPO_Switch_0", "optBuzzer_0"};
   data.accessible =
       Joined({Frame("B-KM-R Remote Controler Settings",
-                    {told::Label("LED Setting"), told::NotChosen("OFF"), told::NotChosen("Dark"),
-                     told::Chosen("Bright ( default )"), told::Label("Switch Setting"),
+                    {told::Group("LED Setting"), told::Label("LED Setting"), told::NotChosen("OFF"),
+                     told::NotChosen("Dark"), told::Chosen("Bright ( default )"),
+                     told::Group("Switch Setting"), told::Label("Switch Setting"),
                      told::Chosen("ON ( default )"), told::NotChosen("OFF")}),
               Buzzer()});
   return data;

@@ -78,6 +78,20 @@ TEST(OtherPageFrames, TheKnobsControlsComeAndGoEachByItsOwnRule) {
   }
 }
 
+TEST(OtherPageFrames, AKnobsOptionsSayOfWhichKnobTheyAreAlsoWithoutALabel) {
+  for (const char* bench : {"Quay", "Lantern", "Pair", "Hub", "Watch"}) {
+    OtherRig rig(bench);
+    auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
+    for (const auto& [group, knob] :
+         {std::pair<OptionGroup*, const char*>(page.optAuto, "Focus Knob"),
+          std::pair<OptionGroup*, const char*>(page.optXYAuto, "Stage Knob")}) {
+      EXPECT_EQ(group->button(0)->toolTip(), knob) << bench;
+      EXPECT_EQ(group->button(0)->accessibleName(), QString(knob) + " Auto") << bench;
+      EXPECT_EQ(group->button(1)->accessibleName(), QString(knob) + " Manual ( default )") << bench;
+    }
+  }
+}
+
 TEST(OtherPageFrames, AManualStageKnobOfUnknownSensitivityHasNoList) {
   OtherRig rig("Harbour");
   auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));

@@ -179,6 +179,7 @@ PageDrillData Tactor() {
                      told::Label("XY Knob"),
                      told::Chosen("Right"),
                      told::NotChosen("Left"),
+                     told::Group("Page"),
                      told::Chosen("A"),
                      told::NotChosen("B"),
                      Button("Default"),

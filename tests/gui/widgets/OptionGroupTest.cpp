@@ -1,6 +1,7 @@
 #include "widgets/OptionGroup.h"
 
 #include <QRadioButton>
+#include <QToolTip>
 
 #include "gui/support/TestWindow.h"
 
@@ -29,6 +30,16 @@ class OptionGroupTest : public ::testing::Test {
   OptionGroup* group = nullptr;
   QLineEdit* after = nullptr;
 };
+
+TEST_F(OptionGroupTest, WhyAnOptionIsDisabledIsShownAsAnArrowPassesOverIt) {
+  group->button(1)->setEnabled(false);
+  group->button(1)->setToolTip("Not on this stage.");
+  group->button(0)->setFocus();
+  QTest::keyClick(group->button(0), Qt::Key_Right);
+  EXPECT_EQ(group->selected(), 2);
+  EXPECT_TRUE(QToolTip::isVisible());
+  EXPECT_EQ(QToolTip::text(), "ON: Not on this stage.");
+}
 
 TEST_F(OptionGroupTest, NothingIsSelectedAtFirst) {
   EXPECT_EQ(group->selected(), -1);
