@@ -13,9 +13,9 @@ fail() {
 start_server() {
   Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp -noreset 3>"$work/display" >/dev/null 2>&1 &
   server=$!
-  for _ in {1..100}; do
+  for _ in {1..400}; do
     [[ ! -s "$work/display" ]] || break
-    sleep 0.1
+    sleep 0.03
   done
   [[ -s "$work/display" ]] || fail "no virtual display"
   DISPLAY=":$(<"$work/display")"
@@ -31,7 +31,7 @@ windows() {
 # largest one into `main`.
 await_windows() {
   local found
-  for _ in {1..100}; do
+  for _ in {1..400}; do
     mapfile -t found < <(windows)
     if [[ ${#found[@]} -eq "$1" ]]; then
       mapfile -t found < <(for window in "${found[@]}"; do
@@ -43,7 +43,7 @@ await_windows() {
       return 0
     fi
     kill -0 "$guest" 2>/dev/null || fail "the program has ended: $(<"$work/errors")"
-    sleep 0.1
+    sleep 0.03
   done
   fail "${#found[@]} windows instead of $1"
 }
