@@ -14,14 +14,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The user's own settings are neither read nor written, the toolkit's among them. The child of a
-// death test has the folder of its parent, which removes it.
+// The user's own settings and kept edits are neither read nor written, nor the toolkit's settings.
+// The child of a death test has the folder of its parent, which removes it.
 class PrivateSettings {
  public:
   PrivateSettings() {
     if (!GTEST_FLAG_GET(internal_run_death_test).empty()) return;
     folder_.emplace();
     qputenv("XDG_CONFIG_HOME", folder_->Path("config").c_str());
+    qputenv("XDG_DATA_HOME", folder_->Path("data").c_str());
   }
 
  private:

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "app/RecentFiles.h"
+#include "app/UnsentEdits.h"
 #include "app/WindowPlace.h"
 #include "support/TempFolder.h"
 
@@ -17,6 +18,7 @@ TEST(UsersPlaceFile, IsNotTheUsersInTests) {
   EXPECT_TRUE(UsersPlaceFile().starts_with(temporary)) << UsersPlaceFile();
   const std::string toolkit = QSettings(QSettings::UserScope, "QtProject").fileName().toStdString();
   EXPECT_TRUE(toolkit.starts_with(temporary)) << toolkit;
+  EXPECT_TRUE(UnsentEdits::DefaultFolder().starts_with(temporary)) << UnsentEdits::DefaultFolder();
 }
 
 TEST(UsersPlaceFile, StandsInTheFolderOfApplicationData) {
