@@ -49,6 +49,7 @@ void SadrelMainForm::OnConnected(Outcome) {
   const clsK70& k70 = GetK70();
   const std::string name = FirstCharacters(k70.SystemName, kSystemNameLength);
   note_->setText(MicroscopeInWords(QString::fromStdString(name), k70.lConnectDevice == kSimulator));
+  note_->setAccessibleName(note_->text());  // a screen reader says the name of a label
   for (int item = 0; item < static_cast<int>(kSetupItemCount); ++item) {
     EnableStep(item + kFirstItem, false,
                QLatin1String(kSetupItems[static_cast<std::size_t>(item)].whyNotOffered));

@@ -92,7 +92,6 @@ QWidget* SadrelMainForm::BuildButtons() {
   note_ = new ValueLabel(bar);
   note_->setFont(CaptionFont());
   note_->setForegroundRole(QPalette::PlaceholderText);
-  note_->setAccessibleName(u"Session"_s);
   bar->row().addSpacing(grid::kBetweenControls);
   bar->row().addWidget(note_, 1);
   ButtonPrevious = AddButton(u"&Previous"_s, &SadrelMainForm::DoPrevious, bar);

@@ -24,7 +24,7 @@ TEST(WizardNote, NamesTheMicroscope) {
     rig.Start();
     const auto& note = rig.Find<QLabel>("SessionNote");
     EXPECT_EQ(note.text(), row.words);
-    EXPECT_EQ(note.accessibleName(), "Session");
+    EXPECT_EQ(note.accessibleName(), note.text());
     rig.form->resize(1152, 740);
     QApplication::processEvents();
     EXPECT_GE(note.width(), note.fontMetrics().horizontalAdvance(note.text()));
