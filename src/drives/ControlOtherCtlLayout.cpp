@@ -187,9 +187,10 @@ class ControlOtherCtl::Columns : public QBoxLayout {
  public:
   Columns() : QBoxLayout(LeftToRight) { setSpacing(grid::kBetweenGroups); }
 
+  // The second column takes the place of the first one, which is empty.
   void SetSecondFirst(bool secondFirst) {
     secondFirst_ = secondFirst;
-    Arrange();
+    invalidate();
   }
 
   [[nodiscard]] QSize minimumSize() const override {
@@ -197,34 +198,30 @@ class ControlOtherCtl::Columns : public QBoxLayout {
     return {widest, QBoxLayout::minimumSize().height()};
   }
   void setGeometry(const QRect& area) override {
-    const int both = itemAt(0)->sizeHint().width() + spacing() + itemAt(1)->sizeHint().width();
-    const bool stacked = area.width() < both;
-    if (stacked != stacked_) {
-      stacked_ = stacked;
-      Arrange();
+    const int left = secondFirst_ ? 0 : itemAt(0)->sizeHint().width();
+    const int right = itemAt(1)->sizeHint().width();
+    const int both = area.width() - spacing();
+    if (both < left + right) {
+      // The lower one takes the height that is left.
+      setDirection(secondFirst_ ? BottomToTop : TopToBottom);
+      setStretch(0, secondFirst_ ? 1 : 0);
+      setStretch(1, secondFirst_ ? 0 : 1);
+    } else {
+      // By their shares, and each as wide as its rows.
+      const int share = both * kRightShare / (kLeftShare + kRightShare);
+      const int width = std::clamp(share, right, both - left);
+      setDirection(secondFirst_ ? RightToLeft : LeftToRight);
+      setStretch(0, both - width);
+      setStretch(1, width);
     }
     QBoxLayout::setGeometry(area);
   }
 
  private:
-  // Side by side they share the width; stacked, the lower one takes the height that is left.
-  void Arrange() {
-    if (stacked_) {
-      setDirection(secondFirst_ ? BottomToTop : TopToBottom);
-      setStretch(0, secondFirst_ ? 1 : 0);
-      setStretch(1, secondFirst_ ? 0 : 1);
-    } else {
-      setDirection(secondFirst_ ? RightToLeft : LeftToRight);
-      setStretch(0, kLeftShare);
-      setStretch(1, kRightShare);
-    }
-  }
-
   static constexpr int kLeftShare = 3;
   static constexpr int kRightShare = 2;
 
   bool secondFirst_ = false;
-  bool stacked_ = false;
 };
 
 // Each column is a widget, which keeps its width when all its frames are hidden.
@@ -252,6 +249,7 @@ void ControlOtherCtl::Build() {
   Label1->setSizePolicy(policy);
   FrameManualHandle->body()->addWidget(Label1);
   FrameBase->body()->addLayout(columns_, 1);
+  layout()->setAlignment(FrameBase, Qt::AlignTop);  // as tall as what it holds
 }
 
 // The frames of the right column take the place of the left one where that has none.
