@@ -192,6 +192,7 @@ TEST(LimitPage, ArrowsMoveInsideAGroupAndStore) {
 // Where the first letter of a label stands, from the left edge of the page.
 int TextStart(const QLabel& label, const QWidget& page) {
   const QString text = label.text();
+  EXPECT_GE(label.contentsMargins().left(), 0) << "wrapped lines would begin outside";
   const int blank = text.startsWith(' ') ? label.fontMetrics().horizontalAdvance(' ') : 0;
   return label.mapTo(&page, QPoint(label.contentsMargins().left() + blank, 0)).x();
 }
