@@ -23,6 +23,7 @@ namespace {
 
 // Wide letters are half as wide again as figures.
 constexpr int kNameWidthCharacters = 24;
+constexpr int kTypeCharacters = 17;  // with the margins of its list
 constexpr int kNumberLength = 5;
 constexpr int kNumberWidthCharacters = 7;
 
@@ -44,6 +45,7 @@ void ObjectiveOptionCtl::Build() {
   const RecordForm::Column type = form.AddColumn("Type", LabelType, 2);
   Label3 = type.caption;
   ListType = type.list;
+  ListType->setMinimumWidth(ListType->fontMetrics().averageCharWidth() * kTypeCharacters);
   BuildMagnification(form);
   form.AddPanel(BuildValues(NosepieceOptionItemFrm), 3);
 }

@@ -25,7 +25,7 @@ namespace {
 
 constexpr int kFileIconSide = 20;
 // Of a row of the list with the longest function.
-constexpr int kListCharacters = 58;
+constexpr int kListCharacters = 70;
 
 QPushButton* FileButton(IconName icon, const char* caption, QWidget* parent) {
   auto* button = new QPushButton(parent);

@@ -1,9 +1,11 @@
 // What every page looks like in windows and fonts of many sizes, and in both palettes.
 #include <QApplication>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <map>
 
 #include "app/ApplyTheme.h"
@@ -12,31 +14,58 @@
 #include "gui/support/FontScope.h"
 #include "gui/support/PageDrill.h"
 #include "gui/support/PageLayout.h"
+#include "widgets/ListBox.h"
 #include "widgets/Theme.h"
 
 namespace mortane::test {
 namespace {
 
-struct Face {
-  double fontSize;       // of the system's
-  double letterSpacing;  // per cent of the font's own
-  QSize room;            // of the page in its window
-};
-
-// The rooms of windows of 1152 x 740 and 1024 x 640.
+// The rooms of windows of 1152 x 740, 1024 x 640 and 800 x 500 with the usual font, which is of 9
+// points. In larger fonts the window leaves less.
 constexpr QSize kDesignRoom{1048, 560};
 constexpr QSize kNarrowRoom{920, 460};
+constexpr QSize kSmallRoom{696, 300};
+constexpr QSize kLargeFontsRoom{860, 420};
+
+struct Face {
+  double points;
+  double letterSpacing;  // per cent of the font's own
+  std::array<QSize, 3> rooms;
+};
 
 constexpr std::array kFaces{
-    Face{1, 100, kDesignRoom},   Face{1, 100, kNarrowRoom},    Face{1.5, 100, kDesignRoom},
-    Face{1.5, 100, kNarrowRoom}, Face{2, 100, kDesignRoom},    Face{2, 100, kNarrowRoom},
-    Face{1, 120, kDesignRoom},   Face{1.25, 120, kNarrowRoom},
+    Face{9, 100, {kDesignRoom, kNarrowRoom, kSmallRoom}},
+    Face{9, 120, {kDesignRoom, kNarrowRoom, kLargeFontsRoom}},
+    Face{10, 100, {kDesignRoom, kNarrowRoom, kSmallRoom}},
+    Face{12, 100, {kDesignRoom, kNarrowRoom, kSmallRoom}},
+    Face{14, 100, {kDesignRoom, kNarrowRoom, kLargeFontsRoom}},
+    Face{16, 100, {kDesignRoom, kNarrowRoom, kLargeFontsRoom}},
+    Face{18, 100, {kDesignRoom, kNarrowRoom, kLargeFontsRoom}},
 };
 
 QFont FontFor(const Face& face) {
-  QFont font = FontOf(QApplication::font().pointSizeF() * face.fontSize);
+  QFont font = FontOf(face.points);
   font.setLetterSpacing(QFont::PercentageSpacing, face.letterSpacing);
   return font;
+}
+
+// One line for each list that cuts its columns or shows hardly a row, and for a head that is lower
+// than its font.
+std::vector<std::string> ListFaults(const QWidget& page) {
+  constexpr int kLeastRows = 3;
+  std::vector<std::string> faults;
+  for (const ListBox* list : page.findChildren<ListBox*>()) {
+    if (!list->isVisible()) continue;
+    const std::string name = list->objectName().toStdString();
+    const int cut = list->horizontalScrollBar()->maximum();
+    if (cut > 0) faults.push_back(name + " cuts " + std::to_string(cut));
+    const int rows = list->viewport()->height() / GridHeight(grid::kRowHeight, *list);
+    if (rows < kLeastRows) faults.push_back(name + " shows rows: " + std::to_string(rows));
+    const QHeaderView& head = *list->header();
+    if (!list->isHeaderHidden() && head.height() < head.fontMetrics().height())
+      faults.push_back(name + " has a low head");
+  }
+  return faults;
 }
 
 class SchemeScope {
@@ -96,7 +125,9 @@ bool ShowsText(const QWidget& control) {
 
 }  // namespace
 
+// With one scroll bar at most, which is the page's own and stands upright.
 TEST_P(PageDrill, ShowsAllControlsWholeAndApart) {
+  const std::vector<std::string> none;
   for (const Face& face : kFaces) {
     const FontScope font(FontFor(face));
     const auto made = MakeRig();
@@ -105,19 +136,25 @@ TEST_P(PageDrill, ShowsAllControlsWholeAndApart) {
     QScrollArea window;  // as the program's, where a page that is too high is scrolled
     window.setWidgetResizable(true);
     window.setWidget(&page);
-    window.resize(face.room);
     page.show();
     window.show();
-    ComeToRest();
-    EXPECT_EQ(LayoutFaults(window), std::vector<std::string>{})
-        << face.fontSize << " " << face.letterSpacing << " " << face.room.width();
+    for (const QSize& room : face.rooms) {
+      window.resize(room);
+      ComeToRest();
+      const std::string where = std::to_string(face.points) + " " +
+                                std::to_string(face.letterSpacing) + " " +
+                                std::to_string(room.width());
+      EXPECT_EQ(LayoutFaults(window), none) << where;
+      EXPECT_EQ(ListFaults(page), none) << where;
+      EXPECT_EQ(window.horizontalScrollBar()->maximum(), 0) << where;
+    }
   }
 }
 
 TEST_P(PageDrill, IsNoWiderThanTheNarrowestWindow) {
   const auto made = MakeRig();
   PageWindow& rig = *made;
-  EXPECT_LE(ShowOn(rig).minimumSizeHint().width(), kNarrowRoom.width());
+  EXPECT_LE(ShowOn(rig).minimumSizeHint().width(), kSmallRoom.width());
 }
 
 TEST_P(PageDrill, EveryStopOfTheTabKeyShowsItsFocus) {
