@@ -51,8 +51,9 @@ class Notices {
   std::vector<std::string> texts_;
 };
 
-LibraryWish WishOf(const ProgramKind& kind, Notices& notices) {
+LibraryWish WishOf(const StartOptions& options, const ProgramKind& kind, Notices& notices) {
   LibraryWish wish = WishOfEnvironment();
+  if (!options.journal.empty()) wish.journal = options.journal;
   wish.program = VersionText(kind.name);
   wish.tell = [&notices](const std::string& text) { notices.Add(text); };
   return wish;
@@ -113,7 +114,7 @@ int RunProgram(int argc, char** argv, const ProgramKind& kind) {
     options = ReadStartOptions(GetCommandLineArray(argc, argv));
     if (options.help) return Tell(kind, HelpText(kind.name, kind.description));
     if (options.version) return Tell(kind, VersionText(kind.name));
-    session.emplace(WishOf(kind, notices));
+    session.emplace(WishOf(options, kind, notices));
   } catch (const Failure& failure) {
     ShowStartNotice(kind.name, failure.Description());
     return kCannotStart;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "common/Failure.h"
+#include "hub/SessionLibrary.h"
 
 namespace mortane {
 namespace {
@@ -19,9 +20,14 @@ struct OptionRow {
   void (*take)(StartOptions& options, const std::string& value);
 };
 
-constexpr std::array<OptionRow, 2> kOptions{{
+constexpr std::array<OptionRow, 3> kOptions{{
     {"--help", "", "Show this help",
      [](StartOptions& options, const std::string&) { options.help = true; }},
+    {"--journal", "[=FILE]",
+     "Write every call to the controller to FILE, or to \"Mortane Journal.txt\" in the documents",
+     [](StartOptions& options, const std::string& value) {
+       options.journal = value.empty() ? UsersJournal() : value;
+     }},
     {"--version", "", "Show the version",
      [](StartOptions& options, const std::string&) { options.version = true; }},
 }};

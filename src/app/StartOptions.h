@@ -11,6 +11,8 @@ namespace mortane {
 struct StartOptions {
   bool help = false;
   bool version = false;
+  // A file for the journal of the session; empty when none is asked for.
+  std::string journal = {};
   // The program's path, then every argument that is no option. After "--" none is one.
   std::vector<std::string> arguments;
 };

@@ -133,9 +133,7 @@ TEST_F(Program, WritesTheJournalOfItsCallsAndReplaysIt) {
 }
 
 TEST_F(Program, GoesOnWithoutAJournalThatCannotBeWritten) {
-  qputenv("MORTANE_JOURNAL", "/no such folder/journal.txt");
-  Start({"/SIM"});
-  qunsetenv("MORTANE_JOURNAL");
+  Start({"--journal=/no such folder/journal.txt", "/SIM"});
   Press(AwaitWindows(2).front(), {"Return"});
   Exit();
   EXPECT_EQ(errors_.count("mortane: Cannot write the journal /no such folder/journal.txt: "), 1)

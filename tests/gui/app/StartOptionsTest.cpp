@@ -38,6 +38,16 @@ TEST(StartOptions, TakeOffWhatBeginsWithTwoDashesAndLeaveTheRestAsItIs) {
   }
 }
 
+TEST(StartOptions, NameTheFileOfAJournalOrLeaveItToTheDocuments) {
+  EXPECT_EQ(ReadStartOptions({"p"}).journal, "");
+  EXPECT_EQ(ReadStartOptions({"p", "--journal=a=b.txt", "/SIM"}).journal, "a=b.txt");
+  for (const char* unnamed : {"--journal", "--journal="}) {
+    const StartOptions options = ReadStartOptions({"p", unnamed, "file.txt"});
+    EXPECT_TRUE(options.journal.ends_with("/Mortane Journal.txt")) << options.journal;
+    EXPECT_EQ(options.arguments, (Words{"p", "file.txt"}));
+  }
+}
+
 TEST(StartOptions, RefuseWhatThereIsNotByItsName) {
   struct Row {
     std::string argument;
