@@ -37,11 +37,12 @@ if [[ -n "$windows" ]]; then
   cmake --build --preset windows-gui
   python3 -B tests/windows/packed_programs.py "dist/mortane-$version-windows-x64" \
     build/windows-gui/tests/comserver
+  python3 -B tests/windows/installer.py "dist/mortane-$version-windows-x64"
 fi
 
 cd dist
 packages=(mortane_*.deb)
-[[ -z "$windows" ]] || packages+=(mortane-*.zip)
+[[ -z "$windows" ]] || packages+=(mortane-*.zip mortane-*-setup.exe)
 sha256sum "${packages[@]}" >SHA256SUMS
 sha256sum --check --strict SHA256SUMS
 echo "release: version $version in $PWD"

@@ -12,4 +12,5 @@ result=0
 tools/windows/run-tests.sh windows-gui || result=1
 python3 -B tests/windows/packed_programs.py dist/mortane-*-windows-x64 \
   build/windows-gui/tests/comserver || result=1
+python3 -B tests/windows/installer.py dist/mortane-*-windows-x64 || result=1
 exit "$result"

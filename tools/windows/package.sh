@@ -1,6 +1,6 @@
 #!/bin/bash
-# Puts the programs for Windows and all that they need into one folder and one .zip:
-# tools/windows/package.sh BUILD_FOLDER DIST_FOLDER
+# Puts the programs for Windows, their manual and all that they need into one folder and one .zip:
+# tools/windows/package.sh BUILD_FOLDER DIST_FOLDER MANUAL_FOLDER
 # Fails when a program or library there needs a DLL that neither stands beside it nor belongs to
 # an unprepared Windows 10 (packaging/windows/system-dlls.txt).
 set -euo pipefail
@@ -9,6 +9,7 @@ root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
 build="$(cd "$1" && pwd)"
 mkdir -p "$2"
 dist="$(cd "$2" && pwd)"
+manual="$(cd "$3" && pwd)"
 prefix="$("$root/tools/windows/cache.sh")/prefix"
 prefixed=x86_64-w64-mingw32
 version="$(sed -n 's/^project(Mortane VERSION \([0-9.]*\) .*/\1/p' "$root/CMakeLists.txt")"
@@ -20,6 +21,7 @@ mkdir -p "$folder/platforms" "$folder/licences/gcc"
 
 cp "$build/src/app/mortane.exe" "$build/src/wizard/sadrel.exe" "$build/src/ctl/mortanectl.exe" \
   "$root/build/windows32/src/controller/com/host/mortane-host32.exe" "$folder/"
+cp -r "$manual" "$folder/manual"
 for library in Core Gui Widgets; do
   cp "$prefix/bin/Qt6$library.dll" "$folder/"
 done
