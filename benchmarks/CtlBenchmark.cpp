@@ -98,6 +98,7 @@ BENCHMARK(ReadByLibraryAlone)->RangeMultiplier(10)->Range(1, 10000)->Complexity(
 // Runs a program to its end and tells its largest memory.
 void RunProcess(benchmark::State& state, const std::vector<std::string>& words) {
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
   arguments.push_back(nullptr);
   posix_spawn_file_actions_t actions;

@@ -89,7 +89,7 @@ struct Rig {
 void SwitchTabsOfThePage(benchmark::State& state) {
   const Rig rig;
   int tab = 0;
-  for (auto step : state) {
+  for ([[maybe_unused]] auto _ : state) {
     tab = 1 - tab;
     rig.ClickTab(tab);
   }
@@ -99,7 +99,7 @@ BENCHMARK(SwitchTabsOfThePage)->Unit(benchmark::kMillisecond);
 
 void LoadThePage(benchmark::State& state) {
   const Rig rig;
-  for (auto step : state) {
+  for ([[maybe_unused]] auto _ : state) {
     rig.page->LoadData();
     QApplication::processEvents();
   }
@@ -128,7 +128,7 @@ void FillABareList(benchmark::State& state) {
   window.show();
   QApplication::processEvents();
   std::size_t tab = 0;
-  for (auto step : state) {
+  for ([[maybe_unused]] auto _ : state) {
     tab = 1 - tab;
     list->clearRows();
     for (int i = 0; i < rows[tab].size(); ++i) list->addRow(rows[tab][i], i);

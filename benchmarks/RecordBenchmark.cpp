@@ -32,7 +32,7 @@ std::vector<ConfigurationItem> Items(std::int64_t count, std::int64_t base) {
 void DifferencesOfItems(benchmark::State& state) {
   const auto first = Items(state.range(0), 0);
   const auto second = Items(state.range(0), 1);
-  for (auto _ : state) benchmark::DoNotOptimize(DifferencesOf(first, second));
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(DifferencesOf(first, second));
   state.SetComplexityN(state.range(0));
 }
 BENCHMARK(DifferencesOfItems)->RangeMultiplier(10)->Range(100, 10000)->Complexity(benchmark::oN);
@@ -74,7 +74,7 @@ ReportContent LargestContent() {
 template <std::string (*Form)(const ReportContent&)>
 void RecordOfTheLargestBench(benchmark::State& state) {
   const ReportContent content = LargestContent();
-  for (auto _ : state) benchmark::DoNotOptimize(Form(content));
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(Form(content));
 }
 BENCHMARK(RecordOfTheLargestBench<ReportAsHtml>)->Name("RecordAsHtml");
 BENCHMARK(RecordOfTheLargestBench<ReportAsText>)->Name("RecordAsText");

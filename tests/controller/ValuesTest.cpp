@@ -24,7 +24,7 @@ std::int32_t ErrorOf(Expression&& expression) {
 }
 
 // A state value: an object whose default member is the number.
-Value StateOf(Value number) {
+Value StateOf(const Value& number) {
   SimulatedRig rig("Harbour");
   rig.instrument().Accessory(accessory::kDiaLamp).value = ToDouble(number);
   return rig.root.Accessory("LampDevice").Object()->Get("Voltage");

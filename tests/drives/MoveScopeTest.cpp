@@ -10,7 +10,8 @@ namespace {
 
 // A page's flag on a connected microscope, and a started move that tells what it is asked.
 struct WatchRig : MotionRig {
-  StartedMove Move(std::int64_t distance, std::vector<bool> atTarget, std::vector<bool> ended) {
+  StartedMove Move(std::int64_t distance, const std::vector<bool>& atTarget,
+                   const std::vector<bool>& ended) {
     return {distance, [this, atTarget] { return Answered("target", atTarget, targets); },
             [this, ended] { return Answered("end", ended, ends); }, [this] { Ask("stop"); }};
   }

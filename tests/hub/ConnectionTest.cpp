@@ -1,6 +1,8 @@
 // Counting, naming, connecting and disconnecting devices, and firmware versions.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "common/Numbers.h"
 #include "support/Rig.h"
 
@@ -31,8 +33,9 @@ class DeviceNames : public testing::TestWithParam<NameCase> {};
 TEST_P(DeviceNames, ComeFromTheEntryThatTheIndexMeans) {
   Bench bench = List({"Quay", "Harbour", "Lantern"});
   bench.instruments.resize(GetParam().entries);
-  const char* names[] = {"Zero", "One", "Two"};
-  for (std::size_t i = 0; i < bench.instruments.size(); ++i) bench.instruments[i].name = names[i];
+  const std::array names{"Zero", "One", "Two"};
+  for (std::size_t i = 0; i < bench.instruments.size(); ++i)
+    bench.instruments[i].name = names.at(i);
   Rig rig(bench);
   EXPECT_EQ(rig.k70.DeviceName(GetParam().index), GetParam().name);
 }

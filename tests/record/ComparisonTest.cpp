@@ -123,12 +123,14 @@ std::string Text(const ItemChange& change) {
 
 std::vector<std::string> Texts(const std::vector<ItemChange>& changes) {
   std::vector<std::string> texts;
+  texts.reserve(changes.size());
   for (const ItemChange& change : changes) texts.push_back(Text(change));
   return texts;
 }
 
 std::vector<std::string> Texts(const std::vector<ConfigurationItem>& items) {
   std::vector<std::string> texts;
+  texts.reserve(items.size());
   for (const ConfigurationItem& item : items) texts.push_back(KeyText(item.key) + "=" + item.value);
   return texts;
 }

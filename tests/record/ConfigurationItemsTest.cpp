@@ -21,6 +21,7 @@ std::vector<ConfigurationItem> Read(const std::string& text) {
 
 std::vector<std::string> Lines(const std::vector<ConfigurationItem>& items) {
   std::vector<std::string> lines;
+  lines.reserve(items.size());
   for (const ConfigurationItem& item : items) lines.push_back(KeyText(item.key) + "=" + item.value);
   return lines;
 }
@@ -162,6 +163,7 @@ TEST(ItemValues, AreUnknownAsTheFileSaysIt) {
       <OTHER POSITION="ND" CODE="Unknown"/></INTERLOCK>
       <SWITCH><SWITCH POSITION="1" FUNCTION="-1"/></SWITCH></Setup>)");
   std::vector<bool> known;
+  known.reserve(items.size());
   for (const ConfigurationItem& item : items) known.push_back(IsKnown(item));
   EXPECT_EQ(known, (std::vector<bool>{true, false, false, true, false, true}));
 }

@@ -185,14 +185,15 @@ TEST(ItemWords, TakeNamesFromTheListsOfTheMicroscope) {
       "<CONDENSER><ITEM POSITION='1' CODE='5'/></CONDENSER>");
   Lines lines;
   for (const ConfigurationItem& item : items) lines.push_back(InWords(item, names));
-  EXPECT_EQ(lines,
-            (Lines{"Objective 1: Plan F 20x",
-                   "Optional Objective 1: Series Plan F, Type Water, Mag. 25x, W.D. 1.98, "
-                   "N.A. 0.95, DIC / Ph Condenser DIC L",
-                   "Filter Cube 1: UV Blue",
-                   "Optional Filter Cube 1: Exciter " + rig.k70.Exciter.Name(2) + ", Dichroic " +
-                       rig.k70.Dichroic.Name(1) + ", Barrier " + rig.k70.Barrier.Name(2),
-                   "Condenser 1: DIC L"}));
+  EXPECT_EQ(
+      lines,
+      (Lines{"Objective 1: Plan F 20x",
+             std::string("Optional Objective 1: Series Plan F, Type Water, Mag. 25x, W.D. 1.98, ") +
+                 "N.A. 0.95, DIC / Ph Condenser DIC L",
+             "Filter Cube 1: UV Blue",
+             "Optional Filter Cube 1: Exciter " + rig.k70.Exciter.Name(2) + ", Dichroic " +
+                 rig.k70.Dichroic.Name(1) + ", Barrier " + rig.k70.Barrier.Name(2),
+             "Condenser 1: DIC L"}));
 }
 
 TEST(ItemWords, TellWhatTheModelHoldsAndTheFileDoesNot) {

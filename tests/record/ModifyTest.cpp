@@ -202,7 +202,7 @@ TEST(Modify, ListsWhatTheComparisonCallsChangedButForWhatHasAReason) {
       <CONTROL><OTHER><B_KM_RSwitchLED CODE="Off"/></OTHER></CONTROL></Setup>)"));
   for (const std::string& target : benches::Names()) {
     for (const auto& [source, file] : files) {
-      SCOPED_TRACE("the file of " + source + " on " + target);
+      SCOPED_TRACE(testing::Message() << "the file of " << source << " on " << target);
       ReceivedRig rig(target);
       const ConfigurationState held = StateOf(rig.k70);
       rig.Read(file);

@@ -58,16 +58,17 @@ void ScriptedPrompts::Record(std::string line) {
 }
 
 Answer ScriptedPrompts::AnswerBox(Box box) {
-  Record(Describe(box));
-  boxes_.push_back(box);
+  const std::string told = Describe(box);
+  Record(told);
+  boxes_.push_back(std::move(box));
   if (boxScript_.empty()) {
     if (acceptAnyBox_) return Answer::Ok;
-    ADD_FAILURE() << "nobody scripted: " << Describe(box);
+    ADD_FAILURE() << "nobody scripted: " << told;
     return Answer::Cancel;
   }
   const BoxScript script = std::move(boxScript_.front());
   boxScript_.pop_front();
-  EXPECT_EQ(Describe(box), Describe(script.box)) << "another box was scripted";
+  EXPECT_EQ(told, Describe(script.box)) << "another box was scripted";
   if (script.during) script.during();
   return script.answer;
 }

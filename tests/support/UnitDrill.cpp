@@ -42,7 +42,8 @@ enum class Hand { Own, Other };
 std::string Written(const DomNode& element, Hand hand) {
   std::string xml = "<" + element.Name();
   if (hand == Hand::Other) xml += " colour=\"blue\"";
-  for (DomAttribute attribute : element.Attributes()) {
+  std::vector<DomAttribute> attributes = element.Attributes();
+  for (DomAttribute& attribute : attributes) {
     if (hand == Hand::Other) {
       std::transform(attribute.name.begin(), attribute.name.end(), attribute.name.begin(),
                      [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); });

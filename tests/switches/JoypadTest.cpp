@@ -50,7 +50,7 @@ class Joypad : public testing::Test {
     fs::create_directories(folder.Path("Tarvex/OrmanaTools"));
     folder.Write("Tarvex/OrmanaTools/Setup.ini", content);
   }
-  std::string Setup() const {
+  std::string SetupText() const {
     return TempFolder::Read(folder.Path("Tarvex/OrmanaTools/Setup.ini"));
   }
   int Value(const std::string& key) const {
@@ -185,7 +185,7 @@ TEST_F(Joypad, OfMoreButtonsIsABoundsFailureAndTheFileKeepsItsKeys) {
       EXPECT_EQ(failure.Number(), kSubscriptError);
       EXPECT_EQ(failure.Source(), "Mortane");
     }
-    EXPECT_EQ(Setup(), before);
+    EXPECT_EQ(SetupText(), before);
   }
 }
 
@@ -290,7 +290,7 @@ TEST_F(Joypad, KeepsAllElseInTheFile) {
                             "Left=0\nUp=0\nDown=0\n[Last]\ny=2\n"
                           : "; of the tools\n[Other]\n x = 1 \n\n[JoyPad]\n;left\nRight=12\n"
                             "Speed = 3\nLeft=0\nUp=0\nDown=0\n[Last]\ny=2";
-  EXPECT_EQ(Setup(), NativeLines(after));
+  EXPECT_EQ(SetupText(), NativeLines(after));
 }
 
 TEST_F(Joypad, WritesAFirstFileWithoutAJoystickToo) {
@@ -312,7 +312,7 @@ TEST_F(Joypad, WithoutAFolderOfTheUserReadsAndWritesNothing) {
     assignments.Save();
   }
   fs::current_path(before);
-  EXPECT_EQ(Setup(), "[JoyPad]\nRight=1\n");
+  EXPECT_EQ(SetupText(), "[JoyPad]\nRight=1\n");
   EXPECT_EQ(TempFolder::Read(folder.Path("Setup.ini")), "[JoyPad]\nRight=1\n");
   std::size_t entries = 0;
   for (fs::directory_iterator entry(folder.Path("")), end; entry != end; ++entry) ++entries;

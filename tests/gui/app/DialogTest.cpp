@@ -43,6 +43,7 @@ struct ScopeRig : Rig {
   }
   std::vector<std::string> Lines() {
     std::vector<std::string> lines;
+    lines.reserve(static_cast<std::size_t>(Dialog().List1->rowCount()));
     for (int i = 0; i < Dialog().List1->rowCount(); ++i) {
       lines.push_back(Dialog().List1->text(i).toStdString());
     }
@@ -164,7 +165,7 @@ TEST(SelScopeDlg, WorksByKeyboardAlone) {
 
 // The dialog over file items 0 to 9.
 struct FileRig : Rig {
-  explicit FileRig(std::vector<std::int16_t> present) : Rig("Quay") {
+  explicit FileRig(const std::vector<std::int16_t>& present) : Rig("Quay") {
     for (const std::int16_t item : present) k70.FileItem(item, -1);
   }
   SelFileItemDlg& Dialog() {
@@ -176,6 +177,7 @@ struct FileRig : Rig {
   }
   std::vector<std::string> Lines(const ListBox& list) {
     std::vector<std::string> lines;
+    lines.reserve(static_cast<std::size_t>(list.rowCount()));
     for (int i = 0; i < list.rowCount(); ++i) lines.push_back(list.text(i).toStdString());
     return lines;
   }

@@ -58,7 +58,7 @@ TEST(FlushInput, DropsMouseAndKeysAndNothingElse) {
                                           Qt::NoModifier, Qt::NoScrollPhase, false));
   QApplication::postEvent(&target, new QEvent(QEvent::User));
   int ticks = 0;
-  QTimer::singleShot(0, [&] { ++ticks; });
+  QTimer::singleShot(0, &target, [&] { ++ticks; });
 
   flush.Run();
   QApplication::processEvents();
@@ -81,7 +81,7 @@ TEST(FlushInput, WithinItselfDoesNothing) {
   InputFlush flush;
   Target target;
   PostMouse(target, QEvent::MouseButtonPress);
-  QTimer::singleShot(0, [&] {
+  QTimer::singleShot(0, &target, [&] {
     flush.Run();
     PostMouse(target, QEvent::MouseButtonRelease);
   });
@@ -95,10 +95,10 @@ TEST(FlushInput, LeavesABoxThatOpensMeanwhileToThePerson) {
   InputFlush flush;
   Target target;
   target.show();
-  QTimer::singleShot(0, [&] {
+  QTimer::singleShot(0, &target, [&] {
     QMessageBox box(QMessageBox::NoIcon, u"Mortane"_s, u"Please Input right value."_s,
                     QMessageBox::Ok, &target);
-    QTimer::singleShot(0, [&] {
+    QTimer::singleShot(0, &target, [&] {
       PostMouse(target, QEvent::MouseButtonPress);
       QTest::keyClick(&box, Qt::Key_Return);
       EXPECT_FALSE(box.isVisible());
@@ -117,7 +117,7 @@ TEST(FlushInput, TellsWhenItIsOver) {
   QObject context;
   int calls = 0;
   EXPECT_FALSE(InputFlush::IsRunning());
-  QTimer::singleShot(0, [&] {
+  QTimer::singleShot(0, &context, [&] {
     EXPECT_TRUE(InputFlush::IsRunning());
     InputFlush::WhenOver(context, [&] {
       EXPECT_FALSE(InputFlush::IsRunning());
@@ -152,7 +152,7 @@ TEST(FlushInput, GoesOnAsLongAsMoreInputComes) {
   int posted = 0;
   const std::function<void()> post = [&] {
     PostMouse(target, QEvent::MouseButtonPress);
-    if (++posted < kMost) QTimer::singleShot(0, post);
+    if (++posted < kMost) QTimer::singleShot(0, &target, post);
   };
   post();
   flush.Run();

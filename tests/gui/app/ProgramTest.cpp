@@ -12,40 +12,40 @@ class Program : public BuiltProgram {
 
   // Leaves by the menu and answers the question.
   void Exit() {
-    const QString window = AwaitWindows(1).front();
+    const QString window = AwaitWindows(1).constFirst();
     AwaitRest();
     Press(window, {"alt+f", "x"});
-    Press(AwaitWindows(2).front(), {"Return"});
+    Press(AwaitWindows(2).constFirst(), {"Return"});
     ExpectGoodEnd();
   }
 };
 
 TEST_F(Program, StartsOnTheSimulatorAndEndsByItsMenu) {
   Start({"/sim"});
-  Press(AwaitWindows(2).front(), {"Return"});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
   Exit();
 }
 
 TEST_F(Program, EndsWithoutAMicroscope) {
   Start({});
-  Press(AwaitWindows(2).front(), {"Return"});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
   EXPECT_TRUE(program_.waitForFinished(kPatienceMs));
   EXPECT_EQ(program_.exitCode(), 0);
 }
 
 TEST_F(Program, RefusesASecondCopyOnOneDeviceUntilTheFirstIsGoneHoweverItWent) {
   Start({"/SIM"});
-  Press(AwaitWindows(2).front(), {"Return"});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
   AwaitWindows(1);
   QProcess second;
   Start(second, {"/SIM"});
-  Press(AwaitWindows(3).front(), {"Return"});
+  Press(AwaitWindows(3).constFirst(), {"Return"});
   EXPECT_TRUE(second.waitForFinished(kPatienceMs)) << "refused";
   EXPECT_EQ(second.exitCode(), 0);
   program_.kill();
   ASSERT_TRUE(program_.waitForFinished(kPatienceMs));
   Start({"/SIM"});
-  Press(AwaitWindows(2).front(), {"Return"});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
   Exit();
 }
 
@@ -54,7 +54,7 @@ TEST_F(Program, KeepsInItsBenchFileWhatWasSent) {
   const std::string bench = folder.Path("bench.xml");
   controller::WriteBenchFile(bench, controller::benches::Named("Harbour"));
   Start({}, bench);
-  const QString window = AwaitWindows(1).front();
+  const QString window = AwaitWindows(1).constFirst();
   AwaitRest();
   Tool({"windowfocus", "--sync", window});
   // The page button, the name field, its new text.
@@ -117,7 +117,7 @@ TEST_F(Program, WritesTheJournalOfItsCallsAndReplaysIt) {
   qputenv("MORTANE_JOURNAL", QByteArray::fromStdString(journal));
   Start({"/SIM"});
   qunsetenv("MORTANE_JOURNAL");
-  Press(AwaitWindows(2).front(), {"Return"});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
   Exit();
   const std::string lines = TempFolder::Read(journal);
   EXPECT_TRUE(lines.starts_with("mortane-journal 1 program=\"mortane ")) << lines;
@@ -127,14 +127,14 @@ TEST_F(Program, WritesTheJournalOfItsCallsAndReplaysIt) {
   qputenv("MORTANE_REPLAY", QByteArray::fromStdString(journal));
   Start({"/SIM"});
   qunsetenv("MORTANE_REPLAY");
-  Press(AwaitWindows(2).front(), {"Return"});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
   Exit();
   EXPECT_FALSE(errors_.contains("the session")) << errors_.toStdString();
 }
 
 TEST_F(Program, GoesOnWithoutAJournalThatCannotBeWritten) {
   Start({"--journal=/no such folder/journal.txt", "/SIM"});
-  Press(AwaitWindows(2).front(), {"Return"});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
   Exit();
   EXPECT_EQ(errors_.count("mortane: Cannot write the journal /no such folder/journal.txt: "), 1)
       << errors_.toStdString();

@@ -27,7 +27,7 @@ QAbstractButton* ButtonOf(QMessageBox& box, const QString& text) {
     if (button->text() == text) return button;
   }
   ADD_FAILURE() << "no button " << text.toStdString();
-  return box.buttons().front();
+  return box.buttons().constFirst();
 }
 
 struct StyleCase {

@@ -25,6 +25,7 @@ std::vector<std::string> PageTips(const MortaneMainForm& form) {
 
 std::vector<std::string> SectionTips(const ContainerPage& page) {
   std::vector<std::string> tips;
+  tips.reserve(static_cast<std::size_t>(page.sections()->count()));
   for (int i = 0; i < page.sections()->count(); ++i) {
     tips.push_back(page.sections()->option(i)->toolTip().toStdString());
   }

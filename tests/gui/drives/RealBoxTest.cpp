@@ -27,7 +27,7 @@ class RealBox : public testing::Test {
   }
 
   // Runs as soon as the box stands.
-  void WhileTheBoxStands(std::function<void(QMessageBox&)> person) {
+  void WhileTheBoxStands(const std::function<void(QMessageBox&)>& person) {
     QTimer::singleShot(0, &window, [person] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       ASSERT_NE(box, nullptr);
@@ -48,7 +48,7 @@ class RealBox : public testing::Test {
 TEST_F(RealBox, OkLeavesTheMoveToItself) {
   WhileTheBoxStands([this](QMessageBox& box) {
     simulated.clock().Advance(50);
-    box.buttons().front()->click();
+    box.buttons().constFirst()->click();
   });
   Start();
   EXPECT_EQ(page->TextNosepieceX[0]->text(), "50");

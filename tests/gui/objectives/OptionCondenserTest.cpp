@@ -22,6 +22,7 @@ TEST(OptionCondenser, OffersTheFixedCondensersButThreeOfThem) {
   EXPECT_EQ(RowsOf(*page.ComboCondenser),
             (Texts{"None", "Ph 1", "Ph 2", "DIC L", "DIC M", "DIC H", "Ph 3"}));
   std::vector<int> codes;
+  codes.reserve(static_cast<std::size_t>(page.ComboCondenser->count()));
   for (int i = 0; i < page.ComboCondenser->count(); ++i) {
     codes.push_back(page.ComboCondenser->data(i).toInt());
   }

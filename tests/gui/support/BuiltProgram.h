@@ -48,7 +48,7 @@ class BuiltProgram : public testing::Test {
     program.start(path_, arguments);
     ASSERT_TRUE(program.waitForStarted(kPatienceMs));
   }
-  QStringList Tool(QStringList arguments) {
+  QStringList Tool(const QStringList& arguments) {
     QProcess tool;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("DISPLAY", display_.Name());

@@ -87,7 +87,7 @@ TEST_F(JoypadPage, OfMoreButtonsIsUselessAndLeavesTheFileAlone) {
   page->LoadData();
   page->hide();
   page.reset();
-  EXPECT_EQ(Setup(), before);
+  EXPECT_EQ(SetupText(), before);
 }
 
 TEST_F(JoypadPage, WithoutAJoystickShowsFourRowsAndTheTextOfThree) {
@@ -261,9 +261,9 @@ TEST_F(LateJoypad, WithTooManyButtonsSaysWhyThePageIsEmptyUntilOneFits) {
     EXPECT_EQ(page->whyEmpty->text(), why);
     EXPECT_EQ(page->ListView1->rowCount(), 0);
     EXPECT_FALSE(page->cmdAllClear->isEnabled());
-    const std::string before = Setup();
+    const std::string before = SetupText();
     page->SaveData();
-    EXPECT_EQ(Setup(), before);
+    EXPECT_EQ(SetupText(), before);
     ShowAgainWith(kJoystickOk, 1);
     EXPECT_FALSE(page->whyEmpty->isVisible());
     EXPECT_TRUE(page->cmdAllClear->isEnabled());

@@ -27,7 +27,7 @@ class JoypadPage : public testing::Test {
     std::filesystem::create_directories(folder.Path("Tarvex/OrmanaTools"));
     folder.Write(kSetup, content);
   }
-  std::string Setup() const { return TempFolder::Read(folder.Path(kSetup)); }
+  std::string SetupText() const { return TempFolder::Read(folder.Path(kSetup)); }
   int Value(const std::string& key) const {
     return clsIniEdit{folder.Path(kSetup)}.GetInt("JoyPad", key, -99);
   }

@@ -60,7 +60,7 @@ TEST_F(TactorFunctions, APushSwitchOfEachPageGetsOneCode) {
         SetCodes(unit(), 1);
         ChooseRow(*page.ComboFunction, page.ComboFunction->rowOf(static_cast<int>(function.code)));
         Codes expected(14, 1);
-        expected[static_cast<std::size_t>(base + row)] = function.code;
+        expected[static_cast<std::size_t>(base) + static_cast<std::size_t>(row)] = function.code;
         EXPECT_EQ(CodesOf(unit()), expected) << row << function.name;
         EXPECT_EQ(cell(row), function.name);
       }

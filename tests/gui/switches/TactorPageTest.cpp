@@ -42,6 +42,7 @@ class TactorPageTest : public testing::Test {
   std::string name() const { return page.textSW->text().toStdString(); }
   std::vector<bool> enabledMarks() const {
     std::vector<bool> enabled;
+    enabled.reserve(kMarks);
     for (int i = 0; i < kMarks; ++i) enabled.push_back(page.optBtn->mark(i)->isEnabled());
     return enabled;
   }

@@ -19,7 +19,8 @@ class CheckToggleTest : public ::testing::Test {
 TEST_F(CheckToggleTest, CaptionFollowsTheValueBeforeTheChangeIsTold) {
   EXPECT_EQ(toggle->text(), "OFF");
   QStringList captions;
-  QObject::connect(toggle, &CheckToggle::toggled, toggle, [&] { captions << toggle->text(); });
+  const QObject listener;
+  QObject::connect(toggle, &CheckToggle::toggled, &listener, [&] { captions << toggle->text(); });
   toggle->setChecked(true);
   QTest::mouseClick(toggle, Qt::LeftButton);
   QTest::keyClick(toggle, Qt::Key_Space);
@@ -79,7 +80,8 @@ TEST_F(CheckToggleTest, AnUnknownValueIsOffAndLooksLikeNeither) {
 TEST_F(CheckToggleTest, AChangeFromOnToUnknownIsToldOnceWithTheUnknownInForce) {
   toggle->setChecked(true);
   QVector<bool> told;
-  QObject::connect(toggle, &CheckToggle::toggled, toggle,
+  const QObject listener;
+  QObject::connect(toggle, &CheckToggle::toggled, &listener,
                    [&] { told.append(toggle->isUnknown()); });
   toggle->SetUnknown();
   toggle->SetUnknown();
@@ -98,7 +100,8 @@ TEST_F(CheckToggleTest, WhateverIsSetNextEndsTheUnknown) {
 TEST_F(CheckToggleTest, AClickOnAnUnknownValueIsToldAsKnown) {
   toggle->SetUnknown();
   QVector<bool> told;
-  QObject::connect(toggle, &CheckToggle::toggled, toggle,
+  const QObject listener;
+  QObject::connect(toggle, &CheckToggle::toggled, &listener,
                    [&] { told.append(toggle->isUnknown()); });
   QTest::mouseClick(toggle, Qt::LeftButton);
   EXPECT_EQ(told, QVector<bool>{false});

@@ -228,7 +228,8 @@ TEST_F(ContainerPageTest, TheProgramSelectingTheShownSectionLoadsNothing) {
 
 TEST_F(ContainerPageTest, EverySelectionIsToldWhenItsSubPageIsShown) {
   QStringList shown;
-  QObject::connect(area, &ContainerPage::Change, area, [&](int index) {
+  const QObject listener;
+  QObject::connect(area, &ContainerPage::Change, &listener, [&](int index) {
     shown << QString::number(index) + (area->shownSubPage()->isVisible() ? " shown" : " hidden");
   });
   area->sections()->select(1);

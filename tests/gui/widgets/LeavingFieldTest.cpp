@@ -157,7 +157,8 @@ class LeavingByClick : public ::testing::TestWithParam<ClickRow> {
 
 TEST_P(LeavingByClick, CommitsOnceBeforeTheClickActs) {
   int stateAtCommit = -2;
-  QObject::connect(c.field, &TextField::committed, c.field, [&] { stateAtCommit = state(); });
+  const QObject listener;
+  QObject::connect(c.field, &TextField::committed, &listener, [&] { stateAtCommit = state(); });
   c.Click(target, at);
   EXPECT_EQ(c.commits, 1);
   EXPECT_EQ(stateAtCommit, before);

@@ -165,7 +165,8 @@ TEST_F(ListBoxTest, AHandlerMayRebuildTheList) {
 
 TEST_F(ListBoxTest, AHandlerMayGoBackToAnotherRow) {
   Rows seen;
-  QObject::connect(list, &ListBox::selectionChanged, list, [&](int row) {
+  const QObject listener;
+  QObject::connect(list, &ListBox::selectionChanged, &listener, [&](int row) {
     seen.push_back(row);
     if (row == 2) list->setIndex(0);
   });
@@ -268,7 +269,9 @@ TEST_F(ListBoxSearch, TypedLettersLookForTheNameAndNotForTheFirstColumn) {
 
 TEST_F(ListBoxSearch, OneLetterRepeatedGoesFromRowToRowAndRoundAgain) {
   Rows seen;
-  QObject::connect(list, &ListBox::selectionChanged, list, [&](int row) { seen.push_back(row); });
+  const QObject listener;
+  QObject::connect(list, &ListBox::selectionChanged, &listener,
+                   [&](int row) { seen.push_back(row); });
   QTest::keyClicks(list, "pppp");
   EXPECT_EQ(seen, (Rows{1, 2, 4, 1}));
 }

@@ -70,7 +70,8 @@ TEST_F(TabStripTest, HomeAndEndChooseTheEndsThatCanBeUsed) {
 
 TEST_F(TabStripTest, TheFieldIsLeftBeforeTheTabChanges) {
   int tabWhenLeft = -1;
-  QObject::connect(field, &TextField::committed, field, [&] { tabWhenLeft = tabs->index(); });
+  const QObject listener;
+  QObject::connect(field, &TextField::committed, &listener, [&] { tabWhenLeft = tabs->index(); });
   QTest::keyClicks(field, "new");
   ClickTab(2);
   EXPECT_EQ(tabWhenLeft, 0);

@@ -206,7 +206,8 @@ TEST_F(TextFieldTest, ThePlaceholderIsGoneBeforeEnterCommits) {
   field->SetPlaceholder(kDashes);
   field->setText(kDashes);
   QString stored = "unset";
-  QObject::connect(field, &TextField::committed, field,
+  const QObject listener;
+  QObject::connect(field, &TextField::committed, &listener,
                    [&](const QString& text) { stored = text; });
   QTest::keyClick(field, Qt::Key_Return);
   EXPECT_EQ(stored, "");
@@ -217,7 +218,8 @@ TEST_F(TextFieldTest, ABlankBoxCommitsItsTextAndThenGetsItsPlaceholderBack) {
   field->SetPlaceholder(kDashes);
   field->setText("  ");
   QString stored = "unset";
-  QObject::connect(field, &TextField::committed, field,
+  const QObject listener;
+  QObject::connect(field, &TextField::committed, &listener,
                    [&](const QString& text) { stored = text; });
   QTest::keyClick(field, Qt::Key_Tab);
   EXPECT_EQ(stored, "  ");

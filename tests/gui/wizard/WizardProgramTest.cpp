@@ -54,11 +54,11 @@ TEST_F(Wizard, LeavesByCancelOnTheSimulatorAndReplaysTheJournalOfThat) {
     qputenv(variable, QByteArray::fromStdString(journal));
     Start({"/sim"});
     qunsetenv(variable);
-    Press(AwaitWindows(2).front(), {"Return"});
-    const QString window = AwaitWindows(1).front();
+    Press(AwaitWindows(2).constFirst(), {"Return"});
+    const QString window = AwaitWindows(1).constFirst();
     AwaitRest();
     Press(window, {"alt+c"});
-    Press(AwaitWindows(2).front(), {"Return"});
+    Press(AwaitWindows(2).constFirst(), {"Return"});
     ExpectGoodEnd();
     EXPECT_FALSE(errors_.contains("the session")) << errors_.toStdString();
   }
@@ -69,11 +69,11 @@ TEST_F(Wizard, IsRefusedADeviceThatTheFullWindowHolds) {
   QProcess full;
   const QString wizard = std::exchange(path_, MORTANE_PROGRAM);
   Start(full, {"/SIM"});
-  Press(AwaitWindows(2, "Mortane").front(), {"Return"});
+  Press(AwaitWindows(2, "Mortane").constFirst(), {"Return"});
   AwaitWindows(1, "Mortane");
   path_ = wizard;
   Start({"/SIM"});
-  Press(AwaitWindows(2).front(), {"Return"});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
   ExpectGoodEnd();
   full.kill();
   full.waitForFinished(kPatienceMs);
@@ -93,7 +93,7 @@ TEST_P(WizardOn, IsGoneThroughByKeyboardAlone) {
   const std::string saved = folder.Path("saved.xml");
   controller::WriteBenchFile(bench, controller::benches::Named(GetParam().bench));
   Start({}, bench);
-  const QString window = AwaitWindows(1).front();
+  const QString window = AwaitWindows(1).constFirst();
   AwaitRest();
   AwaitChange(Area(window), [&] { Tool({"windowfocus", "--sync", window}); });
   Tool({"key", "ctrl+a"});
@@ -104,8 +104,8 @@ TEST_P(WizardOn, IsGoneThroughByKeyboardAlone) {
   for (int item = 0; item < kItems; ++item) Tool({"key", "space", "Down"});
   for (int step = 1; step < GetParam().steps; ++step) Next(window);
   Exit();
-  Press(AwaitWindows(2).front(), {"Return"});
-  Tool({"windowfocus", "--sync", AwaitWindows(1, "Save As").front()});
+  Press(AwaitWindows(2).constFirst(), {"Return"});
+  Tool({"windowfocus", "--sync", AwaitWindows(1, "Save As").constFirst()});
   Tool({"type", QString::fromStdString(saved)});
   Tool({"key", "Return"});
   ExpectGoodEnd();

@@ -12,7 +12,7 @@ TEST_F(JoypadFile, SavesFourDirectionsThoughItWasNeverShownAndThereIsNoJoystick)
     // Its end saves.
     const JoypadSwitchSettingCtl never(joystick, folder.Path(""));
   }
-  EXPECT_EQ(Setup(), "[JoyPad]\nRight=0\nLeft=0\nUp=0\nDown=0\n");
+  EXPECT_EQ(SetupText(), "[JoyPad]\nRight=0\nLeft=0\nUp=0\nDown=0\n");
 }
 
 TEST_F(JoypadFile, KeepsAllElseInTheFileByteForByte) {
@@ -22,7 +22,7 @@ TEST_F(JoypadFile, KeepsAllElseInTheFileByteForByte) {
   Open(2);
   Choose(0, 2);
   page.reset();
-  const std::string after = Setup();
+  const std::string after = SetupText();
   EXPECT_TRUE(
       after.starts_with("; a note\n\n[Stage]\nSpeed = 3 ; fast\n[JoyPad]\n; pads\n"
                         "Right=2\nOther=x\nButton3=9\n"))
