@@ -75,7 +75,7 @@ class ListBox : public RowView {
   // Hides a handler of the view, which the view alone calls.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Woverloaded-virtual"
-  void selectionChanged(int row);
+  void selectionChanged(int row);  // clazy:exclude=overloaded-signal
 #pragma GCC diagnostic pop
   // For every change of a row's check, by the program or the user.
   void rowChecked(int row, bool checked);
