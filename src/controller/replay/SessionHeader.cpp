@@ -53,7 +53,9 @@ void SetField(SessionHeader& header, std::string_view name, std::string text) {
     header.part = *part;
   }
   for (const Field& field : kFields) {
-    if (field.name == name) header.*field.text = std::move(text);
+    if (field.name != name) continue;
+    header.*field.text = std::move(text);
+    return;
   }
 }
 
