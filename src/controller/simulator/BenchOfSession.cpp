@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <unordered_set>
 #include <utility>
 
 #include "common/Failure.h"
@@ -18,6 +19,9 @@ namespace {
 
 // Devices beyond these are no device list's.
 constexpr std::int32_t kMostDevices = 100;
+
+// To one member: ten addresses for each record of the longest list.
+constexpr std::size_t kMostAnswers = 10 * kLongestList;
 
 constexpr std::string_view kQuery = "QueryCommand";
 constexpr std::string_view kCodeCommand = "rONR";
@@ -41,10 +45,11 @@ std::optional<Asked> Asking(SessionLine& line) {
   return asked;
 }
 
-std::string KeyOf(const std::vector<SessionValue>& args) {
-  std::string key;
-  for (const SessionValue& value : args) AppendValue(key += ' ', value);
-  return key;
+// The call without the object and the use, which say nothing of what is asked for.
+std::string_view PathOf(std::string_view call) {
+  for (int word = 0; word < 2; ++word)
+    call.remove_prefix(std::min(call.find(' ') + 1, call.size()));
+  return call;
 }
 
 // What the session told of one entry of the device list.
@@ -52,7 +57,8 @@ struct DeviceFacts {
   bool connected = false;
   bool named = false;
   bool availabilityTold = false;
-  std::map<const FactRow*, std::set<std::string>> told;
+  std::map<const FactRow*, std::size_t> told;   // how many answers
+  std::unordered_set<std::string> answered;     // by their paths
   std::map<std::string, std::string> codes;     // answers to rONR by their digit
   std::map<std::string, std::string> failures;  // by the path, of what was told at no other time
 };
@@ -63,12 +69,13 @@ class Builder {
   SessionBench Finish(bool cut);
 
  private:
-  void TakeAnswer(const Asked& asked);
+  void TakeAnswer(const Asked& asked, std::string path);
   bool TakeDeviceList(const Asked& asked);
   void TakeFiber(const Asked& asked, bool failed);
   void TakeConnection(const Asked& asked);
   void TakeFailure(const Asked& asked, const SessionFailure& failure);
-  void TakeFact(const FactRow& row, const Asked& asked);
+  void TakeFact(const FactRow& row, const Asked& asked, std::string path);
+  bool IsAnswered(const std::string& path) const;
   Instrument* DeviceAt(const SessionValue& index);
   DeviceFacts& FactsOf(const Instrument& instrument);
 
@@ -102,6 +109,8 @@ void Builder::Take(SessionLine line) {
       !line.call.starts_with("#0 create")) {
     return;
   }
+  std::string path(PathOf(line.call));
+  if (IsAnswered(path)) return;
   const auto failure = std::move(line.failure);
   const auto asked = Asking(line);
   if (!asked || asked->use == "put") return;
@@ -109,8 +118,13 @@ void Builder::Take(SessionLine line) {
   if (failure) {
     TakeFailure(*asked, *failure);
   } else if (!TakeDeviceList(*asked)) {
-    TakeAnswer(*asked);
+    TakeAnswer(*asked, std::move(path));
   }
+}
+
+// A long session asks the same again and again.
+bool Builder::IsAnswered(const std::string& path) const {
+  return current_ && facts_[*current_].answered.contains(path);
 }
 
 // The fiber server's objects are roots, whose members have no prefix.
@@ -182,27 +196,27 @@ void Builder::TakeFailure(const Asked& asked, const SessionFailure& failure) {
   facts_[*current_].failures.emplace(asked.name, failure.description);
 }
 
-// The step of an enumerator that gives nothing tells how many there are.
-void Builder::TakeAnswer(const Asked& asked) {
+void Builder::TakeAnswer(const Asked& asked, std::string path) {
   if (!current_) return;
   if (asked.name == kQuery && asked.fact.args.size() == 1) {
     const auto* command = std::get_if<std::string>(&asked.fact.args[0]);
     const auto* answer = std::get_if<std::string>(&asked.fact.value);
-    if (command != nullptr && answer != nullptr && command->starts_with(kCodeCommand)) {
+    if (command != nullptr && answer != nullptr && command->starts_with(kCodeCommand) &&
+        command->size() == kCodeCommand.size() + 1) {
       facts_[*current_].codes.emplace(command->substr(kCodeCommand.size()), *answer);
     }
     return;
   }
   if (asked.use == "next") return;
-  if (const FactRow* row = FindFactRow(asked.name)) TakeFact(*row, asked);
+  if (const FactRow* row = FindFactRow(asked.name)) TakeFact(*row, asked, std::move(path));
 }
 
-void Builder::TakeFact(const FactRow& row, const Asked& asked) {
+void Builder::TakeFact(const FactRow& row, const Asked& asked, std::string path) {
   DeviceFacts& facts = facts_[*current_];
-  std::set<std::string>& told = facts.told[&row];
-  std::string key = KeyOf(asked.fact.args);
-  if (told.contains(key)) return;
-  if (row.set(made_.bench.instruments[*current_], asked.fact)) told.insert(std::move(key));
+  std::size_t& told = facts.told[&row];
+  if (told == kMostAnswers || !row.set(made_.bench.instruments[*current_], asked.fact)) return;
+  ++told;
+  facts.answered.insert(std::move(path));
 }
 
 // The digit of the condenser is told by the code of an optional objective alone. A code that its
@@ -237,7 +251,7 @@ void Builder::List(std::size_t device) {
   }
   for (const FactRow& row : FactRows()) {
     const std::size_t expected = row.expected(instrument);
-    const std::size_t told = facts.told[&row].size();
+    const std::size_t told = facts.told[&row];
     if (told >= expected) continue;
     const auto failure = facts.failures.find(row.name);
     std::string text = row.name;
