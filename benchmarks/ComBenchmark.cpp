@@ -170,6 +170,28 @@ void MeasureReads(const char* where, int steps) {
       [&] { microscope.NosepieceDevice().Position().Number(); });
 }
 
+// The same calls, turn about, to a server's process and to the host's.
+void CompareHost(int steps) {
+  Served<ServerProcess> server;
+  const comserver::HostFiles files = comserver::AllHostFiles().back();
+  const comserver::RegisteredLibrary registered(files, L"mortane_test_library.dll");
+  ComLibrary hosted(comserver::ClassesOf(registered.Family()), files.Ways(), files.Host());
+  const Microscope inServer = ConnectedRoot(server.library);
+  const Microscope inHost = ConnectedRoot(hosted);
+  const ZDriveDevice serverDrive = inServer.ZDriveDevice();
+  const ZDriveDevice hostDrive = inHost.ZDriveDevice();
+  Stopwatch serverTime(steps);
+  Stopwatch hostTime(steps);
+  for (int round = 0; round < 101; ++round) {
+    serverTime.Round([&] { serverDrive.KnobAuto(); });
+    hostTime.Round([&] { hostDrive.KnobAuto(); });
+  }
+  std::printf(
+      "a call of a server's process %9.0f ns  of the host of %d bits %9.0f ns  ratio %.2f\n",
+      serverTime.Median(), files.are32 ? 32 : 64, hostTime.Median(),
+      hostTime.Median() / serverTime.Median());
+}
+
 void MeasureReceive(const char* where, ControllerLibrary& library, int rounds) {
   SilentPrompts prompts;
   std::size_t calls = 0;
@@ -196,6 +218,7 @@ void MeasureReceive(const char* where, ControllerLibrary& library, int rounds) {
 void Run() {
   MeasureReads<InProcessServer>("in this process", 5000);
   MeasureReads<ServerProcess>("in another process", 5);
+  CompareHost(5);
   SimulatedLibrary inPlace(benches::Named("Quay"));
   MeasureReceive("in place", inPlace, 101);
   Served<InProcessServer> inProcess;
