@@ -190,6 +190,7 @@ Section
   CreateShortcut "$SMPROGRAMS\Mortane\Mortane.lnk" "$INSTDIR\mortane.exe"
   CreateShortcut "$SMPROGRAMS\Mortane\Mortane Wizard.lnk" "$INSTDIR\sadrel.exe"
   CreateShortcut "$SMPROGRAMS\Mortane\Simulated Microscope.lnk" "$INSTDIR\mortane.exe" "/SIM"
+  CreateShortcut "$SMPROGRAMS\Mortane\Mortane with a Journal.lnk" "$INSTDIR\mortane.exe" "--journal"
   ${If} ${FileExists} "$INSTDIR\manual\*.*"
     CreateShortcut "$SMPROGRAMS\Mortane\Manual.lnk" "$INSTDIR\manual\index.html"
   ${EndIf}

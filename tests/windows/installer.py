@@ -106,8 +106,8 @@ class Installation(unittest.TestCase):
         self.assertEqual(self.installed(), files(work / OLD))
         self.assertEqual(entry(self.root, "DisplayVersion"), OLD)
         self.assertEqual(entry(self.root, "InstallLocation"), self.windows_folder)
-        names = {"Mortane", "Mortane Wizard", "Simulated Microscope", "Manual",
-                 "Uninstall Mortane"}
+        names = {"Mortane", "Mortane Wizard", "Simulated Microscope",
+                 "Mortane with a Journal", "Manual", "Uninstall Mortane"}
         self.assertEqual({file.name for file in self.shortcuts.iterdir()},
                          {f"{name}.lnk" for name in names})
         code, said = wine(self.place / "mortanectl.exe", "--version")
