@@ -18,7 +18,7 @@ struct ItemKey {
   std::string position;  // POSITION of the innermost element that has one, else empty
   std::string attribute;
 
-  auto operator<=>(const ItemKey&) const = default;
+  auto operator<=>(const ItemKey&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 // "NOSEPIECE ITEM 3 CODE"; for messages and for lookups.

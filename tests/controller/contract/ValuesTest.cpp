@@ -13,8 +13,6 @@ namespace {
 class Transport : public OnEachBackEnd {};
 INSTANTIATE_TEST_SUITE_P(OnEachBackEnd, Transport, testing::ValuesIn(BackEndKinds()), KindName);
 
-constexpr std::int16_t kOne = 1;
-
 ObjectRef ObjectOf(const Value& value) {
   const auto* object = std::get_if<ObjectRef>(&value);
   return object == nullptr ? nullptr : *object;

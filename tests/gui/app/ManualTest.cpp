@@ -27,7 +27,7 @@ class Browser : public QTextBrowser {
   ~Browser() override { QDesktopServices::unsetUrlHandler("file"); }
   // What was opened since the last question.
   QString Opened() {
-    const QString opened = source().toLocalFile();
+    QString opened = source().toLocalFile();
     setSource({});
     return opened;
   }
