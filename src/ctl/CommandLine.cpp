@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <array>
+#include <memory>
 
 #include "ctl/ShownText.h"
 #include "ctl/Surroundings.h"
@@ -86,6 +87,15 @@ constexpr char kExamplesOfAll[] =
     "\n"
     "\"mortanectl COMMAND --help\" explains a command. \"-\" as a file is a standard stream.\n"
     "Exit code 0: done, or the same. 1: differences. 2: could not.\n";
+
+// Names an option without what it stands for when it has no value.
+class HelpFormatter : public CLI::Formatter {
+ public:
+  std::string make_option_name(const CLI::Option* option, bool positional) const override {
+    const std::string name = Formatter::make_option_name(option, positional);
+    return name.substr(0, name.find('{'));
+  }
+};
 
 // The bounds stand in the message of a number outside them; the help goes without.
 CLI::Validator Between(int least, int most) {
@@ -232,6 +242,7 @@ std::variant<Request, Outcome> ParseCommandLine(const std::vector<std::string>& 
   program.allow_windows_style_options(false);
   program.require_subcommand(0, 1);
   program.footer(kExamplesOfAll);
+  program.formatter(std::make_shared<HelpFormatter>());
   program.get_formatter()->column_width(28);
   program.get_formatter()->label("SUBCOMMAND", "COMMAND");
   program.get_formatter()->label("REQUIRED", "");

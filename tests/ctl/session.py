@@ -312,7 +312,7 @@ class Session(unittest.TestCase):
         completion = pathlib.Path(SOURCE, "packaging/ctl/mortanectl.bash").read_text()
         commands = [line.split()[0] for line in self.run_program("--help").splitlines()
                     if line.startswith("  ") and line[2].isalpha() and "mortanectl" not in line]
-        self.assertEqual(len(commands), 11, commands)
+        self.assertEqual(len(commands), 12, commands)
         for command in commands:
             self.assertIn(command, page)
             options = {word.split(",")[-1] for line in
