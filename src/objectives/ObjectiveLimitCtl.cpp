@@ -22,9 +22,13 @@ constexpr int kStageDown = 2;
 constexpr std::int32_t kControllerWithoutStageDown = 5;
 constexpr int kOptionColumn = 170;
 
+// Kept: one of the texts begins with a blank. The others begin as much further right, so that the
+// captions are in line.
 QLabel* WrappedCaption(const char* text, QWidget* parent) {
   QLabel* label = CaptionLabel(QLatin1String(text), parent);
   label->setWordWrap(true);
+  if (text[0] != ' ')
+    label->setContentsMargins(label->fontMetrics().horizontalAdvance(u' '), 0, 0, 0);
   return label;
 }
 
@@ -103,13 +107,7 @@ void ObjectiveLimitCtl::AddRule(const Rule& rule) {
   frame->body()->addLayout(row);
   QLabel* label = WrappedCaption(rule.explanation, frame);
   this->*rule.label = label;
-  // Kept: one of the texts begins with a blank. Its label begins that much further left, so that
-  // the captions are in line.
-  auto* line = new QVBoxLayout;
-  if (rule.explanation[0] == ' ')
-    line->setContentsMargins(-label->fontMetrics().horizontalAdvance(u' '), 0, 0, 0);
-  line->addWidget(label);
-  frame->body()->addLayout(line);
+  frame->body()->addWidget(label);
   FrameBase->body()->addWidget(frame);
   connect(group, &OptionGroup::selectionChanged, this,
           [this, &rule](int index) { limits_.*rule.value = static_cast<std::int16_t>(index); });
