@@ -167,7 +167,11 @@ void ListBox::SetRowDimmed(int row, bool dimmed) {
 }
 
 void ListBox::SetRowPending(int row, const std::optional<QString>& was) {
-  topLevelItem(row)->setData(0, kNotSentRole, NotSent(was));
+  const QString note = NotSent(was);
+  if (note == RowNote(row)) return;
+  topLevelItem(row)->setData(0, kNotSentRole, note);
+  // The column takes the room of the dot.
+  scheduleDelayedItemsLayout();
 }
 
 QString ListBox::RowNote(int row) const {

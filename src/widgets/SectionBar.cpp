@@ -113,7 +113,7 @@ void SectionOption::paintEvent(QPaintEvent*) {
   if (!pending_) return;
   const double textEnd = (width() + painter.fontMetrics().horizontalAdvance(shown)) / 2.0;
   DrawPendingDot(painter, {textEnd + kPendingRoom / 2.0 + 1, height() / 2.0},
-                 palette().color(QPalette::Link), fill);
+                 marked ? onMark : palette().color(QPalette::Link), fill);
 }
 
 // As few rows of joined options as the width holds. Where it is short they first give way at both

@@ -195,6 +195,43 @@ TEST(NotSent, APlaceKeepsItsDotWithItsAddress) {
   EXPECT_EQ(turret.place(0)->accessibleDescription(), "");
 }
 
+TEST(NotSent, AColumnIsAsWideAsItsTextBesideTheDot) {
+  TestWindow window;
+  auto* list = window.Add<ListBox>();
+  list->SetColumns({{"Switch"}, {"Function"}});
+  list->addCells({"CW/CCW_4", "Filter Cube CW/CCW"});
+  window.Show();
+  list->SetRowPending(0, "Objective CW/CCW");
+  QCoreApplication::processEvents();
+  const QModelIndex first = list->model()->index(0, 0);
+  EXPECT_GE(list->columnWidth(0), list->itemDelegate()->sizeHint({}, first).width());
+  const int withDot = list->columnWidth(0);
+  list->SetRowPending(0, std::nullopt);
+  QCoreApplication::processEvents();
+  EXPECT_LT(list->columnWidth(0), withDot);
+}
+
+int LinkPixels(QWidget& option) {
+  const QImage picture = option.grab().toImage();
+  const QRgb link = option.palette().color(QPalette::Link).rgb();
+  int count = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == link ? 1 : 0;
+  }
+  return count;
+}
+
+TEST(NotSent, TheDotOfTheChosenSectionHasTheColourOfItsText) {
+  TestWindow window;
+  auto* sections = window.Add<SectionBar>();
+  for (const char* text : {"Nosepiece", "Limit Control"}) sections->AddOption(text);
+  window.Show();
+  sections->select(0);
+  for (const int section : {0, 1}) sections->SetOptionPending(section, true);
+  EXPECT_EQ(LinkPixels(*sections->option(0)), 0);
+  EXPECT_GT(LinkPixels(*sections->option(1)), 10);
+}
+
 TEST(NotSent, ATabThatIsMadeAnewHasNoDot) {
   TabStrip tabs;
   tabs.SetNumberedTabs(2);
