@@ -55,8 +55,10 @@ struct LargestBench {
 void ComparingTheModelWithItsStateBefore(benchmark::State& state) {
   LargestBench bench;
   const std::vector<ConfigurationItem> held = ItemsOf(bench.k70);
-  for (std::int16_t i = 1; i <= state.range(0); ++i) bench.k70.curSwitch.Func(i, 40);
-  for (auto _ : state) benchmark::DoNotOptimize(DifferencesOf(held, ItemsOf(bench.k70)));
+  const auto changed = static_cast<std::int16_t>(state.range(0));
+  for (std::int16_t i = 1; i <= changed; ++i) bench.k70.curSwitch.Func(i, 40);
+  for ([[maybe_unused]] auto _ : state)
+    benchmark::DoNotOptimize(DifferencesOf(held, ItemsOf(bench.k70)));
 }
 BENCHMARK(ComparingTheModelWithItsStateBefore)->Arg(0)->Arg(1)->Arg(16);
 
