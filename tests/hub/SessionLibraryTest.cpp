@@ -145,7 +145,10 @@ TEST_F(Replays, TellADifferenceOnce) {
 }
 
 TEST_F(Replays, TellAtTheEndWhatWasNotCalled) {
-  { SessionLibrary session(Wish()); }
+  {
+    // Ends without a call.
+    SessionLibrary session(Wish());
+  }
   EXPECT_EQ(told_, std::vector{journal_ + ":3: the session goes on with "
                                           "#0 create Create(Microscope)"});
 }

@@ -79,7 +79,10 @@ TEST_P(HostLife, EndsWithTheLibrary) {
 TEST_P(HostLife, StaysWhenItsLastObjectIsGone) {
   const auto backEnd = Make();
   const DWORD before = backEnd->Process().Id();
-  { const Microscope root = ConnectedRoot(backEnd->Library()); }
+  {
+    // The last one goes with the block.
+    const Microscope root = ConnectedRoot(backEnd->Library());
+  }
   EXPECT_EQ(backEnd->Process().Id(), before);
 }
 
