@@ -66,8 +66,9 @@ look() {
     # The columns of a table stand in the order in which a reader wants them.
     tidied+=,-clang-analyzer-optin.performance.Padding
   fi
-  # GoogleTest and Google Benchmark register each of theirs by a static object.
-  if [[ "$source" != src/* ]]; then checks+=,no-non-pod-global-static; fi
+  # GoogleTest and Google Benchmark register each of theirs by a static object. A test's listener
+  # ends before what its handler refers to; clazy looks at the sender alone.
+  if [[ "$source" != src/* ]]; then checks+=,no-non-pod-global-static,no-lambda-in-connect; fi
   said="$(clang-tidy -p "$folder" --quiet --load "$folder/libOwnCode.so" \
     --checks="$tidied" "${tidy[@]}" "$source" 2>/dev/null)" || result=1
   # clazy's exit code tells of errors alone; what it has to say of this tree's files is on its lines.
