@@ -2,8 +2,8 @@
 # From a clean checkout to checked packages with their checksums in dist:
 # tools/release.sh [--windows]
 # --windows makes the package for Windows, too, and works its programs under Wine; its libraries are
-# built first, once, which takes an hour. The trial in a bare system takes root, by sudo where there
-# is need. Run the tests before: ./test.sh
+# built first, once, in half an hour on two cores. The trial in a bare system takes root, by sudo
+# where there is need. Run the tests before: ./test.sh
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
