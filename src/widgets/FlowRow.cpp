@@ -11,44 +11,18 @@ QSize Wanted(const QLayoutItem& item) {
 
 }  // namespace
 
-FlowRow::FlowRow(int gap, int lineGap) : gap_(gap), lineGap_(lineGap) {
-  setContentsMargins({});
-}
-
-void FlowRow::addItem(QLayoutItem* item) {
-  items_.emplace_back(item);
-}
-
-int FlowRow::count() const {
-  return static_cast<int>(items_.size());
-}
-
-QLayoutItem* FlowRow::itemAt(int index) const {
-  const bool exists = index >= 0 && index < count();
-  return exists ? items_[static_cast<std::size_t>(index)].get() : nullptr;
-}
-
-QLayoutItem* FlowRow::takeAt(int index) {
-  if (itemAt(index) == nullptr) return nullptr;
-  const auto place = items_.begin() + index;
-  QLayoutItem* item = place->release();
-  items_.erase(place);
-  return item;
-}
+FlowRow::FlowRow(int gap, int lineGap) : gap_(gap), lineGap_(lineGap) {}
 
 QSize FlowRow::sizeHint() const {
   int width = -gap_;
-  for (const auto& item : items_) {
-    if (!item->isEmpty()) width += Wanted(*item).width() + gap_;
-  }
+  for (const QLayoutItem* item : ShownItems()) width += Wanted(*item).width() + gap_;
   return {std::max(width, 0), HeightIn(width_)};
 }
 
 QSize FlowRow::minimumSize() const {
   int widest = 0;
-  for (const auto& item : items_) {
-    if (!item->isEmpty()) widest = std::max(widest, item->minimumSize().width());
-  }
+  for (const QLayoutItem* item : ShownItems())
+    widest = std::max(widest, item->minimumSize().width());
   return {widest, HeightIn(width_)};
 }
 
@@ -59,7 +33,7 @@ void FlowRow::setGeometry(const QRect& area) {
     if (HeightIn(width_) != before) update();
   }
   int top = area.top();
-  for (const Line& line : LinesIn(area.width())) {
+  for (const Items& line : LinesIn(area.width())) {
     int height = 0;
     for (const QLayoutItem* item : line) height = std::max(height, Wanted(*item).height());
     int left = area.left();
@@ -72,17 +46,16 @@ void FlowRow::setGeometry(const QRect& area) {
   }
 }
 
-std::vector<FlowRow::Line> FlowRow::LinesIn(int width) const {
-  std::vector<Line> lines;
+std::vector<FlowRow::Items> FlowRow::LinesIn(int width) const {
+  std::vector<Items> lines;
   int used = 0;
-  for (const auto& item : items_) {
-    if (item->isEmpty()) continue;
+  for (QLayoutItem* item : ShownItems()) {
     const int wanted = Wanted(*item).width();
     if (lines.empty() || used + gap_ + wanted > width) {
       lines.emplace_back();
       used = -gap_;
     }
-    lines.back().push_back(item.get());
+    lines.back().push_back(item);
     used += gap_ + wanted;
   }
   return lines;
@@ -90,7 +63,7 @@ std::vector<FlowRow::Line> FlowRow::LinesIn(int width) const {
 
 int FlowRow::HeightIn(int width) const {
   int height = -lineGap_;
-  for (const Line& line : LinesIn(width)) {
+  for (const Items& line : LinesIn(width)) {
     int highest = 0;
     for (const QLayoutItem* item : line) highest = std::max(highest, Wanted(*item).height());
     height += highest + lineGap_;

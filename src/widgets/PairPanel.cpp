@@ -1,19 +1,16 @@
 #include "widgets/PairPanel.h"
 
 #include <QFontMetrics>
-#include <QLayout>
 #include <algorithm>
-#include <memory>
-#include <vector>
 
+#include "widgets/ItemLayout.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
 
-class PairPanel::Parts : public QLayout {
+class PairPanel::Parts : public ItemLayout {
  public:
-  explicit Parts(QWidget& panel) : QLayout(&panel), panel_(panel) {
-    setContentsMargins({});
+  explicit Parts(QWidget& panel) : ItemLayout(&panel), panel_(panel) {
     setSpacing(grid::kBetweenColumns);
   }
 
@@ -34,30 +31,18 @@ class PairPanel::Parts : public QLayout {
   }
   [[nodiscard]] bool isBeside() const { return beside_; }
 
-  void addItem(QLayoutItem* item) override { items_.emplace_back(item); }
-  [[nodiscard]] int count() const override { return static_cast<int>(items_.size()); }
-  [[nodiscard]] QLayoutItem* itemAt(int index) const override {
-    return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)].get() : nullptr;
-  }
-  QLayoutItem* takeAt(int index) override {
-    if (itemAt(index) == nullptr) return nullptr;
-    QLayoutItem* item = items_[static_cast<std::size_t>(index)].release();
-    items_.erase(items_.begin() + index);
-    return item;
-  }
-
   [[nodiscard]] QSize sizeHint() const override {
     if (const QLayoutItem* single = Single()) return single->sizeHint();
     if (count() < kParts) return {};
-    const QSize left = items_[0]->sizeHint();
-    const QSize right = items_[1]->sizeHint();
+    const QSize left = itemAt(0)->sizeHint();
+    const QSize right = itemAt(1)->sizeHint();
     return {left.width() + spacing() + right.width(), HeightOf(left.height(), right.height())};
   }
   [[nodiscard]] QSize minimumSize() const override {
     if (const QLayoutItem* single = Single()) return single->minimumSize();
     if (count() < kParts) return {};
-    const QSize left = items_[0]->minimumSize();
-    const QSize right = items_[1]->minimumSize();
+    const QSize left = itemAt(0)->minimumSize();
+    const QSize right = itemAt(1)->minimumSize();
     return {std::max(left.width(), right.width()), HeightOf(left.height(), right.height())};
   }
 
@@ -86,47 +71,47 @@ class PairPanel::Parts : public QLayout {
   // The one that is shown where the other is not; the first one where none is.
   [[nodiscard]] QLayoutItem* Single() const {
     if (count() < kParts) return nullptr;
-    if (items_[1]->isEmpty()) return items_[0].get();
-    return items_[0]->isEmpty() ? items_[1].get() : nullptr;
+    if (itemAt(1)->isEmpty()) return itemAt(0);
+    return itemAt(0)->isEmpty() ? itemAt(1) : nullptr;
   }
   [[nodiscard]] int HeightOf(int left, int right) const {
     return beside_ ? std::max(left, right) : left + spacing() + right;
   }
   [[nodiscard]] int RightBeside() const {
-    return std::max({items_[1]->minimumSize().width(), width_,
+    return std::max({itemAt(1)->minimumSize().width(), width_,
                      panel_.fontMetrics().averageCharWidth() * rightCharacters_});
   }
   [[nodiscard]] int LeftBeside() const {
-    return std::max(items_[0]->minimumSize().width(),
+    return std::max(itemAt(0)->minimumSize().width(),
                     panel_.fontMetrics().averageCharWidth() * leftCharacters_);
   }
 
   void PlaceBeside(const QRect& area) {
     const int both = area.width() - spacing();
     const int least = LeftBeside();
-    int share = both - items_[1]->sizeHint().width();
+    int share = both - itemAt(1)->sizeHint().width();
     if (keepsShape_) {
-      share = std::min(area.height(), items_[0]->maximumSize().width());
+      share = std::min(area.height(), itemAt(0)->maximumSize().width());
     } else if (leftShare_ == 0) {
       share = least;
     } else if (rightShare_ > 0) {
       share = both * leftShare_ / (leftShare_ + rightShare_);
     }
     const int width = std::clamp(share, least, std::max(least, both - RightBeside()));
-    items_[0]->setGeometry({area.topLeft(), QSize(width, area.height())});
-    items_[1]->setGeometry(
+    itemAt(0)->setGeometry({area.topLeft(), QSize(width, area.height())});
+    itemAt(1)->setGeometry(
         {area.left() + width + spacing(), area.top(), both - width, area.height()});
   }
 
   // The upper part takes what it asks for, the lower one what it can grow to, the upper one the
   // rest.
   void PlaceBelow(const QRect& area) {
-    const std::size_t upper = upper_ == Upper::Left ? 0 : 1;
-    QLayoutItem& above = *items_[upper];
-    QLayoutItem& below = *items_[1 - upper];
+    const int upper = upper_ == Upper::Left ? 0 : 1;
+    QLayoutItem& above = *itemAt(upper);
+    QLayoutItem& below = *itemAt(1 - upper);
     const int both = area.height() - spacing();
     int most = below.maximumSize().height();
-    if (&below == items_[0].get() && keepsShape_) most = std::min(most, area.width());
+    if (&below == itemAt(0) && keepsShape_) most = std::min(most, area.width());
     const int wanted =
         std::max(above.minimumSize().height(),
                  std::min(above.sizeHint().height(), both - below.minimumSize().height()));
@@ -137,7 +122,7 @@ class PairPanel::Parts : public QLayout {
 
   // A part that keeps its shape stands in the middle.
   void PlaceInRow(QLayoutItem& part, QRect row) const {
-    if (&part == items_[0].get() && keepsShape_) {
+    if (&part == itemAt(0) && keepsShape_) {
       const int width = std::min(std::max(row.height(), part.minimumSize().width()), row.width());
       row.setRect(row.left() + (row.width() - width) / 2, row.top(), width, row.height());
     }
@@ -145,7 +130,6 @@ class PairPanel::Parts : public QLayout {
   }
 
   QWidget& panel_;
-  std::vector<std::unique_ptr<QLayoutItem>> items_;
   int leftShare_ = 0;
   int rightShare_ = 0;
   Upper upper_ = Upper::Right;

@@ -26,35 +26,14 @@ ReflowGrid::ReflowGrid(Order order, int mostColumns, int columnGap, int rowGap)
       rowGap_(rowGap),
       columns_(mostColumns) {}
 
-void ReflowGrid::addItem(QLayoutItem* item) {
-  items_.emplace_back(item);
-}
-
-int ReflowGrid::count() const {
-  return static_cast<int>(items_.size());
-}
-
-QLayoutItem* ReflowGrid::itemAt(int index) const {
-  const bool exists = index >= 0 && index < count();
-  return exists ? items_[static_cast<std::size_t>(index)].get() : nullptr;
-}
-
-QLayoutItem* ReflowGrid::takeAt(int index) {
-  if (itemAt(index) == nullptr) return nullptr;
-  const auto place = items_.begin() + index;
-  QLayoutItem* item = place->release();
-  items_.erase(place);
-  return item;
-}
-
 QSize ReflowGrid::sizeHint() const {
-  const QSize cell = PreferredSize(ShownCells());
+  const QSize cell = PreferredSize(ShownItems());
   if (order_ == Order::ColumnByColumn) return SizeOf(1, RowsOf(1), cell);
   return SizeOf(mostColumns_, RowsOf(columns_), cell);
 }
 
 QSize ReflowGrid::minimumSize() const {
-  const Cells cells = ShownCells();
+  const Items cells = ShownItems();
   if (order_ == Order::ColumnByColumn)
     return SizeOf(mostColumns_, RowsOf(mostColumns_), PreferredSize(cells));
   return SizeOf(1, RowsOf(columns_), LeastSize(cells));
@@ -66,7 +45,7 @@ void ReflowGrid::setGeometry(const QRect& area) {
     columns_ = columns;
     update();
   }
-  const Cells cells = ShownCells();
+  const Items cells = ShownItems();
   const QSize cell = CellSizeIn(area.size());
   const int rows = RowsOf(columns_);
   for (int i = 0; i < static_cast<int>(cells.size()); ++i) {
@@ -77,16 +56,8 @@ void ReflowGrid::setGeometry(const QRect& area) {
   }
 }
 
-ReflowGrid::Cells ReflowGrid::ShownCells() const {
-  Cells cells;
-  for (const auto& item : items_) {
-    if (!item->isEmpty()) cells.push_back(item.get());
-  }
-  return cells;
-}
-
 int ReflowGrid::ColumnsIn(const QSize& room) const {
-  const Cells cells = ShownCells();
+  const Items cells = ShownItems();
   if (order_ != Order::ColumnByColumn) {
     const int pitch = std::max(LeastSize(cells).width() + columnGap_, 1);
     return std::clamp((room.width() + columnGap_) / pitch, 1, mostColumns_);
@@ -99,7 +70,7 @@ int ReflowGrid::ColumnsIn(const QSize& room) const {
 }
 
 int ReflowGrid::RowsOf(int columns) const {
-  return (static_cast<int>(ShownCells().size()) + columns - 1) / columns;
+  return (static_cast<int>(ShownItems().size()) + columns - 1) / columns;
 }
 
 QSize ReflowGrid::SizeOf(int columns, int rows, const QSize& cell) const {
@@ -109,7 +80,7 @@ QSize ReflowGrid::SizeOf(int columns, int rows, const QSize& cell) const {
 
 // In the present columns.
 QSize ReflowGrid::CellSizeIn(const QSize& room) const {
-  const QSize preferred = PreferredSize(ShownCells());
+  const QSize preferred = PreferredSize(ShownItems());
   if (order_ == Order::ColumnByColumn) return preferred;
   const int width = (room.width() + columnGap_) / columns_ - columnGap_;
   const int share = (room.height() + rowGap_) / std::max(RowsOf(columns_), 1) - rowGap_;

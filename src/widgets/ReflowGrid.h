@@ -1,14 +1,12 @@
 // A grid of equal cells whose columns are counted anew for each size that it gets.
 #pragma once
 
-#include <QLayout>
-#include <memory>
-#include <vector>
+#include "widgets/ItemLayout.h"
 
 namespace mortane {
 
 // Hidden cells leave no gap.
-class ReflowGrid : public QLayout {
+class ReflowGrid : public ItemLayout {
  public:
   enum class Order {
     // As many columns as the width holds. Columns share the width; rows take the height that the
@@ -25,20 +23,12 @@ class ReflowGrid : public QLayout {
   // Gaps in pixels.
   ReflowGrid(Order order, int mostColumns, int columnGap, int rowGap);
 
-  void addItem(QLayoutItem* item) override;
-  [[nodiscard]] int count() const override;
-  [[nodiscard]] QLayoutItem* itemAt(int index) const override;
-  QLayoutItem* takeAt(int index) override;
-
   [[nodiscard]] Qt::Orientations expandingDirections() const override { return {}; }
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSize() const override;
   void setGeometry(const QRect& area) override;
 
  private:
-  using Cells = std::vector<QLayoutItem*>;
-
-  [[nodiscard]] Cells ShownCells() const;
   [[nodiscard]] int ColumnsIn(const QSize& room) const;
   [[nodiscard]] int RowsOf(int columns) const;
   [[nodiscard]] QSize SizeOf(int columns, int rows, const QSize& cell) const;
@@ -49,7 +39,6 @@ class ReflowGrid : public QLayout {
   int columnGap_;
   int rowGap_;
   int columns_;  // of the present size
-  std::vector<std::unique_ptr<QLayoutItem>> items_;
 };
 
 }  // namespace mortane

@@ -1,16 +1,14 @@
 #include "widgets/SectionBar.h"
 
 #include <QHelpEvent>
-#include <QLayout>
 #include <QPainter>
 #include <QPainterPath>
 #include <QtMath>
 #include <algorithm>
-#include <memory>
-#include <vector>
 
 #include "widgets/Control.h"
 #include "widgets/ElidedTip.h"
+#include "widgets/ItemLayout.h"
 #include "widgets/NotSent.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/Paint.h"
@@ -118,36 +116,24 @@ void SectionOption::paintEvent(QPaintEvent*) {
 
 // As few rows of joined options as the width holds. Where it is short they first give way at both
 // sides of their texts.
-class SectionBar::Rows : public QLayout {
+class SectionBar::Rows : public ItemLayout {
  public:
-  explicit Rows(QWidget* bar) : QLayout(bar) { setContentsMargins({}); }
-
-  void addItem(QLayoutItem* item) override { items_.emplace_back(item); }
-  [[nodiscard]] int count() const override { return static_cast<int>(items_.size()); }
-  [[nodiscard]] QLayoutItem* itemAt(int index) const override {
-    return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)].get() : nullptr;
-  }
-  QLayoutItem* takeAt(int index) override {
-    if (itemAt(index) == nullptr) return nullptr;
-    QLayoutItem* item = items_[static_cast<std::size_t>(index)].release();
-    items_.erase(items_.begin() + index);
-    return item;
-  }
+  using ItemLayout::ItemLayout;
 
   [[nodiscard]] bool hasHeightForWidth() const override { return true; }
   [[nodiscard]] int heightForWidth(int width) const override {
-    const Options options = Shown();
+    const Items options = ShownItems();
     return options.empty()
                ? 0
                : RowCount(options, width) * (HeightOf(options) + kBetweenRows) - kBetweenRows;
   }
   [[nodiscard]] QSize sizeHint() const override {
-    const Options options = Shown();
+    const Items options = ShownItems();
     return {Sum(options, 0, options.size(), &QLayoutItem::sizeHint), HeightOf(options)};
   }
   // Of one option in each row.
   [[nodiscard]] QSize minimumSize() const override {
-    const Options options = Shown();
+    const Items options = ShownItems();
     int widest = 0;
     for (const QLayoutItem* option : options)
       widest = std::max(widest, option->minimumSize().width());
@@ -155,7 +141,7 @@ class SectionBar::Rows : public QLayout {
   }
   void setGeometry(const QRect& area) override {
     QLayout::setGeometry(area);
-    const Options options = Shown();
+    const Items options = ShownItems();
     if (options.empty()) return;
     const std::size_t inRow = InRow(options, RowCount(options, area.width()));
     int top = area.top();
@@ -166,29 +152,21 @@ class SectionBar::Rows : public QLayout {
   }
 
  private:
-  using Options = std::vector<QLayoutItem*>;
   using Measure = QSize (QLayoutItem::*)() const;
 
-  [[nodiscard]] Options Shown() const {
-    Options shown;
-    for (const auto& item : items_) {
-      if (!item->isEmpty()) shown.push_back(item.get());
-    }
-    return shown;
-  }
-  static int HeightOf(const Options& options) {
+  static int HeightOf(const Items& options) {
     return options.empty() ? 0 : options[0]->sizeHint().height();
   }
-  static int Sum(const Options& options, std::size_t first, std::size_t end, Measure measure) {
+  static int Sum(const Items& options, std::size_t first, std::size_t end, Measure measure) {
     int sum = 0;
     for (std::size_t i = first; i < end; ++i) sum += (options[i]->*measure)().width();
     return sum;
   }
-  static std::size_t InRow(const Options& options, int rows) {
+  static std::size_t InRow(const Items& options, int rows) {
     const auto count = static_cast<std::size_t>(rows);
     return (options.size() + count - 1) / count;
   }
-  static int RowCount(const Options& options, int width) {
+  static int RowCount(const Items& options, int width) {
     const auto fits = [&](int rows) {
       const std::size_t inRow = InRow(options, rows);
       for (std::size_t first = 0; first < options.size(); first += inRow) {
@@ -201,8 +179,8 @@ class SectionBar::Rows : public QLayout {
     while (rows < static_cast<int>(options.size()) && !fits(rows)) ++rows;
     return rows;
   }
-  static void PlaceRow(const Options& options, std::size_t first, std::size_t end,
-                       const QRect& area, int top) {
+  static void PlaceRow(const Items& options, std::size_t first, std::size_t end, const QRect& area,
+                       int top) {
     const int wanted = Sum(options, first, end, &QLayoutItem::sizeHint);
     const int least = Sum(options, first, end, &QLayoutItem::minimumSize);
     const double given =
@@ -219,8 +197,6 @@ class SectionBar::Rows : public QLayout {
       left += width;
     }
   }
-
-  std::vector<std::unique_ptr<QLayoutItem>> items_;
 };
 
 SectionBar::SectionBar(QWidget* parent)

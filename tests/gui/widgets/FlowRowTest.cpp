@@ -57,14 +57,5 @@ TEST_F(FlowRowTest, AHiddenControlLeavesNoGap) {
   EXPECT_EQ(row->sizeHint(), QSize(190, 20));
 }
 
-TEST_F(FlowRowTest, GivesBackWhatIsTaken) {
-  EXPECT_EQ(row->itemAt(3), nullptr);
-  EXPECT_EQ(row->takeAt(-1), nullptr);
-  const std::unique_ptr<QLayoutItem> taken(row->takeAt(0));
-  ASSERT_NE(taken, nullptr);
-  EXPECT_EQ(taken->widget(), parts[0]);
-  EXPECT_EQ(row->count(), 2);
-}
-
 }  // namespace
 }  // namespace mortane

@@ -185,15 +185,6 @@ TEST_F(GridColumnByColumn, AHiddenTileLeavesNoGap) {
   EXPECT_EQ(PlaceOf(8), QPoint(0, 7 * (kTileHeight + kRowGap)));
 }
 
-TEST_F(GridColumnByColumn, GivesBackWhatIsTaken) {
-  EXPECT_EQ(layout->itemAt(9), nullptr);
-  EXPECT_EQ(layout->takeAt(-1), nullptr);
-  const std::unique_ptr<QLayoutItem> taken(layout->takeAt(0));
-  ASSERT_NE(taken, nullptr);
-  EXPECT_EQ(taken->widget(), tiles[0]);
-  EXPECT_EQ(layout->count(), 8);
-}
-
 TEST(ReflowGridInAPanel, MakesThePanelHigherWhenTheRowsBreak) {
   TestWindow window;
   auto* panel = window.Add<QWidget>();
