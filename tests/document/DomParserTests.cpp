@@ -29,6 +29,13 @@ std::string Utf16(const std::string& text, bool bigEnd = false) {
   return bytes;
 }
 
+// The same in UTF-32, little end first, without a mark.
+std::string Utf32(const std::string& text) {
+  std::string bytes;
+  for (const char c : text) bytes += c + "\0\0\0"s;
+  return bytes;
+}
+
 std::string Nested(int depth) {
   std::string text;
   for (int i = 0; i < depth; ++i) text += "<a>";
@@ -218,6 +225,16 @@ TEST(LoadText, FindsANulAmongWideCharacters) {
     DomDocument document;
     EXPECT_FALSE(document.LoadText(Utf16("<a/>\0"s, bigEnd)));
     EXPECT_EQ(document.Problem(), "the document holds a NUL character");
+  }
+}
+
+TEST(LoadText, FindsANulAmongCharactersOfFourBytes) {
+  for (const std::string& mark : {""s, "\xFF\xFE\0\0"s}) {
+    DomDocument document;
+    EXPECT_FALSE(document.LoadText(mark + Utf32("<\0a/>"s)));
+    EXPECT_EQ(document.Problem(), "the document holds a NUL character");
+    document.LoadText(mark + Utf32("<a/>"));
+    EXPECT_NE(document.Problem(), "the document holds a NUL character");
   }
 }
 

@@ -1,6 +1,7 @@
 // Counting, naming, connecting and disconnecting devices, and firmware versions.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 
 #include "common/Numbers.h"
@@ -74,6 +75,17 @@ TEST(Connect, ANegativeNumberMeansDeviceOne) {
   Rig rig("Harbour");
   EXPECT_TRUE(rig.k70.Connect(-1));
   EXPECT_EQ(rig.k70.lConnectDevice, 1);
+}
+
+TEST(Connect, ANumberOfTheListMeansThatEntryOfSeveral) {
+  for (const std::int32_t asked : {0, 1, 2}) {
+    Rig rig(List({"Quay", "Harbour", "Lantern"}));
+    EXPECT_TRUE(rig.k70.Connect(asked));
+    EXPECT_EQ(rig.k70.lConnectDevice, asked);
+    const std::vector<std::string> lines = rig.journal.Lines();
+    const std::string connects = "DeviceList.Item(" + std::to_string(asked) + ").Connect()";
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), connects), 1) << asked;
+  }
 }
 
 TEST(Connect, ChoosesTheDeviceThenConnectsThenNamesIt) {

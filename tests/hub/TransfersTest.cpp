@@ -277,5 +277,41 @@ TEST(UnitOperation, TurnsWhatTheUnitLetPassIntoALineWithItsName) {
             "Unit curFilter (beyond)");
 }
 
+// Raises what no unit catches, in place of the calls that the units' readings make.
+class BrokenLibrary : public controller::DecoratedLibrary {
+ public:
+  using DecoratedLibrary::DecoratedLibrary;
+  bool broken = false;
+
+ protected:
+  controller::Value Around(const controller::CallSite& site,
+                           const controller::Proceed& proceed) override {
+    const std::string path = site.Path();
+    const bool ofUnits = path.find_first_of(".(") != std::string::npos &&
+                         !path.starts_with("DeviceList") && !path.ends_with("Positions") &&
+                         !path.ends_with("Positions.Count");
+    if (broken && ofUnits) throw std::out_of_range("beyond");
+    return proceed();
+  }
+};
+
+TEST(Receive, NamesTheUnitWhoseFailureNoOneExpected) {
+  RigLibrary inner(benches::Named("Harbour"));
+  BrokenLibrary library(inner.library);
+  clsK70 k70(library, inner.prompts);
+  k70.Initialize();
+  ASSERT_TRUE(k70.Connect(1));
+  library.broken = true;
+  std::string lines;
+  for (const char* unit :
+       {"curNosepiece", "DbNosepiece", "curLimit", "curFilter", "dbFilter", "Exciter", "Dichroic",
+        "Barrier", "curCondenser", "dbcon", "ILObservation", "ILOther", "ILOffset", "CZDrive",
+        "CXYDrive", "COther", "curSwitch", "curTactor"}) {
+    lines += (lines.empty() ? "Unit " : "\r\nUnit ") + std::string(unit) + " (beyond)";
+  }
+  inner.prompts.ExpectBox(lines, box::kCritical);
+  k70.Receive();
+}
+
 }  // namespace
 }  // namespace mortane::test

@@ -1,6 +1,7 @@
 // Boxes whose text is longer than the screen is high.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -118,6 +119,14 @@ TEST(ScrollingBox, ShowsItsWholeTextAndLetsItBeCopied) {
     EXPECT_EQ(edit.toPlainText(), expected) << "it cannot be changed";
     QTest::keyClick(&edit, Qt::Key_Tab);
     EXPECT_EQ(box.focusWidget(), box.defaultButton()) << "the Tab key leaves it";
+  });
+}
+
+TEST(ScrollingBox, TellsItsTitleAsTheNameOfItsText) {
+  Show(Lines(1000), [](QMessageBox& box) {
+    EXPECT_EQ(Scrolling(box)->accessibleName(), "Send");
+    auto* told = QAccessible::queryAccessibleInterface(Scrolling(box));
+    EXPECT_EQ(told->text(QAccessible::Name), "Send");
   });
 }
 

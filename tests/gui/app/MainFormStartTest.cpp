@@ -93,6 +93,14 @@ TEST(MainForm, LoadingShowsTheVersionAndTheSystemPage) {
   EXPECT_TRUE(rig.journal.Lines().empty());
 }
 
+TEST(MainForm, TellsTheVersionInTheSmallLetterOfCaptions) {
+  AppRig rig(benches::Named("Harbour"));
+  rig.form->Load();
+  const QLabel& version = rig.Find<QLabel>("StatusBar1_5");
+  EXPECT_DOUBLE_EQ(version.font().pointSizeF(), QApplication::font().pointSizeF() * 0.92);
+  EXPECT_EQ(version.foregroundRole(), QPalette::PlaceholderText);
+}
+
 TEST(MainForm, PagesLieOnTopOfEachOther) {
   FakePages fakes;
   AppRig rig(benches::Named("Harbour"), {}, fakes.Table());

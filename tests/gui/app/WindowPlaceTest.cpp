@@ -3,6 +3,7 @@
 
 #include <QRadioButton>
 #include <QScreen>
+#include <QStyle>
 #include <filesystem>
 
 #include "AppRig.h"
@@ -66,6 +67,19 @@ TEST_F(Place, AtTheEdgesOfTheScreenStaysThere) {
   Leave(half);
   Session session(file);
   EXPECT_EQ(session.form->size(), half.size());
+}
+
+// The room of a window: 8 pixels within the edges of the screen, below the title.
+TEST_F(Place, AsLargeAsTheRoomStaysAndALargerOneIsCutToIt) {
+  const int title = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const QRect room = Screen().adjusted(8, title, -8, -8);
+  for (const QSize& size : {QSize(700, room.height()), QSize(room.width(), 520)}) {
+    const QRect fitting(room.topLeft(), size);
+    Leave(fitting);
+    EXPECT_EQ(Session(file).form->geometry(), fitting);
+    Leave(fitting.adjusted(0, 0, size.width() == 700 ? 0 : 1, size.height() == 520 ? 0 : 1));
+    EXPECT_EQ(Session(file).form->geometry(), fitting);
+  }
 }
 
 TEST_F(Place, OfTheFirstSessionIsTheOpeningSize) {
