@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "controller/SimulatedRig.h"
 
 namespace mortane::controller::test {
@@ -147,6 +149,32 @@ TEST(SimulatedLibrary, BearsABenchThatShrinksUnderItsObjects) {
   crowd.bench().instruments.resize(1);
   EXPECT_THROW(nosepieces.Count(), ControllerError);
   EXPECT_EQ(alpha.DeviceList().Count(), 1);
+}
+
+std::string TextOf(const std::function<void()>& call) {
+  try {
+    call();
+  } catch (const ControllerError& error) {
+    return error.Description();
+  }
+  return {};
+}
+
+TEST(DeviceEntry, OfADeviceThatHasGoneRaisesItsNumber) {
+  SimulatedLibrary crowd(benches::Named("Crowd"));
+  const DeviceEntry entry = NewRoot(crowd).DeviceList().Item(3);
+  entry.Connect();
+  crowd.bench().instruments.resize(2);
+  EXPECT_EQ(TextOf([&] { entry.Name(); }), "No device 3.");
+  EXPECT_EQ(TextOf([&] { entry.Connect(); }), "No device 3.");
+  EXPECT_EQ(TextOf([&] { entry.Disconnect(); }), "No device 3.");
+}
+
+TEST(Microscope, NamesTheAccessoryThatIsNotFitted) {
+  SimulatedRig rig("Harbour");
+  rig.instrument().Accessory(accessory::kNosepiece).state = 0;
+  EXPECT_EQ(TextOf([&] { rig.root.NosepieceDevice().PutPosition(2); }),
+            "Accessory 9 is not fitted.");
 }
 
 struct MemberRow {

@@ -101,6 +101,43 @@ TEST_F(FewLines, WhatIsNotToldHasItsDefaultAndIsListed) {
   EXPECT_TRUE(Has(made, "device 0 \"\": everything but its name: it was not connected"));
 }
 
+TEST_F(FewLines, OfADriveThatIsFittedNoAnswerTellsItsSpeed) {
+  const std::string device = "device 1 \"Room 12\": ";
+  const std::string z = device + "ZDriveDevice: speed, travel, MoveProfile and MoveOption";
+  const std::string xy = device + "XYDriveDevice: speed, travel and MoveProfile";
+  const SessionBench focus = MadeConnected({"#5 get ZDriveDevice.AccessoryState.State -> 1"});
+  EXPECT_TRUE(Has(focus, z));
+  EXPECT_FALSE(Has(focus, xy));
+  const SessionBench stage = MadeConnected({"#5 get XYDriveDevice.AccessoryState.State -> 1"});
+  EXPECT_FALSE(Has(stage, z));
+  EXPECT_TRUE(Has(stage, xy));
+}
+
+TEST_F(FewLines, ACountThatIsNoNumberIsNotTold) {
+  const SessionBench made = MadeConnected({"#5 get NosepieceDevice.AccessoryState.State -> 1",
+                                           "#5 get NosepieceDevice.Positions.Count -> \"three\""});
+  EXPECT_TRUE(made.bench.instruments[1].nosepiece.empty());
+  EXPECT_TRUE(Has(made, "device 1 \"Room 12\": NosepieceDevice.Positions.Count"));
+}
+
+struct CodeRow {
+  const char* answer;
+  std::int32_t adoptive;
+};
+
+TEST_F(FewLines, TheLastDigitOfAnObjectivesCodeIsItsCondenser) {
+  for (const CodeRow& row : {CodeRow{"ONR11230FA0C63B60", 0}, CodeRow{"ONR11230FA0C63B69", 9},
+                             CodeRow{"ONR11230FA0C63B6/", 0}, CodeRow{"ONR11230FA0C63B6:", 0},
+                             CodeRow{"ONR11230FA0C63B6A", 0}}) {
+    const SessionBench made =
+        MadeConnected({"#6 get AccessoryDatabase.Nosepieces.Item(1).Code -> 241",
+                       std::string("#1 call QueryCommand(\"rONR1\") -> \"") + row.answer + "\""});
+    const ObjectiveData& objective = made.bench.instruments[1].database.objectives.at(0);
+    EXPECT_EQ(objective.adoptive, row.adoptive) << row.answer;
+    EXPECT_EQ(objective.answer, row.answer);
+  }
+}
+
 TEST_F(FewLines, OfEachThingTheFirstAnswerCounts) {
   const SessionBench made = MadeConnected(
       {"#7 get ControllerSettings.EscapeMode -> 2", "#7 put ControllerSettings.EscapeMode = 3",

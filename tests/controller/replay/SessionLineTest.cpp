@@ -57,6 +57,8 @@ TEST(SessionLine, OfAnotherFormIsRefused) {
                            "0.1 0.1 #1",
                            "a 0.1 #1 get X -> 1",
                            "0.1 b #1 get X -> 1",
+                           "0.1x 0.1 #1 get X -> 1",
+                           "0.1 0.1x #1 get X -> 1",
                            "0.1 0.1 1 get X -> 1",
                            "0.1 0.1 # get X -> 1",
                            "0.1 0.1 #1x get X -> 1",
