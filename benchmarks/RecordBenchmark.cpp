@@ -10,6 +10,7 @@
 #include "record/Differences.h"
 #include "record/ModelItems.h"
 #include "record/Report.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane {
 namespace {

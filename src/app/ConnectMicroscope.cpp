@@ -4,6 +4,7 @@
 
 #include "common/Text.h"
 #include "hub/DeviceAvailability.h"
+#include "hub/clsK70.h"
 
 namespace mortane {
 namespace {

@@ -7,10 +7,12 @@
 #include <vector>
 
 #include "app/Outcome.h"
+#include "common/Prompts.h"
 #include "controller/ControllerObject.h"
-#include "hub/clsK70.h"
 
 namespace mortane {
+
+class clsK70;
 
 // What the start path works on.
 struct StartPath {

@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "app/SwitchTabs.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
 #include "hub/clsK70.h"
 #include "switches/GTJoy.h"
 #include "widgets/SectionBar.h"

@@ -8,6 +8,8 @@
 #include "common/Failure.h"
 #include "common/Text.h"
 #include "hub/SettingsFile.h"
+#include "hub/clsK70.h"
+#include "model/FileWords.h"
 #include "record/ItemIndex.h"
 #include "record/ModelItems.h"
 #include "record/SentItems.h"

@@ -17,6 +17,7 @@
 #include "app/Manual.h"
 #include "app/SelScopeDlg.h"
 #include "app/SettingsFiles.h"
+#include "common/Failure.h"
 #include "hub/DeviceAvailability.h"
 #include "hub/clsK70.h"
 #include "platform/AtomicFile.h"

@@ -1,6 +1,7 @@
 #include "condensers/clsCondenser.h"
 
 #include "model/OptionCodes.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 namespace {

@@ -1,5 +1,7 @@
 #include "condensers/clsDbCondenser.h"
 
+#include "common/Failure.h"
+
 namespace mortane {
 namespace {
 

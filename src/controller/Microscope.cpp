@@ -1,5 +1,6 @@
 #include "controller/Microscope.h"
 
+#include "common/Failure.h"
 #include "controller/AccessoryNumber.h"
 
 namespace mortane::controller {

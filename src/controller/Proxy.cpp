@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "common/Failure.h"
 #include "common/Numbers.h"
 
 namespace mortane::controller {

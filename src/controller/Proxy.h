@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "controller/ControllerError.h"
 #include "controller/ControllerObject.h"
 
 namespace mortane::controller {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <ostream>
 
+#include "common/Failure.h"
 #include "common/Text.h"
 #include "controller/simulator/Benches.h"
 #include "controller/simulator/SimulatedLibrary.h"

@@ -4,6 +4,7 @@
 #include <istream>
 #include <ostream>
 
+#include "common/Failure.h"
 #include "common/Text.h"
 #include "ctl/ResultJson.h"
 #include "ctl/ResultText.h"

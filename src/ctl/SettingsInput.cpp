@@ -4,8 +4,10 @@
 #include <array>
 #include <istream>
 
+#include "common/Failure.h"
 #include "common/Text.h"
 #include "ctl/Outcome.h"
+#include "hub/clsK70.h"
 #include "platform/AtomicFile.h"
 
 namespace mortane::ctl {

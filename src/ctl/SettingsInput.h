@@ -8,7 +8,10 @@
 #include "ctl/ConsolePrompts.h"
 #include "ctl/Surroundings.h"
 #include "document/Dom.h"
-#include "hub/clsK70.h"
+
+namespace mortane {
+class clsK70;
+}  // namespace mortane
 
 namespace mortane::ctl {
 

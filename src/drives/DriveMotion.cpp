@@ -1,8 +1,9 @@
 #include "drives/DriveMotion.h"
 
-#include "common/ErrorTrap.h"
-
 #include <limits>
+
+#include "common/ErrorTrap.h"
+#include "common/Failure.h"
 
 namespace mortane {
 namespace {
@@ -18,6 +19,16 @@ std::int32_t CheckedTarget(std::int32_t position, std::int32_t delta) {
 }
 
 }  // namespace
+
+bool DriveMotion::Run(std::string_view name, const std::function<void()>& operation) const {
+  try {
+    operation();
+    return true;
+  } catch (const Failure&) {
+    ShowError(name);
+    return false;
+  }
+}
 
 std::int32_t DriveMotion::Position(const DriveAxis& axis) const {
   std::int32_t position = 0;

@@ -2,12 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <utility>
 
-#include "common/Failure.h"
 #include "model/ConnectedMicroscope.h"
 
 namespace mortane {
@@ -32,16 +31,7 @@ class DriveMotion {
   explicit DriveMotion(const ConnectedMicroscope& microscope) : microscope_(microscope) {}
 
   // Runs the operation of that name; answers whether it succeeded.
-  template <typename Operation>
-  bool Run(std::string_view name, Operation&& operation) const {
-    try {
-      std::forward<Operation>(operation)();
-      return true;
-    } catch (const Failure&) {
-      ShowError(name);
-      return false;
-    }
-  }
+  bool Run(std::string_view name, const std::function<void()>& operation) const;
 
   std::int32_t Position(const DriveAxis& axis) const;
 

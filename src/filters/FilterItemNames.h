@@ -2,22 +2,18 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "document/Dom.h"
+#include "filters/FilterItem.h"
 #include "model/ConnectedMicroscope.h"
 #include "model/OptionNames.h"
 
 namespace mortane {
 
-// The items of a filter cube, in the order in which a cube names them.
-enum class FilterItem : std::size_t { Exciter, Dichroic, Barrier };
-inline constexpr std::size_t kFilterItems = 3;
-
-// Their elements in a settings file.
+// The elements of a cube's items in a settings file.
 inline constexpr std::array<std::string_view, kFilterItems> kFilterItemElements{
     "EXCITER", "DICHROIC", "BARRIER"};
 
@@ -55,9 +51,5 @@ class FilterItemNames {
  private:
   OptionNames names_{FilterItemKind(kItem)};
 };
-
-using clsDbExciter = FilterItemNames<FilterItem::Exciter>;
-using clsDbDichroic = FilterItemNames<FilterItem::Dichroic>;
-using clsDbBarrier = FilterItemNames<FilterItem::Barrier>;
 
 }  // namespace mortane

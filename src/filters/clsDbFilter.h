@@ -10,9 +10,10 @@
 #include "document/Dom.h"
 #include "filters/FilterItemNames.h"
 #include "model/ConnectedMicroscope.h"
-#include "model/UnitReport.h"
 
 namespace mortane {
+
+class WriteReport;
 
 // The codes of a cube's three items; 0 stands for no item.
 struct FilterCubeItems {

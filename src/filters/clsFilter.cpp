@@ -1,6 +1,7 @@
 #include "filters/clsFilter.h"
 
 #include "model/OptionCodes.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 namespace {

@@ -1,5 +1,6 @@
 #include "hub/DeviceAvailability.h"
 
+#include "common/Failure.h"
 #include "controller/Microscope.h"
 
 namespace mortane {

@@ -6,7 +6,23 @@
 #include "common/FailureText.h"
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "condensers/clsCondenser.h"
+#include "condensers/clsDbCondenser.h"
 #include "controller/ControllerNumbers.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
+#include "filters/FilterItemNames.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOffset.h"
+#include "interlocks/clsInterLockOther.h"
+#include "objectives/clsDbNosepiece.h"
+#include "objectives/clsLimitation.h"
+#include "objectives/clsNosepiece.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane {
 namespace {
@@ -23,8 +39,53 @@ Instance& TheInstance() {
 
 }  // namespace
 
+// Some units are declared before the sibling they refer to: a unit's constructor may keep such a
+// reference but must not use it.
+struct clsK70::Units {
+  explicit Units(ConnectedMicroscope& owner) : microscope(owner) {}
+
+  ConnectedMicroscope& microscope;
+  clsNosepiece curNosepiece{microscope, DbNosepiece};
+  clsDbNosepiece DbNosepiece{microscope};
+  clsLimitation curLimit{microscope};
+  clsFilter curFilter{microscope, dbFilter};
+  clsDbFilter dbFilter{microscope, Exciter, Dichroic, Barrier};
+  clsDbExciter Exciter{microscope};
+  clsDbDichroic Dichroic{microscope};
+  clsDbBarrier Barrier{microscope};
+  clsCondenser curCondenser{microscope, dbcon};
+  clsDbCondenser dbcon{microscope};
+  clsInterLockObservation ILObservation{microscope};
+  clsInterLockOther ILOther{microscope};
+  clsInterLockOffset ILOffset{microscope};
+  clsControlZDrive CZDrive{microscope};
+  clsControlXYDrive CXYDrive{microscope};
+  clsControlOther COther{microscope};
+  clsControlTactor curTactor{microscope};
+  clsDbSwitch curSwitch{microscope};
+};
+
 clsK70::clsK70(controller::ControllerLibrary& library, Prompts& prompts, NamedMutexMaker makeMutex)
     : ConnectedMicroscope(prompts),
+      units_(std::make_unique<Units>(*this)),
+      curNosepiece(units_->curNosepiece),
+      DbNosepiece(units_->DbNosepiece),
+      curLimit(units_->curLimit),
+      curFilter(units_->curFilter),
+      dbFilter(units_->dbFilter),
+      Exciter(units_->Exciter),
+      Dichroic(units_->Dichroic),
+      Barrier(units_->Barrier),
+      curCondenser(units_->curCondenser),
+      dbcon(units_->dbcon),
+      ILObservation(units_->ILObservation),
+      ILOther(units_->ILOther),
+      ILOffset(units_->ILOffset),
+      CZDrive(units_->CZDrive),
+      CXYDrive(units_->CXYDrive),
+      COther(units_->COther),
+      curTactor(units_->curTactor),
+      curSwitch(units_->curSwitch),
       library_(library),
       makeMutex_(std::move(makeMutex)),
       turrets_{
@@ -128,6 +189,10 @@ void clsK70::FillTables() {
       MakeFileElement(fileitem::kSwitch, curSwitch),
       MakeFileElement(fileitem::kTactor, curTactor),
   };
+}
+
+bool clsK70::IsInterlockEnable() const {
+  return ILObservation.IsEnable() || ILOther.IsEnable() || ILOffset.IsEnable();
 }
 
 std::int16_t clsK70::FileItem(std::int16_t pos) const {

@@ -9,33 +9,38 @@
 #include <string_view>
 #include <vector>
 
-#include "condensers/clsCondenser.h"
-#include "condensers/clsDbCondenser.h"
-#include "drives/clsControlOther.h"
-#include "drives/clsControlXYDrive.h"
-#include "drives/clsControlZDrive.h"
-#include "filters/FilterItemNames.h"
-#include "filters/clsDbFilter.h"
-#include "filters/clsFilter.h"
+#include "filters/FilterItem.h"
 #include "hub/SettingsFile.h"
 #include "hub/Transfers.h"
 #include "hub/clsMutex.h"
-#include "interlocks/clsInterLockObservation.h"
-#include "interlocks/clsInterLockOffset.h"
-#include "interlocks/clsInterLockOther.h"
 #include "model/ConnectedMicroscope.h"
-#include "objectives/clsDbNosepiece.h"
-#include "objectives/clsLimitation.h"
-#include "objectives/clsNosepiece.h"
-#include "switches/clsControlTactor.h"
-#include "switches/clsDbSwitch.h"
 
 namespace mortane {
+
+class clsCondenser;
+class clsControlOther;
+class clsControlTactor;
+class clsControlXYDrive;
+class clsControlZDrive;
+class clsDbCondenser;
+class clsDbFilter;
+class clsDbNosepiece;
+class clsDbSwitch;
+class clsFilter;
+class clsInterLockObservation;
+class clsInterLockOffset;
+class clsInterLockOther;
+class clsLimitation;
+class clsNosepiece;
 
 // A running program has one, which GetK70 returns. Failures of the controller become boxes and
 // lines of reports. Only ReadMicVer, the first step of Modify, and readers of a file with data that
 // no conversion can take raise a Failure to the caller.
 class clsK70 : public ConnectedMicroscope {
+  // Before the references to what it holds.
+  struct Units;
+  std::unique_ptr<Units> units_;
+
  public:
   // Makes the units; makes no call to the library.
   clsK70(controller::ControllerLibrary& library, Prompts& prompts,
@@ -51,31 +56,28 @@ class clsK70 : public ConnectedMicroscope {
   // The system name as last read or edited; a controller holds 15 characters of it.
   std::string SystemName;
 
-  // The configuration units. Some are declared before the sibling they refer to: a unit's
-  // constructor may keep such a reference but must not use it.
-  clsNosepiece curNosepiece{*this, DbNosepiece};
-  clsDbNosepiece DbNosepiece{*this};
-  clsLimitation curLimit{*this};
-  clsFilter curFilter{*this, dbFilter};
-  clsDbFilter dbFilter{*this, Exciter, Dichroic, Barrier};
-  clsDbExciter Exciter{*this};
-  clsDbDichroic Dichroic{*this};
-  clsDbBarrier Barrier{*this};
-  clsCondenser curCondenser{*this, dbcon};
-  clsDbCondenser dbcon{*this};
-  clsInterLockObservation ILObservation{*this};
-  clsInterLockOther ILOther{*this};
-  clsInterLockOffset ILOffset{*this};
-  clsControlZDrive CZDrive{*this};
-  clsControlXYDrive CXYDrive{*this};
-  clsControlOther COther{*this};
-  clsControlTactor curTactor{*this};
-  clsDbSwitch curSwitch{*this};
+  // The configuration units. References, so that who uses one of them depends on no other.
+  clsNosepiece& curNosepiece;
+  clsDbNosepiece& DbNosepiece;
+  clsLimitation& curLimit;
+  clsFilter& curFilter;
+  clsDbFilter& dbFilter;
+  clsDbExciter& Exciter;
+  clsDbDichroic& Dichroic;
+  clsDbBarrier& Barrier;
+  clsCondenser& curCondenser;
+  clsDbCondenser& dbcon;
+  clsInterLockObservation& ILObservation;
+  clsInterLockOther& ILOther;
+  clsInterLockOffset& ILOffset;
+  clsControlZDrive& CZDrive;
+  clsControlXYDrive& CXYDrive;
+  clsControlOther& COther;
+  clsControlTactor& curTactor;
+  clsDbSwitch& curSwitch;
 
   // Whether one of the three units of the interlocks is enabled.
-  bool IsInterlockEnable() const {
-    return ILObservation.IsEnable() || ILOther.IsEnable() || ILOffset.IsEnable();
-  }
+  bool IsInterlockEnable() const;
 
   // Which sections of a settings file are present and wanted: -1 yes, 0 no. Positions 0 to 9;
   // others read 0 and store nothing.

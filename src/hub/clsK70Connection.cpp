@@ -1,4 +1,5 @@
 // Connection, and detection of controllers and accessories.
+#include "common/Failure.h"
 #include "common/FailureText.h"
 #include "common/Text.h"
 #include "hub/AccessoryTable.h"

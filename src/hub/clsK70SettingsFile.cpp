@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "common/Failure.h"
 #include "common/Text.h"
 #include "hub/clsK70.h"
 

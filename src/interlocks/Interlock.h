@@ -11,7 +11,6 @@
 #include "common/CheckedIndex.h"
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
-#include "model/UnitReport.h"
 
 namespace mortane {
 

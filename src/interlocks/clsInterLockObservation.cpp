@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "controller/ControllerNumbers.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 namespace {

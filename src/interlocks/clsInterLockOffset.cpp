@@ -5,6 +5,7 @@
 #include "controller/ControllerNumbers.h"
 #include "interlocks/Interlock.h"
 #include "model/ElementFields.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 namespace {

@@ -7,6 +7,7 @@
 #include "controller/ControllerNumbers.h"
 #include "interlocks/OtherAccessories.h"
 #include "model/FirmwareVersion.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 namespace {

@@ -2,6 +2,7 @@
 
 #include "common/CheckedIndex.h"
 #include "model/ElementFields.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 namespace {

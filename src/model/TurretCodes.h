@@ -10,9 +10,10 @@
 
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
-#include "model/UnitReport.h"
 
 namespace mortane {
+
+class WriteReport;
 
 // Constants of one turret. Labels end with the bracket that opens the number.
 struct TurretKind {

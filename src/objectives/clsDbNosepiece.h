@@ -10,7 +10,6 @@
 #include "controller/AccessoryDatabase.h"
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
-#include "model/UnitReport.h"
 #include "objectives/AdoptiveCondensers.h"
 #include "objectives/ObjectiveCode.h"
 #include "objectives/ObjectiveLists.h"
@@ -18,6 +17,7 @@
 namespace mortane {
 
 class ErrorTrap;
+class WriteReport;
 
 // The longest name of an objective, and how much of it the page of the user's objectives shows.
 inline constexpr std::size_t kObjectiveNameLength = 20;

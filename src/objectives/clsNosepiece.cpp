@@ -1,7 +1,9 @@
 #include "objectives/clsNosepiece.h"
 
+#include "common/Failure.h"
 #include "common/Numbers.h"
 #include "model/OptionCodes.h"
+#include "model/UnitReport.h"
 
 namespace mortane {
 namespace {

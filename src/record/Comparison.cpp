@@ -5,9 +5,14 @@
 #include <optional>
 #include <utility>
 
+#include "common/Failure.h"
 #include "common/Text.h"
 #include "controller/ControllerNumbers.h"
+#include "drives/clsControlOther.h"
+#include "hub/clsK70.h"
+#include "interlocks/Interlock.h"
 #include "interlocks/OtherAccessories.h"
+#include "model/FileWords.h"
 #include "record/ItemIndex.h"
 #include "record/ModelItems.h"
 #include "record/SentItems.h"

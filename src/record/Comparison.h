@@ -4,12 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "hub/clsK70.h"
 #include "record/ConfigurationItems.h"
 #include "record/Differences.h"
 #include "record/ItemNames.h"
 
 namespace mortane {
+
+class clsK70;
 
 // A configuration with the names that belong to its codes.
 struct ConfigurationState {

@@ -4,7 +4,12 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "condensers/clsDbCondenser.h"
+#include "filters/FilterItemNames.h"
+#include "filters/clsDbFilter.h"
+#include "hub/clsK70.h"
 #include "objectives/ObjectiveCode.h"
+#include "objectives/clsDbNosepiece.h"
 
 namespace mortane {
 namespace {

@@ -8,10 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "hub/clsK70.h"
 #include "record/ConfigurationItems.h"
 
 namespace mortane {
+
+class clsK70;
 
 // The lists of names that codes of items point into.
 enum class CodeList : std::size_t {

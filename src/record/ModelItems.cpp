@@ -4,8 +4,16 @@
 #include <optional>
 
 #include "common/Numbers.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
+#include "hub/clsK70.h"
 #include "interlocks/ObservationAccessories.h"
 #include "interlocks/OtherAccessories.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOther.h"
+#include "objectives/clsDbNosepiece.h"
+#include "objectives/clsLimitation.h"
 
 namespace mortane {
 namespace {

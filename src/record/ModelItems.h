@@ -3,10 +3,11 @@
 
 #include <vector>
 
-#include "hub/clsK70.h"
 #include "record/ConfigurationItems.h"
 
 namespace mortane {
+
+class clsK70;
 
 // What a settings file of the model would hold, with the exact values behind its texts. Raises a
 // Failure for a text that XML cannot hold.

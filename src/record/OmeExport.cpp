@@ -6,7 +6,12 @@
 #include "common/Numbers.h"
 #include "common/Text.h"
 #include "document/Dom.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
+#include "hub/clsK70.h"
+#include "model/OptionCodes.h"
 #include "objectives/clsDbNosepiece.h"
+#include "objectives/clsNosepiece.h"
 #include "record/SafeText.h"
 
 namespace mortane {

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "hub/clsK70.h"
-
 namespace mortane {
+
+class clsK70;
 
 // An <Instrument> of the schema of June 2016: the microscope, an objective for each mounted one,
 // a filter set for each mounted cube with its filters and its mirror. Ids come from the addresses,

@@ -4,6 +4,7 @@
 #include <ctime>
 
 #include "hub/AccessoryTable.h"
+#include "hub/clsK70.h"
 
 namespace mortane {
 namespace {

@@ -6,6 +6,7 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "model/OptionCodes.h"
 #include "objectives/clsDbNosepiece.h"
 #include "record/ItemIndex.h"
 #include "record/ItemWords.h"

@@ -3,10 +3,18 @@
 #include <algorithm>
 
 #include "common/Numbers.h"
+#include "condensers/clsCondenser.h"
+#include "drives/clsControlZDrive.h"
+#include "filters/clsFilter.h"
+#include "hub/clsK70.h"
 #include "interlocks/ObservationAccessories.h"
 #include "interlocks/OtherAccessories.h"
 #include "interlocks/clsInterLockOffset.h"
 #include "model/OptionRecords.h"
+#include "objectives/clsLimitation.h"
+#include "objectives/clsNosepiece.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane {
 namespace {

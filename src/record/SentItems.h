@@ -7,11 +7,12 @@
 #include <set>
 #include <string_view>
 
-#include "hub/clsK70.h"
 #include "record/ConfigurationItems.h"
 #include "record/ItemNames.h"
 
 namespace mortane {
+
+class clsK70;
 
 // The row of the transfers that reads and writes the items of a kind; empty for a kind that is
 // never sent.

@@ -2,6 +2,7 @@
 
 #include "common/CheckedIndex.h"
 #include "common/DigitCode.h"
+#include "model/UnitReport.h"
 #include "switches/SwitchFunctions.h"
 
 namespace mortane {

@@ -9,7 +9,6 @@
 
 #include "document/Dom.h"
 #include "model/ConnectedMicroscope.h"
-#include "model/UnitReport.h"
 
 namespace mortane {
 

@@ -5,6 +5,7 @@
 #include "common/Numbers.h"
 #include "controller/ControllerNumbers.h"
 #include "model/ElementFields.h"
+#include "model/UnitReport.h"
 #include "switches/ShortNumber.h"
 
 namespace mortane {

@@ -3,6 +3,7 @@
 #include "common/DigitCode.h"
 #include "controller/ControllerNumbers.h"
 #include "model/ElementFields.h"
+#include "model/UnitReport.h"
 #include "switches/SwitchFunctions.h"
 
 namespace mortane {

@@ -8,6 +8,7 @@
 #include "drives/ControlOtherCtl.h"
 #include "drives/ControlXYStageCtl.h"
 #include "hub/clsK70.h"
+#include "interlocks/clsInterLockOffset.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/PageHeader.h"

@@ -1,5 +1,7 @@
 #include "wizard/SetupItems.h"
 
+#include "drives/clsControlOther.h"
+#include "drives/clsControlZDrive.h"
 #include "hub/clsK70.h"
 #include "model/FirmwareVersion.h"
 

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <set>
 
+#include "common/Failure.h"
 #include "controller/SimulatedRig.h"
 
 namespace mortane::controller::test {

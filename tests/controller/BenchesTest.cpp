@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <set>
 
+#include "common/Failure.h"
 #include "common/Numbers.h"
 #include "common/Text.h"
 #include "controller/SimulatedRig.h"

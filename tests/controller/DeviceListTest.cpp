@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "controller/ControllerError.h"
 #include "controller/SimulatedRig.h"
 
 namespace mortane::controller::test {

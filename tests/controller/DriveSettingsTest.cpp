@@ -1,6 +1,7 @@
 // What the drives hold and who may write it; how they move: DrivesTest.
 #include <gtest/gtest.h>
 
+#include "controller/ControllerError.h"
 #include "controller/DriveRig.h"
 
 namespace mortane::controller::test {

@@ -3,6 +3,7 @@
 #include <limits>
 #include <optional>
 
+#include "controller/ControllerError.h"
 #include "controller/DriveRig.h"
 #include "controller/simulator/RealClock.h"
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "controller/ControllerError.h"
 #include "controller/Faults.h"
 #include "controller/Latency.h"
 #include "controller/SimulatedRig.h"

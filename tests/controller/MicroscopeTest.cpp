@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "controller/ControllerError.h"
 #include "controller/SimulatedRig.h"
 
 namespace mortane::controller::test {

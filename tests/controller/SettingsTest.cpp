@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "common/DigitCode.h"
+#include "controller/ControllerError.h"
 #include "controller/SimulatedRig.h"
 
 namespace mortane::controller::test {

@@ -5,6 +5,8 @@
 
 #include <filesystem>
 
+#include "common/Failure.h"
+#include "controller/ControllerError.h"
 #include "controller/SimulatedRig.h"
 #include "controller/simulator/BenchFile.h"
 #include "support/TempFolder.h"

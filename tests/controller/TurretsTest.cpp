@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "common/Failure.h"
+#include "controller/ControllerError.h"
 #include "controller/SimulatedRig.h"
 
 namespace mortane::controller::test {

@@ -3,6 +3,8 @@
 
 #include <limits>
 
+#include "common/Failure.h"
+#include "controller/ControllerError.h"
 #include "controller/FiberIlluminator.h"
 #include "controller/Journal.h"
 #include "controller/SimulatedRig.h"

@@ -1,6 +1,8 @@
 // The settings of the focus drive, beyond the drill.
 #include "drives/DriveRig.h"
 
+#include "common/Failure.h"
+
 namespace mortane::test {
 namespace {
 

@@ -1,6 +1,8 @@
 // The compensation and the positions of the stage, beyond the drill.
 #include "drives/DriveRig.h"
 
+#include "common/Failure.h"
+
 namespace mortane::test {
 namespace {
 

@@ -2,6 +2,8 @@
 #include "controller/Latency.h"
 #include "drives/DriveRig.h"
 
+#include "common/Failure.h"
+
 namespace mortane::test {
 namespace {
 

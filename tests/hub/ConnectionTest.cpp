@@ -5,6 +5,7 @@
 #include <array>
 
 #include "common/Numbers.h"
+#include "controller/ControllerError.h"
 #include "support/Rig.h"
 
 namespace mortane::test {

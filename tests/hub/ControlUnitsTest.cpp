@@ -3,6 +3,11 @@
 
 #include <algorithm>
 
+#include "condensers/clsDbCondenser.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
+#include "objectives/clsNosepiece.h"
 #include "support/Rig.h"
 #include "support/TempFolder.h"
 

@@ -1,6 +1,11 @@
 // The filter units side by side, in transfers and in the settings file.
 #include <gtest/gtest.h>
 
+#include "condensers/clsCondenser.h"
+#include "filters/FilterItemNames.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
+#include "objectives/clsNosepiece.h"
 #include "support/Rig.h"
 #include "support/TempFolder.h"
 

@@ -1,6 +1,7 @@
 // The microscope object's own small members, its device name lock and its life.
 #include <gtest/gtest.h>
 
+#include "common/Failure.h"
 #include "support/RefusedMutex.h"
 #include "support/Rig.h"
 

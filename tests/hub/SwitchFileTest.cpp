@@ -1,8 +1,11 @@
 // The switch units in the settings file, and the hand controller's file of its own.
 #include <gtest/gtest.h>
 
+#include "common/Failure.h"
 #include "support/Rig.h"
 #include "support/TempFolder.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane::test {
 namespace {

@@ -3,7 +3,10 @@
 
 #include <algorithm>
 
+#include "condensers/clsDbCondenser.h"
 #include "support/Rig.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane::test {
 namespace {

@@ -1,6 +1,8 @@
 // Receive, Send and Modify as far as the microscope object itself goes.
 #include <gtest/gtest.h>
 
+#include "common/Failure.h"
+#include "controller/ControllerError.h"
 #include "support/Rig.h"
 
 namespace mortane::test {

@@ -3,6 +3,9 @@
 
 #include <functional>
 
+#include "condensers/clsCondenser.h"
+#include "filters/clsFilter.h"
+#include "objectives/clsNosepiece.h"
 #include "support/Rig.h"
 
 namespace mortane::test {

@@ -4,6 +4,18 @@
 #include <algorithm>
 #include <map>
 
+#include "common/Failure.h"
+#include "condensers/clsCondenser.h"
+#include "condensers/clsDbCondenser.h"
+#include "filters/FilterItemNames.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOffset.h"
+#include "interlocks/clsInterLockOther.h"
+#include "objectives/clsDbNosepiece.h"
+#include "objectives/clsLimitation.h"
+#include "objectives/clsNosepiece.h"
 #include "support/Rig.h"
 #include "support/TempFolder.h"
 

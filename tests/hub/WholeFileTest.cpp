@@ -8,6 +8,7 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "drives/clsControlOther.h"
 #include "platform/AtomicFile.h"
 #include "support/RandomModel.h"
 #include "support/Rig.h"

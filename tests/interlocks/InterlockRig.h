@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/Failure.h"
 #include "interlocks/InterlockStates.h"
 #include "interlocks/InterlockUnits.h"
 #include "support/UnitText.h"

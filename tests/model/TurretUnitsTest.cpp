@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "common/Failure.h"
 #include "model/TurretUnit.h"
 
 namespace mortane::test {

@@ -1,6 +1,7 @@
 // The nosepiece, beyond the drill and what all turrets have in common.
 #include <gtest/gtest.h>
 
+#include "common/Failure.h"
 #include "objectives/ObjectiveUnits.h"
 #include "support/UnitText.h"
 

@@ -1,6 +1,7 @@
 // The user's objectives in a settings file, beyond the drill.
 #include <gtest/gtest.h>
 
+#include "common/Failure.h"
 #include "common/Numbers.h"
 #include "objectives/ObjectiveUnits.h"
 #include "support/UnitText.h"

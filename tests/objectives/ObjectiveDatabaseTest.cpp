@@ -1,6 +1,7 @@
 // What the objective database answers and takes, apart from the controller and the file.
 #include <gtest/gtest.h>
 
+#include "common/Failure.h"
 #include "common/Numbers.h"
 #include "objectives/ObjectiveUnits.h"
 #include "support/UnitText.h"

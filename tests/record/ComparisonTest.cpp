@@ -1,4 +1,6 @@
 // What a comparison calls changed is what a Send then writes.
+#include "drives/clsControlOther.h"
+#include "filters/FilterItemNames.h"
 #include "record/Comparison.h"
 
 #include <gtest/gtest.h>

@@ -7,6 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "drives/clsControlOther.h"
+#include "drives/clsControlZDrive.h"
+#include "objectives/clsDbNosepiece.h"
+#include "objectives/clsLimitation.h"
 #include "record/ModelItems.h"
 #include "support/Rig.h"
 

@@ -5,6 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "drives/clsControlOther.h"
+#include "filters/FilterItemNames.h"
+#include "objectives/clsDbNosepiece.h"
 #include "record/ModelItems.h"
 #include "record/ReceivedRig.h"
 

@@ -9,9 +9,11 @@
 
 #include "common/DigitCode.h"
 #include "common/Numbers.h"
+#include "drives/clsControlOther.h"
 #include "interlocks/ObservationAccessories.h"
 #include "interlocks/OtherAccessories.h"
 #include "interlocks/clsInterLockOffset.h"
+#include "objectives/clsLimitation.h"
 #include "record/ReceivedRig.h"
 
 namespace mortane::test {

@@ -9,7 +9,12 @@
 #include <vector>
 
 #include "common/Numbers.h"
+#include "filters/FilterItemNames.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
 #include "model/ElementFields.h"
+#include "objectives/clsDbNosepiece.h"
+#include "objectives/clsNosepiece.h"
 #include "record/HostileNames.h"
 #include "record/ReceivedRig.h"
 

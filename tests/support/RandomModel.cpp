@@ -7,6 +7,23 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "condensers/clsCondenser.h"
+#include "condensers/clsDbCondenser.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
+#include "filters/FilterItemNames.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
+#include "hub/clsK70.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOffset.h"
+#include "interlocks/clsInterLockOther.h"
+#include "objectives/clsDbNosepiece.h"
+#include "objectives/clsLimitation.h"
+#include "objectives/clsNosepiece.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane::test {
 namespace {

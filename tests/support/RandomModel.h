@@ -3,7 +3,9 @@
 
 #include <random>
 
-#include "hub/clsK70.h"
+namespace mortane {
+class clsK70;
+}  // namespace mortane
 
 namespace mortane::test {
 

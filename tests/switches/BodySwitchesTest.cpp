@@ -1,6 +1,7 @@
 // The functions of the body's switches, beyond the drill.
 #include <gtest/gtest.h>
 
+#include "common/Failure.h"
 #include "support/UnitText.h"
 #include "switches/SwitchUnits.h"
 

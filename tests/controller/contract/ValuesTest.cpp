@@ -2,7 +2,9 @@
 #include <array>
 #include <cmath>
 
+#include "common/Failure.h"
 #include "common/Numbers.h"
+#include "controller/ControllerError.h"
 #include "controller/FiberIlluminator.h"
 #include "controller/SimulatedRig.h"
 #include "controller/contract/BackEnd.h"

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "controller/ControllerError.h"
 #include "controller/Faults.h"
 #include "controller/SimulatedRig.h"
 #include "controller/replay/JournalFile.h"

@@ -9,6 +9,9 @@
 #include <vector>
 
 #include "app/ControlSettingsCtl.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
 #include "support/Rows.h"

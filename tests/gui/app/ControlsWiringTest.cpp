@@ -9,6 +9,8 @@
 #include "drives/ControlFocusDriveCtl.h"
 #include "drives/ControlOtherCtl.h"
 #include "drives/ControlXYStageCtl.h"
+#include "drives/clsControlOther.h"
+#include "interlocks/clsInterLockOther.h"
 #include "support/TempFolder.h"
 #include "switches/JoypadSwitchSettingCtl.h"
 #include "switches/SwitchSettingCtl.h"

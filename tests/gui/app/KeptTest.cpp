@@ -17,6 +17,7 @@
 #include "app/SessionNote.h"
 #include "app/UnsentEdits.h"
 #include "gui/support/EventLoop.h"
+#include "objectives/clsNosepiece.h"
 #include "record/Backups.h"
 #include "support/TempFolder.h"
 #include "widgets/TextField.h"

@@ -15,6 +15,7 @@
 #include "app/SelScopeDlg.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
+#include "common/Failure.h"
 #include "gui/support/EventLoop.h"
 #include "widgets/CommandKey.h"
 #include "widgets/ListBox.h"

@@ -9,9 +9,22 @@
 #include "Monkey.h"
 #include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
+#include "common/Text.h"
+#include "condensers/clsCondenser.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
+#include "filters/clsFilter.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOffset.h"
+#include "interlocks/clsInterLockOther.h"
+#include "objectives/clsLimitation.h"
+#include "objectives/clsNosepiece.h"
 #include "support/Rig.h"
 #include "support/ScriptedJoystick.h"
 #include "support/TempFolder.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane::test {
 namespace {

@@ -16,6 +16,7 @@
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
 #include "drives/ControlFocusDriveCtl.h"
+#include "objectives/clsNosepiece.h"
 #include "widgets/PageButton.h"
 #include "widgets/SectionBar.h"
 #include "widgets/TextField.h"

@@ -25,6 +25,7 @@
 #include "interlocks/ObservationAccessories.h"
 #include "interlocks/OtherAccessories.h"
 #include "interlocks/clsInterLockOffset.h"
+#include "model/OptionCodes.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 #include "record/ItemWords.h"
 #include "record/ModelItems.h"
@@ -32,7 +33,6 @@
 #include "switches/SwitchFunctions.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
-#include "widgets/Card.h"
 #include "widgets/ListBox.h"
 
 namespace mortane::test {

@@ -10,6 +10,7 @@
 #include "app/InputFlush.h"
 #include "gui/support/AccessibleTree.h"
 #include "gui/support/EventLoop.h"
+#include "objectives/clsNosepiece.h"
 #include "support/TempFolder.h"
 #include "widgets/Card.h"
 #include "widgets/Theme.h"

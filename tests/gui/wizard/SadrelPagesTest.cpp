@@ -6,6 +6,8 @@
 #include "drives/ControlFocusDriveCtl.h"
 #include "drives/ControlOtherCtl.h"
 #include "drives/ControlXYStageCtl.h"
+#include "drives/clsControlOther.h"
+#include "drives/clsControlZDrive.h"
 #include "gui/support/PageRig.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"

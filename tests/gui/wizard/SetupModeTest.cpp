@@ -8,6 +8,7 @@
 #include "ItemsRig.h"
 #include "app/SelFileItemDlg.h"
 #include "gui/app/AppRig.h"
+#include "objectives/clsNosepiece.h"
 #include "support/TempFolder.h"
 #include "widgets/Theme.h"
 

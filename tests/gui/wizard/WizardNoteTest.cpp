@@ -4,8 +4,11 @@
 #include <QLabel>
 
 #include "WizardRig.h"
+#include "drives/clsControlZDrive.h"
 #include "gui/support/PageActs.h"
 #include "hub/clsK70.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "switches/clsControlTactor.h"
 #include "widgets/TextField.h"
 
 namespace mortane::test {

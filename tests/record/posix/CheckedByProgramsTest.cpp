@@ -15,6 +15,7 @@
 #include "record/ReceivedRig.h"
 #include "record/Report.h"
 #include "support/TempFolder.h"
+#include "switches/clsDbSwitch.h"
 
 namespace mortane::test {
 namespace {
