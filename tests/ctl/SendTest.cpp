@@ -5,6 +5,7 @@
 #include "CtlRig.h"
 #include "ctl/WriteWatch.h"
 #include "record/Comparison.h"
+#include "support/Sample.h"
 
 namespace mortane::test {
 namespace {
@@ -280,7 +281,8 @@ TEST_P(LostDevice, IsReportedItemByItemAtWhicheverCallItGoesAway) {
     losses.push_back({call + 1, LostLibrary::Last::Missed});
   }
   std::size_t known = 0;
-  for (const auto& [call, last] : losses) {
+  for (const std::size_t i : SampleOf(losses.size(), 5)) {
+    const auto& [call, last] = losses[i - 1];
     CtlRig rig{Bench(untouched)};
     rig.lost.From(call, last);
     rig.Run({"send", file, "--yes", "--no-backup", "--json"});
@@ -318,8 +320,7 @@ TEST(Send, SurvivesAFailureOfAnyCall) {
     calls = rig.journal.CallCount();
     after = Values(rig.simulated.bench());
   }
-  constexpr std::size_t kStride = 23;
-  for (std::size_t call = 1; call <= calls; call += kStride) {
+  for (const std::size_t call : SampleOf(calls, 61)) {
     CtlRig rig("Harbour");
     rig.faults.FailCall(call);
     const Outcome outcome = rig.Run({"send", file, "--yes", "--json"});

@@ -37,7 +37,8 @@ class Fleet(unittest.TestCase):
             "LC_ALL": "C.UTF-8", "XDG_DATA_HOME": str(self.folder / "data"),
             "GIT_CONFIG_NOSYSTEM": "1", "GIT_AUTHOR_NAME": "scope", "GIT_COMMITTER_NAME": "scope",
             "GIT_AUTHOR_EMAIL": "scope@localhost", "GIT_COMMITTER_EMAIL": "scope@localhost",
-            "MORTANE_BENCH": str(self.bench("bench", "Harbour"))}
+            "MORTANE_BENCH": str(self.bench("bench", "Harbour")),
+            "ANSIBLE_PIPELINING": "True"}
 
     def bench(self, name, bench):
         path = self.folder / f"{name}.bench.xml"
@@ -94,11 +95,12 @@ class Fleet(unittest.TestCase):
         self.assertEqual([line for line in said.splitlines() if "mortane-receive" in line], [])
         self.run_here("systemd-analyze", "calendar", "*-*-* 03:00")
 
-    def play(self, playbook, code=0):
+    def play(self, playbook, computers=COMPUTERS, code=0):
         """What the playbook says, with the numbers of each computer."""
-        said = self.run_here("ansible-playbook", "-i", "inventory", playbook, code=code)
+        said = self.run_here("ansible-playbook", "-i", "inventory", "--limit", ",".join(computers),
+                             playbook, code=code)
         recap = dict(re.findall(r"^(scope\d+)\s*: (.*)$", said, re.M))
-        self.assertEqual(sorted(recap), COMPUTERS, said)
+        self.assertEqual(sorted(recap), computers, said)
         return said, {name: dict(part.split("=") for part in line.split())
                       for name, line in recap.items()}
 
@@ -123,9 +125,10 @@ class Fleet(unittest.TestCase):
         self.assertEqual(sorted(os.listdir(self.folder / "backups")), differing)
         kept = next((self.folder / "backups" / differing[0]).iterdir()).read_text()
         self.assertIn('NAME="Lantern"', kept)
-        _, recap = self.play("send.yml")
-        self.assertEqual([name for name in COMPUTERS if recap[name]["changed"] != "0"], [])
-        self.play("compare.yml")
+        again = COMPUTERS[:2]
+        _, recap = self.play("send.yml", again)
+        self.assertEqual([name for name in again if recap[name]["changed"] != "0"], [])
+        self.play("compare.yml", again)
 
     def test_a_step_of_a_script(self):
         self.run_here("mortanectl", "receive", "-o", "reference.xml")

@@ -12,6 +12,7 @@
 #include "platform/AtomicFile.h"
 #include "support/RandomModel.h"
 #include "support/Rig.h"
+#include "support/Sample.h"
 #include "support/TempFolder.h"
 #include "support/ThisSystem.h"
 
@@ -20,7 +21,6 @@ namespace {
 
 // On each of fourteen benches, 2800 in all: a value of the widest range, 250 codes, is left out
 // with a probability of one in 70000.
-constexpr int kRandomModels = 200;
 
 std::string TextOf(const clsK70& k70) {
   DomDocument document;
@@ -279,7 +279,8 @@ TEST_P(RandomModels, AreEqualAfterAFile) {
   ConnectAndReceive(target, GetParam());
   source.k70.COther.curR_TLPOLED = target.k70.COther.curR_TLPOLED = -1;
   std::mt19937 random(1);
-  for (int i = 0; i < kRandomModels; ++i) {
+  const int models = CountOf(20, 200);
+  for (int i = 0; i < models; ++i) {
     MakeRandom(source.k70, random);
     const std::string text = TextOf(source.k70);
     Read(target.k70, text);

@@ -1,24 +1,24 @@
 // What a comparison calls changed is what a Send then writes.
-#include "drives/clsControlOther.h"
-#include "filters/FilterItemNames.h"
 #include "record/Comparison.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "common/Text.h"
+#include "drives/clsControlOther.h"
+#include "filters/FilterItemNames.h"
 #include "record/ItemIndex.h"
 #include "record/ReceivedRig.h"
 #include "support/RandomModel.h"
+#include "support/Sample.h"
 
 namespace mortane::test {
 namespace {
-
-constexpr int kRandomModels = 72;  // on each of fourteen benches: 1008
 
 // Compares, sends and looks at what was written. `read` brings the model to what is wanted.
 template <typename Read>
@@ -64,12 +64,20 @@ void ExpectNothingDropped(const std::vector<ConfigurationItem>& file, const Comp
   }
 }
 
+// What a microscope's own file says, received once for all tests.
+const DomDocument& FileOf(const std::string& bench) {
+  static std::map<std::string, DomDocument> files;
+  const auto found = files.find(bench);
+  if (found != files.end()) return found->second;
+  return files.emplace(bench, ReceivedRig(bench).File()).first->second;
+}
+
 class ASend : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(ASend, OfEveryBenchsFileWritesWhatTheComparisonCallsChanged) {
   for (const std::string& source : benches::Names()) {
     SCOPED_TRACE("the file of " + source);
-    const DomDocument file = ReceivedRig(source).File();
+    const DomDocument& file = FileOf(source);
     ReceivedRig rig(GetParam());
     ExpectToTellWhatASendWrites(rig, &file, [&] { rig.Read(file); });
   }
@@ -78,7 +86,8 @@ TEST_P(ASend, OfEveryBenchsFileWritesWhatTheComparisonCallsChanged) {
 TEST_P(ASend, OfRandomModelsWritesWhatTheComparisonCallsChanged) {
   std::mt19937 random(20261122);
   ReceivedRig rig(GetParam());
-  for (int i = 0; i < kRandomModels; ++i) {
+  const int models = CountOf(6, 72);  // on each of fourteen benches
+  for (int i = 0; i < models; ++i) {
     SCOPED_TRACE("model " + std::to_string(i));
     const std::mt19937 before = random;
     ExpectToTellWhatASendWrites(rig, nullptr, [&] {
@@ -92,7 +101,7 @@ TEST_P(ASend, OfRandomModelsWritesWhatTheComparisonCallsChanged) {
 TEST_P(ASend, OfEveryBenchsFileDropsNoItemSilently) {
   for (const std::string& source : benches::Names()) {
     SCOPED_TRACE("the file of " + source);
-    const DomDocument file = ReceivedRig(source).File();
+    const DomDocument& file = FileOf(source);
     ReceivedRig rig(GetParam());
     const ConfigurationState held = StateOf(rig.k70);
     rig.Read(file);

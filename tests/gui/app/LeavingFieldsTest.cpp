@@ -16,6 +16,7 @@
 #include "filters/FilterItemNames.h"
 #include "filters/clsDbFilter.h"
 #include "objectives/clsDbNosepiece.h"
+#include "support/Sample.h"
 #include "support/TempFolder.h"
 #include "widgets/CommandKey.h"
 #include "widgets/ContainerPage.h"
@@ -200,8 +201,11 @@ class LeavingRig : public AppRig {
 class LoadingUnderAnEdit : public testing::TestWithParam<FieldRow> {};
 
 TEST_P(LoadingUnderAnEdit, StoresNothingOfTheFieldAndAsksNothing) {
+  // Five has no factor in common with the numbers of commands and of names.
+  std::size_t turn = GetParam().page + static_cast<std::size_t>(GetParam().section);
   for (const Command& command : kCommands) {
     for (const char* loaded : NamesToLoad(GetParam(), command)) {
+      if (!TriesAllCases() && turn++ % 5 != 0) continue;
       LeavingRig rig(GetParam(), loaded);
       EXPECT_EQ(GetParam().stored(GetK70()), "Before");
       rig.TypeIntoField("Edit");

@@ -15,6 +15,7 @@
 #include "app/SelScopeDlg.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
+#include "support/Sample.h"
 #include "support/TempFolder.h"
 #include "widgets/CommandKey.h"
 #include "widgets/ListBox.h"
@@ -181,7 +182,7 @@ TEST(Commands, SurviveAFailureOfEachControllerCallInTurn) {
     };
     const std::size_t calls = run(0);
     ASSERT_GT(calls, 0U);
-    for (std::size_t k = 1; k <= calls; ++k) {
+    for (const std::size_t k : SampleOf(calls, 19)) {
       run(k);
       EXPECT_FALSE(rig.app.prompts.Boxes().empty()) << "call " << k << " failed unseen";
     }
@@ -195,7 +196,7 @@ TEST(Commands, SurviveAFailureOfWhatThePagesAsk) {
   rig.prompts.AcceptAnyBox();
   rig.form->MenuConnectReceive->trigger();
   const std::size_t calls = rig.journal.CallCount();
-  for (std::size_t k = 1; k <= calls; k += 23) {
+  for (const std::size_t k : SampleOf(calls, 89)) {
     rig.faults.Clear();
     rig.faults.FailCall(k);
     rig.form->MenuConnectReceive->trigger();
