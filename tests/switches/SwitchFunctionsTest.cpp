@@ -145,8 +145,10 @@ TEST(SwitchRows, OfTheHandControllerAreSixOnEachOfTwoPages) {
        {"1 (B)", 12},
        {"2 (B)", 13},
        {"3 (B)", 14}}};
-  for (std::size_t page = 0; page < kTactorPages.size(); ++page) {
-    for (std::size_t i = 0; i < kTactorPages[page].size(); ++i) {
+  ASSERT_EQ(kTactorPages.size(), 2U);
+  for (std::size_t page = 0; page < 2; ++page) {
+    ASSERT_EQ(kTactorPages[page].size(), 6U);
+    for (std::size_t i = 0; i < 6; ++i) {
       const TactorRow& row = kTactorPages[page][i];
       EXPECT_EQ(row.name, expected[page][i].first);
       EXPECT_EQ(row.position, expected[page][i].second);
