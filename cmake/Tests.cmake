@@ -1,8 +1,9 @@
-# Test programs: one a room, precompiled headers shared among them, one ctest test for each suite.
+# Test programs: one a room, precompiled headers shared among them, one ctest test for each source
+# file.
 
 # mortane_test(name [QT] SOURCES ... LIBRARIES ...)
-# A program with the shared main function. QT gives it an application that needs no display. A
-# suite is a process; each of its tests ends within a minute, or the process says which did not.
+# A program with the shared main function. QT gives it an application that needs no display. The
+# tests of a source file are a process; each ends within a minute, or the process says which did not.
 function(mortane_test name)
   cmake_parse_arguments(ARG "QT" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -39,8 +40,8 @@ function(mortane_test_code target)
   endif()
 endfunction()
 
-# Lists the suites once the program is built. A program for another system cannot be asked on the
-# machine that builds it; its suites are listed when ctest runs.
+# Lists the tests once the program is built. A program for another system cannot be asked on the
+# machine that builds it; its tests are listed when ctest runs.
 function(mortane_discover_suites name)
   set(list "${CMAKE_CURRENT_BINARY_DIR}/${name}.suites.cmake")
   set(script "${PROJECT_SOURCE_DIR}/cmake/DiscoverSuites.cmake")
