@@ -97,10 +97,11 @@ class Manual(unittest.TestCase):
         for meaning, marks, words, said in rows:
             with self.subTest(meaning):
                 tree = self.folder / "tree"
-                for part in ("docs/manual", "tools"):
-                    shutil.copytree(f"{SOURCE}/{part}", tree / part, dirs_exist_ok=True)
+                shutil.copytree(f"{SOURCE}/tools", tree / "tools")
                 shutil.copy(f"{SOURCE}/CMakeLists.txt", tree)
-                tree.joinpath("docs/manual/99-bad.md").write_text(
+                chapter = tree / "docs/manual/99-bad.md"
+                chapter.parent.mkdir(parents=True)
+                chapter.write_text(
                     f'# Bad {{#bad}}\n\n![B](pictures/bad.png){{shows="System" {marks}}}\n'.replace(
                         " }", "}") + f"\nLook {words}\n", encoding="utf-8")
                 done = build(tree, self.folder / "bad")
