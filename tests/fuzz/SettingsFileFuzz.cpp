@@ -1,5 +1,3 @@
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -9,18 +7,14 @@
 #include "controller/simulator/SimulatedLibrary.h"
 #include "document/Dom.h"
 #include "fuzz/FuzzEntry.h"
+#include "fuzz/Promise.h"
 #include "hub/clsK70.h"
 
 namespace mortane {
 namespace {
 
 constexpr std::size_t kLongestName = 14;
-
-void Require(bool holds, const char* promise) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", promise);
-  std::abort();
-}
+constexpr std::int16_t kSections = 10;
 
 class SilentPrompts : public Prompts {
  public:
@@ -59,20 +53,27 @@ struct Reader {
     k70.Receive();
   }
 
-  // A failure that goes to the caller ends the reading; what was read stays.
-  void Read(const DomDocument& document) {
+  // Whether there was a section to read. A failure that goes to the caller ends the reading; what
+  // was read stays.
+  bool Read(const DomDocument& document) {
     k70.ReadItems(document, "fuzz.xml");
+    bool any = false;
+    for (std::int16_t section = 0; section < kSections; ++section) {
+      any = any || k70.FileItem(section) != 0;
+    }
+    if (!any) return false;
     try {
       k70.ReadSections(document, "fuzz.xml");
     } catch (const Failure& failure) {
       Require(!failure.Description().empty(), "a failure has a description");
     }
+    return true;
   }
 };
 
 void CheckReader(const DomDocument& document) {
   static Reader reader;
-  reader.Read(document);
+  if (!reader.Read(document)) return;
   Require(CharacterCount(reader.k70.SystemName) <= kLongestName, "longer names are refused");
   DomDocument written;
   reader.k70.WriteSections(written);

@@ -12,6 +12,9 @@
 namespace mortane::controller {
 namespace {
 
+// Most sessions have no longer lines, and many are short.
+constexpr std::size_t kUsualBuffer = std::size_t{16} * 1024;
+
 // Of a line that cannot be read, as much as a message holds.
 constexpr std::size_t kShownOfLine = 80;
 
@@ -21,7 +24,7 @@ constexpr std::size_t kShownOfLine = 80;
 
 }  // namespace
 
-JournalLines::JournalLines(const std::string& path) : buffer_(kLongestLine) {
+JournalLines::JournalLines(const std::string& path) : buffer_(kUsualBuffer) {
   const std::filesystem::path file(std::u8string(path.begin(), path.end()));
   std::error_code error;
   const bool regular = std::filesystem::is_regular_file(file, error);
@@ -34,7 +37,10 @@ bool JournalLines::Fill() {
   std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
   end_ -= begin_;
   begin_ = 0;
-  if (end_ == buffer_.size()) return false;
+  if (end_ == buffer_.size()) {
+    if (end_ == kLongestLine) return false;
+    buffer_.resize(std::min(2 * end_, kLongestLine));
+  }
   file_.read(buffer_.data() + end_, static_cast<std::streamsize>(buffer_.size() - end_));
   end_ += static_cast<std::size_t>(file_.gcount());
   return file_.gcount() > 0;
@@ -58,7 +64,7 @@ std::optional<std::string_view> JournalLines::Next() {
     if (Fill()) continue;
     if (searched == 0) return std::nullopt;
     ++lineNumber_;
-    if (searched == buffer_.size()) {
+    if (searched == kLongestLine) {
       RaiseOwnFailure(kConversionError, "the line is too long for a journal");
     }
     cut_ = true;

@@ -14,7 +14,8 @@
 
 namespace mortane::controller {
 
-// The lines of a file, with a limit to their length, in a buffer of the size of one line.
+// The lines of a file, with a limit to their length, in a buffer that grows to the size of one
+// line.
 class JournalLines {
  public:
   // Longer ones are no lines of a journal.
