@@ -16,7 +16,7 @@
 #include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
 #include "common/Failure.h"
-#include "gui/app/Monkey.h"
+#include "gui/walk/Monkey.h"
 #include "support/Rig.h"
 #include "support/ScriptedJoystick.h"
 #include "support/TempFolder.h"

@@ -10,16 +10,22 @@
 #include <QMenuBar>
 #include <QTabBar>
 #include <QTest>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <array>
 
-#include "app/MortaneMainForm.h"
 #include "widgets/CommandKey.h"
 
 namespace mortane::test {
 
 using namespace Qt::StringLiterals;
 namespace {
+
+// A start takes as long as a hundred events.
+constexpr std::uint32_t kEndsEvery = 10;
+
+// A command takes as long as ten edits.
+constexpr int kCommandOnceIn = 3;
 
 constexpr std::array kKeys{Qt::Key_Tab,    Qt::Key_Backtab,  Qt::Key_Space, Qt::Key_Return,
                            Qt::Key_Enter,  Qt::Key_Up,       Qt::Key_Down,  Qt::Key_Left,
@@ -33,20 +39,24 @@ constexpr std::array kTexts{"0",      "-1",         "200",      "200.1",
                             "999999", "-100000.01", "A",        "Clinic 25x plus more",
                             " ",      "----",       "\xC3\xA4", "\xF0\x9F\x94\xAC"};
 
-bool IsInSight(const QWidget& widget) {
-  return widget.isVisible() && widget.isEnabled() && !widget.visibleRegion().isEmpty();
-}
-
-bool IsWorkable(const QWidget& widget) {
-  if (!IsInSight(widget)) return false;
-  // Exit would end the walk.
-  if (widget.objectName() == "ImageCommand_3"_L1) return false;
+bool IsWorkedAlone(const QWidget& widget) {
   return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
          qobject_cast<const QLineEdit*>(&widget) != nullptr ||
          qobject_cast<const QComboBox*>(&widget) != nullptr ||
          qobject_cast<const QTabBar*>(&widget) != nullptr ||
-         qobject_cast<const QAbstractItemView*>(widget.parentWidget()) != nullptr ||
-         dynamic_cast<const CommandKey*>(&widget) != nullptr;
+         qobject_cast<const QAbstractItemView*>(widget.parentWidget()) != nullptr;
+}
+
+// Of the tool bar and the command bar.
+bool IsCommand(const QWidget& widget) {
+  return qobject_cast<const QToolButton*>(&widget) != nullptr ||
+         qobject_cast<const CommandKey*>(&widget) != nullptr;
+}
+
+// What is scrolled away has no region; asking for it takes the longest.
+bool IsWorkable(const QWidget& widget) {
+  return widget.isVisible() && widget.isEnabled() && IsWorkedAlone(widget) &&
+         !widget.visibleRegion().isEmpty();
 }
 
 std::string NameOf(const QWidget& widget) {
@@ -57,27 +67,32 @@ std::string NameOf(const QWidget& widget) {
 
 Answer MonkeyPrompts::MsgBox(const std::string& text, int style, const std::string&) {
   boxes.push_back(text);
-  if (text.starts_with("Exit Setup?")) return Answer::Cancel;
+  if (text.starts_with("Exit Setup?")) {
+    const bool agrees = mayEnd && random_() % kEndsEvery == 0;
+    agreedToEnd = agreedToEnd || agrees;
+    return agrees ? Answer::Ok : Answer::Cancel;
+  }
   if ((style & 0xF) == 0) return Answer::Ok;
   if ((style & 0xF) == box::kCancelTryContinue) return Answer::Cancel;
-  return random_() % 2 == 0 ? Answer::Ok : Answer::Cancel;
+  return Agrees() ? Answer::Ok : Answer::Cancel;
 }
 
 Answer MonkeyPrompts::TimedMsgBox(int, const std::string& prompt, int, const std::string&,
                                   const std::string&, int) {
   boxes.push_back(prompt);
-  return random_() % 2 == 0 ? Answer::Ok : Answer::TimedOut;
+  return Agrees() ? Answer::Ok : Answer::TimedOut;
 }
 
 std::string MonkeyPrompts::AskFileToOpen(const FileQuestion&) {
-  return AnyFile();
+  askedToOpen = true;
+  const std::size_t index = random_() % (files_.size() + foreign_.size() + 1);
+  if (index < files_.size()) return files_[index];
+  if (index == files_.size() + foreign_.size()) return {};
+  openedForeign = true;
+  return foreign_[index - files_.size()];
 }
 
 std::string MonkeyPrompts::AskFileToSave(const FileQuestion&) {
-  return AnyFile();
-}
-
-std::string MonkeyPrompts::AnyFile() {
   const std::size_t index = random_() % (files_.size() + 1);
   return index == files_.size() ? std::string() : files_[index];
 }
@@ -88,9 +103,38 @@ Monkey::Monkey(QWidget& window, std::mt19937& random) : window_(window), random_
 }
 
 void Monkey::Act() {
+  posted_ = false;
+  worked_.clear();
+  workedNames_.clear();
+  NoteWorked(window_.focusWidget());
   ActIn(window_);
   QCoreApplication::processEvents();
   ClosePopup();
+}
+
+// Posted like the input of a person who does not wait. What drops input drops it.
+void Monkey::PostClick() {
+  const std::vector<QWidget*> controls = Controls(window_);
+  if (controls.empty()) return;
+  QWidget* control = controls[Any(controls)];
+  posted_ = true;
+  NoteWorked(control);
+  const QPointF at = control->rect().center();
+  const QPointF global = control->mapToGlobal(at);
+  for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    const bool pressed = type == QEvent::MouseButtonPress;
+    QCoreApplication::postEvent(
+        control, new QMouseEvent(type, at, global, Qt::LeftButton,
+                                 pressed ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier));
+  }
+}
+
+void Monkey::NoteWorked(const QWidget* control) {
+  for (; control != nullptr; control = control->parentWidget()) {
+    worked_.insert(control);
+    workedNames_.insert(control->objectName());
+    workedNames_.insert(QLatin1String(control->metaObject()->className()));
+  }
 }
 
 std::vector<QWidget*> Monkey::Controls(QWidget& top) const {
@@ -104,7 +148,11 @@ std::vector<QWidget*> Monkey::Controls(QWidget& top) const {
 void Monkey::ActIn(QWidget& top) {
   const std::vector<QWidget*> controls = Controls(top);
   if (controls.empty()) return;
-  QWidget& control = *controls[Any(controls)];
+  std::size_t chosen = Any(controls);
+  if (IsCommand(*controls[chosen]) && Below(kCommandOnceIn) != 0) chosen = Any(controls);
+  QWidget& control = *controls[chosen];
+  NoteWorked(QApplication::focusWidget());
+  NoteWorked(&control);
   switch (Below(10)) {
     case 0:
       return Turn(control);
