@@ -18,13 +18,18 @@ namespace mortane {
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
   setFocusPolicy(Qt::TabFocus);
-  setItemDelegate(new RowDelegate(this));
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   setMaxVisibleItems(16);
   connect(this, &QComboBox::activated, this, [this](int row) {
     Q_EMIT chosen(row);
     Q_EMIT selectionChanged(row);
   });
+}
+
+// The toolkit makes the open list, a window with a view of its own, for the delegate.
+void ComboBox::showPopup() {
+  if (qobject_cast<RowDelegate*>(itemDelegate()) == nullptr) setItemDelegate(new RowDelegate(this));
+  QComboBox::showPopup();
 }
 
 int ComboBox::addRow(const QString& text, const QVariant& data) {

@@ -21,6 +21,7 @@ class ComboBox : public QComboBox {
   void setIndex(int row);  // an index that is no row shows nothing
   [[nodiscard]] QVariant data(int row) const { return itemData(row); }
   [[nodiscard]] int rowOf(const QVariant& data) const { return findData(data); }
+  void showPopup() override;
 
  Q_SIGNALS:
   void chosen(int row);

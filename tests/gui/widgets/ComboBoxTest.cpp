@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 
 #include "gui/support/TestWindow.h"
+#include "widgets/RowDelegate.h"
 
 namespace mortane {
 namespace {
@@ -48,6 +49,15 @@ TEST_F(ComboBoxTest, FillingSelectsNothingAndRaisesNothing) {
   EXPECT_EQ(combo->currentText(), QString());
   EXPECT_EQ(changes.count(), 0);
   EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ComboBoxTest, TheOpenListIsMadeWhenItIsOpened) {
+  EXPECT_EQ(combo->findChild<QAbstractItemView*>(), nullptr);
+  combo->showPopup();
+  const auto* list = combo->findChild<QAbstractItemView*>();
+  ASSERT_NE(list, nullptr);
+  EXPECT_NE(qobject_cast<RowDelegate*>(list->itemDelegate()), nullptr);
+  combo->hidePopup();
 }
 
 TEST_F(ComboBoxTest, AFurtherRowKeepsTheSelection) {
