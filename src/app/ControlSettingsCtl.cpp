@@ -32,15 +32,18 @@ ControlSettingsCtl::ControlSettingsCtl(const FormServices& services, const Contr
       fiber_(services.library),
       setNosePosition_(pages[kFocusDrive].SetNosePosition) {
   optControl = sections();
-  ControlFocusDriveCtl1 = pages[kFocusDrive].page;
-  ControlXYStageCtl1 = pages[kXYStage].page;
-  ControlOtherCtl1 = pages[kOther].page;
-  SwitchSettingCtl1 = pages[kK70Switch].page;
-  ControlTactorSwitchCtl1 = pages[kTactorSwitch].page;
-  JoypadSwitchSettingCtl1 = pages[kJoypadSwitch].page;
+  const std::array<LateControl<Page>*, kCount> controls{
+      &ControlFocusDriveCtl1, &ControlXYStageCtl1,      &ControlOtherCtl1,
+      &SwitchSettingCtl1,     &ControlTactorSwitchCtl1, &JoypadSwitchSettingCtl1};
   std::vector<Section> sections;
   for (std::size_t i = 0; i < pages.size(); ++i) {
-    sections.push_back({QLatin1String(kCaptions[i]), pages[i].page, [this, i] { return tabs_[i]; },
+    LateControl<Page>& control = *controls[i];
+    if (pages[i].page != nullptr) {
+      control = pages[i].page;
+    } else {
+      control.Plan(pages[i].plan);
+    }
+    sections.push_back({QLatin1String(kCaptions[i]), control, [this, i] { return tabs_[i]; },
                         pages[i].SetNosePosition});
   }
   SetSections(std::move(sections),

@@ -26,12 +26,12 @@ class ControlSettingsCtl : public ContainerPage {
   void SendData() override;
 
   Control<SectionBar> optControl{"optControl"};
-  Control<Page> ControlFocusDriveCtl1{"ControlFocusDriveCtl1"};
-  Control<Page> ControlXYStageCtl1{"ControlXYStageCtl1"};
-  Control<Page> ControlOtherCtl1{"ControlOtherCtl1"};
-  Control<Page> SwitchSettingCtl1{"SwitchSettingCtl1"};
-  Control<Page> ControlTactorSwitchCtl1{"ControlTactorSwitchCtl1"};
-  Control<Page> JoypadSwitchSettingCtl1{"JoypadSwitchSettingCtl1"};
+  LateControl<Page> ControlFocusDriveCtl1{"ControlFocusDriveCtl1"};
+  LateControl<Page> ControlXYStageCtl1{"ControlXYStageCtl1"};
+  LateControl<Page> ControlOtherCtl1{"ControlOtherCtl1"};
+  LateControl<Page> SwitchSettingCtl1{"SwitchSettingCtl1"};
+  LateControl<Page> ControlTactorSwitchCtl1{"ControlTactorSwitchCtl1"};
+  LateControl<Page> JoypadSwitchSettingCtl1{"JoypadSwitchSettingCtl1"};
 
  protected:
   [[nodiscard]] int FirstSection() const override;

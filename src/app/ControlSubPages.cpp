@@ -25,8 +25,10 @@ ControlSubPages MakeControlSubPages(const FormServices& services) {
       WithPosition(MakeFocusDrive(k70)),
       WithPosition(MakeXYStage(k70)),
       {MakeOther(k70)},
-      {MakeBodySwitches(k70)},
-      {MakeTactorSwitches(k70, services.prompts)},
+      {.plan = {.make = [&k70] { return MakeBodySwitches(k70); }, .load = ChangesNothing}},
+      {.plan = {.make = [&k70,
+                         &prompts = services.prompts] { return MakeTactorSwitches(k70, prompts); },
+                .load = ChangesNothing}},
       {new JoypadSwitchSettingCtl(services.joystick, services.applicationData)},
   }};
 }

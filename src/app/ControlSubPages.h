@@ -4,6 +4,8 @@
 #include <array>
 #include <functional>
 
+#include "widgets/LatePage.h"
+
 namespace mortane {
 
 class Page;
@@ -20,11 +22,12 @@ inline constexpr int kJoypadSwitch = 5;
 inline constexpr int kCount = 6;
 }  // namespace controltab
 
-// A sub-page, and how it shows where the nosepiece stands. When its tab is clicked a page that can
-// do this does it; another one is loaded.
+// A sub-page, or how it is made late, and how it shows where the nosepiece stands. When its tab is
+// clicked a page that can do this does it; another one is loaded.
 struct ControlSubPage {
   Page* page = nullptr;
   std::function<void()> SetNosePosition = {};
+  LatePlan plan = {};
 };
 using ControlSubPages = std::array<ControlSubPage, controltab::kCount>;
 

@@ -14,6 +14,7 @@
 #include "platform/AtomicFile.h"
 #include "record/Report.h"
 #include "widgets/CommandKey.h"
+#include "widgets/LatePage.h"
 #include "widgets/Page.h"
 #include "widgets/PageButton.h"
 
@@ -54,6 +55,7 @@ void MortaneMainForm::OnToolbarButton(int position) {
 }
 
 void MortaneMainForm::DoOpen() {
+  MakeLoadedPages(*this);
   TakeOpened(OpenSettings(prompts(), CommonDialog1, this));
 }
 
@@ -64,13 +66,17 @@ void MortaneMainForm::TakeOpened(const FileResult& file) {
 }
 
 void MortaneMainForm::OpenDropped(const std::string& path) {
-  RunCommand([this, path] { TakeOpened(OpenSettingsFile(prompts(), path, this)); });
+  RunCommand([this, path] {
+    MakeLoadedPages(*this);
+    TakeOpened(OpenSettingsFile(prompts(), path, this));
+  });
 }
 
 // What a session that died has left unsent.
 void MortaneMainForm::DoOpenKept() {
   const auto left = Unsent().FromBefore();
   if (!left) return;
+  MakeLoadedPages(*this);
   const FileResult file = OpenSettingsFile(prompts(), left->path, this);
   if (file.outcome && *file.outcome != Outcome::NotDone) {
     Unsent().Keep();
@@ -97,6 +103,7 @@ void MortaneMainForm::DoSave() {
 }
 
 void MortaneMainForm::DoReceive() {
+  MakeLoadedPages(*this);
   {
     const HourglassScope hourglass(prompts());
     note_->ShowRunning(u"Receiving..."_s);
@@ -185,6 +192,7 @@ void MortaneMainForm::DoExit() {
 }
 
 void MortaneMainForm::DoSelect() {
+  MakeLoadedPages(*this);
   const std::int16_t device = AskDevice();
   if (device < 0 || device == GetK70().lConnectDevice) {
     prompts().FlushInput();

@@ -125,11 +125,17 @@ void GoIn(QObject& control, int place) {
       As<QWidget>(control, [](QWidget& widget) { Focus(&widget); });
 }
 
-ContainerPage* ContainerOf(const QWidget* subPage) {
-  for (QWidget* page = subPage->parentWidget(); page != nullptr; page = page->parentWidget()) {
+ContainerPage* ContainerOf(const QObject& subPage) {
+  for (QObject* page = subPage.parent(); page != nullptr; page = page->parent()) {
     if (auto* container = qobject_cast<ContainerPage*>(page)) return container;
   }
   return nullptr;
+}
+
+// The page that stands for itself, or the late one once it is made.
+QWidget* MadeOf(QObject* subPage) {
+  const auto* late = qobject_cast<LatePage*>(subPage);
+  return late == nullptr ? static_cast<QWidget*>(subPage) : late->made();
 }
 
 bool IsFor(const ItemPlace& place, const ItemChange& change) {
@@ -150,9 +156,14 @@ std::optional<QString> Was(const ItemPlace& place, const ItemChange& change,
   return QString::fromStdString(RightTrim(from[part].words));
 }
 
-QWidget* FindSubPage(const QWidget& window, const SubPageName& names) {
+using LatePages = QList<LatePage*>;
+
+QObject* FindSubPage(const QWidget& window, const LatePages& latePages, const SubPageName& names) {
   for (const char* name : {names.name, names.inWizard}) {
     if (name == nullptr) continue;
+    for (LatePage* late : latePages) {
+      if (late->name() == QLatin1String(name)) return late;
+    }
     if (auto* page = window.findChild<QWidget*>(QLatin1String(name))) return page;
   }
   return nullptr;
@@ -161,25 +172,34 @@ QWidget* FindSubPage(const QWidget& window, const SubPageName& names) {
 }  // namespace
 
 void PendingMarks::FindTargets() {
+  const LatePages latePages = window_.findChildren<LatePage*>();
   for (const ItemPlace& place : ItemPlaces()) {
-    QWidget* subPage = FindSubPage(window_, place.subPage);
-    if (subPage == nullptr) continue;
-    Target target{&place, subPage, {}, nullptr};
-    const QLatin1String name(place.control);
-    if (QObject* control = subPage->findChild<QObject*>(name)) {
-      target.controls.emplace_back(control);
-    } else {
-      target.isArray = true;
-      for (int i = 0;; ++i) {
-        QObject* element = subPage->findChild<QObject*>(u"%1_%2"_s.arg(name).arg(i));
-        if (element == nullptr) break;
-        target.controls.emplace_back(element);
-      }
+    const bool known =
+        !targets_.empty() && targets_.back().place->subPage.name == place.subPage.name;
+    QObject* subPage =
+        known ? targets_.back().subPage.data() : FindSubPage(window_, latePages, place.subPage);
+    if (subPage != nullptr) targets_.push_back({&place, subPage, false, {}, nullptr});
+  }
+}
+
+void PendingMarks::FindControls(Target& target) {
+  const QWidget* page = target.subPage == nullptr ? nullptr : MadeOf(target.subPage);
+  if (target.isSearched || page == nullptr) return;
+  target.isSearched = true;
+  const ItemPlace& place = *target.place;
+  const QLatin1String name(place.control);
+  if (QObject* control = page->findChild<QObject*>(name)) {
+    target.controls.emplace_back(control);
+  } else {
+    target.isArray = true;
+    for (int i = 0;; ++i) {
+      QObject* element = page->findChild<QObject*>(u"%1_%2"_s.arg(name).arg(i));
+      if (element == nullptr) break;
+      target.controls.emplace_back(element);
     }
-    if (place.chooser != nullptr) {
-      target.chooser = subPage->findChild<QObject*>(QLatin1String(place.chooser));
-    }
-    targets_.push_back(std::move(target));
+  }
+  if (place.chooser != nullptr) {
+    target.chooser = page->findChild<QObject*>(QLatin1String(place.chooser));
   }
 }
 
@@ -211,7 +231,8 @@ void PendingMarks::Show(const std::vector<ItemChange>& changes, const ItemNames&
   if (targets_.empty()) FindTargets();
   MarksOfControls marks;
   marked_.clear();
-  for (const Target& target : targets_) {
+  for (Target& target : targets_) {
+    FindControls(target);
     for (const QPointer<QObject>& control : target.controls) {
       if (control != nullptr) marks.try_emplace(control.data());
     }
@@ -229,10 +250,10 @@ void PendingMarks::Show(const std::vector<ItemChange>& changes, const ItemNames&
 }
 
 void PendingMarks::ShowSections() {
-  std::set<const QWidget*> seen;
+  std::set<const QObject*> seen;
   for (const Target& target : targets_) {
     if (target.subPage == nullptr || !seen.insert(target.subPage).second) continue;
-    ContainerPage* container = ContainerOf(target.subPage);
+    ContainerPage* container = ContainerOf(*target.subPage);
     if (container == nullptr) continue;
     const bool pending = std::find(marked_.begin(), marked_.end(), target.subPage) != marked_.end();
     container->sections()->SetOptionPending(container->SectionOf(*target.subPage), pending);
@@ -240,19 +261,22 @@ void PendingMarks::ShowSections() {
 }
 
 bool PendingMarks::IsOnPage(const QWidget& page) const {
-  return std::any_of(marked_.begin(), marked_.end(), [&page](const QPointer<QWidget>& subPage) {
-    return subPage != nullptr && page.isAncestorOf(subPage);
+  return std::any_of(marked_.begin(), marked_.end(), [&page](const QPointer<QObject>& subPage) {
+    const QObject* at = subPage;
+    while (at != nullptr && at != &page) at = at->parent();
+    return at != nullptr;
   });
 }
 
 void PendingMarks::GoTo(const ItemChange& change, const ItemNames& before) {
   const std::string& position = change.to.key.position;
-  for (const Target& target : targets_) {
+  for (Target& target : targets_) {
     const ItemPlace& place = *target.place;
     if (target.subPage == nullptr || !IsFor(place, change) || !Was(place, change, before)) continue;
-    if (ContainerPage* container = ContainerOf(target.subPage)) {
+    if (ContainerPage* container = ContainerOf(*target.subPage)) {
       if (!container->OpenSection(container->SectionOf(*target.subPage))) return;
     }
+    FindControls(target);
     if (target.chooser != nullptr) Choose(*target.chooser, place.choice(position));
     const int where = place.place == nullptr ? kOwn : place.place(position);
     const auto element = static_cast<std::size_t>(target.isArray ? where : 0);

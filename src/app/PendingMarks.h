@@ -13,8 +13,8 @@ namespace mortane {
 
 class ContainerPage;
 
-// Finds the controls of the table of places in a window by their names, once, when it first shows
-// something. Sets nothing but dots: no page is loaded, stores or is asked.
+// Finds the controls of the table of places in a window by their names, those of a page that is
+// made late when it is there. Sets nothing but dots: no page is made, loaded, stores or is asked.
 class PendingMarks {
  public:
   // The window must have its pages when something is shown, and may lose them later.
@@ -32,10 +32,11 @@ class PendingMarks {
   void GoTo(const ItemChange& change, const ItemNames& before);
 
  private:
-  // What shows one of the places; a control may be gone.
+  // Where one of the places is shown; a control may be gone.
   struct Target {
     const ItemPlace* place;
-    QPointer<QWidget> subPage;
+    QPointer<QObject> subPage;  // the page, or what stands for it until it is made
+    bool isSearched = false;
     std::vector<QPointer<QObject>> controls;  // the elements of an array, or one
     QPointer<QObject> chooser;
     bool isArray = false;
@@ -45,13 +46,14 @@ class PendingMarks {
   using MarksOfControls = std::map<QObject*, Marks>;
 
   void FindTargets();
+  static void FindControls(Target& target);
   void Add(const Target& target, const ItemChange& change, const ItemNames& before,
            MarksOfControls& marks) const;
   void ShowSections();
 
   const QWidget& window_;
   std::vector<Target> targets_;
-  std::vector<QPointer<QWidget>> marked_;  // sub-pages
+  std::vector<QPointer<QObject>> marked_;  // sub-pages
 };
 
 }  // namespace mortane

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <memory>
 
 #include "common/Text.h"
 #include "condensers/clsCondenser.h"
@@ -97,8 +98,33 @@ bool CondenserCassetteCtl::eventFilter(QObject* watched, QEvent* event) {
   return CardPage::eventFilter(watched, event);
 }
 
+LatePlan CondenserCassetteCtl::Plan(clsCondenser& cassette, const clsDbCondenser& condensers) {
+  const auto fixed = std::make_shared<FixedCodes>();
+  return {
+      .make = [&cassette, &condensers] { return new CondenserCassetteCtl(cassette, condensers); },
+      .load =
+          [&condensers, fixed] {
+            *fixed = ReadFixedCodes(condensers);
+            return true;
+          },
+      .fill = [fixed](Page& page) { static_cast<CondenserCassetteCtl&>(page).Fill(*fixed); }};
+}
+
+CondenserCassetteCtl::FixedCodes CondenserCassetteCtl::ReadFixedCodes(
+    const clsDbCondenser& condensers) {
+  FixedCodes fixed;
+  for (int row = 0; row < kRowCount; ++row) {
+    fixed[static_cast<std::size_t>(row)] = condensers.FixedCodesFor(row + 1);
+  }
+  return fixed;
+}
+
 void CondenserCassetteCtl::LoadData() {
-  for (int row = 0; row < kRowCount; ++row) LoadRow(row);
+  Fill(ReadFixedCodes(condensers_));
+}
+
+void CondenserCassetteCtl::Fill(const FixedCodes& fixed) {
+  for (int row = 0; row < kRowCount; ++row) LoadRow(row, fixed[static_cast<std::size_t>(row)]);
   UpdateTurret();
 }
 
@@ -133,7 +159,7 @@ void CondenserCassetteCtl::UpdateTurret() {
   ChooseRow(chosenRow_);
 }
 
-void CondenserCassetteCtl::LoadRow(int row) {
+void CondenserCassetteCtl::LoadRow(int row, const std::vector<std::int32_t>& fixed) {
   const std::int32_t mounted = cassette_.code(row + 1);
   const auto i = static_cast<std::size_t>(row);
   Label1[i]->setVisible(mounted >= 0);
@@ -145,7 +171,7 @@ void CondenserCassetteCtl::LoadRow(int row) {
   };
   // Kept: an empty address selects nothing, although its code has an entry.
   add(kNoCondenser);
-  for (const auto& codes : {condensers_.FixedCodesFor(row + 1), NamedOptions(condensers_)}) {
+  for (const auto& codes : {fixed, NamedOptions(condensers_)}) {
     for (const std::int32_t code : codes) {
       const int entry = add(code);
       if (code == mounted) combo->setIndex(entry);

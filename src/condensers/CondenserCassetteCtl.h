@@ -1,10 +1,13 @@
 // The sub-page that tells which condenser stands at each address of the cassette.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <vector>
 
 #include "widgets/CardPage.h"
 #include "widgets/Control.h"
+#include "widgets/LatePage.h"
 
 class QLabel;
 
@@ -29,6 +32,9 @@ class CondenserCassetteCtl : public CardPage {
   CondenserCassetteCtl(clsCondenser& cassette, const clsDbCondenser& condensers,
                        QWidget* parent = nullptr);
 
+  // Until the page is made.
+  static LatePlan Plan(clsCondenser& cassette, const clsDbCondenser& condensers);
+
   void LoadData() override;
 
   Controls<QLabel, kRowCount> Label1{"Label1"};
@@ -38,8 +44,13 @@ class CondenserCassetteCtl : public CardPage {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // The fixed condensers that the controller finds fit, for each row.
+  using FixedCodes = std::array<std::vector<std::int32_t>, kRowCount>;
+
+  static FixedCodes ReadFixedCodes(const clsDbCondenser& condensers);
   void BuildRow(int row, QWidget* parent);
-  void LoadRow(int row);
+  void Fill(const FixedCodes& fixed);
+  void LoadRow(int row, const std::vector<std::int32_t>& fixed);
   void ChooseRow(int row);
   void UpdateTurret();
   // The rows on show, in the order of the places.

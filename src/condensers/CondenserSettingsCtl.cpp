@@ -13,8 +13,9 @@ CondenserSettingsCtl::CondenserSettingsCtl(clsCondenser& cassette, clsDbCondense
                                            QWidget* parent)
     : ContainerPage(IconName::Condenser, u"Condensers"_s, parent) {
   optCondenserSetting = sections();
-  CondenserCassetteCtl1 = new CondenserCassetteCtl(cassette, condensers);
-  CondenserOptionCtl1 = new CondenserOptionCtl(condensers);
+  CondenserCassetteCtl1.Plan(CondenserCassetteCtl::Plan(cassette, condensers));
+  CondenserOptionCtl1.Plan({.make = [&condensers] { return new CondenserOptionCtl(condensers); },
+                            .load = ChangesNothing});
   const auto hasCondenser = [&cassette] {
     return cassette.parent.IsMounted(accessory::kCondenser) != kNotMounted;
   };

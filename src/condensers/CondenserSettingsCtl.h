@@ -19,8 +19,8 @@ class CondenserSettingsCtl : public ContainerPage {
                        QWidget* parent = nullptr);
 
   Control<SectionBar> optCondenserSetting{"optCondenserSetting"};
-  Control<CondenserCassetteCtl> CondenserCassetteCtl1{"CondenserCassetteCtl1"};
-  Control<CondenserOptionCtl> CondenserOptionCtl1{"CondenserOptionCtl1"};
+  LateControl<CondenserCassetteCtl> CondenserCassetteCtl1{"CondenserCassetteCtl1"};
+  LateControl<CondenserOptionCtl> CondenserOptionCtl1{"CondenserOptionCtl1"};
 };
 
 }  // namespace mortane

@@ -2,6 +2,8 @@
 
 #include <QPointer>
 #include <QVBoxLayout>
+#include <memory>
+#include <vector>
 
 #include "common/Text.h"
 #include "drawings/TurretDrawing.h"
@@ -35,6 +37,42 @@ constexpr char kAddressOfSecondCube[] = "6";
 
 constexpr char kQuestion[] =
     "This position is related with Observation Method.\r\nIs Change data on this position?";
+
+constexpr std::int32_t kFirstAddress = 1;
+
+// The codes in the order of the rows, and the row to select for a mounted code; -1 when there is
+// none. Kept: a fixed cube is selected by its code and not by its row. Behind a record that is not
+// listed this selects, and so mounts, another cube; the row is known only when all of them are
+// there.
+struct Listing {
+  std::vector<std::int32_t> codes;
+  int selected = -1;
+};
+
+Listing ListingOf(const clsDbFilter& cubes, std::int32_t fixed, std::int32_t mounted) {
+  Listing listing;
+  for (std::int32_t code = 0; code <= fixed; ++code) {
+    if (IsVacant(cubes.Name(code))) continue;
+    listing.codes.push_back(code);
+    if (code == mounted) listing.selected = code;
+  }
+  for (std::int32_t code = kOptionBase + 1; code <= kHighestCode; ++code) {
+    const std::string name = cubes.Name(code);
+    if (IsVacant(name) || Trim(name).empty()) continue;
+    listing.codes.push_back(code);
+    if (code == mounted) listing.selected = static_cast<int>(listing.codes.size()) - 1;
+  }
+  return listing;
+}
+
+// One address alone is the protected one.
+bool StaysMounted(const clsFilter& turret, const clsDbFilter& cubes, std::int32_t fixed) {
+  const std::int32_t mounted = turret.code(kFirstAddress);
+  const Listing listing = ListingOf(cubes, fixed, mounted);
+  const auto row = static_cast<std::size_t>(listing.selected);
+  if (listing.selected < 0 || row >= listing.codes.size()) return true;
+  return listing.codes[row] == mounted && turret.Count > 1;
+}
 
 QStringList CellsOf(const clsDbFilter& cubes, std::int32_t code) {
   std::string name;
@@ -102,36 +140,35 @@ std::int32_t FilterQubeCtl::mounted() const {
   return filterTurret_.code(address());
 }
 
+LatePlan FilterQubeCtl::Plan(clsFilter& turret, const clsDbFilter& cubes) {
+  const auto fixed = std::make_shared<std::int32_t>(0);
+  return {.make = [&turret, &cubes] { return new FilterQubeCtl(turret, cubes); },
+          .load =
+              [&turret, &cubes, fixed] {
+                if (turret.Count < 1) return true;
+                *fixed = cubes.FixedCount();
+                return StaysMounted(turret, cubes, *fixed);
+              },
+          .fill = [fixed](Page& page) { static_cast<FilterQubeCtl&>(page).Fill(*fixed); }};
+}
+
 void FilterQubeCtl::LoadData() {
+  Fill(filterTurret_.Count < 1 ? 0 : cubes_.FixedCount());
+}
+
+void FilterQubeCtl::Fill(std::int32_t fixed) {
   TabPocket->SetNumberedTabs(filterTurret_.Count);
   UpdateTurret();
   List1->clearRows();
   const QPointer<FilterQubeCtl> page(this);  // the row's question may see its end
-  if (filterTurret_.Count >= 1) List1->setIndex(FillList(mounted()));
+  if (filterTurret_.Count >= 1) List1->setIndex(FillList(fixed, mounted()));
   if (!page.isNull()) ShowParts(List1->index());
 }
 
-// Kept: a fixed cube is selected by its code and not by its row. Behind a record that is not listed
-// this selects, and so mounts, another cube; the row is known only when all of them are there.
-int FilterQubeCtl::FillList(std::int32_t mounted) {
-  int selected = -1;
-  const std::int32_t fixed = cubes_.FixedCount();
-  for (std::int32_t code = 0; code <= fixed; ++code) {
-    if (IsVacant(cubes_.Name(code))) continue;
-    AddCube(code);
-    if (code == mounted) selected = code;
-  }
-  for (std::int32_t code = kOptionBase + 1; code <= kHighestCode; ++code) {
-    const std::string name = cubes_.Name(code);
-    if (IsVacant(name) || Trim(name).empty()) continue;
-    AddCube(code);
-    if (code == mounted) selected = List1->rowCount() - 1;
-  }
-  return selected;
-}
-
-void FilterQubeCtl::AddCube(std::int32_t code) {
-  List1->addCells(CellsOf(cubes_, code), code);
+int FilterQubeCtl::FillList(std::int32_t fixed, std::int32_t mounted) {
+  const Listing listing = ListingOf(cubes_, fixed, mounted);
+  for (const std::int32_t code : listing.codes) List1->addCells(CellsOf(cubes_, code), code);
+  return listing.selected;
 }
 
 int FilterQubeCtl::RowOf(std::int32_t code) const {

@@ -7,6 +7,7 @@
 
 #include "drawings/TurretPage.h"
 #include "widgets/Control.h"
+#include "widgets/LatePage.h"
 
 class QFrame;
 class QLabel;
@@ -27,6 +28,9 @@ class FilterQubeCtl : public TurretPage {
 
  public:
   FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidget* parent = nullptr);
+
+  // Until the page is made.
+  static LatePlan Plan(clsFilter& turret, const clsDbFilter& cubes);
 
   void LoadData() override;
 
@@ -51,9 +55,10 @@ class FilterQubeCtl : public TurretPage {
 
   void BuildList();
   void BuildValues();
+  // Of `fixed` cubes that the controller has from the start.
+  void Fill(std::int32_t fixed);
   // The row to select for a mounted code; -1 when there is none.
-  int FillList(std::int32_t mounted);
-  void AddCube(std::int32_t code);
+  int FillList(std::int32_t fixed, std::int32_t mounted);
   int RowOf(std::int32_t code) const;
   void ClickList(int row);
   bool LeavesProtectedCube(int row) const;

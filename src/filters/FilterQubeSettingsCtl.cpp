@@ -15,9 +15,11 @@ FilterQubeSettingsCtl::FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cub
                                              const FilterItemLists& items, QWidget* parent)
     : ContainerPage(IconName::Cube, u"Filter Cubes"_s, parent) {
   optFilterSetting = sections();
-  FilterQubeCtl1 = new FilterQubeCtl(turret, cubes);
-  FilterOptionalQubeCtl1 = new FilterOptionalQubeCtl(cubes, items);
-  FilterOptionalItemCtl1 = new FilterOptionalItemCtl(items);
+  FilterQubeCtl1.Plan(FilterQubeCtl::Plan(turret, cubes));
+  FilterOptionalQubeCtl1.Plan(
+      {.make = [&cubes, items] { return new FilterOptionalQubeCtl(cubes, items); }});
+  FilterOptionalItemCtl1.Plan(
+      {.make = [items] { return new FilterOptionalItemCtl(items); }, .load = ChangesNothing});
   const auto hasTurret = [&turret] {
     return turret.parent.IsMounted(accessory::kFilterCube) != kNotMounted;
   };

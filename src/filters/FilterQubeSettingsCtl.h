@@ -22,9 +22,9 @@ class FilterQubeSettingsCtl : public ContainerPage {
                         QWidget* parent = nullptr);
 
   Control<SectionBar> optFilterSetting{"optFilterSetting"};
-  Control<FilterQubeCtl> FilterQubeCtl1{"FilterQubeCtl1"};
-  Control<FilterOptionalQubeCtl> FilterOptionalQubeCtl1{"FilterOptionalQubeCtl1"};
-  Control<FilterOptionalItemCtl> FilterOptionalItemCtl1{"FilterOptionalItemCtl1"};
+  LateControl<FilterQubeCtl> FilterQubeCtl1{"FilterQubeCtl1"};
+  LateControl<FilterOptionalQubeCtl> FilterOptionalQubeCtl1{"FilterOptionalQubeCtl1"};
+  LateControl<FilterOptionalItemCtl> FilterOptionalItemCtl1{"FilterOptionalItemCtl1"};
 };
 
 }  // namespace mortane

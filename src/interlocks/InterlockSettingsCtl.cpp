@@ -19,9 +19,20 @@ InterlockSettingsCtl::InterlockSettingsCtl(const Units& units, const DriveFollow
                                            QWidget* parent)
     : ContainerPage(IconName::Interlock, u"Interlocks"_s, parent), other_(units.other) {
   optSettings = sections();
-  InterlockObservationCtl1 = new InterlockObservationCtl(units.observation);
-  InterlockOtherCtl1 = new InterlockOtherCtl(units.other, drives);
-  InterlockOffsetCtl1 = new InterlockOffsetCtl(units.offset);
+  const auto enabled = [this](Page* page, int section) {
+    page->setEnabled(IsOffered(section));
+    return page;
+  };
+  InterlockObservationCtl1.Plan(
+      {.make = [=, &unit =
+                       units.observation] { return enabled(new InterlockObservationCtl(unit), 0); },
+       .load = ChangesNothing});
+  InterlockOtherCtl1.Plan({.make = [=, &unit = units.other] {
+    return enabled(new InterlockOtherCtl(unit, drives), 1);
+  }});
+  InterlockOffsetCtl1.Plan(
+      {.make = [=, &unit = units.offset] { return enabled(new InterlockOffsetCtl(unit), 2); },
+       .load = ChangesNothing});
   const auto isEnable = [](const auto& unit) { return [&unit] { return unit.IsEnable(); }; };
   SetSections({{u"Observation"_s, InterlockObservationCtl1, isEnable(units.observation),
                 KeepAsLoaded, u"Nothing is mounted that follows the observation method."_s},
@@ -34,10 +45,10 @@ InterlockSettingsCtl::InterlockSettingsCtl(const Units& units, const DriveFollow
 
 void InterlockSettingsCtl::LoadData() {
   ContainerPage::LoadData();
-  const std::array<Page*, 3> subPages{InterlockObservationCtl1, InterlockOtherCtl1,
-                                      InterlockOffsetCtl1};
+  const std::array<Page*, 3> subPages{InterlockObservationCtl1.made(), InterlockOtherCtl1.made(),
+                                      InterlockOffsetCtl1.made()};
   for (std::size_t i = 0; i < subPages.size(); ++i) {
-    subPages[i]->setEnabled(IsOffered(static_cast<int>(i)));
+    if (subPages[i] != nullptr) subPages[i]->setEnabled(IsOffered(static_cast<int>(i)));
   }
 }
 

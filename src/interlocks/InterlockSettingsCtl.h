@@ -33,9 +33,9 @@ class InterlockSettingsCtl : public ContainerPage {
   void LoadData() override;
 
   Control<SectionBar> optSettings{"optSettings"};
-  Control<InterlockObservationCtl> InterlockObservationCtl1{"InterlockObservationCtl1"};
-  Control<InterlockOtherCtl> InterlockOtherCtl1{"InterlockOtherCtl1"};
-  Control<InterlockOffsetCtl> InterlockOffsetCtl1{"InterlockOffsetCtl1"};
+  LateControl<InterlockObservationCtl> InterlockObservationCtl1{"InterlockObservationCtl1"};
+  LateControl<InterlockOtherCtl> InterlockOtherCtl1{"InterlockOtherCtl1"};
+  LateControl<InterlockOffsetCtl> InterlockOffsetCtl1{"InterlockOffsetCtl1"};
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -22,6 +22,7 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
+constexpr std::int32_t kFirstAddress = 1;
 constexpr int kSeriesWidth = 150;
 constexpr int kSeriesList = -1;
 constexpr int kNameColumn = 4;
@@ -51,6 +52,19 @@ Objective NextOf(const clsDbNosepiece& objectives, std::int32_t series, std::int
       objectives.Get_DbNosepiecePocket(series, position, next.type, next.magnification,
                                        next.workingDistance, next.numericalAperture, next.name);
   return next;
+}
+
+// Whether the list of its series has the objective, or is empty and so mounts none.
+bool StaysMounted(const clsDbNosepiece& objectives, std::int32_t mounted) {
+  const std::int32_t series = objectives.SeriesCode(mounted);
+  bool listsAny = false;
+  for (Objective next = NextOf(objectives, series, -1); next.code >= 0;
+       next = NextOf(objectives, series, next.code)) {
+    if (IsVacant(next.name)) continue;
+    if (next.code == mounted) return true;
+    listsAny = true;
+  }
+  return !listsAny;
 }
 
 QStringList CellsOf(const Objective& objective) {
@@ -90,6 +104,15 @@ ObjectiveCtl::ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& object
   BuildValues();
   connect(ListSeries, &ListBox::selectionChanged, this, &ObjectiveCtl::ClickSeries);
   connect(ListItem, &ListBox::selectionChanged, this, &ObjectiveCtl::ClickItem);
+}
+
+LatePlan ObjectiveCtl::Plan(clsNosepiece& nosepiece, const clsDbNosepiece& objectives) {
+  return {.make = [&] { return new ObjectiveCtl(nosepiece, objectives); },
+          .load =
+              [&] {
+                return nosepiece.Count < 1 ||
+                       StaysMounted(objectives, nosepiece.code(kFirstAddress));
+              }};
 }
 
 void ObjectiveCtl::BuildLists() {

@@ -8,6 +8,7 @@
 
 #include "drawings/TurretPage.h"
 #include "widgets/Control.h"
+#include "widgets/LatePage.h"
 
 class QFrame;
 class QLabel;
@@ -28,6 +29,9 @@ class ObjectiveCtl : public TurretPage {
  public:
   ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& objectives,
                QWidget* parent = nullptr);
+
+  // Until the page is made.
+  static LatePlan Plan(clsNosepiece& nosepiece, const clsDbNosepiece& objectives);
 
   void LoadData() override;
 

@@ -1,6 +1,8 @@
 #include "objectives/ObjectiveOptionCtl.h"
 
 #include <QLabel>
+#include <algorithm>
+#include <memory>
 
 #include "common/Numbers.h"
 #include "common/Text.h"
@@ -20,6 +22,30 @@ namespace {
 
 constexpr std::string_view kZero = "0";
 constexpr std::string_view kNoCondenser = "None";
+
+constexpr std::int32_t kFirstOption = 1;
+
+// The texts of an objective of the user, as the boxes get them.
+struct Shown {
+  std::string name;
+  std::array<std::string, 3> numbers;
+};
+
+Shown ShownOf(const clsDbNosepiece& objectives) {
+  Shown shown;
+  std::int32_t series = 0;
+  std::int32_t type = 0;
+  std::int32_t condenser = 0;
+  auto& [magnification, workingDistance, numericalAperture] = shown.numbers;
+  objectives.Get_DbNosepieceOption(kFirstOption, shown.name, series, type, magnification,
+                                   workingDistance, numericalAperture, condenser);
+  return shown;
+}
+
+// No box changes such a text.
+bool IsPlain(const std::string& text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
+}
 
 bool IsNumberWithin(std::string_view text, double highest) {
   const std::optional<double> value = ParseNumber(text);
@@ -44,7 +70,10 @@ ObjectiveOptionCtl::ObjectiveOptionCtl(clsDbNosepiece& objectives, QWidget* pare
 }
 
 void ObjectiveOptionCtl::Connect() {
-  connect(TabStrip1, &TabStrip::chosen, this, [this] { ShowObjective(Condensers::AsListed); });
+  connect(TabStrip1, &TabStrip::chosen, this, [this] {
+    ShowObjective();
+    ShowCondensers(objectives_.HasCondenser());
+  });
   connect(ListSeries, &ListBox::selectionChanged, this, [this](int row) {
     LabelSeries->setText(ListSeries->text(row));
     series_ = row;
@@ -87,9 +116,54 @@ bool ObjectiveOptionCtl::IsGood(const Number& number, const QString& text) {
   return IsNumberWithin(text.toStdString(), number.highest);
 }
 
+LatePlan ObjectiveOptionCtl::Plan(clsDbNosepiece& objectives) {
+  const auto condensers = std::make_shared<CondenserChoice>();
+  return {.make = [&objectives] { return new ObjectiveOptionCtl(objectives); },
+          .load =
+              [&objectives, condensers] {
+                *condensers = ReadCondensers(objectives);
+                return StaysAsShown(objectives);
+              },
+          .fill = [condensers](
+                      Page& page) { static_cast<ObjectiveOptionCtl&>(page).Fill(*condensers); },
+          .save = [&objectives] { return StaysAsSaved(objectives); }};
+}
+
+bool ObjectiveOptionCtl::StaysAsShown(const clsDbNosepiece& objectives) {
+  const Shown shown = ShownOf(objectives);
+  const bool fits =
+      std::all_of(shown.numbers.begin(), shown.numbers.end(), [](const std::string& text) {
+        return text.size() <= static_cast<std::size_t>(kNumberLength);
+      });
+  return fits && IsPlain(shown.name) && objectives.StaysWhenStored(kFirstOption);
+}
+
+bool ObjectiveOptionCtl::StaysAsSaved(const clsDbNosepiece& objectives) {
+  if (!StaysAsShown(objectives)) return false;
+  const Shown shown = ShownOf(objectives);
+  for (std::size_t i = 0; i < kNumbers.size(); ++i) {
+    const std::string& text = shown.numbers[i];
+    const bool zero = kNumbers[i].mayBeDashes && text == kNoMagnification;
+    if (!zero && !IsNumberWithin(text, kNumbers[i].highest)) return false;
+  }
+  return true;
+}
+
+ObjectiveOptionCtl::CondenserChoice ObjectiveOptionCtl::ReadCondensers(
+    const clsDbNosepiece& objectives) {
+  if (!objectives.HasCondenser()) return {};
+  return objectives.ListCondensers();
+}
+
 void ObjectiveOptionCtl::LoadData() {
+  Fill(ReadCondensers(objectives_));
+}
+
+void ObjectiveOptionCtl::Fill(const CondenserChoice& condensers) {
   FillLists();
-  ShowObjective(Condensers::Anew);
+  ShowObjective();
+  if (condensers) RebuildCondensers(*condensers);
+  ShowCondensers(condensers.has_value());
 }
 
 void ObjectiveOptionCtl::FillLists() {
@@ -115,24 +189,23 @@ void ObjectiveOptionCtl::ReadObjective() {
 }
 
 // All values are taken over before a row is selected, since a new row stores what is shown.
-void ObjectiveOptionCtl::ShowObjective(Condensers condensers) {
+void ObjectiveOptionCtl::ShowObjective() {
   ReadObjective();
   ListSeries->setIndex(series_);
   ListType->setIndex(type_);
   LabelSeries->setText(ListSeries->text(ListSeries->index()));
   LabelType->setText(ListType->text(ListType->index()));
   ListMag->setIndex(-1);  // a choice made for another objective
+}
 
-  const bool mounted = objectives_.HasCondenser();
-  if (mounted && condensers == Condensers::Anew) RebuildCondensers();
+void ObjectiveOptionCtl::ShowCondensers(bool mounted) {
   FrmCondenser->setEnabled(mounted);
   SelectCondenser();
 }
 
-void ObjectiveOptionCtl::RebuildCondensers() {
+void ObjectiveOptionCtl::RebuildCondensers(const AdoptiveCondensers& condensers) {
   ComboCondenser->clearRows();
   ComboCondenser->addRow(ToQString(kNoCondenser), 0);
-  const AdoptiveCondensers condensers = objectives_.ListCondensers();
   condenserCount_ = condensers.recordCount;
   for (const auto& [code, name] : condensers.choices) {
     ComboCondenser->addRow(QString::fromStdString(name), code);

@@ -3,10 +3,13 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
+#include "objectives/AdoptiveCondensers.h"
 #include "widgets/CardPage.h"
 #include "widgets/Control.h"
+#include "widgets/LatePage.h"
 
 class QFrame;
 class QLabel;
@@ -28,6 +31,9 @@ class ObjectiveOptionCtl : public CardPage {
 
  public:
   explicit ObjectiveOptionCtl(clsDbNosepiece& objectives, QWidget* parent = nullptr);
+
+  // Until the page is made.
+  static LatePlan Plan(clsDbNosepiece& objectives);
 
   void LoadData() override;
   // Stores once more. Kept: a number that may not be, the dashes too, is stored as 0 without a
@@ -68,7 +74,9 @@ class ObjectiveOptionCtl : public CardPage {
     Control<TextField> ObjectiveOptionCtl::*field;
   };
   static const std::array<Number, 3> kNumbers;  // magnification, distance, aperture
-  enum class Condensers { AsListed, Anew };
+  static constexpr int kNumberLength = 5;
+  // What the controller says of the condensers to choose from; none where no condenser is there.
+  using CondenserChoice = std::optional<AdoptiveCondensers>;
 
   void Build();
   void BuildMagnification(RecordForm& form);
@@ -77,10 +85,17 @@ class ObjectiveOptionCtl : public CardPage {
   void Connect();
   void ConnectNumber(const Number& number);
 
-  void ShowObjective(Condensers condensers);
+  // Whether the first objective stays the same when it is shown, or saved.
+  static bool StaysAsShown(const clsDbNosepiece& objectives);
+  static bool StaysAsSaved(const clsDbNosepiece& objectives);
+
+  static CondenserChoice ReadCondensers(const clsDbNosepiece& objectives);
+  void Fill(const CondenserChoice& condensers);
+  void ShowObjective();
+  void ShowCondensers(bool mounted);
   void ReadObjective();
   void FillLists();
-  void RebuildCondensers();
+  void RebuildCondensers(const AdoptiveCondensers& condensers);
   void SelectCondenser();
   static bool IsGood(const Number& number, const QString& text);
   void Store();

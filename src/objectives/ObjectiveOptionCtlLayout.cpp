@@ -24,7 +24,6 @@ namespace {
 // Wide letters are half as wide again as figures.
 constexpr int kNameWidthCharacters = 24;
 constexpr int kTypeCharacters = 17;  // with the margins of its list
-constexpr int kNumberLength = 5;
 constexpr int kNumberWidthCharacters = 7;
 
 }  // namespace

@@ -15,9 +15,10 @@ ObjectiveSettingsCtl::ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepie
                                            clsLimitation& limits, QWidget* parent)
     : ContainerPage(IconName::Objective, u"Objectives"_s, parent) {
   optSettings = sections();
-  ObjectiveCtl1 = new ObjectiveCtl(nosepiece, objectives);
-  ObjectiveOptionCtl1 = new ObjectiveOptionCtl(objectives);
-  ObjectiveLimitCtl1 = new ObjectiveLimitCtl(limits);
+  ObjectiveCtl1.Plan(ObjectiveCtl::Plan(nosepiece, objectives));
+  ObjectiveOptionCtl1.Plan(ObjectiveOptionCtl::Plan(objectives));
+  ObjectiveLimitCtl1.Plan(
+      {.make = [&limits] { return new ObjectiveLimitCtl(limits); }, .load = ChangesNothing});
   const auto hasNosepiece = [&limits] {
     return limits.parent.IsMounted(accessory::kNosepiece) != kNotMounted;
   };

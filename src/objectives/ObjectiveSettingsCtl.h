@@ -21,9 +21,9 @@ class ObjectiveSettingsCtl : public ContainerPage {
                        QWidget* parent = nullptr);
 
   Control<SectionBar> optSettings{"optSettings"};
-  Control<ObjectiveCtl> ObjectiveCtl1{"ObjectiveCtl1"};
-  Control<ObjectiveOptionCtl> ObjectiveOptionCtl1{"ObjectiveOptionCtl1"};
-  Control<ObjectiveLimitCtl> ObjectiveLimitCtl1{"ObjectiveLimitCtl1"};
+  LateControl<ObjectiveCtl> ObjectiveCtl1{"ObjectiveCtl1"};
+  LateControl<ObjectiveOptionCtl> ObjectiveOptionCtl1{"ObjectiveOptionCtl1"};
+  LateControl<ObjectiveLimitCtl> ObjectiveLimitCtl1{"ObjectiveLimitCtl1"};
 };
 
 }  // namespace mortane

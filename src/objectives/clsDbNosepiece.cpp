@@ -151,6 +151,23 @@ void clsDbNosepiece::Set_DbNosepiece(std::int32_t npos, std::string_view sName,
   condensers_[code] = nCondenser;
 }
 
+bool clsDbNosepiece::StaysWhenStored(std::int32_t npos) const {
+  if (!IsOptionPosition(npos)) return true;
+  std::string name;
+  std::string magnification;
+  std::string workingDistance;
+  std::string numericalAperture;
+  ObjectiveValues values;
+  std::int32_t condenser = 0;
+  Get_DbNosepieceOption(npos, name, values.series, values.type, magnification, workingDistance,
+                        numericalAperture, condenser);
+  values.magnification = MagnificationOf(magnification);
+  values.workingDistance = ToDouble(workingDistance);
+  values.numericalAperture = ToDouble(numericalAperture);
+  const Objective& held = objectives_[IndexOfOption(npos)];
+  return name == held.name && values == held.values;
+}
+
 std::string clsDbNosepiece::ReadSdk() {
   // Kept: the condensers are not cleared; they change only when a record with a code is read.
   objectives_.assign(kCodes, {});

@@ -83,6 +83,10 @@ class clsDbNosepiece {
                        std::int32_t nType, std::string_view sMag, std::string_view sWD,
                        std::string_view sNA, std::int32_t nCondenser);
 
+  // Whether an objective of the user stays the same when what Get_DbNosepieceOption gives is
+  // stored.
+  bool StaysWhenStored(std::int32_t npos) const;
+
   // Asks the controller whether a condenser is fitted, also one without addresses; false when it
   // does not answer.
   bool HasCondenser() const { return HasLiveCondenser(parent); }

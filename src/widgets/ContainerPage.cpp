@@ -8,6 +8,7 @@
 
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
+#include "widgets/TabOrder.h"
 
 namespace mortane {
 
@@ -33,12 +34,23 @@ void ContainerPage::SetSections(std::vector<Section> sections, std::vector<int> 
   sections_ = std::move(sections);
   loaded_ = std::move(loaded);
   offered_.assign(sections_.size(), true);
-  for (const Section& section : sections_) {
-    // The option comes first, so that the Tab key reaches it before the sub-page.
-    this->sections()->AddOption(section.caption);
-    section.page->hide();
-    stack_->addWidget(section.page);
+  for (std::size_t i = 0; i < sections_.size(); ++i) {
+    const auto index = static_cast<int>(i);
+    this->sections()->AddOption(sections_[i].caption);
+    const SectionPage& page = sections_[i].page;
+    if (LatePage* late = page.late()) {
+      late->SetPlace(*this, [this, index](Page& made) { TakeIn(index, made); });
+    } else {
+      TakeIn(index, page.get());
+    }
   }
+}
+
+// The Tab key reaches a sub-page from its option, whenever it is made.
+void ContainerPage::TakeIn(int index, Page& page) {
+  page.hide();
+  stack_->addWidget(&page);
+  PutInTabOrder(page, *sections()->option(index));
 }
 
 // All sections are asked before a sub-page is loaded, since loading may change the model.
@@ -53,20 +65,36 @@ void ContainerPage::LoadData() {
     }
   }
   for (const int index : loaded_) {
-    if (IsOffered(index)) section(index).page->LoadData();
+    if (IsOffered(index)) Load(index);
   }
   sections()->select(FirstSection());
 }
 
+void ContainerPage::Load(int index) {
+  const SectionPage& page = section(index).page;
+  if (LatePage* late = page.late()) {
+    late->LoadData();
+  } else {
+    page.get().LoadData();
+  }
+}
+
 void ContainerPage::SaveData() {
   for (const int index : loaded_) {
-    if (AskOffered(index)) section(index).page->SaveData();
+    if (!AskOffered(index)) continue;
+    const SectionPage& page = section(index).page;
+    if (LatePage* late = page.late()) {
+      late->SaveData();
+    } else {
+      page.get().SaveData();
+    }
   }
 }
 
 void ContainerPage::ShowStored() {
   for (std::size_t i = 0; i < sections_.size(); ++i) {
-    if (offered_[i]) sections_[i].page->ShowStored();
+    Page* page = sections_[i].page.made();
+    if (offered_[i] && page != nullptr) page->ShowStored();
   }
 }
 
@@ -74,10 +102,11 @@ int ContainerPage::CurrentItem() const {
   return sections()->selected();
 }
 
-int ContainerPage::SectionOf(const QWidget& subPage) const {
+int ContainerPage::SectionOf(const QObject& subPage) const {
   const auto found =
-      std::find_if(sections_.begin(), sections_.end(),
-                   [&subPage](const Section& section) { return section.page == &subPage; });
+      std::find_if(sections_.begin(), sections_.end(), [&subPage](const Section& section) {
+        return section.page.late() == &subPage || section.page.made() == &subPage;
+      });
   return found == sections_.end() ? -1 : static_cast<int>(found - sections_.begin());
 }
 
@@ -103,15 +132,40 @@ bool ContainerPage::IsOffered(int index) const {
 
 void ContainerPage::Open(int index) {
   if (shown_ != nullptr) shown_->hide();
+  shown_ = nullptr;
   const Section& opened = section(index);
-  shown_ = opened.page;
+  LatePage* late = opened.page.late();
   if (opened.open) {
     opened.open();
+  } else if (late != nullptr && isVisible()) {
+    late->LoadMade();
   } else {
-    shown_->LoadData();
+    Load(index);
   }
-  shown_->show();
+  waiting_ = index;
+  if (opened.page.made() != nullptr || isVisible()) ShowWaiting();
   Q_EMIT Change(index);
+}
+
+void ContainerPage::ShowWaiting() {
+  if (waiting_ < 0) return;
+  shown_ = &section(std::exchange(waiting_, -1)).page.get();
+  shown_->show();
+}
+
+Page* ContainerPage::shownSubPage() const {
+  return waiting_ < 0 ? shown_ : &section(waiting_).page.get();
+}
+
+void ContainerPage::setVisible(bool visible) {
+  if (visible) ShowWaiting();
+  Page::setVisible(visible);
+}
+
+// Shown together with a window.
+void ContainerPage::showEvent(QShowEvent* event) {
+  ShowWaiting();
+  Page::showEvent(event);
 }
 
 const Section& ContainerPage::section(int index) const {

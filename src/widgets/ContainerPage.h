@@ -2,10 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <type_traits>
 #include <vector>
 
 #include "widgets/Control.h"
 #include "widgets/Icons.h"
+#include "widgets/LatePage.h"
 #include "widgets/Page.h"
 
 class QVBoxLayout;
@@ -15,10 +17,27 @@ namespace mortane {
 class PageHeader;
 class SectionBar;
 
-// A sub-page, which has its name, and its option.
+// The sub-page of a section, which has its name: there, or made when its controls are needed.
+class SectionPage {
+ public:
+  template <typename Made, typename = std::enable_if_t<std::is_convertible_v<Made, Page*> &&
+                                                       !std::is_base_of_v<LatePage, Made>>>
+  SectionPage(const Made& page) : page_(page) {}
+  SectionPage(LatePage& page) : late_(&page) {}
+
+  [[nodiscard]] LatePage* late() const { return late_; }
+  [[nodiscard]] Page* made() const { return late_ == nullptr ? page_ : late_->made(); }
+  [[nodiscard]] Page& get() const { return late_ == nullptr ? *page_ : late_->get(); }
+
+ private:
+  LatePage* late_ = nullptr;
+  Page* page_ = nullptr;
+};
+
+// A sub-page and its option.
 struct Section {
   QString caption;
-  Page* page;
+  SectionPage page;
   // Whether there is something to show on the connected microscope; always, when empty.
   std::function<bool()> isOffered = {};
   // What happens before the sub-page is shown; it is loaded, when empty.
@@ -31,7 +50,8 @@ struct Section {
 inline void KeepAsLoaded() {}
 
 // A selected section, by the person or the program, hides the sub-page on show, opens its own and
-// shows it. The one on show is opened again by a click of the person alone.
+// shows it. The one on show is opened again by a click of the person alone. A sub-page that is made
+// late and opened while the page itself is hidden is made when the page is shown.
 class ContainerPage : public Page {
   Q_OBJECT
 
@@ -51,11 +71,14 @@ class ContainerPage : public Page {
 
   [[nodiscard]] int CurrentItem() const;  // -1 before the first selection
   [[nodiscard]] SectionBar* sections() const;
-  [[nodiscard]] Page* shownSubPage() const { return shown_; }
-  [[nodiscard]] int SectionOf(const QWidget& subPage) const;  // -1: none
+  [[nodiscard]] Page* shownSubPage() const;
+  // Of a sub-page, or of what stands for it until it is made; -1: none.
+  [[nodiscard]] int SectionOf(const QObject& subPage) const;
   // What a click on the option of a section does; one that is on show stays as it is. False where
   // its option cannot be clicked.
   bool OpenSection(int index);
+
+  void setVisible(bool visible) override;
 
   Control<PageHeader> Header{"Header"};
 
@@ -72,9 +95,13 @@ class ContainerPage : public Page {
   [[nodiscard]] virtual int FirstSection() const;
   // As LoadData found it.
   [[nodiscard]] bool IsOffered(int index) const;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void Open(int index);
+  void Load(int index);
+  void TakeIn(int index, Page& page);
+  void ShowWaiting();
   [[nodiscard]] const Section& section(int index) const;
   [[nodiscard]] bool AskOffered(int index) const;
 
@@ -84,6 +111,7 @@ class ContainerPage : public Page {
   std::vector<int> loaded_;
   std::vector<bool> offered_;
   Page* shown_ = nullptr;
+  int waiting_ = -1;  // opened, and to be made when this page is shown
 };
 
 }  // namespace mortane

@@ -6,6 +6,7 @@
 
 #include "app/ProgramForm.h"
 #include "widgets/Control.h"
+#include "widgets/LatePage.h"
 #include "wizard/StepTable.h"
 
 class QFrame;
@@ -69,7 +70,7 @@ class SadrelMainForm : public ProgramForm {
   Control<SadrelControlFocusDriveCtl> SadrelControlFocusDriveCtl1{"SadrelControlFocusDriveCtl1"};
   Control<SadrelControlTactorSwitch> SadrelControlTactorSwitch1{"SadrelControlTactorSwitch1"};
   // Kept: no step shows it.
-  Control<SadrelControlXYStageCtl> SadrelControlXYStageCtl1{"SadrelControlXYStageCtl1"};
+  LateControl<SadrelControlXYStageCtl> SadrelControlXYStageCtl1{"SadrelControlXYStageCtl1"};
   Control<SadrelEndingCtl> SadrelEndingCtl1{"SadrelEndingCtl1"};
 
   // What the pages' events bring about; connected where the pages are made.

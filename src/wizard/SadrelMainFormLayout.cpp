@@ -69,8 +69,10 @@ void SadrelMainForm::BuildPages(const FormServices& services) {
     }
   }
   help_->SetTexts(texts);
-  SadrelControlXYStageCtl1 = new SadrelControlXYStageCtl(services.k70, FrameControl);
-  area_->Add(SadrelControlXYStageCtl1);
+  SadrelControlXYStageCtl1.Plan({.make = [this, &k70 = services.k70] {
+    return new SadrelControlXYStageCtl(k70, FrameControl);
+  }});
+  SadrelControlXYStageCtl1.SetPlace(*this, [this](Page& page) { area_->Add(&page); });
 }
 
 QPushButton* SadrelMainForm::AddButton(const QString& text, Act act, QWidget* bar) {

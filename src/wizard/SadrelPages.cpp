@@ -13,6 +13,7 @@
 #include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
+#include "widgets/TabOrder.h"
 
 namespace mortane {
 
@@ -25,14 +26,21 @@ constexpr std::int32_t kWithKnobs = 6;
 
 }  // namespace
 
-SadrelPage::SadrelPage(IconName icon, const QString& title, Page* inner, QWidget* parent)
-    : Page(parent), inner_(inner) {
+SadrelPage::SadrelPage(IconName icon, const QString& title, QWidget* parent) : Page(parent) {
   Header = new PageHeader(icon, title, this);
-  MakePageLayout(this, Header)->addWidget(inner_, 1);
+}
+
+void SadrelPage::SetInner(LatePage& inner) {
+  inner_ = &inner;
+  QVBoxLayout* column = MakePageLayout(this, Header);
+  inner.SetPlace(*this, [this, column](Page& page) {
+    column->addWidget(&page, 1);
+    PutInTabOrder(page, *Header);
+  });
 }
 
 void SadrelPage::LoadData() {
-  inner_->LoadData();
+  inner_->LoadMade();
 }
 
 void SadrelPage::SaveData() {
@@ -40,11 +48,9 @@ void SadrelPage::SaveData() {
 }
 
 SadrelControlOtherCtl::SadrelControlOtherCtl(clsK70& k70, QWidget* parent)
-    : SadrelControlOtherCtl(k70, MakeOther(k70), parent) {}
-
-SadrelControlOtherCtl::SadrelControlOtherCtl(clsK70& k70, ControlOtherCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::Loudspeaker, u"Control"_s, inner, parent), k70_(k70) {
-  ControlOtherCtl1 = inner;
+    : SadrelPage(IconName::Loudspeaker, u"Control"_s, parent), k70_(k70) {
+  ControlOtherCtl1.Plan({.make = [&k70] { return MakeOther(k70); }});
+  SetInner(ControlOtherCtl1);
 }
 
 bool SadrelControlOtherCtl::qhrOnly() const {
@@ -66,11 +72,9 @@ void SadrelControlOtherCtl::LoadData() {
 }
 
 SadrelControlFocusDriveCtl::SadrelControlFocusDriveCtl(clsK70& k70, QWidget* parent)
-    : SadrelControlFocusDriveCtl(MakeFocusDrive(k70), parent) {}
-
-SadrelControlFocusDriveCtl::SadrelControlFocusDriveCtl(ControlFocusDriveCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::ZFocus, u"Z Focus"_s, inner, parent) {
-  ControlFocusDriveCtl1 = inner;
+    : SadrelPage(IconName::ZFocus, u"Z Focus"_s, parent) {
+  ControlFocusDriveCtl1.Plan({.make = [&k70] { return MakeFocusDrive(k70); }});
+  SetInner(ControlFocusDriveCtl1);
 }
 
 void SadrelControlFocusDriveCtl::SetNosePositgion() {
@@ -78,11 +82,9 @@ void SadrelControlFocusDriveCtl::SetNosePositgion() {
 }
 
 SadrelControlXYStageCtl::SadrelControlXYStageCtl(clsK70& k70, QWidget* parent)
-    : SadrelControlXYStageCtl(MakeXYStage(k70), parent) {}
-
-SadrelControlXYStageCtl::SadrelControlXYStageCtl(ControlXYStageCtl* inner, QWidget* parent)
-    : SadrelPage(IconName::XYStage, u"XY Stage"_s, inner, parent) {
-  ControlXYStageCtl1 = inner;
+    : SadrelPage(IconName::XYStage, u"XY Stage"_s, parent) {
+  ControlXYStageCtl1.Plan({.make = [&k70] { return MakeXYStage(k70); }});
+  SetInner(ControlXYStageCtl1);
 }
 
 void SadrelControlXYStageCtl::SetNosePosition() {
@@ -93,8 +95,11 @@ SadrelControlTactorSwitch::SadrelControlTactorSwitch(clsK70& k70, Prompts& promp
     : ContainerPage(IconName::HandController, u"Controller"_s, parent, NotOffered::Hidden),
       k70_(k70) {
   optSettings = sections();
-  SwitchSettingCtl1 = MakeBodySwitches(k70);
-  TactorSwitchSettingCtl1 = MakeTactorSwitches(k70, prompts);
+  SwitchSettingCtl1.Plan(
+      {.make = [&k70] { return MakeBodySwitches(k70); }, .load = ChangesNothing});
+  TactorSwitchSettingCtl1.Plan(
+      {.make = [&k70, &prompts] { return MakeTactorSwitches(k70, prompts); },
+       .load = ChangesNothing});
   SetSections({{u"K70 Switch"_s, SwitchSettingCtl1, [&k70] { return FindSwitchTabs(k70).k70; },
                 KeepAsLoaded},
                {u"Tactor Switch"_s, TactorSwitchSettingCtl1,

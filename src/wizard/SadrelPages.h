@@ -15,20 +15,24 @@ class SwitchSettingCtl;
 class TactorSwitchSettingCtl;
 class clsK70;
 
-// One page under a header; loading and saving pass on to it.
+// One page under a header, made when it is first loaded; loading and saving pass on to it.
 class SadrelPage : public Page {
   Q_OBJECT
 
  public:
-  SadrelPage(IconName icon, const QString& title, Page* inner, QWidget* parent);
+  SadrelPage(IconName icon, const QString& title, QWidget* parent);
 
   void LoadData() override;
   void SaveData() override;
 
   Control<PageHeader> Header{"Header"};
 
+ protected:
+  // To be called by the constructor of the derived page, which names it.
+  void SetInner(LatePage& inner);
+
  private:
-  Page* inner_;
+  LatePage* inner_ = nullptr;
 };
 
 class SadrelControlOtherCtl : public SadrelPage {
@@ -42,11 +46,9 @@ class SadrelControlOtherCtl : public SadrelPage {
   // Shows every frame, then hides those that the microscope or its type has not.
   void LoadData() override;
 
-  Control<ControlOtherCtl> ControlOtherCtl1{"ControlOtherCtl1"};
+  LateControl<ControlOtherCtl> ControlOtherCtl1{"ControlOtherCtl1"};
 
  private:
-  SadrelControlOtherCtl(clsK70& k70, ControlOtherCtl* inner, QWidget* parent);
-
   const clsK70& k70_;
 };
 
@@ -59,10 +61,7 @@ class SadrelControlFocusDriveCtl : public SadrelPage {
   // Shows where the nosepiece stands.
   void SetNosePositgion();
 
-  Control<ControlFocusDriveCtl> ControlFocusDriveCtl1{"ControlFocusDriveCtl1"};
-
- private:
-  SadrelControlFocusDriveCtl(ControlFocusDriveCtl* inner, QWidget* parent);
+  LateControl<ControlFocusDriveCtl> ControlFocusDriveCtl1{"ControlFocusDriveCtl1"};
 };
 
 class SadrelControlXYStageCtl : public SadrelPage {
@@ -74,10 +73,7 @@ class SadrelControlXYStageCtl : public SadrelPage {
   // Shows where the nosepiece stands.
   void SetNosePosition();
 
-  Control<ControlXYStageCtl> ControlXYStageCtl1{"ControlXYStageCtl1"};
-
- private:
-  SadrelControlXYStageCtl(ControlXYStageCtl* inner, QWidget* parent);
+  LateControl<ControlXYStageCtl> ControlXYStageCtl1{"ControlXYStageCtl1"};
 };
 
 // The switches of the body and of the hand controller, each where its firmware has them.
@@ -91,8 +87,8 @@ class SadrelControlTactorSwitch : public ContainerPage {
   void SaveData() override;
 
   Control<SectionBar> optSettings{"optSettings"};
-  Control<SwitchSettingCtl> SwitchSettingCtl1{"SwitchSettingCtl1"};
-  Control<TactorSwitchSettingCtl> TactorSwitchSettingCtl1{"TactorSwitchSettingCtl1"};
+  LateControl<SwitchSettingCtl> SwitchSettingCtl1{"SwitchSettingCtl1"};
+  LateControl<TactorSwitchSettingCtl> TactorSwitchSettingCtl1{"TactorSwitchSettingCtl1"};
 
  private:
   const clsK70& k70_;

@@ -179,6 +179,7 @@ void SelSetupItemCtl::OnMode(int mode) {
 void SelSetupItemCtl::OnFile() {
   optSetupMode->select(kFile);
   const std::string name = k70_.SystemName;
+  if (beforeFile) beforeFile();
   OpenSettings(k70_.prompts(), CommonDialog1, this);
   k70_.SystemName = name;
   for (int row = 0; row < ListStandard->rowCount(); ++row) {

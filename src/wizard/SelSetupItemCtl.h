@@ -36,6 +36,7 @@ class SelSetupItemCtl : public Page {
   [[nodiscard]] bool IsOffered(int item) const;
 
   FileQuestion CommonDialog1;
+  std::function<void()> beforeFile;  // is called when the model is about to be read from a file
 
   Control<PageHeader> Header{"Header"};
   Control<Card> FrameBase{"FrameBase"};

@@ -32,6 +32,7 @@ Page* MakeAs(SadrelMainForm& form, const FormServices& services) {
 
 Page* MakeItems(SadrelMainForm& form, const FormServices& services) {
   auto* page = new SelSetupItemCtl(services.k70, form.FrameControl);
+  page->beforeFile = [&form] { MakeLoadedPages(form); };
   QObject::connect(page, &SelSetupItemCtl::ItemChanged, &form, &SadrelMainForm::OnItemChanged);
   return form.SelSetupItemCtl1 = page;
 }

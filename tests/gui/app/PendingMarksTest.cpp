@@ -34,6 +34,7 @@
 #include "switches/clsControlTactor.h"
 #include "switches/clsDbSwitch.h"
 #include "widgets/ComboBox.h"
+#include "widgets/LatePage.h"
 #include "widgets/ListBox.h"
 #include "widgets/PageButton.h"
 #include "widgets/SectionBar.h"
@@ -50,6 +51,7 @@ class MarksOf : public testing::Test {
   explicit MarksOf(Bench bench = benches::Named("Harbour"), Lines arguments = {})
       : rig(std::move(bench), std::move(arguments)) {
     rig.Start();
+    MakeLoadedPages(*rig.form);
   }
 
   void Look() {
@@ -187,6 +189,27 @@ TEST_F(MarksOf, ARowOfAPageThatIsNotOnShowMarksTheOptionOfThatPage) {
   EXPECT_TRUE(marks.contains("ControlTactorSwitchCtl1 section B")) << testing::PrintToString(marks);
   EXPECT_TRUE(marks.contains("ControlSettingsCtl1 section Tactor Switch"));
   EXPECT_EQ(marks.size(), 2U);
+}
+
+TEST(LateMarks, StandAtTheSectionBeforeItsSubPageIsMadeAndAtTheControlsAfterwards) {
+  AppRig rig(benches::Named("Harbour"));
+  rig.Start();
+  const auto shown = [&rig] {
+    QTest::keyClick(rig.form.get(), Qt::Key_Shift);
+    QApplication::processEvents();
+    return ShownMarks(*rig.form);
+  };
+  GetK70().curTactor.Func(12, 13);
+  const Marks before{"ControlSettingsCtl1 section Tactor Switch"};
+  EXPECT_EQ(shown(), before);
+  auto& page = *rig.form->ControlSettingsCtl1;
+  EXPECT_EQ(page.ControlTactorSwitchCtl1.made(), nullptr);
+  QTest::mouseClick(rig.form->ImageButton[kPageCount - 1], Qt::LeftButton);
+  ClickButton(*page.sections()->option(controltab::kTactorSwitch));
+  ASSERT_NE(page.ControlTactorSwitchCtl1.made(), nullptr);
+  const Marks after = shown();
+  EXPECT_TRUE(after.contains("ControlTactorSwitchCtl1 section B")) << testing::PrintToString(after);
+  EXPECT_EQ(after.size(), 2U);
 }
 
 TEST_F(MarksOf, NoDotAsksTheController) {

@@ -20,6 +20,7 @@
 #include "drives/ControlOtherCtl.h"
 #include "drives/ControlXYStageCtl.h"
 #include "filters/FilterQubeSettingsCtl.h"
+#include "gui/support/LatePages.h"
 #include "gui/support/PageRig.h"
 #include "interlocks/InterlockSettingsCtl.h"
 #include "interlocks/ObservationAccessories.h"
@@ -162,10 +163,9 @@ class Pages {
 
  private:
   static void Load(QWidget& page) {
+    MakeAllPages(page);
     if (auto* self = dynamic_cast<Page*>(&page)) self->LoadData();
-    for (QWidget* child : page.findChildren<QWidget*>()) {
-      if (auto* sub = dynamic_cast<Page*>(child)) sub->LoadData();
-    }
+    for (Page* sub : page.findChildren<Page*>()) sub->LoadData();
   }
 
   template <typename Control>
