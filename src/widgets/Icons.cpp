@@ -7,6 +7,7 @@
 #include <QPalette>
 #include <QPixmapCache>
 #include <array>
+#include <optional>
 #include <string_view>
 
 #include "widgets/Theme.h"
@@ -26,8 +27,8 @@ constexpr std::array<std::string_view, kIconCount> kFiles{
 };
 
 // The colours that stand in the files for the two of a tint.
-constexpr char kLineInFile[] = "#000000";
-constexpr char kAccentInFile[] = "#0000ff";
+constexpr QRgb kLineInFile = qRgb(0, 0, 0);
+constexpr QRgb kAccentInFile = qRgb(0, 0, 255);
 
 QByteArray ReadDrawing(IconName name) {
   const std::string_view file = kFiles[static_cast<std::size_t>(name)];
@@ -38,11 +39,14 @@ QByteArray ReadDrawing(IconName name) {
   return opened ? source.readAll() : QByteArray();
 }
 
-QByteArray Tinted(IconName name, const IconTint& tint) {
-  const QColor accent = tint.accent.isValid() ? tint.accent : tint.line;
-  QByteArray drawing = ReadDrawing(name);
-  drawing.replace(kLineInFile, tint.line.name().toLatin1());
-  drawing.replace(kAccentInFile, accent.name().toLatin1());
+// A file is read once: most icons are drawn in several tints.
+VectorDrawing Tinted(IconName name, const IconTint& tint) {
+  static std::array<std::optional<VectorDrawing>, kIconCount> drawings;
+  std::optional<VectorDrawing>& read = drawings[static_cast<std::size_t>(name)];
+  if (!read) read.emplace(ReadDrawing(name));
+  VectorDrawing drawing = *read;
+  drawing.SetColors(
+      {{kLineInFile, tint.line}, {kAccentInFile, tint.accent.isValid() ? tint.accent : tint.line}});
   return drawing;
 }
 
@@ -106,7 +110,7 @@ QPixmap Icon(IconName name, int size, const IconTint& tint, double devicePixelRa
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
-  VectorDrawing(Tinted(name, tint)).Paint(painter, QRectF(0, 0, pixels, pixels));
+  Tinted(name, tint).Paint(painter, QRectF(0, 0, pixels, pixels));
   painter.end();
   pixmap.setDevicePixelRatio(devicePixelRatio);
   QPixmapCache::insert(key, pixmap);

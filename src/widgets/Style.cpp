@@ -5,10 +5,12 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QStyleOption>
 
 #include "widgets/AltKeys.h"
 #include "widgets/ElidedTip.h"
+#include "widgets/LateIcon.h"
 #include "widgets/NotSentMark.h"
 #include "widgets/Paint.h"
 #include "widgets/StylePrimitives.h"
@@ -63,6 +65,16 @@ void Style::polish(QWidget* widget) {
 void Style::unpolish(QWidget* widget) {
   widget->removeEventFilter(altKeys_);
   QProxyStyle::unpolish(widget);
+}
+
+// A menu bar and a tool bar ask for the picture of a button that they show where they lack room.
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                          const QWidget* widget) const {
+  if (icon != SP_ToolBarHorizontalExtensionButton && icon != SP_ToolBarVerticalExtensionButton)
+    return QProxyStyle::standardIcon(icon, option, widget);
+  return LateIcon([style = QPointer<QStyle>(baseStyle()), icon] {
+    return style == nullptr ? QIcon() : style->standardIcon(icon);
+  });
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,

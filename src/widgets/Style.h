@@ -33,6 +33,8 @@ class Style : public QProxyStyle {
                    const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                     const QWidget* widget) const override;
   QRect subElementRect(SubElement element, const QStyleOption* option,
                        const QWidget* widget) const override;
   QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,

@@ -171,6 +171,17 @@ bool VectorDrawing::Repeat(const QXmlStreamReader& reader, const Style& style) {
   return true;
 }
 
+void VectorDrawing::SetColors(const QHash<QRgb, QColor>& others) {
+  const auto other = [&others](QColor color) {
+    const auto found = others.constFind(color.rgb());
+    return found == others.cend() ? color : Faded(*found, color.alphaF());
+  };
+  for (Shape& shape : shapes_) {
+    if (shape.fill.style() != Qt::NoBrush) shape.fill.setColor(other(shape.fill.color()));
+    if (shape.stroke.style() != Qt::NoPen) shape.stroke.setColor(other(shape.stroke.color()));
+  }
+}
+
 void VectorDrawing::Paint(QPainter& painter, const QRectF& area) const {
   if (viewBox_.isEmpty()) return;
   painter.save();

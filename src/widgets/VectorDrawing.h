@@ -27,6 +27,9 @@ class VectorDrawing {
   // In the drawing's own units.
   QSizeF Size() const { return viewBox_.size(); }
 
+  // Every other colour for one that stands in the file; how far it covers stays.
+  void SetColors(const QHash<QRgb, QColor>& others);
+
   // Stretches the drawing over the area.
   void Paint(QPainter& painter, const QRectF& area) const;
 

@@ -30,7 +30,14 @@ HelpLine::HelpLine(QWidget* parent) : QWidget(parent) {
 
 void HelpLine::SetTexts(const QStringList& texts) {
   texts_ = texts;
+  MeasureTexts();
   FitHeight();
+}
+
+void HelpLine::MeasureTexts() {
+  const QFontMetrics metrics = LabelHelp->fontMetrics();
+  widths_.clear();
+  for (const QString& text : texts_) widths_.append(metrics.horizontalAdvance(text));
 }
 
 void HelpLine::Show(const QString& text) {
@@ -48,8 +55,9 @@ void HelpLine::FitHeight() {
   const QFontMetrics metrics = LabelHelp->fontMetrics();
   const QRect room(0, 0, width() - kTextLeft - grid::kPageMargin, QWIDGETSIZE_MAX);
   int text = kLeastLines * metrics.lineSpacing();
-  for (const QString& each : texts_) {
-    const QRect needed = metrics.boundingRect(room, Qt::TextWordWrap, each);
+  for (qsizetype i = 0; i < texts_.size(); ++i) {
+    if (widths_[i] <= room.width()) continue;  // one line
+    const QRect needed = metrics.boundingRect(room, Qt::TextWordWrap, texts_[i]);
     text = qMax(text, needed.height());
   }
   setFixedHeight(text + 2 * kAbove);
@@ -62,7 +70,9 @@ void HelpLine::resizeEvent(QResizeEvent* event) {
 
 void HelpLine::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) FitHeight();
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  MeasureTexts();
+  FitHeight();
 }
 
 void HelpLine::paintEvent(QPaintEvent*) {

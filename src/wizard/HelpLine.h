@@ -33,9 +33,11 @@ class HelpLine : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void MeasureTexts();
   void FitHeight();
 
   QStringList texts_;
+  QList<int> widths_;  // of the texts in one line
 };
 
 }  // namespace mortane

@@ -33,7 +33,6 @@ SadrelEndingCtl::SadrelEndingCtl(clsK70& k70, QWidget* parent) : Page(parent), k
   TextResult->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   TextResult->setTabChangesFocus(true);
   TextResult->setLineWrapMode(QPlainTextEdit::NoWrap);
-  TextResult->setFont(FixedFont());
   TextResult->document()->setDocumentMargin(grid::kBetweenControls);
   ButtonSend->setAutoDefault(true);  // acts on the Enter key, too
   TakeFocusByClicks(*ButtonSend);
@@ -48,6 +47,7 @@ void SadrelEndingCtl::Arrange() {
 }
 
 void SadrelEndingCtl::LoadData() {
+  TextResult->setFont(FixedFont());
   const std::string report = k70_.Modify();
   sinceLoad_.start();
   if (report == report_) return;
