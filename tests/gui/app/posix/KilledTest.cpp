@@ -18,6 +18,7 @@
 #include "common/Failure.h"
 #include "gui/walk/Monkey.h"
 #include "support/Rig.h"
+#include "support/Sample.h"
 #include "support/ScriptedJoystick.h"
 #include "support/TempFolder.h"
 #include "support/posix/ChildProcess.h"
@@ -30,7 +31,6 @@ using std::chrono::milliseconds;
 using std::chrono::nanoseconds;
 using std::chrono::steady_clock;
 
-constexpr int kKills = 100;
 // Between two writings; a thousand in the program.
 constexpr milliseconds kInterval{10};
 // The toolkit's timers keep their time to a twentieth of it, in whole milliseconds.
@@ -209,7 +209,8 @@ class KilledProcess : public testing::Test {
 TEST_F(KilledProcess, LosesTheEditsOfItsLastMomentAndLeavesNoHalfFile) {
   std::mt19937 kills(1);
   int files = 0;
-  for (unsigned kill = 0; kill < kKills; ++kill) {
+  const auto count = static_cast<unsigned>(CountOf(20, 100));
+  for (unsigned kill = 0; kill < count; ++kill) {
     std::filesystem::remove_all(folder.Path("unsent"));
     log->turns = 0;
     log->writings = 0;
@@ -230,7 +231,7 @@ TEST_F(KilledProcess, LosesTheEditsOfItsLastMomentAndLeavesNoHalfFile) {
     EXPECT_FALSE(HasLost(ended)) << "walk " << kill << ", " << log->turns << " turns, "
                                  << log->writings << " writings";
   }
-  EXPECT_GT(files, kKills / 4) << "killed too early to tell";
+  EXPECT_GT(files, static_cast<int>(count) / 4) << "killed too early to tell";
 }
 
 }  // namespace
