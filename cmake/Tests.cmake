@@ -55,7 +55,11 @@ set(EMULATOR \"${CMAKE_CROSSCOMPILING_EMULATOR}\")\ninclude(\"${script}\")\n")
   add_custom_command(TARGET ${name} POST_BUILD VERBATIM COMMAND ${CMAKE_COMMAND}
     -D "PROGRAM=$<TARGET_FILE:${name}>" -D "RESULTS=${PROJECT_BINARY_DIR}/results"
     -D "LIST=${list}" -P "${script}")
-  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${list}")
+  # A program that is not built yet is a test that fails, and keeps no other from running.
+  set(included "${CMAKE_CURRENT_BINARY_DIR}/${name}.tests.cmake")
+  file(WRITE "${included}" "if(EXISTS \"${list}\")\n  include(\"${list}\")\nelse()\n\
+  add_test(\"${name}/NotBuilt\" \"${name}/NotBuilt\")\nendif()\n")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${included}")
 endfunction()
 
 # mortane_test_paths(source NAME=path ...)
