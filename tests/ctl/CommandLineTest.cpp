@@ -91,6 +91,8 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongCase{{"backups", "--keep", "1.5"}, "1.5"},
                     WrongCase{{"diff", "a", "b", "--sim"}, "--sim"},
                     WrongCase{{"devices", "--frob"}, "--frob"},
+                    WrongCase{{"compare", "a", "--yes"}, "--yes"},
+                    WrongCase{{"devices", "--sections", "SYSTEM"}, "--sections"},
                     WrongCase{{"devices", "--sim", "--device", "A"}, "--sim"},
                     WrongCase{{"devices", "a\nb"}, "a\\nb"}));
 

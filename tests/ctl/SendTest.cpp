@@ -235,6 +235,7 @@ TEST(KeptStates, AreListedAndRemovedOnlyWhenAsked) {
   EXPECT_EQ(rig.Run({"backups", "--json"}), Outcome::Done);
   EXPECT_TRUE(rig.Out().starts_with("{\"backups\":[{\"device\":\"Bay 7\",\"number\":1,\"time\":"))
       << rig.Out();
+  EXPECT_TRUE(rig.Out().ends_with("\"removed\":0}\n")) << rig.Out();
   EXPECT_EQ(rig.Run({"backups", "--keep", "1"}), Outcome::Done);
   EXPECT_NE(rig.Out().find("\n2 backups removed\n"), std::string::npos) << rig.Out();
   EXPECT_EQ(rig.KeptFiles().size(), 1U);

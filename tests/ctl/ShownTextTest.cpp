@@ -26,7 +26,8 @@ INSTANTIATE_TEST_SUITE_P(
                     ShownCase{"a\r\tb", "a\\r\\tb"}, ShownCase{"\x1B[31m", "\\x1B[31m"},
                     ShownCase{"\x7F", "\\x7F"}, ShownCase{"\xC2\x9B", "\\xC2\\x9B"},
                     ShownCase{"\xC2\xA0", "\xC2\xA0"}, ShownCase{"\xFF", "\\xFF"},
-                    ShownCase{"\xE2\x82", "\\xE2\\x82"}, ShownCase{"\xC0\xAF", "\\xC0\\xAF"},
+                    ShownCase{"\xFF\x41", "\\xFF\x41"}, ShownCase{"\xE2\x82", "\\xE2\\x82"},
+                    ShownCase{"\xC0\xAF", "\\xC0\\xAF"},
                     ShownCase{"\xED\xA0\x80", "\\xED\\xA0\\x80"},
                     ShownCase{"\xF4\x90\x80\x80", "\\xF4\\x90\\x80\\x80"},
                     ShownCase{std::string("a\0b", 3), "a\\x00b"}));

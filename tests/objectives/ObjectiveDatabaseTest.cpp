@@ -72,6 +72,7 @@ TEST_F(ObjectiveDatabase, IndicesOutOfRangeGiveNothing) {
   rig.ConnectAndReceive();
   for (const std::int32_t code : {-1, 250, 2147483647, -2147483647}) {
     EXPECT_EQ(database.Name(code), "");
+    EXPECT_EQ(database.Magnification(code), 0);
     EXPECT_EQ(database.SeriesCode(code), 0);
     EXPECT_EQ(database.AdoptiveCondenser(code), 0);
     EXPECT_EQ(database.Series(code), "");

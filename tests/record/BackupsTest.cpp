@@ -127,7 +127,9 @@ TEST(KeptStates, LeaveOtherFilesOfTheFolderAlone) {
                                         "2026-03-09T12-00-00.007Z-1.xml",
                                         "2026-03-09T12-00-00.007Z-02.xml",
                                         "2026-03-09T12-00-00.007Z-x.xml",
-                                        "x026-03-09T12-00-00.007Z.xml"};
+                                        "x026-03-09T12-00-00.007Z.xml",
+                                        "2026-03-09T12-00-00.00AZ.xml",
+                                        "2026-03-09T12-00-00.1-7Z.xml"};
   for (const std::string& name : others) kept.folder.Write(folder + name, "other");
   EXPECT_EQ(backups.List().size(), 1U);
   EXPECT_EQ(backups.Prune(0), 1U);

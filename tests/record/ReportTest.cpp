@@ -126,6 +126,13 @@ TEST(TheRecord, ShowsTheTurretsThatAreThere) {
   EXPECT_EQ(Count(ReportAsHtml(content), "<svg "), 0U);
 }
 
+// Two objectives and two exciters have names, and one of each other kind.
+TEST(TheRecord, TellsTheFreeRecordsOfEachKindTogether) {
+  const std::string html = ReportAsHtml(ContentOf("Quay"));
+  EXPECT_EQ(Count(html, "3, 4, 5, 6, 7, 8, 9"), 6U);
+  EXPECT_EQ(Count(html, "2, 3, 4, 5, 6, 7, 8, 9"), 4U);
+}
+
 TEST(TheRecord, OfAFileNamesWhatTheFileNames) {
   const ReportContent content{
       FileState("<NOSEPIECE><ITEM POSITION='1' CODE='9'/><ITEM POSITION='2' CODE='241'/>"

@@ -57,6 +57,10 @@ TEST_F(ShownCassettePage, OffersForEachAddressWhatTheControllerFindsFit) {
   }
 }
 
+TEST_F(ShownCassettePage, BeginsItsListsAtTheTopOfTheirColumn) {
+  EXPECT_EQ(combo(1).y(), 0);
+}
+
 TEST_F(ShownCassettePage, AsksForTheFixedCondensersOnly) {
   rig.journal.Clear();
   page.LoadData();

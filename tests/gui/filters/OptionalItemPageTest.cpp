@@ -33,6 +33,13 @@ TEST_F(OptionalItemPage, ShowsTheNamesOfTheBenchInTheFixedPitchFont) {
   }
 }
 
+TEST_F(OptionalItemPage, HasItsCaptionsAboveTheirColumns) {
+  EXPECT_EQ(page.Label1->x(), page.TextExciter[0]->x());
+  EXPECT_EQ(page.Label2->x(), page.TextDichroic[0]->x());
+  EXPECT_EQ(page.Label3->x(), page.TextBarrier[0]->x());
+  EXPECT_LT(page.Label1->x(), page.Label2->x());
+}
+
 TEST_F(OptionalItemPage, ARowLeftEmptyShowsTenDashes) {
   for (TextField* field : std::initializer_list<TextField*>{
            page.TextExciter[0], page.TextDichroic[0], page.TextBarrier[0]}) {

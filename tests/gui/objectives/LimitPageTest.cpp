@@ -4,11 +4,13 @@
 #include <QFrame>
 #include <QLabel>
 #include <QTest>
+#include <array>
 
 #include "gui/objectives/AccessibleObjectives.h"
 #include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
+#include "widgets/Card.h"
 #include "widgets/OptionGroup.h"
 
 namespace mortane::test {
@@ -195,6 +197,18 @@ int TextStart(const QLabel& label, const QWidget& page) {
   EXPECT_GE(label.contentsMargins().left(), 0) << "wrapped lines would begin outside";
   const int blank = text.startsWith(' ') ? label.fontMetrics().horizontalAdvance(' ') : 0;
   return label.mapTo(&page, QPoint(label.contentsMargins().left() + blank, 0)).x();
+}
+
+TEST(LimitPage, InALargeWindowTheRulesStayTogetherAndTheNotesStandAtTheBottom) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveLimitCtl(rig.k70()));
+  rig.window().resize(1000, 1200);
+  QApplication::processEvents();
+  for (const QWidget* rule :
+       std::array<const QWidget*, 3>{page.frmIncrease, page.frmSkip, page.frmImmersion})
+    EXPECT_EQ(rule->height(), rule->sizeHint().height()) << rule->objectName().toStdString();
+  EXPECT_LT(page.FrameBase->height() - page.Label1->geometry().bottom(), 40);
+  EXPECT_GT(page.Label2->y() - page.frmImmersion->geometry().bottom(), 200);
 }
 
 TEST(LimitPage, ExplanationsBeginAtOneEdgeWhateverTheirTextBeginsWith) {

@@ -29,6 +29,15 @@ TEST(OptionCondenser, OffersTheFixedCondensersButThreeOfThem) {
   EXPECT_EQ(codes, (std::vector<int>{0, 2, 3, 5, 6, 7, 9}));
 }
 
+TEST(OptionCondenser, StandsBelowTheNumbersInALargeWindowToo) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
+  rig.window().resize(1000, 1200);
+  QApplication::processEvents();
+  EXPECT_EQ(page.FrmCondenser->height(), page.FrmCondenser->sizeHint().height());
+  EXPECT_EQ(page.ComboCondenser->height(), page.ComboCondenser->sizeHint().height());
+}
+
 struct StopRow {
   int record;
   const char* name;

@@ -1,6 +1,11 @@
 // What a choice on the sub-page of the hand controller makes of the codes, and what codes show.
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <QPushButton>
+#include <array>
+
+#include "drawings/SwitchDrawing.h"
 #include "gui/support/PageActs.h"
 #include "gui/switches/SwitchPages.h"
 #include "switches/SwitchFunctions.h"
@@ -34,6 +39,33 @@ class TactorFunctions : public testing::Test {
   PageRig rig{"Harbour"};
   TactorSwitchSettingCtl& page = *MakeTactorSwitchSettingCtl(rig.k70());
 };
+
+// A corner is round where it lacks the colour of the line above the letter.
+bool IsRound(const QImage& letter, int x) {
+  return letter.pixelColor(x, 0) != letter.pixelColor(letter.width() / 2, 0);
+}
+
+TEST_F(TactorFunctions, LettersOfPagesAreOneControlWithRoundEnds) {
+  const QWidget& a = *page.optChg->button(kPageA);
+  const QWidget& b = *page.optChg->button(kPageB);
+  EXPECT_EQ(a.geometry().right() + 1, b.geometry().left());
+  for (const int chosen : {kPageA, kPageB}) {
+    ShowPage(chosen);
+    const QImage left = page.optChg->button(kPageA)->grab().toImage();
+    const QImage right = page.optChg->button(kPageB)->grab().toImage();
+    EXPECT_TRUE(IsRound(left, 0)) << chosen;
+    EXPECT_FALSE(IsRound(right, 0)) << chosen;
+    EXPECT_TRUE(IsRound(right, right.width() - 1)) << chosen;
+  }
+}
+
+TEST_F(TactorFunctions, DrawingAndIconsOfFilesAreThoseOfTheHandController) {
+  EXPECT_EQ(page.optBtn->objectName(), "handController");
+  for (const QPushButton* button : std::array<const QPushButton*, 3>{
+           page.btnNewFileOpen, page.btnReadFileOpen, page.Command1}) {
+    EXPECT_EQ(button->iconSize(), QSize(20, 20));
+  }
+}
 
 TEST_F(TactorFunctions, TheDialOfEachPageGetsAPairOfCodes) {
   for (const auto& [switches, position] : {std::pair{kPageA, 1}, {kPageB, 8}}) {

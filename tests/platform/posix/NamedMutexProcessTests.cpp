@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 
@@ -84,6 +85,18 @@ TEST(NamedMutexAcrossProcesses, FollowsNoLinkInTheFilesPlace) {
   EXPECT_EQ(NamedMutex().Open(name), Opened::Failed);
   EXPECT_FALSE(std::filesystem::exists(victim));
   std::filesystem::remove(file);
+}
+
+TEST(NamedMutexWait, LastsAsLongAsItWasAskedTo) {
+  const test::UniqueName unique;
+  NamedMutex owner;
+  NamedMutex waiter;
+  ASSERT_EQ(owner.Open(unique.Text()), NamedMutex::Opened::First);
+  ASSERT_EQ(waiter.Open(unique.Text()), NamedMutex::Opened::AlreadyExisted);
+  owner.Lock(0);
+  const auto start = std::chrono::steady_clock::now();
+  waiter.Lock(60);
+  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(60));
 }
 
 }  // namespace
