@@ -2,6 +2,7 @@
 // switches, drives and the ordinary database.
 #include <gtest/gtest.h>
 
+#include "common/Numbers.h"
 #include "controller/SimulatedRig.h"
 #include "controller/simulator/DatabaseContent.h"
 
@@ -53,6 +54,7 @@ TEST(BenchContent, TurretsHoldTheirCodes) {
   const SimulatedRig lantern("Lantern");
   EXPECT_EQ(CodesOf(lantern.root.NosepieceDevice().Positions()), "1 4 7 10 14");
   EXPECT_EQ(CodesOf(lantern.root.FilterCubeDevice().Positions()), "2 3 5 7 1");
+  EXPECT_EQ(CodesOf(SimulatedRig("Relay").root.CondenserDevice().Positions()), "1 2 3 4 5 6 7");
   const SimulatedRig hub("Hub");
   EXPECT_EQ(CodesOf(hub.root.FilterCubeDevice().Positions()), "2 3 4 5 6 7 8 9 10 1");
   EXPECT_EQ(CodesOf(hub.root.CondenserDevice().Positions()), "1 2 3 4 5 6 7");
@@ -122,39 +124,116 @@ TEST(BenchContent, DrivesStandAndAreCompensated) {
   }
 }
 
-struct ObjectiveLine {
-  std::int32_t code;
-  const char* name;
-  std::int32_t series;
-  std::int32_t type;
-  double magnification;
-  double workingDistance;
-  double aperture;
+std::string LineOf(const ObjectiveData& objective) {
+  const auto text = [](double value) { return ShortestGeneral(value, PointFormat()); };
+  return std::to_string(objective.code) + " " + objective.name + ": " +
+         std::to_string(objective.series) + "/" + std::to_string(objective.type) + " " +
+         text(objective.magnification) + " " + text(objective.workingDistance) + " " +
+         text(objective.numericalAperture) + " " + std::to_string(objective.adoptive);
+}
+
+// Code, name, series and type, magnification, working distance in mm, aperture, condenser.
+constexpr const char* kOrdinaryObjectives[] = {
+    "1 Plan A 2x: 1/7 2 8.5 0.06 0",
+    "2 Plan A 4x: 1/1 4 30 0.1 0",
+    "3 Plan A 10x: 1/1 10 10.5 0.25 0",
+    "4 Plan A 10x Ph: 1/4 10 10.5 0.25 0",
+    "5 Plan A 20x: 1/1 20 1.2 0.4 0",
+    "6 Plan A 40x: 1/1 40 0.56 0.65 0",
+    "7 Plan A 100x Oil: 1/2 100 0.17 1.25 0",
+    "8 Plan F 10x: 2/1 10 16 0.3 0",
+    "9 Plan F 20x: 2/6 20 2.1 0.5 0",
+    "10 Plan F 40x: 2/6 40 0.66 0.75 0",
+    "11 Plan F 60x: 2/1 60 0.35 0.85 0",
+    "12 Plan F 100x Oil: 2/2 100 0.16 1.3 0",
+    "13 Super C 10x: 3/1 10 4 0.45 0",
+    "14 Super C 20x: 3/1 20 1 0.75 0",
+    "15 Super C 40x: 3/1 40 0.25 0.95 0",
+    "16 Super C 60x W: 3/3 60 0.31 1.2 0",
+    "17 Super C 60x Oil: 3/2 60 0.13 1.4 0",
+    "18 Super C100x Oil: 3/2 100 0.13 1.45 0",
+    "19 Long WD 20x: 4/1 20 8.2 0.45 0",
+    "20 Long WD 40x: 4/1 40 3.6 0.6 0",
+    "21 Long WD 40x Ph: 4/4 40 2.8 0.6 0",
+    "22 Relief 10x: 5/1 10 6.2 0.25 0",
+    "23 Relief 20x: 5/1 20 2.3 0.4 0",
+    "24 Epi 5x: 6/1 5 23.5 0.15 0",
+    "25 Epi 50x: 6/1 50 1 0.8 0",
+    "26 Epi 150x: 6/1 150 0.42 0.9 0",
+    "241 Clinic 25x: 2/3 25 1.98 0.95 3",
+    "242 Loan 63x Oil: 3/2 63 0.19 1.4 5",
 };
 
-// One of each series, and the two that users named.
+// Odd in their names, series, order and answers.
+constexpr const char* kAwkwardObjectives[] = {
+    "3 Series 1 40x: 1/2 40 0.6 0.65 0",
+    "1 Series 1 4x: 1/1 4 30 0.1 0",
+    "2 A name of thirty characters...: 1/1 10 10.5 0.25 0",
+    "4 Blanks behind   : 2/9 20 2.1 0.5 0",
+    "5 : 2/3 60 0.35 0.85 0",
+    "6 Twin 20x: 3/4 20 1.2 0.4 0",
+    "7 Twin 20x: 3/4 20 1.2 0.4 0",
+    "8 Lost 50x: 13/1 50 1 0.8 0",
+    "9 No series 5x: 0/1 5 23.5 0.15 0",
+    "10 Only one 100x: 4/9 100 0.2 1.3 0",
+    "11 Only one 100x: 5/9 100 0.2 1.3 0",
+    "12 Only one 100x: 6/9 100 0.2 1.3 0",
+    "13 Only one 100x: 7/9 100 0.2 1.3 0",
+    "14 Only one 100x: 8/9 100 0.2 1.3 0",
+    "15 Only one 100x: 9/9 100 0.2 1.3 0",
+    "16 Only one 100x: 10/9 100 0.2 1.3 0",
+    "240 The last fixed: 10/1 200 40 2 0",
+    "30 Out of place: 1/1 10 1 0.3 0",
+    "241 Twenty characters ok: 1/1 62.5 12.34 0.999 2",
+    "242 -------: 1/1 10 1 0.3 0",
+    "243 Twenty-five characters OK: 2/2 123.45 12.345 0.1234 9",
+    "244 : 0/0 0 0 0 0",
+    "245 ---------------: 0/0 0 0 0 0",
+    "246 ----------: 0/0 0 0 0 0",
+    "247 Sixteen letters.: 3/1 40 0.6 0.65 3",
+    "248 Short answer: 3/1 40 0.6 0.65 3",
+    "249 Bad answer: 3/1 40 0.6 0.65 3",
+};
+
+template <std::size_t Count>
+void ExpectObjectives(const std::vector<ObjectiveData>& objectives,
+                      const char* const (&expected)[Count]) {
+  ASSERT_GE(objectives.size(), Count);
+  for (std::size_t i = 0; i < Count; ++i) EXPECT_EQ(LineOf(objectives[i]), expected[i]);
+}
+
 TEST(BenchContent, ObjectivesHaveTheirFigures) {
   const DatabaseData database = OrdinaryDatabase();
   ASSERT_EQ(database.objectives.size(), 35U);
-  for (const ObjectiveLine& line : {ObjectiveLine{1, "Plan A 2x", 1, 7, 2, 8.5, 0.06},
-                                    ObjectiveLine{10, "Plan F 40x", 2, 6, 40, 0.66, 0.75},
-                                    ObjectiveLine{16, "Super C 60x W", 3, 3, 60, 0.31, 1.2},
-                                    ObjectiveLine{20, "Long WD 40x", 4, 1, 40, 3.6, 0.6},
-                                    ObjectiveLine{22, "Relief 10x", 5, 1, 10, 6.2, 0.25},
-                                    ObjectiveLine{26, "Epi 150x", 6, 1, 150, 0.42, 0.9},
-                                    ObjectiveLine{241, "Clinic 25x", 2, 3, 25, 1.98, 0.95},
-                                    ObjectiveLine{242, "Loan 63x Oil", 3, 2, 63, 0.19, 1.4}}) {
-    const std::size_t place = line.code < 241 ? static_cast<std::size_t>(line.code) - 1
-                                              : static_cast<std::size_t>(line.code) - 241 + 26;
-    const ObjectiveData& objective = database.objectives.at(place);
-    EXPECT_EQ(objective.code, line.code);
-    EXPECT_EQ(objective.name, line.name);
-    EXPECT_EQ(objective.series, line.series) << line.name;
-    EXPECT_EQ(objective.type, line.type) << line.name;
-    EXPECT_EQ(objective.magnification, line.magnification) << line.name;
-    EXPECT_EQ(objective.workingDistance, line.workingDistance) << line.name;
-    EXPECT_EQ(objective.numericalAperture, line.aperture) << line.name;
+  ExpectObjectives(database.objectives, kOrdinaryObjectives);
+  const DatabaseData attic = benches::InstrumentNamed("Attic").database;
+  ASSERT_EQ(attic.objectives.size(), 27U);
+  ExpectObjectives(attic.objectives, kAwkwardObjectives);
+  EXPECT_EQ(attic.objectives[24].answer, "  ONR731190 03C28A3  ");
+  EXPECT_EQ(attic.objectives[25].answer, "8A3");
+  EXPECT_EQ(attic.objectives[26].answer, "ONR93119003C28Ax");
+}
+
+TEST(BenchContent, CondensersOfTheAtticFitTheMultiplesOfTheirNumbers) {
+  const DatabaseData attic = benches::InstrumentNamed("Attic").database;
+  const char* suits[] = {"1111111111", "1101010101", "1010010010", "1001000100",
+                         "1000100001", "1000010000", "1000001000", "1000000100",
+                         "1000000010", "1000000001", "1000000000", "1000000000"};
+  for (std::size_t i = 0; i < std::size(suits); ++i) {
+    EXPECT_EQ(attic.condensers.at(i).suits, suits[i]) << i;
+    EXPECT_EQ(attic.condensers.at(i).option, i == 4) << i;
   }
+}
+
+TEST(BenchContent, CubesOfTheAtticNameItemsThatAreNotThere) {
+  std::string cubes;
+  for (const CubeData& cube : benches::InstrumentNamed("Attic").database.cubes) {
+    if (cube.exciter == 0) continue;
+    Append(cubes, std::to_string(cube.code) + ":" + std::to_string(cube.exciter) + "/" +
+                      std::to_string(cube.dichroic) + "/" + std::to_string(cube.barrier));
+  }
+  EXPECT_EQ(cubes,
+            "1:1/1/1 2:1/1/1 3:2/2/300 4:250/3/4 5:3/3/3 241:241/4/5 244:243/242/30 250:1/1/1");
 }
 
 template <typename Record>

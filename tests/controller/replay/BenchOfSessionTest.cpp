@@ -173,6 +173,19 @@ TEST_F(FewLines, ALibraryMayAnswerNumbersInPlaceOfStateValuesAndOtherKindsOfNumb
   EXPECT_EQ(made.bench.instruments[1].Accessory(accessory::kNosepiece).value, 4);
 }
 
+TEST_F(FewLines, ANumberOfSixteenBitsIsTakenUpToItsEnds) {
+  for (const int number : {-32768, 32767}) {
+    const SessionBench made =
+        MadeConnected({"#5 get XYDriveDevice.HandleMode -> " + std::to_string(number)});
+    EXPECT_EQ(made.bench.instruments[1].xyDrive.handleMode, number);
+  }
+  for (const int number : {-32769, 32768}) {
+    const SessionBench made =
+        MadeConnected({"#5 get XYDriveDevice.HandleMode -> " + std::to_string(number)});
+    EXPECT_EQ(made.bench.instruments[1].xyDrive.handleMode, 0);
+  }
+}
+
 TEST_F(FewLines, TheFiberServerIsKnownByWhatItDoes) {
   EXPECT_FALSE(Made({"#2 get DeviceList.Count -> 1"}).bench.fiber.installed);
   const Bench open = Made({"#2 get DeviceList.Count -> 1", "#0 create Create(FiberServer) -> #3",
