@@ -61,9 +61,9 @@ struct CallRow {
 };
 
 constexpr std::array kCalls{
-    CallRow{"CheckRealMove", "NosepieceDevice.Begin"},
-    CallRow{"ControlFocusDriveCtl1", "ZDriveDevice."},
-    CallRow{"ControlXYStageCtl1", "XYDriveDevice."},
+    CallRow{"CheckRealMove", "NosepieceDevice"},
+    CallRow{"ControlFocusDriveCtl1", "ZDriveDevice"},
+    CallRow{"ControlXYStageCtl1", "XYDriveDevice"},
 };
 
 bool IsOf(const std::string& line, const std::set<QString>& worked) {

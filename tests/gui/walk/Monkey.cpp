@@ -160,7 +160,7 @@ void Monkey::ActIn(QWidget& top) {
     case 2:
       return Press();
     case 3:
-      return Type();
+      return Fill(controls);
     default:
       return Click(control);
   }
@@ -189,6 +189,25 @@ void Monkey::Press() {
   const Qt::Key key = kKeys[Any(kKeys)];
   last_ = "key " + std::to_string(key) + " on " + NameOf(*focus);
   QTest::keyClick(focus, key);
+}
+
+// Some of the time in a field, which is then left by a click on a tab.
+void Monkey::Fill(const std::vector<QWidget*>& controls) {
+  std::vector<QPointer<QWidget>> fields;
+  std::vector<QPointer<QWidget>> tabs;
+  for (QWidget* control : controls) {
+    if (qobject_cast<QLineEdit*>(control) != nullptr) fields.emplace_back(control);
+    if (qobject_cast<QTabBar*>(control) != nullptr) tabs.emplace_back(control);
+  }
+  if (!fields.empty() && Below(2) == 0) ClickIfWorkable(fields[Any(fields)]);
+  Type();
+  if (!tabs.empty() && Below(2) == 0) ClickIfWorkable(tabs[Any(tabs)]);
+}
+
+void Monkey::ClickIfWorkable(QWidget* control) {
+  if (control == nullptr || !IsWorkable(*control)) return;
+  NoteWorked(control);
+  Click(*control);
 }
 
 void Monkey::Type() {

@@ -87,6 +87,8 @@ class Monkey {
   void Click(QWidget& control);
   void Turn(QWidget& control);
   void Press();
+  void Fill(const std::vector<QWidget*>& controls);
+  void ClickIfWorkable(QWidget* control);
   void Type();
   void WorkDialog();
   void ClosePopup();
