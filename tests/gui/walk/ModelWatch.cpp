@@ -104,35 +104,45 @@ std::map<ItemKey, ConfigurationItem> ByKey(const std::string& text) {
 
 }  // namespace
 
-ModelWatch::ModelWatch(const QWidget& window, const clsK70& k70) : k70_(k70) {
-  FindTargets(window);
+ModelWatch::ModelWatch(const QWidget& window, const clsK70& k70) : window_(window), k70_(k70) {
+  for (const ItemPlace& place : ItemPlaces()) {
+    for (const char* name : {place.subPage.name, place.subPage.inWizard}) {
+      if (name != nullptr)
+        targets_.push_back({&place, name, nullptr, {}, nullptr, false, kNone, kNone});
+    }
+  }
   document_ = Document();
   rest_ = RestNow();
 }
 
-void ModelWatch::FindTargets(const QWidget& window) {
-  for (const ItemPlace& place : ItemPlaces()) {
-    for (const char* name : {place.subPage.name, place.subPage.inWizard}) {
-      if (name == nullptr) continue;
-      auto* page = window.findChild<QWidget*>(QLatin1String(name));
-      if (page == nullptr) continue;
-      const QLatin1String control(place.control);
-      Target target{&place, page, {}, nullptr, false, kNone, kNone};
-      if (QObject* one = page->findChild<QObject*>(control)) {
-        target.controls.emplace_back(one);
-      } else {
-        target.isArray = true;
-        for (int i = 0;; ++i) {
-          QObject* element = page->findChild<QObject*>(u"%1_%2"_s.arg(control).arg(i));
-          if (element == nullptr) break;
-          target.controls.emplace_back(element);
-        }
-      }
-      if (place.chooser != nullptr) {
-        target.chooser = page->findChild<QObject*>(QLatin1String(place.chooser));
-      }
-      targets_.push_back(std::move(target));
+// Pages are made when they are first shown. What was worked has the name of its page; a page that
+// is asked for by no name may be any.
+void ModelWatch::FindPages(const std::set<QString>& names, MayChange allowed) {
+  for (Target& target : targets_) {
+    const QLatin1String name(target.name);
+    if (target.page != nullptr || (allowed == MayChange::ControlsOnly && !names.contains(name))) {
+      continue;
     }
+    target.page = window_.findChild<QWidget*>(name);
+    if (target.page != nullptr) FindControls(target);
+  }
+}
+
+void ModelWatch::FindControls(Target& target) {
+  const ItemPlace& place = *target.place;
+  const QLatin1String control(place.control);
+  if (QObject* one = target.page->findChild<QObject*>(control)) {
+    target.controls.emplace_back(one);
+  } else {
+    target.isArray = true;
+    for (int i = 0;; ++i) {
+      QObject* element = target.page->findChild<QObject*>(u"%1_%2"_s.arg(control).arg(i));
+      if (element == nullptr) break;
+      target.controls.emplace_back(element);
+    }
+  }
+  if (place.chooser != nullptr) {
+    target.chooser = target.page->findChild<QObject*>(QLatin1String(place.chooser));
   }
 }
 
@@ -185,6 +195,7 @@ std::vector<std::string> ModelWatch::TakeUnexplained(const std::set<const QObjec
   document_.swap(document);
   const bool same = document == document_ || document.empty() || document_.empty();
   if (same || allowed == MayChange::Everything) return changes;
+  FindPages(names, allowed);
   const auto before = ByKey(document);
   const auto after = ByKey(document_);
   const auto look = [&](const auto& items, const auto& others) {

@@ -19,7 +19,7 @@ enum class MayChange { ControlsOnly, ShownPage, Everything };
 // settings file has them, which is rounded.
 class ModelWatch {
  public:
-  // The window must have its pages.
+  // Both must outlive it.
   ModelWatch(const QWidget& window, const clsK70& k70);
 
   // Before the act: what is chosen in tabs, lists and turrets.
@@ -40,9 +40,10 @@ class ModelWatch {
     std::int32_t fiberLed;
     bool operator==(const Rest&) const = default;
   };
-  // A place of the table whose sub-page the window has.
+  // A place of the table, with its sub-page once that is made.
   struct Target {
     const ItemPlace* place;
+    const char* name;
     QPointer<QWidget> page;
     std::vector<QPointer<QObject>> controls;  // the elements of an array, or one
     QPointer<QObject> chooser;
@@ -51,7 +52,8 @@ class ModelWatch {
     int selectedBefore;
   };
 
-  void FindTargets(const QWidget& window);
+  void FindPages(const std::set<QString>& names, MayChange allowed);
+  static void FindControls(Target& target);
   [[nodiscard]] std::vector<std::string> ChangesOfRest(const Rest& now,
                                                        const std::set<QString>& names) const;
   [[nodiscard]] std::string Document() const;
@@ -62,6 +64,7 @@ class ModelWatch {
   [[nodiscard]] bool IsOf(const Target& target, const ConfigurationItem& item,
                           const std::set<const QObject*>& worked) const;
 
+  const QWidget& window_;
   const clsK70& k70_;
   std::vector<Target> targets_;
   std::string document_;
