@@ -2,9 +2,6 @@
 
 #include "app/FormServices.h"
 #include "app/MakePages.h"
-#include "drives/ControlFocusDriveCtl.h"
-#include "drives/ControlOtherCtl.h"
-#include "drives/ControlXYStageCtl.h"
 #include "switches/JoypadSwitchSettingCtl.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
@@ -12,9 +9,8 @@
 namespace mortane {
 namespace {
 
-template <typename DrivePage>
-ControlSubPage WithPosition(DrivePage* page) {
-  return {page, [page] { page->SetNosePosition(); }};
+ControlSubPage WithPosition(LateDrive drive) {
+  return {nullptr, std::move(drive.SetNosePosition), std::move(drive.plan)};
 }
 
 }  // namespace
@@ -22,9 +18,9 @@ ControlSubPage WithPosition(DrivePage* page) {
 ControlSubPages MakeControlSubPages(const FormServices& services) {
   clsK70& k70 = services.k70;
   return {{
-      WithPosition(MakeFocusDrive(k70)),
-      WithPosition(MakeXYStage(k70)),
-      {MakeOther(k70)},
+      WithPosition(PlanFocusDrive(k70)),
+      WithPosition(PlanXYStage(k70)),
+      {.plan = PlanOther(k70)},
       {.plan = {.make = [&k70] { return MakeBodySwitches(k70); }, .load = ChangesNothing}},
       {.plan = {.make = [&k70,
                          &prompts = services.prompts] { return MakeTactorSwitches(k70, prompts); },

@@ -1,5 +1,7 @@
 #include "app/MakePages.h"
 
+#include <QPointer>
+#include <memory>
 #include <utility>
 
 #include "app/CommandBoundary.h"
@@ -35,6 +37,42 @@ DriveFollowers FollowersOf(clsK70& k70) {
   return {follow(k70.CZDrive.curFocusCompensation), follow(k70.CXYDrive.curFocusCompensation)};
 }
 
+FollowNosepiece FocusFollower(clsK70& k70) {
+  return [&k70](bool follows) {
+    k70.ILOther.Status(accessory::kZFocusDrive, follows ? kInterlockOn : kInterlockOff);
+  };
+}
+
+// `load` and `fill` are given what is kept between them.
+template <typename DrivePage, typename Loading, typename Unit, typename Load, typename Fill>
+LateDrive PlanDrive(const Unit& drive, std::function<DrivePage*()> make, Load load, Fill fill) {
+  const auto loading = std::make_shared<Loading>();
+  const auto made = std::make_shared<QPointer<DrivePage>>();
+  loading->host = made;  // which nothing else keeps than the way to make the page
+  return {.plan = {.make =
+                       [=] {
+                         DrivePage* page = make();
+                         page->Restore(*loading);
+                         *made = page;
+                         return page;
+                       },
+                   .load =
+                       [load, loading] {
+                         load(*loading);
+                         return true;
+                       },
+                   .fill = [fill, loading](
+                               Page& page) { fill(static_cast<DrivePage&>(page), *loading); }},
+          .SetNosePosition = [loading, &drive, weak = std::weak_ptr(made)] {
+            const auto page = weak.lock();
+            if (page && *page) {
+              (*page)->SetNosePosition();
+            } else {
+              loading->SetNosePosition(drive);
+            }
+          }};
+}
+
 }  // namespace
 
 SystemSettingsCtl* MakeSystemSettings(clsK70& k70, QWidget* parent) {
@@ -60,9 +98,7 @@ InterlockSettingsCtl* MakeInterlockSettings(clsK70& k70, QWidget* parent) {
 }
 
 ControlFocusDriveCtl* MakeFocusDrive(clsK70& k70) {
-  return new ControlFocusDriveCtl(k70.CZDrive, [&k70](bool follows) {
-    k70.ILOther.Status(accessory::kZFocusDrive, follows ? kInterlockOn : kInterlockOff);
-  });
+  return new ControlFocusDriveCtl(k70.CZDrive, FocusFollower(k70));
 }
 
 ControlXYStageCtl* MakeXYStage(clsK70& k70) {
@@ -71,6 +107,30 @@ ControlXYStageCtl* MakeXYStage(clsK70& k70) {
 
 ControlOtherCtl* MakeOther(clsK70& k70) {
   return new ControlOtherCtl(k70.COther);
+}
+
+LateDrive PlanFocusDrive(clsK70& k70) {
+  using Loading = ControlFocusDriveCtl::Loading;
+  return PlanDrive<ControlFocusDriveCtl, Loading>(
+      k70.CZDrive, [&k70] { return MakeFocusDrive(k70); },
+      [&k70](Loading& loading) {
+        ControlFocusDriveCtl::Load(loading, k70.CZDrive, FocusFollower(k70));
+      },
+      [](ControlFocusDriveCtl& page, const Loading& loading) { page.Fill(loading); });
+}
+
+LateDrive PlanXYStage(clsK70& k70) {
+  return PlanDrive<ControlXYStageCtl, DriveLoading>(
+      k70.CXYDrive, [&k70] { return MakeXYStage(k70); },
+      [&k70](DriveLoading& loading) { ControlXYStageCtl::Load(loading, k70.CXYDrive); },
+      [](ControlXYStageCtl& page, const DriveLoading&) { page.Fill(); });
+}
+
+LatePlan PlanOther(clsK70& k70) {
+  const auto loading = std::make_shared<ControlOtherCtl::Loading>();
+  return {.make = [&k70] { return MakeOther(k70); },
+          .load = [&k70, loading] { return ControlOtherCtl::Load(*loading, k70.COther); },
+          .fill = [loading](Page& page) { static_cast<ControlOtherCtl&>(page).Fill(*loading); }};
 }
 
 SwitchSettingCtl* MakeBodySwitches(clsK70& k70) {

@@ -1,6 +1,10 @@
 // The pages over the program's model, as both windows show them.
 #pragma once
 
+#include <functional>
+
+#include "widgets/LatePage.h"
+
 class QWidget;
 
 namespace mortane {
@@ -29,6 +33,15 @@ InterlockSettingsCtl* MakeInterlockSettings(clsK70& k70, QWidget* parent);
 ControlFocusDriveCtl* MakeFocusDrive(clsK70& k70);
 ControlXYStageCtl* MakeXYStage(clsK70& k70);
 ControlOtherCtl* MakeOther(clsK70& k70);
+
+// The same, made late.
+struct LateDrive {
+  LatePlan plan;
+  std::function<void()> SetNosePosition;
+};
+LateDrive PlanFocusDrive(clsK70& k70);
+LateDrive PlanXYStage(clsK70& k70);
+LatePlan PlanOther(clsK70& k70);
 SwitchSettingCtl* MakeBodySwitches(clsK70& k70);
 TactorSwitchSettingCtl* MakeTactorSwitches(clsK70& k70, Prompts& prompts);
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <utility>
 
 #include "drives/CaptionedFrame.h"
@@ -24,6 +25,21 @@ constexpr std::int16_t kUnknownEscape = 2;
 // The position that means that none is set.
 constexpr std::int32_t kNoSettingOfSimulator = 20000;
 constexpr std::int32_t kNoSetting = -900000;
+
+bool HasStage(const clsControlZDrive& drive) {
+  return drive.parent.IsMounted(accessory::kXYStage) != kNotMounted;
+}
+
+bool CanMove(const clsControlZDrive& drive) {
+  return drive.parent.IsControllable(accessory::kNosepiece) &&
+         drive.parent.IsMounted(accessory::kZFocusDrive) != kNotMounted;
+}
+
+// A box that is ticked for a flag other than 1 stores 1.
+void StoreShownEscape(clsControlZDrive& drive, int axis) {
+  const std::int16_t flag = drive.SetEscape(axis);
+  if (flag != 0 && flag != kUnknownEscape) drive.SetEscape(axis, 1);
+}
 
 }  // namespace
 
@@ -52,22 +68,50 @@ void ControlFocusDriveCtl::StoreEdits() {
 }
 
 void ControlFocusDriveCtl::LoadData() {
-  LoadCompensation();
+  LoadCompensation(drive_.curFocusCompensation);
   LoadPositions();
-  const ConnectedMicroscope& microscope = drive_.parent;
-  const bool turns = microscope.IsControllable(accessory::kNosepiece);
-  const bool hasDrive = microscope.IsMounted(accessory::kZFocusDrive) != kNotMounted;
-  if (turns && hasDrive && !PrepareMoves()) return;
+  if (CanMove(drive_) && !PrepareMoves()) return;
+  LoadRest(drive_.BodyFirmware());
+}
+
+void ControlFocusDriveCtl::LoadRest(EscapeFirmware bodyFirmware) {
   FrameZNose->hide();
-  FrameUpperLimitation->setVisible(turns);
+  FrameUpperLimitation->setVisible(drive_.parent.IsControllable(accessory::kNosepiece));
   LoadLowerLimit();
-  LoadEscape();
+  LoadEscape(bodyFirmware);
+}
+
+// The controls that LoadData would change tell of it, which stores what the unit holds already, but
+// for the followers of the nosepiece and for the escape.
+void ControlFocusDriveCtl::Load(Loading& loading, clsControlZDrive& drive,
+                                const FollowNosepiece& follow) {
+  loading.compensation = drive.curFocusCompensation;
+  const int option = CompensationIndex(loading.compensation);
+  if (option >= 0 && option != loading.option) follow(option == kRelative);
+  loading.option = option;
+  if (CanMove(drive) && !loading.PrepareMoves(drive)) return;
+  loading.firmware = drive.BodyFirmware();
+  if (loading.firmware == EscapeFirmware::Without) {
+    drive.SetEscape(kFocusAxis, 1);
+    return;
+  }
+  StoreShownEscape(drive, kFocusAxis);
+  if (HasStage(drive)) StoreShownEscape(drive, kStageAxis);
+}
+
+void ControlFocusDriveCtl::Fill(const Loading& loading) {
+  const QSignalBlocker quietCompensation(optFocusCompensation);
+  const QSignalBlocker quietLimit(optDownLimitation);
+  const QSignalBlocker quietFocus(chkEscape[kFocusAxis]);
+  const QSignalBlocker quietStage(chkEscape[kStageAxis]);
+  LoadCompensation(loading.compensation);
+  LoadPositions();
+  LoadRest(loading.firmware);
 }
 
 // Kept: options after the one that is selected keep their visibility.
-void ControlFocusDriveCtl::LoadCompensation() {
+void ControlFocusDriveCtl::LoadCompensation(std::int32_t code) {
   OptionGroup& options = *optFocusCompensation;
-  const std::int32_t code = drive_.curFocusCompensation;
   const int selected = CompensationIndex(code);
   for (int i = 0; i < options.count(); ++i) {
     if (code == kUnknown) options.button(i)->hide();
@@ -97,10 +141,9 @@ void ControlFocusDriveCtl::LoadLowerLimit() {
   optDownLimitation->select(limit);
 }
 
-void ControlFocusDriveCtl::LoadEscape() {
-  const EscapeFirmware firmware = drive_.BodyFirmware();
+void ControlFocusDriveCtl::LoadEscape(EscapeFirmware firmware) {
   const bool known = firmware == EscapeFirmware::With;
-  const bool hasStage = drive_.parent.IsMounted(accessory::kXYStage) != kNotMounted;
+  const bool hasStage = HasStage(drive_);
   frmEscapeSetting->setEnabled(known);
   EnableEscape(kFocusAxis, known);
   EnableEscape(kStageAxis, known && hasStage);

@@ -3,14 +3,13 @@
 #pragma once
 
 #include "drives/DrivePageCtl.h"
+#include "drives/clsControlZDrive.h"
 
 class QLabel;
 
 namespace mortane {
 
 class CheckToggle;
-class clsControlZDrive;
-
 // Every edit reaches the unit at once. Kept: the teaching section, FrameZNose, is hidden by each
 // loading but works; its buttons move the real drive. A position that a step, or the question of a
 // row, has shown is stored, unless it is 0.
@@ -24,6 +23,16 @@ class ControlFocusDriveCtl : public DrivePageCtl {
   // Prepares the drive for moves where the nosepiece turns. Of a body without the escape in its
   // firmware the focus drive's escape is set on; a version that cannot be read sets nothing.
   void LoadData() override;
+
+  // What is kept of a LoadData before the page is made.
+  struct Loading : DriveLoading {
+    int option = -1;  // of the compensation
+    std::int32_t compensation = kUnknown;
+    EscapeFirmware firmware = EscapeFirmware::Unknown;
+  };
+  static void Load(Loading& loading, clsControlZDrive& drive, const FollowNosepiece& follow);
+  // Shows what was loaded so; the drive is not called, and no edit stored.
+  void Fill(const Loading& loading);
 
   Control<InnerFrame> frmEscapeSetting{"frmEscapeSetting"};
   Controls<CheckToggle, 2> chkEscape{"chkEscape"};
@@ -64,9 +73,10 @@ class ControlFocusDriveCtl : public DrivePageCtl {
   void BuildTeaching();
   void StoreEdits();
 
-  void LoadCompensation();
+  void LoadCompensation(std::int32_t code);
+  void LoadRest(EscapeFirmware bodyFirmware);
   void LoadLowerLimit();
-  void LoadEscape();
+  void LoadEscape(EscapeFirmware firmware);
   void ShowEscape(int axis);
   void StoreEscape(int axis);
   void EnableEscape(int axis, bool enabled);

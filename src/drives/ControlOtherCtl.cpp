@@ -92,6 +92,34 @@ void SelectSwitch(OptionGroup& group, std::int32_t enabled) {
   group.select(enabled == kEnabled ? 0 : 1);
 }
 
+constexpr int kKnobStep = 3;
+constexpr int kTactorStep = 6;
+constexpr int kFiberStep = 8;
+
+bool HasFocusKnob(const clsControlOther& other) {
+  return other.parent.IsControllable(accessory::kZFocusDrive) && other.curAutoZ != kUnknown;
+}
+
+bool HasStageKnob(const clsControlOther& other) {
+  return other.parent.IsMounted(accessory::kXYStage) != kNotMounted && other.curAutoXY != kUnknown;
+}
+
+// Whether no control that shows the values would store another, or has no place for one.
+bool AreOrdinary(const clsControlOther& other) {
+  const auto isSwitch = [](std::int32_t value) { return value >= kUnknown && value <= kEnabled; };
+  const std::int32_t sensitivity = other.curSensitivityXY;
+  return sensitivity >= kUnknown && sensitivity <= kFine && isSwitch(other.curBuzzer) &&
+         isSwitch(other.curSwEnable) && isSwitch(other.curTactorSwEnable) &&
+         isSwitch(other.curR_TLPOSwEnable) &&
+         (!other.curFiberStatus ||
+          (isSwitch(other.curFiberSwEnable) && other.curFiberSwEnable != kUnknown &&
+           isSwitch(other.curFiberLED) && other.curFiberLED != kUnknown));
+}
+
+void ShowFailure(const clsControlOther& other, int step) {
+  other.parent.prompts().MsgBox("Data_Load Error" + std::to_string(step), box::kOk);
+}
+
 bool IsShown(const QWidget& frame) {
   return !frame.isHidden();
 }
@@ -165,7 +193,6 @@ void ControlOtherCtl::R_TLPORemoteVisible(bool visible) {
 }
 
 void ControlOtherCtl::LoadData() {
-  constexpr int kFiberStep = 8;
   const QPointer<ControlOtherCtl> page(this);
   Prompts& prompts = other_.parent.prompts();
   std::optional<HourglassScope> hourglass;
@@ -176,11 +203,45 @@ void ControlOtherCtl::LoadData() {
       LoadStep(step);
     }
   } catch (const std::exception&) {
-    prompts.MsgBox("Data_Load Error" + std::to_string(step), box::kOk);
+    ShowFailure(other_, step);
   }
   // The box runs the event loop, which may have destroyed the page.
   if (page) ArrangeColumns();
   prompts.FlushInput();
+}
+
+bool ControlOtherCtl::Load(Loading& loading, const clsControlOther& other) {
+  loading = {};
+  loading.isOrdinary = AreOrdinary(other);
+  if (!loading.isOrdinary) return false;
+  const ConnectedMicroscope& microscope = other.parent;
+  std::optional<HourglassScope> hourglass;
+  int step = kKnobStep;
+  try {
+    if (HasFocusKnob(other) || HasStageKnob(other)) {
+      loading.knobVersion = microscope.ReadMicVer(controllerunit::kBody);
+    }
+    step = kTactorStep;
+    loading.tactorVersion = microscope.ReadMicVer(controllerunit::kBody);
+    hourglass.emplace(microscope.prompts());
+  } catch (const std::exception&) {
+    loading.failedStep = step;
+    ShowFailure(other, step);
+  }
+  microscope.prompts().FlushInput();
+  return true;
+}
+
+void ControlOtherCtl::Fill(const Loading& loading) {
+  if (!loading.isOrdinary) return LoadData();
+  loaded_ = &loading;
+  for (int step = 1; step <= kFiberStep && step != loading.failedStep; ++step) LoadStep(step);
+  loaded_ = nullptr;
+  ArrangeColumns();
+}
+
+double ControlOtherCtl::BodyVersion(Version version) const {
+  return loaded_ == nullptr ? other_.parent.ReadMicVer(controllerunit::kBody) : loaded_->*version;
 }
 
 void ControlOtherCtl::LoadStep(int step) {
@@ -234,7 +295,7 @@ void ControlOtherCtl::LoadStageKnob() {
 void ControlOtherCtl::LoadKnobFrame() {
   FrameManualHandle->setVisible(hasFocusKnob_ || hasStageKnob_);
   if (!hasFocusKnob_ && !hasStageKnob_) return;
-  const bool changeable = other_.parent.ReadMicVer(controllerunit::kBody) < kFullFirmware;
+  const bool changeable = BodyVersion(&Loading::knobVersion) < kFullFirmware;
   for (OptionGroup* group : std::initializer_list<OptionGroup*>{optAuto, optXYAuto}) {
     for (int i = 0; i < group->count(); ++i) group->button(i)->setEnabled(changeable);
   }
@@ -259,7 +320,7 @@ void ControlOtherCtl::LoadBodySwitches() {
 }
 
 void ControlOtherCtl::LoadTactorSwitches() {
-  const bool offered = other_.parent.ReadMicVer(controllerunit::kBody) >= kFullFirmware &&
+  const bool offered = BodyVersion(&Loading::tactorVersion) >= kFullFirmware &&
                        other_.parent.Controller(controllerunit::kHandController) &&
                        other_.curTactorSwEnable != kUnknown;
   FrameTactorSwich->setVisible(offered);

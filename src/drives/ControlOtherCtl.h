@@ -1,6 +1,7 @@
 // The panel of knobs, buzzers, switches and remotes.
 #pragma once
 
+#include "model/ConnectedMicroscope.h"
 #include "widgets/CardPage.h"
 #include "widgets/Control.h"
 
@@ -25,6 +26,19 @@ class ControlOtherCtl : public CardPage {
 
   // A step that fails is shown with its number and ends the loading.
   void LoadData() override;
+
+  // What is kept of a LoadData before the page is made.
+  struct Loading {
+    bool isOrdinary = false;  // what follows was read
+    double knobVersion = kNoVersion;
+    double tactorVersion = kNoVersion;
+    int failedStep = 0;  // 0: none
+  };
+  // Does what LoadData does beside showing; false where that would change the unit or fail over one
+  // of its values.
+  static bool Load(Loading& loading, const clsControlOther& other);
+  // Shows what was loaded so, without a call to the controller, or loads where it was not.
+  void Fill(const Loading& loading);
 
   // Whether a frame is shown. Kept: reading one of the last three writes "True" or "False" over
   // the frame's caption and returns false.
@@ -73,12 +87,14 @@ class ControlOtherCtl : public CardPage {
 
  private:
   using Step = void (ControlOtherCtl::*)();
+  using Version = double Loading::*;
   class Columns;
 
   void Build();
   void StoreEdits();
   void ArrangeColumns();
 
+  double BodyVersion(Version version) const;
   void LoadFocusKnob();
   void LoadStageKnob();
   void LoadKnobFrame();
@@ -89,6 +105,7 @@ class ControlOtherCtl : public CardPage {
   void LoadFiber();
 
   clsControlOther& other_;
+  const Loading* loaded_ = nullptr;  // while Fill goes by it
   Columns* columns_ = nullptr;
   bool hasFocusKnob_ = false;
   bool hasStageKnob_ = false;

@@ -21,6 +21,12 @@ constexpr std::int32_t kSmallStep = 1;
 constexpr std::size_t kX = 0;
 constexpr std::size_t kY = 1;
 
+// Kept: without any stage its controls are shown, and preparing it fails with a box.
+bool CanMove(const clsControlXYDrive& stage) {
+  return stage.parent.IsControllable(accessory::kNosepiece) ||
+         stage.parent.IsMounted(accessory::kXYStage) == kNotMounted;
+}
+
 }  // namespace
 
 struct ControlXYStageCtl::StepButton {
@@ -73,14 +79,19 @@ void ControlXYStageCtl::Build() {
   }
 }
 
-// Kept: without any stage its controls are shown, and preparing it fails with a box.
 void ControlXYStageCtl::LoadData() {
+  Fill();
+  if (CanMove(stage_)) PrepareMoves();
+}
+
+void ControlXYStageCtl::Load(DriveLoading& loading, const clsControlXYDrive& stage) {
+  if (CanMove(stage)) loading.PrepareMoves(stage);
+}
+
+void ControlXYStageCtl::Fill() {
   LoadCompensation();
   LoadPositions();
-  const bool hasStage = stage_.parent.IsMounted(accessory::kXYStage) != kNotMounted;
-  const bool turns = stage_.parent.IsControllable(accessory::kNosepiece);
-  FrameXYControl->setVisible(turns || !hasStage);
-  if (turns || !hasStage) PrepareMoves();
+  FrameXYControl->setVisible(CanMove(stage_));
 }
 
 void ControlXYStageCtl::LoadPositions() {

@@ -19,6 +19,10 @@ class ControlXYStageCtl : public DrivePageCtl {
   // Prepares the stage for moves where the nosepiece turns, or where there is no stage.
   void LoadData() override;
 
+  // LoadData before the page is made, and what the page then shows of it.
+  static void Load(DriveLoading& loading, const clsControlXYDrive& stage);
+  void Fill();
+
   Control<CaptionedFrame> Frame1{"Frame1"};
   Controls<TextField, PositionTableCtl::kRows> TextNosepieceX{"TextNosepieceX"};
   Controls<TextField, PositionTableCtl::kRows> TextNosepieceY{"TextNosepieceY"};

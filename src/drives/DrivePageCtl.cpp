@@ -11,6 +11,8 @@
 
 namespace mortane {
 
+static_assert(kTaughtAddresses == PositionTableCtl::kRows);
+
 int CompensationIndex(std::int32_t code) {
   const auto* const found = std::find(kCompensationCodes.begin(), kCompensationCodes.end(), code);
   return found == kCompensationCodes.end() ? -1
@@ -43,6 +45,14 @@ void DrivePageCtl::SaveData() {
 void DrivePageCtl::SetNosePosition() {
   const std::int32_t address = NosePosition();
   if (address > 0) optNosepiece->select(address - 1);
+}
+
+void DrivePageCtl::Restore(const DriveLoading& loading) {
+  const QSignalBlocker quietTick(CheckRealMove);
+  const QSignalBlocker quietRows(optNosepiece);
+  CheckRealMove->setChecked(loading.real);
+  optNosepiece->select(loading.row);
+  selectedRow_ = loading.row;
 }
 
 void DrivePageCtl::OnRealMove(bool real) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "drawings/MoveCross.h"
+#include "drives/DriveLoading.h"
 #include "drives/MoveScope.h"
 #include "drives/PositionTableCtl.h"
 #include "model/DriveCompensation.h"
@@ -42,6 +43,8 @@ class DrivePageCtl : public CardPage {
   void ShowStored() override { LoadPositions(); }
   // Selects the row of the address at which the nosepiece stands.
   void SetNosePosition();
+  // Shows what was loaded before the page was made, without a call to the drive.
+  void Restore(const DriveLoading& loading);
 
   Control<OptionGroup> optFocusCompensation{"optFocusCompensation"};
   Control<PositionTableCtl> FrameNosepiece{"FrameNosepiece"};

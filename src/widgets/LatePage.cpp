@@ -36,7 +36,9 @@ Page& LatePage::get() const {
 void LatePage::LoadData() {
   if (page_ != nullptr || !plan_.load) return LoadMade();
   loaded_ = true;
-  if (!plan_.load()) get();
+  const auto load = plan_.load;  // a box may see the end of this object
+  const QPointer<LatePage> self(this);
+  if (!load() && self) get();
 }
 
 void LatePage::SaveData() {

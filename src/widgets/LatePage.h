@@ -16,8 +16,8 @@ namespace mortane {
 // for it.
 struct LatePlan {
   std::function<Page*()> make = {};
-  // Makes the calls to the controller that LoadData of the page would; false where that would
-  // change a unit as well, so that the page has to be made and filled at once.
+  // Does to the controller and the units what LoadData of the page would; false where the page
+  // alone can do that, so that it has to be made and filled at once.
   std::function<bool()> load = {};
   // Fills the new page by what those calls brought; LoadData, when empty.
   std::function<void(Page&)> fill = {};
