@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -71,10 +70,7 @@ class LostLibrary : public controller::DecoratedLibrary {
 };
 
 // A path as a text of JSON has it.
-inline std::string InJson(const std::string& path) {
-  const std::string text = nlohmann::json(path).dump();
-  return text.substr(1, text.size() - 2);
-}
+std::string InJson(const std::string& path);
 
 // The program on a bench, which plays the library that is installed. Faults and the journal see
 // every call.
@@ -112,16 +108,7 @@ struct CtlRig {
     return lines;
   }
   // The keys in a list of the last answer, which was JSON.
-  std::vector<ItemKey> Reported(const std::string& list) const {
-    std::vector<ItemKey> keys;
-    const nlohmann::json answer = nlohmann::json::parse(Out(), nullptr, false);
-    if (!answer.contains(list)) return keys;
-    for (const nlohmann::json& item : answer.at(list)) {
-      keys.push_back(
-          {item.at("section"), item.at("element"), item.at("position"), item.at("attribute")});
-    }
-    return keys;
-  }
+  std::vector<ItemKey> Reported(const std::string& list) const;
   // The instrument that a named bench is about.
   Instrument& instrument() { return simulated.bench().instruments.back(); }
   // What the program would read from it, in a file.
