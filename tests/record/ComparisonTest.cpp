@@ -75,7 +75,7 @@ const DomDocument& FileOf(const std::string& bench) {
 // Some of the benches for each, so that every one is the source and the target of some.
 std::vector<std::string> SourcesFor(const std::string& bench) {
   constexpr std::size_t kStride = 3;
-  const std::vector<std::string> names = benches::Names();
+  std::vector<std::string> names = benches::Names();
   if (TriesAllCases()) return names;
   const auto own =
       static_cast<std::size_t>(std::find(names.begin(), names.end(), bench) - names.begin());
