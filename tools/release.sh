@@ -2,8 +2,8 @@
 # From a clean checkout to checked packages with their checksums in dist:
 # tools/release.sh [--windows]
 # --windows makes the package for Windows, too, and works its programs under Wine; its libraries are
-# built first, once, in half an hour on two cores. The trial in a bare system takes root, by sudo
-# where there is need. Run the tests before: ./test.sh
+# built first, once (docs/windows.md tells how long that takes). The trial in a bare system takes
+# root, by sudo where there is need. Run the tests before: ./test.sh
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -33,10 +33,14 @@ tools/package-linux.sh
 "${as_root[@]}" tools/test-package-linux.sh "dist/mortane_${version}_$(dpkg --print-architecture).deb"
 if [[ -n "$windows" ]]; then
   tools/setup.sh windows package wine desktop
+  tools/windows/libraries.sh gui tests
   tools/build-windows.sh
-  cmake --build --preset windows-gui
+  tools/windows/host32.sh tests
+  cmake --preset windows-gui
+  cmake --build --preset windows-gui \
+    --target mortane_test_library mortane_test_server mortane_host_of_tests
   python3 -B tests/windows/packed_programs.py "dist/mortane-$version-windows-x64" \
-    build/windows-gui/tests/comserver
+    build/windows-gui/tests/comserver build/windows32/tests/comserver
   python3 -B tests/windows/installer.py "dist/mortane-$version-windows-x64"
 fi
 

@@ -7,7 +7,7 @@ set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 tools/setup.sh windows wine
-tools/windows/libraries.sh
+tools/windows/libraries.sh tests
 tools/windows/host32.sh tests
 
 cmake --preset windows

@@ -5,11 +5,14 @@ set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 targets=(mortane_host32)
-[[ "${1:-}" != tests ]] ||
+tests=OFF
+if [[ "${1:-}" == tests ]]; then
   targets+=(mortane_host_of_tests mortane_test_library mortane_faulty_library)
+  tests=ON
+fi
 
-tools/windows/libraries.sh 32
-cmake --preset windows32
+tools/windows/libraries.sh 32 "$@"
+cmake --preset windows32 -D MORTANE_TESTS="$tests"
 cmake --build --preset windows32 --target "${targets[@]}"
 python3 -B tools/windows/imports.py build/windows32/src/controller/com/host \
   packaging/windows/system-dlls.txt

@@ -1,8 +1,8 @@
 #!/bin/bash
 # Builds for Windows what the programs and their tests need, from the distribution's source
-# packages: tools/windows/libraries.sh [gui] [32]
-# libxml2 and GoogleTest always, Qt with "gui"; with "32" all but Qt for 32 bits as well. All of it goes
-# into the folder that cache.sh names and is built once.
+# packages: tools/windows/libraries.sh [gui] [32] [tests]
+# libxml2 always, Qt with "gui", what the tests need with "tests"; with "32" all but Qt for 32 bits as
+# well. All of it goes into the folder that cache.sh names and is built once.
 set -euo pipefail
 
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
@@ -75,29 +75,56 @@ without() {
   done
 }
 
-# for_processor TOOLCHAIN FOLDER: what the core and its tests need.
+tests=OFF
+[[ " $* " != *" tests "* ]] || tests=ON
+
+# for_processor TOOLCHAIN FOLDER: what the core needs, and its tests.
 for_processor() {
   toolchain="$here/../../cmake/$1.cmake"
   prefix="$cache/$2"
   without LIBXML2_WITH_ "" FTP HTTP ICONV LZMA PROGRAMS PYTHON TESTS ZLIB
   library libxml2 OFF Copyright "${options[@]}"
-  library googletest OFF LICENSE -DBUILD_GMOCK=OFF
+  if [[ "$tests" == ON ]]; then
+    library googletest OFF LICENSE -DBUILD_GMOCK=OFF
+  fi
   # Headers alone.
   library cli11 OFF LICENSE -DCLI11_BUILD_TESTS=OFF -DCLI11_BUILD_EXAMPLES=OFF -DCLI11_BUILD_DOCS=OFF
   library nlohmann-json3 OFF LICENSE.MIT -DJSON_BuildTests=OFF
 }
 
-[[ " $* " != *" 32 "* ]] || for_processor mingw-w64-i686 prefix32
+# Behind || a failure in a function would not end the script.
+if [[ " $* " == *" 32 "* ]]; then
+  for_processor mingw-w64-i686 prefix32
+fi
 for_processor mingw-w64 prefix
 
 if [[ " $* " == *" gui "* ]]; then
   host="$(dpkg-architecture -qDEB_HOST_MULTIARCH)"
-  # The header that tablets need is not in the source package.
-  without FEATURE_ "" opengl vulkan sql network dbus concurrent xml printsupport tabletevent \
-    system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 \
-    system_doubleconversion pkg_config
+  features=()
+  # Modules, and what of the system they might use. The header that tablets need is not in the source
+  # package.
+  features+=(opengl vulkan sql network dbus concurrent xml printsupport tabletevent
+    system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2
+    system_doubleconversion pkg_config)
+  # What stands in the core without being used here.
+  features+=(cborstreamwriter commandlineparser concatenatetablesproxymodel hijricalendar
+    identityproxymodel jalalicalendar sharedmemory systemsemaphore timezone transposeproxymodel
+    xmlstreamwriter)
+  # Image formats but PNG, BMP and XPM, the way of drawing for deep colours, other forms of text.
+  features+=(direct2d1_1 gif ico imageformat_ppm imageformat_xbm jpeg movie pdf picture raster_64bit
+    raster_fp systemtrayicon textmarkdownreader textmarkdownwriter textodfwriter undocommand
+    whatsthis)
+  # Controls, dialogs, and styles but Fusion.
+  features+=(calendarwidget colordialog columnview datawidgetmapper datetimeedit dial errormessage
+    fontcombobox fontdialog graphicseffect graphicsview inputdialog keysequenceedit lcdnumber mdiarea
+    progressdialog splashscreen style_windows style_windowsvista syntaxhighlighter tableview
+    tablewidget toolbox undoview wizard)
+  # The library for tests costs minutes. Where it was built once it stays.
+  ! grep -qs -e -DFEATURE_testlib=ON "$prefix/stamps/qt6-base" || tests=ON
+  without FEATURE_ "" "${features[@]}"
   library qt6-base ON LICENSES -DQT_HOST_PATH=/usr \
     -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$host/cmake" -DQT_QMAKE_TARGET_MKSPEC=win32-g++ \
-    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DINPUT_opengl=no "${options[@]}"
+    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DINPUT_opengl=no -DFEATURE_testlib="$tests" \
+    "${options[@]}"
 fi
 rm -rf "$cache/apt"
