@@ -16,6 +16,7 @@
 #include "widgets/SectionBar.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TextField.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -131,10 +132,25 @@ class NotSentOn : public testing::TestWithParam<DotRow> {
   Shown s;
 };
 
+// Those in the colour of dots, on pages and in the side bar.
+int DotPixels(const QImage& picture, const QPalette& palette) {
+  const QRgb link = palette.color(QPalette::Link).rgb();
+  const QRgb rail = ToneColor(Tone::RailPending).rgb();
+  int count = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      const QRgb pixel = picture.pixel(x, y);
+      count += pixel == link || pixel == rail ? 1 : 0;
+    }
+  }
+  return count;
+}
+
 TEST_P(NotSentOn, ADotIsShownAndTakenAway) {
   const QImage plain = widget().grab().toImage();
   Set(true);
-  EXPECT_NE(widget().grab().toImage(), plain);
+  const QImage dotted = widget().grab().toImage();
+  EXPECT_GT(DotPixels(dotted, widget().palette()), DotPixels(plain, widget().palette()) + 5);
   Set(false);
   EXPECT_EQ(widget().grab().toImage(), plain);
 }
@@ -211,16 +227,6 @@ TEST(NotSent, AColumnIsAsWideAsItsTextBesideTheDot) {
   EXPECT_LT(list->columnWidth(0), withDot);
 }
 
-int LinkPixels(QWidget& option) {
-  const QImage picture = option.grab().toImage();
-  const QRgb link = option.palette().color(QPalette::Link).rgb();
-  int count = 0;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == link ? 1 : 0;
-  }
-  return count;
-}
-
 TEST(NotSent, TheDotOfTheChosenSectionHasTheColourOfItsText) {
   TestWindow window;
   auto* sections = window.Add<SectionBar>();
@@ -228,8 +234,22 @@ TEST(NotSent, TheDotOfTheChosenSectionHasTheColourOfItsText) {
   window.Show();
   sections->select(0);
   for (const int section : {0, 1}) sections->SetOptionPending(section, true);
-  EXPECT_EQ(LinkPixels(*sections->option(0)), 0);
-  EXPECT_GT(LinkPixels(*sections->option(1)), 10);
+  const auto dot = [&](int section) {
+    QWidget& option = *sections->option(section);
+    return DotPixels(option.grab().toImage(), option.palette());
+  };
+  EXPECT_EQ(dot(0), 0);
+  EXPECT_GT(dot(1), 10);
+}
+
+TEST(NotSent, TheToolTipOfARowGoesBeforeThatOfItsList) {
+  Shown s;
+  s.list->setToolTip("Objectives");
+  s.list->SetRowPending(0, "Plan A 10x");
+  const QPoint at = s.list->visualItemRect(s.list->topLevelItem(0)).center();
+  QHelpEvent help(QEvent::ToolTip, at, s.list->viewport()->mapToGlobal(at));
+  QApplication::sendEvent(s.list->viewport(), &help);
+  EXPECT_EQ(QToolTip::text(), "not sent: was Plan A 10x");
 }
 
 TEST(NotSent, ATabThatIsMadeAnewHasNoDot) {

@@ -117,5 +117,25 @@ TEST_F(CommandKeyTest, PressedAndMainLookDiffersFromResting) {
   EXPECT_NE(key->grab().toImage(), resting);
 }
 
+class PaintCount : public QObject {
+ public:
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+};
+
+TEST_F(CommandKeyTest, BecomingTheMainKeyIsPaintedAtOnce) {
+  QCoreApplication::processEvents();
+  PaintCount paints;
+  key->installEventFilter(&paints);
+  key->setMain(true);
+  QCoreApplication::processEvents();
+  EXPECT_GT(paints.count, 0);
+}
+
 }  // namespace
 }  // namespace mortane

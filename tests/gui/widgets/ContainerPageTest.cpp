@@ -141,6 +141,18 @@ TEST_F(ContainerPageTest, WhatIsNotOfferedIsNeitherLoadedNorSavedNorOpenedFirst)
   }
 }
 
+TEST_F(ContainerPageTest, OpensASectionThatCanBeChosenAndNoOther) {
+  area->offered[2] = false;
+  area->LoadData();
+  ASSERT_EQ(area->CurrentItem(), 0);
+  for (const int section : {2, 3, -1}) {
+    EXPECT_FALSE(area->OpenSection(section)) << section;
+    EXPECT_EQ(area->CurrentItem(), 0) << section;
+  }
+  EXPECT_TRUE(area->OpenSection(1));
+  EXPECT_EQ(area->CurrentItem(), 1);
+}
+
 TEST_F(ContainerPageTest, SavingGoesByWhatIsOfferedNow) {
   area->LoadData();
   area->offered = {false, true, true};

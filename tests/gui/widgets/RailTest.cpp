@@ -1,5 +1,7 @@
 #include "widgets/Rail.h"
 
+#include <utility>
+
 #include "gui/support/TestWindow.h"
 #include "widgets/PageButton.h"
 
@@ -112,6 +114,29 @@ TEST_F(RailTest, IsOneTabStopAtTheSelectedPage) {
   QTest::keyClick(rail->button(2), Qt::Key_Up);
   QTest::keyClick(rail->button(1), Qt::Key_Tab);
   EXPECT_TRUE(after->hasFocus());
+}
+
+class PaintCount : public QObject {
+ public:
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+};
+
+TEST_F(RailTest, ASelectionAndADotArePaintedAtOnce) {
+  QApplication::processEvents();
+  PaintCount paints;
+  rail->button(1)->installEventFilter(&paints);
+  rail->button(1)->SetSelected(true);
+  QApplication::processEvents();
+  EXPECT_EQ(std::exchange(paints.count, 0), 1);
+  rail->button(1)->SetPending(true);
+  QApplication::processEvents();
+  EXPECT_EQ(paints.count, 1);
 }
 
 TEST_F(RailTest, ThePendingDotChangesTheFaceOfTheButton) {

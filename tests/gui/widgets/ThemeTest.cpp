@@ -114,5 +114,25 @@ TEST(Theme, ARefusedFieldIsDrawnWithItsOwnLine) {
   EXPECT_EQ(field.grab().toImage().pixelColor(60, 0), ToneColor(Tone::RefusedLine));
 }
 
+TEST(StyleHints, AreThoseOfQuietControls) {
+  const Style own;
+  const QStyle& style = own;
+  for (const QStyle::StyleHint hint :
+       {QStyle::SH_EtchDisabledText, QStyle::SH_DialogButtonBox_ButtonsHaveIcons,
+        QStyle::SH_ComboBox_Popup, QStyle::SH_Widget_Animation_Duration,
+        QStyle::SH_ItemView_ActivateItemOnSingleClick}) {
+    EXPECT_EQ(style.styleHint(hint), 0) << hint;
+  }
+  EXPECT_EQ(style.styleHint(QStyle::SH_ItemView_ShowDecorationSelected), 1);
+}
+
+TEST(MainButton, IsFilledUnlikeAnOrdinaryOne) {
+  QPushButton plain("Send");
+  QPushButton main("Send");
+  main.setProperty(kMainProperty, true);
+  for (QPushButton* button : {&plain, &main}) button->resize(120, 40);
+  EXPECT_NE(plain.grab().toImage().pixelColor(10, 20), main.grab().toImage().pixelColor(10, 20));
+}
+
 }  // namespace
 }  // namespace mortane

@@ -7,6 +7,7 @@
 #include "WizardRig.h"
 #include "condensers/CondenserSettingsCtl.h"
 #include "filters/FilterQubeSettingsCtl.h"
+#include "interlocks/InterlockSettingsCtl.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 #include "widgets/SectionBar.h"
 #include "wizard/HelpLine.h"
@@ -32,6 +33,7 @@ class TabHelp : public testing::TestWithParam<HelpRow> {};
 TEST_P(TabHelp, FollowsTheClicksOfTheTabs) {
   WizardRig rig(benches::Named("Harbour"));
   rig.Start();
+  rig.form->OnItemChanged(GetParam().step - kFirstItem, true);
   rig.form->optMenu[static_cast<std::size_t>(GetParam().step)]->setChecked(true);
   ASSERT_EQ(rig.form->currentStep, GetParam().step);
   ContainerPage& page = *GetParam().page(*rig.form);
@@ -65,7 +67,14 @@ INSTANTIATE_TEST_SUITE_P(
         HelpRow{4,
                 PageOf<&SadrelMainForm::CondenserSettingsCtl1>,
                 {"Select Condenser Module of Each Address from the List.",
-                 "Input Name of Optional Condenser Module."}}),
+                 "Input Name of Optional Condenser Module."}},
+        HelpRow{6,
+                PageOf<&SadrelMainForm::InterlockSettingsCtl1>,
+                {"Set whether each accessory is interlocked when Observation Method is changed.",
+                 "Set whether each accessory is interlocked when each of Nosepiece / LightPath / "
+                 "Optical Zoom is changed.",
+                 "Set the compensation on the proper value. The proper value is calculated using "
+                 "information such as objective N.A and condenser focal length."}}),
     [](const auto& row) { return "Step" + std::to_string(row.param.step); });
 
 TEST(Help, IsThatOfTheTabTheLoadingSelects) {
@@ -134,6 +143,13 @@ TEST(HelpRoom, GrowsWithTheFont) {
   large.setPointSizeF(large.pointSizeF() * 2);
   line.setFont(large);
   EXPECT_GT(line.height(), before);
+}
+
+TEST(HelpLine, BreaksALongTextInPlaceOfAskingForItsWidth) {
+  HelpLine line;
+  line.Show(u"Click Number Tab and select Series, Type and Mag from the lists. "_s.repeated(5));
+  EXPECT_TRUE(line.LabelHelp->wordWrap());
+  EXPECT_LT(line.minimumSizeHint().width(), 400);
 }
 
 TEST(HelpLine, ShowsNoMarkup) {

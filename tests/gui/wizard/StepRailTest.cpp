@@ -166,6 +166,23 @@ TEST(StepRail, JoinsItsStepsByALineThatEndsWithThem) {
   EXPECT_FALSE(joined(2, true));
 }
 
+TEST(StepRail, LeavesNoGapBetweenItsSteps) {
+  RailOfThree rig;
+  for (int i = 1; i < 3; ++i) {
+    EXPECT_EQ(rig.rail.button(i)->y(), rig.rail.button(i - 1)->geometry().bottom() + 1) << i;
+  }
+}
+
+TEST(StepRail, ShowsADotOnAStepWithChangesThatAreNotSent) {
+  RailOfThree rig;
+  const QColor dot = ToneColor(Tone::RailPending);
+  EXPECT_EQ(Count(rig.Picture(2), dot), 0);
+  rig.rail.button(2)->SetPending(true);
+  EXPECT_GT(Count(rig.Picture(2), dot), 5);
+  rig.rail.button(2)->SetPending(false);
+  EXPECT_EQ(Count(rig.Picture(2), dot), 0);
+}
+
 TEST(StepRail, ShowsTheFocus) {
   RailOfThree rig;
   rig.rail.activateWindow();
