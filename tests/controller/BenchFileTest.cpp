@@ -196,6 +196,26 @@ TEST_F(BenchFile, SaysInOneLineWhatIsWrong) {
   }
 }
 
+TEST_F(BenchFile, NamesRangesSpeedsAndUnits) {
+  Store(
+      "<Bench><Instrument Name='a'><Buzzers HandController='1' FifthUnit='2'/>"
+      "<ZDrive LowestPosition='-7' HighestPosition='8' Speed='9' MoveProfile='3'/>"
+      "<XYDrive LowestX='-1' HighestX='2' LowestY='-3' HighestY='4' Speed='5'/>"
+      "</Instrument></Bench>");
+  const Instrument instrument = ReadBenchFile(path_).instruments.at(0);
+  EXPECT_EQ(instrument.buzzers.handController, 1);
+  EXPECT_EQ(instrument.buzzers.unit5, 2);
+  EXPECT_EQ(instrument.zDrive.lowestPosition, -7);
+  EXPECT_EQ(instrument.zDrive.highestPosition, 8);
+  EXPECT_EQ(instrument.zDrive.speed, 9);
+  EXPECT_EQ(instrument.zDrive.moveProfile, 3);
+  EXPECT_EQ(instrument.xyDrive.lowestX, -1);
+  EXPECT_EQ(instrument.xyDrive.highestX, 2);
+  EXPECT_EQ(instrument.xyDrive.lowestY, -3);
+  EXPECT_EQ(instrument.xyDrive.highestY, 4);
+  EXPECT_EQ(instrument.xyDrive.speed, 5);
+}
+
 TEST_F(BenchFile, MustBeWellFormed) {
   for (const char* text : {"", "text", "<Bench><Instrument></Bench>", "<Bench/><Bench/>",
                            "<Bench><Instrument Name=\"a\" Name=\"b\"/></Bench>"}) {

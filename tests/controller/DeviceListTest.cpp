@@ -171,6 +171,16 @@ TEST(DeviceEntry, OfADeviceThatHasGoneRaisesItsNumber) {
   EXPECT_EQ(TextOf([&] { entry.Disconnect(); }), "No device 3.");
 }
 
+TEST(Microscope, TellsAPlaceThatItsTurretHasLost) {
+  SimulatedRig rig("Harbour");
+  auto places = rig.root.NosepieceDevice().Positions().Enumerate();
+  auto last = places.Next();
+  for (int address = 2; address <= 6; ++address) last = places.Next();
+  EXPECT_EQ(last->Code(), 18);
+  rig.instrument().nosepiece.pop_back();
+  EXPECT_EQ(TextOf([&] { last->Code(); }), "The turret has lost this address.");
+}
+
 TEST(Microscope, NamesTheAccessoryThatIsNotFitted) {
   SimulatedRig rig("Harbour");
   rig.instrument().Accessory(accessory::kNosepiece).state = 0;

@@ -165,5 +165,9 @@ TEST(Latency, IsSpentBeforeEveryCallButTheNumbersOfStates) {
   EXPECT_EQ(simulated.clock().Now(), 70);
 }
 
+TEST(DescribeValue, TellsThatThereIsNone) {
+  EXPECT_EQ(DescribeValue({}), "nothing");
+}
+
 }  // namespace
 }  // namespace mortane::controller::test

@@ -97,6 +97,8 @@ TEST_F(FewLines, WhatIsNotToldHasItsDefaultAndIsListed) {
     EXPECT_TRUE(Has(made, std::string("device 1 \"Room 12\": ") + text)) << text;
   }
   EXPECT_FALSE(Has(made, "device 1 \"Room 12\": CondenserDevice.Position"));
+  EXPECT_FALSE(Has(made, "device 1 \"Room 12\": CondenserDevice.Positions.Code"));
+  EXPECT_FALSE(Has(made, "device 1 \"Room 12\": CondenserDevice.Positions.Position"));
   EXPECT_TRUE(Has(made, "device 0 \"\": its name"));
   EXPECT_TRUE(Has(made, "device 0 \"\": everything but its name: it was not connected"));
 }
@@ -184,6 +186,24 @@ TEST_F(FewLines, ANumberOfSixteenBitsIsTakenUpToItsEnds) {
         MadeConnected({"#5 get XYDriveDevice.HandleMode -> " + std::to_string(number)});
     EXPECT_EQ(made.bench.instruments[1].xyDrive.handleMode, 0);
   }
+  const SessionBench made = MadeConnected({"#5 get XYDriveDevice.AccessoryState.State -> 1",
+                                           "#5 get XYDriveDevice.HandleMode -> 32768"});
+  EXPECT_TRUE(Has(made, "device 1 \"Room 12\": XYDriveDevice.HandleMode"));
+}
+
+TEST_F(FewLines, OtherQueriesTellNothingOfObjectives) {
+  const SessionBench made = MadeConnected(
+      {"#6 get AccessoryDatabase.Nosepieces.Item(1).Code -> 241",
+       "#1 call QueryCommand(\"r\") -> \"ONR19\"", "#1 call QueryCommand(\"rVER1\") -> \"ONR19\""});
+  EXPECT_EQ(made.bench.instruments[1].database.objectives.at(0).adoptive, 0);
+  EXPECT_FALSE(made.bench.instruments[1].database.objectives.at(0).answer.has_value());
+}
+
+TEST_F(FewLines, TheFirstAnswerOfAvailabilityCounts) {
+  const SessionBench made = MadeConnected({"#3 get DeviceList.Item(0).IsAvailable -> 0",
+                                           "#3 get DeviceList.Item(0).IsAvailable -> 1",
+                                           "#3 get DeviceList.Item(0).IsAvailable -> 3"});
+  EXPECT_EQ(made.bench.instruments[0].available, 0);
 }
 
 TEST_F(FewLines, TheFiberServerIsKnownByWhatItDoes) {
