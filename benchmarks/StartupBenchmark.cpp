@@ -28,6 +28,7 @@
 #include "hub/clsK70.h"
 #include "platform/CommandLine.h"
 #include "platform/Joystick.h"
+#include "platform/NamedMutex.h"
 #include "platform/Sleep.h"
 #include "wizard/SadrelMainForm.h"
 #include "wizard/WizardSteps.h"
@@ -75,6 +76,7 @@ class AnsweringPrompts : public QtPrompts {
 // A program's window on the simulated microscope, ready when its first page is filled.
 template <typename Form, auto Table>
 int RunFormChild(int argc, char** argv, const char* title) {
+  NamedMutex::SetScope("startup-" + std::to_string(getpid()));  // whoever has the microscope
   BenchSession bench("");
   QApplication application(argc, argv);
   QApplication::setApplicationName(title);
