@@ -27,9 +27,13 @@ SecondCopy::SecondCopy(controller::SimulatedLibrary& library, std::mt19937& rand
 
 SecondCopy::~SecondCopy() = default;
 
+void SecondCopy::Leave() {
+  k70_.reset();
+}
+
 std::string SecondCopy::Act(std::int32_t device) {
   if (k70_ && random_() % 3 == 0) {
-    k70_.reset();
+    Leave();
     return {};
   }
   if (!k70_) return Take(device);

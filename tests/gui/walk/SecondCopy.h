@@ -21,6 +21,7 @@ class SecondCopy {
   // `device` is the one that the window works with, negative for none. Answers what is wrong: both
   // have one device, or the window's instrument was changed.
   std::string Act(std::int32_t device);
+  void Leave();
 
  private:
   class Answers;
