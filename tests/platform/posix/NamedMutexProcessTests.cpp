@@ -87,6 +87,16 @@ TEST(NamedMutexAcrossProcesses, FollowsNoLinkInTheFilesPlace) {
   std::filesystem::remove(file);
 }
 
+// A folder of another kind would let one user shut the others out.
+TEST(NamedMutexFolder, IsTheFirstThatAllUsersShare) {
+  const test::UniqueName unique;
+  NamedMutex mutex;
+  ASSERT_EQ(mutex.Open(unique.Text()), NamedMutex::Opened::First);
+  struct stat status = {};
+  const bool shared = ::stat("/run/lock", &status) == 0 && (status.st_mode & 01777U) == 01777U;
+  EXPECT_EQ(LockFile(unique.Text()).parent_path(), shared ? "/run/lock" : "/tmp");
+}
+
 TEST(NamedMutexWait, LastsAsLongAsItWasAskedTo) {
   const test::UniqueName unique;
   NamedMutex owner;
