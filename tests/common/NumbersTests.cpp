@@ -157,5 +157,14 @@ TEST(Hex, IsUpperCaseTwosComplementWithoutPrefix) {
   EXPECT_EQ(Hex(-2147467259), "80004005");
 }
 
+TEST(Numbers, HoldEachOfTheTenDigits) {
+  for (int digit = 0; digit <= 9; ++digit) {
+    const std::string text = std::to_string(digit);
+    EXPECT_EQ(ToLong(text, PointFormat()), digit);
+    EXPECT_DOUBLE_EQ(ToDouble("1." + text, PointFormat()), 1 + digit / 10.0);
+    EXPECT_TRUE(IsNumeric(text, PointFormat())) << digit;
+  }
+}
+
 }  // namespace
 }  // namespace mortane
