@@ -1,9 +1,12 @@
 #!/usr/bin/env python3
 """The packed programs under Wine, on the COM server of the tests:
-packed_programs.py PACKAGE_FOLDER SERVER_FOLDER
-The server folder holds mortane_test_library.dll and mortane_test_server.exe."""
+packed_programs.py PACKAGE_FOLDER SERVER_FOLDER SERVER32_FOLDER
+The server folder holds mortane_test_library.dll and mortane_test_server.exe, the other one the
+library and mortane-host32.exe of 32 bits. Where Wine runs no programs of 32 bits, those of the host's
+test are of 64 bits."""
 
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -15,8 +18,10 @@ import desktop
 
 package = pathlib.Path()
 servers = pathlib.Path()
+servers32 = pathlib.Path()
 screen = None  # the one display: Wine stays on that on which its first process began
 
+EDITOR32 = "C:\\windows\\syswow64\\regedit.exe"
 CONNECTED = "DeviceList.Item(1).Connect()"
 
 
@@ -31,23 +36,39 @@ def wine(*arguments):
                    stdout=subprocess.DEVNULL, env=screen.environment)
 
 
-def point_to_new_classes():
-    """Wine starts no second server for a class whose server was killed: the server's names get
-    identifiers that nothing has."""
+def register(kind, server, command, editor="regedit"):
+    """New identifiers for the names of a kind; what serves them is a line that may name the family of
+    the identifiers, which is returned. An editor of 32 bits writes into the list for 32 bits."""
     family = uuid.uuid4().bytes
-    command = f'"{desktop.windows_path(servers / "mortane_test_server.exe")}" -Family '
+    base = "{%s}" % uuid.UUID(bytes=family[:-1] + bytes([0]))
+    escaped = command.format(family=base).replace("\\", "\\\\").replace('"', '\\"')
+    root = "HKEY_LOCAL_MACHINE\\Software\\Classes\\"
     lines = ["REGEDIT4", ""]
     for place, name in enumerate(("Microscope", "FiberServer", "FiberRemote")):
         identifier = "{%s}" % uuid.UUID(bytes=family[:-1] + bytes([place + 1]))
-        base = "{%s}" % uuid.UUID(bytes=family[:-1] + bytes([0]))
-        escaped = (command + base).replace("\\", "\\\\").replace('"', '\\"')
-        root = "HKEY_LOCAL_MACHINE\\Software\\Classes\\"
-        lines += [f"[{root}CLSID\\{identifier}\\LocalServer32]", f'@="{escaped}"',
-                  f"[{root}MortaneTest.OwnProcess.{name}\\CLSID]", f'@="{identifier}"', ""]
+        lines += [f"[{root}CLSID\\{identifier}\\{server}]", f'@="{escaped}"',
+                  '"ThreadingModel"="Apartment"',
+                  f"[{root}MortaneTest.{kind}.{name}\\CLSID]", f'@="{identifier}"', ""]
     with tempfile.NamedTemporaryFile("w", suffix=".reg", newline="\r\n") as entries:
         entries.write("\n".join(lines))
         entries.flush()
-        wine("regedit", "/S", desktop.windows_path(entries.name))
+        wine(editor, "/S", desktop.windows_path(entries.name))
+    return base
+
+
+def point_to_new_classes():
+    """Wine starts no second server for a class whose server was killed: the server's names get
+    identifiers that nothing has."""
+    server = desktop.windows_path(servers / "mortane_test_server.exe")
+    register("OwnProcess", "LocalServer32", f'"{server}" -Family {{family}}')
+
+
+def runs_32_bits():
+    host = servers32 / "mortane-host32.exe"
+    said = subprocess.run([desktop.WINE, "--collect", host], check=False, text=True,
+                          timeout=desktop.PATIENCE_S, stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, env=screen.environment).stdout
+    return said.startswith("mortane-host32 ")
 
 
 def kill_server():
@@ -65,9 +86,9 @@ class PackedPrograms(unittest.TestCase):
         point_to_new_classes()
         self.addCleanup(kill_server)
 
-    def start(self, program, *arguments, kind="OwnProcess", bench="", variables=None):
+    def start(self, program, *arguments, kind="OwnProcess", bench="", variables=None, folder=None):
         started = desktop.Program(
-            self.desktop, self.folder.path, package / f"{program}.exe", *arguments,
+            self.desktop, self.folder.path, (folder or package) / f"{program}.exe", *arguments,
             variables={**library(kind), **({"MORTANE_SERVER_BENCH": str(bench)} if bench else {}),
                        **(variables or {})})
         self.addCleanup(started.close)
@@ -106,9 +127,9 @@ class PackedPrograms(unittest.TestCase):
         program.press(choice, "Down", "Down", "Return")
         program.await_call("DeviceList.Item(3).Connect()")
 
-    def work_through(self, kind):
+    def work_through(self, kind, **details):
         """Start, Receive, change, Send, Save, Open, Select, Exit."""
-        program = self.start("mortane", kind=kind, bench=self.bench("Harbour"))
+        program = self.start("mortane", kind=kind, bench=self.bench("Harbour"), **details)
         program.window()
         program.await_call(CONNECTED)
         program.await_rest()
@@ -156,6 +177,23 @@ class PackedPrograms(unittest.TestCase):
 
     def test_mortane_works_on_a_server_in_its_process(self):
         self.work_through("InProcess")
+
+    def test_mortane_works_on_a_library_of_32_bits_that_nobody_set_up_for_it(self):
+        of_32_bits = runs_32_bits()
+        library_folder = servers32 if of_32_bits else servers
+        folder = package
+        variables = {}
+        if not of_32_bits:
+            print("this Wine runs no programs of 32 bits; the host is one of 64", file=sys.stderr)
+            folder = self.folder.path / "package"
+            shutil.copytree(package, folder)
+            shutil.copy(servers / "mortane-host32.exe", folder)
+            variables["MORTANE_LIBRARY"] = "host32"
+        variables["MORTANE_SERVER_FAMILY"] = register(
+            "Hosted", "InprocServer32",
+            desktop.windows_path(library_folder / "mortane_test_library.dll"),
+            EDITOR32 if of_32_bits else "regedit")
+        self.work_through("Hosted", folder=folder, variables=variables)
 
     def test_a_second_copy_on_one_device_is_refused_until_the_first_is_gone_however_it_went(self):
         bench = self.bench("Harbour")
@@ -244,15 +282,15 @@ class PackedPrograms(unittest.TestCase):
 
 
 def main():
-    global package, servers, screen
-    package, servers = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+    global package, servers, servers32, screen
+    package, servers, servers32 = (pathlib.Path(name).resolve() for name in sys.argv[1:4])
     subprocess.run([desktop.WINE, "--end"], check=True)
     screen = desktop.Desktop()
     wine("regsvr32", "/s", servers / "mortane_test_library.dll")
     # A process of Wine's that stays saves each start of a program two seconds.
     with subprocess.Popen([desktop.WINE, "cmd"], stdin=subprocess.PIPE, env=screen.environment,
                           stdout=subprocess.DEVNULL) as keeper:
-        result = unittest.main(argv=sys.argv[:1] + sys.argv[3:], exit=False, verbosity=2).result
+        result = unittest.main(argv=sys.argv[:1] + sys.argv[4:], exit=False, verbosity=2).result
         keeper.stdin.close()
     subprocess.run([desktop.WINE, "--end"], check=True)
     screen.close()

@@ -42,6 +42,12 @@ HRESULT FindClass(const std::wstring& name, CLSID& id) {
                                 : CLSIDFromProgID(name.c_str(), &id);
 }
 
+std::wstring TextOf(const CLSID& id) {
+  std::array<wchar_t, 39> text{};
+  StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
+  return text.data();
+}
+
 ComPointer<IDispatch> MakeIn(DWORD context, const CLSID& id) {
   void* made = nullptr;
   RequireSuccess(CoCreateInstance(id, nullptr, context, IID_IDispatch, &made));
@@ -64,6 +70,7 @@ std::optional<std::wstring> Text32(const std::wstring& key) {
   return std::wstring(text.data());
 }
 
+// By its name or its identifier; a name may stand in the list for programs of 64 bits alone.
 bool IsLibraryOf32Bits(const std::wstring& name) {
   const std::optional<std::wstring> id = name.starts_with(L'{') ? name : Text32(name + L"\\CLSID");
   return id && Text32(L"CLSID\\" + *id + L"\\InprocServer32");
@@ -145,7 +152,8 @@ ComPointer<IDispatch> MakeByFirstWay(const std::string& className, LibraryWays w
     if (auto made = attempts.Try(kServerProcess, in(CLSCTX_LOCAL_SERVER))) return made;
   }
   const bool unregistered = SUCCEEDED(found) && attempts.AreAllUnregistered();
-  const bool in32 = ways == LibraryWays::kAny && (unregistered || IsLibraryOf32Bits(name));
+  const bool in32 = ways == LibraryWays::kAny &&
+                    (unregistered || IsLibraryOf32Bits(SUCCEEDED(found) ? TextOf(id) : name));
   if (in32) return MakeInHost(attempts, className, host);
   if (FAILED(found)) RaiseComError(found);
   attempts.Raise();
