@@ -2,9 +2,14 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QHeaderView>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QWidget>
 #include <sstream>
+
+#include "widgets/ListBox.h"
+#include "widgets/Theme.h"
 
 namespace mortane::test {
 namespace {
@@ -77,6 +82,39 @@ void Walk(const QWidget& parent, std::vector<std::string>& faults) {
 std::vector<std::string> LayoutFaults(const QWidget& root) {
   std::vector<std::string> faults;
   Walk(root, faults);
+  return faults;
+}
+
+std::vector<std::string> ListFaults(const QWidget& page) {
+  constexpr int kLeastRows = 3;
+  std::vector<std::string> faults;
+  for (const ListBox* list : page.findChildren<ListBox*>()) {
+    if (!list->isVisible()) continue;
+    const std::string name = list->objectName().toStdString();
+    const int cut = list->horizontalScrollBar()->maximum();
+    if (cut > 0) faults.push_back(name + " cuts " + std::to_string(cut));
+    const int rows = list->viewport()->height() / GridHeight(grid::kRowHeight, *list);
+    if (rows < kLeastRows) faults.push_back(name + " shows rows: " + std::to_string(rows));
+    const QHeaderView& head = *list->header();
+    if (!list->isHeaderHidden() && head.height() < head.fontMetrics().height())
+      faults.push_back(name + " has a low head");
+  }
+  return faults;
+}
+
+std::vector<std::string> ScrollFaults(const QWidget& root) {
+  QList<const QAbstractScrollArea*> areas;
+  for (const auto* area : root.findChildren<QAbstractScrollArea*>()) areas << area;
+  if (const auto* area = qobject_cast<const QAbstractScrollArea*>(&root)) areas << area;
+  std::vector<std::string> faults;
+  int upright = 0;
+  for (const QAbstractScrollArea* area : areas) {
+    if (!area->isVisible() || qobject_cast<const QAbstractItemView*>(area) != nullptr) continue;
+    if (const int cut = area->horizontalScrollBar()->maximum(); cut > 0)
+      faults.push_back(Describe(*area) + " is scrolled sideways by " + std::to_string(cut));
+    if (area->verticalScrollBar()->maximum() > 0 && ++upright > 1)
+      faults.push_back(Describe(*area) + " is another one that is scrolled upright");
+  }
   return faults;
 }
 

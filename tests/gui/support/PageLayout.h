@@ -13,6 +13,14 @@ namespace mortane::test {
 // larger than the area: it is scrolled to.
 std::vector<std::string> LayoutFaults(const QWidget& root);
 
+// One line for each list below `page` that cuts its columns or shows hardly a row, and for a head
+// that is lower than its font.
+std::vector<std::string> ListFaults(const QWidget& page);
+
+// One line for each area that is scrolled sideways, and for each but one that is scrolled upright:
+// `root` or below it. Lists do not count.
+std::vector<std::string> ScrollFaults(const QWidget& root);
+
 // A size that follows from a width, such as that of tiles in fewer columns, is asked for from one
 // parent to the next, each in a turn of the event loop of its own.
 void ComeToRest();
