@@ -38,9 +38,13 @@ QSize ReportList::sizeHint() const {
 int ReportList::WidthOf(const QModelIndex& cell) const {
   QStyleOptionViewItem option;
   initViewItemOption(&option);
-  option.font = BoldFont();
+  option.font = MeasuringFont();
   option.fontMetrics = QFontMetrics(option.font);
   return itemDelegateForIndex(cell)->sizeHint(option, cell).width();
+}
+
+QFont ReportList::MeasuringFont() const {
+  return BoldFont();
 }
 
 void ReportList::SetBoldRow(int row) {

@@ -22,6 +22,7 @@ class ReportList : public ListBox {
  protected:
   // In bold, so that no column moves for the row that becomes bold.
   [[nodiscard]] int WidthOf(const QModelIndex& cell) const override;
+  [[nodiscard]] QFont MeasuringFont() const override;
 
  private:
   int boldRow_ = -1;

@@ -38,6 +38,7 @@ void SwitchRowsCtl::MakeDrawing(const SwitchPlan& plan, QWidget* parent) {
 void SwitchRowsCtl::MakeList(QWidget* parent) {
   ListView1 = new ReportList({u"Switch"_s, u"Function"_s}, parent);
   ListView1->setIconSize({MarkIconSide(), MarkIconSide()});
+  ListView1->SetFoldingColumn(kFunctionColumn);
   ListView1->setAccessibleName(u"Switch"_s);
   ListView1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
   connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { Select(row); });

@@ -33,6 +33,12 @@ class HeaderCorner : public QWidget {
   }
 };
 
+int LeastWidth(const std::vector<ColumnWish>& columns) {
+  int width = 0;
+  for (const ColumnWish& column : columns) width += column.content;
+  return width;
+}
+
 double AverageCharacter(const QFontMetrics& metrics) {
   static const QString kLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"_s;
   return static_cast<double>(metrics.horizontalAdvance(kLetters)) /
@@ -95,6 +101,7 @@ void ListBox::SetTabStops(const QVector<int>& dialogUnits) {
 
 void ListBox::ForgetContents() {
   wishes_.clear();
+  foldedWishes_.clear();
 }
 
 void ListBox::MeasureContents() {
@@ -113,10 +120,44 @@ void ListBox::MeasureContents() {
 void ListBox::FitColumns() {
   if (columnCount() < 2) return;
   if (wishes_.empty()) MeasureContents();
-  const std::vector<int> widths = ColumnWidths(wishes_, viewport()->width());
+  const int room = viewport()->width();
+  const bool folds = foldingColumn_ >= 0 && LeastWidth(wishes_) > room;
+  if (folds && foldedWishes_.empty()) MeasureFolded();
+  ShowLines(folds ? 2 : 1);
+  const std::vector<int> widths = ColumnWidths(folds ? foldedWishes_ : wishes_, room);
   for (int column = 0; column < columnCount(); ++column) {
     header()->resizeSection(column, widths[static_cast<std::size_t>(column)]);
   }
+}
+
+void ListBox::MeasureFolded() {
+  foldedWishes_ = wishes_;
+  int content = header()->isHidden() ? 0 : header()->sectionSizeHint(foldingColumn_);
+  for (int row = 0; row < rowCount(); ++row)
+    content = qMax(content, FoldedWidthOf(model()->index(row, foldingColumn_)));
+  foldedWishes_[static_cast<std::size_t>(foldingColumn_)] = {content, content};
+}
+
+// With its text broken where the longer of two lines is shortest.
+int ListBox::FoldedWidthOf(const QModelIndex& cell) const {
+  const QFontMetrics metrics(MeasuringFont());
+  const QString text = cell.data().toString();
+  const int whole = metrics.horizontalAdvance(text);
+  int longer = whole;
+  for (qsizetype blank = text.indexOf(u' '); blank >= 0; blank = text.indexOf(u' ', blank + 1)) {
+    const int first = metrics.horizontalAdvance(text.left(blank));
+    const int second = metrics.horizontalAdvance(text.mid(blank + 1));
+    longer = qMin(longer, qMax(first, second));
+  }
+  return WidthOf(cell) - whole + longer;
+}
+
+void ListBox::ShowLines(int lines) {
+  auto* delegate = static_cast<RowDelegate*>(itemDelegate());
+  if (delegate->lines() == lines) return;
+  delegate->SetLines(lines);
+  scheduleDelayedItemsLayout();
+  updateGeometry();
 }
 
 void ListBox::doItemsLayout() {

@@ -34,6 +34,8 @@ class ListBox : public RowView {
   // Columns after the first begin no further left than these stops, which are given in dialog
   // units: quarters of a character's average width.
   void SetTabStops(const QVector<int>& dialogUnits);
+  // Where the room is too narrow for all columns, the texts of that one go on in a second line.
+  void SetFoldingColumn(int column) { foldingColumn_ = column; }
   void SetIconRows(bool iconRows);
   // Typed letters look for a row by the text of this column; the first one, when not set.
   void SetNameColumn(int column) { nameColumn_ = column; }
@@ -85,6 +87,10 @@ class ListBox : public RowView {
   [[nodiscard]] virtual int WidthOf(const QModelIndex& cell) const {
     return sizeHintForIndex(cell).width();
   }
+  // The font that contents are measured in.
+  [[nodiscard]] virtual QFont MeasuringFont() const {
+    return font();
+  }
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -105,12 +111,17 @@ class ListBox : public RowView {
   [[nodiscard]] bool IsShownWhole(const QRect& row) const;
   void ForgetContents();
   void MeasureContents();
+  void MeasureFolded();
+  [[nodiscard]] int FoldedWidthOf(const QModelIndex& cell) const;
+  void ShowLines(int lines);
   void FitColumns();
 
   QWidget* headerCorner_;
   QVector<ListColumn> columns_;
   QVector<int> tabStops_;
-  std::vector<ColumnWish> wishes_;  // of the columns; empty until they are measured
+  std::vector<ColumnWish> wishes_;        // of the columns; empty until they are measured
+  std::vector<ColumnWish> foldedWishes_;  // with the folding column in two lines
+  int foldingColumn_ = -1;
   int nameColumn_ = 0;
   QString typed_;
   QElapsedTimer sinceKey_;

@@ -25,13 +25,15 @@ RowDelegate::RowDelegate(QObject* parent)
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const QSize content = QStyledItemDelegate::sizeHint(option, index);
   const int dot = NoteOf(index).isEmpty() || index.column() > 0 ? 0 : kPendingRoom;
-  return {content.width() + dot, GridHeight(leastHeight_, option.fontMetrics)};
+  const int height = GridHeight(leastHeight_, option.fontMetrics);
+  return {content.width() + dot, height + (lines_ - 1) * option.fontMetrics.lineSpacing()};
 }
 
 void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
   QStyleOptionViewItem row = option;
   row.state &= ~QStyle::State_HasFocus;
+  if (lines_ > 1) row.features |= QStyleOptionViewItem::WrapText;
   if (index.column() > 0 || NoteOf(index).isEmpty())
     return QStyledItemDelegate::paint(painter, row, index);
   // The background of the whole cell, then the rest to the right of the dot.
@@ -52,7 +54,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                             const QStyleOptionViewItem& option, const QModelIndex& index) {
   if (event->type() != QEvent::ToolTip) return false;
-  const bool fits = sizeHint(option, index).width() <= option.rect.width();
+  const bool fits = IsShownWhole(option, index);
   const QString note = NoteOf(index);
   QStringList lines;
   if (!fits) lines.append(index.data().toString());
@@ -60,6 +62,16 @@ bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
   ShowWholeText(*event, *view->viewport(), lines.join(u'\n'),
                 lines.isEmpty() ? Fits::Yes : Fits::No, option.rect);
   return true;
+}
+
+bool RowDelegate::IsShownWhole(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  const int spare = option.rect.width() - sizeHint(option, index).width();
+  if (spare >= 0 || lines_ == 1) return spare >= 0;
+  const QString text = index.data().toString();
+  const int room = option.fontMetrics.horizontalAdvance(text) + spare;
+  const QRect lines =
+      option.fontMetrics.boundingRect({0, 0, room, QWIDGETSIZE_MAX}, Qt::TextWordWrap, text);
+  return lines.height() <= lines_ * option.fontMetrics.lineSpacing() && lines.width() <= room;
 }
 
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {

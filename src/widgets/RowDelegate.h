@@ -16,6 +16,9 @@ class RowDelegate : public QStyledItemDelegate {
   explicit RowDelegate(QObject* parent);
 
   void SetLeastHeight(int pixels) { leastHeight_ = pixels; }
+  // Texts that are wider than their column go on in as many lines.
+  void SetLines(int lines) { lines_ = lines; }
+  [[nodiscard]] int lines() const { return lines_; }
   [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                const QModelIndex& index) const override;
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -28,7 +31,11 @@ class RowDelegate : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
  private:
+  [[nodiscard]] bool IsShownWhole(const QStyleOptionViewItem& option,
+                                  const QModelIndex& index) const;
+
   int leastHeight_;
+  int lines_ = 1;
 };
 
 }  // namespace mortane
