@@ -64,7 +64,7 @@ QWidget* SystemNameCtl::BuildNameCard() {
   Label1 = new QLabel(u"System Name:"_s, Frame1);
   TextSystemName = new TextField(Frame1);
   TextSystemName->SetLimit(kNameLength);
-  TextSystemName->SetWidthFor(kNameWidthCharacters);
+  TextSystemName->SetWidthFor(kNameWidthCharacters, kNameLength);
   Label1->setBuddy(TextSystemName);
 
   auto* row = new QHBoxLayout;

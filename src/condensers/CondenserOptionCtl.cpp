@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kNameLength = static_cast<int>(kOptionNameLength);
 constexpr int kMostColumns = 2;
-constexpr int kColumnGap = 48;
+constexpr int kColumnGap = 24;
 
 std::int32_t CodeOf(int row) {
   return kCondenserOptionBase + row + 1;

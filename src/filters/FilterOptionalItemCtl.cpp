@@ -40,7 +40,7 @@ const std::array<FilterOptionalItemCtl::Column, kFilterItems> FilterOptionalItem
 FilterOptionalItemCtl::FilterOptionalItemCtl(const FilterItemLists& items, QWidget* parent)
     : CardPage(u"Add Optional Filter Data "_s, parent), items_(items) {
   auto* cells = new QGridLayout;
-  cells->setHorizontalSpacing(grid::kBetweenColumns);
+  cells->setHorizontalSpacing(grid::kBetweenControls);
   cells->setVerticalSpacing(grid::kUnit);
   BuildHeaders(*cells);
   for (int row = 0; row < kOptionPositions; ++row) BuildRow(row, *cells);
@@ -74,10 +74,7 @@ TextField* FilterOptionalItemCtl::BuildField(const Column& column, int row) {
   field->setAccessibleName(u"%1 %2"_s.arg(QLatin1String(column.caption)).arg(row + 1));
   field->setFont(FixedFont());
   field->SetLimit(static_cast<int>(kOptionNameLength));
-  field->SetWidthFor(static_cast<int>(kOptionNameLength));
-  const int least = field->maximumWidth();
-  field->SetWidthFor(kFieldCharacters);
-  field->setMinimumWidth(least);
+  field->SetWidthFor(kFieldCharacters, static_cast<int>(kOptionNameLength));
   field->SetPlaceholder(ToQString(kUnnamedMark));
   connect(field, &TextField::committed, this, [this, &column, row] { Store(column, row); });
   return field;

@@ -17,6 +17,8 @@ namespace {
 
 // Wide letters are half as wide again as figures.
 constexpr int kNameWidthCharacters = 16;
+// As wide as the longest names.
+constexpr int kItemCharacters = 11;
 
 }  // namespace
 
@@ -60,7 +62,7 @@ FilterOptionalQubeCtl::FilterOptionalQubeCtl(clsDbFilter& cubes, const FilterIte
 
 void FilterOptionalQubeCtl::BuildColumn(const Item& item, RecordForm& form) {
   auto* value = new ValueLabel(frm2);
-  const RecordForm::Column column = form.AddColumn(item.caption, value, 1);
+  const RecordForm::Column column = form.AddColumn(item.caption, value, 1, kItemCharacters);
   this->*item.label = column.caption;
   this->*item.value = value;
   this->*item.list = column.list;

@@ -1,6 +1,5 @@
 #include "interlocks/InterlockOtherCtl.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <functional>
 #include <utility>
@@ -19,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kColumns = 3;
+constexpr int kPathFrames = 2;
 
 }  // namespace
 
@@ -79,8 +79,8 @@ InterlockOtherCtl::InterlockOtherCtl(clsInterLockOther& interlocks, DriveFollowe
       interlocks_(interlocks),
       drives_(std::move(drives)) {
   FrameBase->body()->addWidget(BuildFrame(kNosepiece));
-  auto* paths = new QHBoxLayout;
-  paths->setSpacing(grid::kBetweenColumns);
+  auto* paths = new ReflowGrid(ReflowGrid::Order::RowByRow, kPathFrames, grid::kBetweenColumns,
+                               grid::kBetweenGroups);
   paths->addWidget(BuildFrame(kLightPath));
   paths->addWidget(BuildFrame(kZoom));
   FrameBase->body()->addLayout(paths);

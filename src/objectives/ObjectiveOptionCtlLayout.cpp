@@ -23,7 +23,10 @@ namespace {
 
 // Wide letters are half as wide again as figures.
 constexpr int kNameWidthCharacters = 24;
-constexpr int kTypeCharacters = 17;  // with the margins of its list
+// As wide as the longest names.
+constexpr int kSeriesCharacters = 14;
+constexpr int kTypeCharacters = 13;
+constexpr int kMagnificationCharacters = 11;
 constexpr int kNumberWidthCharacters = 7;
 
 }  // namespace
@@ -37,14 +40,13 @@ void ObjectiveOptionCtl::Build() {
   Label1 = name.label;
   TextName = name.field;
   LabelSeries = new ValueLabel(NosepieceOptionItemFrm);
-  const RecordForm::Column series = form.AddColumn("Series", LabelSeries, 3);
+  const RecordForm::Column series = form.AddColumn("Series", LabelSeries, 3, kSeriesCharacters);
   Label2 = series.caption;
   ListSeries = series.list;
   LabelType = new ValueLabel(NosepieceOptionItemFrm);
-  const RecordForm::Column type = form.AddColumn("Type", LabelType, 2);
+  const RecordForm::Column type = form.AddColumn("Type", LabelType, 2, kTypeCharacters);
   Label3 = type.caption;
   ListType = type.list;
-  ListType->setMinimumWidth(ListType->fontMetrics().averageCharWidth() * kTypeCharacters);
   BuildMagnification(form);
   form.AddPanel(BuildValues(NosepieceOptionItemFrm), 3);
 }
@@ -59,7 +61,8 @@ void ObjectiveOptionCtl::BuildMagnification(RecordForm& form) {
   row->addWidget(TextMag);
   row->addWidget(Label7);
   row->addStretch();
-  const RecordForm::Column magnification = form.AddColumn(kNumbers[0].caption, value, 2);
+  const RecordForm::Column magnification =
+      form.AddColumn(kNumbers[0].caption, value, 2, kMagnificationCharacters);
   Label4 = magnification.caption;
   Label4->setBuddy(TextMag);
   ListMag = magnification.list;

@@ -3,7 +3,10 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QResizeEvent>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <QtMath>
 
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
@@ -11,9 +14,52 @@
 namespace mortane {
 namespace {
 
+// Goes on in further lines where the width is short. It asks for the height of the lines that its
+// present width makes.
+class FrameCaption : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  // A text of several words has room for two lines, as they break at worst.
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    constexpr double kLongerLine = 0.6;  // of the whole text
+    const QSize whole = QLabel::minimumSizeHint();
+    if (!text().contains(u' ')) return whole;
+    return {qCeil(whole.width() * kLongerLine), Breaks() ? HeightOfLines() : whole.height()};
+  }
+  [[nodiscard]] QSize sizeHint() const override {
+    const QSize whole = QLabel::sizeHint();
+    return {whole.width(), Breaks() ? HeightOfLines() : whole.height()};
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QLabel::resizeEvent(event);
+    const int before = sizeHint().height();
+    room_ = width();
+    if (sizeHint().height() != before) updateGeometry();
+  }
+  void paintEvent(QPaintEvent* event) override {
+    if (!Breaks()) return QLabel::paintEvent(event);
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect(), kLines, palette(), isEnabled(), text(),
+                          foregroundRole());
+  }
+
+ private:
+  static constexpr int kLines = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+
+  [[nodiscard]] bool Breaks() const { return room_ < QLabel::sizeHint().width(); }
+  [[nodiscard]] int HeightOfLines() const {
+    return fontMetrics().boundingRect({0, 0, room_, QWIDGETSIZE_MAX}, kLines, text()).height();
+  }
+
+  int room_ = QWIDGETSIZE_MAX;  // the width that it has
+};
+
 QLabel* AddCaption(const QString& caption, QFrame* frame, QVBoxLayout* body) {
   if (caption.isEmpty()) return nullptr;
-  auto* label = new QLabel(caption, frame);
+  auto* label = new FrameCaption(caption, frame);
   label->setFont(FrameCaptionFont());
   frame->setAccessibleName(caption);
   label->setBuddy(frame);

@@ -2,19 +2,21 @@
 #pragma once
 
 class QFrame;
-class QGridLayout;
 class QLabel;
+class QVBoxLayout;
 class QWidget;
 
 namespace mortane {
 
 class Card;
+class ColumnFlow;
 class ListBox;
 class TabStrip;
 class TextField;
 
 // Fills a card from the top: the tabs, a row with the name, and columns side by side. What it
-// makes belongs to the card; the Tab key goes by the order of the calls.
+// makes belongs to the card; the Tab key goes by the order of the calls. Where the width is short
+// the columns go on in a second row.
 class RecordForm {
  public:
   RecordForm(Card& card, int records);
@@ -26,7 +28,8 @@ class RecordForm {
     QLabel* label;
     TextField* field;
   };
-  // The label says "Name". The field takes `limit` characters and is wide enough for `shown`.
+  // The label says "Name". The field takes `limit` characters and is wide enough for `shown`, or
+  // for the limit where the width is short.
   Name AddName(int limit, int shown);
 
   struct Column {
@@ -34,16 +37,18 @@ class RecordForm {
     ListBox* list;
   };
   // Caption, value and list below each other. The value is a child of frame() and stands halfway
-  // between the two. The column takes `stretch` shares of the width.
-  Column AddColumn(const char* caption, QWidget* value, int stretch);
-  // A panel as high as value and list together.
+  // between the two. The column takes `stretch` shares of the width; its list shows that many
+  // figures at least.
+  Column AddColumn(const char* caption, QWidget* value, int stretch, int characters);
+  // A panel beside value and list.
   void AddPanel(QWidget* panel, int stretch);
 
  private:
+  QVBoxLayout* StartColumn(int stretch);
+
   TabStrip* tabs_;
   QFrame* frame_;
-  QGridLayout* columns_;
-  int columnCount_ = 0;
+  ColumnFlow* columns_;
 };
 
 }  // namespace mortane

@@ -104,9 +104,19 @@ bool TextField::isRefused() const {
   return property(kRefusedProperty).toBool();
 }
 
-void TextField::SetWidthFor(int characters) {
-  const int text = fontMetrics().horizontalAdvance(QString(characters, u'0'));
-  setFixedWidth(text + 2 * kTextMargin + 2 * grid::kBetweenControls);
+void TextField::SetWidthFor(int characters, int least) {
+  const auto widthFor = [this](int count, int beside) {
+    return fontMetrics().horizontalAdvance(QString(count, u'0')) + 2 * kTextMargin + 2 * beside;
+  };
+  const int most = widthFor(characters, grid::kBetweenControls);
+  setMaximumWidth(most);
+  setMinimumWidth(least < characters ? widthFor(least, grid::kUnit) : most);
+}
+
+// As wide as it may become, whatever the toolkit takes for a usual line.
+QSize TextField::sizeHint() const {
+  const QSize usual = QLineEdit::sizeHint();
+  return maximumWidth() < QWIDGETSIZE_MAX ? QSize(maximumWidth(), usual.height()) : usual;
 }
 
 void TextField::SetPending(const std::optional<QString>& was) {

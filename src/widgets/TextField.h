@@ -44,8 +44,11 @@ class TextField : public QLineEdit {
   void SetPending(const std::optional<QString>& was);
   [[nodiscard]] bool isPending() const { return was_.has_value(); }
 
-  // Wide enough for that many characters of text, at the height of the grid.
-  void SetWidthFor(int characters);
+  // Wide enough for that many characters of text, or for no less than `least` of them where the
+  // room is short, at the height of the grid.
+  void SetWidthFor(int characters) { SetWidthFor(characters, characters); }
+  void SetWidthFor(int characters, int least);
+  [[nodiscard]] QSize sizeHint() const override;
 
  Q_SIGNALS:
   void committed(const QString& text);

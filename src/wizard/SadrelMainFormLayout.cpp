@@ -22,6 +22,15 @@ namespace {
 
 constexpr int kButtonWidth = 104;
 
+// A button of the bar: as wide as the others where its text leaves it.
+class BarButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+  [[nodiscard]] QSize sizeHint() const override {
+    return QPushButton::sizeHint().expandedTo({kButtonWidth, 0});
+  }
+};
+
 }  // namespace
 
 SadrelMainForm::SadrelMainForm(const FormServices& services, const StepTable& steps)
@@ -76,8 +85,7 @@ void SadrelMainForm::BuildPages(const FormServices& services) {
 }
 
 QPushButton* SadrelMainForm::AddButton(const QString& text, Act act, QWidget* bar) {
-  auto* button = new QPushButton(text, bar);
-  button->setMinimumWidth(kButtonWidth);
+  auto* button = new BarButton(text, bar);
   button->setAutoDefault(true);  // acts on the Enter key, too
   TakeFocusByClicks(*button);
   connect(button, &QPushButton::clicked, this, [this, act] {

@@ -104,6 +104,9 @@ void SelSetupItemCtl::Arrange() {
   for (const int mode : {kStandard, kCustom, kFile}) {
     columns->addWidget(optSetupMode->button(mode), 0, mode, Qt::AlignLeft);
   }
+  // In a low window the page is scrolled, and the lists keep their rows.
+  for (ListBox* list : {static_cast<ListBox*>(ListStandard), static_cast<ListBox*>(ListCustom)})
+    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
   columns->addWidget(ListStandard, 1, kStandard);
   columns->addWidget(ListCustom, 1, kCustom);
   columns->setColumnStretch(kStandard, 1);

@@ -16,12 +16,29 @@ namespace {
 
 constexpr int kHeight = 54;
 constexpr int kWidth = 176;
-constexpr int kMarkCenter = 28;
-constexpr int kMarkSide = 24;
+constexpr int kMarkLeft = 16;
+constexpr int kLeastMarkSide = 24;
+constexpr int kAroundNumber = 5;  // between the number and its circle
 constexpr int kTickSide = 12;
-constexpr int kIconLeft = 52;
 constexpr int kIconSide = 24;
-constexpr int kTextLeft = 88;
+
+// Of the circle, which holds any number of a step.
+int MarkSide() {
+  const int number = QFontMetrics(MarkFont()).horizontalAdvance(u"10"_s);
+  return qMax(kLeastMarkSide, number + 2 * kAroundNumber);
+}
+
+int MarkCenter() {
+  return kMarkLeft + MarkSide() / 2;
+}
+
+int IconLeft() {
+  return kMarkLeft + MarkSide() + grid::kBetweenGroups;
+}
+
+int TextLeft() {
+  return IconLeft() + kIconSide + grid::kBetweenGroups;
+}
 
 // In the order of StepState; for screen readers.
 constexpr const char* kStateTexts[] = {"passed", "current", "to come", "not visited",
@@ -64,12 +81,13 @@ bool StepButton::event(QEvent* event) {
 }
 
 QSize StepButton::sizeHint() const {
-  const int text = kTextLeft + fontMetrics().horizontalAdvance(this->text()) + grid::kBetweenGroups;
+  const int text =
+      TextLeft() + fontMetrics().horizontalAdvance(this->text()) + grid::kBetweenGroups;
   return {qMax(kWidth, text), GridHeight(kHeight, *this)};
 }
 
 QSize StepButton::minimumSizeHint() const {
-  return {sizeHint().width(), qMax(kMarkSide, fontMetrics().height()) + 2 * grid::kUnit};
+  return {sizeHint().width(), qMax(MarkSide(), fontMetrics().height()) + 2 * grid::kUnit};
 }
 
 void StepButton::mouseReleaseEvent(QMouseEvent* event) {
@@ -81,26 +99,27 @@ void StepButton::mouseReleaseEvent(QMouseEvent* event) {
 void StepButton::DrawJoints(QPainter& painter) const {
   painter.setPen(QPen(ToneColor(Tone::RailDisabled), 1));
   const int middle = height() / 2;
-  const int gap = kMarkSide / 2 + 2;
-  if (number_ > 1) painter.drawLine(kMarkCenter, 0, kMarkCenter, middle - gap);
-  if (!last_) painter.drawLine(kMarkCenter, middle + gap, kMarkCenter, height());
+  const int gap = MarkSide() / 2 + 2;
+  const int center = MarkCenter();
+  if (number_ > 1) painter.drawLine(center, 0, center, middle - gap);
+  if (!last_) painter.drawLine(center, middle + gap, center, height());
 }
 
 void StepButton::DrawMark(QPainter& painter) const {
-  const QRectF circle(kMarkCenter - kMarkSide / 2.0, (height() - kMarkSide) / 2.0, kMarkSide,
-                      kMarkSide);
+  const int side = MarkSide();
+  const QRectF circle(kMarkLeft, (height() - side) / 2.0, side, side);
   const bool off = state_ == StepState::Off;
   const QColor line = ToneColor(off ? Tone::RailDisabled : Tone::RailText);
-  const Outline outline{line, 1.5, kMarkSide / 2.0, off};
+  const Outline outline{line, 1.5, side / 2.0, off};
   if (state_ == StepState::Passed) {
     DrawBox(painter, circle, ToneColor(Tone::RailSelected), outline);
-    const double inset = (kMarkSide - kTickSide) / 2.0;
+    const double inset = (side - kTickSide) / 2.0;
     DrawTick(painter, circle.adjusted(inset, inset, -inset, -inset), line);
     return;
   }
   const bool current = IsCurrent();
   if (current) {
-    DrawBox(painter, circle, ToneColor(Tone::Amber), {{}, 0, kMarkSide / 2.0});
+    DrawBox(painter, circle, ToneColor(Tone::Amber), {{}, 0, side / 2.0});
   } else {
     DrawBox(painter, circle, Background(), outline);
   }
@@ -115,17 +134,17 @@ void StepButton::paintEvent(QPaintEvent*) {
   DrawJoints(painter);
   DrawMark(painter);
   const QColor foreground = Foreground();
+  const int iconLeft = IconLeft();
   const int iconTop = (height() - kIconSide) / 2;
-  DrawIcon(painter, icon(), QRectF(kIconLeft, iconTop, kIconSide, kIconSide),
+  DrawIcon(painter, icon(), QRectF(iconLeft, iconTop, kIconSide, kIconSide),
            {foreground, IsCurrent() ? ToneColor(Tone::Amber) : foreground});
   if (pending_) {
-    DrawPendingDot(painter, {kIconLeft + kIconSide + 2.0, iconTop + 1.0},
+    DrawPendingDot(painter, {iconLeft + kIconSide + 2.0, iconTop + 1.0},
                    ToneColor(Tone::RailPending), Background());
   }
   painter.setFont(font());
   painter.setPen(foreground);
-  painter.drawText(QRect(kTextLeft, 0, width() - kTextLeft, height()),
-                   Qt::AlignLeft | Qt::AlignVCenter, text());
+  painter.drawText(rect().adjusted(TextLeft(), 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text());
   DrawFocus(painter);
 }
 

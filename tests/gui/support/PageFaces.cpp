@@ -18,11 +18,12 @@ namespace mortane::test {
 namespace {
 
 // The rooms of windows of 1152 x 740, 1024 x 640 and 800 x 500 with the usual font, which is of 9
-// points. In larger fonts the window leaves less.
+// points. In larger fonts the window leaves less; the last one is that of the wizard's window of
+// 800 x 500 with 18 points.
 constexpr QSize kDesignRoom{1048, 560};
 constexpr QSize kNarrowRoom{920, 460};
 constexpr QSize kSmallRoom{696, 300};
-constexpr QSize kLargeFontsRoom{860, 420};
+constexpr QSize kLargeFontsRoom{620, 280};
 
 struct Face {
   double points;
@@ -122,9 +123,7 @@ TEST_P(PageDrill, ShowsAllControlsWholeAndApart) {
       const std::string where = std::to_string(face.points) + " " +
                                 std::to_string(face.letterSpacing) + " " +
                                 std::to_string(room.width());
-      EXPECT_EQ(LayoutFaults(window), none) << where;
-      EXPECT_EQ(ListFaults(page), none) << where;
-      EXPECT_EQ(ScrollFaults(window), none) << where;
+      EXPECT_EQ(FaultsOfSight(window), none) << where;
     }
   }
 }

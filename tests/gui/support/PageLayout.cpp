@@ -8,7 +8,9 @@
 #include <QWidget>
 #include <sstream>
 
+#include "widgets/ContainerPage.h"
 #include "widgets/ListBox.h"
+#include "widgets/SectionBar.h"
 #include "widgets/Theme.h"
 
 namespace mortane::test {
@@ -116,6 +118,24 @@ std::vector<std::string> ScrollFaults(const QWidget& root) {
       faults.push_back(Describe(*area) + " is another one that is scrolled upright");
   }
   return faults;
+}
+
+std::vector<std::string> FaultsOfSight(const QWidget& root) {
+  std::vector<std::string> faults = LayoutFaults(root);
+  for (const std::string& fault : ListFaults(root)) faults.push_back(fault);
+  for (const std::string& fault : ScrollFaults(root)) faults.push_back(fault);
+  return faults;
+}
+
+void ForEachSection(const QWidget& window, const std::function<void(int section)>& act) {
+  for (ContainerPage* page : window.findChildren<ContainerPage*>()) {
+    if (!page->isVisible()) continue;
+    for (int section = 0; section < page->sections()->count(); ++section) {
+      if (page->OpenSection(section)) act(section);
+    }
+    return;
+  }
+  act(0);
 }
 
 void ComeToRest() {

@@ -1,6 +1,7 @@
 // Whether all that a page shows can be seen whole.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,12 @@ std::vector<std::string> ListFaults(const QWidget& page);
 // One line for each area that is scrolled sideways, and for each but one that is scrolled upright:
 // `root` or below it. Lists do not count.
 std::vector<std::string> ScrollFaults(const QWidget& root);
+
+// What the three of them find.
+std::vector<std::string> FaultsOfSight(const QWidget& root);
+
+// Opens each section of the page that the window shows; a page without sections has one, 0.
+void ForEachSection(const QWidget& window, const std::function<void(int section)>& act);
 
 // A size that follows from a width, such as that of tiles in fewer columns, is asked for from one
 // parent to the next, each in a turn of the event loop of its own.

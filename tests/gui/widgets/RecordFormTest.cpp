@@ -18,8 +18,8 @@ class RecordFormTest : public ::testing::Test {
  protected:
   RecordFormTest() {
     value->setText("Plan");
-    left = form.AddColumn("Series", value, 2);
-    right = form.AddColumn("Mag.", field, 1);
+    left = form.AddColumn("Series", value, 2, 10);
+    right = form.AddColumn("Mag.", field, 1, 10);
     form.AddPanel(panel, 1);
     window.widget().resize(800, 500);
     window.Show();
