@@ -26,7 +26,7 @@ constexpr int kNameWidthCharacters = 24;
 // As wide as the longest names.
 constexpr int kSeriesCharacters = 14;
 constexpr int kTypeCharacters = 13;
-constexpr int kMagnificationCharacters = 11;
+constexpr int kMagnificationCharacters = 13;
 constexpr int kNumberWidthCharacters = 7;
 
 }  // namespace
