@@ -1,5 +1,6 @@
 #include "widgets/PairPanel.h"
 
+#include <QAbstractButton>
 #include <QFontMetrics>
 #include <algorithm>
 
@@ -7,6 +8,47 @@
 #include "widgets/Theme.h"
 
 namespace mortane {
+
+namespace {
+
+// Those of the Tab key in the part, in its order; buttons of a group with one stop are all among
+// them, since each may become the stop.
+QWidgetList StopsOf(QWidget& part) {
+  QWidgetList stops;
+  QWidget* next = &part;
+  do {
+    const bool isOfPart = next == &part || part.isAncestorOf(next);
+    const bool isButton = qobject_cast<const QAbstractButton*>(next) != nullptr;
+    if (isOfPart && next->focusProxy() == nullptr &&
+        (isButton || next->focusPolicy() != Qt::NoFocus))
+      stops << next;
+    next = next->nextInFocusChain();
+  } while (next != &part);
+  return stops;
+}
+
+// The toolkit leaves a control where it is that takes no focus at the time.
+void PutBehind(QWidget& before, QWidget& moved) {
+  const Qt::FocusPolicy policies[] = {before.focusPolicy(), moved.focusPolicy()};
+  before.setFocusPolicy(Qt::StrongFocus);
+  moved.setFocusPolicy(Qt::StrongFocus);
+  QWidget::setTabOrder(&before, &moved);
+  before.setFocusPolicy(policies[0]);
+  moved.setFocusPolicy(policies[1]);
+}
+
+// The Tab key goes to what is in the second part after all that is in the first.
+void OrderTabKey(QWidget& first, QWidget& second) {
+  const QWidgetList before = StopsOf(first);
+  if (before.isEmpty()) return;
+  QWidget* last = before.constLast();
+  for (QWidget* stop : StopsOf(second)) {
+    PutBehind(*last, *stop);
+    last = stop;
+  }
+}
+
+}  // namespace
 
 class PairPanel::Parts : public ItemLayout {
  public:
@@ -57,6 +99,7 @@ class PairPanel::Parts : public ItemLayout {
     if (beside != beside_) {
       beside_ = beside;
       panel_.updateGeometry();
+      if (upper_ == Upper::Right) OrderParts();
     }
     if (beside_) {
       PlaceBeside(area);
@@ -67,6 +110,13 @@ class PairPanel::Parts : public ItemLayout {
 
  private:
   static constexpr int kParts = 2;
+
+  // The upper part is the right one.
+  void OrderParts() const {
+    QWidget& left = *itemAt(0)->widget();
+    QWidget& right = *itemAt(1)->widget();
+    OrderTabKey(beside_ ? left : right, beside_ ? right : left);
+  }
 
   // The one that is shown where the other is not; the first one where none is.
   [[nodiscard]] QLayoutItem* Single() const {

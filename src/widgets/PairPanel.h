@@ -7,7 +7,7 @@ namespace mortane {
 
 // It asks for the least width of its wider part and, below each other, for the heights of both: a
 // page that is then too high for its window is scrolled. A hidden part leaves its room to the
-// other.
+// other. The Tab key goes through the parts as they are seen: from left to right, or downwards.
 class PairPanel : public QWidget {
  public:
   // Which part is the upper one where they stand one below the other.

@@ -103,6 +103,75 @@ TEST_F(PairPanelTest, GoesBackAndForthWithItsWidth) {
   }
 }
 
+// Two buttons, of which one is a stop of the Tab key, and a field.
+class PairPanelKeys : public ::testing::Test {
+ protected:
+  PairPanelKeys() {
+    auto* first = new QWidget(panel);
+    auto* second = new QWidget(panel);
+    for (const char* name : {"one", "two"}) {
+      auto* button = new QPushButton(first);
+      button->setObjectName(name);
+      buttons.push_back(button);
+    }
+    buttons[0]->setFocusPolicy(Qt::NoFocus);
+    auto* field = new QLineEdit(second);
+    field->setObjectName("field");
+    panel->SetParts(first, 1, second, 1);
+    panel->SetWidthBeside(300);
+    window.Add<QPushButton>()->setObjectName("below");
+    window.Show();
+  }
+  // The names that Tab comes to from the control above the panel.
+  std::string StopsIn(int width, Qt::Key key = Qt::Key_Tab) {
+    window.widget().resize(width, 400);
+    QApplication::processEvents();
+    above->setFocus();
+    std::string names;
+    for (int i = 0; i < 4; ++i) {
+      QTest::keyClick(QApplication::focusWidget(), key);
+      names += QApplication::focusWidget()->objectName().toStdString() + ' ';
+    }
+    return names;
+  }
+
+  TestWindow window;
+  QPushButton* above = window.Add<QPushButton>();
+  PairPanel* panel = window.Add<PairPanel>();
+  std::vector<QPushButton*> buttons;
+};
+
+TEST_F(PairPanelKeys, TheTabKeyGoesThroughThePartsAsTheyAreSeen) {
+  above->setObjectName("above");
+  EXPECT_EQ(StopsIn(900), "two field below above ");
+  EXPECT_EQ(StopsIn(250), "field two below above ");
+  EXPECT_EQ(StopsIn(250, Qt::Key_Backtab), "below two field above ");
+  EXPECT_EQ(StopsIn(900), "two field below above ");
+}
+
+TEST_F(PairPanelKeys, APartThatTakesTheFocusItselfIsAStopToo) {
+  above->setObjectName("above");
+  auto* list = new QLineEdit(panel);
+  list->setObjectName("list");
+  auto* other = window.Add<PairPanel>();
+  auto* button = new QPushButton(other);
+  button->setObjectName("button");
+  list->setParent(other);
+  other->SetParts(button, 1, list, 1);
+  other->SetWidthBeside(300);
+  EXPECT_EQ(StopsIn(250), "field two below list ");
+  EXPECT_EQ(StopsIn(900), "two field below button ");
+}
+
+TEST_F(PairPanelKeys, AButtonThatBecomesTheStopOfItsGroupIsInItsPart) {
+  above->setObjectName("above");
+  EXPECT_EQ(StopsIn(250), "field two below above ");
+  buttons[0]->setFocusPolicy(Qt::TabFocus);
+  buttons[1]->setFocusPolicy(Qt::NoFocus);
+  EXPECT_EQ(StopsIn(250), "field one below above ");
+  EXPECT_EQ(StopsIn(900), "one field below above ");
+}
+
 TEST_F(PairPanelTest, CountsTheCharactersThatThePartsNeedBesideEachOther) {
   panel.SetCharactersBeside(100, 50);
   const int needed = 16 + 150 * panel.fontMetrics().averageCharWidth();
