@@ -1,9 +1,10 @@
 #include "drawings/MoveCross.h"
 
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QtMath>
+#include <algorithm>
 
 #include "widgets/ClickFocus.h"
 #include "widgets/Icons.h"
@@ -15,7 +16,8 @@ namespace {
 constexpr int kButtonSide = 36;
 constexpr int kChevronSide = 20;
 constexpr int kMiddle = 2;  // row and column
-constexpr int kLastCell = 4;
+constexpr int kCells = 5;   // in a row and in a column
+constexpr double kMostGrowth = 2.5;
 
 // The drawing points to the right.
 int TurnOf(MoveDirection direction) {
@@ -52,7 +54,8 @@ void MoveButton::paintEvent(QPaintEvent*) {
   painter.drawControl(QStyle::CE_PushButton, option);
   painter.translate(QRectF(rect()).center());
   painter.rotate(TurnOf(direction_));
-  const QRectF area(-kChevronSide / 2.0, -kChevronSide / 2.0, kChevronSide, kChevronSide);
+  const double chevron = kChevronSide * (height() / static_cast<double>(kButtonSide));
+  const QRectF area(-chevron / 2, -chevron / 2, chevron, chevron);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   DrawIcon(painter, size_ == MoveSize::Large ? IconName::StepLarge : IconName::StepSmall, area,
            {palette().color(QPalette::ButtonText), {}});
@@ -80,14 +83,11 @@ const std::array<MoveCross::Place, 9> MoveCross::kPlaces{{
 }};
 
 MoveCross::MoveCross(Axes axes, const QString& middle, QWidget* parent)
-    : QWidget(parent), cells_(new QGridLayout(this)) {
-  cells_->setContentsMargins({});
-  cells_->setSpacing(grid::kUnit);
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    : QWidget(parent), axes_(axes) {
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
   for (const Place& place : kPlaces) {
     if (place.accessibleName == nullptr) {
       middle_ = new QPushButton(middle, this);
-      middle_->setMinimumHeight(GridHeight(kButtonSide, *middle_));
       Add(middle_, place);
     } else if (axes == Axes::Both || place.column == kMiddle) {
       auto* button = new MoveButton(place.direction, place.size, this);
@@ -103,7 +103,70 @@ void MoveCross::Add(QPushButton* button, const Place& place) {
   button->setAutoDefault(false);
   button->installEventFilter(this);
   TakeFocusByClicks(*button);
-  cells_->addWidget(button, place.row, place.column, Qt::AlignCenter);
+  cells_.push_back({button, place.row, place.column});
+}
+
+int MoveCross::LeastSide() const {
+  return GridHeight(kButtonSide, *this);
+}
+
+int MoveCross::MiddleWidth(int side) const {
+  return qMax(side, middle_->sizeHint().width());
+}
+
+// With buttons of that side.
+QSize MoveCross::SizeFor(int side) const {
+  const int gaps = (kCells - 1) * grid::kUnit;
+  const int sides = axes_ == Axes::Both ? (kCells - 1) * side + gaps : 0;
+  return {sides + MiddleWidth(side), kCells * side + gaps};
+}
+
+QSize MoveCross::sizeHint() const {
+  return SizeFor(qFloor(LeastSide() * kMostGrowth));
+}
+
+QSize MoveCross::minimumSizeHint() const {
+  return SizeFor(LeastSide());
+}
+
+int MoveCross::SideIn(const QSize& room) const {
+  int side = qFloor(LeastSide() * kMostGrowth);
+  const auto fits = [&] {
+    const QSize size = SizeFor(side);
+    return size.width() <= room.width() && size.height() <= room.height();
+  };
+  while (side > LeastSide() && !fits()) --side;
+  return side;
+}
+
+void MoveCross::PlaceButtons() {
+  const int side = SideIn(size());
+  const int middle = MiddleWidth(side);
+  const QSize cross = SizeFor(side);
+  const int pitch = side + grid::kUnit;
+  const int left = (width() - cross.width()) / 2;
+  const int top = (height() - cross.height()) / 2;
+  const int middleLeft = axes_ == Axes::Both ? left + kMiddle * pitch : left;
+  for (const Cell& cell : cells_) {
+    int x = middleLeft + (cell.button == middle_ ? 0 : (middle - side) / 2);
+    if (cell.column < kMiddle) x = left + cell.column * pitch;
+    if (cell.column > kMiddle)
+      x = middleLeft + middle + grid::kUnit + (cell.column - kMiddle - 1) * pitch;
+    const int width = cell.button == middle_ ? middle : side;
+    cell.button->setGeometry(x, top + cell.row * pitch, width, side);
+  }
+}
+
+void MoveCross::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  PlaceButtons();
+}
+
+void MoveCross::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  updateGeometry();
+  PlaceButtons();
 }
 
 MoveButton* MoveCross::button(MoveDirection direction, MoveSize size) const {
@@ -123,16 +186,12 @@ bool MoveCross::eventFilter(QObject* watched, QEvent* event) {
 QWidget* MoveCross::Neighbour(const QWidget* button, int key) const {
   const int down = (key == Qt::Key_Down ? 1 : 0) - (key == Qt::Key_Up ? 1 : 0);
   const int right = (key == Qt::Key_Right ? 1 : 0) - (key == Qt::Key_Left ? 1 : 0);
-  int row = 0;
-  int column = 0;
-  int rows = 0;
-  int columns = 0;
-  cells_->getItemPosition(cells_->indexOf(button), &row, &column, &rows, &columns);
-  row += down;
-  column += right;
-  if (row < 0 || column < 0 || row > kLastCell || column > kLastCell) return nullptr;
-  const QLayoutItem* item = cells_->itemAtPosition(row, column);
-  return item == nullptr ? nullptr : item->widget();
+  const auto from = std::find_if(cells_.begin(), cells_.end(),
+                                 [button](const Cell& cell) { return cell.button == button; });
+  const auto to = std::find_if(cells_.begin(), cells_.end(), [&](const Cell& cell) {
+    return cell.row == from->row + down && cell.column == from->column + right;
+  });
+  return to == cells_.end() ? nullptr : to->button;
 }
 
 }  // namespace mortane

@@ -4,8 +4,7 @@
 #include <QPushButton>
 #include <QWidget>
 #include <array>
-
-class QGridLayout;
+#include <vector>
 
 namespace mortane {
 
@@ -30,7 +29,8 @@ class MoveButton : public QPushButton {
   MoveSize size_;
 };
 
-// Small steps stand inside, large ones outside. Arrows move the focus along the cross and no drive.
+// It grows with the room that it gets, up to 2.5 times. Small steps stand inside, large ones
+// outside. Arrows move the focus along the cross and no drive.
 class MoveCross : public QWidget {
   Q_OBJECT
 
@@ -43,18 +43,34 @@ class MoveCross : public QWidget {
   // Null for a direction that the cross does not have.
   [[nodiscard]] MoveButton* button(MoveDirection direction, MoveSize size) const;
   [[nodiscard]] QPushButton* middle() const { return middle_; }
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   struct Place;
   static const std::array<Place, 9> kPlaces;
 
+  struct Cell {
+    QPushButton* button;
+    int row;
+    int column;
+  };
+
   void Add(QPushButton* button, const Place& place);
+  [[nodiscard]] int LeastSide() const;
+  [[nodiscard]] int MiddleWidth(int side) const;
+  [[nodiscard]] QSize SizeFor(int side) const;
+  [[nodiscard]] int SideIn(const QSize& room) const;
+  void PlaceButtons();
   [[nodiscard]] QWidget* Neighbour(const QWidget* button, int key) const;
 
-  QGridLayout* cells_;
+  Axes axes_;
+  std::vector<Cell> cells_;
   std::array<MoveButton*, 8> buttons_{};
   QPushButton* middle_ = nullptr;
 };

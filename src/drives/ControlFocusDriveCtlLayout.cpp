@@ -71,7 +71,6 @@ void ControlFocusDriveCtl::Build() {
   for (const Limit& limit : kLimits) frames->addWidget(BuildLimit(limit));
   AlignRows();
   BuildTeaching();
-  layout()->setAlignment(FrameBase, Qt::AlignTop);  // as tall as what it holds
 }
 
 InnerFrame* ControlFocusDriveCtl::BuildEscape() {

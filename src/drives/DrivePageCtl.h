@@ -70,6 +70,7 @@ class DrivePageCtl : public CardPage {
   // positions at the left, the move buttons at the right.
   TeachingParts AddTeaching(const TeachingTexts& texts, std::vector<PositionColumn> columns,
                             MoveCross::Axes axes);
+  void KeepCardToContents();
   void ConnectStep(MoveButton& button, std::int32_t steps, std::size_t axis = 0);
 
   // Ticks the real moves and prepares the drive; a new tick has prepared it by itself before.

@@ -19,6 +19,11 @@
 namespace mortane {
 
 using namespace Qt::StringLiterals;
+namespace {
+
+constexpr int kWidestCharacters = 190;  // of the card
+
+}  // namespace
 
 DrivePageCtl::TeachingParts DrivePageCtl::AddTeaching(const TeachingTexts& texts,
                                                       std::vector<PositionColumn> columns,
@@ -50,12 +55,23 @@ DrivePageCtl::TeachingParts DrivePageCtl::AddTeaching(const TeachingTexts& texts
   frame->body()->addLayout(compensation);
   frame->body()->addWidget(parts);
   FrameBase->body()->addWidget(frame);
-  FrameBase->body()->addStretch(1);
+  KeepCardToContents();
 
   connect(CheckRealMove, &QCheckBox::toggled, this, &DrivePageCtl::OnRealMove);
   connect(optNosepiece, &OptionGroup::selectionChanged, this, &DrivePageCtl::OnRow);
   connect(ButtonStart, &QAbstractButton::clicked, this, &DrivePageCtl::Start);
   return {frame, control, cross};
+}
+
+// On a large page the card is as tall as what it holds, and not much wider.
+void DrivePageCtl::KeepCardToContents() {
+  constexpr int kMuch = 100000;
+  FrameBase->setMaximumWidth(FrameBase->fontMetrics().averageCharWidth() * kWidestCharacters);
+  layout()->removeWidget(FrameBase);
+  auto* row = new QHBoxLayout;
+  row->addWidget(FrameBase, kMuch, Qt::AlignTop);
+  row->addStretch(1);
+  static_cast<QVBoxLayout*>(layout())->addLayout(row);
 }
 
 void DrivePageCtl::ConnectStep(MoveButton& button, std::int32_t steps, std::size_t axis) {

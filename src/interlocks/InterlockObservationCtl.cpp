@@ -23,6 +23,7 @@ InterlockObservationCtl::InterlockObservationCtl(clsInterLockObservation& interl
     : CardPage(u"Observation Change to"_s, parent), interlocks_(interlocks), tiles_{} {
   auto* tiles = new ReflowGrid(ReflowGrid::Order::Downwards, kColumns, grid::kBetweenColumns,
                                grid::kBetweenGroups);
+  tiles->SetGrowth(ToggleTile::kMostGrowth);
   for (const ObservationAccessory* row :
        InPageOrder(kObservationAccessories, &ObservationAccessory::pageIndex)) {
     tiles->addWidget(BuildTile(*row));

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <QtMath>
 
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
@@ -11,7 +12,7 @@
 namespace mortane {
 namespace {
 
-constexpr int kIconSize = 32;
+constexpr int kIconSide = 32;
 
 // The measures of a tile on one ground.
 struct Measures {
@@ -34,6 +35,7 @@ ToggleTile::ToggleTile(IconName icon, const QString& caption, Ground ground, QWi
     : QWidget(parent),
       icon_(icon),
       ground_(ground),
+      iconSide_(kIconSide),
       label_(new QLabel(caption, this)),
       toggle_(new CheckToggle(this)) {
   toggle_->setAccessibleName(caption);
@@ -41,10 +43,8 @@ ToggleTile::ToggleTile(IconName icon, const QString& caption, Ground ground, QWi
   // The track stands under the first letter; the line of the focus goes round it.
   label_->setContentsMargins(CheckToggle::kPadding, 0, 0, 0);
 
-  const Measures& measures = MeasuresOn(ground);
   auto* texts = new QVBoxLayout(this);
-  texts->setContentsMargins(measures.side + kIconSize + measures.gap - CheckToggle::kPadding,
-                            measures.edge, measures.side, measures.edge);
+  SetIconSide(kIconSide);
   texts->setSpacing(grid::kUnit);
   texts->addStretch();
   texts->addWidget(label_);
@@ -52,8 +52,29 @@ ToggleTile::ToggleTile(IconName icon, const QString& caption, Ground ground, QWi
   texts->addStretch();
 }
 
+// What it asks for does not grow with the icon.
 QSize ToggleTile::sizeHint() const {
-  return QWidget::sizeHint().expandedTo({0, MeasuresOn(ground_).height});
+  const QSize asked = QWidget::sizeHint() - QSize(iconSide_ - kIconSide, 0);
+  return asked.expandedTo({0, MeasuresOn(ground_).height});
+}
+
+QSize ToggleTile::minimumSizeHint() const {
+  return QWidget::minimumSizeHint() - QSize(iconSide_ - kIconSide, 0);
+}
+
+void ToggleTile::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const int byHeight = kIconSide * height() / MeasuresOn(ground_).height;
+  const int byWidth = kIconSide + width() - minimumSizeHint().width();
+  const int most = qFloor(kIconSide * kMostGrowth);
+  SetIconSide(qMax(kIconSide, qMin(most, qMin(byHeight, byWidth))));
+}
+
+void ToggleTile::SetIconSide(int side) {
+  iconSide_ = side;
+  const Measures& measures = MeasuresOn(ground_);
+  layout()->setContentsMargins(measures.side + side + measures.gap - CheckToggle::kPadding,
+                               measures.edge, measures.side, measures.edge);
 }
 
 void ToggleTile::SetShown(bool shown) {
@@ -68,7 +89,7 @@ void ToggleTile::paintEvent(QPaintEvent*) {
   const bool fitted = isEnabledTo(window());
   DrawIcon(
       painter, icon_,
-      QRectF(MeasuresOn(ground_).side, (height() - kIconSize) / 2.0, kIconSize, kIconSize),
+      QRectF(MeasuresOn(ground_).side, (height() - iconSide_) / 2.0, iconSide_, iconSide_),
       {palette().color(QPalette::WindowText), fitted ? ToneColor(Tone::IconAccent) : QColor()});
 }
 

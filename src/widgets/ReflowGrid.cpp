@@ -84,7 +84,7 @@ QSize ReflowGrid::CellSizeIn(const QSize& room) const {
   if (order_ == Order::ColumnByColumn) return preferred;
   const int width = (room.width() + columnGap_) / columns_ - columnGap_;
   const int share = (room.height() + rowGap_) / std::max(RowsOf(columns_), 1) - rowGap_;
-  return {width, std::min(share, preferred.height())};
+  return {width, std::min(share, static_cast<int>(preferred.height() * growth_))};
 }
 
 }  // namespace mortane

@@ -22,6 +22,8 @@ class ReflowGrid : public ItemLayout {
 
   // Gaps in pixels.
   ReflowGrid(Order order, int mostColumns, int columnGap, int rowGap);
+  // Rows grow with the height, up to that many times what the cells ask for; 1 when it is not set.
+  void SetGrowth(double most) { growth_ = most; }
 
   [[nodiscard]] Qt::Orientations expandingDirections() const override { return {}; }
   [[nodiscard]] QSize sizeHint() const override;
@@ -39,6 +41,7 @@ class ReflowGrid : public ItemLayout {
   int columnGap_;
   int rowGap_;
   int columns_;  // of the present size
+  double growth_ = 1;
 };
 
 }  // namespace mortane

@@ -62,6 +62,29 @@ TEST_F(MoveCrossTest, ButtonsAreLargeEnoughAndSayWhatTheyDo) {
   EXPECT_EQ(cross->middle()->text(), "Start");
 }
 
+TEST_F(MoveCrossTest, GrowsWithItsRoomUpToTwoAndAHalfTimes) {
+  const QSize least = cross->minimumSizeHint();
+  const MoveButton* button = cross->button(MoveDirection::Up, MoveSize::Large);
+  cross->setFixedSize(least);
+  QApplication::processEvents();
+  const int side = button->width();
+  struct Row {
+    QSize room;
+    int side;
+  };
+  for (const Row& row :
+       {Row{least + QSize(400, 400), side * 5 / 2}, Row{least + QSize(400, 50), side + 10},
+        Row{least + QSize(0, 400), side}, Row{least, side}}) {
+    cross->setFixedSize(row.room);
+    QApplication::processEvents();
+    EXPECT_EQ(button->width(), row.side) << row.room.width();
+    EXPECT_EQ(button->height(), row.side);
+    EXPECT_EQ(cross->middle()->height(), row.side);
+    EXPECT_TRUE(cross->rect().contains(cross->childrenRect()));
+    EXPECT_LE(qAbs(cross->childrenRect().center().x() - cross->rect().center().x()), 1);
+  }
+}
+
 TEST_F(MoveCrossTest, AVerticalOneHasNoButtonsAtItsSides) {
   const MoveCross vertical(MoveCross::Axes::Vertical, u"Go"_s);
   EXPECT_EQ(vertical.button(MoveDirection::Left, MoveSize::Small), nullptr);

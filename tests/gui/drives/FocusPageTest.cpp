@@ -128,15 +128,19 @@ TEST(FocusPage, RowsOfNeighbouringFramesStandOnOneLine) {
   }
 }
 
-TEST(FocusPage, ItsCardIsAsTallAsWhatItHolds) {
+TEST(FocusPage, ItsCardIsAsTallAsWhatItHoldsAndOnALargePageNotMuchWider) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
-  rig.window().resize(1200, 900);
+  rig.window().resize(1048, 900);
   QApplication::processEvents();
   EXPECT_EQ(page.FrameBase->y(), 0);
   EXPECT_EQ(page.FrameBase->width(), page.width());
   EXPECT_EQ(page.FrameBase->height(), page.FrameBase->sizeHint().height());
   EXPECT_LT(page.FrameBase->height(), page.height() / 2);
+  rig.window().resize(2400, 900);
+  QApplication::processEvents();
+  EXPECT_EQ(page.FrameBase->x(), 0);
+  EXPECT_LT(page.FrameBase->width(), page.width() * 2 / 3);
 }
 
 TEST(FocusPage, TheTwoPartsOfTheTeachingSectionAreEquallyWide) {

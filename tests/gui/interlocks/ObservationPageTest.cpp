@@ -10,6 +10,7 @@
 #include "gui/support/PageActs.h"
 #include "widgets/Card.h"
 #include "widgets/CheckToggle.h"
+#include "widgets/Theme.h"
 
 namespace mortane::test {
 namespace {
@@ -63,7 +64,19 @@ TEST_F(ObservationPage, SwitchesStandInThreeColumnsThatAreFilledDownwards) {
   EXPECT_EQ(tile(8).right() + tile(0).left(), page.FrameBase->width() - 1) << "across the card";
   EXPECT_EQ(tile(4).left() - tile(0).right() - 1, 16);
   EXPECT_EQ(tile(1).top() - tile(0).bottom() - 1, 12);
-  EXPECT_EQ(tile(0).height(), 96) << "where there is room";
+  EXPECT_NEAR(page.FrameBase->height() - tile(3).bottom(), grid::kCardPadding, 4);
+}
+
+TEST_F(ObservationPage, TilesGrowWithTheCardUpToTwoAndAHalfTimes) {
+  const auto height = [&](int ofWindow) {
+    rig.window().resize(2400, ofWindow);
+    QApplication::processEvents();
+    return box(0).parentWidget()->height();
+  };
+  EXPECT_EQ(height(1400), 240);
+  const int inBetween = height(800);
+  EXPECT_GT(inBetween, 96);
+  EXPECT_LT(inBetween, 240);
 }
 
 TEST_F(ObservationPage, AClickOrASpaceChangesOneStateAndTheCaption) {

@@ -48,6 +48,21 @@ TEST_P(ToggleTileTest, TheLabelIsTheNameOfTheSwitchAndLeadsToIt) {
   EXPECT_TRUE(told->state().checked);
 }
 
+TEST_P(ToggleTileTest, TheIconGrowsWithTheTileAndWhatTheTileAsksForDoesNot) {
+  const QSize asked = tile->sizeHint();
+  const QSize least = tile->minimumSizeHint();
+  const int right = tile->label()->x();
+  tile->setFixedSize(least.width() + 100, 3 * asked.height());
+  QApplication::processEvents();
+  EXPECT_EQ(tile->label()->x(), right + 48) << "2.5 times 32";
+  EXPECT_EQ(tile->sizeHint(), asked);
+  EXPECT_EQ(tile->minimumSizeHint(), least);
+  tile->setFixedSize(least.width() + 20, 3 * asked.height());
+  QApplication::processEvents();
+  EXPECT_EQ(tile->label()->x(), right + 20) << "the texts keep their room";
+  EXPECT_GE(tile->label()->width(), tile->label()->minimumSizeHint().width());
+}
+
 TEST_P(ToggleTileTest, TheSwitchStandsUnderTheFirstLetterOfItsLabel) {
   const QRect label = tile->label()->geometry();
   const QRect toggle = tile->toggle()->geometry();

@@ -105,6 +105,16 @@ TEST_F(GridRowByRow, RowsShareAHeightThatIsShort) {
   EXPECT_EQ(PlaceOf(4).y(), 30 + kRowGap);
 }
 
+TEST_F(GridRowByRow, RowsGrowWithTheHeightAsFarAsTheyMay) {
+  layout->SetGrowth(2.5);
+  Resize(WidthOf(3), 2 * 60 + kRowGap);
+  EXPECT_EQ(tiles[0]->height(), 60);
+  Resize(WidthOf(3), 1000);
+  EXPECT_EQ(tiles[0]->height(), 100);
+  EXPECT_EQ(PlaceOf(3).y(), 100 + kRowGap);
+  EXPECT_EQ(layout->sizeHint().height(), 2 * kTileHeight + kRowGap);
+}
+
 TEST_F(GridRowByRow, AHiddenTileLeavesNoGap) {
   tiles[1]->hide();
   Resize(WidthOf(3), 400);
