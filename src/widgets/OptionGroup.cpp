@@ -88,7 +88,8 @@ bool OptionGroup::ChooseEnd(int key) {
   return true;
 }
 
-// Options in several rows and columns are left to the toolkit, which goes by their places.
+// Upwards and downwards, options in several rows are left to the toolkit, which goes by their
+// places.
 bool OptionGroup::StandInALine() const {
   constexpr int kAside = 8;  // pixels
   bool column = true;
@@ -105,11 +106,28 @@ bool OptionGroup::StandInALine() const {
   return column || row;
 }
 
+// Each stands to the right of the one before it or, in a line below, where that was the last.
+bool OptionGroup::ReadInLines() const {
+  const QAbstractButton* before = nullptr;
+  for (const QAbstractButton* button : buttons_) {
+    if (!button->isVisible()) continue;
+    if (before != nullptr) {
+      const QPoint step =
+          button->mapTo(button->window(), QPoint()) - before->mapTo(before->window(), QPoint());
+      if (step.x() <= 0 && step.y() < before->height()) return false;
+    }
+    before = button;
+  }
+  return true;
+}
+
 // At the ends of the line an arrow changes nothing.
 bool OptionGroup::ChooseBeside(int key) {
   const bool on = key == Qt::Key_Right || key == Qt::Key_Down;
   if (!on && key != Qt::Key_Left && key != Qt::Key_Up) return false;
-  if (arrows_ == Arrows::ByButton || !StandInALine()) return false;
+  if (arrows_ == Arrows::ByButton) return false;
+  const bool sideways = key == Qt::Key_Left || key == Qt::Key_Right;
+  if (!StandInALine() && !(sideways && ReadInLines())) return false;
   const auto focused = std::find_if(buttons_.begin(), buttons_.end(),
                                     [](const QAbstractButton* b) { return b->hasFocus(); });
   qsizetype index = focused - buttons_.begin();

@@ -17,8 +17,8 @@ class OptionGroup : public QObject {
   Q_OBJECT
 
  public:
-  // Where arrows lead: along a row or column of options, in whichever of the four directions; or
-  // where each button says itself.
+  // Where arrows lead: along a row or column of options, in whichever of the four directions, and
+  // sideways from one of several rows into the next; or where each button says itself.
   enum class Arrows { AlongTheLine, ByButton };
 
   explicit OptionGroup(QObject* parent, Arrows arrows = Arrows::AlongTheLine);
@@ -44,6 +44,7 @@ class OptionGroup : public QObject {
   bool ChooseEnd(int key);
   bool ChooseBeside(int key);
   [[nodiscard]] bool StandInALine() const;
+  [[nodiscard]] bool ReadInLines() const;
   void UpdateTabStop();
 
   Arrows arrows_;

@@ -129,6 +129,27 @@ TEST_F(SectionBarTest, AnOptionIsNeverNarrowerThanItsTextAndStandsInTheNextRowIn
   }
 }
 
+TEST_F(SectionBarTest, ArrowsGoFromTheEndOfARowToTheNextOne) {
+  const int width =
+      bar->option(0)->minimumSizeHint().width() + bar->option(1)->minimumSizeHint().width() + 4;
+  bar->setFixedSize(width, bar->heightForWidth(width));
+  QApplication::processEvents();
+  ASSERT_EQ(bar->option(1)->y(), bar->option(0)->y());
+  ASSERT_GT(bar->option(2)->y(), bar->option(0)->y());
+  bar->select(0);
+  bar->option(0)->setFocus();
+  const auto press = [this](Qt::Key key) {
+    QTest::keyClick(QApplication::focusWidget(), key);
+    return bar->selected();
+  };
+  EXPECT_EQ(press(Qt::Key_Right), 1);
+  EXPECT_EQ(press(Qt::Key_Right), 2);
+  EXPECT_EQ(press(Qt::Key_Right), 2) << "the last one";
+  EXPECT_EQ(press(Qt::Key_Left), 1);
+  EXPECT_EQ(press(Qt::Key_Left), 0);
+  EXPECT_EQ(press(Qt::Key_Down), 2) << "the one below";
+}
+
 TEST_F(SectionBarTest, OptionsBearTheNameOfTheBarAndTheirText) {
   EXPECT_EQ(bar->option(2)->objectName(), "optSettings_2");
   EXPECT_EQ(bar->option(2)->accessibleName(), "Limit Control");
