@@ -100,8 +100,6 @@ class MortaneMainForm : public ProgramForm {
   void DoShowPending();
   void GoTo(const ItemChange& change);
   void SaveRecord();
-  void DoOpenKept();
-  void DoLetKeptGo();
   void TakeOpened(const FileResult& file);
   void OpenDropped(const std::string& path);
   void ShowStored();
@@ -109,7 +107,6 @@ class MortaneMainForm : public ProgramForm {
 
   void NoteConnection();
   void NoteTransfer(SessionNote::Act act, Outcome outcome, const QString& remark = {});
-  void NoteKept();
   void NoteFile(SessionNote::Act act, const FileResult& file);
 
   PageTable table_;

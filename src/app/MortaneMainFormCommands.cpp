@@ -72,30 +72,6 @@ void MortaneMainForm::OpenDropped(const std::string& path) {
   });
 }
 
-// What a session that died has left unsent.
-void MortaneMainForm::DoOpenKept() {
-  const auto left = Unsent().FromBefore();
-  if (!left) return;
-  MakeLoadedPages(*this);
-  const FileResult file = OpenSettingsFile(prompts(), left->path, this);
-  if (file.outcome && *file.outcome != Outcome::NotDone) {
-    Unsent().Keep();
-    Unsent().Forget(*left);
-  }
-  NoteKept();
-  TakeOpened(file);
-}
-
-void MortaneMainForm::DoLetKeptGo() {
-  if (const auto left = Unsent().FromBefore()) Unsent().Forget(*left);
-  NoteKept();
-}
-
-void MortaneMainForm::NoteKept() {
-  const auto left = Unsent().FromBefore();
-  note_->ShowKept(left ? QLocale::c().toString(left->time, u"d MMM HH:mm"_s) : QString());
-}
-
 void MortaneMainForm::DoSave() {
   SaveCurrentPage();
   NoteFile(SessionNote::Act::Saved, SaveSettings(prompts(), CommonDialog1));

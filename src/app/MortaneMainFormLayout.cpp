@@ -83,10 +83,7 @@ void MortaneMainForm::BuildToolbar() {
     OnToolbarButton(static_cast<int>(Toolbar1->actions().indexOf(button)) + 1);
   });
   note_ = new SessionNote(*Toolbar1);
-  connect(note_->OpenKept, &QAction::triggered, this,
-          [this] { Run(&MortaneMainForm::DoOpenKept); });
-  connect(note_->LetKeptGo, &QAction::triggered, this,
-          [this] { Run(&MortaneMainForm::DoLetKeptGo); });
+  OfferKept(*note_->ButtonKept, [this](const FileResult& file) { TakeOpened(file); });
   connect(note_->ButtonManual, &QToolButton::clicked, this, &MortaneMainForm::ShowManual);
   connect(note_->ButtonPending, &QToolButton::clicked, this,
           [this] { Run(&MortaneMainForm::DoShowPending); });

@@ -1,5 +1,6 @@
 #include "app/ProgramForm.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -14,6 +15,7 @@
 #include "app/CommandBoundary.h"
 #include "app/ConnectMicroscope.h"
 #include "app/InputFlush.h"
+#include "app/KeptButton.h"
 #include "app/Manual.h"
 #include "app/SelScopeDlg.h"
 #include "app/SettingsFiles.h"
@@ -22,6 +24,7 @@
 #include "hub/clsK70.h"
 #include "platform/AtomicFile.h"
 #include "record/Backups.h"
+#include "widgets/LatePage.h"
 #include "widgets/ProgressLine.h"
 #include "widgets/Theme.h"
 
@@ -180,6 +183,37 @@ void ProgramForm::LookForPending() {
 void ProgramForm::KeepUnsent() {
   if (InputFlush::IsRunning()) return unsentTimer_.start();
   unsent_.Keep();
+}
+
+void ProgramForm::OfferKept(KeptButton& button, std::function<void(const FileResult&)> opened) {
+  kept_ = &button;
+  keptOpened_ = std::move(opened);
+  connect(button.OpenKept, &QAction::triggered, this,
+          [this] { RunCommand([this] { OpenKept(); }); });
+  connect(button.LetKeptGo, &QAction::triggered, this,
+          [this] { RunCommand([this] { LetKeptGo(); }); });
+}
+
+void ProgramForm::NoteKept() {
+  kept_->ShowLeft(unsent_.FromBefore());
+}
+
+void ProgramForm::OpenKept() {
+  const auto left = unsent_.FromBefore();
+  if (!left) return;
+  MakeLoadedPages(*this);
+  const FileResult file = OpenSettingsFile(prompts(), left->path, this);
+  if (file.outcome && *file.outcome != Outcome::NotDone) {
+    unsent_.Keep();
+    unsent_.Forget(*left);
+  }
+  NoteKept();
+  keptOpened_(file);
+}
+
+void ProgramForm::LetKeptGo() {
+  if (const auto left = unsent_.FromBefore()) unsent_.Forget(*left);
+  NoteKept();
 }
 
 void ProgramForm::TakeReceived() {

@@ -21,7 +21,9 @@ class QStatusBar;
 
 namespace mortane {
 
+class KeptButton;
 class ProgressLine;
+struct FileResult;
 
 // Made once by the program, which calls Load and shows it. The first activation connects a
 // microscope; when there is none to be had, the window closes itself.
@@ -73,7 +75,11 @@ class ProgramForm : public QMainWindow {
   virtual void ShowPending(const std::vector<ItemChange>& changes) = 0;
   const PendingChanges& Pending() const { return pending_; }
   PendingMarks& Marks() { return marks_; }
-  UnsentEdits& Unsent() { return unsent_; }
+  // The window's button for what a session that died has left unsent; `opened` is told when the
+  // person has opened it, as any settings file.
+  void OfferKept(KeptButton& button, std::function<void(const FileResult&)> opened);
+  // Once a device is connected.
+  void NoteKept();
   // The model was received, was sent, or has no microscope any more.
   void TakeReceived();
   void TakeSent(Outcome sent);
@@ -97,6 +103,8 @@ class ProgramForm : public QMainWindow {
   void AskWhenFree();
   void LookForPending();
   void KeepUnsent();
+  void OpenKept();
+  void LetKeptGo();
 
   FormServices services_;
   WindowPlace place_;
@@ -106,6 +114,8 @@ class ProgramForm : public QMainWindow {
   PendingMarks marks_{*this};
   QTimer pendingTimer_;  // looks once, however much input came at one go
   UnsentEdits unsent_;
+  KeptButton* kept_ = nullptr;
+  std::function<void(const FileResult&)> keptOpened_;
   QTimer unsentTimer_{this};
   bool startBegun_ = false;
   bool startEnded_ = false;

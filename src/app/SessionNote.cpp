@@ -1,12 +1,12 @@
 #include "app/SessionNote.h"
 
 #include <QEvent>
-#include <QMenu>
 #include <QPainter>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
 
+#include "app/KeptButton.h"
 #include "widgets/Paint.h"
 #include "widgets/Theme.h"
 
@@ -57,7 +57,7 @@ QString ChangesNotSent(int count) {
 
 SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
   ButtonPending = new QToolButton(&bar);
-  ButtonKept = new QToolButton(&bar);
+  ButtonKept = new KeptButton(&bar);
   ButtonManual = new QToolButton(&bar);
   for (QToolButton* button : Buttons()) {
     button->setFont(CaptionFont());
@@ -72,11 +72,6 @@ SessionNote::SessionNote(QToolBar& bar) : ValueLabel(&bar), bar_(bar) {
   // F1 does the same, and the Tab key begins with the page buttons.
   ButtonManual->setFocusPolicy(Qt::NoFocus);
   ButtonManual->show();
-  auto* menu = new QMenu(ButtonKept);
-  OpenKept = menu->addAction(u"Open"_s);
-  LetKeptGo = menu->addAction(u"Let Go"_s);
-  ButtonKept->setMenu(menu);
-  ButtonKept->setPopupMode(QToolButton::InstantPopup);
   setFont(CaptionFont());
   setForegroundRole(QPalette::PlaceholderText);
   bar_.installEventFilter(this);
@@ -109,12 +104,6 @@ void SessionNote::ShowPending(int changes) {
   ButtonPending->setText(text);
   ButtonPending->setIcon(DotIcon(*this));
   ButtonPending->setVisible(changes > 0);
-  Place();
-}
-
-void SessionNote::ShowKept(const QString& time) {
-  ButtonKept->setText(u"Unsent changes of %1 were kept"_s.arg(time));
-  ButtonKept->setVisible(!time.isEmpty());
   Place();
 }
 

@@ -8,11 +8,12 @@
 #include "widgets/Control.h"
 #include "widgets/ValueLabel.h"
 
-class QAction;
 class QToolBar;
 class QToolButton;
 
 namespace mortane {
+
+class KeptButton;
 
 // A child of the tool bar and none of its buttons. It takes the room that these leave; a text that
 // needs more is elided.
@@ -33,16 +34,10 @@ class SessionNote : public ValueLabel {
   // "3 changes not sent"; hidden while there are none.
   Control<QToolButton> ButtonPending{"ButtonPending"};
 
-  // "Unsent changes of 21 Nov 14:02 were kept", with a menu to open them or let them go; hidden for
-  // an empty time.
-  void ShowKept(const QString& time);
-
   // "?"
   Control<QToolButton> ButtonManual{"ButtonManual"};
 
-  Control<QToolButton> ButtonKept{"ButtonKept"};
-  Control<QAction> OpenKept{"OpenKept"};
-  Control<QAction> LetKeptGo{"LetKeptGo"};
+  Control<KeptButton> ButtonKept{"ButtonKept"};
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -54,8 +54,15 @@ void SadrelMainForm::OnConnected(Outcome) {
     EnableStep(item + kFirstItem, false,
                QLatin1String(kSetupItems[static_cast<std::size_t>(item)].whyNotOffered));
   }
+  NoteKept();
   RunStep(prompts(), [this] { pages_[kItemStep]->LoadData(); });
   GoToStep(kSystemStep);
+}
+
+// The other steps are loaded when they are entered.
+void SadrelMainForm::TakeOpened(const FileResult& file) {
+  if (!file.path.empty()) EnterStep(currentStep);
+  prompts().FlushInput();
 }
 
 // The report of the last step tells them.

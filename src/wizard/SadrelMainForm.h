@@ -20,6 +20,7 @@ class CondenserSettingsCtl;
 class FilterQubeSettingsCtl;
 class HelpLine;
 class InterlockSettingsCtl;
+class KeptButton;
 class ObjectiveSettingsCtl;
 class Page;
 class PageArea;
@@ -90,6 +91,7 @@ class SadrelMainForm : public ProgramForm {
   QWidget* BuildButtons();
   QPushButton* AddButton(const QString& text, Act act, QWidget* bar);
   void Arrange(QWidget* buttons);
+  void TakeOpened(const FileResult& file);
 
   void EnableStep(int step, bool enabled, const QString& whyOff);
   void OnPicture(int index);
@@ -112,6 +114,7 @@ class SadrelMainForm : public ProgramForm {
   StepTable table_;
   std::array<Page*, kStepCount> pages_{};
   HelpLine* help_ = nullptr;
+  Control<KeptButton> kept_{"ButtonKept"};
   Control<ValueLabel> note_{"SessionNote"};  // which microscope is connected
   Control<PageArea> area_{"ScrollControl"};
 };

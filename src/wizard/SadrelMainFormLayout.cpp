@@ -4,6 +4,7 @@
 #include <QRadioButton>
 
 #include "app/CommandBar.h"
+#include "app/KeptButton.h"
 #include "app/PageArea.h"
 #include "widgets/ClickFocus.h"
 #include "widgets/ContainerPage.h"
@@ -41,6 +42,8 @@ SadrelMainForm::SadrelMainForm(const FormServices& services, const StepTable& st
   help_ = new HelpLine(this);
   LabelHelp = help_->LabelHelp;
   BuildPages(services);
+  kept_ = new KeptButton(this);
+  OfferKept(*kept_, [this](const FileResult& file) { TakeOpened(file); });
   Arrange(BuildButtons());
   MarkMainButton();
   // A window that is activated without a focus gives it to the first field, which is then left.
@@ -116,10 +119,15 @@ void SadrelMainForm::Arrange(QWidget* buttons) {
   auto* cells = new QGridLayout(content);
   cells->setContentsMargins({});
   cells->setSpacing(0);
-  cells->addWidget(PictureMenu, 0, 0, 3, 1);
+  auto* kept = new QHBoxLayout;
+  kept->setContentsMargins(grid::kPageMargin, 0, grid::kPageMargin, 0);
+  kept->addWidget(kept_);
+  kept->addStretch();
+  cells->addWidget(PictureMenu, 0, 0, 4, 1);
   cells->addWidget(help_, 0, 1);
   cells->addWidget(area_, 1, 1);
-  cells->addWidget(buttons, 2, 1);
+  cells->addLayout(kept, 2, 1);
+  cells->addWidget(buttons, 3, 1);
   cells->setRowStretch(1, 1);
   cells->setColumnStretch(1, 1);
   SetContent(content);

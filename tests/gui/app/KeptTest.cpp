@@ -11,6 +11,7 @@
 
 #include "AppRig.h"
 #include "app/DifferencesDlg.h"
+#include "app/KeptButton.h"
 #include "app/MainPages.h"
 #include "app/SelFileItemDlg.h"
 #include "app/SelScopeDlg.h"
@@ -81,7 +82,7 @@ class Kept : public testing::Test {
   void OpenKept() {
     const WhenShown<SelFileItemDlg> person(
         [](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
-    note().OpenKept->trigger();
+    note().ButtonKept->OpenKept->trigger();
   }
 
   TempFolder folder;
@@ -165,7 +166,7 @@ TEST_F(Kept, EditsOfAProcessThatDiedStayUntilTheyAreLetGo) {
   EXPECT_EQ(UnsentFiles(), 1) << "not decided yet";
   End();
   Start();
-  note().LetKeptGo->trigger();
+  note().ButtonKept->LetKeptGo->trigger();
   EXPECT_TRUE(note().ButtonKept->isHidden());
   EXPECT_EQ(UnsentFiles(), 0);
 }

@@ -1,0 +1,119 @@
+// What a wizard that died has left unsent is offered by the next one.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QTimer>
+#include <filesystem>
+
+#include "WizardRig.h"
+#include "app/KeptButton.h"
+#include "app/SelFileItemDlg.h"
+#include "gui/support/PageActs.h"
+#include "hub/clsK70.h"
+#include "support/TempFolder.h"
+#include "widgets/TextField.h"
+
+namespace mortane::test {
+namespace {
+
+class WizardKept : public testing::Test {
+ protected:
+  ~WizardKept() override { End(); }
+
+  void Start() {
+    library.emplace(benches::Named("Harbour"));
+    clsK70& k70 = ProvideK70(library->library, library->prompts);
+    form = std::make_unique<SadrelMainForm>(FormServices{.k70 = k70,
+                                                         .library = library->library,
+                                                         .prompts = library->prompts,
+                                                         .joystick = joystick,
+                                                         .arguments = {"sadrel"},
+                                                         .unsentFolder = folder.Path("unsent")},
+                                            WizardSteps());
+    form->Load();
+    form->show();
+    form->activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form->IsStarted(); }));
+  }
+  // As a process that is killed.
+  void End() {
+    form.reset();
+    if (library) ReleaseK70();
+    library.reset();
+  }
+  KeptButton& button() {
+    return static_cast<KeptButton&>(*form->findChild<QToolButton*>("ButtonKept"));
+  }
+  TextField& name() { return *form->findChild<TextField*>("TextSystemName"); }
+  int UnsentFiles() {
+    int count = 0;
+    const std::filesystem::path files = folder.Path("unsent");
+    if (!std::filesystem::exists(files)) return 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(files)) {
+      if (entry.is_regular_file()) ++count;
+    }
+    return count;
+  }
+  // A wizard in which the name was changed dies, and the next one starts.
+  void StartAfterDeath() {
+    Start();
+    EXPECT_TRUE(button().isHidden());
+    form->findChild<QTimer*>("UnsentTimer")->setInterval(0);
+    TypeInto(name(), "Bay 4");
+    QTest::keyClick(&name(), Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return UnsentFiles() == 1; }));
+    End();
+    Start();
+  }
+  // The key chooses in the menu of the button, which Tab reaches from the last control of the step.
+  void ChooseByKeys(const QList<Qt::Key>& keys) {
+    ASSERT_TRUE(button().isVisible());
+    for (int i = 0; i < 20 && !button().hasFocus(); ++i)
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(button().hasFocus());
+    QTimer::singleShot(0, form.get(), [keys] {
+      for (const Qt::Key key : keys) {
+        if (QWidget* menu = QApplication::activePopupWidget()) QTest::keyClick(menu, key);
+      }
+    });
+    QTest::keyClick(&button(), Qt::Key_Space);
+    QApplication::processEvents();
+  }
+
+  TempFolder folder;
+  ScriptedJoystick joystick;
+  std::optional<RigLibrary> library;
+  std::unique_ptr<SadrelMainForm> form;
+};
+
+TEST_F(WizardKept, IsOfferedAndOpenedByKeys) {
+  StartAfterDeath();
+  EXPECT_TRUE(button().text().startsWith("Unsent changes of "));
+  EXPECT_EQ(name().text(), "Harbour");
+  const WhenShown<SelFileItemDlg> person(
+      [](SelFileItemDlg& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+  ChooseByKeys({Qt::Key_Down, Qt::Key_Return});
+  EXPECT_EQ(GetK70().SystemName, "Bay 4");
+  EXPECT_EQ(name().text(), "Bay 4") << "the step that is shown";
+  EXPECT_EQ(form->currentStep, kSystemStep);
+  EXPECT_TRUE(button().isHidden());
+  EXPECT_EQ(UnsentFiles(), 1) << "kept anew";
+}
+
+TEST_F(WizardKept, IsLetGoByKeys) {
+  StartAfterDeath();
+  ChooseByKeys({Qt::Key_Up, Qt::Key_Return});
+  EXPECT_TRUE(button().isHidden());
+  EXPECT_EQ(UnsentFiles(), 0);
+  EXPECT_EQ(name().text(), "Harbour");
+}
+
+TEST_F(WizardKept, TakesNoRoomWhileThereIsNothing) {
+  Start();
+  EXPECT_TRUE(button().isHidden());
+  EXPECT_EQ(form->ButtonNext->parentWidget()->y(),
+            form->FrameControl->parentWidget()->parentWidget()->geometry().bottom() + 1);
+}
+
+}  // namespace
+}  // namespace mortane::test
