@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "widgets/ItemLayout.h"
+#include "widgets/TabOrder.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -27,23 +28,13 @@ QWidgetList StopsOf(QWidget& part) {
   return stops;
 }
 
-// The toolkit leaves a control where it is that takes no focus at the time.
-void PutBehind(QWidget& before, QWidget& moved) {
-  const Qt::FocusPolicy policies[] = {before.focusPolicy(), moved.focusPolicy()};
-  before.setFocusPolicy(Qt::StrongFocus);
-  moved.setFocusPolicy(Qt::StrongFocus);
-  QWidget::setTabOrder(&before, &moved);
-  before.setFocusPolicy(policies[0]);
-  moved.setFocusPolicy(policies[1]);
-}
-
 // The Tab key goes to what is in the second part after all that is in the first.
 void OrderTabKey(QWidget& first, QWidget& second) {
   const QWidgetList before = StopsOf(first);
   if (before.isEmpty()) return;
   QWidget* last = before.constLast();
   for (QWidget* stop : StopsOf(second)) {
-    PutBehind(*last, *stop);
+    MoveBehind(*stop, *last);
     last = stop;
   }
 }
