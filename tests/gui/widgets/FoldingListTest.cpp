@@ -1,0 +1,79 @@
+#include <QHeaderView>
+#include <QScrollBar>
+
+#include "gui/support/TestWindow.h"
+#include "widgets/ListBox.h"
+
+namespace mortane {
+namespace {
+
+// A list of two columns, the second of which may fold.
+class FoldingList : public ::testing::Test {
+ protected:
+  FoldingList() {
+    list->SetColumns({{"Switch"}, {"Function"}});
+    list->SetFoldingColumn(1);
+    list->addCells({"Dial 1", "Condenser Aperture Stop UP/DOWN"});
+    list->addCells({"Dial 2", "Shutter OPEN/CLOSE"});
+    list->resize(800, 300);
+    window.Show();
+    list->setFixedWidth(800);
+    QApplication::processEvents();
+    const QFontMetrics metrics = list->fontMetrics();
+    wide = 2 * list->frameWidth() + metrics.horizontalAdvance("Dial 1") +
+           metrics.horizontalAdvance("Condenser Aperture Stop UP/DOWN") + 40;
+  }
+  void ShowIn(int width) {
+    list->setFixedWidth(width);
+    QApplication::processEvents();
+  }
+  int RowHeight() const { return list->visualItemRect(list->topLevelItem(0)).height(); }
+
+  TestWindow window;
+  ListBox* list = window.Add<ListBox>();
+  int wide = 0;
+};
+
+TEST_F(FoldingList, ShowsATextInTwoLinesWhereTheRoomIsShort) {
+  ShowIn(wide);
+  const int oneLine = RowHeight();
+  const int folded = oneLine + list->fontMetrics().lineSpacing();
+  ShowIn(wide - 60);
+  EXPECT_EQ(RowHeight(), folded);
+  EXPECT_EQ(list->horizontalScrollBar()->maximum(), 0);
+  ShowIn(wide);
+  EXPECT_EQ(RowHeight(), oneLine);
+}
+
+TEST_F(FoldingList, IsScrolledWhereTwoLinesAreTooWideAsWell) {
+  ShowIn(wide / 2);
+  EXPECT_GT(list->horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(FoldingList, AShorterTextIsShownInOneLineAgain) {
+  ShowIn(wide - 60);
+  const int folded = RowHeight();
+  list->topLevelItem(0)->setText(1, "None");
+  list->setFixedWidth(wide - 59);
+  QApplication::processEvents();
+  EXPECT_LT(RowHeight(), folded);
+}
+
+TEST_F(FoldingList, PaintsTheSecondLine) {
+  ShowIn(wide - 60);
+  const QRect row = list->visualItemRect(list->topLevelItem(0));
+  const int left = list->header()->sectionViewportPosition(1) + 4;
+  const QImage picture = list->viewport()->grab().toImage();
+  const auto isInked = [&](int top, int height) {
+    const QRgb ground = picture.pixel(left - 2, row.top() + 1);
+    for (int y = top; y < top + height; ++y)
+      for (int x = left; x < row.right(); ++x)
+        if (picture.pixel(x, y) != ground) return true;
+    return false;
+  };
+  EXPECT_TRUE(isInked(row.top(), row.height() / 2 - 1));
+  EXPECT_TRUE(isInked(row.center().y() + 2, row.height() / 2 - 3));
+}
+
+}  // namespace
+}  // namespace mortane
