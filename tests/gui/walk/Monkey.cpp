@@ -99,6 +99,7 @@ std::string MonkeyPrompts::AskFileToSave(const FileQuestion&) {
 
 Monkey::Monkey(QWidget& window, std::mt19937& random) : window_(window), random_(random) {
   QObject::connect(&dialogs_, &QTimer::timeout, &dialogs_, [this] { WorkDialog(); });
+  dialogs_.setSingleShot(true);
   dialogs_.start(0);
 }
 
@@ -185,7 +186,8 @@ void Monkey::Turn(QWidget& control) {
 
 void Monkey::Press() {
   QWidget* focus = QApplication::focusWidget();
-  if (focus == nullptr) return;
+  const QWidget* modal = QApplication::activeModalWidget();
+  if (focus == nullptr || (modal != nullptr && focus->window() != modal)) return;
   const Qt::Key key = kKeys[Any(kKeys)];
   last_ = "key " + std::to_string(key) + " on " + NameOf(*focus);
   QTest::keyClick(focus, key);
@@ -212,7 +214,8 @@ void Monkey::ClickIfWorkable(QWidget* control) {
 
 void Monkey::Type() {
   QWidget* focus = QApplication::focusWidget();
-  if (focus == nullptr) return;
+  const QWidget* modal = QApplication::activeModalWidget();
+  if (focus == nullptr || (modal != nullptr && focus->window() != modal)) return;
   const QString text = QString::fromUtf8(kTexts[Any(kTexts)]);
   last_ = "text " + text.toStdString() + " on " + NameOf(*focus);
   if (Below(2) == 0) QTest::keyClick(focus, Qt::Key_A, Qt::ControlModifier);
@@ -224,6 +227,7 @@ void Monkey::Type() {
 
 // A few acts in the dialog, then one of its buttons.
 void Monkey::WorkDialog() {
+  dialogs_.start(0);  // also while an act here opens another dialog
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (dialog == nullptr) return;
   if (Below(3) == 0) {
