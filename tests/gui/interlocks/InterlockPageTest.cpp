@@ -10,6 +10,7 @@
 
 #include "gui/interlocks/InterlockPages.h"
 #include "gui/interlocks/ModelText.h"
+#include "gui/support/LatePages.h"
 #include "gui/support/PageActs.h"
 #include "widgets/CheckToggle.h"
 #include "widgets/ComboBox.h"
@@ -85,6 +86,7 @@ TEST_F(InterlockPage, LoadingFillsAllThreeAndLeadsBackToTheFirst) {
 }
 
 TEST_F(InterlockPage, AClickOnASectionLoadsNothing) {
+  MakeAllPages(page);
   ChangeModel(k70());
   for (const int section : {kOther, kCompensation, kObservation}) Click(section);
   EXPECT_TRUE(lamp().isChecked());
@@ -93,6 +95,7 @@ TEST_F(InterlockPage, AClickOnASectionLoadsNothing) {
 }
 
 TEST_F(InterlockPage, ShownByTheProgramItLoadsTheSecondSubPageAlone) {
+  MakeAllPages(page);
   ChangeModel(k70());
   page.hide();
   EXPECT_TRUE(aperture().isChecked());

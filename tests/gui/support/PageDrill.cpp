@@ -6,6 +6,7 @@
 #include <QTest>
 #include <algorithm>
 
+#include "gui/support/LatePages.h"
 #include "gui/support/PageActs.h"
 #include "support/Sample.h"
 #include "widgets/Card.h"
@@ -73,7 +74,7 @@ Page& PageDrill::ShowOn(PageWindow& rig) {
 TEST_P(PageDrill, BearsTheGivenControlsWithTheirCaptions) {
   const auto made = MakeRig();
   PageWindow& rig = *made;
-  ShowOn(rig);
+  MakeAllPages(ShowOn(rig));
   for (const GivenControl& given : GetParam().controls) {
     EXPECT_EQ(CaptionOf(rig.Find(given.name)), given.text) << given.name;
   }
@@ -84,6 +85,7 @@ TEST_P(PageDrill, ShowsTheUnit) {
     const auto made = MakeRig();
     PageWindow& rig = *made;
     Page& page = ShowOn(rig);
+    MakeAllPages(page);
     row.change(rig.microscope());
     const std::string before = row.value(rig.microscope());
     page.LoadData();
