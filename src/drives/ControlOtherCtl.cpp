@@ -5,11 +5,13 @@
 #include <QLabel>
 #include <QPointer>
 #include <QSignalBlocker>
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <exception>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "common/CheckedIndex.h"
 #include "drives/clsControlOther.h"
@@ -28,6 +30,8 @@ constexpr std::int32_t kAutomatic = 1;
 constexpr std::int32_t kEnabled = 1;
 constexpr std::int32_t kCoarse = 1;
 constexpr std::int32_t kFine = 3;
+constexpr std::int32_t kBuzzersDiffer = 2;
+constexpr std::int32_t kBright = 2;
 
 // From this version on the body keeps the mode of its knobs to itself, and can disable the switches
 // of the hand controller.
@@ -106,14 +110,23 @@ bool HasStageKnob(const clsControlOther& other) {
 
 // Whether no control that shows the values would store another, or has no place for one.
 bool AreOrdinary(const clsControlOther& other) {
-  const auto isSwitch = [](std::int32_t value) { return value >= kUnknown && value <= kEnabled; };
-  const std::int32_t sensitivity = other.curSensitivityXY;
-  return sensitivity >= kUnknown && sensitivity <= kFine && isSwitch(other.curBuzzer) &&
-         isSwitch(other.curSwEnable) && isSwitch(other.curTactorSwEnable) &&
-         isSwitch(other.curR_TLPOSwEnable) &&
-         (!other.curFiberStatus ||
-          (isSwitch(other.curFiberSwEnable) && other.curFiberSwEnable != kUnknown &&
-           isSwitch(other.curFiberLED) && other.curFiberLED != kUnknown));
+  struct Range {
+    std::int32_t value;
+    std::int32_t least;
+    std::int32_t most;
+  };
+  std::vector<Range> ranges{{other.curSensitivityXY, kUnknown, kFine},
+                            {other.curBuzzer, kUnknown, kBuzzersDiffer},
+                            {other.curSwEnable, kUnknown, kEnabled},
+                            {other.curTactorSwEnable, kUnknown, kEnabled},
+                            {other.curR_TLPOSwEnable, kUnknown, kEnabled}};
+  if (other.curFiberStatus) {
+    ranges.push_back({other.curFiberSwEnable, 0, kEnabled});
+    ranges.push_back({other.curFiberLED, 0, kBright});
+  }
+  return std::all_of(ranges.begin(), ranges.end(), [](const Range& range) {
+    return range.value >= range.least && range.value <= range.most;
+  });
 }
 
 void ShowFailure(const clsControlOther& other, int step) {
