@@ -119,6 +119,14 @@ TEST_P(Journals, AnswerEachOfTheirCalls) {
   EXPECT_EQ(replayed.Rest(), "");
 }
 
+// Where the model makes its root; a window has asked for the fiber illuminator before.
+std::size_t BeginOfModel(const std::vector<SessionLine>& lines) {
+  const auto root = std::find_if(lines.begin(), lines.end(), [](const SessionLine& line) {
+    return line.call.ends_with(" Create(Microscope)") && !line.failure;
+  });
+  return static_cast<std::size_t>(root - lines.begin());
+}
+
 // Where the model begins to connect: it counts the devices, takes a new root when there are
 // several, and chooses one.
 std::size_t BeginOfConnection(const std::vector<SessionLine>& lines) {
@@ -145,14 +153,17 @@ std::int32_t DeviceOf(const std::vector<SessionLine>& lines, std::size_t begin) 
 TEST_P(Journals, AreConnectedAndReceivedAsThen) {
   const std::size_t connection = BeginOfConnection(lines_);
   ASSERT_LT(connection, lines_.size()) << "no device is connected";
+  const std::size_t root = BeginOfModel(lines_);
+  ASSERT_LT(root, connection) << "no microscope is made";
   ReplayedLibrary replayed(path_);
   NotedPrompts prompts;
   clsK70 k70(replayed, prompts);
-  k70.Initialize();
   Walker walker(replayed);
-  walker.Know(1, k70.Mic.Object());
+  for (std::size_t i = 0; i < root; ++i) walker.Step(lines_[i]);
+  k70.Initialize();
+  walker.Know(std::get<ObjectNumber>(lines_[root].result).number, k70.Mic.Object());
   constexpr std::size_t kInitialized = 3;  // the root, its device list, the count
-  for (std::size_t i = kInitialized; i < connection; ++i) walker.Step(lines_[i]);
+  for (std::size_t i = root + kInitialized; i < connection; ++i) walker.Step(lines_[i]);
   EXPECT_TRUE(k70.Connect(DeviceOf(lines_, connection)));
   k70.Receive();
   EXPECT_EQ(replayed.Difference(), "");
