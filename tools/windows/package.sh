@@ -37,9 +37,16 @@ sed 's/$/\r/' "$root/LICENSE" >"$folder/licences/Mortane.txt"
 for package in qt6-base libxml2; do
   cp -r "$prefix/licences/$package" "$folder/licences/"
 done
+# The licence of libxml2 and the "copyright" beside it have one name on Windows.
+mv "$folder/licences/libxml2/Copyright" "$folder/licences/libxml2/licence.txt"
 cp "/usr/share/doc/g++-mingw-w64-x86-64-posix/copyright" "$folder/licences/gcc/"
 cp "/usr/share/doc/mingw-w64-x86-64-dev/copyright" "$folder/licences/gcc/mingw-w64"
 
+same="$(cd "$folder" && find . | sort -f | uniq -Di)"
+if [[ -n "$same" ]]; then
+  echo "package: one name on Windows:" $same >&2
+  exit 1
+fi
 python3 -B "$root/tools/windows/imports.py" "$folder" "$root/packaging/windows/system-dlls.txt"
 (cd "$dist" && cmake -E tar cf "$name.zip" --format=zip "$name")
 echo "$folder: $(du -sh --apparent-size "$folder" | cut -f1)," \
