@@ -23,21 +23,17 @@ constexpr int kTickSide = 12;
 constexpr int kIconSide = 24;
 
 // Of the circle, which holds any number of a step.
-int MarkSide() {
+int SideOfMark() {
   const int number = QFontMetrics(MarkFont()).horizontalAdvance(u"10"_s);
   return qMax(kLeastMarkSide, number + 2 * kAroundNumber);
 }
 
-int MarkCenter() {
-  return kMarkLeft + MarkSide() / 2;
+int IconLeft(int markSide) {
+  return kMarkLeft + markSide + grid::kBetweenGroups;
 }
 
-int IconLeft() {
-  return kMarkLeft + MarkSide() + grid::kBetweenGroups;
-}
-
-int TextLeft() {
-  return IconLeft() + kIconSide + grid::kBetweenGroups;
+int TextLeft(int markSide) {
+  return IconLeft(markSide) + kIconSide + grid::kBetweenGroups;
 }
 
 // In the order of StepState; for screen readers.
@@ -47,7 +43,7 @@ constexpr const char* kStateTexts[] = {"passed", "current", "to come", "not visi
 }  // namespace
 
 StepButton::StepButton(int number, IconName icon, const QString& text, QWidget* parent)
-    : RailButton(icon, text, parent), number_(number) {
+    : RailButton(icon, text, parent), number_(number), markSide_(SideOfMark()) {
   setCheckable(true);  // told by screen readers; only SetState checks
   SetState(StepState::Off);
 }
@@ -82,12 +78,17 @@ bool StepButton::event(QEvent* event) {
 
 QSize StepButton::sizeHint() const {
   const int text =
-      TextLeft() + fontMetrics().horizontalAdvance(this->text()) + grid::kBetweenGroups;
+      TextLeft(markSide_) + fontMetrics().horizontalAdvance(this->text()) + grid::kBetweenGroups;
   return {qMax(kWidth, text), GridHeight(kHeight, *this)};
 }
 
 QSize StepButton::minimumSizeHint() const {
-  return {sizeHint().width(), qMax(MarkSide(), fontMetrics().height()) + 2 * grid::kUnit};
+  return {sizeHint().width(), qMax(markSide_, fontMetrics().height()) + 2 * grid::kUnit};
+}
+
+void StepButton::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange) markSide_ = SideOfMark();
+  RailButton::changeEvent(event);
 }
 
 void StepButton::mouseReleaseEvent(QMouseEvent* event) {
@@ -99,14 +100,14 @@ void StepButton::mouseReleaseEvent(QMouseEvent* event) {
 void StepButton::DrawJoints(QPainter& painter) const {
   painter.setPen(QPen(ToneColor(Tone::RailDisabled), 1));
   const int middle = height() / 2;
-  const int gap = MarkSide() / 2 + 2;
-  const int center = MarkCenter();
+  const int gap = markSide_ / 2 + 2;
+  const int center = kMarkLeft + markSide_ / 2;
   if (number_ > 1) painter.drawLine(center, 0, center, middle - gap);
   if (!last_) painter.drawLine(center, middle + gap, center, height());
 }
 
 void StepButton::DrawMark(QPainter& painter) const {
-  const int side = MarkSide();
+  const int side = markSide_;
   const QRectF circle(kMarkLeft, (height() - side) / 2.0, side, side);
   const bool off = state_ == StepState::Off;
   const QColor line = ToneColor(off ? Tone::RailDisabled : Tone::RailText);
@@ -134,7 +135,7 @@ void StepButton::paintEvent(QPaintEvent*) {
   DrawJoints(painter);
   DrawMark(painter);
   const QColor foreground = Foreground();
-  const int iconLeft = IconLeft();
+  const int iconLeft = IconLeft(markSide_);
   const int iconTop = (height() - kIconSide) / 2;
   DrawIcon(painter, icon(), QRectF(iconLeft, iconTop, kIconSide, kIconSide),
            {foreground, IsCurrent() ? ToneColor(Tone::Amber) : foreground});
@@ -144,7 +145,8 @@ void StepButton::paintEvent(QPaintEvent*) {
   }
   painter.setFont(font());
   painter.setPen(foreground);
-  painter.drawText(rect().adjusted(TextLeft(), 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text());
+  painter.drawText(rect().adjusted(TextLeft(markSide_), 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                   text());
   DrawFocus(painter);
 }
 

@@ -34,6 +34,7 @@ class StepButton : public RailButton {
  protected:
   [[nodiscard]] bool IsCurrent() const override { return state_ == StepState::Current; }
   bool event(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -43,6 +44,7 @@ class StepButton : public RailButton {
   void DrawMark(QPainter& painter) const;
 
   int number_;
+  int markSide_;
   StepState state_ = StepState::Off;
   bool last_ = true;
   bool pending_ = false;
