@@ -50,12 +50,12 @@ for ((seed = 1; made < events; ++seed)); do
     grep -qx "$bench $seed" "$done" && continue
     status=0
     timeout "$longest" "$program" "$window" "$bench" "$seed" "$part" \
-      >build/walk/output 2>build/walk/errors || status=$?
+      >"build/walk/$window.output" 2>"build/walk/$window.errors" || status=$?
     if ((status != 0)); then
       {
         echo "tools/walk.sh repeat $window $bench $seed $part   # status $status"
-        sed 's/^/  /' build/walk/output
-        tail -n 20 build/walk/errors | grep -v '^This plugin' | sed 's/^/  /' || true
+        sed 's/^/  /' "build/walk/$window.output"
+        tail -n 20 "build/walk/$window.errors" | grep -v '^This plugin' | sed 's/^/  /' || true
       } | tee -a "$failed"
     fi
     echo "$bench $seed" >>"$done"

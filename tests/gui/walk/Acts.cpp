@@ -34,6 +34,7 @@ constexpr std::array kActs{
     ActRow{"ImageCommand_0", {Everything, MayCall::Everything}},
     ActRow{"ImageCommand_1", {Everything, MayCall::Reads}},
     ActRow{"ImageCommand_2", {ShownPage, MayCall::Everything}},
+    ActRow{"ButtonPending", {ControlsOnly, MayCall::Reads}},  // leads to a page
     ActRow{"OpenKept", {Everything, MayCall::Reads}},
     // The wizard's.
     ActRow{"ButtonSend", {ShownPage, MayCall::Everything}},

@@ -49,6 +49,12 @@ constexpr std::array kAlso{
     Also{HandMode, "ControlTactorSwitchCtl1", "cmdDefault"},
     Also{HandMode, "ControlTactorSwitchCtl1", "btnReadFileOpen"},
     Also{HandSide, "ControlTactorSwitchCtl1", "btnReadFileOpen"},
+    Also{HandSwitch, "TactorSwitchSettingCtl1", "cmdDefault"},
+    Also{HandSwitch, "TactorSwitchSettingCtl1", "cmdAllClear"},
+    Also{HandSwitch, "TactorSwitchSettingCtl1", "btnReadFileOpen"},
+    Also{HandMode, "TactorSwitchSettingCtl1", "cmdDefault"},
+    Also{HandMode, "TactorSwitchSettingCtl1", "btnReadFileOpen"},
+    Also{HandSide, "TactorSwitchSettingCtl1", "btnReadFileOpen"},
 };
 
 // A switch that changes a knob's speed decides over the knob's mode.

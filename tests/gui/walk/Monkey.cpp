@@ -107,10 +107,16 @@ void Monkey::Act() {
   posted_ = false;
   worked_.clear();
   workedNames_.clear();
+  // Not every platform hands the activity back when a dialog ends; keys go to active windows alone.
+  if (QApplication::activeWindow() == nullptr) {
+    window_.activateWindow();
+    QCoreApplication::processEvents();
+  }
   NoteWorked(window_.focusWidget());
   ActIn(window_);
   QCoreApplication::processEvents();
   ClosePopup();
+  QCoreApplication::processEvents();  // clicks that came while the last of it was at work
 }
 
 // Posted like the input of a person who does not wait. What drops input drops it.
@@ -228,6 +234,8 @@ void Monkey::Type() {
 // A few acts in the dialog, then one of its buttons.
 void Monkey::WorkDialog() {
   dialogs_.start(0);  // also while an act here opens another dialog
+  // The menu of a tool button runs an event loop of its own.
+  if (QApplication::activePopupWidget() != nullptr) return PressInPopup();
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (dialog == nullptr) return;
   if (Below(3) == 0) {
@@ -239,16 +247,19 @@ void Monkey::WorkDialog() {
 
 void Monkey::ClosePopup() {
   for (int i = 0; QApplication::activePopupWidget() != nullptr; ++i) {
-    QWidget* popup = QApplication::activePopupWidget();
     if (i > 4) {
-      popup->close();
+      QApplication::activePopupWidget()->close();
     } else {
-      QTest::keyClick(popup, Below(2) == 0   ? Qt::Key_Down
-                             : Below(2) == 0 ? Qt::Key_Return
-                                             : Qt::Key_Escape);
+      PressInPopup();
     }
     QCoreApplication::processEvents();
   }
+}
+
+void Monkey::PressInPopup() {
+  QTest::keyClick(QApplication::activePopupWidget(), Below(2) == 0   ? Qt::Key_Down
+                                                     : Below(2) == 0 ? Qt::Key_Return
+                                                                     : Qt::Key_Escape);
 }
 
 }  // namespace mortane::test

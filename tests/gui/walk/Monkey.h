@@ -92,6 +92,7 @@ class Monkey {
   void Type();
   void WorkDialog();
   void ClosePopup();
+  void PressInPopup();
 
   QWidget& window_;
   std::mt19937& random_;
