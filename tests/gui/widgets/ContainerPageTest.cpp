@@ -1,5 +1,6 @@
 #include "widgets/ContainerPage.h"
 
+#include <QLineEdit>
 #include <array>
 #include <vector>
 
@@ -215,6 +216,18 @@ TEST_F(ContainerPageTest, ASelectionLoadsItsSubPageAndThenShowsItAlone) {
   EXPECT_TRUE(area->middle->isVisible());
   EXPECT_EQ(area->shownSubPage(), area->middle);
   EXPECT_EQ(log, QStringList({"load left", "load middle"}));
+}
+
+TEST_F(ContainerPageTest, AHiddenSubPageKeepsNoFocusInAWindowThatIsNotActive) {
+  auto* field = new QLineEdit(area->left);
+  area->LoadData();
+  field->setFocus();
+  ASSERT_EQ(window.widget().focusWidget(), field);
+  TestWindow other;
+  other.Show();
+  ASSERT_FALSE(window.widget().isActiveWindow());
+  area->sections()->select(1);
+  EXPECT_EQ(window.widget().focusWidget(), nullptr);
 }
 
 TEST_F(ContainerPageTest, ASectionMayOpenWithoutLoading) {
