@@ -88,9 +88,7 @@ class ListBox : public RowView {
     return sizeHintForIndex(cell).width();
   }
   // The font that contents are measured in.
-  [[nodiscard]] virtual QFont MeasuringFont() const {
-    return font();
-  }
+  [[nodiscard]] virtual QFont MeasuringFont() const;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
