@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QScrollBar>
 
+#include "widgets/HidePage.h"
 #include "widgets/Page.h"
 
 namespace mortane {
@@ -23,7 +24,7 @@ void PageArea::Add(Page* page) {
 }
 
 void PageArea::Show(Page* page) {
-  if (shown_ != nullptr) shown_->hide();
+  if (shown_ != nullptr) HidePage(*shown_);
   shown_ = page;
   if (shown_ != nullptr) shown_->show();
   verticalScrollBar()->setValue(0);

@@ -6,23 +6,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "widgets/HidePage.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
 #include "widgets/TabOrder.h"
 
 namespace mortane {
-namespace {
-
-// In a window that is not active the toolkit leaves the focus on what is hidden, and a field there
-// would store its text when the window is active again.
-void HideWithoutFocus(Page& page) {
-  page.hide();
-  QWidget* focus = page.window()->focusWidget();
-  if (focus != nullptr && page.isAncestorOf(focus)) focus->clearFocus();
-}
-
-}  // namespace
-
 ContainerPage::ContainerPage(IconName icon, const QString& title, QWidget* parent,
                              NotOffered notOffered)
     : Page(parent), notOffered_(notOffered) {
@@ -142,7 +131,7 @@ bool ContainerPage::IsOffered(int index) const {
 }
 
 void ContainerPage::Open(int index) {
-  if (shown_ != nullptr) HideWithoutFocus(*shown_);
+  if (shown_ != nullptr) HidePage(*shown_);
   shown_ = nullptr;
   const Section& opened = section(index);
   LatePage* late = opened.page.late();
