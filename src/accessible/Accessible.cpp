@@ -43,10 +43,11 @@ QAccessibleInterface* MakeButton(QObject* object) {
 }
 
 // A field is made read-only once, before anybody asks.
-QAccessibleInterface* MakeShownText(QObject* object) {
+QAccessibleInterface* MakeReadOnlyField(QObject* object) {
   const auto* field = qobject_cast<QLineEdit*>(object);
-  return field == nullptr || !field->isReadOnly() ? nullptr
-                                                  : Make<QLineEdit, AccessibleShownText>(object);
+  return field == nullptr || !field->isReadOnly()
+             ? nullptr
+             : Make<QLineEdit, AccessibleReadOnlyField>(object);
 }
 
 constexpr std::array kMakers{
@@ -66,7 +67,7 @@ constexpr std::array kMakers{
     &Make<CheckToggle, AccessibleToggle>,
     &Make<ValueLabel, AccessibleValue>,
     &Make<PageTitle, AccessibleHeading>,
-    &MakeShownText,
+    &MakeReadOnlyField,
     &Make<MicroscopeDrawing, AccessiblePicture>,
     &Make<ListBox, AccessibleList>,
     &Make<TabStrip, AccessibleTabs>,

@@ -114,42 +114,6 @@ QAccessible::State AccessibleToggle::state() const {
   return state;
 }
 
-AccessibleValue::AccessibleValue(ValueLabel* label)
-    : QAccessibleWidget(label, QAccessible::StaticText), label_(*label) {}
-
-QString AccessibleValue::content() const {
-  return label_.text();
-}
-
-QString AccessibleValue::text(QAccessible::Text part) const {
-  return part == QAccessible::Value ? content() : QAccessibleWidget::text(part);
-}
-
-QAccessible::State AccessibleValue::state() const {
-  QAccessible::State state = QAccessibleWidget::state();
-  state.readOnly = true;
-  return state;
-}
-
-void* AccessibleValue::interface_cast(QAccessible::InterfaceType type) {
-  if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
-  return QAccessibleWidget::interface_cast(type);
-}
-
-AccessibleHeading::AccessibleHeading(QLabel* label)
-    : QAccessibleWidget(label, QAccessible::Heading), label_(*label) {}
-
-QString AccessibleHeading::text(QAccessible::Text part) const {
-  return part == QAccessible::Name ? label_.text() : QAccessibleWidget::text(part);
-}
-
-AccessibleShownText::AccessibleShownText(QLineEdit* field)
-    : QAccessibleWidget(field, QAccessible::EditableText), field_(*field) {}
-
-QString AccessibleShownText::content() const {
-  return field_.text();
-}
-
 QString AccessibleShownText::text(QAccessible::Text part) const {
   return part == QAccessible::Value ? content() : QAccessibleWidget::text(part);
 }
@@ -163,6 +127,27 @@ QAccessible::State AccessibleShownText::state() const {
 void* AccessibleShownText::interface_cast(QAccessible::InterfaceType type) {
   if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
   return QAccessibleWidget::interface_cast(type);
+}
+
+AccessibleValue::AccessibleValue(ValueLabel* label)
+    : AccessibleShownText(label, QAccessible::StaticText), label_(*label) {}
+
+QString AccessibleValue::content() const {
+  return label_.text();
+}
+
+AccessibleReadOnlyField::AccessibleReadOnlyField(QLineEdit* field)
+    : AccessibleShownText(field, QAccessible::EditableText), field_(*field) {}
+
+QString AccessibleReadOnlyField::content() const {
+  return field_.text();
+}
+
+AccessibleHeading::AccessibleHeading(QLabel* label)
+    : QAccessibleWidget(label, QAccessible::Heading), label_(*label) {}
+
+QString AccessibleHeading::text(QAccessible::Text part) const {
+  return part == QAccessible::Name ? label_.text() : QAccessibleWidget::text(part);
 }
 
 }  // namespace mortane

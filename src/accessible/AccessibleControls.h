@@ -74,19 +74,37 @@ class AccessibleToggle : public AccessibleButton {
   CheckToggle& toggle_;
 };
 
-// A value under its caption: the caption is the name.
-class AccessibleValue : public QAccessibleWidget, public ReadOnlyText {
+// A text that is shown and cannot be changed: the value of the control.
+class AccessibleShownText : public QAccessibleWidget, public ReadOnlyText {
  public:
-  explicit AccessibleValue(ValueLabel* label);
+  using QAccessibleWidget::QAccessibleWidget;
 
   using ReadOnlyText::text;
   [[nodiscard]] QString text(QAccessible::Text part) const override;
   [[nodiscard]] QAccessible::State state() const override;
   void* interface_cast(QAccessible::InterfaceType type) override;
+};
+
+// A value under its caption: the caption is the name.
+class AccessibleValue : public AccessibleShownText {
+ public:
+  explicit AccessibleValue(ValueLabel* label);
+
   [[nodiscard]] QString content() const override;
 
  private:
   ValueLabel& label_;
+};
+
+// A field that is read only. The toolkit would let a screen reader write into it.
+class AccessibleReadOnlyField : public AccessibleShownText {
+ public:
+  explicit AccessibleReadOnlyField(QLineEdit* field);
+
+  [[nodiscard]] QString content() const override;
+
+ private:
+  QLineEdit& field_;
 };
 
 // The toolkit would name a tool bar by its title, which nobody sees.
@@ -104,21 +122,6 @@ class AccessibleHeading : public QAccessibleWidget {
 
  private:
   QLabel& label_;
-};
-
-// A box that only shows its text. The toolkit would let a screen reader write into it.
-class AccessibleShownText : public QAccessibleWidget, public ReadOnlyText {
- public:
-  explicit AccessibleShownText(QLineEdit* field);
-
-  using ReadOnlyText::text;
-  [[nodiscard]] QString text(QAccessible::Text part) const override;
-  [[nodiscard]] QAccessible::State state() const override;
-  void* interface_cast(QAccessible::InterfaceType type) override;
-  [[nodiscard]] QString content() const override;
-
- private:
-  QLineEdit& field_;
 };
 
 // A drawing tells in its description what it shows.
