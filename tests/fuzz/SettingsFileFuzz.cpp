@@ -9,27 +9,13 @@
 #include "fuzz/FuzzEntry.h"
 #include "fuzz/Promise.h"
 #include "hub/clsK70.h"
+#include "support/QuietPrompts.h"
 
 namespace mortane {
 namespace {
 
 constexpr std::size_t kLongestName = 14;
 constexpr std::int16_t kSections = 10;
-
-class SilentPrompts : public Prompts {
- public:
-  Answer MsgBox(const std::string&, int, const std::string&) override { return Answer::Ok; }
-  Answer TimedMsgBox(int, const std::string&, int, const std::string&, const std::string&,
-                     int) override {
-    return Answer::Ok;
-  }
-  std::string AskFileToOpen(const FileQuestion&) override { return {}; }
-  std::string AskFileToSave(const FileQuestion&) override { return {}; }
-  void SetPointer(Pointer) override {}
-  void FlushInput() override {}
-  void Wait(int) override {}
-  void ShowProgress(int, int) override {}
-};
 
 // Reads every name and value, as the readers of the sections do.
 std::size_t Walk(const DomNode& node) {
@@ -44,7 +30,7 @@ std::size_t Walk(const DomNode& node) {
 // A loaded model that reads one document after the other.
 struct Reader {
   controller::SimulatedLibrary library{controller::benches::Named("Quay")};
-  SilentPrompts prompts;
+  test::QuietPrompts prompts;
   clsK70 k70{library, prompts};
 
   Reader() {

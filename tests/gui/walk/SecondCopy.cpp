@@ -2,28 +2,13 @@
 
 #include <optional>
 
+#include "support/QuietPrompts.h"
 #include "support/RandomModel.h"
 
 namespace mortane::test {
 
-// Agrees to everything.
-class SecondCopy::Answers : public Prompts {
- public:
-  Answer MsgBox(const std::string&, int, const std::string&) override { return Answer::Ok; }
-  Answer TimedMsgBox(int, const std::string&, int, const std::string&, const std::string&,
-                     int) override {
-    return Answer::Ok;
-  }
-  std::string AskFileToOpen(const FileQuestion&) override { return {}; }
-  std::string AskFileToSave(const FileQuestion&) override { return {}; }
-  void SetPointer(Pointer) override {}
-  void FlushInput() override {}
-  void Wait(int) override {}
-  void ShowProgress(int, int) override {}
-};
-
 SecondCopy::SecondCopy(controller::SimulatedLibrary& library, std::mt19937& random)
-    : library_(library), random_(random), prompts_(std::make_unique<Answers>()) {}
+    : library_(library), random_(random), prompts_(std::make_unique<QuietPrompts>()) {}
 
 SecondCopy::~SecondCopy() = default;
 

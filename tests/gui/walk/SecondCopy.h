@@ -24,13 +24,11 @@ class SecondCopy {
   void Leave();
 
  private:
-  class Answers;
-
   std::string Take(std::int32_t device);
 
   controller::SimulatedLibrary& library_;
   std::mt19937& random_;
-  std::unique_ptr<Answers> prompts_;
+  std::unique_ptr<Prompts> prompts_;
   std::unique_ptr<clsK70> k70_;  // while it has a device
 };
 

@@ -1,5 +1,6 @@
 #include "widgets/CommandKey.h"
 
+#include "gui/support/PaintCount.h"
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
@@ -117,21 +118,9 @@ TEST_F(CommandKeyTest, PressedAndMainLookDiffersFromResting) {
   EXPECT_NE(key->grab().toImage(), resting);
 }
 
-class PaintCount : public QObject {
- public:
-  int count = 0;
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++count;
-    return false;
-  }
-};
-
 TEST_F(CommandKeyTest, BecomingTheMainKeyIsPaintedAtOnce) {
   QCoreApplication::processEvents();
-  PaintCount paints;
-  key->installEventFilter(&paints);
+  test::PaintCount paints(*key);
   key->setMain(true);
   QCoreApplication::processEvents();
   EXPECT_GT(paints.count, 0);

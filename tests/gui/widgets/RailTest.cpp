@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "gui/support/PaintCount.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/PageButton.h"
 
@@ -116,21 +117,9 @@ TEST_F(RailTest, IsOneTabStopAtTheSelectedPage) {
   EXPECT_TRUE(after->hasFocus());
 }
 
-class PaintCount : public QObject {
- public:
-  int count = 0;
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++count;
-    return false;
-  }
-};
-
 TEST_F(RailTest, ASelectionAndADotArePaintedAtOnce) {
   QApplication::processEvents();
-  PaintCount paints;
-  rail->button(1)->installEventFilter(&paints);
+  test::PaintCount paints(*rail->button(1));
   rail->button(1)->SetSelected(true);
   QApplication::processEvents();
   EXPECT_EQ(std::exchange(paints.count, 0), 1);
