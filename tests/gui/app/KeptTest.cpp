@@ -147,6 +147,11 @@ TEST_F(Kept, EditsOfAProcessThatDiedAreOfferedAndOpened) {
   Start();
   EXPECT_FALSE(note().ButtonKept->isHidden());
   EXPECT_TRUE(note().ButtonKept->text().startsWith("Unsent changes of "));
+  QApplication::processEvents();
+  const QToolButton& button = *note().ButtonKept;
+  EXPECT_EQ(button.size(), button.sizeHint());
+  EXPECT_TRUE(button.parentWidget()->rect().contains(button.geometry()));
+  EXPECT_FALSE(button.geometry().intersects(note().geometry()));
   EXPECT_NE(GetK70().curNosepiece.code(1), edited);
   OpenKept();
   EXPECT_EQ(GetK70().curNosepiece.code(1), edited);

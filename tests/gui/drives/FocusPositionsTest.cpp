@@ -38,6 +38,15 @@ TEST_F(FocusPositions, HaveARowForEachAddressUpToSeven) {
   }
 }
 
+TEST_F(FocusPositions, OfALargePageStandInACardThatIsNotMuchWider) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
+  rig.window().resize(2400, 900);
+  QApplication::processEvents();
+  EXPECT_EQ(page.FrameBase->x(), 0);
+  EXPECT_LT(page.FrameBase->width(), page.width() * 2 / 3);
+}
+
 TEST_F(FocusPositions, HaveNoRowBeforeTheFirstLoading) {
   PageRig rig("Harbour");
   const std::unique_ptr<ControlFocusDriveCtl> page(MakeControlFocusDriveCtl(rig.k70()));
