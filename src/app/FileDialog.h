@@ -5,7 +5,6 @@
 
 #include "common/Prompts.h"
 
-class QListWidget;
 class QListWidgetItem;
 
 namespace mortane {

@@ -10,6 +10,7 @@ class QLabel;
 namespace mortane {
 
 class CheckToggle;
+
 // Every edit reaches the unit at once. Kept: the teaching section, FrameZNose, is hidden by each
 // loading but works; its buttons move the real drive. A position that a step, or the question of a
 // row, has shown is stored, unless it is 0.

@@ -313,12 +313,12 @@ void ListBox::keyboardSearch(const QString& typed) {
   }
 }
 
-// The click is raised after the view has done with the event, so that a handler may rebuild the
-// list or ask a question.
 QFont ListBox::MeasuringFont() const {
   return font();
 }
 
+// The click is raised after the view has done with the event, so that a handler may rebuild the
+// list or ask a question.
 void ListBox::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !TakeFocus(*this)) return;
   const int row = RowAt(*event);

@@ -4,7 +4,6 @@
 #include <QList>
 
 class QAbstractButton;
-class QWidget;
 
 namespace mortane {
 
