@@ -6,7 +6,6 @@
 #include <deque>
 
 #include "support/Rig.h"
-#include "support/Sample.h"
 
 namespace mortane::test {
 namespace {
@@ -305,7 +304,7 @@ TEST(StartPath, SurvivesAFailureOfEachCallInTurn) {
   };
   const std::size_t calls = run(0);
   ASSERT_GT(calls, 50U);
-  for (const std::size_t k : SampleOf(calls, 17, 20)) run(k);
+  for (std::size_t k = 1; k <= calls; ++k) run(k);
 }
 
 }  // namespace

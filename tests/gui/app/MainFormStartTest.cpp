@@ -322,7 +322,7 @@ TEST(TwoCopies, TheSecondOneIsRefused) {
   EXPECT_FALSE(second.form->isVisible());
 }
 
-TEST(Start, SurvivesAFailureOfEachControllerCallInTurn) {
+TEST(Start, SurvivesAFailureOfWhicheverControllerCall) {
   const auto run = [](std::size_t failing) {
     AppRig rig(benches::Named("Harbour"));
     rig.prompts.AcceptAnyBox();

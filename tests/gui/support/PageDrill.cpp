@@ -8,7 +8,6 @@
 
 #include "gui/support/LatePages.h"
 #include "gui/support/PageActs.h"
-#include "support/Sample.h"
 #include "widgets/Card.h"
 #include "widgets/TextField.h"
 
@@ -189,7 +188,7 @@ TEST_P(PageDrill, LoadsWhicheverCallOfTheControllerFails) {
     page.LoadData();
     calls = rig.journal.CallCount();
   }
-  for (const std::size_t k : SampleOf(calls, 5)) {
+  for (std::size_t k = 1; k <= calls; ++k) {
     const auto made = MakeRig();
     PageWindow& rig = *made;
     Page& page = ShowOn(rig);
