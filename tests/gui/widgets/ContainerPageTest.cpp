@@ -230,6 +230,13 @@ TEST_F(ContainerPageTest, AHiddenSubPageKeepsNoFocusInAWindowThatIsNotActive) {
   EXPECT_EQ(window.widget().focusWidget(), nullptr);
 }
 
+TEST_F(ContainerPageTest, TheSubPageTakesTheWidthOfThePage) {
+  area->LoadData();
+  window.widget().resize(900, 500);
+  QApplication::processEvents();
+  EXPECT_EQ(area->left->width(), area->width() - 2 * grid::kPageMargin);
+}
+
 TEST_F(ContainerPageTest, ASectionMayOpenWithoutLoading) {
   Click(2);
   EXPECT_TRUE(area->right->isVisible());

@@ -115,6 +115,11 @@ class BoxWithPlaceholder : public TextFieldTest {
   }
 };
 
+TEST_F(BoxWithPlaceholder, ThePlaceholderIsSelectedAsAWholeWhateverDeselectsIt) {
+  field->deselect();
+  EXPECT_EQ(field->selectedText(), kDashes);
+}
+
 TEST_F(BoxWithPlaceholder, ACharacterOutsideTheBasicPlaneReplacesThePlaceholder) {
   QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, kGlass);
   QApplication::sendEvent(field, &key);

@@ -1,0 +1,74 @@
+// The columns of a list, and the dot of a row in the first of them.
+#include <QHeaderView>
+#include <QHelpEvent>
+
+#include "gui/support/TestWindow.h"
+#include "widgets/ListBox.h"
+#include "widgets/NotSent.h"
+#include "widgets/RowDelegate.h"
+
+namespace mortane {
+namespace {
+
+class ColumnsOfAList : public ::testing::Test {
+ protected:
+  ColumnsOfAList() {
+    list = window.Add<ListBox>();
+    list->SetColumns({{"Name"}, {"Exciter"}, {"Barrier"}});
+    for (const char* name : {"UV", "Violet"}) list->addCells({name, "365/10", "460/20"});
+    window.widget().resize(900, 300);
+    window.Show();
+    QApplication::processEvents();
+  }
+  // Of a cell, in the colour of the dots.
+  int DotPixels(int row, int column) {
+    const QRect cell = list->visualRect(list->model()->index(row, column));
+    const QImage image = list->viewport()->grab(cell).toImage();
+    const QRgb dot = list->palette().color(QPalette::Link).rgb();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) == dot ? 1 : 0;
+    }
+    return count;
+  }
+
+  TestWindow window;
+  ListBox* list = nullptr;
+};
+
+TEST_F(ColumnsOfAList, ARowThatIsNotSentHasItsDotInTheFirstOne) {
+  list->SetRowPending(1, "Plan A");
+  EXPECT_EQ(list->RowNote(1), NotSent("Plan A"));
+  EXPECT_EQ(list->RowNote(0), QString());
+  EXPECT_GT(DotPixels(1, 0), 0);
+  EXPECT_EQ(DotPixels(1, 1), 0);
+  EXPECT_EQ(DotPixels(0, 0), 0);
+  list->SetRowPending(1, std::nullopt);
+  EXPECT_EQ(list->RowNote(1), QString());
+  EXPECT_EQ(DotPixels(1, 0), 0);
+}
+
+TEST_F(ColumnsOfAList, BeginAtTheirTabStops) {
+  list->SetTabStops({100, 200});
+  QApplication::processEvents();
+  EXPECT_GT(list->header()->sectionSize(0), 100);
+  EXPECT_EQ(list->header()->sectionSize(0), list->header()->sectionSize(1));
+}
+
+TEST_F(ColumnsOfAList, OneAloneIsNeverScrolledSideways) {
+  EXPECT_EQ(list->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+  list->SetColumns({{"Name"}});
+  EXPECT_EQ(list->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+}
+
+TEST_F(ColumnsOfAList, TellNothingButTheirToolTips) {
+  const QModelIndex cell = list->model()->index(0, 0);
+  QStyleOptionViewItem option;
+  option.rect = list->visualRect(cell);
+  QHelpEvent event(QEvent::WhatsThis, {}, {});
+  auto* delegate = static_cast<RowDelegate*>(list->itemDelegate());
+  EXPECT_FALSE(delegate->helpEvent(&event, list, option, cell));
+}
+
+}  // namespace
+}  // namespace mortane
