@@ -249,6 +249,7 @@ TEST_F(LateAreaTest, TheOneOnShowIsMadeForWhoeverAsks) {
 TEST_F(LateAreaTest, KnowsTheSectionOfASubPageBeforeAndAfter) {
   EXPECT_EQ(area->SectionOf(area->right), 2);
   EXPECT_EQ(area->SectionOf(area->right.get()), 2);
+  EXPECT_EQ(area->SectionOf(*area), -1);
 }
 
 TEST_F(LateAreaTest, TheTabKeyReachesALateSubPageFromItsOption) {

@@ -1,6 +1,7 @@
 #include "widgets/SectionBar.h"
 
 #include "gui/support/EventLoop.h"
+#include "gui/support/PaintCount.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/Theme.h"
 
@@ -45,6 +46,66 @@ TEST_F(SectionBarTest, TheChosenOptionIsAmberAndTheOthersAreNot) {
   EXPECT_EQ(BackgroundOf(1), ToneColor(Tone::Amber));
   EXPECT_EQ(BackgroundOf(0), bar->palette().color(QPalette::Button));
   EXPECT_EQ(BackgroundOf(2), bar->palette().color(QPalette::Button));
+}
+
+TEST_F(SectionBarTest, EachOptionHasTheLineOfItsGround) {
+  bar->select(1);
+  const auto lineOf = [this](int index) {
+    const QImage picture = bar->option(index)->grab().toImage();
+    return picture.pixel(picture.width() / 2, 0);
+  };
+  EXPECT_EQ(lineOf(1), ToneColor(Tone::Amber).darker(118).rgb());
+  EXPECT_EQ(lineOf(0), bar->palette().color(QPalette::Mid).rgb());
+}
+
+TEST_F(SectionBarTest, ABlueOptionHasTheTextOfItsGround) {
+  SectionOption option("A", nullptr, ChosenLook::Blue);
+  const auto shows = [&option](QPalette::ColorRole role) {
+    const QImage picture = option.grab().toImage();
+    const QRgb colour = option.palette().color(role).rgb();
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        if (picture.pixel(x, y) == colour) return true;
+      }
+    }
+    return false;
+  };
+  EXPECT_TRUE(shows(QPalette::ButtonText));
+  option.setChecked(true);
+  EXPECT_TRUE(shows(QPalette::HighlightedText));
+  EXPECT_FALSE(shows(QPalette::ButtonText));
+}
+
+// A rounded corner leaves its outermost pixels to the ground.
+TEST_F(SectionBarTest, EachRowIsRoundedAtItsEnds) {
+  const auto square = [this](int index, bool right) {
+    const QImage picture = bar->option(index)->grab().toImage();
+    return picture.pixel(right ? picture.width() - 2 : 1, 0) ==
+           bar->palette().color(QPalette::Mid).rgb();
+  };
+  bar->select(-1);
+  const auto corners = [&] {
+    QString shape;
+    for (int i = 0; i < 3; ++i) {
+      shape += square(i, false) ? u'[' : u'(';
+      shape += square(i, true) ? u']' : u')';
+    }
+    return shape;
+  };
+  EXPECT_EQ(corners(), "(][][)");
+  bar->setFixedWidth(bar->option(0)->minimumSizeHint().width() +
+                     bar->option(1)->minimumSizeHint().width());
+  QApplication::processEvents();
+  EXPECT_EQ(corners(), "(][)()");
+}
+
+TEST_F(SectionBarTest, AnOptionThatBecomesAnEndIsPaintedAtOnce) {
+  auto* option = static_cast<SectionOption*>(bar->option(1));
+  QApplication::processEvents();
+  test::PaintCount paints(*option);
+  option->SetEnds(true, true);
+  QApplication::processEvents();
+  EXPECT_GT(paints.count, 0);
 }
 
 TEST_F(SectionBarTest, TheChosenOptionStaysAmberWhileTheWindowIsDisabled) {
