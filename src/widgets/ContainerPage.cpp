@@ -157,12 +157,6 @@ Page* ContainerPage::shownSubPage() const {
   return waiting_ < 0 ? shown_ : &section(waiting_).page.get();
 }
 
-void ContainerPage::setVisible(bool visible) {
-  if (visible) ShowWaiting();
-  Page::setVisible(visible);
-}
-
-// Shown together with a window.
 void ContainerPage::showEvent(QShowEvent* event) {
   ShowWaiting();
   Page::showEvent(event);

@@ -78,8 +78,6 @@ class ContainerPage : public Page {
   // its option cannot be clicked.
   bool OpenSection(int index);
 
-  void setVisible(bool visible) override;
-
   Control<PageHeader> Header{"Header"};
 
  Q_SIGNALS:

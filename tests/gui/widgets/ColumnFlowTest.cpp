@@ -24,6 +24,7 @@ class ColumnFlowTest : public ::testing::Test {
     parts.back()->setMinimumSize(width, 40);
     column->addWidget(parts.back());
     flow->AddColumn(column, stretch);
+    EXPECT_EQ(column->parent(), flow);
   }
   void ShowIn(int width, int height = 200) {
     panel.resize(width, height);

@@ -20,6 +20,7 @@ class Recorder : public Page {
     if (onLoad) onLoad();
   }
   void SaveData() override { log_ << "save " + name_; }
+  void ShowStored() override { log_ << "stored " + name_; }
 
   std::function<void()> onLoad;
 
@@ -152,6 +153,16 @@ TEST_F(ContainerPageTest, OpensASectionThatCanBeChosenAndNoOther) {
   }
   EXPECT_TRUE(area->OpenSection(1));
   EXPECT_EQ(area->CurrentItem(), 1);
+}
+
+TEST_F(ContainerPageTest, WhatWasStoredIsShownByTheSectionsThatTheLastLoadingFound) {
+  area->ShowStored();
+  EXPECT_EQ(log, (QStringList{"stored left", "stored middle", "stored right"}));
+  area->offered = {false, true, true};
+  area->LoadData();
+  log.clear();
+  area->ShowStored();
+  EXPECT_EQ(log, (QStringList{"stored middle", "stored right"}));
 }
 
 TEST_F(ContainerPageTest, SavingGoesByWhatIsOfferedNow) {

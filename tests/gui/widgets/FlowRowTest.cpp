@@ -50,6 +50,28 @@ TEST_F(FlowRowTest, GoesOnInTheNextLineInOnePixelLessAndAsksForItsHeight) {
   EXPECT_EQ(row->minimumSize(), QSize(100, 78));
 }
 
+TEST(FlowRowInAColumn, WhatStandsBelowMakesRoomForFurtherLines) {
+  QWidget window;
+  auto* column = new QVBoxLayout(&window);
+  column->setContentsMargins({});
+  column->setSpacing(0);
+  auto* row = new FlowRow(kGap, kLineGap);
+  for (int i = 0; i < 2; ++i) {
+    auto* part = new QWidget(&window);
+    part->setFixedSize(100, 20);
+    row->addWidget(part);
+  }
+  column->addLayout(row);
+  auto* below = new QWidget(&window);
+  column->addWidget(below, 1);
+  for (const int width : {210, 209, 210}) {
+    window.resize(width, 200);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(below->y(), width == 210 ? 20 : 44) << width;
+  }
+}
+
 TEST_F(FlowRowTest, AHiddenControlLeavesNoGap) {
   parts[1]->hide();
   ShowIn(190);

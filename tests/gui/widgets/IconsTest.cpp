@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPalette>
 
+#include "widgets/LateIcon.h"
+
 namespace mortane {
 namespace {
 
@@ -51,6 +53,21 @@ TEST(Icons, ADisabledIconStandsInTheDisabledTextColour) {
   EXPECT_TRUE(Contains(icon.pixmap(QSize(48, 48), 1, QIcon::Disabled).toImage(), disabled));
   EXPECT_FALSE(Contains(icon.pixmap(QSize(48, 48), 1, QIcon::Disabled).toImage(), enabled));
   EXPECT_TRUE(Contains(icon.pixmap(QSize(48, 48), 1, QIcon::Normal).toImage(), enabled));
+}
+
+TEST(LateIcon, IsMadeOnceWhenItsPictureIsWanted) {
+  int made = 0;
+  const QIcon icon = LateIcon([&made] {
+    ++made;
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    return QIcon(pixmap);
+  });
+  EXPECT_EQ(made, 0);
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(icon.pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::red));
+    EXPECT_EQ(made, 1);
+  }
 }
 
 }  // namespace

@@ -58,6 +58,13 @@ TEST_F(SectionBarTest, EachOptionHasTheLineOfItsGround) {
   EXPECT_EQ(lineOf(0), bar->palette().color(QPalette::Mid).rgb());
 }
 
+TEST_F(SectionBarTest, ABlueOptionIsAsHighAsAFieldAndOthersAreAsHighAsTheBar) {
+  const SectionOption blue("A", nullptr, ChosenLook::Blue);
+  EXPECT_EQ(blue.sizeHint().height(), GridHeight(grid::kFieldHeight, blue));
+  EXPECT_EQ(bar->option(0)->sizeHint().height(), GridHeight(grid::kSectionHeight, blue));
+  EXPECT_NE(grid::kFieldHeight, grid::kSectionHeight);
+}
+
 TEST_F(SectionBarTest, ABlueOptionHasTheTextOfItsGround) {
   SectionOption option("A", nullptr, ChosenLook::Blue);
   const auto shows = [&option](QPalette::ColorRole role) {
