@@ -1,6 +1,7 @@
 #include "app/BoxText.h"
 
 #include <QClipboard>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -31,9 +32,18 @@ CopiedBox::CopiedBox(Icon icon, const QString& title, const QString& text, QWidg
     : QMessageBox(icon, title, text, NoButton, parent) {
   setTextFormat(Qt::PlainText);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  // A box of a few words is as wide as its title all the same.
+  LeaveRoomForTitle();
+}
+
+// A box of a few words is as wide as its title all the same. The room is the column's: a minimum of
+// the label itself would stand in place of the width of its text, and cut a text that is longer.
+void CopiedBox::LeaveRoomForTitle() {
   const int bar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-  LabelOf(*this)->setMinimumWidth(fontMetrics().horizontalAdvance(title) + kKeysInTitleBar * bar);
+  auto& grid = static_cast<QGridLayout&>(*layout());
+  int row = 0, column = 0, rows = 0, columns = 0;
+  grid.getItemPosition(grid.indexOf(LabelOf(*this)), &row, &column, &rows, &columns);
+  grid.setColumnMinimumWidth(
+      column, fontMetrics().horizontalAdvance(windowTitle()) + kKeysInTitleBar * bar);
 }
 
 void CopiedBox::keyPressEvent(QKeyEvent* event) {

@@ -15,6 +15,7 @@ class CopiedBox : public QMessageBox {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void LeaveRoomForTitle();
   void SelectText();
   void CopyText() const;
 };

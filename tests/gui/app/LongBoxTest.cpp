@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QClipboard>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -77,6 +78,21 @@ TEST(BoxText, OfAWordLeavesRoomForTheTitle) {
   Show("Stop", [](QMessageBox& box) {
     EXPECT_GT(box.width(), box.fontMetrics().horizontalAdvance(box.windowTitle()) + 60);
   });
+}
+
+// The words of the program's own boxes, from one to those that are broken into lines.
+TEST(BoxText, IsShownWhole) {
+  for (const char* text :
+       {"Stop", "This application runs Simulated Microscope.",
+        "Please restart this application after the microscope was switched off and on again.",
+        "One line\nand a second line that is a good deal longer than the title of the box"}) {
+    Show(text, [&](QMessageBox& box) {
+      const auto& label = *box.findChild<QLabel*>("qt_msgbox_label");
+      EXPECT_GE(label.width(), label.minimumSizeHint().width()) << text;
+      EXPECT_GE(label.height(), label.heightForWidth(label.width())) << text;
+      EXPECT_TRUE(box.rect().contains(label.geometry())) << text;
+    });
+  }
 }
 
 class LongBox : public testing::TestWithParam<std::string> {};
