@@ -33,14 +33,15 @@ tools/package-linux.sh
 "${as_root[@]}" tools/test-package-linux.sh "dist/mortane_${version}_$(dpkg --print-architecture).deb"
 if [[ -n "$windows" ]]; then
   tools/setup.sh windows package wine desktop
-  tools/windows/libraries.sh gui tests
   tools/build-windows.sh
+  # The controller libraries that the programs are worked with need nothing of Qt.
+  tools/windows/libraries.sh tests
   tools/windows/host32.sh tests
-  cmake --preset windows-gui
-  cmake --build --preset windows-gui \
+  cmake --preset windows
+  cmake --build --preset windows \
     --target mortane_test_library mortane_test_server mortane_host_of_tests
   python3 -B tests/windows/packed_programs.py "dist/mortane-$version-windows-x64" \
-    build/windows-gui/tests/comserver build/windows32/tests/comserver
+    build/windows/tests/comserver build/windows32/tests/comserver
   python3 -B tests/windows/installer.py "dist/mortane-$version-windows-x64"
 fi
 
