@@ -48,7 +48,7 @@ TEST(CheckedIndex, RaisesErrorNineOutsideTheTable) {
       ADD_FAILURE() << index << " was taken";
     } catch (const Failure& failure) {
       EXPECT_EQ(failure.Number(), kSubscriptError);
-      EXPECT_NE(failure.Description().find(std::to_string(index)), std::string::npos);
+      EXPECT_EQ(failure.Description(), "Subscript out of range: " + std::to_string(index));
     }
   }
 }

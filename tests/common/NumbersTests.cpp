@@ -54,6 +54,8 @@ TEST(ParseNumber, FollowsTheFormatThatItIsGiven) {
   EXPECT_EQ(ToDouble("1,5", kComma), 1.5);
   EXPECT_EQ(ToDouble("1.234,5", kComma), 1234.5);
   EXPECT_EQ(ToDouble("1,234,567.5", kGrouped), 1234567.5);
+  EXPECT_EQ(ToDouble("12,345", kGrouped), 12345);
+  EXPECT_EQ(ToDouble("123,456", kGrouped), 123456);
   EXPECT_EQ(ToDouble("1.5", kComma), 0) << "a group has three digits";
   EXPECT_EQ(ToDouble("1234.567", kComma), 0) << "no group after four digits";
   EXPECT_EQ(ToDouble("1,23,456", kGrouped), 0);
@@ -122,8 +124,15 @@ struct GeneralRow {
 };
 
 TEST(ShortestGeneral, WritesNoZerosThatSayNothing) {
-  const GeneralRow rows[] = {{0, "0"},     {1, "1"},           {-2.5, "-2.5"},      {0.05, "0.05"},
-                             {100, "100"}, {0.1 + 0.2, "0.3"}, {1234567, "1234567"}};
+  const GeneralRow rows[] = {{0, "0"},
+                             {1, "1"},
+                             {-2.5, "-2.5"},
+                             {0.05, "0.05"},
+                             {100, "100"},
+                             {0.1 + 0.2, "0.3"},
+                             {1234567, "1234567"},
+                             {0.123456789012345, "0.123456789012345"},
+                             {1.2345678901234567, "1.23456789012346"}};
   for (const GeneralRow& row : rows) EXPECT_EQ(ShortestGeneral(row.value), row.text);
 }
 

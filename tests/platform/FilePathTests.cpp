@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
+#include <string>
 
 #include "support/TempFolder.h"
 
@@ -35,6 +37,22 @@ TEST(ResolvedPath, TakesAPathThatIsNotRooted) {
   const std::string relative = ResolvedPath("a.xml");
   std::filesystem::current_path(before);
   EXPECT_EQ(relative, ResolvedPath(folder.Path("a.xml")));
+}
+
+// One name in sixteen has a zero in front of each half.
+TEST(PathToken, HasSixteenDigitsThatStandForTheFile) {
+  const test::TempFolder folder;
+  std::filesystem::create_directory(folder.Path("inner"));
+  std::set<std::string> tokens;
+  for (int i = 0; i < 200; ++i) {
+    const std::string name = std::to_string(i);
+    const std::string token = PathToken(folder.Path(name));
+    EXPECT_EQ(token.size(), 16U) << token;
+    EXPECT_EQ(token.find_first_not_of("0123456789ABCDEF"), std::string::npos) << token;
+    EXPECT_EQ(PathToken(folder.Path("inner/../" + name)), token);
+    tokens.insert(token);
+  }
+  EXPECT_EQ(tokens.size(), 200U);
 }
 
 TEST(IsMissing, IsTrueWhereNothingStands) {

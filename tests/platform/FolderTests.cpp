@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "common/Failure.h"
+#include "common/FileErrors.h"
 #include "support/TempFolder.h"
 
 namespace mortane {
@@ -85,9 +86,22 @@ TEST(RemoveFile, TellsOfAFileThatIsMissing) {
     RemoveFile(path);
     FAIL() << "removed what is not there";
   } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Number(), kMissingFileError);
     EXPECT_TRUE(failure.Description().starts_with("Cannot remove " + path + ": "))
         << failure.Description();
   }
+}
+
+TEST(RemoveFile, LeavesAFolderAlone) {
+  const test::TempFolder folder;
+  ASSERT_TRUE(MakeFolder(folder.Path("sub")));
+  try {
+    RemoveFile(folder.Path("sub"));
+    FAIL() << "removed a folder";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Number(), kFileError);
+  }
+  EXPECT_TRUE(fs::is_directory(folder.Path("sub")));
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ int Try(const std::string& path, const std::string& bytes, const std::string& re
     WriteFileAtomically(path, bytes);
     return kTaken;
   } catch (const Failure& failure) {
-    return failure.Description().find(reason) == std::string::npos ? 2 : kRefused;
+    return failure.Description() == "Cannot write " + path + ": " + reason ? kRefused : 2;
   }
 }
 
@@ -185,8 +185,70 @@ TEST(AtomicFileFaults, ASaveRemovesNothingButTemporariesOfDeadProcesses) {
   folder.Write(TemporaryName(1, 0), "of a process that lives");
   fs::create_directory(folder.Path(TemporaryName(dead, 1)));
   fs::create_symlink("a.xml", folder.Path(TemporaryName(dead, 2)));
+  ASSERT_EQ(::mkfifo(folder.Path(TemporaryName(dead, 3)).c_str(), 0600), 0);
   WriteFileAtomically(folder.Path("a.xml"), "new");
-  EXPECT_EQ(FilesIn(folder.Path("")), 8U);
+  EXPECT_EQ(FilesIn(folder.Path("")), 9U);
+}
+
+// Process numbers have 31 bits here; a file of a larger one was written on another system.
+TEST(AtomicFileFaults, ASaveRemovesNoTemporaryOfAProcessThatCannotBeHere) {
+  const test::TempFolder folder;
+  const std::string largest = folder.Write(TemporaryName(2147483647, 0), "left");
+  const std::string above = folder.Write(TemporaryName(2147483648, 0), "left");
+  const std::string wide = folder.Write(TemporaryName(4294967296 + 2147483647, 0), "left");
+  WriteFileAtomically(folder.Path("a.xml"), "new");
+  EXPECT_FALSE(fs::exists(largest));
+  EXPECT_TRUE(fs::exists(above));
+  EXPECT_TRUE(fs::exists(wide));
+}
+
+TEST(AtomicFileFaults, ASaveInTheCurrentFolderTidiesItToo) {
+  const test::TempFolder folder;
+  const std::string left = folder.Write(TemporaryName(DeadProcess(), 0), "left");
+  test::ChildProcess child([&](const test::ChildProcess::Side&) {
+    return ::chdir(folder.Path("").c_str()) == 0 ? Try("a.xml", "new", "") : 3;
+  });
+  EXPECT_EQ(child.Wait(), kTaken);
+  EXPECT_EQ(ReadWholeFile(folder.Path("a.xml")), "new");
+  EXPECT_FALSE(fs::exists(left));
+}
+
+TEST(AtomicFileFaults, TellWhatStandsInTheWay) {
+  const test::TempFolder folder;
+  const std::string file = folder.Write("a.xml", "old");
+  EXPECT_EQ(Try(folder.Path(""), "x", "Is a directory"), kRefused);
+  EXPECT_EQ(Try(file + "/b.xml", "x", "Not a directory"), kRefused);
+  EXPECT_EQ(Try(folder.Path("missing/b.xml"), "x", "No such file or directory"), kRefused);
+  EXPECT_EQ(Try(folder.Path(std::string(256, 'x')), "x", "File name too long"), kRefused);
+  EXPECT_EQ(ReadWholeFile(file), "old");
+}
+
+// A program that was started without a standard input has its first file in that place.
+TEST(AtomicFileFaults, TheFirstDescriptorIsOneAsAnyOther) {
+  const test::TempFolder folder;
+  const std::string path = folder.Path("a.xml");
+  test::ChildProcess child([&path](const test::ChildProcess::Side&) {
+    ::close(STDIN_FILENO);
+    if (Try(path, "new", "") != kTaken || ReadWholeFile(path) != "new") return 2;
+    return ::open("/dev/null", O_RDONLY | O_CLOEXEC) == STDIN_FILENO ? 0 : 3;
+  });
+  EXPECT_EQ(child.Wait(), 0);
+}
+
+// The program of the first process is a link that only root may read.
+TEST(AtomicFileFaults, TellOfALinkThatCannotBeRead) {
+  const std::string link = "/proc/1/exe";
+  if (!fs::is_symlink(fs::symlink_status(link))) return;
+  EXPECT_EQ(TryAsNobody(link, "Permission denied"), kRefused);
+}
+
+TEST(AtomicFileFaults, AProcessHasAThousandNamesForItsTemporaries) {
+  const test::TempFolder folder;
+  for (int number = 0; number < 999; ++number) folder.Write(TemporaryName(::getpid(), number), "");
+  EXPECT_EQ(Try(folder.Path("a.xml"), "new", ""), kTaken);
+  folder.Write(TemporaryName(::getpid(), 999), "");
+  EXPECT_EQ(Try(folder.Path("a.xml"), "newer", "File exists"), kRefused);
+  EXPECT_EQ(ReadWholeFile(folder.Path("a.xml")), "new");
 }
 
 // The numbers of processes on another machine, or in another container, mean nothing here.
@@ -248,6 +310,17 @@ TEST(AtomicFile, KeepsThePermissionsOfTheFile) {
   EXPECT_EQ(ModeOf(path), 0640U);
 }
 
+// Whoever may write to a file of another user may save it; only root could keep its owner.
+TEST(AtomicFile, TakesAFileOfAnotherUser) {
+  const test::TempFolder folder;
+  const std::string path = folder.Write("a.xml", "old");
+  OpenToEveryone(folder.Path(""));
+  ASSERT_EQ(::chmod(path.c_str(), 0666), 0);
+  EXPECT_EQ(TryAsNobody(path, ""), kTaken);
+  EXPECT_EQ(ReadWholeFile(path), "new");
+  EXPECT_EQ(ModeOf(path), 0666U);
+}
+
 TEST(AtomicFile, MakesANewFileUnderTheUsersMask) {
   const test::TempFolder folder;
   const mode_t old = ::umask(027);
@@ -268,6 +341,17 @@ TEST(AtomicFile, WritesToWhereALinkLeads) {
   EXPECT_EQ(ReadWholeFile(target), "new");
   EXPECT_EQ(ReadWholeFile(folder.Path("inner/new.xml")), "made");
   EXPECT_TRUE(fs::is_symlink(folder.Path("chain")) && fs::is_symlink(folder.Path("dangling")));
+}
+
+TEST(AtomicFile, FollowsAChainOfFortyLinks) {
+  const test::TempFolder folder;
+  const std::string target = folder.Write("0", "old");
+  for (int link = 1; link <= 41; ++link) {
+    fs::create_symlink(std::to_string(link - 1), folder.Path(std::to_string(link)));
+  }
+  EXPECT_EQ(Try(folder.Path("40"), "new", ""), kTaken);
+  EXPECT_EQ(Try(folder.Path("41"), "newer", "Too many levels of symbolic links"), kRefused);
+  EXPECT_EQ(ReadWholeFile(target), "new");
 }
 
 TEST(AtomicFile, RefusesLinksThatGoInACircle) {

@@ -1,8 +1,15 @@
 // A joystick counts as unplugged while it has no device file.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <filesystem>
+
+#include "platform/Folder.h"
 #include "platform/Joystick.h"
+#include "support/TempFolder.h"
+#include "support/posix/ChildProcess.h"
 
 namespace mortane {
 namespace {
@@ -12,6 +19,59 @@ TEST(SystemJoystickFile, ThatIsNotThereIsAnUnpluggedJoystick) {
   SystemJoystick joystick;
   EXPECT_EQ(joystick.ReadStatus() == kJoystickUnplugged, missing);
   EXPECT_EQ(joystick.ReadCapabilities().result == kJoystickUnplugged, missing);
+}
+
+struct FileRow {
+  const char* meaning;
+  mode_t kind;  // 0 for a link that leads to itself
+  std::int32_t capabilities;
+  std::int32_t status;
+};
+
+// A socket gives the error of a device that has gone. The others open, but no driver answers.
+constexpr FileRow kRows[] = {
+    {"socket", S_IFSOCK, kJoystickUnplugged, kJoystickUnplugged},
+    {"file", S_IFREG, kJoystickNoDriver, kJoystickOk},
+    {"folder", S_IFDIR, kJoystickNoDriver, kJoystickNoDriver},
+    {"pipe", S_IFIFO, kJoystickNoDriver, kJoystickOk},
+    {"link", 0, kJoystickNoDriver, kJoystickNoDriver},
+};
+
+bool Make(const FileRow& row, const std::string& path) {
+  if (row.kind == 0) return ::symlink("js0", path.c_str()) == 0;
+  if (row.kind == S_IFDIR) return ::mkdir(path.c_str(), 0700) == 0;
+  return ::mknod(path.c_str(), row.kind | 0600U, 0) == 0;
+}
+
+// What a child answers whose file system holds nothing but that folder.
+int InRoot(const std::string& root, std::int32_t (*ask)(SystemJoystick&)) {
+  test::ChildProcess child([&](const test::ChildProcess::Side&) {
+    test::EnterRoot(root);
+    SystemJoystick joystick;
+    return static_cast<int>(ask(joystick));
+  });
+  return child.Wait();
+}
+
+std::int32_t Status(SystemJoystick& joystick) {
+  return joystick.ReadStatus();
+}
+
+std::int32_t Capabilities(SystemJoystick& joystick) {
+  const JoystickCapabilities capabilities = joystick.ReadCapabilities();
+  return capabilities.buttonCount == 0 ? capabilities.result : -1;
+}
+
+TEST(SystemJoystickFile, OfEachKindGivesItsOwnResult) {
+  if (!test::MayEnterRoot()) return;
+  for (const FileRow& row : kRows) {
+    const test::TempFolder root;
+    ASSERT_TRUE(MakeFolder(root.Path("dev/input")));
+    EXPECT_EQ(InRoot(root.Path(""), &Status), kJoystickUnplugged) << "nothing there yet";
+    ASSERT_TRUE(Make(row, root.Path("dev/input/js0"))) << row.meaning;
+    EXPECT_EQ(InRoot(root.Path(""), &Capabilities), row.capabilities) << row.meaning;
+    EXPECT_EQ(InRoot(root.Path(""), &Status), row.status) << row.meaning;
+  }
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/NamedMutex.h"
+#include "support/TempFolder.h"
 #include "support/UniqueName.h"
 #include "support/posix/ChildProcess.h"
 
@@ -95,6 +96,93 @@ TEST(NamedMutexFolder, IsTheFirstThatAllUsersShare) {
   struct stat status = {};
   const bool shared = ::stat("/run/lock", &status) == 0 && (status.st_mode & 01777U) == 01777U;
   EXPECT_EQ(LockFile(unique.Text()).parent_path(), shared ? "/run/lock" : "/tmp");
+}
+
+struct FolderRow {
+  const char* meaning;
+  int runLock;  // the mode of /run/lock and of /tmp; 0 for none
+  int tmp;
+  const char* used;  // empty when the name cannot be opened
+};
+
+constexpr FolderRow kFolderRows[] = {
+    {"both", 01777, 01777, "run/lock"},
+    {"no /run/lock", 0, 01777, "tmp"},
+    {"no sticky bit", 0777, 01777, "tmp"},
+    {"nothing for others", 01770, 01777, "tmp"},
+    {"no other that is shared", 0755, 0755, "tmp"},
+    {"neither", 0, 0, ""},
+};
+
+TEST(NamedMutexFolder, IsChosenByWhoMayWriteThere) {
+  if (!test::MayEnterRoot()) return;
+  for (const FolderRow& row : kFolderRows) {
+    const test::TempFolder root;
+    const auto make = [&root](const char* name, int mode) {
+      if (mode == 0) return;
+      std::filesystem::create_directories(root.Path(name));
+      std::filesystem::permissions(root.Path(name), static_cast<std::filesystem::perms>(mode));
+    };
+    make("run/lock", row.runLock);
+    make("tmp", row.tmp);
+    test::ChildProcess child([&root](const test::ChildProcess::Side&) {
+      test::EnterRoot(root.Path(""));
+      NamedMutex::SetScope("");
+      return static_cast<int>(NamedMutex().Open("a"));
+    });
+    const std::string used = row.used;
+    EXPECT_EQ(child.Wait(), static_cast<int>(used.empty() ? Opened::Failed : Opened::First))
+        << row.meaning;
+    for (const std::string folder : {"run/lock", "tmp"}) {
+      EXPECT_EQ(std::filesystem::exists(root.Path(folder + "/mortane-a.lock")), folder == used)
+          << row.meaning << ", " << folder;
+    }
+  }
+}
+
+struct NameRow {
+  const char* name;
+  const char* inFile;
+};
+
+TEST(NamedMutexFile, HasTheNameWithCodesForWhatAFileNameMayNotHold) {
+  const NameRow rows[] = {{"09AZaz-_.", "09AZaz-_."},
+                          {" !,/:@", "%20%21%2C%2F%3A%40"},
+                          {"[^`{~", "%5B%5E%60%7B%7E"},
+                          {"\n\x01\xC2\xB5", "%0A%01%C2%B5"}};
+  for (const NameRow& row : rows) {
+    const test::UniqueName unique;
+    ASSERT_EQ(NamedMutex().Open(unique.Text() + row.name), Opened::First);
+    EXPECT_FALSE(LockFile(unique.Text() + row.inFile).empty()) << row.inFile;
+  }
+}
+
+TEST(NamedMutexFile, ThatIsAPipeOrAFolderIsRefused) {
+  const test::UniqueName unique;
+  ASSERT_EQ(NamedMutex().Open(unique.Text()), Opened::First);
+  const std::filesystem::path file = LockFile(unique.Text());
+  ASSERT_FALSE(file.empty());
+  std::filesystem::remove(file);
+  ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
+  EXPECT_EQ(NamedMutex().Open(unique.Text()), Opened::Failed);
+  std::filesystem::remove(file);
+  ASSERT_EQ(::mkdir(file.c_str(), 0700), 0);
+  EXPECT_EQ(NamedMutex().Open(unique.Text()), Opened::Failed);
+}
+
+TEST(NamedMutexWait, OfNoTimeComesBackWithoutTheMutex) {
+  const test::UniqueName unique;
+  NamedMutex owner;
+  ASSERT_EQ(owner.Open(unique.Text()), Opened::First);
+  owner.Lock(0);
+  test::ChildProcess waiter([&](const test::ChildProcess::Side&) {
+    NamedMutex mutex;
+    if (mutex.Open(unique.Text()) != Opened::AlreadyExisted) return 1;
+    mutex.Lock(0);
+    mutex.Lock(1);
+    return 0;
+  });
+  EXPECT_EQ(waiter.Wait(), 0);
 }
 
 TEST(NamedMutexWait, LastsAsLongAsItWasAskedTo) {

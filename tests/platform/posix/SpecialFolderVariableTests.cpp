@@ -8,6 +8,7 @@
 
 #include "platform/SpecialFolder.h"
 #include "support/TempFolder.h"
+#include "support/posix/ChildProcess.h"
 
 namespace mortane {
 namespace {
@@ -50,6 +51,7 @@ TEST(GetSpecialFolder, FollowsTheConfigurationFolderAndThenHome) {
       {nullptr, "/people/u/", "/people/u/.config"},
       {"relative", "/people/u", "/people/u/.config"},
       {"/", "/people/u", "/"},
+      {"//", "/people/u", "/"},
   };
   for (const Row& row : rows) {
     const Variable configured("XDG_CONFIG_HOME", row.configured);
@@ -80,6 +82,24 @@ TEST(GetSpecialFolder, AsksTheUserTableWithoutHome) {
   EXPECT_EQ(GetSpecialFolder(kApplicationDataFolder), expected);
 }
 
+TEST(SpecialFolders, AreNoneForAUserWithoutHomeAndEntry) {
+  if (!test::MayEnterRoot()) return;
+  const test::TempFolder root;
+  test::ChildProcess child([&root](const test::ChildProcess::Side&) {
+    test::EnterRoot(root.Path(""));
+    constexpr uid_t kUnknown = 54321;
+    if (::geteuid() == 0 && ::setuid(kUnknown) != 0) return 2;
+    const Variable config("XDG_CONFIG_HOME", nullptr);
+    const Variable data("XDG_DATA_HOME", nullptr);
+    const Variable home("HOME", nullptr);
+    return GetSpecialFolder(kApplicationDataFolder).empty() && UserDataFolder().empty() &&
+                   DocumentsFolder().empty()
+               ? 0
+               : 1;
+  });
+  EXPECT_EQ(child.Wait(), 0);
+}
+
 TEST(DocumentsFolder, IsTheOneThatTheDesktopNamesElseTheHomeFolder) {
   const test::TempFolder folder;
   const Variable config("XDG_CONFIG_HOME", folder.Path(".").c_str());
@@ -90,7 +110,8 @@ TEST(DocumentsFolder, IsTheOneThatTheDesktopNamesElseTheHomeFolder) {
   EXPECT_EQ(DocumentsFolder(), "/homes/someone/D \xC3\xA4");
   folder.Write("user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"/data/documents/\"\n");
   EXPECT_EQ(DocumentsFolder(), "/data/documents");
-  for (const char* wrong : {"XDG_DOCUMENTS_DIR=\"", "XDG_DOCUMENTS_DIR=\"here\"\n", "nonsense"}) {
+  for (const char* wrong : {"XDG_DOCUMENTS_DIR=\"", "XDG_DOCUMENTS_DIR=\"here\"\n", "nonsense",
+                            "XDG_DOCUMENTS_DIR=\"/data\n", "XDG_VIDEOS_DIR=\"/data/videos\"\n"}) {
     folder.Write("user-dirs.dirs", wrong);
     EXPECT_EQ(DocumentsFolder(), "/homes/someone") << wrong;
   }

@@ -4,6 +4,9 @@
 #include <sys/utsname.h>
 
 #include "platform/AtomicFile.h"
+#include "platform/Folder.h"
+#include "support/TempFolder.h"
+#include "support/posix/ChildProcess.h"
 
 namespace mortane {
 namespace {
@@ -19,6 +22,35 @@ TEST(SystemDescription, IsTheReleasesOwnNameAndTheProcessor) {
   EXPECT_NE(ReadWholeFile("/etc/os-release").find("PRETTY_NAME=\"" + name + "\"\n"),
             std::string::npos)
       << name;
+}
+
+struct ReleaseRow {
+  const char* file;
+  const char* name;  // empty for that of the kernel
+};
+
+TEST(SystemDescription, IsThatOfTheKernelWhereTheReleaseHasNoName) {
+  if (!test::MayEnterRoot()) return;
+  utsname kernel = {};
+  ASSERT_EQ(::uname(&kernel), 0);
+  const ReleaseRow rows[] = {
+      {"NAME=\"A\"\nPRETTY_NAME=\"A system 4 (new)\"\nID=a\n", "A system 4 (new)"},
+      {"PRETTY_NAME=Plain", "Plain"},
+      {"NAME=\"A\"\n", ""},
+      {"", ""},
+  };
+  for (const ReleaseRow& row : rows) {
+    const test::TempFolder root;
+    ASSERT_TRUE(MakeFolder(root.Path("etc")));
+    root.Write("etc/os-release", row.file);
+    std::string expected = row.name;
+    if (expected.empty()) expected = std::string(kernel.sysname) + " " + kernel.release;
+    test::ChildProcess child([&](const test::ChildProcess::Side&) {
+      test::EnterRoot(root.Path(""));
+      return SystemDescription() == expected + ", " + kernel.machine ? 0 : 1;
+    });
+    EXPECT_EQ(child.Wait(), 0) << row.file;
+  }
 }
 
 }  // namespace

@@ -5,7 +5,10 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <vector>
 
 #include "support/posix/ChildProcess.h"
 
@@ -44,12 +47,33 @@ TEST(Terminal, APipeIsNone) {
   ::close(ends[1]);
 }
 
+int WriteToAFullDevice(const ChildProcess::Side& /*test*/) {
+  const OutputTo device(::open("/dev/full", O_WRONLY | O_CLOEXEC));
+  return WriteStandardOutput("a line\n") == "No space left on device" ? 0 : 1;
+}
+
 TEST(Terminal, AFullDeviceGivesItsReason) {
-  const int full = ::open("/dev/full", O_WRONLY | O_CLOEXEC);
-  ASSERT_GE(full, 0);
-  const OutputTo device(full);
-  EXPECT_EQ(WriteStandardOutput("a line\n"), "No space left on device");
-  ::close(full);
+  EXPECT_EQ(ChildProcess(WriteToAFullDevice).Wait(), 0);
+}
+
+constexpr StandardStream kStreams[] = {StandardStream::Input, StandardStream::Output,
+                                       StandardStream::Error};
+
+// A pseudo-terminal in place of one stream, and files in place of the others.
+TEST(Terminal, IsToldOfEachStreamByItself) {
+  for (int terminal = 0; terminal < 3; ++terminal) {
+    ChildProcess child([terminal](const ChildProcess::Side& /*test*/) {
+      const int main = ::posix_openpt(O_RDWR | O_NOCTTY);
+      if (main < 0 || ::grantpt(main) != 0 || ::unlockpt(main) != 0) return 4;
+      const int end = ::open(::ptsname(main), O_RDWR | O_NOCTTY);
+      const int file = ::open("/dev/null", O_RDWR | O_CLOEXEC);
+      for (int i = 0; i < 3; ++i) ::dup2(i == terminal ? end : file, i);
+      int found = 0;
+      for (int i = 0; i < 3; ++i) found += IsTerminal(kStreams[i]) == (i == terminal) ? 1 : 0;
+      return found;
+    });
+    EXPECT_EQ(child.Wait(), 3) << terminal;
+  }
 }
 
 int WriteToNobody(const ChildProcess::Side& /*test*/) {
@@ -70,6 +94,30 @@ int OpenAFileWithoutAnOutput(const ChildProcess::Side& /*test*/) {
 
 TEST(Terminal, AReaderThatIsGoneIsAReasonAndNoSignal) {
   EXPECT_EQ(ChildProcess(WriteToNobody).Wait(), 0);
+}
+
+// 0 when each missing stream is filled so that its use fails, and no other file was opened.
+int FillMissing(const std::vector<int>& missing) {
+  for (const int stream : {0, 1, 2}) ::dup2(::open("/dev/null", O_RDWR), stream);
+  for (int file = 3; file < 64; ++file) ::close(file);
+  for (const int stream : missing) ::close(stream);
+  PrepareStandardStreams();
+  int wrong = ::open("/dev/null", O_RDONLY) == 3 ? 0 : 10;
+  for (const int stream : {0, 1, 2}) {
+    char byte = 0;
+    const ssize_t moved = stream == 0 ? ::read(0, &byte, 1) : ::write(stream, &byte, 1);
+    const bool isMissing = std::find(missing.begin(), missing.end(), stream) != missing.end();
+    if ((moved < 0) != isMissing) ++wrong;
+  }
+  return wrong;
+}
+
+TEST(Terminal, EachMissingStreamIsFilledAndNoOther) {
+  const std::vector<int> rows[] = {{}, {0}, {1}, {2}, {0, 1}, {0, 2}, {1, 2}, {0, 1, 2}};
+  for (const std::vector<int>& missing : rows) {
+    ChildProcess child([&](const ChildProcess::Side& /*test*/) { return FillMissing(missing); });
+    EXPECT_EQ(child.Wait(), 0) << testing::PrintToString(missing);
+  }
 }
 
 TEST(Terminal, NoFileTakesThePlaceOfAMissingStream) {

@@ -1,6 +1,7 @@
 #include "support/posix/ChildProcess.h"
 
 #include <grp.h>
+#include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,6 +16,7 @@ namespace {
 
 constexpr int kExceptionCode = 99;
 constexpr uid_t kNobody = 65534;
+constexpr unsigned kLongestSeconds = 20;
 
 void Check(bool succeeded, const char* what) {
   if (!succeeded) throw std::runtime_error(what);
@@ -58,6 +60,7 @@ ChildProcess::ChildProcess(const std::function<int(const Side&)>& body) {
   if (child_ == 0) {
     ::close(toChild[1]);
     ::close(toParent[0]);
+    ::alarm(kLongestSeconds);
     // No exit handlers: they belong to the test program.
     ::_exit(RunBody(body, Side(toChild[0], toParent[1])));
   }
@@ -108,6 +111,21 @@ void DropPrivileges() {
   if (::geteuid() != 0) return;
   Check(::setgroups(0, nullptr) == 0 && ::setgid(kNobody) == 0 && ::setuid(kNobody) == 0,
         "cannot become nobody");
+}
+
+void EnterRoot(const std::string& folder) {
+  // In a user namespace of its own a process of any user may change its root.
+  const bool entered = ::chroot(folder.c_str()) == 0 ||
+                       (::unshare(CLONE_NEWUSER) == 0 && ::chroot(folder.c_str()) == 0);
+  Check(entered && ::chdir("/") == 0, "cannot change the root");
+}
+
+bool MayEnterRoot() {
+  ChildProcess child([](const ChildProcess::Side&) {
+    EnterRoot("/");
+    return 0;
+  });
+  return child.Wait() == 0;
 }
 
 }  // namespace mortane::test

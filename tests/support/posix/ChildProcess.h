@@ -4,6 +4,7 @@
 #include <sys/types.h>
 
 #include <functional>
+#include <string>
 
 namespace mortane::test {
 
@@ -22,7 +23,8 @@ class ChildProcess {
     int out_;
   };
 
-  // Runs `body` in a child, whose exit code is what `body` answers; an exception makes it 99.
+  // Runs `body` in a child, whose exit code is what `body` answers; an exception makes it 99. A
+  // child that does not end is ended by SIGALRM after twenty seconds.
   explicit ChildProcess(const std::function<int(const Side&)>& body);
   ~ChildProcess();  // kills and reaps what still runs
   ChildProcess(const ChildProcess&) = delete;
@@ -46,5 +48,10 @@ class ChildProcess {
 
 // Makes the calling process, a child of a test, one that the permissions of files bind.
 void DropPrivileges();
+
+// Makes `folder` the root of all paths of the calling process, a child of a test.
+void EnterRoot(const std::string& folder);
+// Whether the system lets a child do so: it lets root, and most let everybody.
+bool MayEnterRoot();
 
 }  // namespace mortane::test
