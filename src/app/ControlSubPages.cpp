@@ -1,7 +1,10 @@
 #include "app/ControlSubPages.h"
 
+#include <memory>
+
 #include "app/FormServices.h"
 #include "app/MakePages.h"
+#include "switches/JoypadSettings.h"
 #include "switches/JoypadSwitchSettingCtl.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
@@ -17,6 +20,8 @@ ControlSubPage WithPosition(LateDrive drive) {
 
 ControlSubPages MakeControlSubPages(const FormServices& services) {
   clsK70& k70 = services.k70;
+  // Read now, and saved at the end, also where the page is never made.
+  const auto joypad = std::make_shared<JoypadSettings>(services.joystick, services.applicationData);
   return {{
       WithPosition(PlanFocusDrive(k70)),
       WithPosition(PlanXYStage(k70)),
@@ -25,7 +30,13 @@ ControlSubPages MakeControlSubPages(const FormServices& services) {
       {.plan = {.make = [&k70,
                          &prompts = services.prompts] { return MakeTactorSwitches(k70, prompts); },
                 .load = ChangesNothing}},
-      {new JoypadSwitchSettingCtl(services.joystick, services.applicationData)},
+      {.plan = {.make = [joypad] { return new JoypadSwitchSettingCtl(joypad); },
+                .load = ChangesNothing,
+                .save =
+                    [joypad] {
+                      joypad->Save();
+                      return true;
+                    }}},
   }};
 }
 

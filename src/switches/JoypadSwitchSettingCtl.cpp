@@ -5,9 +5,10 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <utility>
 
-#include "common/Failure.h"
 #include "switches/JoypadAssignments.h"
+#include "switches/JoypadSettings.h"
 #include "switches/ReportList.h"
 #include "switches/ShownField.h"
 #include "switches/SwitchFunctions.h"
@@ -30,9 +31,12 @@ constexpr int kListCharacters = 36;
 
 JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick, std::string applicationData,
                                                QWidget* parent)
-    : CardPage(u"Joypad Switch Settings"_s, parent),
-      joystick_(joystick),
-      applicationData_(std::move(applicationData)) {
+    : JoypadSwitchSettingCtl(std::make_shared<JoypadSettings>(joystick, std::move(applicationData)),
+                             parent) {}
+
+JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(std::shared_ptr<JoypadSettings> settings,
+                                               QWidget* parent)
+    : CardPage(u"Joypad Switch Settings"_s, parent), settings_(std::move(settings)) {
   Frame1 = static_cast<Card*>(FrameBase);
   textSwFunc = ShownField("Function", FrameBase);
   whyEmpty = CaptionLabel(
@@ -44,15 +48,11 @@ JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick, std::string a
   ListView1->setAccessibleName(u"Button"_s);
   lstSwFunc->setAccessibleName(u"Function"_s);
   TakeFocusByClicks(*cmdAllClear);
-  TakeJoystick();
+  ShowFit();
   BuildLayout();
   connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { SelectRow(row); });
   connect(lstSwFunc, &ListBox::selectionChanged, this, [this](int function) { Choose(function); });
   connect(cmdAllClear, &QPushButton::clicked, this, [this] { ClearAll(); });
-}
-
-JoypadSwitchSettingCtl::~JoypadSwitchSettingCtl() {
-  JoypadSwitchSettingCtl::SaveData();
 }
 
 void JoypadSwitchSettingCtl::BuildLayout() {
@@ -74,23 +74,9 @@ void JoypadSwitchSettingCtl::BuildLayout() {
   cmdAllClear->raise();  // the last one that screen readers meet
 }
 
-bool JoypadSwitchSettingCtl::TakeJoystick() {
-  const bool fitted = fits_;
-  bool changed = !fitted;
-  try {
-    if (assignments_) {
-      changed = assignments_->TakeButtons(joystick_) || changed;
-    } else {
-      assignments_ = std::make_unique<JoypadAssignments>(joystick_, applicationData_);
-    }
-    fits_ = true;
-  } catch (const Failure&) {
-    fits_ = false;
-    changed = fitted;
-  }
-  cmdAllClear->setEnabled(fits_);
-  whyEmpty->setVisible(!fits_);
-  return changed;
+void JoypadSwitchSettingCtl::ShowFit() {
+  cmdAllClear->setEnabled(settings_->fits());
+  whyEmpty->setVisible(!settings_->fits());
 }
 
 void JoypadSwitchSettingCtl::LoadData() {
@@ -100,21 +86,25 @@ void JoypadSwitchSettingCtl::LoadData() {
   }
   EnableFunctions(false);
   ListView1->clearRows();
-  if (!fits_) return;
-  for (const std::string& name : assignments_->RowNames()) {
+  if (!settings_->fits()) return;
+  for (const std::string& name : settings_->assignments().RowNames()) {
     ListView1->addCells({ToQString(name), {}});
   }
-  for (std::int32_t i = 1; i <= assignments_->CodeCount(); ++i) {
-    ShowFunction(i - 1, lstSwFunc->text(assignments_->Code(i)));
+  for (std::int32_t i = 1; i <= settings_->assignments().CodeCount(); ++i) {
+    ShowFunction(i - 1, lstSwFunc->text(settings_->assignments().Code(i)));
   }
 }
 
 void JoypadSwitchSettingCtl::SaveData() {
-  if (fits_) assignments_->Save();
+  settings_->Save();
 }
 
 void JoypadSwitchSettingCtl::showEvent(QShowEvent* event) {
-  if (!event->spontaneous() && TakeJoystick()) LoadData();
+  if (!event->spontaneous()) {
+    const bool changed = settings_->TakeJoystick();
+    ShowFit();
+    if (changed) LoadData();
+  }
   CardPage::showEvent(event);
 }
 
@@ -137,22 +127,23 @@ void JoypadSwitchSettingCtl::SelectRow(int row) {
   ListView1->SetBoldRow(row);
   EnableFunctions(true);
   const QSignalBlocker quiet(lstSwFunc);
-  lstSwFunc->setIndex(assignments_->Code(row + 1));
+  lstSwFunc->setIndex(settings_->assignments().Code(row + 1));
 }
 
 void JoypadSwitchSettingCtl::Choose(int function) {
   const int row = ListView1->index();
   if (row < 0) return;
   textSwFunc->setText(lstSwFunc->text(function));
-  assignments_->Code(row + 1, static_cast<std::int16_t>(lstSwFunc->data(function).toInt()));
+  settings_->assignments().Code(row + 1,
+                                static_cast<std::int16_t>(lstSwFunc->data(function).toInt()));
   ShowFunction(row, lstSwFunc->text(function));
 }
 
 // Kept: the rows show numbers, and names again after the next loading.
 void JoypadSwitchSettingCtl::ClearAll() {
-  assignments_->Clear();
-  for (std::int32_t i = 1; i <= assignments_->CodeCount(); ++i) {
-    ShowFunction(i - 1, QString::number(assignments_->Code(i)));
+  settings_->assignments().Clear();
+  for (std::int32_t i = 1; i <= settings_->assignments().CodeCount(); ++i) {
+    ShowFunction(i - 1, QString::number(settings_->assignments().Code(i)));
   }
 }
 

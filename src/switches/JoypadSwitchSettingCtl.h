@@ -13,24 +13,25 @@ class QPushButton;
 namespace mortane {
 
 class Card;
+class JoypadSettings;
 class Joystick;
-class JoypadAssignments;
 class ListBox;
 class ReportList;
 class TextField;
 
-// The assignments are read when the page is made, and saved when it is hidden and when it is
-// destroyed, whether it was ever shown or not. Whenever it is shown the joystick is asked again,
-// and one with other buttons gets its rows. One with more buttons than there are assignments leaves
-// the page without a row: it says so, and saves nothing.
+// The assignments are saved when the page is hidden, and by the settings when they end. Whenever
+// the page is shown the joystick is asked again, and one with other buttons gets its rows. One with
+// more buttons than there are assignments leaves the page without a row: it says so, and saves
+// nothing.
 class JoypadSwitchSettingCtl : public CardPage {
   Q_OBJECT
 
  public:
-  // The joystick must live as long. `applicationData` is the user's folder for it.
+  explicit JoypadSwitchSettingCtl(std::shared_ptr<JoypadSettings> settings,
+                                  QWidget* parent = nullptr);
+  // With settings of its own.
   JoypadSwitchSettingCtl(Joystick& joystick, std::string applicationData,
                          QWidget* parent = nullptr);
-  ~JoypadSwitchSettingCtl() override;
 
   void LoadData() override;
   void SaveData() override;
@@ -48,18 +49,15 @@ class JoypadSwitchSettingCtl : public CardPage {
 
  private:
   void BuildLayout();
-  // Takes what the joystick has now. True when the page shows something else.
-  bool TakeJoystick();
+  // Says whether the joystick has more buttons than there are assignments.
+  void ShowFit();
   void EnableFunctions(bool enabled);
   void SelectRow(int row);
   void Choose(int function);
   void ClearAll();
   void ShowFunction(int row, const QString& text);
 
-  Joystick& joystick_;
-  std::string applicationData_;
-  std::unique_ptr<JoypadAssignments> assignments_;  // empty until a joystick's buttons fit
-  bool fits_ = false;  // the buttons of the joystick that was asked last
+  std::shared_ptr<JoypadSettings> settings_;
 };
 
 }  // namespace mortane
