@@ -38,13 +38,11 @@ std::size_t PageOf(const ItemKey& key) {
 }
 
 void PendingChanges::TakeReceived() {
-  Take(&clsK70::WasRead);
-  TakeDocument();
+  Take(&clsK70::WasRead, true);
 }
 
 void PendingChanges::TakeSent(Outcome sent) {
-  Take(&clsK70::WasSent);
-  if (sent == Outcome::Complete) TakeDocument();
+  Take(&clsK70::WasSent, sent == Outcome::Complete);
 }
 
 void PendingChanges::Forget() {
@@ -52,16 +50,11 @@ void PendingChanges::Forget() {
   device_.clear();
 }
 
-void PendingChanges::TakeDocument() {
-  if (!held_) return;
-  document_ = DomDocument();
-  k70_.WriteSections(document_);
-  device_ = FirstCharacters(k70_.SystemName, kSystemNameLength);
-}
-
-void PendingChanges::Take(Done done) {
+void PendingChanges::Take(Done done, bool wholeDocument) {
   try {
-    ConfigurationState now = StateOf(k70_);
+    DomDocument sections;
+    k70_.WriteSections(sections);
+    ConfigurationState now = StateOf(k70_, sections);
     if (held_) {
       const ItemIndex before(held_->items);
       for (ConfigurationItem& item : now.items) {
@@ -70,6 +63,9 @@ void PendingChanges::Take(Done done) {
       }
     }
     held_ = std::move(now);
+    if (!wholeDocument) return;
+    document_ = std::move(sections);
+    device_ = FirstCharacters(k70_.SystemName, kSystemNameLength);
   } catch (const Failure&) {
     held_.reset();
   }

@@ -38,8 +38,7 @@ class PendingChanges {
 
  private:
   using Done = bool (clsK70::*)(std::string_view transfer) const;
-  void Take(Done done);
-  void TakeDocument();
+  void Take(Done done, bool wholeDocument);
 
   const clsK70& k70_;
   std::optional<ConfigurationState> held_;

@@ -231,6 +231,10 @@ ConfigurationState StateOf(const clsK70& k70) {
   return {ItemsOf(k70), ItemNames(k70)};
 }
 
+ConfigurationState StateOf(const clsK70& k70, const DomDocument& sections) {
+  return {ItemsOf(k70, sections), ItemNames(k70)};
+}
+
 ConfigurationState StateOf(const DomDocument& document) {
   std::vector<ConfigurationItem> items = ItemsOf(document);
   ItemNames names(items);

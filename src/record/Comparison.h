@@ -19,6 +19,8 @@ struct ConfigurationState {
 };
 
 ConfigurationState StateOf(const clsK70& k70);
+// The same from `sections`, which the model has just written.
+ConfigurationState StateOf(const clsK70& k70, const DomDocument& sections);
 ConfigurationState StateOf(const DomDocument& document);
 
 // In the order of the file. `from` is what the microscope holds, `to` what the model would send.

@@ -114,9 +114,13 @@ std::string ExactValue(const clsK70& k70, const ConfigurationItem& item) {
 }  // namespace
 
 std::vector<ConfigurationItem> ItemsOf(const clsK70& k70) {
-  DomDocument document;
-  k70.WriteSections(document);
-  std::vector<ConfigurationItem> items = ItemsOf(document);
+  DomDocument sections;
+  k70.WriteSections(sections);
+  return ItemsOf(k70, sections);
+}
+
+std::vector<ConfigurationItem> ItemsOf(const clsK70& k70, const DomDocument& sections) {
+  std::vector<ConfigurationItem> items = ItemsOf(sections);
   for (ConfigurationItem& item : items) item.exact = ExactValue(k70, item);
   return items;
 }
