@@ -55,7 +55,9 @@ void HelpLine::FitHeight() {
   const QFontMetrics metrics = LabelHelp->fontMetrics();
   const QRect room(0, 0, width() - kTextLeft - grid::kPageMargin, QWIDGETSIZE_MAX);
   int text = kLeastLines * metrics.lineSpacing();
-  for (qsizetype i = 0; i < texts_.size(); ++i) {
+  // No text is broken before a layout has told the width.
+  const qsizetype count = testAttribute(Qt::WA_Resized) ? texts_.size() : 0;
+  for (qsizetype i = 0; i < count; ++i) {
     if (widths_[i] <= room.width()) continue;  // one line
     const QRect needed = metrics.boundingRect(room, Qt::TextWordWrap, texts_[i]);
     text = qMax(text, needed.height());

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QRadioButton>
+#include <QStringListModel>
 #include <QVBoxLayout>
 #include <functional>
 #include <utility>
@@ -64,12 +65,12 @@ SelSetupItemCtl::SelSetupItemCtl(clsK70& k70, QWidget* parent)
     : Page(parent), CommonDialog1(SettingsFileQuestion()), k70_(k70) {
   Header = new PageHeader(IconName::CheckList, u"Setup Items"_s, this);
   FrameBase = new Card({}, this);
-  List1 = new ListBox(FrameBase);
+  QStringList names;
+  for (const SetupItem& item : kSetupItems) names.append(QLatin1String(item.name));
+  List1 = new QStringListModel(names, this);
   BuildOptions();
   ListStandard = new ModeList(Frame1);
   ListCustom = new ModeList(Frame1, [this] { RaiseRows(*ListCustom); });
-  List1->hide();
-  for (const SetupItem& item : kSetupItems) List1->addRow(QLatin1String(item.name));
   Watch(*ListStandard, kModes[kStandard]);
   Watch(*ListCustom, kModes[kCustom]);
   ListStandard->setEnabled(false);
@@ -155,7 +156,7 @@ bool SelSetupItemCtl::IsOffered(int item) const {
 // The check of a new row counts as a click. The list tells of a check mark that changes; a row that
 // stays unchecked counts as well.
 void SelSetupItemCtl::AddRow(ListBox& list, int item, bool checked) {
-  const int row = list.addRow(List1->text(item), item);
+  const int row = list.addRow(List1->stringList().at(item), item);
   list.SetRowChecked(row, checked);
   if (!checked) RaiseRow(list, row);
 }

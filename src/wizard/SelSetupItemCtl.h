@@ -8,6 +8,7 @@
 #include "widgets/Page.h"
 
 class QFrame;
+class QStringListModel;
 
 namespace mortane {
 
@@ -40,7 +41,7 @@ class SelSetupItemCtl : public Page {
 
   Control<PageHeader> Header{"Header"};
   Control<Card> FrameBase{"FrameBase"};
-  Control<ListBox> List1{"List1"};  // hidden, the names by the number of the item
+  Control<QStringListModel> List1{"List1"};  // the names by the number of the item; never shown
   Control<QFrame> Frame1{"Frame1"};
   Control<OptionGroup> optSetupMode{"optSetupMode"};
   Control<ModeList> ListStandard{"ListStandard"};
