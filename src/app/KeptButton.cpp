@@ -11,10 +11,8 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 
 KeptButton::KeptButton(QWidget* parent) : QToolButton(parent) {
-  auto* menu = new QMenu(this);
-  OpenKept = menu->addAction(u"Open"_s);
-  LetKeptGo = menu->addAction(u"Let Go"_s);
-  setMenu(menu);
+  OpenKept = new QAction(u"Open"_s, this);
+  LetKeptGo = new QAction(u"Let Go"_s, this);
   setPopupMode(InstantPopup);
   setFont(CaptionFont());
   setAutoRaise(true);
@@ -26,6 +24,12 @@ KeptButton::KeptButton(QWidget* parent) : QToolButton(parent) {
 void KeptButton::ShowLeft(const std::optional<UnsentEdits::Left>& left) {
   setVisible(left.has_value());
   if (!left) return;
+  // Most sessions find nothing that was left, and do without the menu.
+  if (menu() == nullptr) {
+    auto* menu = new QMenu(this);
+    menu->addActions({OpenKept, LetKeptGo});
+    setMenu(menu);
+  }
   const QString time = QLocale::c().toString(left->time, u"d MMM HH:mm"_s);
   setText(u"Unsent changes of %1 were kept"_s.arg(time));
 }

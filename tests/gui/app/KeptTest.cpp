@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QDropEvent>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QToolButton>
@@ -147,6 +148,10 @@ TEST_F(Kept, EditsOfAProcessThatDiedAreOfferedAndOpened) {
   Start();
   EXPECT_FALSE(note().ButtonKept->isHidden());
   EXPECT_TRUE(note().ButtonKept->text().startsWith("Unsent changes of "));
+  ASSERT_NE(note().ButtonKept->menu(), nullptr);
+  QStringList offered;
+  for (const QAction* action : note().ButtonKept->menu()->actions()) offered << action->text();
+  EXPECT_EQ(offered, QStringList({"Open", "Let Go"}));
   QApplication::processEvents();
   const QToolButton& button = *note().ButtonKept;
   EXPECT_EQ(button.size(), button.sizeHint());
