@@ -1,5 +1,6 @@
 #include "drawings/MicroscopeDrawing.h"
 
+#include "gui/support/Scanline.h"
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
@@ -119,6 +120,60 @@ TEST(MicroscopeDrawing, TellsTheSameInWordsAndTakesNoFocus) {
             "Nosepiece Sensor: sensed only, Condenser Control: controllable, "
             "Optical Zoom Sensor: not mounted");
   EXPECT_EQ(drawing.focusPolicy(), Qt::NoFocus);
+}
+
+struct DotRow {
+  int mounted;
+  bool enabled;
+  const char* column;  // through the dot and its surroundings
+};
+
+// Of the part that stands in front of nothing but the window.
+TEST(MicroscopeDrawing, DotsTellTheStateOfTheirPart) {
+  for (const DotRow& row : {
+           DotRow{0, true,
+                  "DrawingShade 3, ~ 1, Base 1, ~ 2, Base 6, ~ 1, disabled Text 1, ~ 2, "
+                  "DrawingShade 3"},
+           DotRow{1, true,
+                  "DrawingShade 3, ~ 1, Base 1, ~ 1, Highlight 1, ~ 1, Base 4, ~ 1, Highlight 1, ~ "
+                  "1, Base 1, ~ 1, DrawingShade 3"},
+           DotRow{
+               2, true,
+               "DrawingShade 3, ~ 1, Base 1, ~ 1, Highlight 8, ~ 1, Base 1, ~ 1, DrawingShade 3"},
+           DotRow{0, false,
+                  "~ 4, disabled Base 1, ~ 2, disabled Base 6, ~ 1, disabled Text 1, ~ 5"},
+           DotRow{1, false,
+                  "~ 4, disabled Base 1, ~ 1, disabled Text 1, ~ 1, disabled Base 4, ~ 1, disabled "
+                  "Text 1, ~ 1, disabled Base 1, ~ 4"},
+           DotRow{2, false,
+                  "~ 4, disabled Base 1, ~ 1, disabled Text 8, ~ 1, disabled Base 1, ~ 4"},
+       }) {
+    MicroscopeDrawing drawing;
+    drawing.setPalette(test::TellablePalette());
+    drawing.setEnabled(row.enabled);
+    drawing.resize(606, 370);
+    drawing.SetAccessories({{4, {}, row.mounted}});
+    const QImage dot = drawing.grab().toImage().copy(432, 33, 20, 20);
+    EXPECT_EQ(test::ColumnOf(dot), row.column) << row.mounted << row.enabled;
+  }
+}
+
+// From the end of a label without a text, at half a pixel, so that the line is sharp.
+TEST(MicroscopeDrawing, ALineLeadsFromTheLabelToTheDot) {
+  const auto line = [](int mounted, bool enabled) {
+    MicroscopeDrawing drawing;
+    drawing.setPalette(test::TellablePalette());
+    drawing.setEnabled(enabled);
+    drawing.resize(606, 370);
+    drawing.SetAccessories({{2, {}, mounted}});
+    return test::RowOf(drawing.grab().toImage().copy(0, 92, 30, 1));
+  };
+  EXPECT_EQ(line(2, true), "Window 6, ~ 1, Dark 23");
+  EXPECT_EQ(line(1, true), "Window 6, ~ 1, Dark 23");
+  EXPECT_EQ(line(2, false), "disabled Window 6, ~ 1, disabled Text 23");
+  EXPECT_EQ(line(0, true),
+            "Window 6, ~ 1, disabled Text 3, Window 3, disabled Text 4, Window 3, disabled Text 4, "
+            "Window 3, disabled Text 3");
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "gui/support/FontScope.h"
 
 namespace mortane {
@@ -153,6 +155,47 @@ TEST(MicroscopeLayout, LeavesOutWhatHasNoPlace) {
       {{0, "Nothing", 1}, {15, "More", 2}, {9, "Nosepiece", 1}}, {606, 370}, Metrics());
   ASSERT_EQ(layout.labels.size(), 1);
   EXPECT_EQ(layout.labels[0].accessory.number, 9);
+}
+
+struct PlaceRow {
+  int number;
+  bool onLeft;
+  QPointF dot;  // in design pixels
+  double labelY;
+  double reach;  // of a label towards the drawing
+};
+
+constexpr std::array kPlaces{
+    PlaceRow{1, false, {392, 60}, 65, 462},       PlaceRow{2, true, {327.5, 92.5}, 92.5, 301},
+    PlaceRow{3, false, {355, 153.5}, 153.5, 438}, PlaceRow{4, false, {442, 43}, 38, 468},
+    PlaceRow{5, true, {314, 132}, 132, 288},      PlaceRow{6, false, {368, 258}, 249, 449},
+    PlaceRow{7, false, {428, 300}, 303, 462},     PlaceRow{8, true, {282, 262}, 259, 218},
+    PlaceRow{9, true, {318, 233}, 232, 218},      PlaceRow{10, false, {375, 288}, 276, 462},
+    PlaceRow{11, true, {267, 283}, 286, 218},     PlaceRow{12, true, {296, 314}, 314, 218},
+    PlaceRow{13, false, {447, 314}, 330, 473},    PlaceRow{14, true, {289, 188.5}, 188.5, 192},
+};
+
+TEST(MicroscopeLayout, EachAccessoryStandsAtItsPartOfTheDrawing) {
+  for (const PlaceRow& row : kPlaces) {
+    const MicroscopeLayout layout =
+        LayOutMicroscope({{row.number, "Part", 2}}, MicroscopeDesignSize(), Metrics());
+    ASSERT_EQ(layout.labels.size(), 1);
+    const DrawnLabel& label = layout.labels[0];
+    EXPECT_EQ(layout.body.topLeft(), QPointF(0, 0));
+    EXPECT_EQ(label.dot, row.dot) << row.number;
+    EXPECT_NEAR(label.area.center().y(), row.labelY, 0.01) << row.number;
+    EXPECT_EQ(row.onLeft ? label.area.left() : label.area.right(), row.onLeft ? 0 : 606);
+  }
+}
+
+TEST(MicroscopeLayout, ALongLabelReachesAsFarAsTheDrawingLetsIt) {
+  const QString text(120, u'W');
+  for (const PlaceRow& row : kPlaces) {
+    const double room = (row.onLeft ? row.reach : 606 - row.reach) * 0.8 - 7;
+    EXPECT_NEAR(LeastMicroscopeWidth({{row.number, text, 2}}, Metrics()),
+                606 * 0.8 + Metrics().horizontalAdvance(text) - room, 0.01)
+        << row.number;
+  }
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 
 #include "app/ApplyTheme.h"
 #include "gui/support/FontScope.h"
+#include "gui/support/Scanline.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -153,6 +154,113 @@ TEST(SwitchMark, IsAnIconForARow) {
   }
   EXPECT_NE(MarkIcon({MarkKind::BodyDial, "1"}).pixmap(20, 20).toImage(),
             MarkIcon({MarkKind::BodySwitch, "1"}).pixmap(20, 20).toImage());
+}
+
+struct MarkRow {
+  MarkKind kind;
+  const char* resting;
+  const char* chosen;
+  const char* disabled;
+  const char* hovered;
+};
+
+// Along the middle of a mark without a text, and down through its line.
+TEST(SwitchMark, EachStateHasItsColoursAndItsLine) {
+  for (const MarkRow& row : {
+           MarkRow{MarkKind::BodyDial,
+                   "Rail 3, ~ 2, RailHover 4, ~ 1, RailText 1, ~ 1, RailHover 36, ~ 1, RailText 1, "
+                   "~ 1, RailHover 4, ~ 2, Rail 3",
+                   "Rail 3, ~ 2, Amber 4, ~ 1, OnAmber 1, ~ 1, Amber 36, ~ 1, OnAmber 1, ~ 1, "
+                   "Amber 4, ~ 2, Rail 3",
+                   "Rail 3, ~ 2, Rail 4, ~ 1, RailDisabled 1, ~ 1, Rail 36, ~ 1, RailDisabled 1, ~ "
+                   "1, Rail 4, RailDisabled 2, Rail 3",
+                   "Rail 3, ~ 2, RailSelected 4, ~ 1, RailText 1, ~ 1, RailSelected 36, ~ 1, "
+                   "RailText 1, ~ 1, RailSelected 4, ~ 2, Rail 3"},
+           MarkRow{MarkKind::BodySwitch, "Rail 3, ~ 2, RailHover 50, ~ 2, Rail 3",
+                   "Rail 3, ~ 1, Amber 52, ~ 1, Rail 3", "Rail 3, ~ 2, Rail 50, ~ 2, Rail 3",
+                   "Rail 3, ~ 2, RailSelected 50, ~ 2, Rail 3"},
+           MarkRow{MarkKind::HandDial,
+                   "Rail 3, ~ 2, Rail 1, ~ 5, Rail 38, ~ 5, Rail 1, ~ 2, Rail 3",
+                   "Rail 3, ~ 2, Rail 1, ~ 5, Rail 38, ~ 5, Rail 1, ~ 2, Rail 3",
+                   "Rail 3, ~ 2, Rail 1, ~ 5, Rail 38, ~ 5, Rail 1, RailDisabled 2, Rail 3",
+                   "Rail 3, ~ 2, RailHover 1, ~ 5, RailHover 38, ~ 5, RailHover 1, ~ 2, Rail 3"},
+           MarkRow{MarkKind::HandKey, "Rail 3, ~ 2, Rail 50, ~ 2, Rail 3",
+                   "Rail 2, ~ 1, Amber 2, ~ 1, Rail 48, ~ 1, Amber 2, ~ 1, Rail 2",
+                   "Rail 3, ~ 2, Rail 55", "Rail 3, ~ 2, RailHover 50, ~ 2, Rail 3"},
+       }) {
+    const SwitchMark mark{row.kind, {}};
+    EXPECT_EQ(test::RowOf(Drawn(mark, {})), row.resting);
+    EXPECT_EQ(test::RowOf(Drawn(mark, {.chosen = true})), row.chosen);
+    EXPECT_EQ(test::RowOf(Drawn(mark, {.enabled = false})), row.disabled);
+    EXPECT_EQ(test::RowOf(Drawn(mark, {.hovered = true})), row.hovered);
+  }
+}
+
+TEST(SwitchMark, ADialOfTheHandControllerHasARingAndAnArrow) {
+  QImage picture(108, 108, QImage::Format_ARGB32_Premultiplied);
+  picture.fill(ToneColor(Tone::SwitchPlate));
+  QPainter painter(&picture);
+  DrawMark(painter, {MarkKind::HandDial, {}}, {4, 4, 100, 100}, {});
+  painter.end();
+  EXPECT_EQ(
+      test::ColumnOf(picture),
+      "Rail 3, ~ 2, Rail 4, ~ 8, Rail 8, ~ 1, RailText 1, ~ 1, Rail 63, ~ 8, Rail 4, ~ 2, Rail 3");
+  EXPECT_EQ(test::RowOf(picture, 40),
+            "Rail 5, ~ 2, Rail 11, ~ 2, Rail 7, ~ 2, RailText 3, ~ 3, Rail 38, ~ 3, RailText 3, ~ "
+            "2, Rail 7, ~ 2, Rail 11, ~ 2, Rail 5");
+}
+
+struct IconRow {
+  MarkKind kind;
+  const char* resting;
+  const char* selected;
+};
+
+TEST(SwitchMark, AnIconHasTheColoursOfItsRow) {
+  for (const IconRow& row : {
+           IconRow{MarkKind::BodyDial, "~ 3, OnAmber 1, ~ 1, DrawingFill 10, ~ 1, OnAmber 1, ~ 3",
+                   "~ 3, OnAmber 1, ~ 1, Amber 10, ~ 1, OnAmber 1, ~ 3"},
+           IconRow{MarkKind::BodySwitch, "~ 2, DrawingFill 16, ~ 2", "~ 2, Amber 16, ~ 2"},
+           IconRow{MarkKind::HandDial,
+                   "~ 2, Rail 3, ~ 2, RailText 1, ~ 1, Rail 2, ~ 1, RailText 1, ~ 2, Rail 3, ~ 2",
+                   "~ 2, Rail 3, ~ 2, Amber 1, ~ 1, Rail 2, ~ 1, Amber 1, ~ 2, Rail 3, ~ 2"},
+           IconRow{MarkKind::HandKey, "~ 1, Rail 18, ~ 1", "~ 1, Rail 18, ~ 1"},
+       }) {
+    const QIcon icon = MarkIcon({row.kind, {}});
+    EXPECT_EQ(test::RowOf(icon.pixmap(QSize(20, 20), QIcon::Normal).toImage()), row.resting);
+    EXPECT_EQ(test::RowOf(icon.pixmap(QSize(20, 20), QIcon::Selected).toImage()), row.selected);
+  }
+}
+
+struct ShapeRow {
+  MarkKind kind;
+  double outside;
+  const char* top;     // its first line
+  const char* middle;  // its middle column
+};
+
+TEST(SwitchMark, AShapeIsWidenedOnAllSidesWithItsCorners) {
+  for (const ShapeRow& row : {
+           ShapeRow{MarkKind::BodyDial, 0, "none 60", "none 11, Amber 39, none 10"},
+           ShapeRow{MarkKind::BodySwitch, 0, "none 13, Amber 34, none 13",
+                    "none 10, Amber 40, none 10"},
+           ShapeRow{MarkKind::HandKey, 0, "none 16, Amber 28, none 16",
+                    "none 10, Amber 40, none 10"},
+           ShapeRow{MarkKind::BodyDial, 4, "none 60", "none 7, Amber 47, none 6"},
+           ShapeRow{MarkKind::BodySwitch, 4, "none 12, Amber 36, none 12",
+                    "none 6, Amber 48, none 6"},
+           ShapeRow{MarkKind::HandKey, 4, "none 16, Amber 28, none 16", "none 6, Amber 48, none 6"},
+       }) {
+    QImage picture(60, 60, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ToneColor(Tone::Amber));
+    DrawMarkShape(painter, row.kind, {10, 10, 40, 40}, row.outside);
+    painter.end();
+    EXPECT_EQ(test::RowOf(picture, 10 - static_cast<int>(row.outside)), row.top) << row.outside;
+    EXPECT_EQ(test::ColumnOf(picture), row.middle) << row.outside;
+  }
 }
 
 }  // namespace

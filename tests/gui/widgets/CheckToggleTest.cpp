@@ -1,6 +1,8 @@
 #include "widgets/CheckToggle.h"
 
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
+#include "widgets/NotSentMark.h"
 
 namespace mortane {
 namespace {
@@ -107,6 +109,86 @@ TEST_F(CheckToggleTest, AClickOnAnUnknownValueIsToldAsKnown) {
   EXPECT_EQ(told, QVector<bool>{false});
   EXPECT_TRUE(toggle->isChecked());
   EXPECT_EQ(toggle->text(), "ON");
+}
+
+struct SwitchFace {
+  const char* what;
+  test::Use use;
+  bool on;
+  bool pending;
+  test::Face face;
+};
+
+// Without its caption.
+TEST(CheckToggleFace, TellsEachState) {
+  using test::Use;
+  for (const SwitchFace& row : {
+           SwitchFace{
+               "off",
+               Use::Rest,
+               false,
+               false,
+               {"Window 5, ~ 2, Base 1, ~ 1, Dark 9, ~ 1, Base 20, ~ 2, Window 9", "Window 26"}},
+           SwitchFace{
+               "on",
+               Use::Rest,
+               true,
+               false,
+               {"Window 5, ~ 1, Highlight 20, ~ 1, BrightText 10, ~ 1, Highlight 2, ~ 1, Window 9",
+                "Window 26"}},
+           SwitchFace{
+               "off and hovered",
+               Use::Hovered,
+               false,
+               false,
+               {"Window 5, ~ 2, Base 1, ~ 1, Shadow 9, ~ 1, Base 20, ~ 2, Window 9", "Window 26"}},
+           SwitchFace{
+               "on and hovered",
+               Use::Hovered,
+               true,
+               false,
+               {"Window 5, ~ 1, Highlight 20, ~ 1, BrightText 10, ~ 1, Highlight 2, ~ 1, Window 9",
+                "Window 26"}},
+           SwitchFace{"off and focused",
+                      Use::Focused,
+                      false,
+                      false,
+                      {"Highlight 2, Window 3, ~ 2, Base 1, ~ 1, Dark 9, ~ 1, Base 20, ~ 2, Window "
+                       "7, Highlight 2",
+                       "Highlight 2, Window 22, Highlight 2"}},
+           SwitchFace{"off and disabled",
+                      Use::Disabled,
+                      false,
+                      false,
+                      {"disabled Window 5, ~ 2, disabled Window 1, ~ 1, disabled Mid 9, ~ 1, "
+                       "disabled Window 20, ~ 2, disabled Window 9",
+                       "disabled Window 26"}},
+           SwitchFace{"on and disabled",
+                      Use::Disabled,
+                      true,
+                      false,
+                      {"disabled Window 5, ~ 2, disabled Window 20, ~ 1, disabled Mid 9, ~ 1, "
+                       "disabled Window 1, ~ 2, disabled Window 9",
+                       "disabled Window 26"}},
+           SwitchFace{
+               "on and not sent",
+               Use::Rest,
+               true,
+               true,
+               {"Window 5, ~ 1, Highlight 20, ~ 1, BrightText 10, ~ 1, Highlight 2, ~ 1, Window 9",
+                "~ 1, Link 8, ~ 2, Window 15"}},
+       }) {
+    CheckToggle toggle;
+    toggle.setChecked(row.on);
+    if (row.pending) MarkNotSent(toggle, "OFF");
+    const QImage picture = test::PictureOf(toggle, {50, 26}, row.use);
+    EXPECT_EQ((test::Face{test::RowOf(picture), test::ColumnOf(picture, 41)}), row.face)
+        << row.what;
+  }
+  CheckToggle unknown;
+  unknown.SetUnknown();
+  EXPECT_EQ(test::RowOf(test::PictureOf(unknown, {50, 26}, Use::Rest)),
+            "Window 5, ~ 2, Base 10, ~ 1, Dark 10, ~ 1, Base 10, ~ 2, Window 9");
 }
 
 }  // namespace

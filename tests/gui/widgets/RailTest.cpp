@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "gui/support/Face.h"
 #include "gui/support/PaintCount.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/PageButton.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -140,6 +142,98 @@ TEST_F(RailTest, ButtonsBearTheirTextAndSizesOfTheGrid) {
   EXPECT_EQ(rail->button(1)->accessibleName(), "Objectives");
   EXPECT_GE(rail->button(1)->sizeHint().width(), 104);
   EXPECT_GE(rail->button(1)->sizeHint().height(), 78);
+}
+
+struct PageFace {
+  const char* what;
+  test::Use use;
+  bool selected;
+  bool pending;
+  const char* row;     // through the dot beside the picture
+  const char* column;  // between the edge and the picture
+};
+
+TEST(PageButtonFace, TellsEachState) {
+  using test::Use;
+  for (const PageFace& row : {
+           PageFace{"at rest", Use::Rest, false, false,
+                    "Rail 46, ~ 2, RailResting 10, ~ 3, Rail 43", "Rail 78"},
+           PageFace{"hovered", Use::Hovered, false, false,
+                    "RailHover 46, ~ 2, RailText 10, ~ 3, RailHover 43", "RailHover 78"},
+           PageFace{"focused", Use::Focused, false, false,
+                    "Rail 3, BrightText 2, Rail 41, ~ 2, RailResting 10, ~ 3, Rail 38, BrightText "
+                    "2, Rail 3",
+                    "Rail 3, BrightText 2, Rail 68, BrightText 2, Rail 3"},
+           PageFace{"disabled", Use::Disabled, false, false,
+                    "Rail 46, ~ 2, RailDisabled 10, ~ 3, Rail 43", "Rail 78"},
+           PageFace{"selected", Use::Rest, true, false,
+                    "Amber 4, RailSelected 42, ~ 2, RailText 10, ~ 3, RailSelected 43",
+                    "RailSelected 78"},
+           PageFace{"selected and focused", Use::Focused, true, false,
+                    "Amber 3, BrightText 2, RailSelected 41, ~ 2, RailText 10, ~ 3, RailSelected "
+                    "38, BrightText 2, RailSelected 3",
+                    "RailSelected 3, BrightText 2, RailSelected 68, BrightText 2, RailSelected 3"},
+           PageFace{"not sent", Use::Rest, false, true,
+                    "Rail 46, ~ 2, RailResting 10, ~ 3, Rail 6, ~ 1, RailPending 8, ~ 1, Rail 27",
+                    "Rail 78"},
+           PageFace{"selected and not sent", Use::Rest, true, true,
+                    "Amber 4, RailSelected 42, ~ 2, RailText 10, ~ 3, RailSelected 6, ~ 1, "
+                    "RailPending 8, ~ 1, RailSelected 27",
+                    "RailSelected 78"},
+           PageFace{"not sent and disabled", Use::Disabled, false, true,
+                    "Rail 46, ~ 2, RailDisabled 10, ~ 3, Rail 43", "Rail 78"},
+       }) {
+    PageButton button(IconName::System, {});
+    button.SetSelected(row.selected);
+    button.SetPending(row.pending);
+    const QImage picture = test::PictureOf(button, {104, 78}, row.use);
+    EXPECT_EQ(test::RowOf(picture, 15), row.row) << row.what;
+    EXPECT_EQ(test::ColumnOf(picture, 20), row.column) << row.what;
+  }
+}
+
+TEST(PageButtonFace, HasThePictureInTheColourOfItsText) {
+  using test::Use;
+  struct Ink {
+    Use use;
+    bool selected;
+    Tone tone;
+    Tone accent;
+  };
+  for (const Ink& row : {Ink{Use::Rest, false, Tone::RailResting, Tone::RailResting},
+                         Ink{Use::Hovered, false, Tone::RailText, Tone::RailText},
+                         Ink{Use::Disabled, false, Tone::RailDisabled, Tone::RailDisabled},
+                         Ink{Use::Rest, true, Tone::RailText, Tone::Amber},
+                         Ink{Use::Disabled, true, Tone::RailDisabled, Tone::RailDisabled}}) {
+    PageButton button(IconName::Receive, {});
+    button.SetSelected(row.selected);
+    const QImage picture = test::PictureOf(button, {104, 78}, row.use).copy(30, 8, 44, 40);
+    QImage wanted(104, 78, QImage::Format_RGB32);
+    wanted.fill(picture.pixel(0, 0));
+    QPainter painter(&wanted);
+    DrawIcon(painter, IconName::Receive, QRectF(36, 12, 32, 32),
+             {ToneColor(row.tone), ToneColor(row.accent)});
+    painter.end();
+    EXPECT_EQ(picture.convertToFormat(QImage::Format_RGB32), wanted.copy(30, 8, 44, 40));
+  }
+}
+
+TEST(PageButtonFace, ALowButtonLosesRoomAboveItsPictureFirst) {
+  struct Place {
+    int height;
+    int top;
+  };
+  for (const Place& row : {Place{78, 12}, Place{70, 8}, Place{60, 4}, Place{50, 4}}) {
+    PageButton button(IconName::System, {});
+    const QImage picture = test::PictureOf(button, {104, row.height}, test::Use::Rest);
+    QImage wanted(picture.size(), QImage::Format_RGB32);
+    wanted.fill(ToneColor(Tone::Rail));
+    QPainter painter(&wanted);
+    DrawIcon(painter, IconName::System, QRectF(36, row.top, 32, 32),
+             {ToneColor(Tone::RailResting), ToneColor(Tone::RailResting)});
+    painter.end();
+    EXPECT_EQ(picture.convertToFormat(QImage::Format_RGB32), wanted) << row.height;
+  }
 }
 
 }  // namespace

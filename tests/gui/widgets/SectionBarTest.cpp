@@ -1,6 +1,7 @@
 #include "widgets/SectionBar.h"
 
 #include "gui/support/EventLoop.h"
+#include "gui/support/Face.h"
 #include "gui/support/PaintCount.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/Theme.h"
@@ -221,6 +222,107 @@ TEST_F(SectionBarTest, ArrowsGoFromTheEndOfARowToTheNextOne) {
 TEST_F(SectionBarTest, OptionsBearTheNameOfTheBarAndTheirText) {
   EXPECT_EQ(bar->option(2)->objectName(), "optSettings_2");
   EXPECT_EQ(bar->option(2)->accessibleName(), "Limit Control");
+}
+
+struct OptionFace {
+  const char* what;
+  test::Use use;
+  bool chosen;
+  bool pending;
+  test::Face amber;
+  test::Face blue;
+};
+
+// The first of several, without its text.
+TEST(SectionOptionFace, TellsEachState) {
+  using test::Use;
+  for (const OptionFace& row : {
+           OptionFace{"at rest",
+                      Use::Rest,
+                      false,
+                      false,
+                      {"Mid 1, Button 58, Mid 1", "Mid 1, Button 28, Mid 1"},
+                      {"Mid 1, Button 58, Mid 1", "Mid 1, Button 28, Mid 1"}},
+           OptionFace{"hovered",
+                      Use::Hovered,
+                      false,
+                      false,
+                      {"Mid 1, Midlight 58, Mid 1", "Mid 1, Midlight 28, Mid 1"},
+                      {"Mid 1, Midlight 58, Mid 1", "Mid 1, Midlight 28, Mid 1"}},
+           OptionFace{"focused",
+                      Use::Focused,
+                      false,
+                      false,
+                      {"Mid 1, Highlight 2, Button 54, Highlight 2, Mid 1",
+                       "Mid 1, Highlight 2, Button 24, Highlight 2, Mid 1"},
+                      {"Mid 1, Highlight 2, Button 54, Highlight 2, Mid 1",
+                       "Mid 1, Highlight 2, Button 24, Highlight 2, Mid 1"}},
+           OptionFace{"disabled",
+                      Use::Disabled,
+                      false,
+                      false,
+                      {"disabled Mid 1, disabled Button 58, disabled Mid 1",
+                       "disabled Mid 1, disabled Button 28, disabled Mid 1"},
+                      {"disabled Mid 1, disabled Button 58, disabled Mid 1",
+                       "disabled Mid 1, disabled Button 28, disabled Mid 1"}},
+           OptionFace{"chosen",
+                      Use::Rest,
+                      true,
+                      false,
+                      {"line 1, Amber 58, line 1", "line 1, Amber 28, line 1"},
+                      {"line 1, Highlight 58, line 1", "line 1, Highlight 28, line 1"}},
+           OptionFace{"chosen and hovered",
+                      Use::Hovered,
+                      true,
+                      false,
+                      {"line 1, Amber 58, line 1", "line 1, Amber 28, line 1"},
+                      {"line 1, Highlight 58, line 1", "line 1, Highlight 28, line 1"}},
+           OptionFace{"chosen and focused",
+                      Use::Focused,
+                      true,
+                      false,
+                      {"line 1, Highlight 2, Amber 54, Highlight 2, line 1",
+                       "line 1, Highlight 2, Amber 24, Highlight 2, line 1"},
+                      {"line 1, HighlightedText 2, Highlight 54, HighlightedText 2, line 1",
+                       "line 1, HighlightedText 2, Highlight 24, HighlightedText 2, line 1"}},
+           OptionFace{"chosen and disabled",
+                      Use::Disabled,
+                      true,
+                      false,
+                      {"disabled Mid 1, disabled Button 58, disabled Mid 1",
+                       "disabled Mid 1, disabled Button 28, disabled Mid 1"},
+                      {"disabled Mid 1, disabled Button 58, disabled Mid 1",
+                       "disabled Mid 1, disabled Button 28, disabled Mid 1"}},
+           OptionFace{
+               "not sent",
+               Use::Rest,
+               false,
+               true,
+               {"Mid 1, Button 31, ~ 1, Link 8, ~ 1, Button 17, Mid 1", "Mid 1, Button 28, Mid 1"},
+               {"Mid 1, Button 31, ~ 1, Link 8, ~ 1, Button 17, Mid 1", "Mid 1, Button 28, Mid 1"}},
+           OptionFace{"chosen and not sent",
+                      Use::Rest,
+                      true,
+                      true,
+                      {"line 1, Amber 31, ~ 1, OnAmber 8, ~ 1, Amber 17, line 1",
+                       "line 1, Amber 28, line 1"},
+                      {"line 1, Highlight 31, ~ 1, HighlightedText 8, ~ 1, Highlight 17, line 1",
+                       "line 1, Highlight 28, line 1"}},
+       }) {
+    for (const ChosenLook look : {ChosenLook::Amber, ChosenLook::Blue}) {
+      SectionOption option({}, nullptr, look);
+      option.SetEnds(true, false);
+      option.setChecked(row.chosen);
+      option.SetPending(row.pending);
+      const QImage picture = test::PictureOf(option, {60, 30}, row.use);
+      const QColor mark = look == ChosenLook::Amber
+                              ? ToneColor(Tone::Amber)
+                              : option.palette().color(QPalette::Active, QPalette::Highlight);
+      const std::vector<test::NamedColor> names{{"line", mark.darker(118)}};
+      const test::Face shown{test::RowOf(picture, names), test::ColumnOf(picture, 20, names)};
+      EXPECT_EQ(shown, look == ChosenLook::Amber ? row.amber : row.blue) << row.what;
+    }
+  }
 }
 
 }  // namespace

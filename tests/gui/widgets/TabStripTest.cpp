@@ -1,5 +1,6 @@
 #include "widgets/TabStrip.h"
 
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/TextField.h"
 
@@ -102,6 +103,35 @@ TEST_F(TabStripTest, TabsAreNeverSmallerThanTheGrid) {
   for (int i = 0; i < tabs->count(); ++i) {
     EXPECT_GE(tabs->tabRect(i).width(), 56);
     EXPECT_GE(tabs->tabRect(i).height(), 32);
+  }
+}
+
+struct TabFace {
+  const char* what;
+  test::Use use;
+  bool pending;
+  const char* row;     // through the middle of the first tab, which is chosen, and of the second
+  const char* column;  // through the first tab
+};
+
+TEST(TabStripFace, TellsTheChosenTabTheFocusAndTheDot) {
+  using test::Use;
+  for (const TabFace& row : {
+           TabFace{"at rest", Use::Rest, false, "Window 112", "Window 29, Highlight 3"},
+           TabFace{"focused", Use::Focused, false,
+                   "Window 1, Highlight 2, Window 50, Highlight 2, Window 57",
+                   "Window 1, Highlight 2, Window 22, Highlight 2, Window 2, Highlight 3"},
+           TabFace{"disabled", Use::Disabled, false, "disabled Window 112",
+                   "disabled Window 29, disabled Highlight 3"},
+           TabFace{"not sent", Use::Rest, true, "Window 31, ~ 2, Link 8, ~ 1, Base 1, Window 69",
+                   "Window 29, Highlight 3"},
+       }) {
+    TabStrip strip;
+    strip.SetTabs({" ", " "});
+    strip.SetTabPending(0, row.pending);
+    const QImage picture = test::PictureOf(strip, {112, 32}, row.use);
+    EXPECT_EQ(test::RowOf(picture, 14), row.row) << row.what;
+    EXPECT_EQ(test::ColumnOf(picture, 10), row.column) << row.what;
   }
 }
 

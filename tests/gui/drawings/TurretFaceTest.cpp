@@ -1,0 +1,219 @@
+// What a place of a turret and the disc behind the places look like.
+#include "drawings/TurretButton.h"
+#include "drawings/TurretDrawing.h"
+#include "gui/support/Face.h"
+#include "gui/support/TestWindow.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+using test::Use;
+
+struct PlaceFace {
+  const char* what;
+  PlaceKind kind;
+  Use use;
+  bool isFree;
+  bool chosen;
+  bool pending;
+  test::Face face;
+};
+
+// A place 60 wide, with the room for its halo around it, and a label of one blank.
+TEST(TurretFace, APlaceTellsItsState) {
+  for (const PlaceFace& row : {
+           PlaceFace{
+               "objective",
+               PlaceKind::Objectives,
+               Use::Rest,
+               false,
+               false,
+               false,
+               {"Window 12, ~ 2, RingYellow 3, ~ 3, Base 40, ~ 3, RingYellow 3, ~ 2, Window 12",
+                "Window 17, ~ 3, RingYellow 4, ~ 4, Base 24, ~ 4, RingYellow 4, ~ 3, Window 17"}},
+           PlaceFace{
+               "hovered",
+               PlaceKind::Objectives,
+               Use::Hovered,
+               false,
+               false,
+               false,
+               {"Window 12, ~ 2, RingYellow 3, ~ 3, Midlight 40, ~ 3, RingYellow 3, ~ 2, Window 12",
+                "Window 17, ~ 3, RingYellow 4, ~ 4, Midlight 24, ~ 4, RingYellow 4, ~ 3, Window "
+                "17"}},
+           PlaceFace{"focused",
+                     PlaceKind::Objectives,
+                     Use::Focused,
+                     false,
+                     false,
+                     false,
+                     {"Window 3, ~ 1, Highlight 1, ~ 1, Window 6, ~ 2, RingYellow 3, ~ 3, Base 40, "
+                      "~ 3, RingYellow 3, ~ 2, Window 6, ~ 1, Highlight 1, ~ 1, Window 3",
+                      "Window 6, ~ 2, Highlight 1, ~ 1, Window 7, ~ 3, RingYellow 4, ~ 4, Base 24, "
+                      "~ 4, RingYellow 4, ~ 3, Window 7, ~ 1, Highlight 1, ~ 2, Window 6"}},
+           PlaceFace{"disabled",
+                     PlaceKind::Objectives,
+                     Use::Disabled,
+                     false,
+                     false,
+                     false,
+                     {"disabled Window 12, ~ 2, RingYellow 3, ~ 3, Base 40, ~ 3, RingYellow 3, ~ "
+                      "2, disabled Window 12",
+                      "disabled Window 17, ~ 3, RingYellow 4, ~ 4, Base 24, ~ 4, RingYellow 4, ~ "
+                      "3, disabled Window 17"}},
+           PlaceFace{"chosen",
+                     PlaceKind::Objectives,
+                     Use::Rest,
+                     false,
+                     true,
+                     false,
+                     {"Window 5, ~ 2, Amber 5, ~ 2, RingYellow 3, ~ 3, Base 40, ~ 3, RingYellow 3, "
+                      "~ 2, Amber 5, ~ 2, Window 5",
+                      "Window 9, ~ 2, Amber 6, ~ 3, RingYellow 4, ~ 4, Base 24, ~ 4, RingYellow 4, "
+                      "~ 3, Amber 6, ~ 2, Window 9"}},
+           PlaceFace{"free",
+                     PlaceKind::Objectives,
+                     Use::Rest,
+                     true,
+                     false,
+                     false,
+                     {"Window 10, ~ 3, DrawingShade 54, ~ 3, Window 10",
+                      "Window 16, ~ 2, DrawingShade 44, ~ 3, Window 15"}},
+           PlaceFace{"free and chosen",
+                     PlaceKind::Objectives,
+                     Use::Rest,
+                     true,
+                     true,
+                     false,
+                     {"Window 5, ~ 2, Amber 3, ~ 3, DrawingShade 54, ~ 3, Amber 3, ~ 2, Window 5",
+                      "Window 9, ~ 2, Amber 5, ~ 2, DrawingShade 44, ~ 3, Amber 4, ~ 2, Window 9"}},
+           PlaceFace{
+               "not sent",
+               PlaceKind::Objectives,
+               Use::Rest,
+               false,
+               false,
+               true,
+               {"Window 12, ~ 2, RingYellow 3, ~ 3, Base 40, ~ 3, RingYellow 3, ~ 2, Window 12",
+                "Window 13, ~ 3, Link 5, ~ 1, Base 1, ~ 5, Base 24, ~ 4, RingYellow 4, ~ 3, Window "
+                "17"}},
+           PlaceFace{"cube",
+                     PlaceKind::Cubes,
+                     Use::Rest,
+                     false,
+                     false,
+                     false,
+                     {"Window 9, ~ 2, Base 58, ~ 2, Window 9",
+                      "Window 15, ~ 2, Base 46, ~ 2, Window 15"}},
+           PlaceFace{"hovered",
+                     PlaceKind::Cubes,
+                     Use::Hovered,
+                     false,
+                     false,
+                     false,
+                     {"Window 9, ~ 2, Midlight 58, ~ 2, Window 9",
+                      "Window 15, ~ 2, Midlight 46, ~ 2, Window 15"}},
+           PlaceFace{"focused",
+                     PlaceKind::Cubes,
+                     Use::Focused,
+                     false,
+                     false,
+                     false,
+                     {"Window 2, ~ 1, Highlight 1, ~ 1, Window 4, ~ 2, Base 58, ~ 2, Window 4, ~ "
+                      "1, Highlight 1, ~ 1, Window 2",
+                      "Window 8, ~ 1, Highlight 1, ~ 1, Window 4, ~ 2, Base 46, ~ 2, Window 4, ~ "
+                      "1, Highlight 1, ~ 1, Window 8"}},
+           PlaceFace{"disabled",
+                     PlaceKind::Cubes,
+                     Use::Disabled,
+                     false,
+                     false,
+                     false,
+                     {"disabled Window 9, ~ 2, disabled Base 58, ~ 2, disabled Window 9",
+                      "disabled Window 15, ~ 2, disabled Base 46, ~ 2, disabled Window 15"}},
+           PlaceFace{"chosen",
+                     PlaceKind::Cubes,
+                     Use::Rest,
+                     false,
+                     true,
+                     false,
+                     {"Window 4, ~ 2, Amber 3, ~ 2, Base 58, ~ 2, Amber 3, ~ 2, Window 4",
+                      "Window 10, ~ 2, Amber 3, ~ 2, Base 46, ~ 2, Amber 3, ~ 2, Window 10"}},
+           PlaceFace{"free",
+                     PlaceKind::Cubes,
+                     Use::Rest,
+                     true,
+                     false,
+                     false,
+                     {"Window 9, ~ 2, DrawingShade 58, ~ 2, Window 9",
+                      "Window 15, ~ 2, DrawingShade 46, ~ 2, Window 15"}},
+           PlaceFace{"not sent",
+                     PlaceKind::Cubes,
+                     Use::Rest,
+                     false,
+                     false,
+                     true,
+                     {"Window 9, ~ 2, Base 58, ~ 2, Window 9",
+                      "Window 15, ~ 2, Base 46, ~ 2, Window 15"}},
+           PlaceFace{"condenser",
+                     PlaceKind::Condensers,
+                     Use::Rest,
+                     false,
+                     false,
+                     false,
+                     {"Window 9, ~ 2, Base 58, ~ 2, Window 9",
+                      "Window 15, ~ 2, Base 46, ~ 2, Window 15"}},
+       }) {
+    TurretButton place(row.kind, 1, nullptr);
+    place.SetPlaceSize(place.PlaceSizeFor(60));
+    if (!row.isFree) place.SetItem({" ", "One", 10.0});
+    place.setChecked(row.chosen);
+    if (row.pending) place.SetPending("2x");
+    const QImage picture = test::PictureOf(place, {80, 80}, row.use);
+    EXPECT_EQ((test::Face{test::RowOf(picture, 30), test::ColumnOf(picture, 58)}), row.face)
+        << row.what;
+  }
+}
+
+TEST(TurretFace, TheDiscHasARimAndAHub) {
+  TurretDrawing turret(PlaceKind::Objectives);
+  const QImage picture = test::PictureOf(turret, {280, 280}, Use::Rest);
+  EXPECT_EQ(test::RowOf(picture, 140),
+            "Window 1, ~ 31, DrawingFill 94, ~ 2, DrawingShade 7, ~ 2, DrawingFill 6, ~ 2, "
+            "DrawingShade 7, ~ 2, DrawingFill 94, ~ 31, Window 1");
+  EXPECT_EQ(test::ColumnOf(picture, 140),
+            "Window 1, ~ 31, DrawingFill 94, ~ 2, DrawingShade 7, ~ 2, DrawingFill 6, ~ 2, "
+            "DrawingShade 7, ~ 2, DrawingFill 94, ~ 31, Window 1");
+}
+
+struct RingRow {
+  PlaceKind kind;
+  int count;
+  QRect second;  // with its halo, at the scale of 1
+};
+
+TEST(TurretFace, PlacesAreAsLargeAsTheirNumberLetsThem) {
+  for (const RingRow& row : {
+           RingRow{PlaceKind::Objectives, 2, {98, 190, 84, 84}},
+           RingRow{PlaceKind::Objectives, 6, {177, 52, 85, 84}},
+           RingRow{PlaceKind::Objectives, 10, {164, 25, 69, 68}},
+           RingRow{PlaceKind::Cubes, 2, {98, 196, 84, 72}},
+           RingRow{PlaceKind::Cubes, 6, {177, 58, 85, 72}},
+           RingRow{PlaceKind::Condensers, 10, {165, 30, 68, 57}},
+       }) {
+    TurretDrawing turret(row.kind);
+    turret.SetItems(QVector<TurretItem>(row.count));
+    turret.resize(280, 280);
+    turret.show();
+    EXPECT_EQ(turret.place(1)->geometry(), row.second) << row.count;
+  }
+  TurretDrawing single(PlaceKind::Objectives);
+  single.SetItems(QVector<TurretItem>(1));
+  single.resize(280, 280);
+  single.show();
+  EXPECT_EQ(single.place(0)->geometry(), QRect(98, 6, 84, 84));
+}
+
+}  // namespace
+}  // namespace mortane

@@ -1,0 +1,74 @@
+#include "widgets/Card.h"
+
+#include "gui/support/Face.h"
+#include "gui/support/TestWindow.h"
+#include "widgets/Theme.h"
+
+namespace mortane {
+namespace {
+
+TEST(Card, StandsOnTheGroundOfFieldsWithinALine) {
+  for (const test::Use use : {test::Use::Rest, test::Use::Disabled}) {
+    Card card;
+    const QImage picture = test::PictureOf(card, {40, 30}, use);
+    const std::string line = use == test::Use::Rest ? "Mid 1" : "disabled Mid 1";
+    EXPECT_EQ(test::RowOf(picture), line + ", Base 38, " + line);
+    EXPECT_EQ(test::ColumnOf(picture), line + ", Base 28, " + line);
+  }
+}
+
+TEST(Card, AnInnerFrameLosesItsGroundWithWhatItStandsFor) {
+  InnerFrame frame;
+  const QImage fitted = test::PictureOf(frame, {40, 30}, test::Use::Rest);
+  EXPECT_EQ(test::RowOf(fitted), "Mid 1, AlternateBase 38, Mid 1");
+  EXPECT_EQ(test::ColumnOf(fitted), "Mid 1, AlternateBase 28, Mid 1");
+  const QImage missing = test::PictureOf(frame, {40, 30}, test::Use::Disabled);
+  EXPECT_EQ(test::RowOf(missing, 15), "disabled Window 40") << "between two dashes";
+}
+
+TEST(Card, LeavesRoomAroundItsContentsAndLessAboveACaption) {
+  const Card plain;
+  EXPECT_EQ(plain.body()->contentsMargins(), QMargins(16, 16, 16, 16));
+  const Card captioned("Records");
+  EXPECT_EQ(captioned.body()->contentsMargins(), QMargins(16, 12, 16, 16));
+  EXPECT_EQ(captioned.body()->spacing(), 12);
+  const InnerFrame inner("Records");
+  EXPECT_EQ(inner.body()->contentsMargins(), QMargins(16, 12, 16, 12));
+  EXPECT_EQ(inner.body()->spacing(), 8);
+}
+
+TEST(Card, ItsCaptionIsItsNameForScreenReadersToo) {
+  Card card("Records");
+  EXPECT_EQ(card.caption(), "Records");
+  EXPECT_EQ(card.accessibleName(), "Records");
+  EXPECT_EQ(Card().caption(), QString());
+  InnerFrame frame("Records");
+  EXPECT_EQ(frame.accessibleName(), "Records");
+  frame.SetCaption("Others");
+  EXPECT_EQ(frame.caption(), "Others");
+  EXPECT_EQ(frame.accessibleName(), "Others");
+}
+
+TEST(Card, ALongCaptionGoesOnInAnotherLine) {
+  const QString text = "A caption of several words";
+  TestWindow window;
+  auto* card = window.Add<Card>(text);
+  window.Show();
+  auto* caption = card->findChild<QLabel*>();
+  ASSERT_NE(caption, nullptr);
+  const int line = caption->fontMetrics().height();
+  const int whole = caption->sizeHint().width();
+  EXPECT_LT(caption->minimumSizeHint().width(), whole * 7 / 10);
+  EXPECT_LT(caption->sizeHint().height(), 2 * line);
+  caption->resize(whole, line);
+  EXPECT_LT(caption->sizeHint().height(), 2 * line);
+  caption->resize(whole * 7 / 10, line);
+  EXPECT_GE(caption->sizeHint().height(), 2 * line);
+  EXPECT_EQ(caption->minimumSizeHint().height(), caption->sizeHint().height());
+  InnerFrame word("Records");
+  const auto* single = word.findChild<QLabel*>();
+  EXPECT_EQ(single->minimumSizeHint().width(), single->sizeHint().width());
+}
+
+}  // namespace
+}  // namespace mortane
