@@ -44,6 +44,8 @@ TEST(Nosepiece, SeriesIsTheNumberThatTheListHoldsAtTheCode) {
   rig.ConnectAndReceive();
   rig.units.curNosepiece.code(1, 4);
   EXPECT_EQ(rig.units.curNosepiece.Series(1), 20);
+  rig.units.curNosepiece.code(10, 4);
+  EXPECT_EQ(rig.units.curNosepiece.Series(10), 20) << "the last address";
   EXPECT_EQ(rig.units.curNosepiece.Series(0), -1);
   EXPECT_EQ(rig.units.curNosepiece.Series(11), -1);
   struct Bad {

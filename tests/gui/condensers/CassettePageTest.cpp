@@ -61,6 +61,17 @@ TEST_F(ShownCassettePage, BeginsItsListsAtTheTopOfTheirColumn) {
   EXPECT_EQ(combo(1).y(), 0);
 }
 
+TEST_F(ShownCassettePage, ListsAreAsWideAsTheDesignWantsThemAndStandApart) {
+  for (int address = 1; address <= 7; ++address) {
+    EXPECT_EQ(combo(address).width(), 280);
+    const QLabel& label = *page.Label1[static_cast<std::size_t>(address - 1)];
+    EXPECT_EQ(combo(address).x() - label.geometry().right() - 1, 12);
+    if (address > 1) {
+      EXPECT_EQ(combo(address).y() - combo(address - 1).geometry().bottom() - 1, 8);
+    }
+  }
+}
+
 TEST_F(ShownCassettePage, AsksForTheFixedCondensersOnly) {
   rig.journal.Clear();
   page.LoadData();

@@ -42,6 +42,15 @@ TEST_F(CondenserNamesPage, ShowsFixedPitchTextAndLabelsThatLeadToTheirField) {
   }
 }
 
+// A field has 6 pixels beside its text within its line.
+TEST_F(CondenserNamesPage, FieldsHoldTenCharactersWithRoomBesideThem) {
+  for (const TextField* field : page.TextName) {
+    const int text = field->fontMetrics().horizontalAdvance(QString(10, u'0'));
+    EXPECT_EQ(field->maximumWidth(), text + 12 + 16);
+    EXPECT_EQ(field->minimumWidth(), field->maximumWidth());
+  }
+}
+
 class NamesEnterKey : public CondenserNamesPage, public testing::WithParamInterface<Qt::Key> {};
 
 TEST_P(NamesEnterKey, StoresTheTextAndKeepsTheFocus) {

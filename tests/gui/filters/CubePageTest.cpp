@@ -249,6 +249,35 @@ TEST_F(CubePage, ColumnsBeginNoFurtherLeftThanTheTabStops) {
   }
 }
 
+TEST_F(CubePage, ValuesAreTenCharactersWide) {
+  for (const ValueLabel* label : std::initializer_list<const ValueLabel*>{
+           page.LabelName, page.LabelExciter, page.LabelDichroic, page.LabelBarrier}) {
+    EXPECT_EQ(label->sizeHint().width(), 10 * label->fontMetrics().horizontalAdvance(u'0'));
+  }
+}
+
+// It may wait until it is shown where loading it changes nothing. One address alone is the
+// protected one, which asks.
+TEST_F(CubePage, LoadsWithoutBeingMadeWhereTheFirstAddressKeepsItsCube) {
+  const LatePlan plan = FilterQubeCtl::Plan(rig.k70().curFilter, rig.k70().dbFilter);
+  EXPECT_TRUE(plan.load());
+  rig.k70().curFilter.Count = 2;
+  EXPECT_TRUE(plan.load());
+  rig.k70().curFilter.Count = 1;
+  EXPECT_FALSE(plan.load());
+  Mount(1, 242);
+  EXPECT_TRUE(plan.load()) << "of no row";
+  rig.k70().curFilter.Count = 0;
+  EXPECT_TRUE(plan.load());
+  rig.k70().curFilter.Count = 6;
+  Mount(1, 4);
+  EXPECT_TRUE(plan.load());
+  rig.instrument().database.cubes[0].name = "-------";
+  rig.k70().Receive();
+  Mount(1, 4);
+  EXPECT_FALSE(plan.load()) << "behind a skipped code another one is selected";
+}
+
 TEST_F(CubePage, ValuesStandInTheFixedPitchFont) {
   for (const ValueLabel* label : std::initializer_list<const ValueLabel*>{
            page.LabelName, page.LabelExciter, page.LabelDichroic, page.LabelBarrier}) {

@@ -48,6 +48,18 @@ TEST_F(OptionalCubePage, HasNineTabs) {
             (std::vector<std::string>{"1", "2", "3", "4", "5", "6", "7", "8", "9"}));
 }
 
+// A field has 6 pixels beside its text within its line, a list 30 for its frame and scroll bar.
+TEST_F(OptionalCubePage, PartsAreAsWideAsTheirUsualTexts) {
+  const auto widthOf = [](int characters, const QWidget& widget) {
+    return widget.fontMetrics().horizontalAdvance(QString(characters, u'0'));
+  };
+  EXPECT_EQ(page.TextName->maximumWidth(), widthOf(16, *page.TextName) + 12 + 16);
+  EXPECT_EQ(page.TextName->minimumWidth(), widthOf(10, *page.TextName) + 12 + 8);
+  for (const ListBox* list :
+       std::initializer_list<const ListBox*>{page.ListExciter, page.ListDichroic, page.ListBarrier})
+    EXPECT_EQ(list->minimumWidth(), 30 + widthOf(11, *list));
+}
+
 TEST_F(OptionalCubePage, TheListsBeginWithTheItemForNothing) {
   const ListBox* lists[] = {page.ListExciter, page.ListDichroic, page.ListBarrier};
   const int fixed[] = {11, 9, 11};

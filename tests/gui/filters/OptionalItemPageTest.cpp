@@ -40,6 +40,19 @@ TEST_F(OptionalItemPage, HasItsCaptionsAboveTheirColumns) {
   EXPECT_LT(page.Label1->x(), page.Label2->x());
 }
 
+// A field has 6 pixels beside its text within its line.
+TEST_F(OptionalItemPage, FieldsHoldFourteenCharactersAndGiveWayToTen) {
+  for (const auto* fields : {&page.TextExciter, &page.TextDichroic, &page.TextBarrier}) {
+    for (const TextField* field : *fields) {
+      const auto widthOf = [field](int characters) {
+        return field->fontMetrics().horizontalAdvance(QString(characters, u'0'));
+      };
+      EXPECT_EQ(field->maximumWidth(), widthOf(14) + 12 + 16);
+      EXPECT_EQ(field->minimumWidth(), widthOf(10) + 12 + 8);
+    }
+  }
+}
+
 TEST_F(OptionalItemPage, ARowLeftEmptyShowsTenDashes) {
   for (TextField* field : std::initializer_list<TextField*>{
            page.TextExciter[0], page.TextDichroic[0], page.TextBarrier[0]}) {

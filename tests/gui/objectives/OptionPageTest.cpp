@@ -82,7 +82,7 @@ PageDrillData OptionPage() {
       {"TextWD", "40.01", First, kMessage},  {"TextWD", "-0.1", First, kMessage},
       {"TextWD", "12,34", First, kMessage},  {"TextWD", "----", First, kMessage},
       {"TextNA", "2.001", First, kMessage},  {"TextNA", "nan", First, kMessage},
-      {"TextNA", "1 2", First, kMessage},
+      {"TextNA", "1 2", First, kMessage},    {"TextNA", "----", First, kMessage},
   };
   data.enabling = {
       {"FrmCondenser", "Harbour", {}, true},  {"ComboCondenser", "Harbour", {}, true},
@@ -138,6 +138,15 @@ TEST(OptionPage, ATabShowsItsPosition) {
   EXPECT_EQ(page.ComboCondenser->currentText(), "DIC L");
   EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|25|1.98|0.95|3");
   EXPECT_EQ(StoredAt(rig.k70(), 2), "Loan 63x Oil|3|2|63|0.19|1.4|5");
+}
+
+TEST(OptionPage, AChosenRowStandsAboveItsList) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
+  Enter(*page.ListSeries, "Epi");
+  EXPECT_EQ(page.LabelSeries->text(), "Epi");
+  Enter(*page.ListType, "Oil");
+  EXPECT_EQ(page.LabelType->text(), "Oil");
 }
 
 TEST(OptionPage, AnEditGoesToThePositionOnShowAlone) {
