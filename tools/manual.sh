@@ -26,11 +26,6 @@ for scale in 1 2; do
     "$program" "$folder/pictures" "$suffix" <"$work/pictures"
 done
 
-# The program's pictures have few colours; a table of them takes a third of the room.
-for picture in "$folder"/pictures/*.png; do
-  convert "$picture" +dither -colors 256 "PNG8:$picture"
-done
-
 python3 -B "$root/tools/manual/manual.py" text "$chapters" >"$work/manual.md"
 pandoc --from markdown-smart --to html5 --standalone --section-divs --toc --toc-depth=2 \
   --template "$root/tools/manual/template.html" --metadata title="Mortane" \

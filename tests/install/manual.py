@@ -2,6 +2,7 @@
 """Builds the manual and looks at what came out, and shows that a chapter which is wrong ends the
 building: manual.py PICTURES_PROGRAM SOURCE_FOLDER"""
 
+import base64
 import html.parser
 import pathlib
 import re
@@ -17,6 +18,9 @@ from device_names import lock_device_names  # noqa: E402
 
 CHAPTERS = sorted(pathlib.Path(SOURCE, "docs/manual").glob("*.md"))
 PATIENCE = 200
+# In the header of a PNG file.
+COLOUR_TYPE = 25
+OF_A_TABLE = 3
 
 
 def build(source, folder):
@@ -82,6 +86,9 @@ class Manual(unittest.TestCase):
         for picture in self.page.pictures:
             self.assertTrue(picture["src"].startswith("data:image/png;base64,"))
             self.assertRegex(picture["srcset"], r"^data:image/png;base64,\S+ 2x$")
+            for address in (picture["src"], picture["srcset"].split()[0]):
+                png = base64.b64decode(address.partition(",")[2])
+                self.assertEqual(png[COLOUR_TYPE], OF_A_TABLE, picture["alt"])
             self.assertNotEqual(picture["alt"], "")
 
     def test_it_follows_the_palette_and_can_be_printed(self):

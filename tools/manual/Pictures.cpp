@@ -6,10 +6,13 @@
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QRadioButton>
+#include <algorithm>
 #include <functional>
 #include <iostream>
 #include <optional>
 #include <stdexcept>
+#include <unordered_map>
+#include <vector>
 
 #include "app/ApplyTheme.h"
 #include "app/GetAppIcon.h"
@@ -36,6 +39,7 @@ constexpr double kRadius = 11;
 constexpr double kRing = 2;
 constexpr int kPatienceMs = 30000;
 constexpr int kButtons = 10;
+constexpr qsizetype kMostColours = 256;  // of a picture with a byte for each pixel
 // Stands out from every colour of the program, in both palettes.
 constexpr QRgb kCircle = qRgb(0xB3, 0x1B, 0x6A);
 
@@ -96,6 +100,58 @@ QPixmap PictureOf(QWidget& window, const QStringList& marks) {
                static_cast<int>(i) + 1);
   }
   return picture;
+}
+
+std::vector<QRgb> ColoursByFrequency(const QImage& picture) {
+  std::unordered_map<QRgb, int> counts;
+  for (int y = 0; y < picture.height(); ++y) {
+    const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+    const auto* end = line + picture.width();
+    while (line != end) {
+      const auto* next = std::find_if(line, end, [line](QRgb colour) { return colour != *line; });
+      counts[*line] += static_cast<int>(next - line);
+      line = next;
+    }
+  }
+  std::vector<QRgb> colours;
+  for (const auto& [colour, count] : counts) colours.push_back(colour);
+  std::sort(colours.begin(), colours.end(), [&counts](QRgb one, QRgb other) {
+    return std::pair(-counts[one], one) < std::pair(-counts[other], other);
+  });
+  return colours;
+}
+
+bool IsWithin(int difference, QRgb one, QRgb other) {
+  return std::abs(qRed(one) - qRed(other)) <= difference &&
+         std::abs(qGreen(one) - qGreen(other)) <= difference &&
+         std::abs(qBlue(one) - qBlue(other)) <= difference;
+}
+
+// The most frequent colours such that every colour is within `difference` of one of them. More than
+// a table holds when there are too many.
+QList<QRgb> ColoursApart(const std::vector<QRgb>& colours, int difference) {
+  QList<QRgb> table;
+  for (const QRgb colour : colours) {
+    const bool isNear = std::any_of(table.begin(), table.end(), [&](QRgb chosen) {
+      return IsWithin(difference, colour, chosen);
+    });
+    if (!isNear) table.push_back(colour);
+    if (table.size() > kMostColours) break;
+  }
+  return table;
+}
+
+// The pictures have few colours; a table of them takes a third of the room.
+QImage WithColourTable(const QImage& picture) {
+  const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
+  const std::vector<QRgb> colours = ColoursByFrequency(plain);
+  QList<QRgb> table;
+  int difference = 0;
+  do {
+    table = ColoursApart(colours, difference);
+    difference = difference * 3 / 2 + 1;
+  } while (table.size() > kMostColours);
+  return plain.convertToFormat(QImage::Format_Indexed8, table);
 }
 
 void Settle() {
@@ -205,7 +261,8 @@ int main(int argc, char** argv) {
     while (std::getline(std::cin, line)) {
       const QStringList words = QString::fromStdString(line).split(u'\t', Qt::SkipEmptyParts);
       if (words.size() < 2) throw std::runtime_error("no picture and what it shows");
-      const QPixmap picture = PictureOf(studio.Show(words[1]), words.mid(2));
+      const QPixmap window = PictureOf(studio.Show(words[1]), words.mid(2));
+      const QImage picture = WithColourTable(window.toImage());
       const QString file = arguments[1] + u'/' + words[0] + arguments[2] + QLatin1String(".png");
       if (!picture.save(file)) throw std::runtime_error("cannot write " + file.toStdString());
     }
