@@ -31,6 +31,11 @@ foreach(item IN LISTS items)
 endforeach()
 list(REMOVE_DUPLICATES files)
 
+# Those that take seconds begin before the many that take a moment, so that all processors are busy to
+# the end.
+set(dear_files "^(WalkTest|PendingBenchesTest|PageDrill|LateLoadingTest|SendTest|ComparisonTest|\
+WindowFacesTest|CheckedByProgramsTest|DomParserTests)$")
+
 set(tests "")
 foreach(file IN LISTS files)
   set(test "${program_name}/${file}")
@@ -47,6 +52,8 @@ foreach(file IN LISTS files)
   set(properties "TIMEOUT 600")
   if(file MATCHES "ProgramTest$")
     string(APPEND properties " RESOURCE_LOCK device_names COST 100")
+  elseif(file MATCHES "${dear_files}")
+    string(APPEND properties " COST 50")
   endif()
   string(APPEND tests "add_test(\"${test}\"${words})\n"
     "set_tests_properties(\"${test}\" PROPERTIES ${properties})\n")

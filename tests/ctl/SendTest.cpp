@@ -282,7 +282,7 @@ TEST_P(LostDevice, IsReportedItemByItemAtWhicheverCallItGoesAway) {
     losses.push_back({call + 1, LostLibrary::Last::Missed});
   }
   std::size_t known = 0;
-  for (const std::size_t i : SampleOf(losses.size(), 5)) {
+  for (const std::size_t i : SampleOf(losses.size(), 17)) {
     const auto& [call, last] = losses[i - 1];
     CtlRig rig{Bench(untouched)};
     rig.lost.From(call, last);
@@ -321,7 +321,7 @@ TEST(Send, SurvivesAFailureOfAnyCall) {
     calls = rig.journal.CallCount();
     after = Values(rig.simulated.bench());
   }
-  for (const std::size_t call : SampleOf(calls, 61)) {
+  for (const std::size_t call : SampleOf(calls, 127)) {
     CtlRig rig("Harbour");
     rig.faults.FailCall(call);
     const Outcome outcome = rig.Run({"send", file, "--yes", "--json"});

@@ -14,7 +14,7 @@ from device_names import lock_device_names
 
 PROGRAM, SOURCE = sys.argv[1:3]
 PATIENCE = 120
-COMPUTERS = [f"scope{number:02}" for number in range(1, 7)]
+COMPUTERS = [f"scope{number:02}" for number in range(1, 4)]
 
 
 def blocks():

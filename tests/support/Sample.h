@@ -25,4 +25,27 @@ inline std::vector<std::size_t> SampleOf(std::size_t count, std::size_t stride) 
   return cases;
 }
 
+// Of a table's columns those that the row with this index tries: every one `stride` further, from
+// another one on in each row. Each column is tried by some of `stride` rows.
+template <typename Column>
+std::vector<Column> ColumnsOfRow(std::size_t row, const std::vector<Column>& columns,
+                                 std::size_t stride) {
+  if (TriesAllCases()) return columns;
+  std::vector<Column> tried;
+  for (std::size_t i = row % stride; i < columns.size(); i += stride) tried.push_back(columns[i]);
+  return tried;
+}
+
+enum class Tried { Always, WithAllCases };
+
+// The rows that say in their column `tried` that this run tries them.
+template <typename Rows>
+auto RowsToTry(const Rows& rows) {
+  std::vector<typename Rows::value_type> chosen;
+  for (const auto& row : rows) {
+    if (row.tried == Tried::Always || TriesAllCases()) chosen.push_back(row);
+  }
+  return chosen;
+}
+
 }  // namespace mortane::test

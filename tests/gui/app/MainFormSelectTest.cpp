@@ -182,7 +182,7 @@ TEST(Commands, SurviveAFailureOfWhicheverControllerCall) {
     };
     const std::size_t calls = run(0);
     ASSERT_GT(calls, 0U);
-    for (const std::size_t k : SampleOf(calls, 19)) {
+    for (const std::size_t k : SampleOf(calls, 37)) {
       run(k);
       EXPECT_FALSE(rig.app.prompts.Boxes().empty()) << "call " << k << " failed unseen";
     }
@@ -196,7 +196,7 @@ TEST(Commands, SurviveAFailureOfWhatThePagesAsk) {
   rig.prompts.AcceptAnyBox();
   rig.form->MenuConnectReceive->trigger();
   const std::size_t calls = rig.journal.CallCount();
-  for (const std::size_t k : SampleOf(calls, 89)) {
+  for (const std::size_t k : SampleOf(calls, 179)) {
     rig.faults.Clear();
     rig.faults.FailCall(k);
     rig.form->MenuConnectReceive->trigger();
@@ -206,7 +206,7 @@ TEST(Commands, SurviveAFailureOfWhatThePagesAsk) {
 }
 
 TEST(Select, SurvivesAFailureOfEachControllerCallInTurn) {
-  for (std::size_t k = 1; k < 60; k += 3) {
+  for (const std::size_t k : SampleOf(60, 7)) {
     SelectRig rig;
     rig.app.prompts.AcceptAnyBox();
     const WhenShown<SelScopeDlg> person([&](SelScopeDlg& dialog) {

@@ -335,7 +335,7 @@ TEST(Start, SurvivesAFailureOfWhicheverControllerCall) {
   };
   const std::size_t calls = run(0);
   ASSERT_GT(calls, 50U);
-  for (const std::size_t k : SampleOf(calls, 53)) run(k);
+  for (const std::size_t k : SampleOf(calls, 101)) run(k);
 }
 
 }  // namespace

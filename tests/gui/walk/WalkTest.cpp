@@ -3,6 +3,7 @@
 
 #include "Walk.h"
 #include "controller/simulator/Benches.h"
+#include "support/Sample.h"
 
 namespace mortane::test {
 namespace {
@@ -15,6 +16,17 @@ std::string Joined(const std::vector<std::string>& lines) {
   std::string text;
   for (const std::string& line : lines) text += line + "\n";
   return text;
+}
+
+// Each bench is walked over in one of the windows, and over all cases in both.
+std::vector<std::string> BenchesFor(WalkedWindow window) {
+  const std::vector<std::string> names = controller::benches::Names();
+  std::vector<std::string> walked;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const WalkedWindow own = i % 2 == 1 ? WalkedWindow::Main : WalkedWindow::Wizard;
+    if (own == window || TriesAllCases()) walked.push_back(names[i]);
+  }
+  return walked;
 }
 
 class MainWindowWalk : public ::testing::TestWithParam<std::string> {};
@@ -35,9 +47,9 @@ std::string NameOf(const ::testing::TestParamInfo<std::string>& row) {
   return row.param;
 }
 
-INSTANTIATE_TEST_SUITE_P(Benches, MainWindowWalk, ::testing::ValuesIn(controller::benches::Names()),
-                         NameOf);
-INSTANTIATE_TEST_SUITE_P(Benches, WizardWalk, ::testing::ValuesIn(controller::benches::Names()),
+INSTANTIATE_TEST_SUITE_P(Benches, MainWindowWalk,
+                         ::testing::ValuesIn(BenchesFor(WalkedWindow::Main)), NameOf);
+INSTANTIATE_TEST_SUITE_P(Benches, WizardWalk, ::testing::ValuesIn(BenchesFor(WalkedWindow::Wizard)),
                          NameOf);
 
 }  // namespace

@@ -1,9 +1,11 @@
 // The built wizard, worked by keyboard alone.
+#include <array>
 #include <filesystem>
 
 #include "controller/simulator/BenchFile.h"
 #include "controller/simulator/Benches.h"
 #include "gui/support/BuiltProgram.h"
+#include "support/Sample.h"
 
 namespace mortane::test {
 namespace {
@@ -82,6 +84,13 @@ TEST_F(Wizard, IsRefusedADeviceThatTheFullWindowHolds) {
 struct WizardRow {
   const char* bench;
   int steps;  // how often Next leads on, with the items that the keys below leave switched on
+  Tried tried = Tried::Always;
+};
+
+constexpr std::array kRows{
+    WizardRow{"Harbour", 6},
+    WizardRow{"Lantern", 5, Tried::WithAllCases},
+    WizardRow{"Pair", 4},
 };
 
 class WizardOn : public Wizard, public testing::WithParamInterface<WizardRow> {};
@@ -113,9 +122,7 @@ TEST_P(WizardOn, IsGoneThroughByKeyboardAlone) {
   EXPECT_NE(TempFolder::Read(saved).find("Bay 4"), std::string::npos);
 }
 
-INSTANTIATE_TEST_SUITE_P(Benches, WizardOn,
-                         testing::Values(WizardRow{"Harbour", 6}, WizardRow{"Lantern", 5},
-                                         WizardRow{"Pair", 4}),
+INSTANTIATE_TEST_SUITE_P(Benches, WizardOn, testing::ValuesIn(RowsToTry(kRows)),
                          [](const auto& row) { return std::string(row.param.bench); });
 
 }  // namespace

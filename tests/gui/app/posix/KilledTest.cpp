@@ -209,7 +209,7 @@ class KilledProcess : public testing::Test {
 TEST_F(KilledProcess, LosesTheEditsOfItsLastMomentAndLeavesNoHalfFile) {
   std::mt19937 kills(1);
   int files = 0;
-  const auto count = static_cast<unsigned>(CountOf(20, 100));
+  const auto count = static_cast<unsigned>(CountOf(12, 100));
   for (unsigned kill = 0; kill < count; ++kill) {
     std::filesystem::remove_all(folder.Path("unsent"));
     log->turns = 0;
