@@ -191,6 +191,25 @@ TEST(LoadText, NamesTheLineOfTheFault) {
   EXPECT_TRUE(document.Problem().starts_with("line 3: ")) << document.Problem();
 }
 
+TEST(LoadText, SaysWhatIsWrongWithTheWhole) {
+  const std::string largest(kLargestFile, 'x');
+  const Row rows[] = {
+      {"the document is empty", ""},
+      {"the document is too large", largest + "x"},
+      {"the document holds a NUL character", "<a/>\0"s},
+      {"the document ends within a character", Utf16("<a/>") + "\n"},
+      {"the document ends within a character", Utf16("<a/>") + "\x3D\xD8"},
+  };
+  for (const Row& row : rows) {
+    DomDocument document;
+    EXPECT_FALSE(document.LoadText(row.bytes)) << row.meaning;
+    EXPECT_EQ(document.Problem(), row.meaning);
+  }
+  DomDocument document;
+  EXPECT_FALSE(document.LoadText(largest));
+  EXPECT_NE(document.Problem(), "the document is too large");
+}
+
 TEST(LoadText, SaysInWhichLineWhatIsNotAllowed) {
   const Row rows[] = {
       {"line 2: entities are not allowed", "<!DOCTYPE a [\n<!ENTITY b 'c'>]><a/>"},

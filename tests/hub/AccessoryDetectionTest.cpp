@@ -142,6 +142,17 @@ TEST(AccessoryDetection, AControllerUnitThatFailsStopsIt) {
   EXPECT_EQ(rig.k70.lConnectDevice, 1);
 }
 
+TEST(AccessoryDetection, AControllerUnitThatFailsLeavesNothingOfTheConnectionBefore) {
+  Rig rig("Harbour");
+  ASSERT_TRUE(rig.k70.Connect(1));
+  ASSERT_TRUE(rig.k70.Controller(0));
+  rig.faults.Add({"ControllerPresent(1)"});
+  rig.prompts.ExpectBox("*** CheckAccessories Error!!(80004005)", box::kOk, Answer::Ok);
+  EXPECT_TRUE(rig.k70.Connect(1));
+  for (std::int32_t unit = 0; unit < 7; ++unit) EXPECT_FALSE(rig.k70.Controller(unit)) << unit;
+  for (std::int32_t i = 1; i <= 14; ++i) EXPECT_EQ(rig.k70.IsMounted(i), 0) << i;
+}
+
 TEST(AccessoryDetection, AnAccessoryThatFailsKeepsWhatCameBefore) {
   Rig rig("Harbour");
   rig.faults.Add({"FilterCubeDevice.Position"});

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <string>
+#include <vector>
 
 #include "controller/Microscope.h"
 #include "controller/simulator/BenchFile.h"
@@ -104,6 +106,33 @@ TEST_F(BenchSessionFile, SaysInOneLineThatItCannotKeepAndTriesAgainAtItsEnd) {
     folder_.Write("bench.xml", good);
   }
   EXPECT_EQ(NameOf(1), "Sent");
+}
+
+// Only what is not yet in the file is tried once more at the end.
+TEST_F(BenchSessionFile, SaysNothingAtItsEndWhereNothingIsLeftToKeep) {
+  const std::string good = TempFolder::Read(path_);
+  std::vector<std::string> said;
+  const auto note = [&said](const std::string& text) { said.push_back(text); };
+  {
+    BenchSession session(path_, note);
+    folder_.Write("bench.xml", "<Bench>");
+  }
+  EXPECT_TRUE(said.empty());
+  folder_.Write("bench.xml", good);
+  {
+    BenchSession session(path_, note);
+    const Microscope root = Connected(session, 1);
+    root.PutSystemName("First");
+    folder_.Write("bench.xml", "<Bench>");
+    session.Keep();
+    EXPECT_EQ(said.size(), 1U);
+    folder_.Write("bench.xml", good);
+    root.PutSystemName("Second");
+    session.Keep();
+    EXPECT_EQ(NameOf(1), "Second");
+    folder_.Write("bench.xml", "<Bench>");
+  }
+  EXPECT_EQ(said.size(), 1U) << "the failure was made good";
 }
 
 TEST(BenchSession, WithoutAFileIsTheSimulatedMicroscopeAlone) {

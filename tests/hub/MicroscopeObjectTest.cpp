@@ -204,7 +204,13 @@ TEST(MicroscopeObject, ThereIsNoSecondInstanceAfterTheFirstIsReleased) {
   RigLibrary library(benches::Named("Quay"));
   ProvideK70(library.library, library.prompts);
   ReleaseK70();
-  EXPECT_THROW(GetK70(), Failure);
+  try {
+    GetK70();
+    ADD_FAILURE() << "nothing was raised";
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.Number(), 91);
+    EXPECT_EQ(failure.Description(), "There is no microscope object.");
+  }
   EXPECT_EQ(library.journal.CallCount(), 0U);
 }
 

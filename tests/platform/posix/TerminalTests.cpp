@@ -35,11 +35,12 @@ class OutputTo {
 TEST(Terminal, APipeIsNone) {
   std::array<int, 2> ends{};
   ASSERT_EQ(::pipe(ends.data()), 0);
-  {
+  ChildProcess child([&ends](const ChildProcess::Side& /*test*/) {
     const OutputTo pipe(ends[1]);
-    EXPECT_FALSE(IsTerminal(StandardStream::Output));
-    EXPECT_EQ(WriteStandardOutput("a line\n"), "");
-  }
+    if (IsTerminal(StandardStream::Output)) return 1;
+    return WriteStandardOutput("a line\n").empty() ? 0 : 2;
+  });
+  EXPECT_EQ(child.Wait(), 0);
   std::array<char, 16> read{};
   EXPECT_EQ(::read(ends[0], read.data(), read.size()), 7);
   EXPECT_STREQ(read.data(), "a line\n");
