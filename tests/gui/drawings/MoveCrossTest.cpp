@@ -205,5 +205,52 @@ TEST_F(MoveCrossTest, TheEnterKeyTheWheelAndARepeatingKeyDoNothing) {
   }
 }
 
+TEST_F(MoveCrossTest, ButtonsStandFourPixelsApart) {
+  cross->setFixedSize(cross->minimumSizeHint());
+  QApplication::processEvents();
+  const int middle = qMax(36, cross->middle()->sizeHint().width());
+  EXPECT_EQ(cross->minimumSizeHint(), QSize(4 * 40 + middle, 4 * 40 + 36));
+  EXPECT_EQ(cross->sizeHint().height(), 4 * 94 + 90);
+  EXPECT_EQ(cross->middle()->geometry(), QRect(80, 80, middle, 36));
+  const int above = 80 + (middle - 36) / 2;
+  const int behind = 80 + middle + 4;
+  struct Row {
+    MoveDirection direction;
+    MoveSize size;
+    QPoint at;
+  };
+  for (const Row& row : {Row{MoveDirection::Up, MoveSize::Large, {above, 0}},
+                         Row{MoveDirection::Up, MoveSize::Small, {above, 40}},
+                         Row{MoveDirection::Down, MoveSize::Small, {above, 120}},
+                         Row{MoveDirection::Down, MoveSize::Large, {above, 160}},
+                         Row{MoveDirection::Left, MoveSize::Large, {0, 80}},
+                         Row{MoveDirection::Left, MoveSize::Small, {40, 80}},
+                         Row{MoveDirection::Right, MoveSize::Small, {behind, 80}},
+                         Row{MoveDirection::Right, MoveSize::Large, {behind + 40, 80}}}) {
+    const MoveButton* button = cross->button(row.direction, row.size);
+    EXPECT_EQ(button->geometry(), QRect(row.at, QSize(36, 36)));
+    EXPECT_EQ(button->sizeHint(), QSize(36, 36));
+  }
+}
+
+TEST_F(MoveCrossTest, AnotherFontMovesTheButtonsAtOnce) {
+  QFont large = cross->font();
+  large.setPointSizeF(large.pointSizeF() * 3);
+  MoveCross like(MoveCross::Axes::Both, u"Start"_s);
+  like.setFont(large);
+  like.resize(500, 500);
+  like.show();
+  cross->setFixedSize(500, 500);
+  QApplication::processEvents();
+  const int before = cross->minimumSizeHint().height();
+  cross->setFont(large);
+  EXPECT_GT(cross->minimumSizeHint().height(), before);
+  EXPECT_EQ(cross->middle()->geometry(), like.middle()->geometry());
+  for (const MoveDirection direction : {MoveDirection::Up, MoveDirection::Left}) {
+    EXPECT_EQ(cross->button(direction, MoveSize::Small)->geometry(),
+              like.button(direction, MoveSize::Small)->geometry());
+  }
+}
+
 }  // namespace
 }  // namespace mortane

@@ -1,7 +1,11 @@
 // What a place of a turret and the disc behind the places look like.
+#include <QtMath>
+#include <cmath>
+#include "drawings/MarkButton.h"
 #include "drawings/TurretButton.h"
 #include "drawings/TurretDrawing.h"
 #include "gui/support/Face.h"
+#include "gui/support/PaintCount.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/Theme.h"
 
@@ -213,6 +217,89 @@ TEST(TurretFace, PlacesAreAsLargeAsTheirNumberLetsThem) {
   single.resize(280, 280);
   single.show();
   EXPECT_EQ(single.place(0)->geometry(), QRect(98, 6, 84, 84));
+}
+
+TEST(TurretFace, WhatAPlaceShowsAnewIsPaintedAtOnce) {
+  TestWindow window;
+  auto* place = window.Add<TurretButton>(PlaceKind::Cubes, 1);
+  place->setFixedSize(60, 60);
+  window.Show();
+  QApplication::processEvents();
+  test::PaintCount paints(*place);
+  const auto paintedBy = [&paints](auto act) {
+    paints.count = 0;
+    act();
+    QApplication::processEvents();
+    return paints.count > 0;
+  };
+  EXPECT_TRUE(paintedBy([&] { place->SetItem({"One", "One", {}}); }));
+  EXPECT_TRUE(paintedBy([&] { place->SetPending("Two"); }));
+  EXPECT_FALSE(paintedBy([&] { place->SetPending("Two"); }));
+  EXPECT_TRUE(paintedBy([&] { place->SetPlaceSize({30, 24}); }));
+  EXPECT_TRUE(paintedBy([&] { place->SetLabelFont(TitleFont()); }));
+}
+
+struct MarkFace {
+  const char* what;
+  Use use;
+  bool chosen;
+  const char* dial;
+  const char* key;
+};
+
+// A mark 30 wide with the room for its focus around it.
+TEST(MarkFace, TellsItsState) {
+  for (const MarkFace& row : {
+           MarkFace{"at rest", Use::Rest, false,
+                    "Window 4, ~ 2, RailHover 1, ~ 1, RailText 1, ~ 2, RailHover 18, ~ 2, RailText "
+                    "1, ~ 1, RailHover 1, ~ 2, Window 4",
+                    "Window 4, ~ 2, Rail 28, ~ 2, Window 4"},
+           MarkFace{"hovered", Use::Hovered, false,
+                    "Window 4, ~ 2, RailSelected 1, ~ 1, RailText 1, ~ 2, RailSelected 18, ~ 2, "
+                    "RailText 1, ~ 1, RailSelected 1, ~ 2, Window 4",
+                    "Window 4, ~ 2, RailHover 28, ~ 2, Window 4"},
+           MarkFace{"focused", Use::Focused, false,
+                    "Window 1, ~ 1, RailText 1, ~ 3, RailHover 1, ~ 1, RailText 1, ~ 2, RailHover "
+                    "18, ~ 2, RailText 1, ~ 1, RailHover 1, ~ 3, RailText 1, ~ 1, Window 1",
+                    "Window 1, ~ 1, RailText 1, ~ 3, Rail 28, ~ 3, RailText 1, ~ 1, Window 1"},
+           MarkFace{"chosen", Use::Rest, true,
+                    "Window 4, ~ 2, Amber 1, ~ 1, OnAmber 1, ~ 2, Amber 18, ~ 2, OnAmber 1, ~ 1, "
+                    "Amber 1, ~ 2, Window 4",
+                    "Window 3, ~ 1, Amber 2, ~ 1, Rail 26, ~ 1, Amber 2, ~ 1, Window 3"},
+       }) {
+    for (const MarkKind kind : {MarkKind::BodyDial, MarkKind::HandKey}) {
+      MarkButton mark({kind, {}}, nullptr);
+      mark.Place({5, 5, 30, 30});
+      mark.setChecked(row.chosen);
+      const QImage picture = test::PictureOf(mark, {40, 40}, row.use);
+      EXPECT_EQ(test::RowOf(picture, 20), kind == MarkKind::BodyDial ? row.dial : row.key)
+          << row.what;
+    }
+  }
+}
+
+TEST(MarkFace, HasRoomForTheFocusAroundWhatIsHit) {
+  MarkButton small({MarkKind::BodySwitch, {}}, nullptr);
+  small.Place({10, 10, 20, 20});
+  EXPECT_EQ(small.geometry(), QRect(6, 6, 28, 28));
+  EXPECT_EQ(small.contentsMargins(), QMargins(2, 2, 2, 2)) << "what is hit is 24 wide";
+  MarkButton large({MarkKind::BodySwitch, {}}, nullptr);
+  large.Place({10, 10, 60, 40});
+  EXPECT_EQ(large.geometry(), QRect(6, 6, 68, 48));
+  EXPECT_EQ(large.contentsMargins(), QMargins(4, 4, 4, 4));
+}
+
+TEST(TurretFace, SixtyLinesStandRoundTheRimOfTheDisc) {
+  TurretDrawing turret(PlaceKind::Objectives);
+  const QImage disc = test::PictureOf(turret, {280, 280}, Use::Rest);
+  const auto lightnessAt = [&disc](double degrees) {
+    const double angle = qDegreesToRadians(degrees);
+    const QPointF at(140 + 135.5 * std::sin(angle), 140 - 135.5 * std::cos(angle));
+    return disc.pixelColor(qFloor(at.x()), qFloor(at.y())).lightness();
+  };
+  for (int line = 0; line < 60; ++line) {
+    EXPECT_LT(lightnessAt(6 * line), lightnessAt(6 * line + 3)) << line;
+  }
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/NotSentMark.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -189,6 +190,13 @@ TEST(CheckToggleFace, TellsEachState) {
   unknown.SetUnknown();
   EXPECT_EQ(test::RowOf(test::PictureOf(unknown, {50, 26}, Use::Rest)),
             "Window 5, ~ 2, Base 10, ~ 1, Dark 10, ~ 1, Base 10, ~ 2, Window 9");
+}
+
+TEST(CheckToggleFace, HoldsItsTrackAndItsLongerCaption) {
+  const CheckToggle toggle;
+  const int caption = qMax(QFontMetrics(BoldFont()).horizontalAdvance("ON"),
+                           toggle.fontMetrics().horizontalAdvance("OFF"));
+  EXPECT_EQ(toggle.sizeHint(), QSize(5 + 36 + 9 + caption + 10, 26));
 }
 
 }  // namespace

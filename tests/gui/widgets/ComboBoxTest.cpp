@@ -2,7 +2,9 @@
 
 #include <QAbstractItemView>
 
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
+#include "widgets/NotSentMark.h"
 #include "widgets/RowDelegate.h"
 
 namespace mortane {
@@ -110,6 +112,17 @@ TEST_F(ComboBoxTest, TheWheelChangesNothingFocusedOrNot) {
 TEST_F(ComboBoxTest, FindsARowByItsData) {
   EXPECT_EQ(combo->rowOf(20), 2);
   EXPECT_EQ(combo->rowOf(25), -1);
+}
+
+// Before the arrow, in which the row crosses the chevron.
+TEST(ComboBoxFace, HasItsDotBehindTheText) {
+  ComboBox combo;
+  EXPECT_EQ(test::RowOf(test::PictureOf(combo, {100, 30}, test::Use::Rest)),
+            "Dark 1, Base 82, ~ 2, Text 1, ~ 2, Text 1, ~ 2, Base 8, Dark 1");
+  MarkNotSent(combo, "was");
+  EXPECT_EQ(
+      test::RowOf(test::PictureOf(combo, {100, 30}, test::Use::Rest)),
+      "Dark 1, Base 61, ~ 1, Link 8, ~ 1, Base 11, ~ 2, Text 1, ~ 2, Text 1, ~ 2, Base 8, Dark 1");
 }
 
 }  // namespace

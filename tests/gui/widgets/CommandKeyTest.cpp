@@ -238,6 +238,15 @@ TEST(CommandKeyFace, TellsEachState) {
 }
 
 TEST(CommandKeyFace, HasItsPictureAndItsTextInTheMiddle) {
+  CommandKey picture(IconName::Send, {});
+  const QImage shown = test::PictureOf(picture, {80, 42}, test::Use::Rest).copy(20, 6, 30, 28);
+  QImage wanted(80, 42, QImage::Format_RGB32);
+  wanted.fill(test::TellablePalette().color(QPalette::Base));
+  QPainter painter(&wanted);
+  DrawIcon(painter, IconName::Send, QRectF(24, 9, 22, 22),
+           {test::TellablePalette().color(QPalette::ButtonText), ToneColor(Tone::IconAccent)});
+  painter.end();
+  EXPECT_EQ(shown.convertToFormat(QImage::Format_RGB32), wanted.copy(20, 6, 30, 28));
   CommandKey key(IconName::Send, QString("Send"));
   const int text = key.fontMetrics().horizontalAdvance(key.text());
   EXPECT_EQ(key.sizeHint(), QSize(qMax(124, 22 + 10 + text + 44), 42));

@@ -8,6 +8,7 @@
 #include <QPalette>
 
 #include "widgets/LateIcon.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -68,6 +69,19 @@ TEST(LateIcon, IsMadeOnceWhenItsPictureIsWanted) {
     EXPECT_EQ(icon.pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::red));
     EXPECT_EQ(made, 1);
   }
+}
+
+TEST(Icons, AnIconOfAChosenRowIsLightWithAmber) {
+  const QImage chosen = Icon(IconName::Receive).pixmap(QSize(48, 48), 1, QIcon::Selected).toImage();
+  EXPECT_TRUE(Contains(chosen, QApplication::palette().color(QPalette::HighlightedText)));
+  EXPECT_TRUE(Contains(chosen, ToneColor(Tone::Amber)));
+}
+
+TEST(Icons, StandInTheMiddleOfALargerPicture) {
+  const QIcon icon = Icon(IconName::Save);
+  const QImage square = icon.pixmap(QSize(40, 40), 1).toImage();
+  EXPECT_EQ(icon.pixmap(QSize(60, 40), 1).toImage().copy(10, 0, 40, 40), square);
+  EXPECT_EQ(icon.pixmap(QSize(40, 60), 1).toImage().copy(0, 10, 40, 40), square);
 }
 
 }  // namespace

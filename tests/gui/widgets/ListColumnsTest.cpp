@@ -2,6 +2,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/ListBox.h"
 #include "widgets/NotSent.h"
@@ -68,6 +69,63 @@ TEST_F(ColumnsOfAList, TellNothingButTheirToolTips) {
   QHelpEvent event(QEvent::WhatsThis, {}, {});
   auto* delegate = static_cast<RowDelegate*>(list->itemDelegate());
   EXPECT_FALSE(delegate->helpEvent(&event, list, option, cell));
+}
+
+TEST_F(ColumnsOfAList, AnIconStandsInTheFirstOne) {
+  list->SetIconRows(true);
+  QPixmap red(22, 22);
+  red.fill(Qt::red);
+  list->SetRowIcon(0, QIcon(red));
+  QApplication::processEvents();
+  const auto widthOfRed = [this](int column) {
+    const QRect cell = list->visualRect(list->model()->index(0, column));
+    const QImage image = list->viewport()->grab(cell).toImage();
+    int width = 0;
+    for (int x = 0; x < image.width(); ++x)
+      width += image.pixel(x, image.height() / 2) == QColor(Qt::red).rgb() ? 1 : 0;
+    return width;
+  };
+  EXPECT_EQ(widthOfRed(0), 22);
+  EXPECT_EQ(widthOfRed(1), 0);
+}
+
+struct DotRow {
+  const char* what;
+  bool pending;
+  bool selected;
+  const char* row;
+};
+
+// The first 40 pixels of a row whose text is blank.
+TEST(RowFace, HasItsDotBeforeItsTextOnItsGround) {
+  for (const DotRow& row : {
+           DotRow{"at rest", false, false, "Base 40"},
+           DotRow{"selected", false, true, "Highlight 40"},
+           DotRow{"not sent", true, false, "Base 7, ~ 1, Link 8, ~ 1, Base 23"},
+           DotRow{"selected and not sent", true, true,
+                  "Highlight 7, ~ 1, HighlightedText 8, ~ 1, Highlight 23"},
+       }) {
+    ListBox list;
+    list.addRow(" ");
+    list.addRow("other");
+    if (row.pending) list.SetRowPending(0, "was");
+    list.setIndex(row.selected ? 0 : 1);
+    test::PictureOf(list, {200, 120}, test::Use::Rest);
+    list.setPalette(test::TellablePalette());
+    const QRect cell = list.visualRect(list.model()->index(0, 0));
+    const QImage picture =
+        list.viewport()->grab({cell.topLeft(), QSize(40, cell.height())}).toImage();
+    EXPECT_EQ(test::RowOf(picture), row.row) << row.what;
+  }
+}
+
+TEST(RowFace, ARowIsAsHighAsTheGridAndHigherWithIcons) {
+  ListBox list;
+  list.addRow("one");
+  EXPECT_EQ(list.visualItemRect(list.topLevelItem(0)).height(), 26);
+  list.SetIconRows(true);
+  QApplication::processEvents();
+  EXPECT_EQ(list.visualItemRect(list.topLevelItem(0)).height(), 38);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "widgets/PageHeader.h"
 
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/SectionBar.h"
 #include "widgets/Theme.h"
@@ -58,6 +59,47 @@ TEST(PageHeader, TellsItsTitle) {
   const PageHeader header(IconName::Cube, "Filter Cubes");
   EXPECT_EQ(header.title(), "Filter Cubes");
   EXPECT_EQ(header.sectionBar(), nullptr);
+}
+
+TEST(PageHeader, TheTitleStandsBesideItsIconAndTheBarBehindTheLongestTitle) {
+  PageHeader header(IconName::Cube, "Cubes");
+  SectionBar* bar = header.AddSectionBar();
+  bar->AddOption("One");
+  header.resize(600, 56);
+  header.show();
+  QApplication::processEvents();
+  const auto* title = header.findChild<QLabel*>();
+  ASSERT_NE(title, nullptr);
+  EXPECT_EQ(title->pos(), QPoint(38, 12));
+  EXPECT_EQ(title->height(), header.height() - 12);
+  QLabel longest("Filter Cubes");
+  longest.setFont(TitleFont());
+  EXPECT_EQ(title->width(), qMax(180 - 20 - 38 - 16, longest.sizeHint().width()));
+  EXPECT_EQ(bar->pos(), QPoint(38 + title->width() + 16, 12 + (44 - bar->height()) / 2));
+  EXPECT_EQ(bar->accessibleName(), "Cubes");
+  EXPECT_EQ(header.height(), 56);
+  EXPECT_EQ(header.minimumSizeHint().width(),
+            qMax(38 + title->sizeHint().width(), bar->minimumSizeHint().width()));
+}
+
+TEST(PageHeader, TheIconStandsInTheMiddleOfTheTitlesHeight) {
+  PageHeader header(IconName::Cube, {});
+  const QImage picture = test::PictureOf(header, {60, 56}, test::Use::Rest);
+  QImage wanted(picture.size(), QImage::Format_RGB32);
+  wanted.fill(test::TellablePalette().color(QPalette::Window));
+  QPainter painter(&wanted);
+  DrawIcon(painter, IconName::Cube, QRectF(0, 20, 28, 28),
+           {test::TellablePalette().color(QPalette::WindowText), ToneColor(Tone::IconAccent)});
+  painter.end();
+  EXPECT_EQ(picture.convertToFormat(QImage::Format_RGB32), wanted);
+}
+
+TEST(PageHeader, APageHasTheMarginsOfTheGrid) {
+  QWidget page;
+  const QVBoxLayout* column = MakePageLayout(&page, new PageHeader(IconName::Cube, "Cubes"));
+  EXPECT_EQ(column->contentsMargins(), QMargins(20, 0, 20, 16));
+  EXPECT_EQ(column->spacing(), 12);
+  EXPECT_EQ(column->count(), 1);
 }
 
 }  // namespace

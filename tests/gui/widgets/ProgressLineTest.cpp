@@ -1,5 +1,6 @@
 #include "widgets/ProgressLine.h"
 
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
@@ -56,6 +57,22 @@ TEST(ProgressLine, FillsItsPartInHighlightAlsoInADisabledWindow) {
   EXPECT_NE(picture.pixelColor(40, 1), highlight);
   line.clear();
   EXPECT_NE(line.grab().toImage().pixelColor(10, 1), highlight);
+}
+
+TEST(ProgressLine, ShowsTheShareThatIsDone) {
+  ProgressLine line;
+  EXPECT_EQ(line.sizeHint(), QSize(0, 3));
+  for (const auto& [done, row] : {std::pair{0, "Window 100"},
+                                  {1, "Highlight 25, Window 75"},
+                                  {4, "Highlight 100"},
+                                  {9, "Highlight 100"}}) {
+    line.setProgress(done, 4);
+    const QImage picture = test::PictureOf(line, {100, 3}, test::Use::Rest);
+    EXPECT_EQ(test::RowOf(picture, 0), row) << done;
+    EXPECT_EQ(test::RowOf(picture, 2), row) << done;
+  }
+  line.clear();
+  EXPECT_EQ(test::RowOf(test::PictureOf(line, {100, 3}, test::Use::Rest)), "Window 100");
 }
 
 }  // namespace

@@ -236,5 +236,14 @@ TEST(PageButtonFace, ALowButtonLosesRoomAboveItsPictureFirst) {
   }
 }
 
+TEST(PageButtonFace, IsAsLargeAsTheGridAndNoLowerThanItsPictureAndText) {
+  const PageButton button(IconName::System, QString(40, u'W'));
+  const int text = button.fontMetrics().horizontalAdvance(button.text());
+  const int line = button.fontMetrics().height();
+  EXPECT_EQ(button.sizeHint(), QSize(text + 16, qMax(78, 12 + 32 + 8 + line + 10)));
+  EXPECT_EQ(button.minimumSizeHint(), QSize(text + 16, 32 + line + 12));
+  EXPECT_EQ(PageButton(IconName::System, "I").sizeHint().width(), 104);
+}
+
 }  // namespace
 }  // namespace mortane

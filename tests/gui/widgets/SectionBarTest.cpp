@@ -325,5 +325,33 @@ TEST(SectionOptionFace, TellsEachState) {
   }
 }
 
+TEST_F(SectionBarTest, OptionsStandSideBySideAndGiveWayAlikeBesideTheirTexts) {
+  QVector<int> texts;
+  int all = 0;
+  for (int i = 0; i < 3; ++i) {
+    texts.append(QFontMetrics(BoldFont()).horizontalAdvance(bar->option(i)->text()));
+    all += texts[i];
+    EXPECT_EQ(bar->option(i)->sizeHint().width(), texts[i] + 2 * 18);
+    EXPECT_EQ(bar->option(i)->minimumSizeHint().width(), texts[i] + 8 + 12);
+  }
+  EXPECT_EQ(bar->sizeHint(), QSize(all + 3 * 36, 34));
+  for (const int beside : {20, 28, 36, 60}) {  // of each text
+    bar->setFixedSize(all + 3 * beside, 34);
+    QApplication::processEvents();
+    int left = 0;
+    for (int i = 0; i < 3; ++i) {
+      EXPECT_EQ(bar->option(i)->geometry(), QRect(left, 0, texts[i] + qMin(beside, 36), 34));
+      left = bar->option(i)->geometry().right() + 1;
+    }
+  }
+  const int wide =
+      bar->option(0)->minimumSizeHint().width() + bar->option(1)->minimumSizeHint().width();
+  EXPECT_EQ(bar->heightForWidth(wide), 34 + 4 + 34);
+  bar->setFixedSize(wide, 72);
+  QApplication::processEvents();
+  EXPECT_EQ(bar->option(1)->y(), 0);
+  EXPECT_EQ(bar->option(2)->pos(), QPoint(0, 38));
+}
+
 }  // namespace
 }  // namespace mortane

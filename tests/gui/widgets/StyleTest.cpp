@@ -32,16 +32,20 @@ const QColor kGround = Qt::white;
 
 std::vector<test::NamedColor> Names() {
   const QColor main = test::TellablePalette().color(QPalette::Highlight);
-  return {{".", kGround}, {"darker", main.darker(125)}, {"lighter", main.lighter(112)}};
+  return {{".", kGround},
+          {"red", Qt::red},
+          {"darker", main.darker(125)},
+          {"lighter", main.lighter(112)}};
 }
 
 // What an element of that state shows along its middle row and its middle column.
 template <class Option, class Draw>
-std::pair<std::string, std::string> Shown(Option option, S::State state, const Draw& draw) {
+std::pair<std::string, std::string> Shown(Option option, S::State state, const Draw& draw,
+                                          const QRect& area = kArea) {
   QImage picture(40, 24, QImage::Format_RGB32);
   picture.fill(kGround);
   QPainter painter(&picture);
-  option.rect = kArea;
+  option.rect = area;
   option.state = state;
   option.palette = test::TellablePalette();
   option.palette.setCurrentColorGroup(state.testFlag(S::State_Enabled) ? QPalette::Active
@@ -237,6 +241,17 @@ TEST(Style, AToolButtonHasAGroundWhileItIsInUse) {
   }
 }
 
+TEST(Style, AToolButtonHasItsIconTenPixelsBehindItsEdge) {
+  QPixmap icon(16, 16);
+  icon.fill(Qt::red);
+  QStyleOptionToolButton option;
+  option.toolButtonStyle = Qt::ToolButtonTextBesideIcon;
+  option.icon = icon;
+  option.iconSize = icon.size();
+  ExpectControl(S::CE_ToolButtonLabel,
+                {"label", kEnabled, ". 13, red 16, . 11", ". 4, red 16, . 4"}, option);
+}
+
 TEST(Style, ARowIsFilledWhereItIsSelected) {
   for (const ShownRow& row : {
            ShownRow{"at rest", kEnabled, ". 40", ". 24"},
@@ -313,6 +328,15 @@ TEST(Style, IndicatorsStandInTheirRowsWithRoomForTheFocus) {
   ExpectControl<QStyleOptionButton>(
       S::CE_RadioButton,
       {"option", kEnabled, ". 8, ~ 2, Base 12, ~ 2, . 16", ". 5, ~ 3, Base 8, ~ 3, . 5"});
+}
+
+// In a row of an odd height the spare pixel is below.
+TEST(Style, AnIndicatorStandsInTheMiddleOfItsRow) {
+  const auto draw = [](const S& style, const QStyleOptionButton& option, QPainter& painter) {
+    style.drawControl(S::CE_CheckBox, &option, &painter, nullptr);
+  };
+  const QRect odd(3, 0, 34, 23);
+  EXPECT_EQ(Shown(QStyleOptionButton(), kEnabled, draw, odd).second, ". 3, ~ 2, Base 12, ~ 2, . 5");
 }
 
 TEST(Style, AComboHasItsArrowAtTheEnd) {

@@ -3,6 +3,7 @@
 #include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/TextField.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -133,6 +134,23 @@ TEST(TabStripFace, TellsTheChosenTabTheFocusAndTheDot) {
     EXPECT_EQ(test::RowOf(picture, 14), row.row) << row.what;
     EXPECT_EQ(test::ColumnOf(picture, 10), row.column) << row.what;
   }
+}
+
+TEST(TabStripFace, ATabIsAsWideAsItsBoldTextWithRoomAtBothSides) {
+  TabStrip strip;
+  strip.SetTabs({"1", "A caption of several words"});
+  EXPECT_EQ(strip.tabRect(0).size(), QSize(56, 32));
+  const int text = QFontMetrics(BoldFont()).horizontalAdvance("A caption of several words");
+  EXPECT_EQ(strip.tabRect(1).size(), QSize(text + 12, 32));
+}
+
+TEST(TabStripFace, TabsDoNotGrowIntoAWiderStrip) {
+  TabStrip strip;
+  strip.SetTabs({"1", "2"});
+  strip.resize(400, 32);
+  strip.show();
+  QApplication::processEvents();
+  EXPECT_EQ(strip.tabRect(1), QRect(56, 0, 56, 32));
 }
 
 }  // namespace

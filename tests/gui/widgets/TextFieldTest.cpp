@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QPushButton>
 
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
@@ -279,6 +280,13 @@ TEST_F(TextFieldTest, ThePlaceholderShowsInTheColourOfCaptionsAndATextDoesNot) {
   EXPECT_EQ(color(), usual.color(QPalette::Text));
   field->setText(kDashes);
   EXPECT_EQ(color(), usual.color(QPalette::PlaceholderText));
+}
+
+TEST(TextFieldFace, HasItsDotAtItsEnd) {
+  TextField field;
+  field.SetPending("was");
+  EXPECT_EQ(test::RowOf(test::PictureOf(field, {100, 30}, test::Use::Rest)),
+            "Dark 1, Base 87, ~ 1, Link 8, ~ 1, Base 1, Dark 1");
 }
 
 }  // namespace

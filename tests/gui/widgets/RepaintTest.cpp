@@ -1,0 +1,59 @@
+// What a control shows anew is painted at once.
+#include "gui/support/PaintCount.h"
+#include "gui/support/TestWindow.h"
+#include "widgets/CheckToggle.h"
+#include "widgets/CommandKey.h"
+#include "widgets/NotSentMark.h"
+#include "widgets/PageButton.h"
+#include "widgets/ProgressLine.h"
+#include "widgets/SectionBar.h"
+#include "widgets/TabStrip.h"
+#include "widgets/TextField.h"
+
+namespace mortane {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+template <class Control>
+void ExpectPainted(const char* what, Control* control, const std::function<void(Control&)>& act) {
+  QWidget window;
+  control->setParent(&window);
+  control->resize(control->sizeHint().expandedTo({40, 20}));
+  window.resize(300, 100);
+  window.show();
+  QApplication::processEvents();
+  test::PaintCount paints(*control);
+  QApplication::processEvents();
+  ASSERT_EQ(paints.count, 0) << what;
+  act(*control);
+  QApplication::processEvents();
+  EXPECT_GT(paints.count, 0) << what;
+}
+
+TEST(Repaint, FollowsEachChangeOfAFace) {
+  ExpectPainted<CheckToggle>("unknown", new CheckToggle, [](auto& c) { c.SetUnknown(); });
+  ExpectPainted<CheckToggle>("not sent", new CheckToggle, [](auto& c) { MarkNotSent(c, u"ON"_s); });
+  ExpectPainted<CommandKey>("main", new CommandKey(IconName::Send, u"Send"_s),
+                            [](auto& c) { c.setMain(true); });
+  ExpectPainted<PageButton>("selected", new PageButton(IconName::System, u"System"_s),
+                            [](auto& c) { c.SetSelected(true); });
+  ExpectPainted<PageButton>("not sent", new PageButton(IconName::System, u"System"_s),
+                            [](auto& c) { c.SetPending(true); });
+  ExpectPainted<SectionOption>("not sent", new SectionOption(u"One"_s, nullptr),
+                               [](auto& c) { c.SetPending(true); });
+  ExpectPainted<SectionOption>("an end", new SectionOption(u"One"_s, nullptr),
+                               [](auto& c) { c.SetEnds(true, true); });
+  ExpectPainted<TextField>("not sent", new TextField, [](auto& c) { c.SetPending(u"was"_s); });
+  ExpectPainted<TextField>("refused", new TextField, [](auto& c) {
+    c.SetCheck([](const QString&) { return false; });
+    c.Commit();
+  });
+  ExpectPainted<ProgressLine>("progress", new ProgressLine, [](auto& c) { c.setProgress(1, 2); });
+  auto* strip = new TabStrip;
+  strip->SetNumberedTabs(2);
+  ExpectPainted<TabStrip>("not sent", strip, [](auto& c) { c.SetTabPending(0, true); });
+}
+
+}  // namespace
+}  // namespace mortane
