@@ -5,7 +5,9 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QSet>
 #include <QStyleOption>
+#include <utility>
 
 #include "widgets/ClickFocus.h"
 #include "widgets/NotSent.h"
@@ -20,6 +22,7 @@ namespace {
 
 constexpr int kIconSide = 22;
 constexpr int kRowsAskedFor = 6;
+constexpr double kRounding = 2;  // pixels by which two ways to measure a text may differ
 constexpr int kDialogUnits = 4;  // of a character's average width
 
 // Carries the header on above the scroll bar.
@@ -37,6 +40,13 @@ int LeastWidth(const std::vector<ColumnWish>& columns) {
   int width = 0;
   for (const ColumnWish& column : columns) width += column.content;
   return width;
+}
+
+// Icons, checks and dots stand in the first column.
+bool IsTextAlone(const QModelIndex& cell) {
+  if (cell.column() > 0) return true;
+  return !cell.data(Qt::DecorationRole).isValid() && !cell.data(Qt::CheckStateRole).isValid() &&
+         cell.data(kNotSentRole).toString().isEmpty();
 }
 
 double AverageCharacter(const QFontMetrics& metrics) {
@@ -107,14 +117,38 @@ void ListBox::ForgetContents() {
 void ListBox::MeasureContents() {
   const double unit = AverageCharacter(fontMetrics()) / kDialogUnits;
   for (int column = 0; column < columnCount(); ++column) {
-    int content = header()->isHidden() ? 0 : header()->sectionSizeHint(column);
-    for (int row = 0; row < rowCount(); ++row) {
-      content = qMax(content, WidthOf(model()->index(row, column)));
-    }
+    const int header = this->header()->isHidden() ? 0 : this->header()->sectionSizeHint(column);
+    const int content = qMax(header, WidestCell(column));
     const int before = column > 0 ? tabStops_.value(column - 1) : 0;
     const int stop = qRound((tabStops_.value(column) - before) * unit);
     wishes_.push_back({content, qMax(content, stop)});
   }
+}
+
+// What the delegate asks for takes its time. Of cells with nothing but a text it is asked for the
+// widest texts alone, and many rows have the same type or number.
+int ListBox::WidestCell(int column) {
+  const QFontMetricsF metrics(MeasuringFont());
+  QSet<QString> measured;
+  std::vector<std::pair<double, QModelIndex>> texts;
+  double widest = 0;
+  int content = 0;
+  for (int row = 0; row < rowCount(); ++row) {
+    const QModelIndex cell = model()->index(row, column);
+    if (!IsTextAlone(cell)) {
+      content = qMax(content, WidthOf(cell));
+      continue;
+    }
+    const QString text = cell.data().toString();
+    if (measured.contains(text)) continue;
+    measured.insert(text);
+    texts.emplace_back(metrics.horizontalAdvance(text), cell);
+    widest = qMax(widest, texts.back().first);
+  }
+  for (const auto& [advance, cell] : texts) {
+    if (advance > widest - kRounding) content = qMax(content, WidthOf(cell));
+  }
+  return content;
 }
 
 void ListBox::FitColumns() {

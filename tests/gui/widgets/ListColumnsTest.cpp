@@ -56,6 +56,38 @@ TEST_F(ColumnsOfAList, BeginAtTheirTabStops) {
   EXPECT_EQ(list->header()->sectionSize(0), list->header()->sectionSize(1));
 }
 
+// Asked cell by cell.
+TEST_F(ColumnsOfAList, HaveRoomForTheirWidestCell) {
+  const auto narrowest = [this](int column) {
+    int widest = 0;
+    for (int row = 0; row < list->rowCount(); ++row) {
+      const QModelIndex cell = list->model()->index(row, column);
+      QStyleOptionViewItem option;
+      option.initFrom(list);
+      widest = qMax(widest, list->itemDelegate()->sizeHint(option, cell).width());
+    }
+    return widest;
+  };
+  const auto expectRoom = [&](const char* what) {
+    QApplication::processEvents();
+    for (int column = 0; column < 3; ++column)
+      EXPECT_GE(list->header()->sectionSize(column), narrowest(column)) << what << column;
+  };
+  window.widget().resize(300, 300);
+  expectRoom("repeated texts");
+  for (const char* text : {"WWWWWWWWWW", "iiiiiiiiiiiiiiii", "a longer name of a cube", "UV"})
+    list->addCells({text, text, "460/20"});
+  expectRoom("a wide one among others");
+  QPixmap icon(22, 22);
+  list->SetRowIcon(4, QIcon(icon));
+  list->addCells({"a longer name of a cube", "", ""});
+  expectRoom("an icon");
+  list->SetRowPending(4, "UV");
+  expectRoom("a dot");
+  list->SetRowChecked(4, true);
+  expectRoom("a check");
+}
+
 TEST_F(ColumnsOfAList, OneAloneIsNeverScrolledSideways) {
   EXPECT_EQ(list->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
   list->SetColumns({{"Name"}});
