@@ -64,6 +64,7 @@ TEST_F(ColumnsOfAList, HaveRoomForTheirWidestCell) {
       const QModelIndex cell = list->model()->index(row, column);
       QStyleOptionViewItem option;
       option.initFrom(list);
+      option.decorationSize = list->iconSize();
       widest = qMax(widest, list->itemDelegate()->sizeHint(option, cell).width());
     }
     return widest;
@@ -78,14 +79,19 @@ TEST_F(ColumnsOfAList, HaveRoomForTheirWidestCell) {
   for (const char* text : {"WWWWWWWWWW", "iiiiiiiiiiiiiiii", "a longer name of a cube", "UV"})
     list->addCells({text, text, "460/20"});
   expectRoom("a wide one among others");
-  QPixmap icon(22, 22);
-  list->SetRowIcon(4, QIcon(icon));
-  list->addCells({"a longer name of a cube", "", ""});
-  expectRoom("an icon");
-  list->SetRowPending(4, "UV");
+  // The text of a row before it, which needs less room; no other is as wide.
+  const int row = list->addCells({"a longer name of a cube", "", ""});
+  list->SetRowPending(row, "UV");
   expectRoom("a dot");
-  list->SetRowChecked(4, true);
+  list->SetRowPending(row, std::nullopt);
+  list->SetRowChecked(row, true);
   expectRoom("a check");
+  const int last = list->addCells({"a longer name of a cube", "", ""});
+  QPixmap icon(40, 22);
+  icon.fill(Qt::red);
+  list->setIconSize(icon.size());
+  list->SetRowIcon(last, QIcon(icon));
+  expectRoom("an icon");
 }
 
 TEST_F(ColumnsOfAList, OneAloneIsNeverScrolledSideways) {
