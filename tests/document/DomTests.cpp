@@ -110,7 +110,8 @@ TEST(DomDocument, KeepsAnAttributeInItsPlaceWhenItIsSetAgain) {
 TEST(DomDocument, CarriesEveryValueThroughTextAndBack) {
   for (const std::string& value :
        {""s, " "s, "  a  "s, "\t"s, "\r\n"s, "a\rb\nc"s, "<&>\"'"s, "&amp;"s, "&#10;"s, "]]>"s,
-        "µm 顕微鏡"s, "\U0001F52C"s, "\u00A0"s, "\xEF\xBF\xBD"s, std::string(100000, 'x')}) {
+        "µm 顕微鏡"s, "\U0001F52C"s, "\u00A0"s, "\xEF\xBF\xBD"s, "\u0080\u0800\U00010000"s,
+        std::string(100000, 'x')}) {
     DomDocument written;
     DomNode root = written.CreateElement("a");
     root.SetAttribute("v", value);

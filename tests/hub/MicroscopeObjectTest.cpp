@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "common/Failure.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOffset.h"
+#include "interlocks/clsInterLockOther.h"
 #include "support/RefusedMutex.h"
 #include "support/Rig.h"
 
@@ -64,6 +67,21 @@ TEST(MicroscopeObject, IndicesBelowAndAboveTheControllersAnswerFalse) {
   EXPECT_TRUE(rig.k70.Controller(6));
   EXPECT_FALSE(rig.k70.Controller(-1));
   EXPECT_FALSE(rig.k70.Controller(7));
+}
+
+TEST(MicroscopeObject, HasInterlocksWhereOneOfTheThreeUnitsHasOne) {
+  std::string (*const reads[])(clsK70&) = {
+      [](clsK70& k70) { return k70.ILObservation.ReadSdk(); },
+      [](clsK70& k70) { return k70.ILOther.ReadSdk(); },
+      [](clsK70& k70) { return k70.ILOffset.ReadSdk(); },
+  };
+  for (const auto& read : reads) {
+    Rig rig("Harbour");
+    rig.Connect();
+    EXPECT_FALSE(rig.k70.IsInterlockEnable()) << "nothing is known before a Receive";
+    EXPECT_EQ(read(rig.k70), "");
+    EXPECT_TRUE(rig.k70.IsInterlockEnable());
+  }
 }
 
 TEST(MicroscopeObject, FileItemsKeepWhatIsStored) {

@@ -13,6 +13,7 @@
 #include "objectives/clsNosepiece.h"
 #include "support/TempFolder.h"
 #include "widgets/Card.h"
+#include "widgets/PageHeader.h"
 #include "widgets/Theme.h"
 #include "wizard/SadrelEndingCtl.h"
 
@@ -128,6 +129,21 @@ TEST_F(EndingStep, BearsItsControlsByName) {
   EXPECT_EQ(ending().TextResult->objectName(), "TextResult");
   EXPECT_TRUE(QFontInfo(ending().TextResult->font()).fixedPitch());
   EXPECT_EQ(ending().FrameBase->objectName(), "FrameBase");
+  EXPECT_EQ(ending().Header->objectName(), "Header");
+}
+
+TEST_F(EndingStep, GivesTheRoomToTheReportAndHasItsKeyBelowAtTheRight) {
+  form().resize(1200, 900);
+  QApplication::processEvents();
+  const QPlainTextEdit& report = *ending().TextResult;
+  const QPushButton& send = *ending().ButtonSend;
+  EXPECT_EQ(send.geometry().right(), report.geometry().right());
+  EXPECT_EQ(send.size(), send.sizeHint());
+  EXPECT_GT(send.y(), report.geometry().bottom());
+  EXPECT_LT(send.y() - report.geometry().bottom(), 20);
+  EXPECT_GT(report.height(), 400);
+  EXPECT_EQ(report.lineWrapMode(), QPlainTextEdit::NoWrap);
+  EXPECT_TRUE(report.tabChangesFocus());
 }
 
 TEST_F(EndingStep, HoldsItsReportOffTheFramesEdge) {

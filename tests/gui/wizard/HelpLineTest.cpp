@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QImage>
 #include <QLabel>
+#include <algorithm>
+#include <vector>
 
 #include "WizardRig.h"
 #include "condensers/CondenserSettingsCtl.h"
@@ -10,6 +13,7 @@
 #include "interlocks/InterlockSettingsCtl.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 #include "widgets/SectionBar.h"
+#include "widgets/Theme.h"
 #include "wizard/HelpLine.h"
 
 namespace mortane::test {
@@ -143,6 +147,58 @@ TEST(HelpRoom, GrowsWithTheFont) {
   large.setPointSizeF(large.pointSizeF() * 2);
   line.setFont(large);
   EXPECT_GT(line.height(), before);
+}
+
+TEST(HelpRoom, IsMeasuredAnewWhenFontOrStyleChangeAndNotOtherwise) {
+  struct Row {
+    QEvent::Type type;
+    bool grows;
+  };
+  for (const Row& row : {Row{QEvent::FontChange, true}, Row{QEvent::StyleChange, true},
+                         Row{QEvent::PaletteChange, false}}) {
+    HelpLine line;
+    line.SetTexts({"short"});
+    line.resize(800, 10);
+    const int before = line.height();
+    QFont large = line.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    line.LabelHelp->setFont(large);
+    QEvent change(row.type);
+    QApplication::sendEvent(&line, &change);
+    EXPECT_EQ(line.height() > before, row.grows) << row.type;
+  }
+}
+
+// How many pixels of the line's first part each row has in that colour.
+std::vector<int> Rows(const QImage& picture, const QColor& colour) {
+  std::vector<int> rows;
+  for (int y = 0; y < picture.height(); ++y) {
+    int count = 0;
+    for (int x = 0; x < 45; ++x) count += picture.pixelColor(x, y) == colour ? 1 : 0;
+    rows.push_back(count);
+  }
+  return rows;
+}
+
+TEST(HelpLine, HasItsMarkInTheMiddleAndALineBelow) {
+  for (const QString& text : {QString("short"), u"word "_s.repeated(200)}) {
+    HelpLine line;
+    line.SetTexts({text});
+    line.resize(400, 10);
+    const QImage picture = line.grab().toImage();
+    const std::vector<int> mark = Rows(picture, ToneColor(Tone::IconAccent));
+    const auto inked = [](int count) { return count > 0; };
+    const auto above = std::find_if(mark.begin(), mark.end(), inked) - mark.begin();
+    const auto below = std::find_if(mark.rbegin(), mark.rend(), inked) - mark.rbegin();
+    ASSERT_LT(above, picture.height());
+    EXPECT_NEAR(static_cast<double>(above), static_cast<double>(below), 1);
+    const std::vector<int> edge =
+        Rows(picture, line.palette().color(QPalette::Active, QPalette::Mid));
+    EXPECT_EQ(edge.back(), 45);
+    const std::vector<int> ground = Rows(picture, ToneColor(Tone::HelpLine));
+    EXPECT_EQ(ground[ground.size() - 2], 45);
+    EXPECT_EQ(ground.front(), 45);
+  }
 }
 
 TEST(HelpLine, BreaksALongTextInPlaceOfAskingForItsWidth) {

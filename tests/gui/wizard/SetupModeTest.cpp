@@ -4,12 +4,15 @@
 #include <QAccessible>
 #include <QImage>
 #include <QKeyEvent>
+#include <QStringListModel>
 
 #include "ItemsRig.h"
 #include "app/SelFileItemDlg.h"
 #include "gui/app/AppRig.h"
 #include "objectives/clsNosepiece.h"
 #include "support/TempFolder.h"
+#include "widgets/Card.h"
+#include "widgets/PageHeader.h"
 #include "widgets/Theme.h"
 
 namespace mortane::test {
@@ -96,6 +99,51 @@ TEST(Mode, ShowsTheListThatCountsAsChosenAndTheOtherResting) {
     EXPECT_EQ(Shows(*rig.page->ListCustom, amber), mode == 1) << mode;
     EXPECT_EQ(Shows(*rig.page->ListCustom, ticked), mode == 1) << mode;
   }
+}
+
+// The ground of a row at its right end, where it has no text.
+QColor GroundOfRow(ListBox& list, int row) {
+  const QRect line = list.visualItemRect(list.topLevelItem(row));
+  return list.viewport()->grab().toImage().pixelColor(line.right() - 4, line.center().y());
+}
+
+TEST(Mode, ShowsTheCurrentRowInTheListThatIsEnabledAlone) {
+  ItemsRig rig;
+  ListBox& custom = *rig.page->ListCustom;
+  ASSERT_GT(custom.rowCount(), 2);
+  QApplication::processEvents();
+  EXPECT_EQ(GroundOfRow(custom, 0), GroundOfRow(custom, 2));
+  rig.page->SetupMode(1);
+  custom.setIndex(0);
+  QApplication::processEvents();
+  EXPECT_NE(GroundOfRow(custom, 0), GroundOfRow(custom, 2));
+  rig.page->SetupMode(2);
+  QApplication::processEvents();
+  EXPECT_EQ(GroundOfRow(custom, 0), GroundOfRow(custom, 2));
+}
+
+TEST(Mode, HasListsOfOneWidthThatTakeTheRoomBelow) {
+  ItemsRig rig;
+  rig.page->resize(1200, 900);
+  QApplication::processEvents();
+  const ModeList& standard = *rig.page->ListStandard;
+  const ModeList& custom = *rig.page->ListCustom;
+  EXPECT_NEAR(standard.width(), custom.width(), 1);
+  EXPECT_EQ(standard.y(), custom.y());
+  EXPECT_EQ(standard.geometry().bottom(), rig.page->Frame1->rect().bottom());
+  EXPECT_EQ(standard.x(), 0);
+  EXPECT_EQ(rig.Option(0).y(), 0);
+  EXPECT_EQ(custom.x() - standard.geometry().right() - 1, grid::kBetweenColumns);
+}
+
+TEST(SetupItems, BearTheirControlsByName) {
+  ItemsRig rig;
+  SelSetupItemCtl& page = *rig.page;
+  EXPECT_EQ(page.Header->objectName(), "Header");
+  EXPECT_EQ(page.FrameBase->objectName(), "FrameBase");
+  EXPECT_EQ(page.Frame1->objectName(), "Frame1");
+  EXPECT_EQ(page.List1->objectName(), "List1");
+  EXPECT_EQ(page.optSetupMode->objectName(), "optSetupMode");
 }
 
 TEST(Mode, OfARestingListIsNotThatOfARowThatIsNotFitted) {

@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QImage>
+#include <utility>
 
 #include "gui/app/AppRig.h"
 #include "gui/support/AccessibleTree.h"
@@ -164,6 +165,118 @@ TEST(StepRail, JoinsItsStepsByALineThatEndsWithThem) {
   EXPECT_TRUE(joined(1, true));
   EXPECT_TRUE(joined(2, false));
   EXPECT_FALSE(joined(2, true));
+}
+
+// Within the twelve pixels above and below the circle, two stay free beside it.
+TEST(StepRail, EndsTheLineTwoPixelsFromTheCircle) {
+  RailOfThree rig;
+  const QImage picture = rig.Picture(1);
+  const QColor line = ToneColor(Tone::RailDisabled);
+  const int middle = picture.height() / 2;
+  for (const auto& [distance, isLine] : {std::pair(13, false), std::pair(14, true)}) {
+    EXPECT_EQ(picture.pixelColor(28, middle - distance) == line, isLine) << distance;
+    EXPECT_EQ(picture.pixelColor(28, middle + distance) == line, isLine) << distance;
+  }
+}
+
+// A step by itself: no line leads to another one.
+TEST(StepRail, KeepsThePictureOfAStepInTheMiddleOfItsHeight) {
+  StepButton step(1, IconName::Flag, "One");
+  step.SetPending(true);
+  for (const StepState state : {StepState::Passed, StepState::Current, StepState::ToCome}) {
+    step.SetState(state);
+    step.resize(176, 54);
+    const QImage low = step.grab().toImage();
+    step.resize(176, 74);
+    const QImage high = step.grab().toImage();
+    EXPECT_EQ(high.copy(0, 10, 176, 54), low);
+    EXPECT_GT(Count(low.copy(52, 15, 24, 24), low.pixelColor(170, 4)), 0) << "around the icon";
+    for (const int y : {2, 51}) {
+      for (int x = 10; x < 176; ++x) {
+        EXPECT_EQ(low.pixelColor(x, y), low.pixelColor(170, 4)) << x << ", " << y;
+      }
+    }
+  }
+}
+
+// The height of what is drawn there on one ground.
+int InkHeight(const QImage& picture, const QRect& area) {
+  const QColor ground = picture.pixelColor(area.topLeft());
+  int first = -1;
+  int last = -2;
+  for (int y = area.top(); y <= area.bottom(); ++y) {
+    for (int x = area.left(); x <= area.right(); ++x) {
+      if (picture.pixelColor(x, y) == ground) continue;
+      if (first < 0) first = y;
+      last = y;
+    }
+  }
+  return last - first + 1;
+}
+
+TEST(StepRail, WritesNumberAndNameInTheirOwnFonts) {
+  RailOfThree rig;
+  StepButton& step = *rig.rail.button(2);
+  const QImage picture = rig.Picture(2);
+  const QRect text(88, 0, 80, picture.height());
+  EXPECT_NEAR(InkHeight(picture, text),
+              QFontMetrics(step.font()).tightBoundingRect(step.text()).height(), 1);
+  EXPECT_NEAR(InkHeight(picture, QRect(23, 21, 10, 12)),
+              QFontMetrics(MarkFont()).tightBoundingRect("3").height(), 1);
+  EXPECT_EQ(Count(picture.copy(77, 0, 11, picture.height()), ToneColor(Tone::Rail)),
+            11 * picture.height())
+      << "between icon and name";
+  QFont large = step.font();
+  large.setPointSizeF(large.pointSizeF() * 1.5);
+  step.setFont(large);
+  const QImage larger = rig.Picture(2);
+  const QRect number(23, 21, 10, 12);
+  EXPECT_GT(InkHeight(larger, text), InkHeight(picture, text));
+  EXPECT_EQ(larger.copy(number.translated(0, larger.height() / 2 - 27)), picture.copy(number));
+}
+
+struct GroundRow {
+  int step;
+  Tone ground;
+};
+
+TEST(StepRail, FillsEachStepAndItselfWithTheirColours) {
+  RailOfThree rig;
+  for (const GroundRow& row : {GroundRow{1, Tone::RailSelected}, GroundRow{2, Tone::Rail}}) {
+    const QImage picture = rig.Picture(row.step);
+    for (const QPoint& corner : {QPoint(5, 1), QPoint(170, 1), QPoint(5, 52), QPoint(170, 52)}) {
+      EXPECT_EQ(picture.pixelColor(corner), ToneColor(row.ground)) << row.step;
+    }
+  }
+  const QImage rail = rig.rail.grab().toImage();
+  for (const QPoint& beside : {QPoint(0, 0), QPoint(5, 7), QPoint(5, 399)}) {
+    EXPECT_EQ(rail.pixelColor(beside), ToneColor(Tone::Rail)) << beside.y();
+  }
+}
+
+// The circle itself, not what is in it: at its left end.
+TEST(StepRail, DrawsACircleRoundEveryNumber) {
+  RailOfThree rig;
+  const auto ground = [&rig](int step, Tone tone) {
+    const QImage picture = rig.Picture(step);
+    return Count(picture.copy(15, picture.height() / 2 - 3, 4, 6), ToneColor(tone));
+  };
+  EXPECT_LT(ground(2, Tone::Rail), 20) << "to come";
+  rig.rail.SetCurrent(2);
+  EXPECT_LT(ground(1, Tone::Rail), 20) << "passed";
+  EXPECT_LT(ground(2, Tone::RailSelected), 20) << "current";
+}
+
+TEST(StepRail, HasEveryStepOffUntilItIsSwitchedOn) {
+  StepRail rail;
+  for (const char* name : {"One", "Two"}) rail.AddStep(IconName::Flag, name);
+  for (const int current : {-1, 0, 1}) {
+    rail.SetCurrent(current);
+    for (int i = 0; i < 2; ++i) {
+      EXPECT_EQ(rail.button(i)->state(), StepState::Off) << current;
+      EXPECT_FALSE(rail.button(i)->isEnabled());
+    }
+  }
 }
 
 TEST(StepRail, LeavesNoGapBetweenItsSteps) {

@@ -10,10 +10,17 @@
 #include "app/GetAppIcon.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
+#include "drives/ControlOtherCtl.h"
+#include "switches/SwitchSettingCtl.h"
+#include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/ListBox.h"
+#include "widgets/SectionBar.h"
 #include "widgets/TextField.h"
+#include "widgets/Theme.h"
 #include "wizard/ModeList.h"
+#include "wizard/SadrelPages.h"
 #include "wizard/SelSetupItemCtl.h"
+#include "wizard/StepRail.h"
 
 namespace mortane::test {
 namespace {
@@ -30,13 +37,39 @@ TEST(WizardWindow, BearsItsTextsAndNames) {
   EXPECT_EQ(form.ButtonPrevious->text(), "&Previous");
   EXPECT_EQ(form.ButtonNext->text(), "&Next");
   EXPECT_EQ(form.ButtonFinish->text(), "&Finish");
-  for (const char* name :
-       {"ButtonCancel", "ButtonPrevious", "ButtonNext", "ButtonFinish", "LabelHelp",
-        "SystemSettingsCtl1", "SelSetupItemCtl1", "ObjectiveSettingsCtl1", "FilterQubeSettingsCtl1",
-        "CondenserSettingsCtl1", "SadrelEndingCtl1", "ImageMenu_0", "ImageMenu_9", "optMenu_0",
-        "optMenu_9"}) {
+  for (const char* name : {"ButtonCancel",
+                           "ButtonPrevious",
+                           "ButtonNext",
+                           "ButtonFinish",
+                           "LabelHelp",
+                           "SystemSettingsCtl1",
+                           "SelSetupItemCtl1",
+                           "ObjectiveSettingsCtl1",
+                           "FilterQubeSettingsCtl1",
+                           "CondenserSettingsCtl1",
+                           "SadrelControlOtherCtl1",
+                           "InterlockSettingsCtl1",
+                           "SadrelControlFocusDriveCtl1",
+                           "SadrelControlTactorSwitch1",
+                           "SadrelEndingCtl1",
+                           "PictureMenu",
+                           "ImageMenu_0",
+                           "ImageMenu_9",
+                           "FrameOptionButton",
+                           "optMenu_0",
+                           "optMenu_9",
+                           "FrameControl",
+                           "ScrollControl",
+                           "ButtonKept",
+                           "SessionNote"}) {
     EXPECT_NE(form.findChild<QWidget*>(name), nullptr) << name;
   }
+  EXPECT_EQ(form.SadrelControlXYStageCtl1->objectName(), "SadrelControlXYStageCtl1");
+  const SadrelControlTactorSwitch& switches = *form.SadrelControlTactorSwitch1;
+  EXPECT_EQ(switches.optSettings->objectName(), "optSettings");
+  EXPECT_EQ(switches.SwitchSettingCtl1->objectName(), "SwitchSettingCtl1");
+  EXPECT_EQ(switches.TactorSwitchSettingCtl1->objectName(), "TactorSwitchSettingCtl1");
+  EXPECT_EQ(form.SadrelControlOtherCtl1->ControlOtherCtl1->objectName(), "ControlOtherCtl1");
   Lines names;
   for (const StepButton* picture : form.ImageMenu) names.push_back(picture->text().toStdString());
   EXPECT_EQ(names, (Lines{"System", "Setup Items", "Objective", "Filter Cube", "Condenser",
@@ -49,6 +82,56 @@ TEST(WizardWindow, ShowsTheVersionInItsLastPanelAndItsOwnIcon) {
   rig.form->Load();
   EXPECT_EQ(rig.Find<QLabel>("StatusBar1_5").text(), "1.0.0");
   EXPECT_FALSE(rig.form->windowIcon().isNull());
+}
+
+// Where a control of the window stands in it.
+QRect PlaceOf(const QWidget& control, const QWidget& window) {
+  return {control.mapTo(&window, QPoint()), control.size()};
+}
+
+TEST(WizardWindow, IsFilledFromEdgeToEdge) {
+  WizardRig rig(benches::Named("Harbour"));
+  rig.Start();
+  SadrelMainForm& form = *rig.form;
+  for (const QSize& size : {QSize(1152, 740), QSize(1500, 1000)}) {
+    form.resize(size);
+    QApplication::processEvents();
+    const QRect rail = PlaceOf(*form.PictureMenu, form);
+    const QRect help = PlaceOf(*form.LabelHelp->parentWidget(), form);
+    const QRect area = PlaceOf(rig.Find<QWidget>("ScrollControl"), form);
+    const QRect bar = PlaceOf(*form.ButtonNext->parentWidget(), form);
+    EXPECT_EQ(rail.left(), 0);
+    EXPECT_EQ(rail.width(), 176);
+    EXPECT_EQ(rail.top(), help.top());
+    EXPECT_EQ(rail.bottom(), bar.bottom());
+    for (const QRect& right : {help, area, bar}) {
+      EXPECT_EQ(right.left(), rail.right() + 1);
+      EXPECT_EQ(right.right(), size.width() - 1);
+    }
+    EXPECT_EQ(area.top(), help.bottom() + 1);
+    EXPECT_EQ(bar.top(), area.bottom() + 1);
+  }
+}
+
+TEST(WizardWindow, HasButtonsOfOneWidthAndTheLastOneApart) {
+  WizardRig rig(benches::Named("Harbour"));
+  rig.Start();
+  const SadrelMainForm& form = *rig.form;
+  const std::array<const QPushButton*, 4> buttons{form.ButtonCancel, form.ButtonPrevious,
+                                                  form.ButtonNext, form.ButtonFinish};
+  for (const QPushButton* button : buttons) {
+    EXPECT_EQ(button->width(), 104) << button->text().toStdString();
+    EXPECT_TRUE(button->autoDefault());
+  }
+  const auto gap = [&buttons](std::size_t right) {
+    return buttons[right]->x() - buttons[right - 1]->geometry().right() - 1;
+  };
+  EXPECT_EQ(gap(2), grid::kBetweenControls);
+  EXPECT_EQ(gap(3), grid::kBetweenControls + grid::kBetweenColumns);
+  const QLabel& note = rig.Find<QLabel>("SessionNote");
+  EXPECT_EQ(note.font().pointSizeF(), CaptionFont().pointSizeF());
+  EXPECT_EQ(note.x() - buttons[0]->geometry().right() - 1, 2 * grid::kBetweenControls);
+  EXPECT_EQ(buttons[1]->x() - note.geometry().right() - 1, grid::kBetweenControls);
 }
 
 TEST(WizardStart, ConnectsReceivesAndShowsTheSystem) {
