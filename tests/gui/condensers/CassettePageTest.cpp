@@ -11,6 +11,7 @@
 #include "gui/condensers/CondenserPages.h"
 #include "gui/support/PageActs.h"
 #include "widgets/ComboBox.h"
+#include "widgets/Theme.h"
 
 namespace mortane::test {
 namespace {
@@ -66,6 +67,7 @@ TEST_F(ShownCassettePage, ListsAreAsWideAsTheDesignWantsThemAndStandApart) {
     EXPECT_EQ(combo(address).width(), 280);
     const QLabel& label = *page.Label1[static_cast<std::size_t>(address - 1)];
     EXPECT_EQ(combo(address).x() - label.geometry().right() - 1, 12);
+    EXPECT_EQ(label.minimumWidth(), QFontMetrics(BoldFont()).horizontalAdvance(label.text()));
     if (address > 1) {
       EXPECT_EQ(combo(address).y() - combo(address - 1).geometry().bottom() - 1, 8);
     }

@@ -156,10 +156,13 @@ TEST_F(CondenserNamesPage, SavingWritesAllNineBoxesAlsoTheDashes) {
   for (int position = 1; position <= 9; ++position) name(position, "");
   page.LoadData();
   field(9).setText("Last");
-  field(1).setText("");
+  field(1).setText("First");
+  name(2, "Second");
+  field(2).setText("");
   page.SaveData();
-  EXPECT_EQ(name(1), "");
-  for (int position = 2; position <= 8; ++position) EXPECT_EQ(name(position), kDashes);
+  EXPECT_EQ(name(1), "First");
+  EXPECT_EQ(name(2), "");
+  for (int position = 3; position <= 8; ++position) EXPECT_EQ(name(position), kDashes);
   EXPECT_EQ(name(9), "Last");
 }
 

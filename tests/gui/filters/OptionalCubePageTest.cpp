@@ -60,6 +60,19 @@ TEST_F(OptionalCubePage, PartsAreAsWideAsTheirUsualTexts) {
     EXPECT_EQ(list->minimumWidth(), 30 + widthOf(11, *list));
 }
 
+TEST_F(OptionalCubePage, ATabSelectsTheItemsOfItsCubeAlsoTheOneForNothing) {
+  Put(1, {"One", 3, 2, 1});
+  Put(2, {"Two", 0, 0, 0});
+  page.LoadData();
+  EXPECT_EQ(page.ListExciter->index(), 3);
+  EXPECT_EQ(page.ListDichroic->index(), 2);
+  EXPECT_EQ(page.ListBarrier->index(), 1);
+  ClickTab(*page.TabOption, 1);
+  for (const ListBox* list :
+       std::initializer_list<const ListBox*>{page.ListExciter, page.ListDichroic, page.ListBarrier})
+    EXPECT_EQ(list->index(), 0);
+}
+
 TEST_F(OptionalCubePage, TheListsBeginWithTheItemForNothing) {
   const ListBox* lists[] = {page.ListExciter, page.ListDichroic, page.ListBarrier};
   const int fixed[] = {11, 9, 11};

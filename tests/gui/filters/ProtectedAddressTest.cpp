@@ -87,6 +87,13 @@ TEST_F(ProtectedAddress, MovingBetweenTheFirstTwoRowsNeverAsks) {
   EXPECT_TRUE(rig.prompts.Boxes().empty());
 }
 
+TEST_F(ProtectedAddress, LeavingTheThirdRowNeverAsks) {
+  OpenLast(5, 2);
+  ClickRow(*page.List1, 7);
+  EXPECT_EQ(codeAt(5), 7);
+  EXPECT_TRUE(rig.prompts.Boxes().empty());
+}
+
 TEST_F(ProtectedAddress, LeavingALaterRowNeverAsks) {
   OpenLast(5, 3);
   ClickRow(*page.List1, 7);
