@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "app/ApplyTheme.h"
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
@@ -272,6 +273,24 @@ TEST_F(SwitchDrawingTest, FollowsTheScheme) {
   QApplication::processEvents();
   EXPECT_NE(dark, light);
   EXPECT_EQ(Picture(), light);
+}
+
+TEST_F(SwitchDrawingTest, TextsStandAroundTheirPlaces) {
+  SwitchPlan plan = Plan();
+  plan.texts = {{u"HHHH"_s, {103, 290}}};
+  SwitchDrawing with(plan, "optBtn");
+  plan.texts.clear();
+  SwitchDrawing without(plan, "optBtn");
+  const QImage shown = test::PictureOf(with, {604, 302}, test::Use::Rest);
+  const QImage ground = test::PictureOf(without, {604, 302}, test::Use::Rest);
+  QRect text;
+  for (int y = 0; y < shown.height(); ++y) {
+    for (int x = 0; x < shown.width(); ++x) {
+      if (shown.pixel(x, y) != ground.pixel(x, y)) text |= QRect(x, y, 1, 1);
+    }
+  }
+  EXPECT_NEAR(text.center().x(), 103, 2);
+  EXPECT_NEAR(text.center().y(), 290, 2);
 }
 
 TEST_F(SwitchDrawingTest, ShowsItsTexts) {

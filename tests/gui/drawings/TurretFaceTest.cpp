@@ -302,5 +302,65 @@ TEST(TurretFace, SixtyLinesStandRoundTheRimOfTheDisc) {
   }
 }
 
+struct GlyphRow {
+  PlaceKind kind;
+  test::Face face;
+};
+
+// Through the middle of the small drawing in the lower half of a tile.
+TEST(TurretFace, ATileHasASmallDrawingBelowItsName) {
+  for (const GlyphRow& row : {
+           GlyphRow{PlaceKind::Cubes,
+                    {"Window 9, ~ 2, Base 11, ~ 1, IconAccent 2, ~ 1, Base 3, ~ 1, DrawingLine 1, "
+                     "DrawingFill 5, ~ 2, IconAccent 2, ~ 2, DrawingFill 7, DrawingLine 1, ~ 1, "
+                     "Base 3, ~ 1, DrawingLine 2, ~ 1, Base 11, ~ 2, Window 9",
+                     "Window 15, ~ 2, Base 22, ~ 2, DrawingFill 5, ~ 2, IconAccent 2, ~ 2, "
+                     "DrawingFill 6, ~ 2, Base 3, ~ 2, Window 15"}},
+           GlyphRow{PlaceKind::Condensers,
+                    {"Window 9, ~ 2, Base 24, ~ 2, DrawingLine 1, ~ 5, DrawingLine 1, ~ 2, Base "
+                     "23, ~ 2, Window 9",
+                     "Window 15, ~ 2, Base 21, ~ 1, DrawingLine 1, ~ 12, Base 2, ~ 1, IconAccent "
+                     "3, ~ 1, DrawingLine 1, ~ 1, Base 2, ~ 2, Window 15"}},
+       }) {
+    TurretButton place(row.kind, 1, nullptr);
+    place.SetPlaceSize(place.PlaceSizeFor(60));
+    place.SetItem({" ", "One", {}});
+    const QImage picture = test::PictureOf(place, {80, 80}, Use::Rest);
+    EXPECT_EQ((test::Face{test::RowOf(picture, 50), test::ColumnOf(picture, 40)}), row.face);
+  }
+}
+
+TEST(TurretFace, LabelsStandInTheMiddleOfARoundPlaceAndHighOnATile) {
+  for (const auto& [kind, middle] : {std::pair{PlaceKind::Objectives, 40.0},
+                                     {PlaceKind::Cubes, 16 + 0.3 * 48},
+                                     {PlaceKind::Condensers, 16 + 0.3 * 48}}) {
+    TurretButton place(kind, 1, nullptr);
+    place.SetPlaceSize(place.PlaceSizeFor(60));
+    place.SetItem({"HHH", "One", {}});
+    const QImage picture = test::PictureOf(place, {80, 80}, Use::Rest);
+    const QRectF text = test::AreaOf(picture, test::TellablePalette().color(QPalette::WindowText));
+    EXPECT_NEAR(text.center().x(), 40, 1.5);
+    EXPECT_NEAR(text.center().y(), middle, 2);
+  }
+}
+
+TEST(TurretFace, ATileIsHitUpToItsEdges) {
+  TurretButton tile(PlaceKind::Cubes, 1, nullptr);
+  tile.resize(56, 48);
+  tile.SetPlaceSize({40, 32});
+  tile.show();
+  QSignalSpy clicks(&tile, &QAbstractButton::clicked);
+  for (const QPoint& inside : {QPoint(28, 40), QPoint(28, 8), QPoint(48, 24), QPoint(8, 24)}) {
+    clicks.clear();
+    QTest::mouseClick(&tile, Qt::LeftButton, {}, inside);
+    EXPECT_EQ(clicks.size(), 1) << inside.x() << " " << inside.y();
+  }
+  for (const QPoint& outside : {QPoint(28, 41), QPoint(28, 7), QPoint(49, 24), QPoint(7, 24)}) {
+    clicks.clear();
+    QTest::mouseClick(&tile, Qt::LeftButton, {}, outside);
+    EXPECT_EQ(clicks.size(), 0) << outside.x() << " " << outside.y();
+  }
+}
+
 }  // namespace
 }  // namespace mortane

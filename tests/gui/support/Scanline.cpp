@@ -97,6 +97,16 @@ std::string ColumnOf(const QImage& picture, int x, const std::vector<NamedColor>
   return Runs(picture.height(), more, [&](int y) { return picture.pixel(x, y); });
 }
 
+QRect AreaOf(const QImage& picture, const QColor& color) {
+  QRect area;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (picture.pixel(x, y) == color.rgb()) area |= QRect(x, y, 1, 1);
+    }
+  }
+  return area;
+}
+
 std::string RowOf(const QImage& picture, const std::vector<NamedColor>& more) {
   return RowOf(picture, picture.height() / 2, more);
 }

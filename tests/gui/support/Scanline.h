@@ -28,4 +28,7 @@ std::string ColumnOf(const QImage& picture, int x, const std::vector<NamedColor>
 std::string RowOf(const QImage& picture, const std::vector<NamedColor>& more = {});
 std::string ColumnOf(const QImage& picture, const std::vector<NamedColor>& more = {});
 
+// Around all pixels of the colour.
+QRect AreaOf(const QImage& picture, const QColor& color);
+
 }  // namespace mortane::test

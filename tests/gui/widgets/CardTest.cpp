@@ -70,5 +70,18 @@ TEST(Card, ALongCaptionGoesOnInAnotherLine) {
   EXPECT_EQ(single->minimumSizeHint().width(), single->sizeHint().width());
 }
 
+TEST(Card, ACaptionOfTwoLinesIsWrittenInBoth) {
+  Card card("A caption of several words");
+  auto* caption = card.findChild<QLabel*>();
+  const int line = caption->fontMetrics().height();
+  const QSize whole = caption->sizeHint();
+  const QColor ink = test::TellablePalette().color(QPalette::WindowText);
+  const QImage one = test::PictureOf(*caption, {whole.width(), 2 * line}, test::Use::Rest);
+  EXPECT_LE(test::AreaOf(one, ink).height(), line);
+  const QImage two = test::PictureOf(*caption, {whole.width() * 7 / 10, 2 * line}, test::Use::Rest);
+  EXPECT_GT(test::AreaOf(two, ink).height(), line);
+  delete caption;
+}
+
 }  // namespace
 }  // namespace mortane

@@ -44,6 +44,15 @@ TEST_F(ColumnFlowTest, SharesTheWidthByTheStretches) {
   EXPECT_EQ(parts[2]->geometry(), QRect(220, 0, 200, 200));
 }
 
+TEST_F(ColumnFlowTest, AsksForAllColumnsBesideEachOtherAndNeedsTheWidest) {
+  ShowIn(420);
+  EXPECT_EQ(flow->sizeHint(), QSize(100 + 60 + 80 + 2 * kGap, 40));
+  EXPECT_EQ(flow->minimumSize(), QSize(100, 40));
+  ShowIn(259);
+  EXPECT_EQ(flow->sizeHint(), QSize(260, 40 + kRowGap + 40));
+  EXPECT_EQ(flow->minimumSize(), QSize(100, 84));
+}
+
 TEST_F(ColumnFlowTest, GivesNoColumnLessThanItNeeds) {
   ShowIn(270);
   EXPECT_EQ(parts[0]->width(), 100);

@@ -30,6 +30,7 @@ TEST_F(PairPanelTest, StandsSideBySideWhereTheWidthIsEnoughForBoth) {
   EXPECT_EQ(first->geometry(), QRect(0, 0, 200, 600));
   EXPECT_EQ(second->geometry(), QRect(216, 0, 300, 600));
   EXPECT_EQ(panel.minimumSizeHint(), QSize(300, 150));
+  EXPECT_EQ(panel.sizeHint(), QSize(516, 150));
 }
 
 TEST_F(PairPanelTest, StandsOneBelowTheOtherInOnePixelLessAndAsksForBothHeights) {
