@@ -16,11 +16,14 @@ inline int CountOf(int sample, int all) {
   return TriesAllCases() ? all : sample;
 }
 
-// Of the cases 1 to `count` the first, every one `stride` further, and the last. A prime number as
-// stride does not fall into step with the records of a list.
-inline std::vector<std::size_t> SampleOf(std::size_t count, std::size_t stride) {
+// Of the cases 1 to `count` the first `whole` ones, every one `stride` further, and the last. A
+// prime number as stride does not fall into step with the records of a list.
+inline std::vector<std::size_t> SampleOf(std::size_t count, std::size_t stride,
+                                         std::size_t whole = 1) {
   std::vector<std::size_t> cases;
-  for (std::size_t k = 1; k <= count; k += TriesAllCases() ? 1 : stride) cases.push_back(k);
+  for (std::size_t k = 1; k <= count; k += TriesAllCases() || k < whole ? 1 : stride) {
+    cases.push_back(k);
+  }
   if (!cases.empty() && cases.back() != count) cases.push_back(count);
   return cases;
 }

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QTest>
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 #include "gui/support/LatePages.h"
 #include "gui/support/PageActs.h"
@@ -123,13 +125,18 @@ TEST_P(PageDrill, RefusesABadTextAndKeepsTheFocus) {
 }
 
 TEST_P(PageDrill, EnablesWhatTheMicroscopeHas) {
+  // The rules of a bench as it is look at one page.
+  std::vector<EnablingRule> rules = GetParam().enabling;
+  std::stable_sort(rules.begin(), rules.end(), [](const auto& one, const auto& other) {
+    const bool isChanged = one.change != nullptr;
+    const bool isOtherChanged = other.change != nullptr;
+    return std::tie(isChanged, one.bench) < std::tie(isOtherChanged, other.bench);
+  });
   std::unique_ptr<PageWindow> made;
-  const EnablingRule* before = nullptr;
-  for (const EnablingRule& rule : GetParam().enabling) {
-    // Rules of one bench that stand together look at one page.
-    const bool isSame = made && before->bench == rule.bench && !before->change && !rule.change;
-    before = &rule;
-    if (!isSame) {
+  std::string shown;
+  for (const EnablingRule& rule : rules) {
+    if (!made || rule.change || rule.bench != shown) {
+      shown = rule.bench;
       made.reset();
       Bench bench = benches::Named(rule.bench);
       if (rule.change) rule.change(bench);

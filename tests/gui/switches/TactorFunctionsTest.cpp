@@ -8,6 +8,7 @@
 #include "drawings/SwitchDrawing.h"
 #include "gui/support/PageActs.h"
 #include "gui/switches/SwitchPages.h"
+#include "support/Sample.h"
 #include "switches/SwitchFunctions.h"
 #include "widgets/ComboBox.h"
 #include "widgets/OptionGroup.h"
@@ -88,7 +89,8 @@ TEST_F(TactorFunctions, APushSwitchOfEachPageGetsOneCode) {
     ShowPage(switches);
     for (int row = 1; row < 6; ++row) {
       ClickRow(*page.ListView1, row);
-      for (const SwitchFunction& function : PushFunctions()) {
+      for (const SwitchFunction& function :
+           ColumnsOfRow(static_cast<std::size_t>(row), PushFunctions(), 5)) {
         SetCodes(unit(), 1);
         ChooseRow(*page.ComboFunction, page.ComboFunction->rowOf(static_cast<int>(function.code)));
         Codes expected(14, 1);
