@@ -169,6 +169,15 @@ TEST(HelpRoom, IsMeasuredAnewWhenFontOrStyleChangeAndNotOtherwise) {
   }
 }
 
+TEST(HelpRoom, LeavesItsMarginsRoundTheText) {
+  HelpLine line;
+  line.SetTexts({"short"});
+  line.resize(800, 10);
+  line.show();
+  QApplication::processEvents();
+  EXPECT_EQ(line.LabelHelp->geometry(), QRect(50, 6, 800 - 50 - 20, line.height() - 12));
+}
+
 // How many pixels of the line's first part each row has in that colour.
 std::vector<int> Rows(const QImage& picture, const QColor& colour) {
   std::vector<int> rows;

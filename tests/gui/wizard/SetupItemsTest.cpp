@@ -3,6 +3,8 @@
 
 #include <QRadioButton>
 #include <QStringListModel>
+#include <algorithm>
+#include <utility>
 
 #include "ItemsRig.h"
 #include "gui/support/PageActs.h"
@@ -14,8 +16,8 @@ constexpr std::int32_t kNobody = -1;
 
 TEST(SetupItems, BearTheirControlsByName) {
   ItemsRig rig;
-  for (const char* name : {"FrameBase", "List1", "ListStandard", "ListCustom", "Frame1",
-                           "optSetupMode_0", "optSetupMode_1", "optSetupMode_2"}) {
+  for (const char* name : {"Header", "FrameBase", "List1", "ListStandard", "ListCustom", "Frame1",
+                           "optSetupMode", "optSetupMode_0", "optSetupMode_1", "optSetupMode_2"}) {
     EXPECT_NE(rig.page->findChild<QObject*>(name), nullptr) << name;
   }
   EXPECT_EQ(rig.Option(0).text(), "Standard");
@@ -24,6 +26,21 @@ TEST(SetupItems, BearTheirControlsByName) {
   EXPECT_EQ(rig.page->List1->stringList(),
             QStringList({"Objective", "Filter Cube", "Condenser", "Control", "InterLock", "Z Focus",
                          "Controller"}));
+}
+
+// A bench without a nosepiece does not offer the first item, which stands for no row, too.
+TEST(SetupItems, AreOfferedWhereTheyAreInTheList) {
+  for (const bool nosepiece : {true, false}) {
+    Bench bench = benches::Named("Harbour");
+    if (!nosepiece) bench.instruments.back().Accessory(accessory::kNosepiece).state = 0;
+    ItemsRig rig(std::move(bench));
+    const Items listed = ItemsRig::Of(*rig.page->ListStandard);
+    EXPECT_EQ(std::count(listed.begin(), listed.end(), 0), nosepiece ? 1 : 0);
+    for (int item = -1; item <= 7; ++item) {
+      const bool isListed = std::find(listed.begin(), listed.end(), item) != listed.end();
+      EXPECT_EQ(rig.page->IsOffered(item), isListed) << item;
+    }
+  }
 }
 
 TEST(SetupItems, ListTheNamesOfTheItems) {

@@ -4,15 +4,12 @@
 #include <QAccessible>
 #include <QImage>
 #include <QKeyEvent>
-#include <QStringListModel>
 
 #include "ItemsRig.h"
 #include "app/SelFileItemDlg.h"
 #include "gui/app/AppRig.h"
 #include "objectives/clsNosepiece.h"
 #include "support/TempFolder.h"
-#include "widgets/Card.h"
-#include "widgets/PageHeader.h"
 #include "widgets/Theme.h"
 
 namespace mortane::test {
@@ -134,16 +131,6 @@ TEST(Mode, HasListsOfOneWidthThatTakeTheRoomBelow) {
   EXPECT_EQ(standard.x(), 0);
   EXPECT_EQ(rig.Option(0).y(), 0);
   EXPECT_EQ(custom.x() - standard.geometry().right() - 1, grid::kBetweenColumns);
-}
-
-TEST(SetupItems, BearTheirControlsByName) {
-  ItemsRig rig;
-  SelSetupItemCtl& page = *rig.page;
-  EXPECT_EQ(page.Header->objectName(), "Header");
-  EXPECT_EQ(page.FrameBase->objectName(), "FrameBase");
-  EXPECT_EQ(page.Frame1->objectName(), "Frame1");
-  EXPECT_EQ(page.List1->objectName(), "List1");
-  EXPECT_EQ(page.optSetupMode->objectName(), "optSetupMode");
 }
 
 TEST(Mode, OfARestingListIsNotThatOfARowThatIsNotFitted) {

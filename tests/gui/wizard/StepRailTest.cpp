@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QImage>
 #include <utility>
+#include <vector>
 
 #include "gui/app/AppRig.h"
 #include "gui/support/AccessibleTree.h"
@@ -167,6 +168,27 @@ TEST(StepRail, JoinsItsStepsByALineThatEndsWithThem) {
   EXPECT_FALSE(joined(2, true));
 }
 
+TEST(StepRail, HasCirclesOfTwentyFourPixels) {
+  RailOfThree rig;
+  const QImage picture = rig.Picture(1);
+  std::vector<int> across;
+  const QColor ground = ToneColor(Tone::RailSelected);
+  for (int x = 5; x < 45; ++x) {
+    if (picture.pixelColor(x, picture.height() / 2) != ground) across.push_back(x);
+  }
+  ASSERT_FALSE(across.empty());
+  EXPECT_EQ(across.front(), 16);
+  EXPECT_EQ(across.back(), 39);
+}
+
+TEST(StepRail, HasStepsOfTheHeightOfTheGridAndCloserOnesOfCircleOrName) {
+  RailOfThree rig;
+  const StepButton& step = *rig.rail.button(0);
+  EXPECT_EQ(step.sizeHint().height(), 54);
+  EXPECT_EQ(step.minimumSizeHint().height(), qMax(24, step.fontMetrics().height()) + 8);
+  EXPECT_EQ(step.minimumSizeHint().width(), step.sizeHint().width());
+}
+
 // Within the twelve pixels above and below the circle, two stay free beside it.
 TEST(StepRail, EndsTheLineTwoPixelsFromTheCircle) {
   RailOfThree rig;
@@ -269,7 +291,11 @@ TEST(StepRail, DrawsACircleRoundEveryNumber) {
 
 TEST(StepRail, HasEveryStepOffUntilItIsSwitchedOn) {
   StepRail rail;
-  for (const char* name : {"One", "Two"}) rail.AddStep(IconName::Flag, name);
+  for (const char* name : {"One", "Two"}) {
+    const StepButton& step = *rail.button(rail.AddStep(IconName::Flag, name));
+    EXPECT_FALSE(step.isEnabled());
+    EXPECT_TRUE(step.accessibleDescription().endsWith("switched off"));
+  }
   for (const int current : {-1, 0, 1}) {
     rail.SetCurrent(current);
     for (int i = 0; i < 2; ++i) {
