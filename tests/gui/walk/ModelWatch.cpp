@@ -7,8 +7,11 @@
 
 #include "Acts.h"
 #include "common/Failure.h"
+#include "common/Text.h"
 #include "drawings/TurretDrawing.h"
 #include "drives/clsControlOther.h"
+#include "model/OptionCodes.h"
+#include "objectives/clsDbNosepiece.h"
 #include "record/ConfigurationItems.h"
 #include "widgets/ListBox.h"
 #include "widgets/OptionGroup.h"
@@ -74,6 +77,14 @@ bool IsOfLoadedDrive(const ConfigurationItem& item, const std::set<QString>& nam
   if (item.kind == FocusEscape) return item.value == "On";
   if (item.kind == FocusCompensation || item.kind == StageCompensation) return true;
   return item.kind == NosepieceInterlock && item.key.position == "FoucusStage";
+}
+
+// Kept: a page of optional items shows a mark for a name that is missing, and stores it as the name
+// when it is left; each field of an optional objective stores its name too.
+bool IsMarkOfLeftPage(const std::string& before, const std::string& after,
+                      const std::set<QString>& names) {
+  return (LoadsPage(names) || names.contains(u"ObjectiveOptionCtl1"_s)) && Trim(before).empty() &&
+         (after == kUnnamedMark || after == kUnnamedObjective);
 }
 
 int ChosenIn(const QObject* object) {
@@ -210,6 +221,8 @@ std::vector<std::string> ModelWatch::TakeUnexplained(const std::set<const QObjec
       if (other != others.end() && other->second == item) continue;
       const ConfigurationItem& now = after.contains(key) ? after.at(key) : item;
       if (IsExplained(now, worked, names, allowed)) continue;
+      if (before.contains(key) && IsMarkOfLeftPage(before.at(key).value, now.value, names))
+        continue;
       changes.push_back(KeyText(key) + " from \"" +
                         (before.contains(key) ? before.at(key).value : "-") + "\" to \"" +
                         (after.contains(key) ? after.at(key).value : "-") + "\"");
