@@ -240,5 +240,22 @@ TEST(AccessibleButtons, AreToldAsTheToolkitTellsThem) {
   EXPECT_TRUE(InterfaceOf(c.check).state().checkStateMixed);
 }
 
+TEST(AccessibleButtons, TellTheKeyOfTheirOwnActionAlone) {
+  QPushButton button("Send");
+  button.setShortcut(QKeySequence("Ctrl+T"));
+  QAccessibleActionInterface* action =
+      QAccessible::queryAccessibleInterface(&button)->actionInterface();
+  const QStringList key{button.shortcut().toString(QKeySequence::NativeText)};
+  EXPECT_EQ(action->keyBindingsForAction(QAccessibleActionInterface::pressAction()), key);
+  EXPECT_EQ(action->keyBindingsForAction(QAccessibleActionInterface::toggleAction()), key);
+  EXPECT_EQ(action->keyBindingsForAction(QAccessibleActionInterface::setFocusAction()),
+            QStringList());
+  QPushButton without("Send");
+  EXPECT_EQ(
+      QAccessible::queryAccessibleInterface(&without)->actionInterface()->keyBindingsForAction(
+          QAccessibleActionInterface::pressAction()),
+      QStringList());
+}
+
 }  // namespace
 }  // namespace mortane

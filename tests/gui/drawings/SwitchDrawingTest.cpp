@@ -5,8 +5,10 @@
 #include <QPushButton>
 
 #include "app/ApplyTheme.h"
+#include "drawings/InkedDrawing.h"
 #include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 
@@ -301,6 +303,27 @@ TEST_F(SwitchDrawingTest, ShowsItsTexts) {
   without.setPalette(drawing->palette());
   const QRect caption(QPoint(60, drawing->height() - 40), QSize(100, 40));
   EXPECT_NE(Picture().copy(caption), without.grab().toImage().copy(caption));
+}
+
+struct InkRow {
+  const char* inFile;
+  Tone tone;
+};
+
+TEST(InkedDrawing, HasTheColoursOfTheSchemeForThoseOfItsFile) {
+  ApplyTheme(*qApp, Scheme::Dark);
+  QByteArray all;
+  for (const char* name : {"microscope", "body", "handcontroller"})
+    all += InkedDrawing(QLatin1String(name), test::TellablePalette());
+  for (const InkRow& row :
+       {InkRow{"#33415c", Tone::DrawingLine}, InkRow{"#e9edf3", Tone::DrawingFill},
+        InkRow{"#d5dce6", Tone::DrawingShade}, InkRow{"#bfc9d6", Tone::DrawingDeep}}) {
+    EXPECT_FALSE(all.contains(row.inFile)) << row.inFile;
+    EXPECT_TRUE(all.contains(ToneColor(row.tone).name().toLatin1())) << row.inFile;
+  }
+  EXPECT_FALSE(all.contains("#ffffff"));
+  EXPECT_TRUE(all.contains(test::TellablePalette().color(QPalette::Base).name().toLatin1()));
+  ApplyTheme(*qApp, Scheme::Light);
 }
 
 }  // namespace

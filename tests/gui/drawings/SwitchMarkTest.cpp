@@ -263,5 +263,13 @@ TEST(SwitchMark, AShapeIsWidenedOnAllSidesWithItsCorners) {
   }
 }
 
+TEST(SwitchMark, AnIconIsTwentyPixelsHighOrAsHighAsTheFont) {
+  EXPECT_EQ(MarkIconSide(), qMax(20, QFontMetrics(QApplication::font()).height()));
+  const FontScope small(FontOf(6));
+  EXPECT_EQ(MarkIconSide(), 20);
+  const FontScope large(FontOf(30));
+  EXPECT_EQ(MarkIconSide(), QFontMetrics(QApplication::font()).height());
+}
+
 }  // namespace
 }  // namespace mortane

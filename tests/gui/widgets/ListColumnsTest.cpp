@@ -166,5 +166,36 @@ TEST(RowFace, ARowIsAsHighAsTheGridAndHigherWithIcons) {
   EXPECT_EQ(list.visualItemRect(list.topLevelItem(0)).height(), 38);
 }
 
+TEST(RowFace, AListShowsRowsAndNoTree) {
+  const ListBox list;
+  EXPECT_FALSE(list.rootIsDecorated());
+  EXPECT_EQ(list.indentation(), 0);
+  EXPECT_EQ(list.selectionMode(), QAbstractItemView::SingleSelection);
+  EXPECT_EQ(list.selectionBehavior(), QAbstractItemView::SelectRows);
+  EXPECT_EQ(list.editTriggers(), QAbstractItemView::NoEditTriggers);
+  EXPECT_EQ(list.verticalScrollMode(), QAbstractItemView::ScrollPerItem);
+  EXPECT_EQ(list.horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
+  EXPECT_EQ(list.textElideMode(), Qt::ElideRight);
+  EXPECT_EQ(list.focusPolicy(), Qt::TabFocus);
+  EXPECT_FALSE(list.header()->sectionsClickable());
+  EXPECT_FALSE(list.header()->sectionsMovable());
+  EXPECT_EQ(list.header()->minimumSectionSize(), 16);
+}
+
+TEST_F(ColumnsOfAList, TheDotTakesItsRoomInTheFirstOneAlone) {
+  const auto wishes = [this] {
+    std::vector<int> widths;
+    for (int column = 0; column < 3; ++column) {
+      const QModelIndex cell = list->model()->index(1, column);
+      widths.push_back(list->itemDelegate()->sizeHint(QStyleOptionViewItem(), cell).width());
+    }
+    return widths;
+  };
+  std::vector<int> before = wishes();
+  list->SetRowPending(1, "Plan A");
+  before[0] += 12;
+  EXPECT_EQ(wishes(), before);
+}
+
 }  // namespace
 }  // namespace mortane

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
+#include "gui/support/Scanline.h"
 
 namespace mortane::test {
 namespace {
@@ -95,6 +96,48 @@ TEST(VectorDrawing, WithoutAViewBoxPaintsNothing) {
   const VectorDrawing drawing(
       "<svg xmlns='http://www.w3.org/2000/svg'><rect width='9' height='9'/></svg>");
   EXPECT_EQ(Painted(drawing).pixel(2, 2), kNothing);
+}
+
+struct ShapeRow {
+  const char* shape;  // in red
+  QRect area;         // of its pixels
+};
+
+TEST(VectorDrawing, DrawsEachShapeWhereItsAttributesPlaceIt) {
+  for (const ShapeRow& row : {
+           ShapeRow{"<rect x='2' y='1' width='6' height='4'/>", {2, 1, 6, 4}},
+           ShapeRow{"<circle cx='10' cy='5' r='4'/>", {6, 1, 8, 8}},
+           ShapeRow{"<ellipse cx='10' cy='5' rx='6' ry='3'/>", {4, 2, 12, 6}},
+           ShapeRow{"<path d='M3 2H9V7H3z'/>", {3, 2, 6, 5}},
+           ShapeRow{"<path d='M3 2H9V7H3z' transform='translate(4 1)'/>", {7, 3, 6, 5}},
+           ShapeRow{"<path d='M0 -3H5V-1H0z' transform='rotate(90)'/>", {1, 0, 2, 5}},
+           ShapeRow{"<path d='M4 5H8' stroke='#ff0000' stroke-width='2' fill='none' "
+                    "stroke-linecap='butt' stroke-linejoin='round'/>",
+                    {4, 4, 4, 2}},
+           ShapeRow{"<path d='M4 5H8' stroke='#ff0000' stroke-width='4' fill='none' "
+                    "stroke-linecap='round'/>",
+                    {2, 3, 8, 4}},
+       }) {
+    const QByteArray red = QByteArray("<g fill='#ff0000'>") + row.shape + "</g>";
+    const VectorDrawing drawing(Svg(red.constData()));
+    EXPECT_EQ(drawing.NotUnderstood(), QStringList()) << row.shape;
+    EXPECT_EQ(AreaOf(Painted(drawing), QColor(Qt::red)), row.area) << row.shape;
+  }
+}
+
+TEST(VectorDrawing, ARectangleMayHaveRoundCorners) {
+  const auto corner = [](const char* shape) {
+    return Painted(VectorDrawing(Svg(shape))).pixel(0, 0) != kNothing;
+  };
+  EXPECT_TRUE(corner("<rect width='10' height='10'/>"));
+  EXPECT_FALSE(corner("<rect width='10' height='10' rx='4'/>"));
+  EXPECT_FALSE(corner("<rect width='10' height='10' rx='4' ry='4'/>"));
+}
+
+TEST(VectorDrawing, ALineMayBeFaint) {
+  const VectorDrawing drawing(
+      Svg("<path d='M0 5H20' stroke='#ff0000' stroke-width='4' stroke-opacity='.25'/>"));
+  EXPECT_NEAR(qAlpha(Painted(drawing).pixel(10, 5)), 64, 1);
 }
 
 }  // namespace
