@@ -197,5 +197,32 @@ TEST_F(ColumnsOfAList, TheDotTakesItsRoomInTheFirstOneAlone) {
   EXPECT_EQ(wishes(), before);
 }
 
+// Of the text in the first cell, at two heights of rows.
+TEST(RowFace, ATextStandsAsHighBehindADotAsWithoutOne) {
+  for (const bool icons : {false, true}) {
+    ListBox list;
+    list.addRow("HHHH");
+    list.SetIconRows(icons);
+    const auto rowsOfText = [&list] {
+      test::PictureOf(list, {200, 120}, test::Use::Rest);
+      const QRect cell = list.visualRect(list.model()->index(0, 0));
+      const QImage picture = list.viewport()->grab(cell.adjusted(20, 0, 0, 0)).toImage();
+      std::vector<int> rows;
+      for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < 40; ++x) {
+          if (picture.pixel(x, y) == picture.pixel(150, y)) continue;
+          rows.push_back(y);
+          break;
+        }
+      }
+      return rows;
+    };
+    const std::vector<int> plain = rowsOfText();
+    EXPECT_GT(plain.size(), 5U);
+    list.SetRowPending(0, "was");
+    EXPECT_EQ(rowsOfText(), plain);
+  }
+}
+
 }  // namespace
 }  // namespace mortane

@@ -31,6 +31,12 @@ TEST(PathData, ReadsNumbersWithoutBlanksBetweenThem) {
   EXPECT_EQ(Text("M.5.25l-1-.5,2 3"), "M0.5 0.25 L-0.5 -0.25 L1.5 2.75 ");
 }
 
+TEST(PathData, PassesOverBlanksAndCommasAroundCommands) {
+  EXPECT_EQ(Text(" M 1 2 L 3,4 "), "M1 2 L3 4 ");
+  EXPECT_EQ(Text("M1 2\n h 3 \t z "), "M1 2 L4 2 L1 2 ");
+  EXPECT_EQ(Text("M1 2,,L3 4,"), "M1 2 L3 4 ");
+}
+
 TEST(PathData, RepeatsACommandAndGoesOnWithLinesBehindAMove) {
   EXPECT_EQ(Text("M1 1 2 2 3 3"), "M1 1 L2 2 L3 3 ");
   EXPECT_EQ(Text("m1 1 1 1"), "M1 1 L2 2 ");
