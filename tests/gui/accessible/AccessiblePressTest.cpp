@@ -257,5 +257,22 @@ TEST(AccessibleButtons, TellTheKeyOfTheirOwnActionAlone) {
       QStringList());
 }
 
+TEST(AccessibleButtons, AWideOptionIsPressedOnItsIndicatorInBothDirectionsOfText) {
+  for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    TestWindow window;
+    auto* check = window.Add<QCheckBox>("Text");
+    auto* radio = window.Add<QRadioButton>("Text");
+    window.widget().setLayoutDirection(direction);
+    window.widget().resize(500, 200);
+    window.Show();
+    for (QAbstractButton* option : std::initializer_list<QAbstractButton*>{check, radio}) {
+      QAccessible::queryAccessibleInterface(option)->actionInterface()->doAction(
+          QAccessibleActionInterface::toggleAction());
+      QApplication::processEvents();
+      EXPECT_TRUE(option->isChecked()) << direction;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace mortane

@@ -252,5 +252,11 @@ TEST_F(MoveCrossTest, AnotherFontMovesTheButtonsAtOnce) {
   }
 }
 
+TEST_F(MoveCrossTest, ButtonsAreNeverSmallerThanTheGrid) {
+  cross->setFixedSize(100, 100);
+  QApplication::processEvents();
+  EXPECT_EQ(cross->button(MoveDirection::Up, MoveSize::Large)->size(), QSize(36, 36));
+}
+
 }  // namespace
 }  // namespace mortane

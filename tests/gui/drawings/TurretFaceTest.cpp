@@ -1,7 +1,6 @@
 // What a place of a turret and the disc behind the places look like.
 #include <QtMath>
 #include <cmath>
-#include "drawings/MarkButton.h"
 #include "drawings/TurretButton.h"
 #include "drawings/TurretDrawing.h"
 #include "gui/support/Face.h"
@@ -239,56 +238,6 @@ TEST(TurretFace, WhatAPlaceShowsAnewIsPaintedAtOnce) {
   EXPECT_TRUE(paintedBy([&] { place->SetLabelFont(TitleFont()); }));
 }
 
-struct MarkFace {
-  const char* what;
-  Use use;
-  bool chosen;
-  const char* dial;
-  const char* key;
-};
-
-// A mark 30 wide with the room for its focus around it.
-TEST(MarkFace, TellsItsState) {
-  for (const MarkFace& row : {
-           MarkFace{"at rest", Use::Rest, false,
-                    "Window 4, ~ 2, RailHover 1, ~ 1, RailText 1, ~ 2, RailHover 18, ~ 2, RailText "
-                    "1, ~ 1, RailHover 1, ~ 2, Window 4",
-                    "Window 4, ~ 2, Rail 28, ~ 2, Window 4"},
-           MarkFace{"hovered", Use::Hovered, false,
-                    "Window 4, ~ 2, RailSelected 1, ~ 1, RailText 1, ~ 2, RailSelected 18, ~ 2, "
-                    "RailText 1, ~ 1, RailSelected 1, ~ 2, Window 4",
-                    "Window 4, ~ 2, RailHover 28, ~ 2, Window 4"},
-           MarkFace{"focused", Use::Focused, false,
-                    "Window 1, ~ 1, RailText 1, ~ 3, RailHover 1, ~ 1, RailText 1, ~ 2, RailHover "
-                    "18, ~ 2, RailText 1, ~ 1, RailHover 1, ~ 3, RailText 1, ~ 1, Window 1",
-                    "Window 1, ~ 1, RailText 1, ~ 3, Rail 28, ~ 3, RailText 1, ~ 1, Window 1"},
-           MarkFace{"chosen", Use::Rest, true,
-                    "Window 4, ~ 2, Amber 1, ~ 1, OnAmber 1, ~ 2, Amber 18, ~ 2, OnAmber 1, ~ 1, "
-                    "Amber 1, ~ 2, Window 4",
-                    "Window 3, ~ 1, Amber 2, ~ 1, Rail 26, ~ 1, Amber 2, ~ 1, Window 3"},
-       }) {
-    for (const MarkKind kind : {MarkKind::BodyDial, MarkKind::HandKey}) {
-      MarkButton mark({kind, {}}, nullptr);
-      mark.Place({5, 5, 30, 30});
-      mark.setChecked(row.chosen);
-      const QImage picture = test::PictureOf(mark, {40, 40}, row.use);
-      EXPECT_EQ(test::RowOf(picture, 20), kind == MarkKind::BodyDial ? row.dial : row.key)
-          << row.what;
-    }
-  }
-}
-
-TEST(MarkFace, HasRoomForTheFocusAroundWhatIsHit) {
-  MarkButton small({MarkKind::BodySwitch, {}}, nullptr);
-  small.Place({10, 10, 20, 20});
-  EXPECT_EQ(small.geometry(), QRect(6, 6, 28, 28));
-  EXPECT_EQ(small.contentsMargins(), QMargins(2, 2, 2, 2)) << "what is hit is 24 wide";
-  MarkButton large({MarkKind::BodySwitch, {}}, nullptr);
-  large.Place({10, 10, 60, 40});
-  EXPECT_EQ(large.geometry(), QRect(6, 6, 68, 48));
-  EXPECT_EQ(large.contentsMargins(), QMargins(4, 4, 4, 4));
-}
-
 TEST(TurretFace, SixtyLinesStandRoundTheRimOfTheDisc) {
   TurretDrawing turret(PlaceKind::Objectives);
   const QImage disc = test::PictureOf(turret, {280, 280}, Use::Rest);
@@ -342,6 +291,14 @@ TEST(TurretFace, LabelsStandInTheMiddleOfARoundPlaceAndHighOnATile) {
     EXPECT_NEAR(text.center().x(), 40, 1.5);
     EXPECT_NEAR(text.center().y(), middle, 2);
   }
+}
+
+TEST(TurretFace, APlaceThatIsNotThereIsNotFilled) {
+  TurretDrawing turret(PlaceKind::Cubes);
+  turret.SetItems(QVector<TurretItem>(10));
+  const QString before = turret.accessibleDescription();
+  for (const int none : {-1, 10, 11}) turret.SetItem(none, {"One", "One", {}});
+  EXPECT_EQ(turret.accessibleDescription(), before);
 }
 
 TEST(TurretFace, ATileIsHitUpToItsEdges) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include <QScrollArea>
 #include "gui/support/TestWindow.h"
 #include "widgets/PageHeader.h"
 #include "widgets/SectionBar.h"
@@ -279,6 +280,15 @@ TEST_F(ContainerPageTest, EverySelectionIsToldWhenItsSubPageIsShown) {
   Click(2);
   Click(2);
   EXPECT_EQ(shown, QStringList({"1 shown", "2 shown", "2 shown"}));
+}
+
+TEST_F(ContainerPageTest, SubPagesAreScrolledWithoutAFrameAndWithoutAFocus) {
+  const auto* scroll = area->findChild<QScrollArea*>();
+  ASSERT_NE(scroll, nullptr);
+  EXPECT_EQ(scroll->frameShape(), QFrame::NoFrame);
+  EXPECT_TRUE(scroll->widgetResizable());
+  EXPECT_EQ(scroll->focusPolicy(), Qt::NoFocus);
+  EXPECT_EQ(scroll->widget()->layout()->contentsMargins(), QMargins());
 }
 
 }  // namespace

@@ -1,6 +1,11 @@
 #include "widgets/ItemLayout.h"
 
 #include "gui/support/TestWindow.h"
+#include "widgets/ColumnFlow.h"
+#include "widgets/FlowRow.h"
+#include "widgets/PairPanel.h"
+#include "widgets/ReflowGrid.h"
+#include "widgets/SectionBar.h"
 
 namespace mortane {
 namespace {
@@ -84,6 +89,25 @@ TEST(ItemLayout, DestroysTheItemsThatWereNotTaken) {
   const std::unique_ptr<QLayoutItem> taken(shelf->takeAt(0));
   shelf.reset();
   EXPECT_EQ(destroyed, 2);
+}
+
+TEST(ItemLayouts, TellTheRoomThatTheyWereGiven) {
+  const QRect room(3, 4, 300, 200);
+  ColumnFlow columns(10, 4);
+  FlowRow line(10, 4);
+  ReflowGrid grid(ReflowGrid::Order::RowByRow, 2, 10, 4);
+  for (QLayout* layout : std::initializer_list<QLayout*>{&columns, &line, &grid}) {
+    layout->setGeometry(room);
+    EXPECT_EQ(layout->geometry(), room);
+  }
+  SectionBar bar;
+  bar.AddOption("One");
+  PairPanel pair;
+  pair.SetParts(new QWidget(&pair), 1, new QWidget(&pair), 1);
+  for (QWidget* panel : std::initializer_list<QWidget*>{&bar, &pair}) {
+    panel->layout()->setGeometry(room);
+    EXPECT_EQ(panel->layout()->geometry(), room);
+  }
 }
 
 }  // namespace

@@ -41,6 +41,22 @@ TEST_F(OptionGroupTest, WhyAnOptionIsDisabledIsShownAsAnArrowPassesOverIt) {
   EXPECT_EQ(QToolTip::text(), "ON: Not on this stage.");
 }
 
+TEST_F(OptionGroupTest, WhyTheOptionsAtAnEndAreDisabledIsShownAndNothingIsChosen) {
+  for (const auto& [key, end] : {std::pair{Qt::Key_Left, 0}, {Qt::Key_Right, 2}}) {
+    group->button(end)->setEnabled(false);
+    group->button(end)->setToolTip("Not on this stage.");
+    group->select(1);
+    group->button(1)->setFocus();
+    QSignalSpy clicks(group, &OptionGroup::selectionChanged);
+    QTest::keyClick(group->button(1), key);
+    EXPECT_EQ(QToolTip::text(), group->button(end)->text() + ": Not on this stage.");
+    EXPECT_EQ(group->selected(), 1);
+    EXPECT_EQ(clicks.size(), 0);
+    QToolTip::hideText();
+    group->button(end)->setEnabled(true);
+  }
+}
+
 TEST_F(OptionGroupTest, NothingIsSelectedAtFirst) {
   EXPECT_EQ(group->selected(), -1);
 }

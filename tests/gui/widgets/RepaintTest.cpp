@@ -1,7 +1,8 @@
-// What a control shows anew is painted at once.
+// What a control shows anew is painted at once; what room and which focus each control takes.
 #include "gui/support/PaintCount.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/CheckToggle.h"
+#include "widgets/ComboBox.h"
 #include "widgets/CommandKey.h"
 #include "widgets/NotSentMark.h"
 #include "widgets/PageButton.h"
@@ -53,6 +54,46 @@ TEST(Repaint, FollowsEachChangeOfAFace) {
   auto* strip = new TabStrip;
   strip->SetNumberedTabs(2);
   ExpectPainted<TabStrip>("not sent", strip, [](auto& c) { c.SetTabPending(0, true); });
+}
+
+struct RoomRow {
+  const char* what;
+  QWidget* control;
+  QSizePolicy::Policy across;
+  QSizePolicy::Policy down;
+  Qt::FocusPolicy focus;
+  bool hovers;
+};
+
+TEST(ControlRoom, EachTakesTheRoomAndTheFocusOfItsKind) {
+  using P = QSizePolicy;
+  for (const RoomRow& row : {
+           RoomRow{"switch", new CheckToggle, P::Fixed, P::Fixed, Qt::TabFocus, true},
+           RoomRow{"key", new CommandKey(IconName::Send, {}), P::Fixed, P::Fixed, Qt::TabFocus,
+                   true},
+           RoomRow{"page", new PageButton(IconName::System, {}), P::Expanding, P::Maximum,
+                   Qt::TabFocus, true},
+           RoomRow{"section", new SectionOption({}, nullptr), P::Maximum, P::Fixed, Qt::StrongFocus,
+                   true},
+           RoomRow{"sections", new SectionBar, P::Maximum, P::Fixed, Qt::NoFocus, false},
+           RoomRow{"field", new TextField, P::Preferred, P::Fixed, Qt::StrongFocus, false},
+           RoomRow{"combo", new ComboBox, P::Preferred, P::Fixed, Qt::TabFocus, false},
+           RoomRow{"progress", new ProgressLine, P::Expanding, P::Fixed, Qt::NoFocus, false},
+       }) {
+    EXPECT_EQ(row.control->sizePolicy().horizontalPolicy(), row.across) << row.what;
+    EXPECT_EQ(row.control->sizePolicy().verticalPolicy(), row.down) << row.what;
+    EXPECT_EQ(row.control->focusPolicy(), row.focus) << row.what;
+    EXPECT_EQ(row.control->testAttribute(Qt::WA_Hover), row.hovers) << row.what;
+    delete row.control;
+  }
+  EXPECT_EQ(TextField().textMargins(), QMargins(6, 0, 6, 0));
+  EXPECT_EQ(ComboBox().maxVisibleItems(), 16);
+  EXPECT_TRUE(ProgressLine().testAttribute(Qt::WA_TransparentForMouseEvents));
+  const TabStrip strip;
+  EXPECT_TRUE(strip.testAttribute(Qt::WA_Hover));
+  EXPECT_FALSE(strip.drawBase());
+  EXPECT_FALSE(strip.expanding());
+  EXPECT_FALSE(strip.usesScrollButtons());
 }
 
 }  // namespace
