@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QSignalSpy>
+
 #include "drawings/MicroscopeDrawing.h"
 #include "drawings/MoveCross.h"
 #include "drawings/SwitchDrawing.h"
@@ -88,6 +90,23 @@ TEST(DrawingRoom, DrawingsGrowWithTheirPageAndTakeNoFocus) {
   EXPECT_TRUE(mark.isCheckable());
   EXPECT_TRUE(mark.testAttribute(Qt::WA_Hover));
   EXPECT_EQ(mark.text(), "L");
+}
+
+TEST(MarkFace, ADialIsHitUpToItsEdge) {
+  MarkButton dial({MarkKind::HandDial, {}}, nullptr);
+  dial.Place({0, 0, 100, 100});
+  dial.show();
+  QSignalSpy clicks(&dial, &QAbstractButton::clicked);
+  const QPoint middle(dial.width() / 2, dial.height() / 2);
+  ASSERT_EQ(dial.width() % 2, 0);
+  for (const QPoint& away : {QPoint(50, 0), QPoint(0, -50), QPoint(30, 40)}) {
+    clicks.clear();
+    QTest::mouseClick(&dial, Qt::LeftButton, {}, middle + away);
+    EXPECT_EQ(clicks.size(), 1) << away.x();
+    QTest::mouseClick(&dial, Qt::LeftButton, {},
+                      middle + away * 51 / 50 + QPoint(0, away.y() > 0 ? 1 : 0));
+    EXPECT_EQ(clicks.size(), 1) << away.x();
+  }
 }
 
 }  // namespace

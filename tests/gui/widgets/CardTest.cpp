@@ -3,6 +3,8 @@
 #include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/Theme.h"
+#include "widgets/ValueBox.h"
+#include "widgets/ValueLabel.h"
 
 namespace mortane {
 namespace {
@@ -81,6 +83,21 @@ TEST(Card, ACaptionOfTwoLinesIsWrittenInBoth) {
   const QImage two = test::PictureOf(*caption, {whole.width() * 7 / 10, 2 * line}, test::Use::Rest);
   EXPECT_GT(test::AreaOf(two, ink).height(), line);
   delete caption;
+}
+
+TEST(ValueBox, ColumnsShareTheWidthByTheirStretches) {
+  ValueBox box;
+  const ValueBox::Value narrow = box.AddValue("One", 2, 1);
+  const ValueBox::Value wide = box.AddValue("Two", 2, 3);
+  box.resize(16 + 100 + 16 + 300 + 16, 100);
+  box.show();
+  QApplication::processEvents();
+  EXPECT_EQ(narrow.value->width(), 100);
+  EXPECT_EQ(wide.value->width(), 300);
+  EXPECT_EQ(wide.value->x() - narrow.value->geometry().right() - 1, 16);
+  EXPECT_EQ(wide.value->y() - wide.caption->geometry().bottom() - 1, 4);
+  EXPECT_EQ(wide.value->accessibleName(), "Two");
+  EXPECT_EQ(wide.caption->buddy(), wide.value);
 }
 
 }  // namespace

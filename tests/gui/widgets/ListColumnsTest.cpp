@@ -2,6 +2,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 
+#include <QToolTip>
 #include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/ListBox.h"
@@ -221,6 +222,23 @@ TEST(RowFace, ATextStandsAsHighBehindADotAsWithoutOne) {
     EXPECT_GT(plain.size(), 5U);
     list.SetRowPending(0, "was");
     EXPECT_EQ(rowsOfText(), plain);
+  }
+}
+
+TEST_F(ColumnsOfAList, ACellThatJustFitsHasNoToolTip) {
+  const QModelIndex cell = list->model()->index(1, 0);
+  auto* delegate = qobject_cast<RowDelegate*>(list->itemDelegate());
+  ASSERT_NE(delegate, nullptr);
+  QStyleOptionViewItem option;
+  option.fontMetrics = list->fontMetrics();
+  option.font = list->font();
+  const int needed = delegate->sizeHint(option, cell).width();
+  for (const auto& [width, tip] : {std::pair{needed, ""}, {needed - 1, "Violet"}}) {
+    option.rect = {0, 0, width, 26};
+    QHelpEvent help(QEvent::ToolTip, QPoint(3, 3), list->mapToGlobal(QPoint(3, 3)));
+    QToolTip::hideText();
+    delegate->helpEvent(&help, list, option, cell);
+    EXPECT_EQ(QToolTip::isVisible() ? QToolTip::text() : QString(), tip) << width;
   }
 }
 

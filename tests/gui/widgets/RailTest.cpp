@@ -245,5 +245,14 @@ TEST(PageButtonFace, IsAsLargeAsTheGridAndNoLowerThanItsPictureAndText) {
   EXPECT_EQ(PageButton(IconName::System, "I").sizeHint().width(), 104);
 }
 
+TEST_F(RailTest, UpAndDownPassOverTheButtonThatCannotBeUsed) {
+  rail->SetPageEnabled(2, false);
+  rail->button(3)->setFocus();
+  QTest::keyClick(rail->button(3), Qt::Key_Up);
+  EXPECT_TRUE(rail->button(1)->hasFocus());
+  QTest::keyClick(rail->button(1), Qt::Key_Down);
+  EXPECT_TRUE(rail->button(3)->hasFocus());
+}
+
 }  // namespace
 }  // namespace mortane
