@@ -209,7 +209,9 @@ TEST(AccessibleValue, CanBeReadByCharacters) {
   text->setCursorPosition(3);
   EXPECT_EQ(text->selectionCount(), 0);
   EXPECT_EQ(text->cursorPosition(), 0);
+  start = end = -1;
   text->selection(0, &start, &end);
+  EXPECT_EQ(start, 0);
   EXPECT_EQ(end, 0);
 }
 
