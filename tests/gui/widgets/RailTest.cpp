@@ -254,5 +254,12 @@ TEST_F(RailTest, UpAndDownPassOverTheButtonThatCannotBeUsed) {
   EXPECT_TRUE(rail->button(3)->hasFocus());
 }
 
+TEST(RailFace, HasItsGroundBesideItsPages) {
+  Rail rail;
+  const QImage picture = test::PictureOf(rail, {104, 200}, test::Use::Rest);
+  EXPECT_EQ(test::RowOf(picture), "Rail 104");
+  EXPECT_EQ(test::ColumnOf(picture), "Rail 200");
+}
+
 }  // namespace
 }  // namespace mortane
