@@ -67,14 +67,17 @@ constexpr std::array kCalls{
     CallRow{"ControlXYStageCtl1", "XYDriveDevice"},
 };
 
-// A move is begun by the microscope's entry in the list.
-constexpr std::string_view kMoveBegins = ".AsyncMode = ";
+// A move is begun and awaited at the microscope's entry in the list.
+constexpr std::array<std::string_view, 2> kMoves{".AsyncMode = ", ".WaitMove("};
 constexpr std::array kMovers{"ControlFocusDriveCtl1", "ControlXYStageCtl1"};
 
 bool IsOfMove(const std::string& line, const std::set<QString>& worked) {
-  if (line.find(kMoveBegins) == std::string::npos) return false;
-  return std::any_of(kMovers.begin(), kMovers.end(),
-                     [&](const char* page) { return worked.contains(QLatin1String(page)); });
+  const bool moves = std::any_of(kMoves.begin(), kMoves.end(), [&](std::string_view call) {
+    return line.find(call) != std::string::npos;
+  });
+  return moves && std::any_of(kMovers.begin(), kMovers.end(), [&](const char* page) {
+           return worked.contains(QLatin1String(page));
+         });
 }
 
 bool IsOf(const std::string& line, const std::set<QString>& worked) {
