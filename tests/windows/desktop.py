@@ -115,6 +115,13 @@ class Program:
             return len(self.journal()) == before
         await_that(rested, "rest")
 
+    def await_sent(self, text):
+        """Until a Send that makes this call has ended. The program stands still for three seconds
+        after the last call, and drops what is typed before."""
+        self.await_call(text)
+        self.await_rest()
+        time.sleep(4)
+
     def window(self):
         return self.desktop.await_windows(1, self.title)[0]
 

@@ -142,11 +142,9 @@ class PackedPrograms(unittest.TestCase):
 
         self.change_name(program, "Bay 4")
         program.press(program.window(), "alt+c", "n")
-        program.await_call('SystemName = "Bay 4"')
+        program.await_sent('SystemName = "Bay 4"')
         desktop.await_that(lambda: 'Bay 4' in self.bench_file.read_text(encoding="utf-8"),
                            "the name in the bench file")
-        time.sleep(4)  # the program stands still for three seconds after a Send
-        program.await_rest()
 
         saved = self.folder.path / "saved.xml"
         self.save(program, saved)
@@ -161,9 +159,7 @@ class PackedPrograms(unittest.TestCase):
         program.press(items, "Return")
         time.sleep(0.5)
         program.press(program.window(), "alt+c", "n")
-        program.await_call('SystemName = "Opened"')
-        time.sleep(4)
-        program.await_rest()
+        program.await_sent('SystemName = "Opened"')
 
         program.press(program.window(), "alt+c", "l")
         choice = self.desktop.await_windows(1, "Select Microscope Dialog")[0]
