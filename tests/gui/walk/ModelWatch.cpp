@@ -80,11 +80,12 @@ bool IsOfLoadedDrive(const ConfigurationItem& item, const std::set<QString>& nam
 }
 
 // Kept: a page of optional items shows a mark for a name that is missing, and stores it as the name
-// when it is left; each field of an optional objective stores its name too.
-bool IsMarkOfLeftPage(const std::string& before, const std::string& after,
-                      const std::set<QString>& names) {
-  return (LoadsPage(names) || names.contains(u"ObjectiveOptionCtl1"_s)) && Trim(before).empty() &&
-         (after == kUnnamedMark || after == kUnnamedObjective);
+// when it is left; each control of an optional objective or cube stores its name too.
+bool IsMarkOfPage(const std::string& before, const std::string& after,
+                  const std::set<QString>& names) {
+  const bool stores = LoadsPage(names) || names.contains(u"ObjectiveOptionCtl1"_s) ||
+                      names.contains(u"FilterOptionalQubeCtl1"_s);
+  return stores && Trim(before).empty() && (after == kUnnamedMark || after == kUnnamedObjective);
 }
 
 int ChosenIn(const QObject* object) {
@@ -210,9 +211,9 @@ std::vector<std::string> ModelWatch::TakeUnexplained(const std::set<const QObjec
   if (allowed != MayChange::Everything) changes = ChangesOfRest(rest, names);
   rest_ = rest;
   document_.swap(document);
+  FindPages(names, allowed);  // for what is chosen there before the next act
   const bool same = document == document_ || document.empty() || document_.empty();
   if (same || allowed == MayChange::Everything) return changes;
-  FindPages(names, allowed);
   const auto before = ByKey(document);
   const auto after = ByKey(document_);
   const auto look = [&](const auto& items, const auto& others) {
@@ -221,8 +222,7 @@ std::vector<std::string> ModelWatch::TakeUnexplained(const std::set<const QObjec
       if (other != others.end() && other->second == item) continue;
       const ConfigurationItem& now = after.contains(key) ? after.at(key) : item;
       if (IsExplained(now, worked, names, allowed)) continue;
-      if (before.contains(key) && IsMarkOfLeftPage(before.at(key).value, now.value, names))
-        continue;
+      if (before.contains(key) && IsMarkOfPage(before.at(key).value, now.value, names)) continue;
       changes.push_back(KeyText(key) + " from \"" +
                         (before.contains(key) ? before.at(key).value : "-") + "\" to \"" +
                         (after.contains(key) ? after.at(key).value : "-") + "\"");
