@@ -174,8 +174,9 @@ TEST(TurretFace, APlaceTellsItsState) {
     place.setChecked(row.chosen);
     if (row.pending) place.SetPending("2x");
     const QImage picture = test::PictureOf(place, {80, 80}, row.use);
-    EXPECT_EQ((test::Face{test::RowOf(picture, 30), test::ColumnOf(picture, 58)}), row.face)
-        << row.what;
+    EXPECT_EQ(test::RowOf(picture, 30), row.face.row) << row.what;
+    const std::string column = test::ColumnOf(picture, 58);
+    EXPECT_TRUE(test::SameButForEdges(column, row.face.column)) << row.what << "\n" << column;
   }
 }
 

@@ -1,8 +1,11 @@
 #include "gui/support/Scanline.h"
 
 #include <QMetaEnum>
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <functional>
+#include <utility>
 
 #include "widgets/Theme.h"
 
@@ -77,6 +80,16 @@ std::string Runs(int length, const std::vector<NamedColor>& more,
   return runs;
 }
 
+// Without the mixed ones.
+std::vector<std::pair<QString, int>> Inks(const std::string& line) {
+  std::vector<std::pair<QString, int>> inks;
+  for (const QString& run : QString::fromStdString(line).split(", ")) {
+    const qsizetype blank = run.lastIndexOf(' ');
+    if (!run.startsWith('~')) inks.emplace_back(run.left(blank), run.mid(blank + 1).toInt());
+  }
+  return inks;
+}
+
 }  // namespace
 
 QPalette TellablePalette() {
@@ -113,6 +126,14 @@ std::string RowOf(const QImage& picture, const std::vector<NamedColor>& more) {
 
 std::string ColumnOf(const QImage& picture, const std::vector<NamedColor>& more) {
   return ColumnOf(picture, picture.width() / 2, more);
+}
+
+bool SameButForEdges(const std::string& left, const std::string& right) {
+  const auto a = Inks(left);
+  const auto b = Inks(right);
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const auto& one, const auto& other) {
+    return one.first == other.first && std::abs(one.second - other.second) <= 1;
+  });
 }
 
 }  // namespace mortane::test

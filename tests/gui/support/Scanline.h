@@ -28,6 +28,10 @@ std::string ColumnOf(const QImage& picture, int x, const std::vector<NamedColor>
 std::string RowOf(const QImage& picture, const std::vector<NamedColor>& more = {});
 std::string ColumnOf(const QImage& picture, const std::vector<NamedColor>& more = {});
 
+// Whether two such lines have the same inks, each as long but for a pixel, with any mixed pixels
+// between. One version of the toolkit draws the edges of circles a pixel further than another.
+bool SameButForEdges(const std::string& left, const std::string& right);
+
 // Around all pixels of the colour.
 QRect AreaOf(const QImage& picture, const QColor& color);
 
