@@ -126,7 +126,7 @@ ModelWatch::ModelWatch(const QWidget& window, const clsK70& k70) : window_(windo
   for (const ItemPlace& place : ItemPlaces()) {
     for (const char* name : {place.subPage.name, place.subPage.inWizard}) {
       if (name != nullptr)
-        targets_.push_back({&place, name, nullptr, {}, nullptr, false, kNone, kNone});
+        targets_.push_back({&place, name, nullptr, {}, nullptr, false, kNone, kNone, false});
     }
   }
   document_ = Document();
@@ -181,6 +181,7 @@ ModelWatch::Rest ModelWatch::RestNow() const {
 void ModelWatch::NoteChoices() {
   for (Target& target : targets_) {
     target.chosenBefore = ChosenIn(target.chooser);
+    target.noted = !target.controls.empty();
     target.selectedBefore = target.controls.empty() ? kNone : ChosenIn(target.controls.front());
   }
 }
@@ -271,7 +272,7 @@ bool ModelWatch::IsOf(const Target& target, const ConfigurationItem& item,
   const QObject* control = target.controls.empty() ? nullptr : target.controls.front().data();
   const auto* turret = qobject_cast<const TurretDrawing*>(control);
   const int row = turret == nullptr ? where : turret->placeOf(where);
-  return row == target.selectedBefore || row == ChosenIn(control);
+  return !target.noted || row == target.selectedBefore || row == ChosenIn(control);
 }
 
 }  // namespace mortane::test

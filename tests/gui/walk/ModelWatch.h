@@ -50,6 +50,7 @@ class ModelWatch {
     bool isArray;
     int chosenBefore;
     int selectedBefore;
+    bool noted;  // the last two; not of a page that the act itself has made
   };
 
   void FindPages(const std::set<QString>& names, MayChange allowed);

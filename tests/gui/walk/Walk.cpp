@@ -53,6 +53,7 @@ constexpr std::string_view kBoxes[] = {
     "Cannot write ",
     "The manual is not installed.",
     "Please Input right value.",
+    "SystemName = ",  // of fifteen characters, which a file may not bring
     "This position is related with Observation Method.",
     "Exit Setup?",
     "Save Settings?",
