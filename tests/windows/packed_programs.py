@@ -5,8 +5,11 @@ The server folder holds mortane_test_library.dll and mortane_test_server.exe, th
 library and mortane-host32.exe of 32 bits. Where Wine runs no programs of 32 bits, those of the host's
 test are of 64 bits."""
 
+import contextlib
+import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -72,10 +75,13 @@ def runs_32_bits():
 
 
 def kill_server():
-    """A server whose clients were killed lives on, with the bench of a test before."""
-    subprocess.run([desktop.WINE, "taskkill", "/f", "/im", "mortane_test_server.exe"], check=False,
-                   timeout=desktop.PATIENCE_S, stdout=subprocess.DEVNULL,
-                   stderr=subprocess.DEVNULL, env=screen.environment)
+    """A server whose clients were killed lives on, with the bench of a test before. Wine's taskkill
+    finds no process of 64 bits where Wine itself has 32."""
+    server = desktop.windows_path(servers / "mortane_test_server.exe").encode()
+    for command_line in pathlib.Path("/proc").glob("[0-9]*/cmdline"):
+        with contextlib.suppress(OSError):  # of a process that has just ended
+            if server in command_line.read_bytes():
+                os.kill(int(command_line.parent.name), signal.SIGKILL)
 
 
 class PackedPrograms(unittest.TestCase):

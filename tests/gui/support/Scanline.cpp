@@ -85,7 +85,8 @@ std::vector<std::pair<QString, int>> Inks(const std::string& line) {
   std::vector<std::pair<QString, int>> inks;
   for (const QString& run : QString::fromStdString(line).split(", ")) {
     const qsizetype blank = run.lastIndexOf(' ');
-    if (!run.startsWith('~')) inks.emplace_back(run.left(blank), run.mid(blank + 1).toInt());
+    if (!run.startsWith('~'))
+      inks.emplace_back(run.left(blank), QStringView(run).mid(blank + 1).toInt());
   }
   return inks;
 }
