@@ -197,7 +197,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BadFile{"text.xml", "plain text", "line 1"},
                     BadFile{"cut.xml", std::string(kGood).substr(0, 40), "line 1"},
                     BadFile{"root.xml", "<Bench/>", "no settings file"},
-                    BadFile{"nul.xml", std::string("<Setup>\0</Setup>", 16), "the document holds"},
+                    BadFile{"zero.xml", std::string("<Setup>\0</Setup>", 16), "the document holds"},
                     BadFile{"bomb.xml",
                             "<!DOCTYPE a [<!ENTITY b 'bb'><!ENTITY c '&b;&b;'>]><Setup>&c;</Setup>",
                             ""},
