@@ -3,24 +3,14 @@
 
 #include <string>
 
-#include "common/Prompts.h"
+#include "common/UnattendedPrompts.h"
 
 namespace mortane::test {
 
-// Files are never chosen. Unlike ScriptedPrompts it keeps no record, however long it runs.
-class QuietPrompts : public Prompts {
+// Unlike ScriptedPrompts it keeps no record, however long it runs.
+class QuietPrompts : public UnattendedPrompts {
  public:
   Answer MsgBox(const std::string&, int, const std::string&) override { return Answer::Ok; }
-  Answer TimedMsgBox(int, const std::string&, int, const std::string&, const std::string&,
-                     int) override {
-    return Answer::Ok;
-  }
-  std::string AskFileToOpen(const FileQuestion&) override { return {}; }
-  std::string AskFileToSave(const FileQuestion&) override { return {}; }
-  void SetPointer(Pointer) override {}
-  void FlushInput() override {}
-  void Wait(int) override {}
-  void ShowProgress(int, int) override {}
 };
 
 }  // namespace mortane::test

@@ -7,18 +7,20 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <iostream>
 #include <optional>
 #include <stdexcept>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "app/ApplyTheme.h"
 #include "app/GetAppIcon.h"
 #include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
-#include "common/Prompts.h"
+#include "common/UnattendedPrompts.h"
 #include "controller/simulator/Benches.h"
 #include "controller/simulator/RealClock.h"
 #include "controller/simulator/SimulatedLibrary.h"
@@ -44,21 +46,11 @@ constexpr qsizetype kMostColours = 256;  // of a picture with a byte for each pi
 constexpr QRgb kCircle = qRgb(0xB3, 0x1B, 0x6A);
 
 // A box would stand in no picture: what it says ends the program.
-class NoPrompts : public Prompts {
+class NoPrompts : public UnattendedPrompts {
  public:
   Answer MsgBox(const std::string& text, int, const std::string&) override {
     throw std::runtime_error("a box: " + text);
   }
-  Answer TimedMsgBox(int, const std::string& text, int style, const std::string&,
-                     const std::string&, int) override {
-    return MsgBox(text, style, {});
-  }
-  std::string AskFileToOpen(const FileQuestion&) override { return {}; }
-  std::string AskFileToSave(const FileQuestion&) override { return {}; }
-  void SetPointer(Pointer) override {}
-  void FlushInput() override {}
-  void Wait(int) override {}
-  void ShowProgress(int, int) override {}
 };
 
 // Plugged in, so that the section of the joypad has its rows.

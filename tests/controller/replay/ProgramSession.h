@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "common/UnattendedPrompts.h"
 #include "controller/replay/JournalFile.h"
 #include "controller/replay/RecordedLibrary.h"
 #include "controller/simulator/Benches.h"
@@ -18,23 +19,12 @@
 namespace mortane::test {
 
 // Boxes are remembered and answered at once.
-class NotedPrompts : public Prompts {
+class NotedPrompts : public UnattendedPrompts {
  public:
   Answer MsgBox(const std::string& text, int /*style*/, const std::string& /*caption*/) override {
     said.push_back(text);
     return Answer::Ok;
   }
-  Answer TimedMsgBox(int /*milliseconds*/, const std::string& prompt, int style,
-                     const std::string& title, const std::string& /*helpFile*/,
-                     int /*context*/) override {
-    return MsgBox(prompt, style, title);
-  }
-  std::string AskFileToOpen(const FileQuestion& /*question*/) override { return {}; }
-  std::string AskFileToSave(const FileQuestion& /*question*/) override { return {}; }
-  void SetPointer(Pointer /*pointer*/) override {}
-  void FlushInput() override {}
-  void Wait(int /*milliseconds*/) override {}
-  void ShowProgress(int /*done*/, int /*total*/) override {}
 
   std::vector<std::string> said;
 };
