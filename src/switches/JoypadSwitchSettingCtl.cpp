@@ -29,11 +29,6 @@ constexpr int kListCharacters = 36;
 
 }  // namespace
 
-JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(Joystick& joystick, std::string applicationData,
-                                               QWidget* parent)
-    : JoypadSwitchSettingCtl(std::make_shared<JoypadSettings>(joystick, std::move(applicationData)),
-                             parent) {}
-
 JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(std::shared_ptr<JoypadSettings> settings,
                                                QWidget* parent)
     : CardPage(u"Joypad Switch Settings"_s, parent), settings_(std::move(settings)) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "widgets/CardPage.h"
 #include "widgets/Control.h"
@@ -14,7 +13,6 @@ namespace mortane {
 
 class Card;
 class JoypadSettings;
-class Joystick;
 class ListBox;
 class ReportList;
 class TextField;
@@ -29,9 +27,6 @@ class JoypadSwitchSettingCtl : public CardPage {
  public:
   explicit JoypadSwitchSettingCtl(std::shared_ptr<JoypadSettings> settings,
                                   QWidget* parent = nullptr);
-  // With settings of its own.
-  JoypadSwitchSettingCtl(Joystick& joystick, std::string applicationData,
-                         QWidget* parent = nullptr);
 
   void LoadData() override;
   void SaveData() override;

@@ -303,7 +303,8 @@ TEST_F(JoypadPage, SavesWhenThePersonLeavesIt) {
 TEST_F(JoypadPage, SavesWhenItsContainerIsHidden) {
   QWidget container;
   joystick.capabilities = {kJoystickOk, 1};
-  auto* inner = new JoypadSwitchSettingCtl(joystick, folder.Path(""), &container);
+  auto* inner = new JoypadSwitchSettingCtl(
+      std::make_shared<JoypadSettings>(joystick, folder.Path("")), &container);
   inner->LoadData();
   container.show();
   ClickRow(*inner->ListView1, 4);
@@ -330,7 +331,7 @@ TEST_F(JoypadPage, SavesWhenItIsDestroyed) {
 
 TEST_F(JoypadPage, WithoutAFolderOfTheUserWorksAndSavesNothing) {
   joystick.capabilities = {kJoystickOk, 1};
-  page = std::make_unique<JoypadSwitchSettingCtl>(joystick, "");
+  page = std::make_unique<JoypadSwitchSettingCtl>(std::make_shared<JoypadSettings>(joystick, ""));
   page->LoadData();
   page->show();
   Choose(4, 7);

@@ -38,7 +38,8 @@ class JoypadPage : public testing::Test {
     OpenAsItIs();
   }
   void OpenAsItIs() {
-    page = std::make_unique<JoypadSwitchSettingCtl>(joystick, folder.Path(""));
+    page = std::make_unique<JoypadSwitchSettingCtl>(
+        std::make_shared<JoypadSettings>(joystick, folder.Path("")));
     page->resize(900, 480);
     page->LoadData();
     page->show();

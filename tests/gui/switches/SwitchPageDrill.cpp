@@ -197,7 +197,7 @@ PageDrillData Tactor() {
 JoypadSwitchSettingCtl* MakeJoypadSwitchSettingCtl(SwitchPageUnits&) {
   static const TempFolder folder;
   static ScriptedJoystick joystick;
-  return new JoypadSwitchSettingCtl(joystick, folder.Path(""));
+  return new JoypadSwitchSettingCtl(std::make_shared<JoypadSettings>(joystick, folder.Path("")));
 }
 
 PageDrillData Joypad() {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "gui/switches/SwitchPageUnits.h"
+#include "switches/JoypadSettings.h"
 #include "switches/JoypadSwitchSettingCtl.h"
 #include "switches/ReportList.h"
 #include "switches/SwitchSettingCtl.h"

@@ -10,7 +10,7 @@ TEST_F(JoypadFile, SavesFourDirectionsThoughItWasNeverShownAndThereIsNoJoystick)
   joystick.Fail(kJoystickNoDriver);
   {
     // Its end saves.
-    const JoypadSwitchSettingCtl never(joystick, folder.Path(""));
+    const JoypadSwitchSettingCtl never(std::make_shared<JoypadSettings>(joystick, folder.Path("")));
   }
   EXPECT_EQ(SetupText(), "[JoyPad]\nRight=0\nLeft=0\nUp=0\nDown=0\n");
 }
