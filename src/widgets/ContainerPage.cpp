@@ -12,6 +12,7 @@
 #include "widgets/TabOrder.h"
 
 namespace mortane {
+
 ContainerPage::ContainerPage(IconName icon, const QString& title, QWidget* parent,
                              NotOffered notOffered)
     : Page(parent), notOffered_(notOffered) {

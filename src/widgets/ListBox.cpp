@@ -15,7 +15,6 @@
 
 namespace mortane {
 
-using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kIconSide = 22;

@@ -109,7 +109,7 @@ class ListBox : public RowView {
   [[nodiscard]] bool IsShownWhole(const QRect& row) const;
   void ForgetContents();
   void MeasureContents();
-  int WidestCell(int column);
+  [[nodiscard]] int WidestCell(int column) const;
   void MeasureFolded();
   [[nodiscard]] int FoldedWidthOf(const QModelIndex& cell) const;
   void ShowLines(int lines);

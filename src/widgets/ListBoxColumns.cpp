@@ -48,7 +48,7 @@ void ListBox::MeasureContents() {
 
 // What the delegate asks for takes its time. Of cells with nothing but a text it is asked for the
 // widest texts alone, and many rows have the same type or number.
-int ListBox::WidestCell(int column) {
+int ListBox::WidestCell(int column) const {
   const QFontMetricsF metrics(MeasuringFont());
   QSet<QString> measured;
   std::vector<std::pair<double, QModelIndex>> texts;
