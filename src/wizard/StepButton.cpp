@@ -86,11 +86,6 @@ QSize StepButton::minimumSizeHint() const {
   return {sizeHint().width(), qMax(markSide_, fontMetrics().height()) + 2 * grid::kUnit};
 }
 
-void StepButton::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange) markSide_ = SideOfMark();
-  RailButton::changeEvent(event);
-}
-
 void StepButton::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
   if (rect().contains(event->position().toPoint())) ChooseBy(*event);

@@ -34,7 +34,6 @@ class StepButton : public RailButton {
  protected:
   [[nodiscard]] bool IsCurrent() const override { return state_ == StepState::Current; }
   bool event(QEvent* event) override;
-  void changeEvent(QEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -44,7 +43,7 @@ class StepButton : public RailButton {
   void DrawMark(QPainter& painter) const;
 
   int number_;
-  int markSide_;
+  int markSide_;  // by the font of the application when the button was made, as its text
   StepState state_ = StepState::Off;
   bool last_ = true;
   bool pending_ = false;

@@ -43,6 +43,17 @@ TEST(SetupItems, AreOfferedWhereTheyAreInTheList) {
   }
 }
 
+TEST(SetupItems, StandBelowTheirOptions) {
+  const ItemsRig rig;
+  const auto below = [&rig](const QWidget& list, int mode) {
+    const QAbstractButton& option = *rig.page->optSetupMode->button(mode);
+    EXPECT_EQ(option.x(), list.x()) << mode;
+    return list.y() - option.geometry().bottom() - 1;
+  };
+  EXPECT_EQ(below(*rig.page->ListStandard, 0), 8);
+  EXPECT_EQ(below(*rig.page->ListCustom, 1), 8);
+}
+
 TEST(SetupItems, ListTheNamesOfTheItems) {
   ItemsRig rig;
   ASSERT_FALSE(RowsOf(*rig.page->ListStandard).empty());

@@ -201,6 +201,7 @@ TEST_F(ItemsFile, IsAskedForByTheKeyboard) {
     EXPECT_EQ(events.front(), "mode 2");
     EXPECT_EQ(Lines(events.begin() + 1, events.end()), allOn);
     EXPECT_TRUE(rig.prompts.AllAnswersUsed());
+    EXPECT_FALSE(items.Option(2).isDown()) << key;
   }
 }
 

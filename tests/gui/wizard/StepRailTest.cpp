@@ -8,6 +8,7 @@
 
 #include "gui/app/AppRig.h"
 #include "gui/support/AccessibleTree.h"
+#include "gui/support/FontScope.h"
 #include "widgets/Theme.h"
 #include "wizard/StepButton.h"
 #include "wizard/StepRail.h"
@@ -337,6 +338,17 @@ TEST(StepRail, StandsCloserInALowWindow) {
   QApplication::processEvents();
   EXPECT_LT(rig.rail.button(0)->height(), 40);
   EXPECT_GE(rig.rail.button(0)->height(), rig.rail.button(0)->minimumSizeHint().height());
+}
+
+TEST(StepRail, HasCirclesThatHoldTheirNumbersInALargeFont) {
+  const FontScope large(FontOf(30));
+  StepRail rail;
+  rail.AddStep(IconName::Flag, "A name that is wider than any other");
+  const StepButton& button = *rail.button(0);
+  const int number = QFontMetrics(MarkFont()).horizontalAdvance("10");
+  ASSERT_GT(number + 10, 24) << "the least circle";
+  const int text = button.fontMetrics().horizontalAdvance(button.text());
+  EXPECT_EQ(button.sizeHint().width(), 16 + number + 10 + 12 + 24 + 12 + text + 12);
 }
 
 TEST(StepRail, IsWideEnoughForItsNames) {
