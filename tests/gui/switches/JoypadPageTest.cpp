@@ -273,6 +273,23 @@ TEST_F(LateJoypad, WithTooManyButtonsSaysWhyThePageIsEmptyUntilOneFits) {
   }
 }
 
+TEST_F(LateJoypad, TellsWhyItIsEmptyInLinesAsWideAsItsList) {
+  Open(22);
+  page->resize(700, 480);
+  QApplication::processEvents();
+  const QLabel& why = *page->whyEmpty;
+  EXPECT_EQ(why.x(), page->ListView1->x());
+  EXPECT_EQ(why.width(), page->ListView1->width());
+  EXPECT_LT(why.width(), why.fontMetrics().horizontalAdvance(why.text()));
+  EXPECT_GE(why.height(), why.heightForWidth(why.width()));
+  EXPECT_LT(why.geometry().bottom(), page->ListView1->y());
+}
+
+TEST_F(JoypadPage, HasListsOfOneWidth) {
+  Open(1);
+  EXPECT_NEAR(page->ListView1->width(), page->lstSwFunc->width(), 1);
+}
+
 TEST_F(LateJoypad, AWindowThatComesBackFromTheTaskBarAsksNothing) {
   Open(1);
   const int before = joystick.capabilityCalls;

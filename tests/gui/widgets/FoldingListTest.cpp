@@ -50,6 +50,41 @@ TEST_F(FoldingList, IsScrolledWhereTwoLinesAreTooWideAsWell) {
   EXPECT_GT(list->horizontalScrollBar()->maximum(), 0);
 }
 
+struct Break {
+  const char* text;
+  const char* longerLine;
+};
+
+TEST_F(FoldingList, BreaksATextWhereTheLongerOfTwoLinesIsShortest) {
+  for (const Break& row : {
+           Break{"Condenser Aperture Stop UP/DOWN", "Condenser Aperture"},
+           Break{"A wordlongerthanallothers", "wordlongerthanallothers"},
+           Break{"Two  wordlongerthanallothers", "wordlongerthanallothers"},
+           Break{" wordlongerthanallothers", "wordlongerthanallothers"},
+           Break{"onewordthatcannotbebroken", "onewordthatcannotbebroken"},
+       }) {
+    list->clearRows();
+    list->addCells({"Dial", row.text});
+    ShowIn(120);
+    const QModelIndex cell = list->model()->index(0, 1);
+    const QFontMetrics metrics = list->fontMetrics();
+    const int around =
+        list->sizeHintForIndex(cell).width() - metrics.horizontalAdvance(cell.data().toString());
+    EXPECT_EQ(list->header()->sectionSize(1), around + metrics.horizontalAdvance(row.longerLine))
+        << row.text;
+  }
+}
+
+TEST_F(FoldingList, TheFirstColumnMayBeTheOneThatFolds) {
+  list->SetFoldingColumn(0);
+  list->clearRows();
+  list->addCells({"Condenser Aperture Stop UP/DOWN", "Dial 1"});
+  ShowIn(2 * wide);
+  const int oneLine = RowHeight();
+  ShowIn(wide - 60);
+  EXPECT_EQ(RowHeight(), oneLine + list->fontMetrics().lineSpacing());
+}
+
 TEST_F(FoldingList, AShorterTextIsShownInOneLineAgain) {
   ShowIn(wide - 60);
   const int folded = RowHeight();
