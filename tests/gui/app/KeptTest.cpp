@@ -152,6 +152,7 @@ TEST_F(Kept, EditsOfAProcessThatDiedAreOfferedAndOpened) {
   QStringList offered;
   for (const QAction* action : note().ButtonKept->menu()->actions()) offered << action->text();
   EXPECT_EQ(offered, QStringList({"Open", "Let Go"}));
+  EXPECT_EQ(note().ButtonKept->popupMode(), QToolButton::InstantPopup);
   QApplication::processEvents();
   const QToolButton& button = *note().ButtonKept;
   EXPECT_EQ(button.size(), button.sizeHint());

@@ -68,9 +68,9 @@ TEST(BoxText, IsSelectedAndCopiedByKeyboard) {
   }
 }
 
-TEST(BoxText, CanBeSelectedByTheMouse) {
+TEST(BoxText, CanBeSelectedByTheMouseAndByTheKeyboard) {
   Show("DIA Lamp", [](QMessageBox& box) {
-    EXPECT_TRUE(box.textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    EXPECT_EQ(box.textInteractionFlags(), Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   });
 }
 

@@ -118,6 +118,47 @@ TEST_F(Pending, IsNothingWhereNoMicroscopeIsConnected) {
   EXPECT_TRUE(changes.Find().empty());
 }
 
+TEST_F(Pending, ForgetsTheNameOfAMicroscopeThatIsGone) {
+  PendingChanges changes(GetK70());
+  changes.TakeReceived();
+  EXPECT_EQ(changes.Device(), "Harbour");
+  EXPECT_NE(changes.Held(), nullptr);
+  changes.Forget();
+  EXPECT_EQ(changes.Device(), "");
+  EXPECT_EQ(changes.Held(), nullptr);
+  GetK70().SystemName = "Bay 4";
+  EXPECT_TRUE(changes.Find().empty());
+}
+
+TEST_F(Pending, StandsInTheOrderOfThePagesAndOfTheFile) {
+  PendingChanges changes(GetK70());
+  changes.TakeReceived();
+  for (const std::int32_t address : {3, 1, 2}) {
+    const std::int32_t code = GetK70().curNosepiece.code(address);
+    GetK70().curNosepiece.code(address, code == 7 ? 8 : 7);
+  }
+  GetK70().SystemName = "Bay 4";
+  std::vector<std::string> found;
+  for (const ItemChange& change : changes.Find())
+    found.push_back(change.to.key.section + " " + change.to.key.position);
+  EXPECT_EQ(found,
+            (std::vector<std::string>{"SYSTEM ", "NOSEPIECE 1", "NOSEPIECE 2", "NOSEPIECE 3"}));
+}
+
+struct SectionPage {
+  const char* section;
+  std::size_t page;
+};
+
+TEST(PageOfAnItem, IsThatOfItsSection) {
+  for (const SectionPage& row :
+       {SectionPage{"SYSTEM", 0}, SectionPage{"NOSEPIECE", 1}, SectionPage{"FILTER", 2},
+        SectionPage{"CONDENSER", 3}, SectionPage{"INTERLOCK", 4}, SectionPage{"CONTROL", 5},
+        SectionPage{"SWITCH", 5}, SectionPage{"TACTOR", 5}}) {
+    EXPECT_EQ(PageOf({row.section, "", "", ""}), row.page) << row.section;
+  }
+}
+
 TEST_F(Pending, IsNotLookedForInATextThatNoSettingsFileHolds) {
   GetK70().SystemName = std::string("a\x01z");
   EXPECT_EQ(Count(), "");
