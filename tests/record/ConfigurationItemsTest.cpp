@@ -9,6 +9,8 @@
 
 #include "drives/clsControlOther.h"
 #include "drives/clsControlZDrive.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOther.h"
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsLimitation.h"
 #include "record/ModelItems.h"
@@ -137,6 +139,29 @@ TEST(ItemsOfTheModel, HoldTheNumberThatTheFileHasNoWordFor) {
     EXPECT_EQ(item.exact, exact) << key;
     EXPECT_EQ(IsKnown(item), *exact != '\0') << key;
   }
+}
+
+TEST(ItemsOfTheModel, HoldTheNumbersOfEachRuleAndOfEachInterlock) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  clsK70& k70 = rig.k70;
+  k70.curLimit.curImmersion = 9;
+  k70.curLimit.curIncrease = 3;
+  k70.ILObservation.Status(accessory::kNosepiece, 4);
+  k70.ILObservation.Status(accessory::kCondenser, 5);
+  k70.ILOther.Status(accessory::kXYStage, 6);
+  k70.ILOther.LightPathStatus(accessory::kEpiFieldStop, 7);
+  k70.ILOther.ZoomStatus(accessory::kDiaFieldStop, 8);
+  const std::pair<const char*, const char*> rows[] = {
+      {"NOSEPIECE LIMIT WaferImmersion CODE", "9"},
+      {"NOSEPIECE LIMIT LowerMagnification CODE", "3"},
+      {"INTERLOCK OBSERVATION Nosepiece CODE", "4"},
+      {"INTERLOCK OBSERVATION Condenser CODE", "5"},
+      {"INTERLOCK OTHER XYStage CODE", "6"},
+      {"INTERLOCK LIGHTPATH EpiFStop CODE", "7"},
+      {"INTERLOCK ZOOM DiaFStop CODE", "8"},
+  };
+  for (const auto& [key, exact] : rows) EXPECT_EQ(ItemAt(k70, key).exact, exact) << key;
 }
 
 // 2.54 and 2.5 are the same code text, and other values for the controller.

@@ -130,6 +130,15 @@ TEST_F(Pending, ForgetsTheNameOfAMicroscopeThatIsGone) {
   EXPECT_TRUE(changes.Find().empty());
 }
 
+TEST_F(Pending, HoldsNothingOfAMicroscopeWhoseNameNoSettingsFileHolds) {
+  PendingChanges changes(GetK70());
+  changes.TakeReceived();
+  GetK70().SystemName = std::string("a\x01z");
+  changes.TakeReceived();
+  EXPECT_EQ(changes.Held(), nullptr);
+  EXPECT_FALSE(changes.HeldState().has_value());
+}
+
 TEST_F(Pending, StandsInTheOrderOfThePagesAndOfTheFile) {
   PendingChanges changes(GetK70());
   changes.TakeReceived();
@@ -154,7 +163,7 @@ TEST(PageOfAnItem, IsThatOfItsSection) {
   for (const SectionPage& row :
        {SectionPage{"SYSTEM", 0}, SectionPage{"NOSEPIECE", 1}, SectionPage{"FILTER", 2},
         SectionPage{"CONDENSER", 3}, SectionPage{"INTERLOCK", 4}, SectionPage{"CONTROL", 5},
-        SectionPage{"SWITCH", 5}, SectionPage{"TACTOR", 5}}) {
+        SectionPage{"SWITCH", 5}, SectionPage{"TACTOR", 5}, SectionPage{"ANOTHER", 0}}) {
     EXPECT_EQ(PageOf({row.section, "", "", ""}), row.page) << row.section;
   }
 }
