@@ -153,6 +153,8 @@ TEST_F(Kept, EditsOfAProcessThatDiedAreOfferedAndOpened) {
   for (const QAction* action : note().ButtonKept->menu()->actions()) offered << action->text();
   EXPECT_EQ(offered, QStringList({"Open", "Let Go"}));
   EXPECT_EQ(note().ButtonKept->popupMode(), QToolButton::InstantPopup);
+  EXPECT_EQ(note().ButtonKept->focusPolicy(), Qt::TabFocus);
+  EXPECT_TRUE(note().ButtonKept->autoRaise()) << "flat like the note beside it";
   QApplication::processEvents();
   const QToolButton& button = *note().ButtonKept;
   EXPECT_EQ(button.size(), button.sizeHint());
