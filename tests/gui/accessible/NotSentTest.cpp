@@ -165,6 +165,14 @@ TEST_P(NotSentOn, TheDescriptionAndTheToolTipSayIt) {
   EXPECT_FALSE(ToolTip().contains("not sent"));
 }
 
+TEST_P(NotSentOn, ItsToolTipGoesBeforeThatOfItsPage) {
+  s.window.widget().setToolTip("Objectives");
+  for (QWidget* widget : {static_cast<QWidget*>(s.list), static_cast<QWidget*>(s.turret)})
+    widget->setToolTip("Objectives");
+  Set(true);
+  EXPECT_TRUE(ToolTip().endsWith(GetParam().words)) << ToolTip().toStdString();
+}
+
 INSTANTIATE_TEST_SUITE_P(Dots, NotSentOn, testing::ValuesIn(kDots),
                          [](const auto& row) { return std::string(row.param.name); });
 

@@ -50,6 +50,31 @@ TEST_F(FoldingList, IsScrolledWhereTwoLinesAreTooWideAsWell) {
   EXPECT_GT(list->horizontalScrollBar()->maximum(), 0);
 }
 
+// As high as its rows.
+class HighList : public ListBox {
+ public:
+  using ListBox::ListBox;
+  [[nodiscard]] QSize sizeHint() const override {
+    return {ListBox::sizeHint().width(), 300 + rowCount() * sizeHintForRow(0)};
+  }
+};
+
+TEST(FoldingInALayout, GetsTheRoomForItsSecondLines) {
+  TestWindow window;
+  auto* list = window.Add<HighList>();
+  list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  list->SetColumns({{"Switch"}, {"Function"}});
+  list->SetFoldingColumn(1);
+  list->addCells({"Dial 1", "Condenser Aperture Stop UP/DOWN"});
+  window.widget().resize(800, 600);
+  window.Show();
+  QApplication::processEvents();
+  const int oneLine = list->height();
+  window.widget().resize(220, 600);
+  QApplication::processEvents();
+  EXPECT_EQ(list->height(), oneLine + list->fontMetrics().lineSpacing());
+}
+
 struct Break {
   const char* text;
   const char* longerLine;

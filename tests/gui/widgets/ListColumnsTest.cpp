@@ -95,6 +95,16 @@ TEST_F(ColumnsOfAList, HaveRoomForTheirWidestCell) {
   expectRoom("an icon");
 }
 
+TEST_F(ColumnsOfAList, AreAsWideAsTheirNewHeads) {
+  list->SetColumns({{"Name of the filter cube"}, {"Name of the exciter"}, {"Barrier"}, {"Type"}});
+  window.widget().resize(300, 300);
+  QApplication::processEvents();
+  for (const int column : {0, 1, 2, 3}) {
+    EXPECT_GE(list->header()->sectionSize(column), list->header()->sectionSizeHint(column))
+        << column;
+  }
+}
+
 TEST_F(ColumnsOfAList, OneAloneIsNeverScrolledSideways) {
   EXPECT_EQ(list->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
   list->SetColumns({{"Name"}});

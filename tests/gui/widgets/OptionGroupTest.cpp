@@ -130,6 +130,44 @@ TEST_F(OptionGroupTest, ArrowsPassOverWhatCannotBeUsed) {
   EXPECT_EQ(group->selected(), 2);
 }
 
+struct AsideRow {
+  QPoint along;  // from each to the next
+  QPoint aside;  // of those after the first
+  bool isLine;
+};
+
+// The group alone says why an option was passed over; the toolkit, which goes by places, does not.
+TEST(OptionLine, MayHaveItsOptionsEightPixelsAside) {
+  for (const AsideRow& row : {
+           AsideRow{{0, 60}, {8, 0}, true},
+           AsideRow{{0, 60}, {-8, 0}, true},
+           AsideRow{{0, 60}, {9, 0}, false},
+           AsideRow{{150, 0}, {0, 8}, true},
+           AsideRow{{150, 0}, {0, -8}, true},
+           AsideRow{{150, 0}, {0, 9}, false},
+       }) {
+    QWidget window;
+    window.resize(500, 300);
+    OptionGroup group(&window);
+    for (int i = 0; i < 3; ++i) {
+      const QPoint aside = i > 0 ? row.aside : QPoint();
+      group.addOption(QString::number(i), &window)
+          ->setGeometry(QRect(QPoint(50, 50) + i * row.along + aside, QSize(100, 24)));
+    }
+    group.button(1)->setEnabled(false);
+    group.button(1)->setToolTip("Not on this stage.");
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QToolTip::hideText();
+    group.select(0);
+    group.button(0)->setFocus();
+    QTest::keyClick(group.button(0), Qt::Key_Down);
+    EXPECT_EQ(QToolTip::text() == "1: Not on this stage.", row.isLine)
+        << row.aside.x() << ' ' << row.aside.y();
+  }
+}
+
 TEST_F(OptionGroupTest, HomeAndEndChooseTheFirstAndTheLast) {
   group->select(1);
   group->button(1)->setFocus();

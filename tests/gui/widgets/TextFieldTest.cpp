@@ -272,6 +272,9 @@ TEST_F(TextFieldTest, ThePlaceholderShowsInTheColourOfCaptionsAndATextDoesNot) {
   EXPECT_EQ(color(), usual.color(QPalette::Text)) << "no placeholder yet";
   field->SetPlaceholder(kDashes);
   EXPECT_EQ(color(), usual.color(QPalette::PlaceholderText));
+  EXPECT_EQ(field->palette().color(QPalette::Inactive, QPalette::Text),
+            usual.color(QPalette::PlaceholderText))
+      << "in a window behind another";
   EXPECT_EQ(field->palette().color(QPalette::Disabled, QPalette::Text),
             usual.color(QPalette::Disabled, QPalette::Text));
   QTest::keyClick(field, Qt::Key_A);

@@ -169,6 +169,21 @@ TEST(HelpRoom, IsMeasuredAnewWhenFontOrStyleChangeAndNotOtherwise) {
   }
 }
 
+TEST(HelpRoom, HoldsATextThatALargerFontBreaksIntoLines) {
+  const QString text = u"word "_s.repeated(20);
+  HelpLine line;
+  QFont font = line.font();
+  line.SetTexts({text});
+  line.resize(QFontMetrics(font).horizontalAdvance(text) + 100, 10);
+  const int oneLine = line.height();
+  font.setPointSizeF(font.pointSizeF() * 4);
+  line.setFont(font);
+  line.Show(text);
+  EXPECT_GT(line.height(), oneLine);
+  EXPECT_GE(line.height() - 12,
+            line.LabelHelp->heightForWidth(line.width() - 50 - grid::kPageMargin));
+}
+
 TEST(HelpRoom, LeavesItsMarginsRoundTheText) {
   HelpLine line;
   line.SetTexts({"short"});

@@ -100,6 +100,21 @@ TEST_F(WizardKept, IsOfferedAndOpenedByKeys) {
   EXPECT_EQ(UnsentFiles(), 1) << "kept anew";
 }
 
+TEST_F(WizardKept, StandsBetweenTheStepAndTheButtons) {
+  StartAfterDeath();
+  QApplication::processEvents();
+  const auto placeOf = [this](QWidget& widget) {
+    return QRect(widget.mapTo(form.get(), QPoint()), widget.size());
+  };
+  const QRect page = placeOf(*form->FrameControl->parentWidget()->parentWidget());
+  const QRect buttons = placeOf(*form->ButtonNext->parentWidget());
+  const QRect kept = placeOf(button());
+  EXPECT_EQ(kept.top(), page.bottom() + 1);
+  EXPECT_EQ(kept.bottom(), buttons.top() - 1);
+  EXPECT_EQ(kept.left(), page.left() + 20);
+  EXPECT_EQ(kept.width(), button().sizeHint().width());
+}
+
 TEST_F(WizardKept, IsLetGoByKeys) {
   StartAfterDeath();
   ChooseByKeys({Qt::Key_Up, Qt::Key_Return});
