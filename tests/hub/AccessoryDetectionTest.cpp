@@ -3,7 +3,10 @@
 
 #include <array>
 
+#include "condensers/clsCondenser.h"
+#include "filters/clsFilter.h"
 #include "hub/AccessoryTable.h"
+#include "objectives/clsNosepiece.h"
 #include "support/Rig.h"
 
 namespace mortane::test {
@@ -163,6 +166,17 @@ TEST(AccessoryDetection, AnAccessoryThatFailsKeepsWhatCameBefore) {
   EXPECT_EQ(rig.k70.IsMounted(accessory::kFilterCube), 0);
   EXPECT_EQ(rig.k70.IsMounted(accessory::kDiaFieldStop), 0);
   EXPECT_EQ(rig.k70.IsMounted(accessory::kNosepiece), 0);
+}
+
+TEST(AccessoryDetection, AfterAFailureTheTurretsDetectedSoFarAreCounted) {
+  Rig rig("Harbour");
+  rig.faults.Add({"FilterCubeDevice.Position.IsReadOnly"});
+  rig.prompts.ExpectBox("*** CheckAccessories Error!!(80004005)", box::kOk);
+  EXPECT_TRUE(rig.k70.Connect(1));
+  EXPECT_EQ(rig.k70.curCondenser.Count, 7);
+  EXPECT_EQ(rig.k70.curFilter.Count, 0);
+  EXPECT_EQ(rig.k70.curNosepiece.Count, 0);
+  EXPECT_EQ(rig.journal.Lines().back(), "CondenserDevice.Positions.Count -> 7");
 }
 
 TEST(AccessoryDetection, EachConnectionStartsAnew) {

@@ -5,7 +5,12 @@
 #include <array>
 
 #include "common/Numbers.h"
+#include "condensers/clsCondenser.h"
 #include "controller/ControllerError.h"
+#include "drives/clsControlXYDrive.h"
+#include "drives/clsControlZDrive.h"
+#include "filters/clsFilter.h"
+#include "objectives/clsNosepiece.h"
 #include "support/Rig.h"
 
 namespace mortane::test {
@@ -154,6 +159,93 @@ TEST(Connect, ATurretCountThatFailsAnswersTrueWithNothingConnected) {
   }
 }
 
+// Nosepiece, both drives, filter cubes, condenser.
+std::vector<std::int32_t> Counts(const clsK70& k70) {
+  return {k70.curNosepiece.Count, k70.CXYDrive.NoseCount, k70.CZDrive.NoseCount,
+          k70.curFilter.Count, k70.curCondenser.Count};
+}
+
+TEST(Connect, ATurretCountThatFailsLeavesThoseBehindItAsTheyWere) {
+  struct Row {
+    const char* device;
+    std::vector<std::int32_t> counts;
+  };
+  for (const Row& row :
+       {Row{"NosepieceDevice", {6, 6, 6, 6, 7}}, Row{"FilterCubeDevice", {5, 5, 5, 6, 7}},
+        Row{"CondenserDevice", {5, 5, 5, 4, 7}}}) {
+    Rig rig("Harbour");
+    rig.ConnectAndReceive();
+    rig.instrument().nosepiece.resize(5);
+    rig.instrument().filterCubes.resize(4);
+    rig.instrument().condensers.resize(3);
+    rig.faults.Add({std::string(row.device) + ".Positions.Count"});
+    EXPECT_TRUE(rig.k70.Connect(1));
+    EXPECT_EQ(rig.k70.lConnectDevice, -1);
+    EXPECT_EQ(Counts(rig.k70), row.counts) << row.device;
+    for (std::int32_t i = 1; i <= 14; ++i) EXPECT_EQ(rig.k70.IsMounted(i), 2) << i;
+  }
+}
+
+TEST(Connect, ADeviceThatDoesNotAnswerLeavesWhatIsKnownOfTheOneBefore) {
+  Rig rig(List({"Quay", "Pair", "Deck"}));
+  ASSERT_TRUE(rig.k70.Connect(1));
+  rig.k70.Disconnect();
+  rig.simulated.bench().instruments[2].available = 0;
+  EXPECT_FALSE(rig.k70.Connect(2));
+  EXPECT_EQ(rig.k70.SystemName, "Pair");
+  EXPECT_EQ(rig.k70.curType, 3);
+  EXPECT_TRUE(rig.k70.Controller(1));
+  EXPECT_EQ(rig.k70.IsMounted(accessory::kZFocusDrive), kSensorOnly);
+  EXPECT_EQ(Counts(rig.k70), (std::vector<std::int32_t>{7, 7, 7, 7, 5}));
+}
+
+TEST(Connect, AnotherConnectionForgetsTheOneBefore) {
+  Rig rig(List({"Quay", "Pair", "Deck"}));
+  ASSERT_TRUE(rig.k70.Connect(1));
+  ASSERT_TRUE(rig.k70.Connect(2));
+  EXPECT_EQ(rig.k70.lConnectDevice, 2);
+  EXPECT_EQ(rig.k70.SystemName, "Deck");
+  EXPECT_EQ(rig.k70.curType, 5);
+  EXPECT_FALSE(rig.k70.Controller(1));
+  EXPECT_EQ(rig.k70.IsMounted(accessory::kZFocusDrive), kNotMounted);
+  EXPECT_EQ(Counts(rig.k70), (std::vector<std::int32_t>{6, 6, 6, 6, 0}));
+}
+
+TEST(Connect, ANewRootThatCannotBeMadeGivesFalseAndLeavesNone) {
+  Rig rig(List({"Quay", "Harbour", "Lantern"}));
+  rig.faults.Add({"Create(Microscope)"});
+  EXPECT_FALSE(rig.k70.Connect(1));
+  EXPECT_EQ(rig.k70.lConnectDevice, -1);
+  EXPECT_TRUE(rig.k70.Mic.IsEmpty());
+  EXPECT_EQ(rig.simulated.ReleasedRoots(), rig.simulated.CreatedRoots());
+}
+
+// What a failure of a call leads to hangs on the step that makes it.
+TEST(Connect, EachControllerCallThatFailsHasTheOutcomeOfItsStep) {
+  // The list and its count; the list, an item and CurrentDevice; the list, an item and Connect.
+  constexpr std::size_t kCallsToConnect = 8;
+  // The list, its count, an item and Name.
+  constexpr std::size_t kCallsToName = kCallsToConnect + 4;
+  // For each turret the device, its positions and their count.
+  constexpr std::size_t kCallsOfCounts = 9;
+  Rig whole("Harbour");
+  ASSERT_TRUE(whole.k70.Connect(1));
+  const std::size_t calls = whole.journal.CallCount();
+  for (std::size_t k = 1; k <= calls; ++k) {
+    Rig rig("Harbour");
+    rig.prompts.AcceptAnyBox();
+    rig.faults.FailCall(k);
+    const bool connected = rig.k70.Connect(1);
+    EXPECT_EQ(rig.faults.Hits(), 1U) << k;
+    EXPECT_EQ(connected, k > kCallsToConnect) << k;
+    const bool lost = k <= kCallsToConnect || k > calls - kCallsOfCounts;
+    EXPECT_EQ(rig.k70.lConnectDevice, lost ? -1 : 1) << k;
+    const std::string operation = k <= kCallsToName ? "DeviceName" : "CheckAccessories";
+    const std::string box = "box 0: *** " + operation + " Error!!(80004005)";
+    EXPECT_EQ(rig.prompts.Log(), lost ? std::vector<std::string>{} : std::vector{box}) << k;
+  }
+}
+
 TEST(Connect, ATurretWithoutAddressesCountsAsNotMounted) {
   Rig rig("Hollow");
   rig.Connect();
@@ -198,6 +290,19 @@ TEST(Disconnect, AFailureIsShownAndKeepsTheIndexButNotTheName) {
   rig.k70.Disconnect();
   EXPECT_EQ(rig.k70.lConnectDevice, 1);
   EXPECT_TRUE(other.Create("MortaneConnection-393232"));
+}
+
+TEST(Disconnect, CanBeTriedAgainAfterAFailureAndDoesNothingASecondTime) {
+  Rig rig("Harbour");
+  rig.Connect();
+  rig.faults.Add({"DeviceList.Item.Disconnect", 1});
+  rig.prompts.ExpectBox("*** Disconnect Error!!(80004005)", box::kOk);
+  rig.k70.Disconnect();
+  rig.journal.Clear();
+  rig.k70.Disconnect();
+  rig.k70.Disconnect();
+  EXPECT_EQ(rig.k70.lConnectDevice, -1);
+  EXPECT_EQ(rig.journal.Lines(), std::vector<std::string>{"DeviceList.Item(1).Disconnect()"});
 }
 
 struct VersionCase {

@@ -123,6 +123,30 @@ TEST(DeviceLock, TheNameIsMadeOfTheHexadecimalCodesOfTheIndex) {
   EXPECT_TRUE(rig.k70.CreateConnectionName("913"));
 }
 
+// Notes the names that it is opened with.
+class NotedMutex : public NamedMutex {
+ public:
+  explicit NotedMutex(std::vector<std::string>& names) : notes_(names) {}
+  Opened Open(std::string_view name) override {
+    notes_.emplace_back(name);
+    return NamedMutex::Open(name);
+  }
+
+ private:
+  std::vector<std::string>& notes_;
+};
+
+TEST(DeviceLock, CodesAreUpperCaseWithoutLeadingZeros) {
+  std::vector<std::string> names;
+  RigLibrary library(benches::Named("Quay"));
+  clsK70 k70(library.library, library.prompts, [&] { return std::make_unique<NotedMutex>(names); });
+  for (const char* name : {"1", "12", "jO", "\x05", ""})
+    EXPECT_TRUE(k70.CreateConnectionName(name));
+  EXPECT_EQ(names, (std::vector<std::string>{"MortaneConnection-31", "MortaneConnection-3132",
+                                             "MortaneConnection-6A4F", "MortaneConnection-5",
+                                             "MortaneConnection-"}));
+}
+
 TEST(DeviceLock, IsFreeAgainAfterDeleteConnectionName) {
   Rig rig("Quay");
   clsMutex other;

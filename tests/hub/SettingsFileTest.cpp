@@ -109,6 +109,7 @@ TEST_F(SettingsFile, ARootBehindCommentsAndInstructionsIsFound) {
 
 TEST_F(SettingsFile, AnotherRootGivesItsBoxFromBothReaders) {
   const std::string path = folder.Write("other.xml", "<Settings><SYSTEM/></Settings>");
+  rig.k70.FileItem(3, -1);
   rig.prompts.ExpectBox(path + " Other Format", box::kOk);
   rig.k70.ReadXMLItems(path);
   rig.prompts.ExpectBox(path + " Other Format", box::kOk);
@@ -134,6 +135,14 @@ TEST_F(SettingsFile, AnElementWithoutANameKeepsTheName) {
 TEST_F(SettingsFile, AnEmptyNameIsTaken) {
   Open(folder.Write("empty.xml", NameFile("")));
   EXPECT_EQ(rig.k70.SystemName, "");
+}
+
+TEST_F(SettingsFile, OfSeveralNamesEachIsLookedAt) {
+  rig.prompts.ExpectBox("SystemName = AAAAAAAAAAAAAAA", box::kOk, Answer::Ok, "XML Read");
+  Open(folder.Write("names.xml",
+                    "<Setup><SYSTEM><QHRMNAME NAME=\"One\" Name=\"Two\"/>"
+                    "<QHRMNAME name=\"Three\" NAME=\"AAAAAAAAAAAAAAA\"/></SYSTEM></Setup>"));
+  EXPECT_EQ(rig.k70.SystemName, "Three");
 }
 
 TEST_F(SettingsFile, ANameOfFourteenCharactersIsTaken) {
@@ -182,12 +191,14 @@ TEST_F(SettingsFile, UnknownElementsInSectionsArePassedOverInSilence) {
   EXPECT_EQ(Model(), before);
 }
 
-TEST_F(SettingsFile, ASectionThatIsNotWantedIsNotRead) {
-  const std::string path = folder.Write("unwanted.xml", NameFile("New"));
+TEST_F(SettingsFile, ASectionIsReadUnlessItsFlagIsZero) {
+  const std::string path = folder.Write("flag.xml", NameFile("New"));
   rig.k70.ReadXMLItems(path);
-  rig.k70.FileItem(0, 0);
-  rig.k70.ReadXML(path);
-  EXPECT_EQ(rig.k70.SystemName, "Before");
+  for (const std::int16_t flag : {std::int16_t{0}, std::int16_t{1}, std::int16_t{-2}}) {
+    rig.k70.FileItem(0, flag);
+    rig.k70.ReadXML(path);
+    EXPECT_EQ(rig.k70.SystemName, flag == 0 ? "Before" : "New") << flag;
+  }
 }
 
 TEST_F(SettingsFile, WithNoSectionWantedABadFileIsStillTold) {

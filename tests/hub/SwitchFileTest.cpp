@@ -153,6 +153,12 @@ TEST_F(SwitchFile, OfTheHandControllerWithTwoSectionsIsReadTwice) {
   EXPECT_EQ(rig.k70.curTactor.HandleMode, 1);
 }
 
+TEST_F(SwitchFile, OfTheHandControllerMayHaveItsRootInLowerCase) {
+  rig.k70.Tactor_ReadXML(folder.Write(
+      "lower.xml", R"(<setup><TACTOR><SWITCH><SETTING HANDLE="1"/></SWITCH></TACTOR></setup>)"));
+  EXPECT_EQ(rig.k70.curTactor.HandleMode, 1);
+}
+
 TEST_F(SwitchFile, OfTheHandControllerOpensAsASettingsFileOfOneSection) {
   ChangeTactor(rig.k70);
   const std::string path = folder.Path("tactor.xml");

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "common/Failure.h"
+#include "condensers/clsDbCondenser.h"
 #include "controller/ControllerError.h"
 #include "support/Rig.h"
 #include "support/Sample.h"
@@ -229,10 +230,24 @@ TEST(Modify, ANameThatFailsGoesToTheCaller) {
   EXPECT_THROW(rig.k70.Modify(), controller::ControllerError);
 }
 
-// Every controller call that a transfer makes fails in turn: nothing leaves the transfer, and
-// all that it says stands in one critical box.
+TEST(Modify, GivesTheDifferencesAfterTheBoxOfItsFailures) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  rig.k70.SystemName = "Other";
+  rig.k70.dbcon.Name(141, "Slot");
+  rig.faults.Add({"AccessoryDatabase.FilterCubes"});
+  rig.faults.Add({"get NDFilterDevice.OffsetCode"});
+  rig.prompts.ExpectBox(
+      "Filter Cube Optional Cube(LIB:80004005)\r\nInterLock Offset (LIB:80004005)", box::kCritical,
+      Answer::Ok, "Modify");
+  EXPECT_EQ(rig.k70.Modify(), "SystemName:Other\r\nOptional Condenser[1] Slot");
+}
 
-void FailEachCall(const std::string& caption, const std::function<void(clsK70&)>& transfer) {
+// Every controller call that a transfer makes fails in turn: nothing leaves the transfer, and
+// all that it says stands in one critical box. Calls before the one numbered `first` are left out.
+
+void FailEachCall(const std::string& caption, const std::function<void(clsK70&)>& transfer,
+                  std::size_t first = 1) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
   rig.prompts.AcceptAnyBox();
@@ -248,6 +263,7 @@ void FailEachCall(const std::string& caption, const std::function<void(clsK70&)>
   const std::size_t calls = rig.journal.CallCount();
   ASSERT_GT(calls, 0U);
   for (const std::size_t k : SampleOf(calls, 7)) {
+    if (k < first) continue;
     runFromTheStart();
     rig.faults.FailCall(k);
     transfer(rig.k70);
@@ -266,6 +282,13 @@ TEST(Receive, EachControllerCallThatFailsIsReportedOnce) {
 
 TEST(Send, EachControllerCallThatFailsIsReportedOnce) {
   FailEachCall("Send", [](clsK70& k70) { k70.Send(); });
+}
+
+TEST(Modify, EachControllerCallOfAUnitThatFailsIsReportedOnce) {
+  const std::size_t first = 4;  // behind the device list, its item and the name
+  FailEachCall(
+      "Modify", [](clsK70& k70) { EXPECT_TRUE(k70.Modify().starts_with("SystemName:Changed")); },
+      first);
 }
 
 TEST(UnitOperation, GivesTheUnitsReport) {
