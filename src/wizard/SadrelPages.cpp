@@ -3,7 +3,6 @@
 #include <QVBoxLayout>
 
 #include "app/MakePages.h"
-#include "app/SwitchTabs.h"
 #include "drives/ControlFocusDriveCtl.h"
 #include "drives/ControlOtherCtl.h"
 #include "drives/ControlXYStageCtl.h"
@@ -100,11 +99,15 @@ SadrelControlTactorSwitch::SadrelControlTactorSwitch(clsK70& k70, Prompts& promp
   TactorSwitchSettingCtl1.Plan(
       {.make = [&k70, &prompts] { return MakeTactorSwitches(k70, prompts); },
        .load = ChangesNothing});
-  SetSections({{u"K70 Switch"_s, SwitchSettingCtl1, [&k70] { return FindSwitchTabs(k70).k70; },
-                KeepAsLoaded},
-               {u"Tactor Switch"_s, TactorSwitchSettingCtl1,
-                [&k70] { return FindSwitchTabs(k70).tactor; }, KeepAsLoaded}},
+  SetSections({{u"K70 Switch"_s, SwitchSettingCtl1, [this] { return tabs_.k70; }, KeepAsLoaded},
+               {u"Tactor Switch"_s, TactorSwitchSettingCtl1, [this] { return tabs_.tactor; },
+                KeepAsLoaded}},
               {1, 0});
+}
+
+void SadrelControlTactorSwitch::LoadData() {
+  tabs_ = FindSwitchTabs(k70_);
+  ContainerPage::LoadData();
 }
 
 void SadrelControlTactorSwitch::SaveData() {

@@ -2,6 +2,7 @@
 // see.
 #pragma once
 
+#include "app/SwitchTabs.h"
 #include "widgets/ContainerPage.h"
 #include "widgets/Control.h"
 
@@ -83,6 +84,7 @@ class SadrelControlTactorSwitch : public ContainerPage {
  public:
   SadrelControlTactorSwitch(clsK70& k70, Prompts& prompts, QWidget* parent = nullptr);
 
+  void LoadData() override;
   // Kept: both pages are saved where the interlock offsets are enabled.
   void SaveData() override;
 
@@ -92,6 +94,7 @@ class SadrelControlTactorSwitch : public ContainerPage {
 
  private:
   const clsK70& k70_;
+  SwitchTabs tabs_;  // as the last loading found them
 };
 
 }  // namespace mortane

@@ -7,10 +7,15 @@
 #include "drives/ControlOtherCtl.h"
 #include "drives/ControlXYStageCtl.h"
 #include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
 #include "drives/clsControlZDrive.h"
+#include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
+#include "switches/ReportList.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 #include "widgets/Card.h"
 #include "widgets/ListBox.h"
 #include "widgets/OptionGroup.h"
@@ -123,12 +128,30 @@ TEST(FocusStep, PassesOnToTheFocusDrivePage) {
   EXPECT_GE(page.ControlFocusDriveCtl1->optNosepiece->selected(), 0);
 }
 
+TEST(FocusStep, LoadsAndSavesWhatTheFocusDrivePageShows) {
+  PageRig rig("Harbour");
+  rig.k70().CZDrive.Position(1, 77);
+  auto& page = rig.Show(new SadrelControlFocusDriveCtl(rig.k70()));
+  rig.k70().CZDrive.Position(1, 99);
+  page.SaveData();
+  EXPECT_EQ(rig.k70().CZDrive.Position(1), 77);
+}
+
 TEST(StageStep, PassesOnToTheStagePage) {
   PageRig rig("Harbour");
   auto& page = rig.Show(new SadrelControlXYStageCtl(rig.k70()));
   EXPECT_EQ(page.ControlXYStageCtl1->objectName(), "ControlXYStageCtl1");
   page.SetNosePosition();
   EXPECT_GE(page.ControlXYStageCtl1->optNosepiece->selected(), 0);
+}
+
+TEST(StageStep, LoadsAndSavesWhatTheStagePageShows) {
+  PageRig rig("Harbour");
+  rig.k70().CXYDrive.PositionX(1, 77);
+  auto& page = rig.Show(new SadrelControlXYStageCtl(rig.k70()));
+  rig.k70().CXYDrive.PositionX(1, 99);
+  page.SaveData();
+  EXPECT_EQ(rig.k70().CXYDrive.PositionX(1), 77);
 }
 
 struct TabRow {
@@ -164,6 +187,8 @@ TEST_P(SwitchTabsOf, AreShownByTheFirmware) {
   EXPECT_EQ(page.CurrentItem(), row.first);
   EXPECT_EQ(page.SwitchSettingCtl1->isVisible(), row.first == 0);
   EXPECT_EQ(page.TactorSwitchSettingCtl1->isVisible(), row.first == 1);
+  EXPECT_EQ(page.SwitchSettingCtl1->ListView1->rowCount() > 0, row.k70) << "else it is not loaded";
+  EXPECT_EQ(page.TactorSwitchSettingCtl1->ListView1->rowCount() > 0, row.tactor);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -178,6 +203,37 @@ INSTANTIATE_TEST_SUITE_P(
                     TabRow{"HubAlone", "", "V1.3", false, false, false, 0},
                     TabRow{"ControllerAlone", "", "", true, false, false, 0}),
     [](const auto& row) { return std::string(row.param.what); });
+
+TEST(SwitchStep, AsksForEachVersionOnceALoading) {
+  struct Row {
+    const char* bench;
+    Lines asked;
+  };
+  for (const Row& row : {Row{"Quay", {"ControllerVersion(1) -> \"vDEMO\""}},
+                         Row{"Hub", {"ControllerVersion(2) -> \"V1.30\""}}}) {
+    PageRig rig(row.bench);
+    auto& page = rig.Show(new SadrelControlTactorSwitch(rig.k70(), rig.prompts));
+    rig.journal.Clear();
+    page.LoadData();
+    EXPECT_EQ(rig.journal.Lines(), row.asked) << row.bench;
+  }
+}
+
+TEST(SwitchStep, LoadsBothTabsAnewWhicheverIsShown) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(new SadrelControlTactorSwitch(rig.k70(), rig.prompts));
+  for (const int shown : {0, 1}) {
+    page.optSettings->select(shown);
+    const Lines body = RowsOf(*page.SwitchSettingCtl1->ListView1);
+    const Lines hand = RowsOf(*page.TactorSwitchSettingCtl1->ListView1);
+    rig.k70().curSwitch.Func(1, static_cast<std::int16_t>(2 + shown));
+    rig.k70().curTactor.Func(3, static_cast<std::int16_t>(2 + shown));
+    page.LoadData();
+    EXPECT_NE(RowsOf(*page.SwitchSettingCtl1->ListView1), body) << shown;
+    EXPECT_NE(RowsOf(*page.TactorSwitchSettingCtl1->ListView1), hand) << shown;
+    EXPECT_EQ(page.CurrentItem(), 0) << "the first tab is opened again";
+  }
+}
 
 TEST(SwitchStep, NamesItsTabsAndTellsTheirClicks) {
   PageRig rig("Harbour");
