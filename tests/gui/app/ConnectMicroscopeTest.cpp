@@ -98,6 +98,7 @@ TEST_P(SimulatorOption, ConnectsTheSimulatorThoughAMicroscopeIsThere) {
   EXPECT_TRUE(rig.Start({GetParam()}));
   EXPECT_EQ(rig.k70.lConnectDevice, 0);
   EXPECT_EQ(rig.Count("DeviceList.Item(1).Connect"), 0);
+  EXPECT_EQ(rig.Count("DeviceList.Item(1).IsAvailable"), 1) << "for its name alone";
 }
 
 INSTANTIATE_TEST_SUITE_P(AnyCase, SimulatorOption, testing::Values("/SIM", "/sim", "/Sim"));

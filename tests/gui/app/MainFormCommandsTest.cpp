@@ -108,6 +108,21 @@ TEST(CommandKeys, ActOnAClickWithThePlainLeftButtonOnly) {
   EXPECT_EQ(rig.app.CountLog("pointer 11"), 1);
 }
 
+// The picture goes by the press, the act by the release.
+TEST(CommandKeys, GoByTheModifiersOfPressAndReleaseEachForItself) {
+  CommandRig rig;
+  CommandKey& receive = *rig.form().ImageCommand[1];
+  QTest::mousePress(&receive, Qt::LeftButton);
+  EXPECT_TRUE(receive.isPressedLook());
+  QTest::mouseRelease(&receive, Qt::LeftButton, Qt::ShiftModifier);
+  EXPECT_FALSE(receive.isPressedLook());
+  EXPECT_TRUE(rig.app.prompts.Log().empty());
+  QTest::mousePress(&receive, Qt::LeftButton, Qt::ShiftModifier);
+  EXPECT_FALSE(receive.isPressedLook());
+  QTest::mouseRelease(&receive, Qt::LeftButton);
+  EXPECT_EQ(rig.app.CountLog("pointer 11"), 1);
+}
+
 TEST(CommandKeys, LetGoBesideThemDoNothing) {
   CommandRig rig;
   CommandKey& receive = *rig.form().ImageCommand[1];
@@ -276,6 +291,24 @@ TEST(Receive, LoadsAllPagesUnderTheHourglass) {
   EXPECT_TRUE(rig.form().ImageButton[2]->isEnabled()) << "only Select asks again";
 }
 
+TEST(Receive, LeavesAPageButtonThatIsDisabledAsItIs) {
+  CommandRig rig;
+  rig.form().ImageButton[2]->setEnabled(false);
+  rig.form().MenuConnectReceive->trigger();
+  EXPECT_FALSE(rig.form().ImageButton[2]->isEnabled()) << "only Select asks again";
+}
+
+// Of the window itself: the fakes ask nothing.
+TEST(Receive, MakesTheCallsOfTheModelAndNoOther) {
+  CommandRig rig;
+  GetK70().Receive();
+  const Lines calls = rig.app.journal.Lines();
+  ASSERT_FALSE(calls.empty());
+  rig.app.journal.Clear();
+  rig.form().MenuConnectReceive->trigger();
+  EXPECT_EQ(rig.app.journal.Lines(), calls);
+}
+
 TEST(Receive, BringsTheNameBackToTheField) {
   AppRig rig(benches::Named("Harbour"));
   rig.Start();
@@ -294,6 +327,17 @@ TEST(Send, SavesTheVisiblePageSendsAndWaits) {
   EXPECT_EQ(Calls(rig.app.prompts), (Lines{"pointer 11", "wait 3000", "pointer 0", "flush"}));
   ASSERT_FALSE(rig.app.journal.Writes().empty());
   EXPECT_EQ(rig.app.journal.Writes().front(), "SystemName = \"Bay 4\"");
+}
+
+// Nothing is compared before it.
+TEST(Send, MakesTheCallsOfTheModelAndNoOther) {
+  CommandRig rig;
+  GetK70().Send();
+  const Lines calls = rig.app.journal.Lines();
+  ASSERT_FALSE(calls.empty());
+  rig.app.journal.Clear();
+  rig.form().MenuConnectSend->trigger();
+  EXPECT_EQ(rig.app.journal.Lines(), calls);
 }
 
 TEST(Send, DisablesTheWindowFromSavingToTheEndOfTheWait) {

@@ -82,6 +82,18 @@ TEST(Select, ConnectsReceivesAndRefreshesThePages) {
   EXPECT_EQ(Calls(rig.app.prompts), (Lines{"pointer 11", "pointer 0", "flush", "flush"}));
 }
 
+TEST(Select, EnablesAPageThatTheNewDeviceHas) {
+  Bench bench = Microscopes({"Alpha", "Beta", "Gamma"});
+  CommandRig rig(std::move(bench), {"Alpha"});
+  rig.form().ImageButton[2]->setEnabled(false);
+  const WhenShown<SelScopeDlg> person([](SelScopeDlg& dialog) {
+    dialog.List1->setIndex(1);
+    dialog.OkButton->click();
+  });
+  rig.form().MenuConnectSelect->trigger();
+  EXPECT_TRUE(rig.form().ImageButton[2]->isEnabled());
+}
+
 TEST(Select, LetsTheOldDeviceGoBeforeItTakesTheNewOne) {
   SelectRig rig;
   rig.Select(1);

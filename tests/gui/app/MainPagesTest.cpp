@@ -16,8 +16,13 @@ struct PageCase {
   bool enabled;
 };
 
+constexpr std::size_t kObjectivePage = 1;
 constexpr std::size_t kFilterPage = 2;
 constexpr std::size_t kCondenserPage = 3;
+
+void UnfitNosepiece(Bench& bench) {
+  Unfit(bench, accessory::kNosepiece);
+}
 
 void UnfitCubes(Bench& bench) {
   Unfit(bench, accessory::kFilterCube);
@@ -32,7 +37,13 @@ void RemoveBody(Bench& bench) {
 }
 
 TEST(MainPages, AreEnabledByWhatTheMicroscopeHas) {
-  for (const PageCase& given : {PageCase{kFilterPage, "Harbour", nullptr, true},
+  for (const PageCase& given : {PageCase{kObjectivePage, "Harbour", nullptr, true},
+                                PageCase{kObjectivePage, "Harbour", UnfitNosepiece, false},
+                                PageCase{kObjectivePage, "Harbour", RemoveBody, true},
+                                PageCase{kObjectivePage, "Watch", nullptr, true},
+                                PageCase{kFilterPage, "Watch", nullptr, true},
+                                PageCase{kCondenserPage, "Watch", nullptr, true},
+                                PageCase{kFilterPage, "Harbour", nullptr, true},
                                 PageCase{kFilterPage, "Harbour", UnfitCubes, false},
                                 PageCase{kFilterPage, "Harbour", RemoveBody, true},
                                 PageCase{kCondenserPage, "Harbour", nullptr, true},
@@ -46,6 +57,10 @@ TEST(MainPages, AreEnabledByWhatTheMicroscopeHas) {
     rig.ConnectAndReceive();
     EXPECT_EQ(row.isEnabled(rig.k70), given.enabled) << given.page;
   }
+}
+
+TEST(MainPages, OfTheSystemIsAlwaysEnabled) {
+  EXPECT_FALSE(MainPages()[0].isEnabled) << "it has no rule";
 }
 
 }  // namespace

@@ -228,6 +228,15 @@ TEST_F(ItemsFile, CancelledStillSwitchesAllOfferedStepsOn) {
   EXPECT_EQ(ItemsRig::Checked(*items.page->ListStandard), (Items{0, 1})) << "the checks stay";
 }
 
+TEST_F(ItemsFile, IsFollowedByTheChecksAgainOnceAnotherModeIsChosen) {
+  rig.prompts.ExpectFileToOpen("");
+  Release();
+  for (const int mode : {0, 1}) {
+    EXPECT_EQ(items.After([&] { QTest::mouseClick(&items.Option(mode), Qt::LeftButton); }),
+              (Lines{"mode " + std::to_string(mode), "0 on", "1 on", "5 off", "6 off"}));
+  }
+}
+
 TEST_F(ItemsFile, OfWhichNoSectionIsWantedIsNotRead) {
   rig.prompts.ExpectFileToOpen(path);
   const WhenShown<SelFileItemDlg> person(
