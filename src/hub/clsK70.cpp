@@ -37,6 +37,72 @@ Instance& TheInstance() {
   return instance;
 }
 
+// A unit joins the transfers by a row here, and the settings file by one in AddUnits.
+TransferTable TransfersOf(clsK70& k70) {
+  const auto mounted = [&k70](std::int32_t number) {
+    return [&k70, number] { return k70.IsMounted(number) != kNotMounted; };
+  };
+  const auto present = [&k70](std::int32_t unit) {
+    return [&k70, unit] { return k70.Controller(unit); };
+  };
+  return {
+      MakeTransferStep("curNosepiece", k70.curNosepiece, mounted(accessory::kNosepiece)),
+      MakeTransferStep("DbNosepiece", k70.DbNosepiece, mounted(accessory::kNosepiece)),
+      MakeTransferStep("curLimit", k70.curLimit,
+                       [&k70] { return k70.IsControllable(accessory::kNosepiece); }),
+      MakeTransferStep("curFilter", k70.curFilter, mounted(accessory::kFilterCube)),
+      MakeTransferStep("dbFilter", k70.dbFilter, mounted(accessory::kFilterCube)),
+      MakeTransferStep("Exciter", k70.Exciter, mounted(accessory::kFilterCube)),
+      MakeTransferStep("Dichroic", k70.Dichroic, mounted(accessory::kFilterCube)),
+      MakeTransferStep("Barrier", k70.Barrier, mounted(accessory::kFilterCube)),
+      MakeTransferStep("curCondenser", k70.curCondenser, mounted(accessory::kCondenser)),
+      MakeTransferStep("dbcon", k70.dbcon, mounted(accessory::kCondenser)),
+      MakeEnabledStep("ILObservation", k70.ILObservation),
+      MakeEnabledStep("ILOther", k70.ILOther),
+      MakeEnabledStep("ILOffset", k70.ILOffset),
+      MakeEnabledStep("CZDrive", k70.CZDrive),
+      MakeEnabledStep("CXYDrive", k70.CXYDrive),
+      MakeEnabledStep("COther", k70.COther),
+      MakeTransferStep("curSwitch", k70.curSwitch, present(controllerunit::kBody)),
+      MakeTransferStep("curTactor", k70.curTactor, present(controllerunit::kHandController)),
+  };
+}
+
+// The rows of all units, behind that of the system name.
+void AddUnits(FileTable& table, clsK70& k70) {
+  const FileTable rows{
+      MakeFileElement(fileitem::kNosepiece, k70.curNosepiece),
+      MakeFileElement(fileitem::kNosepiece, k70.DbNosepiece),
+      MakeFileElement(fileitem::kNosepiece, k70.curLimit),
+      MakeFileElement(fileitem::kFilter, k70.curFilter),
+      MakeFileElement(fileitem::kFilter, k70.dbFilter),
+      MakeFileElement(fileitem::kFilter, k70.Exciter),
+      MakeFileElement(fileitem::kFilter, k70.Dichroic),
+      MakeFileElement(fileitem::kFilter, k70.Barrier),
+      MakeFileElement(fileitem::kCondenser, k70.curCondenser),
+      MakeFileElement(fileitem::kCondenser, k70.dbcon),
+      MakeFileElement(fileitem::kInterlock, k70.ILObservation),
+      MakeFileElement(fileitem::kInterlock, k70.ILOther),
+      {fileitem::kInterlock,
+       clsInterLockOther::kLightPathElement,
+       NameMatch::IgnoringCase,
+       [&unit = k70.ILOther](const DomNode& element) { return unit.ReadLPDom(element); },
+       {}},
+      {fileitem::kInterlock,
+       clsInterLockOther::kZoomElement,
+       NameMatch::IgnoringCase,
+       [&unit = k70.ILOther](const DomNode& element) { return unit.ReadZMDom(element); },
+       {}},
+      MakeFileElement(fileitem::kInterlock, k70.ILOffset),
+      MakeFileElement(fileitem::kControl, k70.CZDrive),
+      MakeFileElement(fileitem::kControl, k70.CXYDrive),
+      MakeFileElement(fileitem::kControl, k70.COther),
+      MakeFileElement(fileitem::kSwitch, k70.curSwitch),
+      MakeFileElement(fileitem::kTactor, k70.curTactor),
+  };
+  table.insert(table.end(), rows.begin(), rows.end());
+}
+
 }  // namespace
 
 // Some units are declared before the sibling they refer to: a unit's constructor may keep such a
@@ -122,73 +188,17 @@ void clsK70::CreateRoot() {
   Mic = controller::Microscope(library_.Create("Microscope"));
 }
 
-// A unit joins the transfers and the settings file by one row in each of these tables.
 void clsK70::FillTables() {
-  const auto mounted = [this](std::int32_t number) {
-    return [this, number] { return IsMounted(number) != kNotMounted; };
-  };
-  const auto present = [this](std::int32_t unit) {
-    return [this, unit] { return Controller(unit); };
-  };
-  transfers_ = {
-      MakeTransferStep("curNosepiece", curNosepiece, mounted(accessory::kNosepiece)),
-      MakeTransferStep("DbNosepiece", DbNosepiece, mounted(accessory::kNosepiece)),
-      MakeTransferStep("curLimit", curLimit,
-                       [this] { return IsControllable(accessory::kNosepiece); }),
-      MakeTransferStep("curFilter", curFilter, mounted(accessory::kFilterCube)),
-      MakeTransferStep("dbFilter", dbFilter, mounted(accessory::kFilterCube)),
-      MakeTransferStep("Exciter", Exciter, mounted(accessory::kFilterCube)),
-      MakeTransferStep("Dichroic", Dichroic, mounted(accessory::kFilterCube)),
-      MakeTransferStep("Barrier", Barrier, mounted(accessory::kFilterCube)),
-      MakeTransferStep("curCondenser", curCondenser, mounted(accessory::kCondenser)),
-      MakeTransferStep("dbcon", dbcon, mounted(accessory::kCondenser)),
-      MakeEnabledStep("ILObservation", ILObservation),
-      MakeEnabledStep("ILOther", ILOther),
-      MakeEnabledStep("ILOffset", ILOffset),
-      MakeEnabledStep("CZDrive", CZDrive),
-      MakeEnabledStep("CXYDrive", CXYDrive),
-      MakeEnabledStep("COther", COther),
-      MakeTransferStep("curSwitch", curSwitch, present(controllerunit::kBody)),
-      MakeTransferStep("curTactor", curTactor, present(controllerunit::kHandController)),
-  };
-  fileTable_ = {
-      // Kept: this name alone is compared with regard to case.
-      {fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
-       [this](const DomNode& element) { return ReadSystemElement(element); },
-       [this](DomDocument& document, DomNode section) {
-         DomNode element = document.CreateElement("QHRMNAME");
-         element.SetAttribute("NAME", SystemName);
-         section.Append(element);
-       }},
-      MakeFileElement(fileitem::kNosepiece, curNosepiece),
-      MakeFileElement(fileitem::kNosepiece, DbNosepiece),
-      MakeFileElement(fileitem::kNosepiece, curLimit),
-      MakeFileElement(fileitem::kFilter, curFilter),
-      MakeFileElement(fileitem::kFilter, dbFilter),
-      MakeFileElement(fileitem::kFilter, Exciter),
-      MakeFileElement(fileitem::kFilter, Dichroic),
-      MakeFileElement(fileitem::kFilter, Barrier),
-      MakeFileElement(fileitem::kCondenser, curCondenser),
-      MakeFileElement(fileitem::kCondenser, dbcon),
-      MakeFileElement(fileitem::kInterlock, ILObservation),
-      MakeFileElement(fileitem::kInterlock, ILOther),
-      {fileitem::kInterlock,
-       clsInterLockOther::kLightPathElement,
-       NameMatch::IgnoringCase,
-       [this](const DomNode& element) { return ILOther.ReadLPDom(element); },
-       {}},
-      {fileitem::kInterlock,
-       clsInterLockOther::kZoomElement,
-       NameMatch::IgnoringCase,
-       [this](const DomNode& element) { return ILOther.ReadZMDom(element); },
-       {}},
-      MakeFileElement(fileitem::kInterlock, ILOffset),
-      MakeFileElement(fileitem::kControl, CZDrive),
-      MakeFileElement(fileitem::kControl, CXYDrive),
-      MakeFileElement(fileitem::kControl, COther),
-      MakeFileElement(fileitem::kSwitch, curSwitch),
-      MakeFileElement(fileitem::kTactor, curTactor),
-  };
+  transfers_ = TransfersOf(*this);
+  // Kept: this name alone is compared with regard to case.
+  fileTable_ = {{fileitem::kSystem, "QHRMNAME", NameMatch::Exact,
+                 [this](const DomNode& element) { return ReadSystemElement(element); },
+                 [this](DomDocument& document, DomNode section) {
+                   DomNode element = document.CreateElement("QHRMNAME");
+                   element.SetAttribute("NAME", SystemName);
+                   section.Append(element);
+                 }}};
+  AddUnits(fileTable_, *this);
 }
 
 bool clsK70::IsInterlockEnable() const {
