@@ -10,6 +10,7 @@
 #include "common/DigitCode.h"
 #include "common/Numbers.h"
 #include "controller/simulator/AccessoryRows.h"
+#include "controller/simulator/CodeRows.h"
 #include "controller/simulator/DriveRows.h"
 
 namespace mortane::controller {
@@ -71,7 +72,7 @@ std::string Joined(std::string_view object, std::string_view member) {
   return std::string(object).append(".").append(member);
 }
 
-// A field of the instrument that the function finds.
+// A row for the field that `find` gives, which is null for arguments out of range.
 template <typename Find>
 void Add(Rows& rows, std::string name, Expected expected, Find find) {
   rows.push_back({std::move(name),
@@ -82,7 +83,7 @@ void Add(Rows& rows, std::string name, Expected expected, Find find) {
                   std::move(expected)});
 }
 
-// What every accessory has, whether a place on the turret or the number of a drive.
+// The member that every accessory device has.
 void AddAccessory(Rows& rows, std::string_view object, int number) {
   Add(rows, Joined(object, "AccessoryState.State"), One,
       [number](Instrument& device, const Fact&) { return &device.Accessory(number).state; });
@@ -242,24 +243,13 @@ void AddDatabase(Rows& rows) {
   AddRecordField(rows, "ObjectiveTypes", "Name", &Data::types, &ListedName::name);
 }
 
-template <typename Code, typename Data, std::size_t Count>
-std::int32_t* FieldOfCode(const std::array<std::pair<Code, std::int32_t Data::*>, Count>& fields,
-                          Data& data, const Fact& fact) {
-  for (const auto& [code, field] : fields) {
-    if (NumberAt(fact, 0) == code) return &(data.*field);
-  }
-  return nullptr;
+// The field of the code that the path's first argument names; null for another code.
+template <typename Data, std::size_t Count>
+std::int32_t* FieldOfFact(const std::array<CodeRow<Data>, Count>& rows, Data& data,
+                          const Fact& fact) {
+  const auto code = NumberAt(fact, 0);
+  return code ? FieldOfCode(rows, data, *code) : nullptr;
 }
-
-constexpr std::array<std::pair<std::int32_t, std::int32_t BuzzerData::*>, 4> kBuzzers{
-    {{buzzer::kBody, &BuzzerData::body},
-     {buzzer::kHub, &BuzzerData::hub},
-     {buzzer::kHandController, &BuzzerData::handController},
-     {buzzer::kUnit5, &BuzzerData::unit5}}};
-constexpr std::array<std::pair<std::int32_t, std::int32_t SwitchData::*>, 3> kSwitches{
-    {{switchunit::kBody, &SwitchData::body},
-     {switchunit::kHandController, &SwitchData::handController},
-     {switchunit::kRemote, &SwitchData::remote}}};
 
 ControllerUnit* UnitOf(Instrument& device, const Fact& fact) {
   const auto number = NumberAt(fact, 0);
@@ -284,11 +274,11 @@ void AddUnits(Rows& rows) {
         ControllerUnit* unit = UnitOf(device, fact);
         return unit == nullptr ? nullptr : &unit->version;
       });
-  Add(rows, "BuzzerEnabled", Many(kBuzzers.size()), [](Instrument& device, const Fact& fact) {
-    return FieldOfCode(kBuzzers, device.buzzers, fact);
+  Add(rows, "BuzzerEnabled", Many(kBuzzerRows.size()), [](Instrument& device, const Fact& fact) {
+    return FieldOfFact(kBuzzerRows, device.buzzers, fact);
   });
-  Add(rows, "SwitchEnabled", Many(kSwitches.size()), [](Instrument& device, const Fact& fact) {
-    return FieldOfCode(kSwitches, device.switches, fact);
+  Add(rows, "SwitchEnabled", Many(kSwitchRows.size()), [](Instrument& device, const Fact& fact) {
+    return FieldOfFact(kSwitchRows, device.switches, fact);
   });
   Add(rows, "RemoteLED", One,
       [](Instrument& device, const Fact&) { return &device.switches.remoteLed; });

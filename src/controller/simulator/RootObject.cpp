@@ -4,6 +4,7 @@
 #include "controller/ControllerNumbers.h"
 #include "controller/DeviceList.h"
 #include "controller/simulator/AccessoryObjects.h"
+#include "controller/simulator/CodeRows.h"
 #include "controller/simulator/DatabaseObjects.h"
 #include "controller/simulator/DriveObjects.h"
 #include "controller/simulator/ObjectiveCode.h"
@@ -11,23 +12,6 @@
 
 namespace mortane::controller {
 namespace {
-
-struct CodeRow {
-  std::int32_t code;
-  std::int32_t BuzzerData::*field;
-};
-constexpr std::array kBuzzers{CodeRow{buzzer::kBody, &BuzzerData::body},
-                              CodeRow{buzzer::kHub, &BuzzerData::hub},
-                              CodeRow{buzzer::kHandController, &BuzzerData::handController},
-                              CodeRow{buzzer::kUnit5, &BuzzerData::unit5}};
-
-struct UnitRow {
-  std::int32_t unit;
-  std::int32_t SwitchData::*field;
-};
-constexpr std::array kSwitches{UnitRow{switchunit::kBody, &SwitchData::body},
-                               UnitRow{switchunit::kHandController, &SwitchData::handController},
-                               UnitRow{switchunit::kRemote, &SwitchData::remote}};
 
 // A device as an entry of the list. A type of its own, by which CurrentDevice knows an entry.
 struct DeviceEntryLink {
@@ -184,19 +168,14 @@ void AddControllerUnits(RootMembers& table) {
 
 std::int32_t& BuzzerOf(const Root& root, Args args) {
   const std::int32_t code = LongArgument(args[0]);
-  for (const CodeRow& row : kBuzzers) {
-    if (row.code == code) return root.Connected().buzzers.*row.field;
-  }
+  if (auto* field = FieldOfCode(kBuzzerRows, root.Connected().buzzers, code)) return *field;
   RaiseSimulated("No buzzer of code " + std::to_string(code) + ".");
 }
 
 std::int32_t& SwitchOf(const Root& root, Args args) {
   const std::int32_t unit = LongArgument(args[0]);
-  for (const UnitRow& row : kSwitches) {
-    if (row.unit == unit && LongArgument(args[1]) == 0) {
-      return root.Connected().switches.*row.field;
-    }
-  }
+  auto* field = FieldOfCode(kSwitchRows, root.Connected().switches, unit);
+  if (field != nullptr && LongArgument(args[1]) == 0) return *field;
   RaiseSimulated("Unit " + std::to_string(unit) + " has no such switches.");
 }
 
