@@ -44,7 +44,7 @@ SessionLibrary::SessionLibrary(const LibraryWish& wish) : tell_(wish.tell ? wish
   if (!wish.journal.empty()) Record(wish);
 }
 
-// All objects of the library are gone by now, and every call that the program makes was made.
+// The program holds no object of the library any more, so it has made all of its calls.
 SessionLibrary::~SessionLibrary() {
   if (!replayed_ || !replayed_->Difference().empty()) return;
   const std::string rest = replayed_->Rest();

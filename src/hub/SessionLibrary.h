@@ -14,7 +14,7 @@
 
 namespace mortane {
 
-// What a program was asked for; by default what the environment says.
+// What a program was asked for. WishOfEnvironment fills the fields that name a variable.
 struct LibraryWish {
   // MORTANE_BENCH: a bench file, whose instruments come before every installed library.
   std::string bench;
@@ -25,7 +25,7 @@ struct LibraryWish {
   BenchSession::Notice notice = {};
   // MORTANE_REPLAY: the journal of a session, which comes before a bench file.
   std::string replay = {};
-  // Of the program, as the journal names it.
+  // The name of the program in the journal.
   std::string program = "mortane";
   // Says in one line why the journal ends, or where the program differs from the session that it
   // replays. Without it a line goes to standard error.

@@ -120,7 +120,7 @@ TEST(UnitTable, ReceiveReadsTheUnitsInTheSameOrder) {
   rig.k70.Receive();
 }
 
-// Its followers are unknown.
+// What follows the nosepiece is not read then, so it is not sent either.
 TEST(UnitTable, ASensorOnTheNosepieceGatesItsLimitsAlone) {
   Rig rig("Harbour");
   rig.instrument().Accessory(accessory::kNosepiece).readOnly = true;

@@ -19,9 +19,6 @@
 namespace mortane::test {
 namespace {
 
-// On each of fourteen benches, 2800 in all: a value of the widest range, 250 codes, is left out
-// with a probability of one in 70000.
-
 std::string TextOf(const clsK70& k70) {
   DomDocument document;
   k70.WriteSections(document);
@@ -294,6 +291,8 @@ TEST_P(RandomModels, AreEqualAfterAFile) {
   ConnectAndReceive(target, GetParam());
   source.k70.COther.curR_TLPOLED = target.k70.COther.curR_TLPOLED = -1;
   std::mt19937 random(1);
+  // All of them are 2800 on fourteen benches: of the widest range, 250 codes, a value is then left
+  // out with a probability of one in 70000.
   const int models = CountOf(20, 200);
   for (int i = 0; i < models; ++i) {
     MakeRandom(source.k70, random);

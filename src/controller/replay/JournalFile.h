@@ -18,7 +18,8 @@ inline constexpr std::uint64_t kLargestJournal = std::uint64_t{16} * 1024 * 1024
 // Former files that are kept: FILE.1, the youngest, to FILE.3.
 inline constexpr int kFormerJournals = 3;
 
-// The file that was FILE before this one was begun: of "J" "J.1", of "J.1" "J.2".
+// The name that a full file gets when a new one takes its place: "J" becomes "J.1", "J.1" becomes
+// "J.2".
 std::string FormerJournal(const std::string& path);
 
 // Writes at the end of the file, behind former sessions, each line at once. Nothing raises a

@@ -12,10 +12,10 @@
 namespace mortane::controller {
 namespace {
 
-// Most sessions have no longer lines, and many are short.
+// In bytes. Most lines are shorter; for a longer one the buffer grows.
 constexpr std::size_t kUsualBuffer = std::size_t{16} * 1024;
 
-// Of a line that cannot be read, as much as a message holds.
+// How many bytes of a line that cannot be read a message shows.
 constexpr std::size_t kShownOfLine = 80;
 
 [[noreturn]] void RaiseInFile(const std::string& path, const std::string& problem) {
@@ -32,7 +32,8 @@ JournalLines::JournalLines(const std::string& path) : buffer_(kUsualBuffer) {
   if (!regular || !file_) RaiseOwnFailure(kFileError, "Cannot read " + path);
 }
 
-// Reads behind what is there; false when there is no more, or no more room.
+// Reads more behind the unread bytes; false at the end of the file and when the buffer may not grow
+// any more.
 bool JournalLines::Fill() {
   std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
   end_ -= begin_;

@@ -1,4 +1,4 @@
-// An object of a session, which tells its calls by its number and its path.
+// An object of a recorded or replayed session, which describes each of its calls as a text.
 #pragma once
 
 #include <cstdint>
@@ -11,14 +11,14 @@
 
 namespace mortane::controller {
 
-// Record and replay tell one call alike: "#34 put NosepieceDevice.Positions(3).Code = 14". The path
+// The same text for record and replay: "#34 put NosepieceDevice.Positions(3).Code = 14". The path
 // leads from the root, whose own members have no prefix. The item of an enumerator's third step is
 // called "NosepieceDevice.Positions(3)".
 class NumberedObject : public ControllerObject {
  public:
   enum class Role { Plain, Enumerator };
 
-  // Whose number and path an object has that a call gave.
+  // The number, the path and the role of an object that a call gave.
   struct Place {
     std::uint64_t number = 0;
     std::string path;
@@ -33,7 +33,7 @@ class NumberedObject : public ControllerObject {
 
   std::uint64_t Number() const { return place_.number; }
 
-  // Those of objects that are no NumberedObject are told as no object.
+  // An object that is no NumberedObject becomes object number 0.
   static SessionValue ToSessionValue(const Value& value);
   static std::string CreateCall(std::string_view className);
 
@@ -49,7 +49,7 @@ class NumberedObject : public ControllerObject {
     Place result;
   };
 
-  // Makes the call, which `text` tells.
+  // Makes the call that `text` describes.
   virtual Value Make(const Use& use, std::string text) = 0;
 
  private:

@@ -1,5 +1,6 @@
 #include "controller/replay/SessionHeader.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <chrono>

@@ -8,7 +8,7 @@
 
 namespace mortane::controller {
 
-// Who worked with which library where; what is not known is empty.
+// The program, the system and the library of a session; what is not known is empty.
 struct SessionHeader {
   std::string program;         // with its version
   std::string system;          // and its version
@@ -20,7 +20,7 @@ struct SessionHeader {
   bool operator==(const SessionHeader&) const = default;
 };
 
-// How the lines behind this one are to be read. A change of their form counts it up.
+// The number of the form that the lines of a journal have; a change of the form raises it.
 inline constexpr std::int32_t kJournalForm = 1;
 
 // mortane-journal 1 program="mortane 1.0" system="Windows 10.0.19045" library="LENSMIRLib.Mic...

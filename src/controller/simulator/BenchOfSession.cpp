@@ -17,10 +17,10 @@
 namespace mortane::controller {
 namespace {
 
-// Devices beyond these are no device list's.
+// A higher index in a journal is taken for an error and passed over.
 constexpr std::int32_t kMostDevices = 100;
 
-// To one member: ten addresses for each record of the longest list.
+// The most answers of one member that count: ten addresses for each record of the longest list.
 constexpr std::size_t kMostAnswers = 10 * kLongestList;
 
 constexpr std::string_view kQuery = "QueryCommand";
@@ -52,7 +52,7 @@ std::string_view PathOf(std::string_view call) {
   return call;
 }
 
-// What the session told of one entry of the device list.
+// What the journal holds of one entry of the device list.
 struct DeviceFacts {
   bool connected = false;
   bool named = false;
@@ -122,7 +122,7 @@ void Builder::Take(SessionLine line) {
   }
 }
 
-// A long session asks the same again and again.
+// A long session repeats most of its questions; those need not be parsed again.
 bool Builder::IsAnswered(const std::string& path) const {
   return current_ && facts_[*current_].answered.contains(path);
 }
@@ -140,7 +140,7 @@ void Builder::TakeFiber(const Asked& asked, bool failed) {
   const auto first = [&](std::string_view name) {
     return asked.name == name && fiberTold_.insert(asked.name).second;
   };
-  // Open and still not open: it found no device and said nothing.
+  // Open has returned, so it raises no failure when it finds no device.
   if (asked.name == "IsOpen" && fiberTold_.contains("Open") && fact.value == SessionValue(false)) {
     fiber.opens = fiber.openRaises = false;
   }

@@ -27,7 +27,7 @@ struct FactRow {
   std::function<std::size_t(const Instrument& instrument)> expected;
 };
 
-// Longer lists are no controller's.
+// The most entries of a list; a higher number is taken for an error and passed over.
 inline constexpr std::size_t kLongestList = 1000;
 
 const std::vector<FactRow>& FactRows();
