@@ -35,12 +35,6 @@ bool CanMove(const clsControlZDrive& drive) {
          drive.parent.IsMounted(accessory::kZFocusDrive) != kNotMounted;
 }
 
-// A box that is ticked for a flag other than 1 stores 1.
-void StoreShownEscape(clsControlZDrive& drive, int axis) {
-  const std::int16_t flag = drive.SetEscape(axis);
-  if (flag != 0 && flag != kUnknownEscape) drive.SetEscape(axis, 1);
-}
-
 }  // namespace
 
 ControlFocusDriveCtl::ControlFocusDriveCtl(clsControlZDrive& drive, FollowNosepiece follow,
@@ -81,8 +75,8 @@ void ControlFocusDriveCtl::LoadRest(EscapeFirmware bodyFirmware) {
   LoadEscape(bodyFirmware);
 }
 
-// The controls that LoadData would change tell of it, which stores what the unit holds already, but
-// for the followers of the nosepiece and for the escape.
+// The handlers of the controls that LoadData changes store what the unit holds already. Only the
+// choice of a compensation and the escape of a body without it change anything.
 void ControlFocusDriveCtl::Load(Loading& loading, clsControlZDrive& drive,
                                 const FollowNosepiece& follow) {
   loading.compensation = drive.curFocusCompensation;
@@ -91,12 +85,7 @@ void ControlFocusDriveCtl::Load(Loading& loading, clsControlZDrive& drive,
   loading.option = option;
   if (CanMove(drive) && !loading.PrepareMoves(drive)) return;
   loading.firmware = drive.BodyFirmware();
-  if (loading.firmware == EscapeFirmware::Without) {
-    drive.SetEscape(kFocusAxis, 1);
-    return;
-  }
-  StoreShownEscape(drive, kFocusAxis);
-  if (HasStage(drive)) StoreShownEscape(drive, kStageAxis);
+  if (loading.firmware == EscapeFirmware::Without) drive.SetEscape(kFocusAxis, 1);
 }
 
 void ControlFocusDriveCtl::Fill(const Loading& loading) {

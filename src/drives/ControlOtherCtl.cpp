@@ -33,11 +33,13 @@ constexpr std::int32_t kFine = 3;
 constexpr std::int32_t kBuzzersDiffer = 2;
 constexpr std::int32_t kBright = 2;
 
-// From this version on the body keeps the mode of its knobs to itself, and can disable the switches
-// of the hand controller.
-
 constexpr int kAutoOption = 0;
 constexpr int kManualOption = 1;
+
+// The steps of LoadData that ask for the version of the body, and the last one.
+constexpr int kKnobStep = 3;
+constexpr int kTactorStep = 6;
+constexpr int kFiberStep = 8;
 
 enum class Value { IsIndex, IsEnabledByFirst };
 
@@ -95,10 +97,6 @@ void SelectMode(OptionGroup& group, std::int32_t automatic) {
 void SelectSwitch(OptionGroup& group, std::int32_t enabled) {
   group.select(enabled == kEnabled ? 0 : 1);
 }
-
-constexpr int kKnobStep = 3;
-constexpr int kTactorStep = 6;
-constexpr int kFiberStep = 8;
 
 bool HasFocusKnob(const clsControlOther& other) {
   return other.parent.IsControllable(accessory::kZFocusDrive) && other.curAutoZ != kUnknown;

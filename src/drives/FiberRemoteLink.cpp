@@ -28,13 +28,12 @@ void FiberRemoteLink::Read(clsControlOther& other) const {
   other.curFiberStatus = IsOpen();
   if (!other.curFiberStatus) return;
   ErrorTrap trap;
-  trap.Run([&] {
+  other.curFiberStatus = trap.Run([&] {
     const std::int16_t enabled = remote_.SwitchEnable();
     const std::int16_t led = remote_.LED();
     other.curFiberSwEnable = enabled;
     other.curFiberLED = led;
   });
-  other.curFiberStatus = !trap.TakeFailed();
 }
 
 void FiberRemoteLink::Write(const clsControlOther& other) const {
@@ -52,7 +51,7 @@ bool FiberRemoteLink::IsOpen() const {
   return open;
 }
 
-// The server wants to be asked how the opening went; IsOpen tells all that counts.
+// Status belongs to the opening; what it answers is not needed, since IsOpen is asked next.
 void FiberRemoteLink::Open() const {
   ErrorTrap trap;
   trap.Run([this] { server_.Open(kOpenTimeoutMs); });

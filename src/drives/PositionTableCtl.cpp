@@ -32,7 +32,7 @@ class AddressOption : public QRadioButton {
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override {
     const bool over = rect().contains(event->position().toPoint());
-    Prompts& prompts = prompts_;
+    Prompts& prompts = prompts_;  // the box of a selected row may see the end of the option
     QRadioButton::mouseReleaseEvent(event);
     if (over) prompts.FlushInput();
   }
@@ -117,7 +117,7 @@ void PositionTableCtl::Load(std::int32_t addresses, std::optional<std::int32_t> 
         continue;
       }
       const std::int32_t steps = columns_[i].read(AddressOf(row));
-      if (steps != 0 && noSetting == steps) {
+      if (noSetting == steps) {
         field->setText(ToQString(kNoSetting));
       } else {
         Show(row, steps, i);
