@@ -23,9 +23,6 @@ namespace {
 constexpr double kLowestMicrometres = -100000;
 constexpr double kHighestMicrometres = 50000;
 
-constexpr std::int32_t kLargeStep = 50;
-constexpr std::int32_t kSmallStep = 1;
-
 // The trailing blanks belong to the captions.
 constexpr std::array kEscapeLabels{"Focus Drive  ", "XY Stage"};
 

@@ -15,9 +15,6 @@ namespace {
 
 constexpr double kFarthestMicrometres = 50000;  // either way
 
-constexpr std::int32_t kLargeStep = 50;
-constexpr std::int32_t kSmallStep = 1;
-
 constexpr std::size_t kX = 0;
 constexpr std::size_t kY = 1;
 

@@ -32,8 +32,8 @@ inline constexpr std::array<std::int32_t, 3> kCompensationCodes{
 int CompensationIndex(std::int32_t code);
 
 // Its buttons move the real drive. No move begins within another, and the input that came during a
-// move is dropped. A move that its person leaves goes on by itself. An axis is its place among the
-// columns of the table; rows count from 0.
+// move is dropped. A move whose box is answered goes on to its target. An axis is its place among
+// the columns of the table; rows count from 0.
 class DrivePageCtl : public CardPage {
   Q_OBJECT
 
@@ -53,6 +53,10 @@ class DrivePageCtl : public CardPage {
   Control<QPushButton> ButtonStart{"ButtonStart"};
 
  protected:
+  // Of the move buttons, in steps of 0.05 micrometres.
+  static constexpr std::int32_t kLargeStep = 50;
+  static constexpr std::int32_t kSmallStep = 1;
+
   struct TeachingTexts {
     const char* caption;
     std::array<const char*, kCompensationCodes.size()> compensations;
