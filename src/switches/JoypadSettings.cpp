@@ -17,20 +17,19 @@ JoypadSettings::~JoypadSettings() {
 }
 
 bool JoypadSettings::TakeJoystick() {
-  const bool fitted = fits_;
-  bool changed = !fitted;
+  const bool fitted = std::exchange(fits_, false);
+  bool hasOtherButtons = false;
   try {
     if (assignments_) {
-      changed = assignments_->TakeButtons(joystick_) || changed;
+      hasOtherButtons = assignments_->TakeButtons(joystick_);
     } else {
       assignments_ = std::make_unique<JoypadAssignments>(joystick_, applicationData_);
     }
     fits_ = true;
   } catch (const Failure&) {
-    fits_ = false;
-    changed = fitted;
+    // It has more buttons than there are assignments.
   }
-  return changed;
+  return fits_ != fitted || hasOtherButtons;
 }
 
 void JoypadSettings::Save() const {

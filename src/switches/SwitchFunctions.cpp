@@ -72,8 +72,7 @@ constexpr std::array<FunctionRow, 52> kFunctions{{
     {"Option 6 <-> Brightfield", OnPush::Yes},
 }};
 
-// The first codes mean the same on a joypad; it moves the drives where the others change the
-// observation.
+// A joypad has the functions up to code 40, and from 41 on its own, which move the drives.
 constexpr std::size_t kSharedWithJoypad = 41;
 constexpr std::array<std::string_view, 6> kJoypadOwn{
     "Z Focus Position Up",  "Z Focus Position Down", "X Position Move(X>0)",

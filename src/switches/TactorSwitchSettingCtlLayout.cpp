@@ -1,3 +1,4 @@
+// Where the controls of the hand controller's page stand.
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>

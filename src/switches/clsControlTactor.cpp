@@ -11,7 +11,7 @@
 namespace mortane {
 namespace {
 
-// Where the positions' keys begin with "1", this one holds the mode.
+// The key of the mode; those of the positions are "1" to "E".
 constexpr const char* kModeKey = "0";
 
 constexpr std::string_view kFailure = "TactorController SW Function (";
@@ -29,7 +29,6 @@ constexpr SwitchUnit kSwitches{
     switchunit::kHandController, clsControlTactor::SwitchCount, Label,
     [](std::int16_t position, std::int16_t /*code*/) { return Label(position); }};
 
-// Of the two values of a mode one is 0.
 std::string_view NameOf(std::int16_t mode, std::string_view zero, std::string_view other) {
   return mode == 0 ? zero : other;
 }
@@ -47,7 +46,8 @@ bool clsControlTactor::IsPresent() const {
   return parent.Controller(controllerunit::kHandController);
 }
 
-// Unlike the switches' codes the mode is a number in full; a text that holds none of 16 bits is 0.
+// The mode is a decimal number, not a character as the codes are; 0 for a text that is no number of
+// 16 bits.
 std::int16_t clsControlTactor::HeldMode() const {
   const std::string text =
       parent.Mic.ControllerSettings().SwitchFunction(switchunit::kHandController, kModeKey);
@@ -63,7 +63,7 @@ std::string clsControlTactor::ReadSdk() {
 void clsControlTactor::ReadAll() {
   ControlMode = HeldMode();
   if (parent.IsControllable(accessory::kXYStage)) {
-    HandleMode = static_cast<std::int16_t>(parent.Mic.XYDriveDevice().HandleMode());
+    HandleMode = parent.Mic.XYDriveDevice().HandleMode();
   }
   codes_.Read(parent);
 }
