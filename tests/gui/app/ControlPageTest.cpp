@@ -93,6 +93,31 @@ TEST(ControlPage, OpensItsFirstTabOnceWhenItIsNewAndLeavesItThen) {
   EXPECT_EQ(rig.calls.back(), "Focus.LoadData") << "the selected tab is selected";
 }
 
+// Tells how many controller calls were made before it was asked.
+struct CountingJoystick : ScriptedJoystick {
+  explicit CountingJoystick(const controller::Journal& controllerCalls)
+      : journal(controllerCalls) {}
+  std::int32_t ReadStatus() override {
+    callsBefore = journal.CallCount();
+    return ScriptedJoystick::ReadStatus();
+  }
+
+  const controller::Journal& journal;
+  std::size_t callsBefore = 1;
+};
+
+TEST(ControlPage, AsksForTheJoystickBeforeTheFiberServerAndTheController) {
+  ControlRig rig("Quay");
+  CountingJoystick joystick(rig.journal);
+  Lines calls;
+  const std::unique_ptr<ControlSettingsCtl> page(new ControlSettingsCtl(
+      {rig.k70(), rig.library, rig.prompts, joystick, {}}, MakeFakeSubPages(calls)));
+  rig.journal.Clear();
+  page->LoadData();
+  EXPECT_EQ(joystick.statusCalls, 1);
+  EXPECT_EQ(joystick.callsBefore, 0U);
+}
+
 TEST(ControlPage, AsksItsQuestionsInOrderBeforeAnySubPageIsLoaded) {
   Bench bench = benches::Named("Quay");
   bench.fiber.open = false;
