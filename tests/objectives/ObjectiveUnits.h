@@ -1,6 +1,8 @@
 // The units of the objectives on a bench.
 #pragma once
 
+#include <algorithm>
+
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsLimitation.h"
 #include "objectives/clsNosepiece.h"
@@ -24,5 +26,13 @@ class ObjectiveUnits : public BenchMicroscope {
 };
 
 using Rig = UnitRig<ObjectiveUnits>;
+
+// The instrument's record of that code, which must be there.
+inline controller::ObjectiveData& Record(Rig& rig, std::int32_t code) {
+  auto& records = rig.instrument().database.objectives;
+  return *std::find_if(
+      records.begin(), records.end(),
+      [&](const controller::ObjectiveData& record) { return record.code == code; });
+}
 
 }  // namespace mortane::test
