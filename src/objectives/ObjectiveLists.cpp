@@ -1,5 +1,7 @@
 #include "objectives/ObjectiveLists.h"
 
+#include <string>
+
 #include "common/Failure.h"
 
 namespace mortane {
@@ -9,14 +11,19 @@ std::string NameList::Name(std::int32_t index) const {
 }
 
 void NameList::Resize(std::int32_t highestIndex) {
-  if (highestIndex < 0) RaiseOwnFailure(kSubscriptError, "A list cannot hold less than nothing.");
+  if (highestIndex < 0) {
+    RaiseOwnFailure(kSubscriptError,
+                    "The controller counts " + std::to_string(highestIndex) + " names.");
+  }
   names_.assign(static_cast<std::size_t>(highestIndex) + 1, {});
 }
 
-void NameList::Fill(const controller::RecordList<controller::NamedItem>& items) {
+void NameList::Fill(const controller::AccessoryDatabase& database, Items items) {
   names_[0] = dashes_;
+  if (HighestIndex() == 0) return;
+  const controller::RecordList<controller::NamedItem> list = (database.*items)();
   for (std::int32_t i = 1; i <= HighestIndex(); ++i) {
-    names_[static_cast<std::size_t>(i)] = items.Item(i).Name();
+    names_[static_cast<std::size_t>(i)] = list.Item(i).Name();
   }
 }
 
@@ -25,8 +32,8 @@ void ObjectiveLists::Load(const controller::AccessoryDatabase& database) {
   const std::int32_t typeCount = database.ObjectiveTypeCount();
   series.Resize(seriesCount);
   types.Resize(typeCount);
-  series.Fill(database.ObjectiveSeries());
-  types.Fill(database.ObjectiveTypes());
+  series.Fill(database, &controller::AccessoryDatabase::ObjectiveSeries);
+  types.Fill(database, &controller::AccessoryDatabase::ObjectiveTypes);
 }
 
 }  // namespace mortane

@@ -20,10 +20,13 @@ class NameList {
   // Empty for an index out of range.
   std::string Name(std::int32_t index) const;
 
-  // Discards all names. A count below 0 raises a failure.
+  // Discards all names and the row of dashes. A count below 0 raises a failure.
   void Resize(std::int32_t highestIndex);
-  // Asks for each name in turn; a failure leaves those that were not reached empty.
-  void Fill(const controller::RecordList<controller::NamedItem>& items);
+  // Sets the row of dashes and asks for each name in turn; a failure leaves those that were not
+  // reached empty.
+  using Items =
+      controller::RecordList<controller::NamedItem> (controller::AccessoryDatabase::*)() const;
+  void Fill(const controller::AccessoryDatabase& database, Items items);
 
  private:
   std::string_view dashes_;

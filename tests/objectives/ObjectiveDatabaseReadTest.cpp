@@ -98,6 +98,43 @@ TEST(ObjectiveRead, ListsThatFailLaterStayAsFarAsTheyWereFilled) {
   EXPECT_EQ(rig.units.DbNosepiece.Types(1), "");
 }
 
+struct ListFault {
+  const char* call;
+  const char* lastSeries;
+  const char* firstType;
+};
+
+// The row of dashes stands before the first name is asked for.
+TEST(ObjectiveRead, AListWhoseNamesCannotBeAskedForHasItsRowOfDashes) {
+  for (const ListFault& fault :
+       {ListFault{"AccessoryDatabase.ObjectiveSeries", "", ""},
+        ListFault{"AccessoryDatabase.ObjectiveTypes", "Epi", "--------"}}) {
+    Rig rig("Harbour");
+    rig.Connect();
+    rig.faults.Add({fault.call, 1});
+    rig.prompts.ExpectBox("*** DbNosepiece.ReadDB Error!!(80004005)", box::kOk);
+    EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+    EXPECT_EQ(rig.units.DbNosepiece.SeriesCount(), 6) << fault.call;
+    EXPECT_EQ(rig.units.DbNosepiece.Series(0), "-----------") << fault.call;
+    EXPECT_EQ(rig.units.DbNosepiece.Series(6), fault.lastSeries) << fault.call;
+    EXPECT_EQ(rig.units.DbNosepiece.Types(0), fault.firstType) << fault.call;
+    EXPECT_EQ(rig.units.DbNosepiece.Types(1), "") << fault.call;
+  }
+}
+
+TEST(ObjectiveRead, AListWithoutNamesIsNotAskedForThem) {
+  Rig rig("Harbour");
+  rig.instrument().database.series.clear();
+  rig.instrument().database.types.clear();
+  rig.Connect();
+  rig.faults.Add({"AccessoryDatabase.ObjectiveSeries"});
+  rig.faults.Add({"AccessoryDatabase.ObjectiveTypes"});
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.faults.Hits(), 0U);
+  EXPECT_EQ(rig.units.DbNosepiece.Series(0), "-----------");
+  EXPECT_EQ(rig.units.DbNosepiece.Types(0), "--------");
+}
+
 TEST(ObjectiveRead, ACodeBeyondTheTableEndsIt) {
   for (const std::int32_t code : {250, -1, 2147483647}) {
     Rig rig("Harbour");
