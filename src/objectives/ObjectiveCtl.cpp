@@ -173,7 +173,6 @@ void ObjectiveCtl::ClickTab() {
   // The click of the series has just built this very list.
   const bool built = listing_ && listing_->series == series && listing_->mounted == mounted;
   const int row = built ? listing_->row : BuildList(series, mounted);
-  ListItem->setIndex(-1);
   SelectOrBlank(row);
 }
 
