@@ -244,6 +244,30 @@ TEST(NosepiecePage, OfTwinsTheMountedOneWins) {
   }
 }
 
+TEST(NosepiecePage, TwinsAtTwoAddressesStayWhereTheyAreFromTabToTab) {
+  AtticRig rig;
+  rig.k70().curNosepiece.code(1, 6);
+  rig.k70().curNosepiece.code(2, 7);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
+  for (const int tab : {1, 0, 1}) {
+    ClickTab(*page.TabNosepiece, tab);
+    EXPECT_EQ(page.ListItem->data(page.ListItem->index()).toInt(), 6 + tab);
+    EXPECT_EQ(CodeAt<1>(rig.k70()), "6") << tab;
+    EXPECT_EQ(CodeAt<2>(rig.k70()), "7") << tab;
+  }
+}
+
+TEST(NosepiecePage, LoadingShowsTheNewNameOfTheObjectiveThatWasOnShow) {
+  PageRig rig("Harbour");
+  rig.k70().curNosepiece.code(1, 241);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
+  ASSERT_EQ(page.LabelName->text(), "Clinic 25x");
+  rig.k70().DbNosepiece.Set_DbNosepiece(1, "Renamed", 2, 3, "25", "1.98", "0.95", 3);
+  page.LoadData();
+  EXPECT_EQ(page.LabelName->text(), "Renamed");
+  EXPECT_EQ(Shown(*page.ListItem), "Water\t25x\t1.98\t0.95\tRenamed");
+}
+
 TEST(NosepiecePage, OfTwinsTheFirstStandsWhereNeitherIsMounted) {
   AtticRig rig;
   rig.k70().curNosepiece.code(1, 1);

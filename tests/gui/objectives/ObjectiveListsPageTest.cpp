@@ -1,4 +1,5 @@
-// The lists of the objective pages: what they are filled with, and how a row is found by typing.
+// The lists of the objective pages: what they are filled with, what is selected, and how a row is
+// found by typing.
 #include <gtest/gtest.h>
 
 #include <QTest>
@@ -7,6 +8,8 @@
 #include "gui/objectives/ObjectivePages.h"
 #include "gui/support/PageActs.h"
 #include "widgets/ListBox.h"
+#include "widgets/TabStrip.h"
+#include "widgets/TextField.h"
 #include "widgets/ValueLabel.h"
 
 namespace mortane::test {
@@ -52,6 +55,16 @@ TEST(OptionLists, AreFilledOnceTheModelHasTheNames) {
   EXPECT_EQ(page.ListType->rowCount(), 8);
   EXPECT_EQ(page.LabelSeries->text(), "Plan F");
   EXPECT_EQ(page.LabelType->text(), "Water");
+}
+
+TEST(OptionLists, AMagnificationChosenForOneObjectiveIsNotSelectedForTheNext) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
+  Enter(*page.ListMag, "40x");
+  ASSERT_EQ(page.ListMag->index(), 9);
+  ClickTab(*page.TabStrip1, 1);
+  EXPECT_EQ(page.ListMag->index(), -1);
+  EXPECT_EQ(page.TextMag->text(), "63");
 }
 
 TEST(ObjectiveList, TypedLettersMountTheObjectiveOfThatName) {
