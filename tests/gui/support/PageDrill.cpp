@@ -15,6 +15,8 @@
 #include "widgets/TextField.h"
 
 namespace mortane::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 std::string CaptionOf(const QWidget& control) {
@@ -31,6 +33,12 @@ std::string CaptionOf(const QWidget& control) {
     return frame->caption().toStdString();
   }
   return control.accessibleName().toStdString();
+}
+
+// Gives the control the focus, and a text field a text that is no number.
+void BeginEdit(QWidget& control) {
+  control.setFocus();
+  if (auto* field = qobject_cast<TextField*>(&control)) TypeInto(*field, u"abc"_s);
 }
 
 // Each of the boxes so far, if there are any, is one that the page's loading may show.
@@ -65,6 +73,13 @@ std::unique_ptr<PageWindow> PageDrill::MakeRig(Link link) {
 
 std::unique_ptr<PageWindow> PageDrill::MakeRig(Bench bench) {
   return GetParam().make.Rig(std::move(bench), Link::Received);
+}
+
+std::vector<std::string> PageDrill::EditedValues(PageWindow& rig) {
+  std::vector<std::string> values;
+  for (const PageEdit& edit : GetParam().edits) values.push_back(edit.value(rig.microscope()));
+  for (const RefusedText& row : GetParam().refused) values.push_back(row.value(rig.microscope()));
+  return values;
 }
 
 Page& PageDrill::ShowOn(PageWindow& rig) {
@@ -181,6 +196,43 @@ TEST_P(PageDrill, EveryStopOfTheTabKeyHasAnAccessibleName) {
     EXPECT_NE(told.name, "") << stop;
     control.setFocus();
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(&control)->state().focused) << stop;
+  }
+}
+
+// The program ends a page also while a person works on it.
+TEST_P(PageDrill, DisablingHidingAndDestroyingStoreNothingAndAskNothing) {
+  for (const std::string& stop : GetParam().tabOrder) {
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
+    Page& page = ShowOn(rig);
+    BeginEdit(rig.Find(stop));
+    const std::vector<std::string> before = EditedValues(rig);
+    const std::size_t boxes = rig.prompts.Boxes().size();
+    page.setEnabled(false);
+    page.setEnabled(true);
+    BeginEdit(rig.Find(stop));
+    page.hide();
+    delete &page;
+    EXPECT_EQ(EditedValues(rig), before) << stop;
+    EXPECT_EQ(rig.prompts.Boxes().size(), boxes) << stop;
+  }
+}
+
+TEST_P(PageDrill, LoadingUnderATextThatIsTypedTakesItBack) {
+  for (const std::string& stop : GetParam().tabOrder) {
+    const auto made = MakeRig();
+    PageWindow& rig = *made;
+    Page& page = ShowOn(rig);
+    const auto* field = qobject_cast<TextField*>(&rig.Find(stop));
+    if (field == nullptr) continue;
+    const QString text = field->text();
+    const std::vector<std::string> before = EditedValues(rig);
+    BeginEdit(rig.Find(stop));
+    ASSERT_NE(field->text(), text) << stop;
+    page.LoadData();
+    EXPECT_EQ(field->text(), text) << stop;
+    EXPECT_EQ(EditedValues(rig), before) << stop;
+    ExpectLoadBoxesOnly(rig.prompts, GetParam().loadBox);
   }
 }
 

@@ -95,6 +95,8 @@ class PageDrill : public testing::TestWithParam<PageDrillData> {
   // The rig of the data's page on its bench, or on another.
   static std::unique_ptr<PageWindow> MakeRig(Link link = Link::Received);
   static std::unique_ptr<PageWindow> MakeRig(Bench bench);
+  // What the model holds of all that the data's edits change.
+  static std::vector<std::string> EditedValues(PageWindow& rig);
 };
 
 }  // namespace mortane::test
