@@ -262,6 +262,15 @@ TEST(SelFileItemDlg, FillingTheListMarksThePositionsAsWanted) {
   EXPECT_EQ(rig.Items(), (std::vector<int>{-1, 0, 0, 0, 0, 0, 0, -1}));
 }
 
+// So its section is read all the same.
+TEST(SelFileItemDlg, TheOneLineOfAHandControllersFileSpeaksForTheFirstItem) {
+  FileRig rig({7});
+  EXPECT_EQ(rig.Lines(*rig.Dialog().List1), std::vector<std::string>{"Tactor SW Function"});
+  rig.Dialog().List1->SetRowChecked(0, false);
+  rig.Dialog().OkButton->click();
+  EXPECT_EQ(rig.Items(), (std::vector<int>{0, 0, 0, 0, 0, 0, 0, -1}));
+}
+
 class FileItemsGivenUp : public testing::TestWithParam<int> {};
 
 TEST_P(FileItemsGivenUp, WantsNoSection) {

@@ -212,6 +212,23 @@ TEST(Start, LoadsThePagesThatHaveSomethingToShowInTheirOrder) {
   }
 }
 
+// Objectives, filter cubes and condensers.
+TEST(Start, PagesOfTurretsAreThereForEachThatHasAddresses) {
+  struct Row {
+    const char* bench;
+    std::array<bool, 3> enabled;
+  };
+  for (const Row& row : {Row{"Harbour", {true, true, true}},
+                         Row{"Hollow", {false, false, false}},    // no turret has any
+                         Row{"Outpost", {true, true, false}}}) {  // a nosepiece that is only sensed
+    AppRig rig(benches::Named(row.bench));
+    rig.Start();
+    for (std::size_t i = 0; i < row.enabled.size(); ++i) {
+      EXPECT_EQ(rig.form->ImageButton[i + 1]->isEnabled(), row.enabled[i]) << row.bench << ' ' << i;
+    }
+  }
+}
+
 TEST(Start, APageThatCannotBeLoadedIsToldAndTheOthersAreLoaded) {
   FakePages fakes;
   AppRig rig(benches::Named("Harbour"), {}, fakes.Table());
