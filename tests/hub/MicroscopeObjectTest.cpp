@@ -1,6 +1,9 @@
 // The microscope object's own small members, its device name lock and its life.
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "common/Failure.h"
 #include "interlocks/clsInterLockObservation.h"
 #include "interlocks/clsInterLockOffset.h"
@@ -98,6 +101,7 @@ TEST(MicroscopeObject, FileItemsOutsideZeroToNineReadZeroAndStoreNothing) {
   for (const std::int16_t pos : {std::int16_t{-1}, std::int16_t{10}, std::int16_t{32767}}) {
     rig.k70.FileItem(pos, -1);
     EXPECT_EQ(rig.k70.FileItem(pos), 0) << pos;
+    for (std::int16_t i = 0; i <= 9; ++i) EXPECT_EQ(rig.k70.FileItem(i), 0) << pos << ' ' << i;
   }
 }
 
@@ -183,6 +187,39 @@ TEST(DeviceLock, TheLoserHoldsItsHandleToo) {
   ASSERT_TRUE(winner.Create("MortaneConnection-393037"));
   EXPECT_FALSE(loser.Create("MortaneConnection-393037"));
   EXPECT_THROW(loser.Create("MortaneConnection-393037"), Failure);
+}
+
+// A thread of its own, because a mutex of Windows belongs to a thread.
+std::chrono::steady_clock::duration TimeToLock(clsMutex& mutex, int milliseconds) {
+  std::chrono::steady_clock::duration time{};
+  std::thread([&] {
+    const auto start = std::chrono::steady_clock::now();
+    mutex.LockMutex(milliseconds);
+    time = std::chrono::steady_clock::now() - start;
+    mutex.UnlockMutex();
+  }).join();
+  return time;
+}
+
+TEST(DeviceLock, CanBeOwnedWhicheverCameFirstToTheName) {
+  using std::chrono::milliseconds;
+  using std::chrono::seconds;
+  clsMutex first;
+  clsMutex second;
+  ASSERT_TRUE(first.Create("MortaneConnection-393038"));
+  ASSERT_FALSE(second.Create("MortaneConnection-393038"));
+  second.LockMutex(-1);
+  EXPECT_GE(TimeToLock(first, 30), milliseconds(30));
+  second.UnlockMutex();
+  EXPECT_LT(TimeToLock(first, 20000), seconds(10));
+}
+
+TEST(DeviceLock, WithoutANameIsNeitherOwnedNorWaitedFor) {
+  clsMutex mutex;
+  mutex.LockMutex(-1);
+  mutex.UnlockMutex();
+  mutex.Delete();
+  EXPECT_TRUE(mutex.Create("MortaneConnection-393039"));
 }
 
 TEST(DeviceLock, ANameThatTheSystemRefusesRaisesError52WithTheName) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "common/Numbers.h"
+
 namespace mortane::test {
 namespace {
 
@@ -19,6 +21,26 @@ TEST(ElementFields, AreFoundWithoutRegardToCaseAndTheLastOneCounts) {
   EXPECT_FALSE(fields.Has("OTHER"));
   EXPECT_EQ(fields.Text("OTHER"), "");
   EXPECT_EQ(fields.Number("OTHER"), -1);
+}
+
+TEST(ElementFields, HaveNumbersInOneFormWhateverTheUsersFormat) {
+  struct Row {
+    const char* text;
+    std::int32_t number;
+  };
+  DomDocument document;
+  DomNode element = document.CreateElement("a");
+  document.Append(element);
+  SetSystemNumberFormat({",", "."});
+  for (const Row& row :
+       {Row{" 12 ", 12}, Row{"-3", -3}, Row{"+4", 4}, Row{"007", 7}, Row{"1e2", 100}, Row{"2.5", 2},
+        Row{"3.5", 4}, Row{"1.000", 1}, Row{"1,5", 0}, Row{"1.000.000", 0}, Row{"12 3", 0},
+        Row{"12a", 0}, Row{"0x1F", 0}, Row{"&H1F", 0}, Row{"inf", 0}, Row{"2147483647", 2147483647},
+        Row{"2147483648", 0}, Row{"1e300", 0}, Row{"1e999", 0}}) {
+    element.SetAttribute("CODE", row.text);
+    EXPECT_EQ(ElementFields(element).Number("CODE"), row.number) << row.text;
+  }
+  SetSystemNumberFormat(PointFormat());
 }
 
 }  // namespace
