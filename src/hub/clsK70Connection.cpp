@@ -127,7 +127,7 @@ void clsK70::DetectControllers() {
     controllers_[static_cast<std::size_t>(unit)] =
         Mic.ControllerPresent(controllerunit::NumberInLibrary(unit)) == 1;
   }
-  // Kept: if no row matches, curType has its value of before.
+  // Kept: if no row matches, curType keeps its previous value.
   for (const TypeRow& row : kTypeTable) {
     if (Matches(row, controllers_)) curType = row.type;
   }

@@ -220,7 +220,7 @@ TEST(Connect, ANewRootThatCannotBeMadeGivesFalseAndLeavesNone) {
   EXPECT_EQ(rig.simulated.ReleasedRoots(), rig.simulated.CreatedRoots());
 }
 
-// What a failure of a call leads to hangs on the step that makes it.
+// The outcome depends on the step that makes the call.
 TEST(Connect, EachControllerCallThatFailsHasTheOutcomeOfItsStep) {
   // The list and its count; the list, an item and CurrentDevice; the list, an item and Connect.
   constexpr std::size_t kCallsToConnect = 8;

@@ -47,7 +47,7 @@ constexpr std::array<const char*, 19> kTransfers{
 
 using Asked = bool (clsK70::*)(std::string_view) const;
 
-// The transfers of which that is not so.
+// The transfers for which `asked` answers false.
 std::vector<std::string> AllBut(const clsK70& k70, Asked asked) {
   EXPECT_FALSE((k70.*asked)("none of them"));
   std::vector<std::string> others;

@@ -58,7 +58,7 @@ std::string WithoutBlanksAtEnds(std::string text) {
   return text;
 }
 
-// A receive from the instrument with odd values tells of them.
+// Receiving from the instrument with odd values shows boxes.
 void ConnectAndReceive(Rig& rig, const std::string& bench) {
   if (bench == kOddValues) rig.prompts.AcceptAnyBox();
   rig.ConnectAndReceive();
@@ -180,8 +180,8 @@ TEST_P(LegalFile, BringsBackWhatWasChanged) {
 INSTANTIATE_TEST_SUITE_P(Benches, LegalFile, ::testing::ValuesIn(BenchesWithLegalValues()),
                          [](const auto& row) { return row.param; });
 
-// What a file of one instrument leaves to say on another. Rows in the order of looking; an empty
-// list of benches is all of them.
+// What is shown, or still differs, after the file of one instrument was read on another. The first
+// row that fits counts; an empty list of benches stands for all.
 struct OtherFileRow {
   std::vector<std::string_view> from;
   std::vector<std::string_view> to;
@@ -247,7 +247,7 @@ std::vector<std::string> TargetsOf(const std::string& from) {
   return targets;
 }
 
-// The texts of all boxes since the last look.
+// The texts of all boxes since the last call.
 std::string Boxes(Rig& rig) {
   std::string texts;
   for (const auto& box : rig.prompts.Boxes()) texts = AppendLine(texts, box.text);

@@ -6,7 +6,7 @@
 namespace mortane::test {
 namespace {
 
-// Sets the name of each code and counts those that were taken.
+// Names are kept for the codes from 0 to `highest`, and for no others.
 template <typename Names>
 void ExpectCodesUpTo(Names& names, std::int32_t highest) {
   for (const std::int32_t code : {-2147483647 - 1, -1, highest + 1, highest + 2, 2147483647}) {

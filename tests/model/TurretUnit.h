@@ -27,7 +27,7 @@ struct TurretUnit {
   std::string item;        // opens the line of an item that could not be written
   std::int32_t otherCode;  // stands nowhere on the turret
   std::string otherName;
-  // What a read that finds no failure and one that fails make of a count of 77.
+  // The count after a read that succeeded and after one that failed, when it was 77 before.
   std::int32_t countAfterRead;
   std::int32_t countAfterFailure;
 

@@ -32,7 +32,7 @@ class Turrets : public testing::TestWithParam<TurretUnit> {
   std::string ItemLine(std::int32_t address) const {
     return turret().item + std::to_string(address) + "]";
   }
-  // The line of the address when the code that stands nowhere else is there.
+  // The line of ModifySdk for an address that has `otherCode`.
   std::string Difference(std::int32_t address) const {
     return turret().difference + std::to_string(address) + "] " + turret().otherName;
   }

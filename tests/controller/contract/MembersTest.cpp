@@ -14,7 +14,7 @@ INSTANTIATE_TEST_SUITE_P(OnEachBackEnd, Members, testing::ValuesIn(BackEndKinds(
 
 using Lines = std::vector<std::string>;
 
-// A failed use has the line of its left side.
+// The line of the same use when it fails.
 std::string FailureLine(const std::string& line) {
   return line.substr(0, line.find(" -> ")) + " ! Simulator:80004005";
 }
