@@ -189,6 +189,8 @@ TEST_F(AccessibleItemsTest, ItemsStandWhereTheyArePainted) {
   EXPECT_EQ(row.size(), painted.size());
   EXPECT_EQ(InterfaceOf(list).childAt(row.center().x(), row.center().y()),
             InterfaceOf(list).child(1));
+  EXPECT_EQ(InterfaceOf(list).childAt(row.center().x(), row.center().y() - row.height()),
+            InterfaceOf(list).child(0));
   EXPECT_EQ(InterfaceOf(list).childAt(row.center().x(), row.bottom() + 3 * row.height()), nullptr);
   const QRect tab = InterfaceOf(strip).child(2)->rect();
   EXPECT_EQ(tab.topLeft(), strip->mapToGlobal(strip->tabRect(2).topLeft()));
@@ -214,6 +216,7 @@ TEST_F(AccessibleItemsTest, PressingARowClicksIt) {
   EXPECT_EQ(Indices(clicks), Items{60});
   EXPECT_TRUE(list->hasFocus());
   InterfaceOf(list).child(0)->actionInterface()->doAction("Other");
+  QApplication::processEvents();
   EXPECT_EQ(list->index(), 60);
 }
 
@@ -231,6 +234,10 @@ TEST_F(AccessibleItemsTest, PressingAnItemOfAComboBoxChoosesIt) {
   EXPECT_EQ(Indices(choices), Items{2});
   Press(InterfaceOf(combo).child(2));
   EXPECT_EQ(choices.size(), 2) << "a choice of the item on show is one too";
+  combo->showPopup();
+  Press(InterfaceOf(combo).child(1));
+  EXPECT_EQ(combo->index(), 1);
+  EXPECT_FALSE(combo->view()->isVisible());
 }
 
 TEST_F(AccessibleItemsTest, PressingIsNoneWhileATextIsRefusedOrTheControlDisabled) {

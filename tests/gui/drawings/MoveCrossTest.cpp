@@ -1,6 +1,7 @@
 #include "drawings/MoveCross.h"
 
 #include "gui/support/TestWindow.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 
@@ -250,6 +251,30 @@ TEST_F(MoveCrossTest, AnotherFontMovesTheButtonsAtOnce) {
     EXPECT_EQ(cross->button(direction, MoveSize::Small)->geometry(),
               like.button(direction, MoveSize::Small)->geometry());
   }
+}
+
+// A style may come with another font, of which the cross is not told by itself.
+TEST_F(MoveCrossTest, AnotherStyleMovesTheButtonsAtOnce) {
+  class NoFontChange : public QObject {
+   protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+      return event->type() == QEvent::FontChange;
+    }
+  };
+  cross->setFixedSize(100, 500);
+  QApplication::processEvents();
+  NoFontChange filter;
+  cross->installEventFilter(&filter);
+  QFont large = cross->font();
+  large.setPointSizeF(large.pointSizeF() * 3);
+  cross->setFont(large);
+  const MoveButton* button = cross->button(MoveDirection::Up, MoveSize::Large);
+  const int side = GridHeight(36, *cross);
+  ASSERT_GT(side, 36);
+  EXPECT_EQ(button->width(), 36);
+  QEvent change(QEvent::StyleChange);
+  QApplication::sendEvent(cross, &change);
+  EXPECT_EQ(button->width(), side);
 }
 
 TEST_F(MoveCrossTest, ButtonsAreNeverSmallerThanTheGrid) {

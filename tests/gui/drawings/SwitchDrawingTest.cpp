@@ -266,6 +266,22 @@ TEST_F(SwitchDrawingTest, MirroredItHasItsMarksAndTextsInPlace) {
   EXPECT_EQ(hand.grab().toImage(), usual);
 }
 
+TEST_F(SwitchDrawingTest, MirroredItsGroundIsTheMirrorImage) {
+  SwitchPlan plan{u"handcontroller"_s, kDesign, {}, {}};
+  SwitchDrawing hand(plan, "optBtn");
+  hand.resize(604, 302);
+  const QImage expected = hand.grab().toImage().mirrored(true, false);
+  hand.SetMirrored(true);
+  const QImage mirrored = hand.grab().toImage();
+  int unlike = 0;
+  for (int y = 0; y < expected.height(); ++y) {
+    for (int x = 0; x < expected.width(); ++x) {
+      if (std::abs(qGray(expected.pixel(x, y)) - qGray(mirrored.pixel(x, y))) > 64) ++unlike;
+    }
+  }
+  EXPECT_LT(unlike, 604 * 302 / 100) << "but for edges";
+}
+
 TEST_F(SwitchDrawingTest, FollowsTheScheme) {
   const QImage light = Picture();
   ApplyTheme(*qApp, Scheme::Dark);

@@ -189,6 +189,12 @@ TEST(TurretFace, TheDiscHasARimAndAHub) {
   EXPECT_EQ(test::ColumnOf(picture, 140),
             "Window 1, ~ 31, DrawingFill 94, ~ 2, DrawingShade 7, ~ 2, DrawingFill 6, ~ 2, "
             "DrawingShade 7, ~ 2, DrawingFill 94, ~ 31, Window 1");
+  // About half of each of two pixels is the hub's edge.
+  const int line = ToneColor(Tone::DrawingLine).lightness();
+  const int most = line + (ToneColor(Tone::DrawingShade).lightness() - line) * 11 / 20;
+  for (const int x : {126, 127, 152, 153}) {
+    EXPECT_LT(picture.pixelColor(x, 140).lightness(), most) << x;
+  }
 }
 
 struct RingRow {
@@ -300,6 +306,34 @@ TEST(TurretFace, APlaceThatIsNotThereIsNotFilled) {
   const QString before = turret.accessibleDescription();
   for (const int none : {-1, 10, 11}) turret.SetItem(none, {"One", "One", {}});
   EXPECT_EQ(turret.accessibleDescription(), before);
+}
+
+TEST(TurretFace, ARoundPlaceIsHitUpToItsEdge) {
+  TurretButton place(PlaceKind::Objectives, 1, nullptr);
+  place.resize(56, 56);
+  place.SetPlaceSize({40, 40});
+  place.show();
+  QSignalSpy clicks(&place, &QAbstractButton::clicked);
+  for (const QPoint& inside :
+       {QPoint(48, 28), QPoint(8, 28), QPoint(28, 8), QPoint(28, 48), QPoint(42, 42)}) {
+    clicks.clear();
+    QTest::mouseClick(&place, Qt::LeftButton, {}, inside);
+    EXPECT_EQ(clicks.size(), 1) << inside.x() << " " << inside.y();
+  }
+  for (const QPoint& outside : {QPoint(49, 28), QPoint(7, 28), QPoint(43, 43), QPoint(13, 13)}) {
+    clicks.clear();
+    QTest::mouseClick(&place, Qt::LeftButton, {}, outside);
+    EXPECT_EQ(clicks.size(), 0) << outside.x() << " " << outside.y();
+  }
+}
+
+TEST(TurretFace, AnObjectiveWithoutAMagnificationHasARingInTheColourOfItsLine) {
+  ASSERT_NE(ToneColor(Tone::DrawingLine), ToneColor(Tone::RingBlack));
+  TurretButton place(PlaceKind::Objectives, 1, nullptr);
+  place.SetPlaceSize({60, 60});
+  place.SetItem({" ", "One", std::nullopt});
+  EXPECT_EQ(test::RowOf(test::PictureOf(place, {80, 80}, Use::Rest)),
+            "Window 10, ~ 1, DrawingLine 6, ~ 1, Base 44, ~ 1, DrawingLine 6, ~ 1, Window 10");
 }
 
 TEST(TurretFace, ATileIsHitUpToItsEdges) {

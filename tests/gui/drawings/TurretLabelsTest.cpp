@@ -81,6 +81,31 @@ TEST(TurretLabels, ATileAsksForAPartOfItsNameOnly) {
   EXPECT_EQ(freePlace.LeastPlaceWidth(), 0);
 }
 
+TEST(TurretLabels, HaveFourPixelsBesideThem) {
+  const QFontMetricsF metrics(MarkFont());
+  TurretButton tile(PlaceKind::Cubes, 1, nullptr);
+  tile.SetItem({"GFP", "GFP", {}});
+  EXPECT_EQ(tile.LeastPlaceWidth(), metrics.horizontalAdvance("GFP") + 8);
+  tile.SetItem({"Analyzer block", "", {}});
+  EXPECT_EQ(tile.LeastPlaceWidth(), 8 * metrics.averageCharWidth() + 8);
+  for (const double less : {0.0, 0.5}) {
+    tile.SetPlaceSize({metrics.horizontalAdvance("Analyzer block") + 8 - less, 40});
+    EXPECT_EQ(tile.HasRoomForLabel(MarkFont()), less == 0);
+  }
+  TurretButton round(PlaceKind::Objectives, 1, nullptr);
+  round.SetItem({"10x", "10x", {}});
+  const double diagonal = std::hypot(metrics.horizontalAdvance("10x"), metrics.capHeight());
+  EXPECT_EQ(round.LeastPlaceWidth(), diagonal + 8 + 2 * (1.5 + 5)) << "and the ring around them";
+}
+
+TEST(TurretLabels, ADrawingTellsWhatStandsOnItsPlaces) {
+  TurretDrawing turret(PlaceKind::Cubes);
+  turret.SetItems(Labels({"GFP", "", "DAPI"}));
+  EXPECT_EQ(turret.accessibleDescription(), "Address 1, GFP; Address 2, ----; Address 3, DAPI");
+  turret.SetItem(1, {"TRITC", "TRITC", {}});
+  EXPECT_EQ(turret.accessibleDescription(), "Address 1, GFP; Address 2, TRITC; Address 3, DAPI");
+}
+
 TEST(TurretLabels, AllLabelsOfATurretAreOfOneSize) {
   TurretDrawing turret(PlaceKind::Cubes);
   turret.SetItems(Labels({"GFP", "DAPI"}));

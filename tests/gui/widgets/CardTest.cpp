@@ -1,6 +1,7 @@
 #include "widgets/Card.h"
 
 #include "gui/support/Face.h"
+#include "gui/support/FontScope.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
@@ -70,6 +71,17 @@ TEST(Card, ALongCaptionGoesOnInAnotherLine) {
   InnerFrame word("Records");
   const auto* single = word.findChild<QLabel*>();
   EXPECT_EQ(single->minimumSizeHint().width(), single->sizeHint().width());
+}
+
+TEST(Card, ACaptionOverAValueIsSmallAndQuiet) {
+  QLabel* caption = CaptionLabel("HHHH", nullptr);
+  EXPECT_EQ(caption->font(), CaptionFont());
+  caption->setFont(FontOf(20));  // strokes of whole pixels
+  const QImage picture = test::PictureOf(*caption, {120, 40}, test::Use::Rest);
+  const QPalette palette = test::TellablePalette();
+  EXPECT_FALSE(test::AreaOf(picture, palette.color(QPalette::PlaceholderText)).isEmpty());
+  EXPECT_TRUE(test::AreaOf(picture, palette.color(QPalette::WindowText)).isEmpty());
+  delete caption;
 }
 
 TEST(Card, ACaptionOfTwoLinesIsWrittenInBoth) {

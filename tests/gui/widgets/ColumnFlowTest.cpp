@@ -1,5 +1,6 @@
 #include "widgets/ColumnFlow.h"
 
+#include "gui/support/LayoutRequests.h"
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
@@ -36,6 +37,16 @@ class ColumnFlowTest : public ::testing::Test {
   ColumnFlow* flow = new ColumnFlow(kGap, kRowGap);
   std::vector<QWidget*> parts;
 };
+
+TEST_F(ColumnFlowTest, AsksForANewLayoutWhereItBreaksAnewAndNotOtherwise) {
+  const test::LayoutRequests requests(panel);
+  ShowIn(420);
+  EXPECT_LE(requests.Take(), 2);
+  ShowIn(400);
+  EXPECT_EQ(requests.Take(), 0);
+  ShowIn(259);
+  EXPECT_EQ(requests.Take(), 1);
+}
 
 TEST_F(ColumnFlowTest, SharesTheWidthByTheStretches) {
   ShowIn(420);

@@ -109,6 +109,18 @@ TEST_F(ComboBoxTest, TheWheelChangesNothingFocusedOrNot) {
   EXPECT_EQ(changes.count(), 0);
 }
 
+TEST_F(ComboBoxTest, ArrowsAndLettersChooseWithoutOpeningTheList) {
+  combo->addRow("Plan");
+  combo->setIndex(1);
+  combo->setFocus();
+  QSignalSpy choices(combo, &ComboBox::chosen);
+  QTest::keyClick(combo, Qt::Key_Down);
+  QTest::keyClick(combo, Qt::Key_Up);
+  QTest::keyClick(combo, Qt::Key_P);
+  EXPECT_EQ(Indices(choices), (Rows{2, 1, 3}));
+  EXPECT_FALSE(combo->view()->isVisible());
+}
+
 TEST_F(ComboBoxTest, FindsARowByItsData) {
   EXPECT_EQ(combo->rowOf(20), 2);
   EXPECT_EQ(combo->rowOf(25), -1);

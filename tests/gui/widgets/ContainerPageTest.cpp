@@ -83,6 +83,22 @@ TEST_F(ContainerPageTest, ShowsNothingBeforeTheFirstSelection) {
     EXPECT_FALSE(page->isVisible());
 }
 
+TEST_F(ContainerPageTest, AnotherSectionTakesTheFocusFromTheHiddenPageAlone) {
+  auto* inside = new QLineEdit(area->left);
+  auto* outside = new QLineEdit(&window.widget());
+  area->LoadData();
+  inside->show();
+  outside->show();
+  outside->setFocus();
+  area->sections()->select(1);
+  EXPECT_TRUE(outside->hasFocus());
+  area->sections()->select(0);
+  inside->setFocus();
+  ASSERT_TRUE(inside->hasFocus());
+  area->sections()->select(1);
+  EXPECT_FALSE(inside->hasFocus());
+}
+
 TEST_F(ContainerPageTest, NamesHeaderAndOptions) {
   EXPECT_EQ(area->Header->objectName(), "Header");
   EXPECT_EQ(area->Header->title(), "Objectives");

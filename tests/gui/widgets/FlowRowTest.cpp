@@ -1,5 +1,6 @@
 #include "widgets/FlowRow.h"
 
+#include "gui/support/LayoutRequests.h"
 #include "gui/support/TestWindow.h"
 
 namespace mortane {
@@ -29,6 +30,16 @@ class FlowRowTest : public ::testing::Test {
   FlowRow* row = new FlowRow(kGap, kLineGap);
   std::vector<QWidget*> parts;
 };
+
+TEST_F(FlowRowTest, AsksForANewLayoutWhereItBreaksAnewAndNotOtherwise) {
+  const test::LayoutRequests requests(panel);
+  ShowIn(420);
+  EXPECT_LE(requests.Take(), 2);
+  ShowIn(400);
+  EXPECT_EQ(requests.Take(), 0);
+  ShowIn(259);
+  EXPECT_EQ(requests.Take(), 1);
+}
 
 TEST_F(FlowRowTest, IsOneLineWhereTheWidthHoldsAll) {
   ShowIn(260);

@@ -1,5 +1,6 @@
 #include <QHeaderView>
 #include <QScrollBar>
+#include <utility>
 
 #include "gui/support/TestWindow.h"
 #include "widgets/ListBox.h"
@@ -119,20 +120,38 @@ TEST_F(FoldingList, AShorterTextIsShownInOneLineAgain) {
   EXPECT_LT(RowHeight(), folded);
 }
 
-TEST_F(FoldingList, PaintsTheSecondLine) {
-  ShowIn(wide - 60);
-  const QRect row = list->visualItemRect(list->topLevelItem(0));
-  const int left = list->header()->sectionViewportPosition(1) + 4;
-  const QImage picture = list->viewport()->grab().toImage();
-  const auto isInked = [&](int top, int height) {
-    const QRgb ground = picture.pixel(left - 2, row.top() + 1);
-    for (int y = top; y < top + height; ++y)
-      for (int x = left; x < row.right(); ++x)
-        if (picture.pixel(x, y) != ground) return true;
-    return false;
-  };
-  EXPECT_TRUE(isInked(row.top(), row.height() / 2 - 1));
-  EXPECT_TRUE(isInked(row.center().y() + 2, row.height() / 2 - 3));
+// How many lines of text the second column of the first row shows.
+int LinesOfText(const ListBox& list) {
+  const QRect row = list.visualItemRect(list.topLevelItem(0));
+  const int left = list.header()->sectionViewportPosition(1) + 4;
+  const QImage picture = list.viewport()->grab().toImage();
+  const QRgb ground = picture.pixel(left - 2, row.top() + 1);
+  int lines = 0;
+  bool inked = false;
+  for (int y = row.top(); y <= row.bottom(); ++y) {
+    const bool before = std::exchange(inked, false);
+    for (int x = left; x < picture.width(); ++x) inked = inked || picture.pixel(x, y) != ground;
+    if (inked && !before) ++lines;
+  }
+  return lines;
+}
+
+// In capitals, which have no dots above and nothing below.
+TEST_F(FoldingList, PaintsBothLines) {
+  list->topLevelItem(0)->setText(1, "CONDENSER APERTURE STOP");
+  ShowIn(1000);
+  EXPECT_EQ(LinesOfText(*list), 1);
+  ShowIn(2 * list->frameWidth() + list->fontMetrics().horizontalAdvance("Dial 1") +
+         list->fontMetrics().horizontalAdvance("CONDENSER APERTURE") + 40);
+  EXPECT_EQ(LinesOfText(*list), 2);
+}
+
+TEST_F(FoldingList, IsElidedInOneLineWhereNothingFolds) {
+  list->SetFoldingColumn(-1);
+  list->topLevelItem(0)->setText(1, "CONDENSER APERTURE STOP");
+  ShowIn(1000);
+  list->header()->resizeSection(1, 100);
+  EXPECT_EQ(LinesOfText(*list), 1);
 }
 
 }  // namespace

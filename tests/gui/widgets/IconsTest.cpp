@@ -42,9 +42,33 @@ TEST(Icons, TheAccentIsOneColourOrTheLinesOwn) {
 }
 
 TEST(Icons, AScaledScreenGetsAllItsPixels) {
+  EXPECT_EQ(Icon(IconName::Save, 22, {Qt::black, {}}).width(), 22);
   const QPixmap icon = Icon(IconName::Save, 22, {Qt::black, {}}, 2);
   EXPECT_EQ(icon.width(), 44);
   EXPECT_EQ(icon.devicePixelRatio(), 2);
+  EXPECT_EQ(Icon(IconName::Save, 22, {Qt::black, {}}).width(), 22) << "the first one again";
+}
+
+TEST(Icons, AreNotTakenForOthersThatDifferInOneThing) {
+  const QImage first = Drawn(IconName::Receive, {Qt::red, Qt::green}, 24);
+  EXPECT_NE(Drawn(IconName::Send, {Qt::red, Qt::green}, 24), first);
+  EXPECT_NE(Drawn(IconName::Receive, {Qt::red, Qt::green}, 25), first);
+  EXPECT_NE(Drawn(IconName::Receive, {Qt::blue, Qt::green}, 24), first);
+  EXPECT_NE(Drawn(IconName::Receive, {Qt::red, Qt::blue}, 24), first);
+  EXPECT_NE(Drawn(IconName::Receive, {Qt::red, {}}, 24), first);
+  EXPECT_EQ(Drawn(IconName::Receive, {Qt::red, Qt::green}, 24), first);
+}
+
+TEST(Icons, ArePaintedAsTheirPicturesShowThem) {
+  for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled, QIcon::Selected}) {
+    QImage painted(60, 50, QImage::Format_ARGB32_Premultiplied);
+    painted.fill(Qt::transparent);
+    QPainter painter(&painted);
+    Icon(IconName::Receive).paint(&painter, QRect(10, 5, 40, 40), Qt::AlignCenter, mode);
+    painter.end();
+    const QPixmap picture = Icon(IconName::Receive).pixmap(QSize(40, 40), 1, mode);
+    EXPECT_EQ(painted.copy(10, 5, 40, 40), picture.toImage().convertToFormat(painted.format()));
+  }
 }
 
 TEST(Icons, ADisabledIconStandsInTheDisabledTextColour) {

@@ -4,12 +4,9 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QThread>
-#include <QtMath>
 #include <utility>
 
-#include "gui/support/FontScope.h"
 #include "gui/support/TestWindow.h"
-#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -56,33 +53,6 @@ TEST_F(ListBoxTest, ProgramRaisesAClickForANewValidIndexOnly) {
   list->setIndex(7);
   list->setIndex(1);
   EXPECT_EQ(Indices(clicks), (Rows{1, 1}));
-}
-
-// Rows of pixels in which a column head shows ink.
-int InkedRows(const QString& head) {
-  ListBox list;
-  list.SetColumns({{head}, {}});
-  list.resize(300, 200);
-  list.show();
-  const QImage picture = list.header()->grab().toImage();
-  int inked = 0;
-  for (int y = 0; y < picture.height(); ++y) {
-    const QRgb ground = picture.pixel(1, y);
-    bool found = false;
-    for (int x = 2; x < list.header()->sectionSize(0); ++x) {
-      found = found || std::abs(qGray(picture.pixel(x, y)) - qGray(ground)) > 32;
-    }
-    inked += found ? 1 : 0;
-  }
-  return inked;
-}
-
-TEST(ListBoxHead, ShowsItsTextDownToTheFeetInEveryFont) {
-  for (const double points : {9.0, 10.0, 12.0, 14.0, 16.0, 18.0}) {
-    const FontScope scope(FontOf(points));
-    const QRectF whole = QFontMetricsF(CaptionFont()).tightBoundingRect("Typg");
-    EXPECT_GE(InkedRows("Typg"), qFloor(whole.height())) << points;
-  }
 }
 
 TEST_F(ListBoxTest, AnIndexThatIsNoRowClearsTheSelection) {
@@ -176,11 +146,13 @@ TEST_F(ListBoxTest, AHandlerMayGoBackToAnotherRow) {
 }
 
 TEST_F(ListBoxTest, RowsKeepTextAndData) {
+  EXPECT_EQ(list->addRow("four"), 3);
+  EXPECT_EQ(list->addCells({"five"}), 4);
   EXPECT_EQ(list->text(2), "three");
   EXPECT_EQ(list->data(2).toInt(), 5);
   list->setData(2, 9);
   EXPECT_EQ(list->data(2).toInt(), 9);
-  EXPECT_EQ(list->text(3), QString());
+  EXPECT_EQ(list->text(5), QString());
   EXPECT_FALSE(list->data(-1).isValid());
 }
 
@@ -232,6 +204,23 @@ TEST_F(ListBoxTest, AMouseClickOnTheMarkTurnsIt) {
                     QPoint(row.left() + 14, row.center().y()));
   EXPECT_FALSE(list->isRowChecked(1));
   EXPECT_EQ(Indices(checks), (Rows{1}));
+}
+
+TEST_F(ListBoxTest, ADoubleClickOnTheMarkTurnsItTwice) {
+  list->SetRowChecked(1, true);
+  list->setIndex(1);
+  QSignalSpy checks(list, &ListBox::rowChecked);
+  const QRect row = list->visualItemRect(list->topLevelItem(1));
+  const QPoint mark(row.left() + 14, row.center().y());
+  for (const QEvent::Type press : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+    for (const QEvent::Type type : {press, QEvent::MouseButtonRelease}) {
+      QMouseEvent event(type, mark, list->viewport()->mapToGlobal(mark), Qt::LeftButton,
+                        type == press ? Qt::LeftButton : Qt::NoButton, {});
+      QApplication::sendEvent(list->viewport(), &event);
+    }
+  }
+  EXPECT_TRUE(list->isRowChecked(1));
+  EXPECT_EQ(Indices(checks), (Rows{1, 1}));
 }
 
 TEST_F(ListBoxTest, RowsAreNeverLowerThanTheGrid) {

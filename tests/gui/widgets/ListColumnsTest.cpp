@@ -1,13 +1,16 @@
 // The columns of a list, and the dot of a row in the first of them.
 #include <QHeaderView>
 #include <QHelpEvent>
-
 #include <QToolTip>
+#include <QtMath>
+
 #include "gui/support/Face.h"
+#include "gui/support/FontScope.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/ListBox.h"
 #include "widgets/NotSent.h"
 #include "widgets/RowDelegate.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -105,6 +108,15 @@ TEST_F(ColumnsOfAList, AreAsWideAsTheirNewHeads) {
   }
 }
 
+TEST_F(ColumnsOfAList, KeepTheirWidthsWhereTheEdgeOfOneIsDragged) {
+  const int last = list->header()->sectionSize(2);
+  list->header()->resizeSection(0, list->header()->sectionSize(0) - 40);
+  EXPECT_EQ(list->header()->sectionSize(2), last);
+  list->SetColumns({{"Name"}});
+  QApplication::processEvents();
+  EXPECT_EQ(list->header()->sectionSize(0), list->viewport()->width()) << "one alone has it all";
+}
+
 TEST_F(ColumnsOfAList, OneAloneIsNeverScrolledSideways) {
   EXPECT_EQ(list->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
   list->SetColumns({{"Name"}});
@@ -136,6 +148,33 @@ TEST_F(ColumnsOfAList, AnIconStandsInTheFirstOne) {
   };
   EXPECT_EQ(widthOfRed(0), 22);
   EXPECT_EQ(widthOfRed(1), 0);
+}
+
+// Rows of pixels in which a column head shows ink.
+int InkedRows(const QString& head) {
+  ListBox list;
+  list.SetColumns({{head}, {}});
+  list.resize(300, 200);
+  list.show();
+  const QImage picture = list.header()->grab().toImage();
+  int inked = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    const QRgb ground = picture.pixel(1, y);
+    bool found = false;
+    for (int x = 2; x < list.header()->sectionSize(0); ++x) {
+      found = found || std::abs(qGray(picture.pixel(x, y)) - qGray(ground)) > 32;
+    }
+    inked += found ? 1 : 0;
+  }
+  return inked;
+}
+
+TEST(ListBoxHead, ShowsItsTextDownToTheFeetInEveryFont) {
+  for (const double points : {9.0, 10.0, 12.0, 14.0, 16.0, 18.0}) {
+    const FontScope scope(FontOf(points));
+    const QRectF whole = QFontMetricsF(CaptionFont()).tightBoundingRect("Typg");
+    EXPECT_GE(InkedRows("Typg"), qFloor(whole.height())) << points;
+  }
 }
 
 struct DotRow {

@@ -1,5 +1,6 @@
 #include "widgets/PageHeader.h"
 
+#include "gui/support/EventLoop.h"
 #include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
 #include "widgets/SectionBar.h"
@@ -80,6 +81,19 @@ TEST(PageHeader, TheTitleStandsBesideItsIconAndTheBarBehindTheLongestTitle) {
   EXPECT_EQ(header.height(), 56);
   EXPECT_EQ(header.minimumSizeHint().width(),
             qMax(38 + title->sizeHint().width(), bar->minimumSizeHint().width()));
+}
+
+TEST(PageHeader, MakesRoomForAnOptionThatIsAddedLater) {
+  PageHeader header(IconName::Cube, "Cubes");
+  SectionBar* bar = header.AddSectionBar();
+  bar->AddOption("One");
+  header.resize(600, 56);
+  header.show();
+  QApplication::processEvents();
+  const int before = bar->width();
+  bar->AddOption("Two");
+  test::DeliverAll();
+  EXPECT_EQ(bar->width(), before + bar->option(1)->sizeHint().width());
 }
 
 TEST(PageHeader, TheIconStandsInTheMiddleOfTheTitlesHeight) {

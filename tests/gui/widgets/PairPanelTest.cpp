@@ -65,14 +65,18 @@ TEST_F(PairPanelTest, APartThatKeepsItsShapeIsAsWideAsHighAndNoWiderThanTheOther
   struct Row {
     QSize panel;
     QRect left;
+    QRect right;
   };
-  for (const Row& row : {Row{{1600, 600}, {0, 0, 600, 600}}, Row{{1600, 900}, {0, 0, 700, 900}},
-                         Row{{816, 600}, {0, 0, 500, 600}}, Row{{516, 600}, {0, 0, 200, 600}},
-                         Row{{400, 466}, {50, 166, 300, 300}}}) {
+  for (const Row& row : {Row{{1600, 600}, {0, 0, 600, 600}, {616, 0, 984, 600}},
+                         Row{{1600, 900}, {0, 0, 700, 900}, {716, 0, 884, 900}},
+                         Row{{816, 600}, {0, 0, 500, 600}, {516, 0, 300, 600}},
+                         Row{{516, 600}, {0, 0, 200, 600}, {216, 0, 300, 600}},
+                         Row{{400, 466}, {50, 166, 300, 300}, {0, 0, 400, 150}}}) {
     panel.resize(row.panel);
     panel.show();
     QApplication::processEvents();
     EXPECT_EQ(first->geometry(), row.left) << row.panel.width();
+    EXPECT_EQ(second->geometry(), row.right) << row.panel.width();
   }
 }
 

@@ -62,15 +62,17 @@ struct ArcRow {
 class PathDataArcs : public testing::TestWithParam<ArcRow> {};
 
 // The four arcs of radius 5 between two points that are 6 apart, and others.
-INSTANTIATE_TEST_SUITE_P(Rows, PathDataArcs,
-                         testing::Values(ArcRow{"M2 9a5 5 0 0 1 6 0", {2, 8, 6, 1}},
-                                         ArcRow{"M2 9A5 5 0 0 0 8 9", {2, 9, 6, 1}},
-                                         ArcRow{"M2 9a5 5 0 1 1 6 0", {0, 0, 10, 9}},
-                                         ArcRow{"M2 9a5 5 0 1 0 6 0", {0, 9, 10, 9}},
-                                         ArcRow{"M0 5a5 5 0 0 1 10 0", {0, 0, 10, 5}},
-                                         ArcRow{"M0 5a1 1 0 0 1 10 0", {0, 0, 10, 5}},
-                                         ArcRow{"M0 5a10 5 0 0 1 20 0", {0, 0, 20, 5}},
-                                         ArcRow{"M0 0a5 5 0 0 1 0 0", {0, 0, 0, 0}}));
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PathDataArcs,
+    testing::Values(
+        ArcRow{"M2 9a5 5 0 0 1 6 0", {2, 8, 6, 1}}, ArcRow{"M2 9A5 5 0 0 0 8 9", {2, 9, 6, 1}},
+        ArcRow{"M2 9a5 5 0 1 1 6 0", {0, 0, 10, 9}}, ArcRow{"M2 9a5 5 0 1 0 6 0", {0, 9, 10, 9}},
+        ArcRow{"M0 5a5 5 0 0 1 10 0", {0, 0, 10, 5}}, ArcRow{"M0 5a1 1 0 0 1 10 0", {0, 0, 10, 5}},
+        ArcRow{"M0 5a10 5 0 0 1 20 0", {0, 0, 20, 5}}, ArcRow{"M0 0a5 5 0 0 1 0 0", {0, 0, 0, 0}},
+        ArcRow{"M10 5A5 5 0 0 1 9.33013 7.5", {9.33013, 5, 0.66987, 2.5}},
+        ArcRow{"M9.33013 7.5A5 5 0 0 0 10 5", {9.33013, 5, 0.66987, 2.5}},
+        ArcRow{"M10 5A5 5 0 1 0 9.33013 7.5", {0, 0, 10, 10}},
+        ArcRow{"M9.33013 7.5A5 5 0 1 1 10 5", {0, 0, 10, 10}}));
 
 TEST_P(PathDataArcs, RunAsTheirFlagsSay) {
   const auto path = ParsePathData(QString::fromLatin1(GetParam().data));

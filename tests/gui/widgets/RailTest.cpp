@@ -104,6 +104,10 @@ TEST_F(RailTest, HomeAndEndMoveTheFocusToTheEndsThatCanBeUsed) {
   EXPECT_TRUE(rail->button(2)->hasFocus());
   QTest::keyClick(rail->button(2), Qt::Key_Down);
   EXPECT_TRUE(rail->button(2)->hasFocus()) << "nothing below can be used";
+  rail->SetPageEnabled(3, true);
+  QTest::keyClick(rail->button(2), Qt::Key_End);
+  EXPECT_TRUE(rail->button(3)->hasFocus());
+  rail->button(2)->setFocus();
   QTest::keyClick(rail->button(2), Qt::Key_Home);
   EXPECT_TRUE(rail->button(0)->hasFocus());
   EXPECT_EQ(changes.count(), 0);
@@ -252,6 +256,29 @@ TEST_F(RailTest, UpAndDownPassOverTheButtonThatCannotBeUsed) {
   EXPECT_TRUE(rail->button(1)->hasFocus());
   QTest::keyClick(rail->button(1), Qt::Key_Down);
   EXPECT_TRUE(rail->button(3)->hasFocus());
+}
+
+// A page that is scrolled would take the key for its own.
+TEST(RailKeys, ThatMoveTheFocusGoNoFurther) {
+  class Behind : public QWidget {
+   public:
+    std::vector<int> keys;
+
+   protected:
+    void keyPressEvent(QKeyEvent* event) override { keys.push_back(event->key()); }
+  };
+  Behind behind;
+  auto* rail = new Rail(&behind);
+  for (const char* text : {"System", "Objectives"}) rail->AddPage(IconName::System, text);
+  behind.show();
+  behind.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&behind));
+  rail->button(0)->setFocus();
+  for (const Qt::Key key :
+       {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up, Qt::Key_End, Qt::Key_Home, Qt::Key_A}) {
+    QTest::keyClick(QApplication::focusWidget(), key);
+  }
+  EXPECT_EQ(behind.keys, std::vector<int>{Qt::Key_A});
 }
 
 TEST(RailFace, HasItsGroundBesideItsPages) {

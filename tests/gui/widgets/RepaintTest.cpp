@@ -4,6 +4,7 @@
 #include "widgets/CheckToggle.h"
 #include "widgets/ComboBox.h"
 #include "widgets/CommandKey.h"
+#include "widgets/ListBox.h"
 #include "widgets/NotSentMark.h"
 #include "widgets/PageButton.h"
 #include "widgets/ProgressLine.h"
@@ -58,6 +59,25 @@ TEST(Repaint, FollowsEachChangeOfAFace) {
   auto* strip = new TabStrip;
   strip->SetNumberedTabs(2);
   ExpectPainted<TabStrip>("not sent", strip, [](auto& c) { c.SetTabPending(0, true); });
+}
+
+// The line around the list; its rows are painted in the viewport.
+TEST(Repaint, TheLineOfAListFollowsTheFocus) {
+  TestWindow window;
+  auto* other = window.Add<QLineEdit>();
+  auto* list = window.Add<ListBox>();
+  list->addRow("one");
+  list->setIndex(0);
+  window.Show();
+  other->setFocus();
+  QApplication::processEvents();
+  test::PaintCount paints(*list);
+  for (QWidget* next : {static_cast<QWidget*>(list), static_cast<QWidget*>(other)}) {
+    paints.count = 0;
+    next->setFocus();
+    QApplication::processEvents();
+    EXPECT_GT(paints.count, 0);
+  }
 }
 
 struct RoomRow {

@@ -219,6 +219,13 @@ TEST_F(SectionBarTest, ArrowsGoFromTheEndOfARowToTheNextOne) {
   EXPECT_EQ(press(Qt::Key_Down), 2) << "the one below";
 }
 
+TEST(EmptySectionBar, TakesNoRoom) {
+  const SectionBar bar;
+  EXPECT_EQ(bar.sizeHint(), QSize(0, 0));
+  EXPECT_EQ(bar.minimumSizeHint(), QSize(0, 0));
+  EXPECT_EQ(bar.heightForWidth(100), 0);
+}
+
 TEST_F(SectionBarTest, OptionsBearTheNameOfTheBarAndTheirText) {
   EXPECT_EQ(bar->option(2)->objectName(), "optSettings_2");
   EXPECT_EQ(bar->option(2)->accessibleName(), "Limit Control");

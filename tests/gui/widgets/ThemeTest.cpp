@@ -57,6 +57,36 @@ INSTANTIATE_TEST_SUITE_P(Schemes, ThemeIn, ::testing::Values(Scheme::Light, Sche
                            return row.param == Scheme::Dark ? "Dark" : "Light";
                          });
 
+struct SystemRow {
+  const char* asked;  // null for a variable that is not set
+  int window;         // lightness
+  int text;
+  Scheme scheme;
+};
+
+TEST(Theme, IsThatOfTheVariableOrElseOfTheSystemsColours) {
+  const bool wasSet = qEnvironmentVariableIsSet("MORTANE_SCHEME");
+  const QByteArray was = qgetenv("MORTANE_SCHEME");
+  for (const SystemRow& row :
+       {SystemRow{nullptr, 200, 20, Scheme::Light}, SystemRow{nullptr, 20, 200, Scheme::Dark},
+        SystemRow{nullptr, 100, 100, Scheme::Light}, SystemRow{nullptr, 100, 101, Scheme::Dark},
+        SystemRow{"dark", 200, 20, Scheme::Dark}, SystemRow{"light", 20, 200, Scheme::Light},
+        SystemRow{"other", 20, 200, Scheme::Dark}, SystemRow{"", 200, 20, Scheme::Light}}) {
+    if (row.asked != nullptr) {
+      qputenv("MORTANE_SCHEME", row.asked);
+    } else {
+      qunsetenv("MORTANE_SCHEME");
+    }
+    QPalette system;
+    system.setColor(QPalette::Window, QColor::fromHsl(0, 0, row.window));
+    system.setColor(QPalette::WindowText, QColor::fromHsl(0, 0, row.text));
+    QApplication::setPalette(system);
+    EXPECT_EQ(SystemScheme(), row.scheme) << row.window << ' ' << row.text;
+  }
+  wasSet ? qputenv("MORTANE_SCHEME", was) : qunsetenv("MORTANE_SCHEME");
+  ApplyTheme(Application(), Scheme::Light);
+}
+
 TEST(Theme, SchemesDifferAndAmberDoesNot) {
   ApplyTheme(Application(), Scheme::Dark);
   EXPECT_EQ(CurrentScheme(), Scheme::Dark);
