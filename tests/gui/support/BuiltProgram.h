@@ -9,6 +9,7 @@
 #include <QTest>
 #include <algorithm>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "gui/support/Display.h"
@@ -26,7 +27,10 @@ inline bool Await(const std::function<bool()>& happened, int patienceMs = kPatie
 class BuiltProgram : public testing::Test {
  protected:
   BuiltProgram(const char* path, const char* title) : path_(path), title_(title) {}
-  void SetUp() override { ASSERT_GT(display_.Name().size(), 1) << "Xvfb did not start"; }
+  // One display for all tests of a suite: to start one takes as long as to start the program.
+  static void SetUpTestSuite() { display_ = std::make_unique<Display>(); }
+  static void TearDownTestSuite() { display_.reset(); }
+  void SetUp() override { ASSERT_GT(display_->Name().size(), 1) << "Xvfb did not start"; }
   ~BuiltProgram() override {
     program_.kill();
     program_.waitForFinished(kPatienceMs);
@@ -37,7 +41,7 @@ class BuiltProgram : public testing::Test {
   }
   void Start(QProcess& program, const QStringList& arguments, const std::string& bench = {}) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("DISPLAY", display_.Name());
+    environment.insert("DISPLAY", display_->Name());
     environment.insert("QT_QPA_PLATFORM", "xcb");
     environment.insert("MORTANE_BENCH", QString::fromStdString(bench));
     // Where no session before has left the place of its window.
@@ -48,15 +52,7 @@ class BuiltProgram : public testing::Test {
     program.start(path_, arguments);
     ASSERT_TRUE(program.waitForStarted(kPatienceMs));
   }
-  QStringList Tool(const QStringList& arguments) {
-    QProcess tool;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("DISPLAY", display_.Name());
-    tool.setProcessEnvironment(environment);
-    tool.start("xdotool", arguments);
-    EXPECT_TRUE(tool.waitForFinished(kPatienceMs));
-    return QString::fromUtf8(tool.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-  }
+  QStringList Tool(const QStringList& arguments) { return display_->Tool(arguments); }
   QStringList Windows(const QString& title) {
     return Tool({"search", "--onlyvisible", "--name", "^" + title + "$"});
   }
@@ -89,10 +85,10 @@ class BuiltProgram : public testing::Test {
   }
   // Acts, and waits until an area of the display is no more as it was before.
   void AwaitChange(const QRect& area, const std::function<void()>& act) {
-    const QByteArray before = display_.Pixels(area);
+    const QByteArray before = display_->Pixels(area);
     ASSERT_FALSE(before.isEmpty()) << "no picture of the display";
     act();
-    EXPECT_TRUE(Await([&] { return display_.Pixels(area) != before; })) << "no change in sight";
+    EXPECT_TRUE(Await([&] { return display_->Pixels(area) != before; })) << "no change in sight";
   }
   // A window that is still loading its pages drops what was typed meanwhile. Once it rests, it
   // sleeps, and nothing wakes it from one look to the next.
@@ -128,7 +124,7 @@ class BuiltProgram : public testing::Test {
   QString title_;
   TempFolder config_;
   DeviceNamesLock lock_;
-  Display display_;
+  static inline std::unique_ptr<Display> display_;
   QProcess program_;
   QByteArray errors_;  // of a program that has ended well
 };

@@ -1,7 +1,9 @@
 // A virtual display of its own for programs that a test works from outside.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <sys/prctl.h>
+#include <sys/wait.h>
 
 #include <QFile>
 #include <QProcess>
@@ -9,6 +11,7 @@
 #include <QtEndian>
 #include <array>
 #include <csignal>
+#include <cstdio>
 
 #include "support/TempFolder.h"
 
@@ -38,6 +41,25 @@ class Display {
     server_.waitForFinished(kPatienceMs);
   }
   const QString& Name() const { return name_; }
+
+  // The lines that xdotool answers; no argument has a quotation mark. A fork of this process would
+  // copy the sanitizer's page tables, which takes longer than xdotool; popen starts it without.
+  QStringList Tool(const QStringList& arguments) const {
+    const QString command = QStringLiteral("DISPLAY=%1 timeout %2 xdotool '%3'")
+                                .arg(name_)
+                                .arg(kPatienceMs / 1000)
+                                .arg(arguments.join("' '"));
+    std::FILE* const pipe = ::popen(command.toUtf8().constData(), "r");
+    if (pipe == nullptr) return {};
+    QByteArray lines;
+    std::array<char, 4096> part{};
+    while (const std::size_t size = std::fread(part.data(), 1, part.size(), pipe)) {
+      lines.append(part.data(), static_cast<qsizetype>(size));
+    }
+    constexpr int kTimeoutEnded = 124;
+    EXPECT_NE(WEXITSTATUS(::pclose(pipe)), kTimeoutEnded) << command.toStdString();
+    return QString::fromUtf8(lines).split('\n', Qt::SkipEmptyParts);
+  }
 
   // The pixels of an area, to be compared; empty when there are none.
   QByteArray Pixels(const QRect& area) const {
