@@ -165,9 +165,13 @@ bool ProgramForm::eventFilter(QObject* watched, QEvent* event) {
   return QMainWindow::eventFilter(watched, event);
 }
 
-// The end of a command or a flush comes back to it.
+// The end of a command starts the timer anew, and so does the end of a flush.
 void ProgramForm::LookForPending() {
-  if (!startEnded_ || commandRunning_ || InputFlush::IsRunning()) return;
+  if (!startEnded_ || commandRunning_) return;
+  if (InputFlush::IsRunning()) {
+    InputFlush::WhenOver(*this, [this] { pendingTimer_.start(0); });
+    return;
+  }
   const std::vector<ItemChange> changes = pending_.Find();
   if (changes.empty()) {
     unsentTimer_.stop();

@@ -11,11 +11,13 @@
 #include "AppRig.h"
 #include "app/ControlSettingsCtl.h"
 #include "app/DifferencesDlg.h"
+#include "app/InputFlush.h"
 #include "app/PendingChanges.h"
 #include "app/SessionNote.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
 #include "drives/ControlFocusDriveCtl.h"
+#include "gui/support/EventLoop.h"
 #include "objectives/clsNosepiece.h"
 #include "widgets/PageButton.h"
 #include "widgets/SectionBar.h"
@@ -152,6 +154,26 @@ TEST_F(Pending, StandsInTheOrderOfThePagesAndOfTheFile) {
     found.push_back(change.to.key.section + " " + change.to.key.position);
   EXPECT_EQ(found,
             (std::vector<std::string>{"SYSTEM ", "NOSEPIECE 1", "NOSEPIECE 2", "NOSEPIECE 3"}));
+}
+
+// Opening the tab drops input, and the comparison that the click asks for is due meanwhile.
+TEST_F(Pending, IsLookedForOnceAnActThatDropsInputIsOver) {
+  QTest::mousePress(rig.form->ImageButton[5], Qt::LeftButton);
+  Look();
+  InputFlush flush;
+  int flushes = 0;
+  rig.prompts.onCall = [&] {
+    if (rig.prompts.Log().back() != "flush") return;
+    ++flushes;
+    flush.Run();
+  };
+  GetK70().curNosepiece.code(1, 7);
+  QTest::mouseClick(rig.form->ControlSettingsCtl1->optControl->option(controltab::kOther),
+                    Qt::LeftButton);
+  DeliverAll();
+  rig.prompts.onCall = {};
+  ASSERT_EQ(flushes, 1);
+  EXPECT_TRUE(rig.form->ImageButton[1]->isPending());
 }
 
 struct SectionPage {
