@@ -17,10 +17,6 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
-constexpr int kOverwritePrompt = 2;
-constexpr int kPathMustExist = 2048;
-constexpr int kFileMustExist = 4096;
-
 QStringList PatternsOf(const std::string& filter) {
   return QString::fromStdString(filter).section(u'|', -1).split(u';');
 }
@@ -55,13 +51,14 @@ class FileList : public QListWidget {
 }  // namespace
 
 FileDialog::FileDialog(AcceptMode mode, const FileQuestion& question, const RecentFiles& recent)
-    : QFileDialog(ParentOfBoxes()), pathMustExist_((question.flags & kPathMustExist) != 0) {
+    : QFileDialog(ParentOfBoxes()),
+      pathMustExist_((question.flags & dialogflag::kPathMustExist) != 0) {
   setAcceptMode(mode);
   // The system's own dialog gets no title by itself.
   setWindowTitle(mode == AcceptSave ? u"Save As"_s : u"Open"_s);
   setNameFilter(NameFilter(question.filter));
-  setFileMode((question.flags & kFileMustExist) != 0 ? ExistingFile : AnyFile);
-  setOption(DontConfirmOverwrite, (question.flags & kOverwritePrompt) == 0);
+  setFileMode((question.flags & dialogflag::kFileMustExist) != 0 ? ExistingFile : AnyFile);
+  setOption(DontConfirmOverwrite, (question.flags & dialogflag::kOverwritePrompt) == 0);
   // The extension is given with its dot, which the toolkit adds by itself.
   QString suffix = QString::fromStdString(question.defaultExtension);
   if (suffix.startsWith(u'.')) suffix.remove(0, 1);
