@@ -17,16 +17,20 @@ namespace {
 // Of a title bar, beside its text.
 constexpr int kKeysInTitleBar = 4;
 
-QLabel* LabelOf(const QMessageBox& box) {
-  return box.findChild<QLabel*>(u"qt_msgbox_label"_s);
-}
-
 // The field that stands in the place of the label of a long text; nullptr without one.
 QPlainTextEdit* FieldOf(const QMessageBox& box) {
   return box.findChild<QPlainTextEdit*>();
 }
 
 }  // namespace
+
+BoxLabel FindBoxLabel(const QMessageBox& box) {
+  BoxLabel found{box.findChild<QLabel*>(u"qt_msgbox_label"_s),
+                 static_cast<QGridLayout*>(box.layout())};
+  found.grid->getItemPosition(found.grid->indexOf(found.label), &found.row, &found.column,
+                              &found.rowSpan, &found.columnSpan);
+  return found;
+}
 
 CopiedBox::CopiedBox(Icon icon, const QString& title, const QString& text, QWidget* parent)
     : QMessageBox(icon, title, text, NoButton, parent) {
@@ -39,11 +43,9 @@ CopiedBox::CopiedBox(Icon icon, const QString& title, const QString& text, QWidg
 // the label itself would stand in place of the width of its text, and cut a text that is longer.
 void CopiedBox::LeaveRoomForTitle() {
   const int bar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-  auto& grid = static_cast<QGridLayout&>(*layout());
-  int row = 0, column = 0, rows = 0, columns = 0;
-  grid.getItemPosition(grid.indexOf(LabelOf(*this)), &row, &column, &rows, &columns);
-  grid.setColumnMinimumWidth(
-      column, fontMetrics().horizontalAdvance(windowTitle()) + kKeysInTitleBar * bar);
+  const BoxLabel text = FindBoxLabel(*this);
+  text.grid->setColumnMinimumWidth(
+      text.column, fontMetrics().horizontalAdvance(windowTitle()) + kKeysInTitleBar * bar);
 }
 
 void CopiedBox::keyPressEvent(QKeyEvent* event) {
@@ -54,7 +56,7 @@ void CopiedBox::keyPressEvent(QKeyEvent* event) {
 
 void CopiedBox::SelectText() {
   if (QPlainTextEdit* field = FieldOf(*this)) return field->selectAll();
-  QLabel* label = LabelOf(*this);
+  QLabel* label = FindBoxLabel(*this).label;
   label->setSelection(0, static_cast<int>(label->text().size()));
 }
 
@@ -63,7 +65,7 @@ void CopiedBox::CopyText() const {
   if (const QPlainTextEdit* field = FieldOf(*this)) {
     selected = field->textCursor().selection().toPlainText();
   } else {
-    selected = LabelOf(*this)->selectedText().replace(QChar::ParagraphSeparator, u'\n');
+    selected = FindBoxLabel(*this).label->selectedText().replace(QChar::ParagraphSeparator, u'\n');
   }
   const QString all = windowTitle() + u"\n\n"_s + text();
   QGuiApplication::clipboard()->setText(selected.isEmpty() ? all : selected);

@@ -5,8 +5,9 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QScreen>
-#include <QScrollBar>
 #include <algorithm>
+
+#include "app/BoxText.h"
 
 namespace mortane {
 
@@ -20,17 +21,10 @@ constexpr double kShareOfWidth = 0.6;
 // Where the toolkit's box breaks lines.
 constexpr int kWidthOfLines = 500;
 
-// The field in the place of the box's label.
 void PutInPlaceOfLabel(QMessageBox& box, QPlainTextEdit* field) {
-  auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
-  auto* grid = static_cast<QGridLayout*>(box.layout());
-  int row = 0;
-  int column = 0;
-  int rows = 0;
-  int columns = 0;
-  grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
-  label->hide();
-  grid->addWidget(field, row, column, rows, columns);
+  const BoxLabel text = FindBoxLabel(box);
+  text.label->hide();
+  text.grid->addWidget(field, text.row, text.column, text.rowSpan, text.columnSpan);
 }
 
 }  // namespace
