@@ -4,12 +4,10 @@
 #include <array>
 #include <utility>
 
-#include "app/PageTable.h"
 #include "common/Failure.h"
 #include "common/Text.h"
 #include "hub/SettingsFile.h"
 #include "hub/clsK70.h"
-#include "model/FileWords.h"
 #include "record/ItemIndex.h"
 #include "record/ModelItems.h"
 #include "record/SentItems.h"
@@ -19,14 +17,6 @@ namespace {
 
 // In the order of the file's sections: the last three stand on the page of the controls.
 constexpr std::array<std::size_t, kFileSections.size()> kPages{0, 1, 2, 3, 4, 5, 5, 5};
-
-constexpr std::string_view kUnknownWord = "Unknown";
-
-ConfigurationItem Unknown(ConfigurationItem item) {
-  item.value = kUnknownWord;
-  item.exact.clear();
-  return item;
-}
 
 }  // namespace
 
@@ -79,7 +69,7 @@ std::vector<ItemChange> PendingChanges::Find() const {
     changes = std::move(differences.changed);
     // What follows nosepiece, light path and zoom has an entry only while it is known.
     for (ConfigurationItem& item : differences.onlySecond) {
-      changes.push_back({Unknown(item), std::move(item)});
+      changes.push_back({WithUnknownValue(item), std::move(item)});
     }
   } catch (const Failure&) {
     return {};

@@ -20,18 +20,11 @@
 namespace mortane {
 namespace {
 
-constexpr std::string_view kUnknownWord = "Unknown";
 constexpr std::string_view kBuzzerOn = "False";
 constexpr std::string_view kBuzzerOff = "True";
 constexpr std::string_view kBuzzersDiffer = "2";
 constexpr std::string_view kInterlockIsOn = "True";
 constexpr std::string_view kInterlockIsOff = "False";
-
-ConfigurationItem Unknown(ConfigurationItem item) {
-  item.value = kUnknownWord;
-  item.exact.clear();
-  return item;
-}
 
 // The buzzers that a Send commands: those of body, hub and hand controller where there is a body or
 // a hub, and a remote's, which answers to the hub's number.
@@ -134,7 +127,7 @@ class Comparer {
  private:
   ConfigurationItem HeldItem(const ConfigurationItem& wanted) const {
     const ConfigurationItem* held = held_.Find(wanted.key);
-    return held == nullptr ? Unknown(wanted) : *held;
+    return held == nullptr ? WithUnknownValue(wanted) : *held;
   }
 
   void Add(const ConfigurationItem& wanted) {
@@ -165,7 +158,7 @@ class Comparer {
         comparison_.changed.push_back({std::move(held), std::move(wanted)});
       }
     } catch (const Failure&) {
-      comparison_.unknown.push_back({Unknown(wanted), std::move(wanted)});
+      comparison_.unknown.push_back({WithUnknownValue(wanted), std::move(wanted)});
     }
   }
 
@@ -214,9 +207,9 @@ class HeldAfterwards {
       if (now != nullptr && IsKnown(*now) && k70_.WasRead(TransferOf(sent.kind))) return *now;
       if (HoldsUnread(k70_, sent)) return sent;
     } catch (const Failure&) {
-      return Unknown(sent);
+      return WithUnknownValue(sent);
     }
-    return Unknown(sent);
+    return WithUnknownValue(sent);
   }
 
  private:
@@ -226,6 +219,12 @@ class HeldAfterwards {
 };
 
 }  // namespace
+
+ConfigurationItem WithUnknownValue(ConfigurationItem item) {
+  item.value = kUnknownWord;
+  item.exact.clear();
+  return item;
+}
 
 ConfigurationState StateOf(const clsK70& k70) {
   return {ItemsOf(k70), ItemNames(k70)};

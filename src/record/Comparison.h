@@ -23,6 +23,9 @@ ConfigurationState StateOf(const clsK70& k70);
 ConfigurationState StateOf(const clsK70& k70, const DomDocument& sections);
 ConfigurationState StateOf(const DomDocument& document);
 
+// The item as one whose value could not be read.
+ConfigurationItem WithUnknownValue(ConfigurationItem item);
+
 // In the order of the file. `from` is what the microscope holds, `to` what the model would send.
 struct Comparison {
   // A Send writes these with another value.

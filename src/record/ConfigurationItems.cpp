@@ -5,12 +5,12 @@
 
 #include "common/Text.h"
 #include "hub/SettingsFile.h"
+#include "model/FileWords.h"
 
 namespace mortane {
 namespace {
 
 constexpr std::string_view kPosition = "POSITION";
-constexpr std::string_view kUnknownWord = "Unknown";
 constexpr std::string_view kUnknownOffset = "-1";
 
 bool IsName(ItemKind kind) {
