@@ -1,7 +1,6 @@
 // The commands of the main window.
 #include <QAction>
 #include <QFileInfo>
-#include <QLocale>
 #include <QPointer>
 #include <QRadioButton>
 

@@ -1,12 +1,10 @@
 // The controls of the main window and where they stand.
 #include <QAction>
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QToolBar>
 #include <QToolButton>
-#include <algorithm>
 
 #include "app/CommandBar.h"
 #include "app/GetAppIcon.h"

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QPushButton>
 #include <array>
-#include <span>
 
 #include "app/BoxText.h"
 #include "app/LongText.h"

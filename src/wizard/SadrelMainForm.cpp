@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
-#include <optional>
 
 #include "app/CommandBoundary.h"
 #include "app/GetAppIcon.h"
@@ -12,7 +11,6 @@
 #include "app/SettingsFiles.h"
 #include "common/Text.h"
 #include "hub/clsK70.h"
-#include "widgets/ClickFocus.h"
 #include "widgets/Page.h"
 #include "widgets/StyleProperties.h"
 #include "widgets/ValueLabel.h"

@@ -7,7 +7,6 @@
 #include <QRadioButton>
 #include <QStringListModel>
 #include <QVBoxLayout>
-#include <functional>
 #include <utility>
 
 #include "app/SettingsFiles.h"

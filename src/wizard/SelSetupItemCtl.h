@@ -1,7 +1,7 @@
 // The step on which a person says how the wizard is to run and which steps it goes through.
 #pragma once
 
-#include <array>
+#include <functional>
 
 #include "common/Prompts.h"
 #include "widgets/Control.h"
