@@ -5,6 +5,8 @@
 
 #include <deque>
 
+#include "common/Failure.h"
+#include "support/RefusedMutex.h"
 #include "support/Rig.h"
 #include "support/Sample.h"
 
@@ -238,6 +240,15 @@ TEST(StartPath, TheSimulatorAmongSeveralNeedsNoDialogAndNoBox) {
   EXPECT_TRUE(rig.Start({"/SIM"}));
   EXPECT_EQ(rig.k70.lConnectDevice, 0);
   EXPECT_TRUE(rig.prompts.Boxes().empty());
+}
+
+TEST(StartPath, ANameThatTheSystemRefusesGoesToTheCaller) {
+  RigLibrary rig(benches::Named("Harbour"));
+  clsK70 k70(rig.library, rig.prompts, MakeRefusedMutex);
+  k70.Initialize();
+  EXPECT_THROW(ConnectMicroscope({k70, rig.library, rig.prompts, {"mortane"}, {}}), Failure);
+  EXPECT_EQ(k70.lConnectDevice, -1);
+  EXPECT_TRUE(rig.prompts.Log().empty());
 }
 
 class ConnectError : public testing::TestWithParam<Answer> {};

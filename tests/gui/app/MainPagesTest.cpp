@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "drives/clsControlOther.h"
+#include "interlocks/clsInterLockObservation.h"
+#include "interlocks/clsInterLockOffset.h"
+#include "interlocks/clsInterLockOther.h"
 #include "support/Rig.h"
 #include "support/Rows.h"
 
@@ -19,6 +23,8 @@ struct PageCase {
 constexpr std::size_t kObjectivePage = 1;
 constexpr std::size_t kFilterPage = 2;
 constexpr std::size_t kCondenserPage = 3;
+constexpr std::size_t kInterlockPage = 4;
+constexpr std::size_t kControlPage = 5;
 
 void UnfitNosepiece(Bench& bench) {
   Unfit(bench, accessory::kNosepiece);
@@ -56,6 +62,44 @@ TEST(MainPages, AreEnabledByWhatTheMicroscopeHas) {
     Rig rig(std::move(bench));
     rig.ConnectAndReceive();
     EXPECT_EQ(row.isEnabled(rig.k70), given.enabled) << given.page;
+  }
+}
+
+struct UnitCase {
+  std::size_t page;
+  const char* unit;
+  std::vector<std::int32_t> unfitted;
+  // Reads one unit; the others stay as they were made.
+  void (*read)(clsK70& k70);
+  bool enabled;
+};
+
+TEST(MainPages, OfSeveralUnitsAreEnabledByEachOfThemAlone) {
+  using accessory::kXYStage, accessory::kZFocusDrive;
+  const auto nothing = [](clsK70&) {};
+  for (const UnitCase& given :
+       {UnitCase{kInterlockPage, "none", {}, nothing, false},
+        UnitCase{kInterlockPage,
+                 "ILObservation",
+                 {},
+                 [](clsK70& k70) { k70.ILObservation.ReadSdk(); },
+                 true},
+        UnitCase{kInterlockPage, "ILOther", {}, [](clsK70& k70) { k70.ILOther.ReadSdk(); }, true},
+        UnitCase{kInterlockPage, "ILOffset", {}, [](clsK70& k70) { k70.ILOffset.ReadSdk(); }, true},
+        UnitCase{kControlPage, "none", {kXYStage, kZFocusDrive}, nothing, false},
+        UnitCase{kControlPage, "CZDrive", {kXYStage}, nothing, true},
+        UnitCase{kControlPage, "CXYDrive", {kZFocusDrive}, nothing, true},
+        UnitCase{kControlPage,
+                 "COther",
+                 {kXYStage, kZFocusDrive},
+                 [](clsK70& k70) { k70.COther.ReadSdk(); },
+                 true}}) {
+    Bench bench = benches::Named("Harbour");
+    for (const std::int32_t number : given.unfitted) Unfit(bench, number);
+    Rig rig(std::move(bench));
+    rig.Connect();
+    given.read(rig.k70);
+    EXPECT_EQ(MainPages()[given.page].isEnabled(rig.k70), given.enabled) << given.unit;
   }
 }
 
