@@ -28,7 +28,8 @@ struct StartPath {
 };
 
 // Chooses a device, takes its exclusive use, connects and receives. True when the model is
-// connected and filled; false when the program has to end. Everything that went wrong was shown.
+// connected and filled; false when the program has to end. Everything that went wrong was shown,
+// but for a Failure that it raises: of a device name that the system refuses.
 bool ConnectMicroscope(const StartPath& start);
 
 }  // namespace mortane

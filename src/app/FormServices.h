@@ -31,7 +31,7 @@ struct FormServices {
   // Where the states before each Send are kept, and the edits that are not sent; empty: nowhere.
   std::string backupFolder = {};
   std::string unsentFolder = {};
-  // Where the chapters of the manual stand, or would stand.
+  // The folder of the manual's chapters, which need not be installed.
   std::string manualFolder = {};
 };
 

@@ -8,7 +8,8 @@ namespace mortane {
 
 InputFlush* InputFlush::current_ = nullptr;
 
-// Other events may come without end; a round that meets no input has emptied the queue of it.
+// Ends with the first round that meets no input. Waiting for an empty queue could take for ever: a
+// timer may always be due.
 void InputFlush::Run() {
   if (IsRunning()) return;
   current_ = this;
@@ -34,7 +35,8 @@ void InputFlush::WhenOver(QObject& context, std::function<void()> act) {
   }
 }
 
-// A box that stood before the flush is the place of the input to be dropped.
+// A box that opened during the flush has to be answered. Input for one that stood there before is
+// dropped as that of the window is.
 bool InputFlush::IsBoxOpen() const {
   const QWidget* modal = QApplication::activeModalWidget();
   return modal != nullptr && modal != modalBefore_;

@@ -34,9 +34,10 @@ ControlFocusDriveCtl* MakeFocusDrive(clsK70& k70);
 ControlXYStageCtl* MakeXYStage(clsK70& k70);
 ControlOtherCtl* MakeOther(clsK70& k70);
 
-// The same, made late.
+// Sub-pages that are made when they are first shown.
 struct LateDrive {
   LatePlan plan;
+  // Of the page, or of what its loading keeps until it is made.
   std::function<void()> SetNosePosition;
 };
 LateDrive PlanFocusDrive(clsK70& k70);

@@ -133,7 +133,7 @@ void MortaneMainForm::dragEnterEvent(QDragEnterEvent* event) {
   if (!DroppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
-// The dialog of the sections would stand in the way of the program that the file comes from.
+// The program that the file comes from waits until this handler returns, so the dialog comes later.
 void MortaneMainForm::dropEvent(QDropEvent* event) {
   const QString path = DroppedFile(*event->mimeData());
   if (path.isEmpty()) return;
@@ -141,17 +141,19 @@ void MortaneMainForm::dropEvent(QDropEvent* event) {
   QTimer::singleShot(0, this, [this, path] { OpenDropped(path.toStdString()); });
 }
 
-// A page that is not visible wrote its edits to the model when they were made.
-void MortaneMainForm::SaveCurrentPage() {
-  for (std::size_t i = 0; i < optMenu.size(); ++i) {
-    Page* page = pages_[i];
-    if (optMenu[i]->isChecked() && page != nullptr) {
-      RunStep(prompts(), [page] { page->SaveData(); });
-    }
+Page* MortaneMainForm::CurrentPage() const {
+  for (std::size_t i = 0; i < kPageCount; ++i) {
+    if (optMenu[i]->isChecked()) return pages_[i];
   }
+  return nullptr;
 }
 
-// Disabled pages too: what was read is shown as soon as another microscope enables them.
+// A page that is not visible wrote its edits to the model when they were made.
+void MortaneMainForm::SaveCurrentPage() {
+  if (Page* page = CurrentPage()) RunStep(prompts(), [page] { page->SaveData(); });
+}
+
+// Kept: the pages whose buttons are disabled, too.
 void MortaneMainForm::LoadAllPages() {
   for (Page* page : pages_) {
     if (page != nullptr) RunStep(prompts(), [page] { page->LoadData(); });

@@ -27,7 +27,6 @@ class Rail;
 class Page;
 class PageArea;
 class SystemSettingsCtl;
-class clsK70;
 struct FileResult;
 
 class MortaneMainForm : public ProgramForm {
@@ -86,6 +85,8 @@ class MortaneMainForm : public ProgramForm {
   void RefreshPages();
   void EnablePage(std::size_t index, bool enabled, const QString& whyDisabled);
   void OnMenuChanged(std::size_t index);
+  // The page of the option that is selected; nullptr for none.
+  [[nodiscard]] Page* CurrentPage() const;
   void SaveCurrentPage();
   void LoadAllPages();
 

@@ -119,13 +119,9 @@ void MortaneMainForm::DoSend() {
   prompts().FlushInput();
 }
 
-// A saving stores another value for a text that was refused.
+// SaveData stores another value in place of a text that the field refuses.
 void MortaneMainForm::ShowStored() {
-  for (std::size_t i = 0; i < kPageCount; ++i) {
-    Page* page = pages_[i];
-    if (page == nullptr || !optMenu[i]->isChecked()) continue;
-    RunStep(prompts(), [page] { page->ShowStored(); });
-  }
+  if (Page* page = CurrentPage()) RunStep(prompts(), [page] { page->ShowStored(); });
 }
 
 void MortaneMainForm::SaveRecord() {
@@ -194,7 +190,8 @@ void MortaneMainForm::DoSelect() {
   prompts().FlushInput();
 }
 
-// The tool bar's own buttons are not among them: there a transfer can still be tried.
+// Kept: the buttons of the tool bar stay enabled. A transfer without a connection lists its
+// failures.
 void MortaneMainForm::EnableTransfers(bool enabled) {
   ImageCommand[1]->setEnabled(enabled);
   ImageCommand[2]->setEnabled(enabled);

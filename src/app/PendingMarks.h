@@ -11,8 +11,6 @@
 
 namespace mortane {
 
-class ContainerPage;
-
 // Finds the controls of the table of places in a window by their names, those of a page that is
 // made late when it is there. Sets nothing but dots: no page is made, loaded, stores or is asked.
 class PendingMarks {
@@ -41,7 +39,7 @@ class PendingMarks {
     QPointer<QObject> chooser;
     bool isArray = false;
   };
-  // By the place in a control, kOwn for the control itself.
+  // By the place in a control; -1 for the control itself, or for what is chosen in it.
   using Marks = std::map<int, QString>;
   using MarksOfControls = std::map<QObject*, Marks>;
 

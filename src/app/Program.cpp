@@ -93,7 +93,7 @@ int ShowForm(QApplication& application, SessionLibrary& session, Notices& notice
   form->Load();
   form->show();
   const int result = QApplication::exec();
-  // Pages refer to the model to their end, and the model may have something to say at its own.
+  // The pages refer to the model, and the model reports through the prompts what fails as it ends.
   form.reset();
   ReleaseK70();
   return result;

@@ -34,7 +34,7 @@ class ProgramForm : public QMainWindow {
   // Brings the controls to their first state.
   virtual void Load() = 0;
 
-  // Asks nothing, other than the close box.
+  // Closes the window without the question that the close box asks.
   void Unload();
 
   // Keeps the state that a Send is about to overwrite, unless the newest backup is the same. False
@@ -112,7 +112,7 @@ class ProgramForm : public QMainWindow {
   ProgressLine* progress_ = nullptr;
   PendingChanges pending_;
   PendingMarks marks_{*this};
-  QTimer pendingTimer_;  // looks once, however much input came at one go
+  QTimer pendingTimer_;  // for one comparison after all input of a round of the event loop
   UnsentEdits unsent_;
   KeptButton* kept_ = nullptr;
   std::function<void(const FileResult&)> keptOpened_;

@@ -25,9 +25,9 @@ class SessionNote : public ValueLabel {
   void ShowNoMicroscope();
 
   enum class Act { Received, Sent, Opened, Saved };
-  // `subject` is the time of a transfer, the name of a file.
-  // While it runs, painted at once.
+  // While the act runs; painted at once.
   void ShowRunning(const QString& act);
+  // `subject` is the time of a transfer or the name of a file.
   void ShowDone(Act act, Outcome outcome, const QString& subject);
   void ShowPending(int changes);
 

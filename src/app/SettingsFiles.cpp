@@ -21,13 +21,13 @@ FileQuestion SettingsFileQuestion() {
   return {0, "XML File (*.xml)|*.xml", ".xml"};
 }
 
-// One document serves the question for sections and the reading, whatever becomes of the file
-// meanwhile. Kept: a file that cannot be read is told before and after the question.
 FileResult OpenSettings(Prompts& prompts, FileQuestion& question, QWidget* parent) {
   question.flags = kFileOpenFlags;
   return OpenSettingsFile(prompts, prompts.AskFileToOpen(question), parent);
 }
 
+// The sections are read from the document that they were offered from, whatever becomes of the file
+// meanwhile. Kept: a file that cannot be read is told before and after the question.
 FileResult OpenSettingsFile(Prompts& prompts, const std::string& path, QWidget* parent) {
   FileResult result{path, std::nullopt};
   if (path.empty()) return result;

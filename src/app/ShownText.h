@@ -6,10 +6,9 @@
 
 namespace mortane {
 
-using namespace Qt::StringLiterals;
-
 // Reports break their lines with a carriage return and a line feed; controls want the latter.
 inline QString ShownText(const std::string& text) {
+  using namespace Qt::StringLiterals;
   return QString::fromStdString(text).replace("\r\n"_L1, "\n"_L1);
 }
 

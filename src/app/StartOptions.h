@@ -17,8 +17,8 @@ struct StartOptions {
   std::vector<std::string> arguments;
 };
 
-// `arguments` begin with the program's path. Raises a Failure that names an option that there is
-// not, and one with a value that it does not take.
+// `arguments` begin with the program's path. Raises a Failure with the name of an option that is
+// unknown, or that has a value and takes none.
 StartOptions ReadStartOptions(const std::vector<std::string>& arguments);
 
 // What "--help" and "--version" of a command answer, without the last line break.

@@ -11,7 +11,7 @@
 namespace mortane {
 namespace {
 
-// Rows of a list that is disabled and yet fitted.
+// Draws the rows of a disabled list as enabled, since disabled rows mean what is not fitted.
 class ModeDelegate : public RowDelegate {
  public:
   explicit ModeDelegate(ModeList* list) : RowDelegate(list), list_(*list) {}

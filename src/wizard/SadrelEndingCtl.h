@@ -27,8 +27,8 @@ class SadrelEndingCtl : public Page {
   // Shows what differs from the controller. May raise what asking the controller raises; the old
   // report stays then.
   void LoadData() override;
-  // Whether it was loaded within the time of a double click: a second click on the key that led
-  // here, or on what stands in its place, is none on a key that sends.
+  // Whether the last loading is less than the time of a double click ago. The second click of one
+  // that led here must not send.
   [[nodiscard]] bool IsJustLoaded() const;
   // Sends all. This page may be gone when it returns.
   void Send();

@@ -181,7 +181,7 @@ void SadrelMainForm::DoNext() {
   GoToStep(NextStep());
 }
 
-// Behind the sending the window may be gone.
+// The window may have ended when the sending returns.
 void SadrelMainForm::DoFinish() {
   if (currentStep != kEndingStep) return GoToStep(kEndingStep);
   if (SadrelEndingCtl1->IsJustLoaded()) return;

@@ -55,7 +55,7 @@ class SadrelMainForm : public ProgramForm {
   Controls<StepButton, kStepCount> ImageMenu{"ImageMenu"};
   Control<QFrame> FrameOptionButton{"FrameOptionButton"};
   Controls<QRadioButton, kStepCount> optMenu{"optMenu"};
-  QLabel* LabelHelp;  // of the help line
+  QLabel* LabelHelp = nullptr;  // of the help line
   Control<QFrame> FrameControl{"FrameControl"};
   Control<QPushButton> ButtonCancel{"ButtonCancel"};
   Control<QPushButton> ButtonPrevious{"ButtonPrevious"};

@@ -19,7 +19,7 @@ class OptionGroup;
 class PageHeader;
 class clsK70;
 
-// Only items of what the microscope has are offered. The standard list shows, and never changes.
+// Offers the items of what the microscope has. The standard list is always disabled.
 class SelSetupItemCtl : public Page {
   Q_OBJECT
 
@@ -37,7 +37,7 @@ class SelSetupItemCtl : public Page {
   [[nodiscard]] bool IsOffered(int item) const;
 
   FileQuestion CommonDialog1;
-  std::function<void()> beforeFile;  // is called when the model is about to be read from a file
+  std::function<void()> beforeFile;  // runs before the model is read from a file; may be empty
 
   Control<PageHeader> Header{"Header"};
   Control<Card> FrameBase{"FrameBase"};
@@ -49,7 +49,7 @@ class SelSetupItemCtl : public Page {
 
  Q_SIGNALS:
   void ModeChanged(int mode);
-  // The step of an item is on or off.
+  // The step of an item is switched on or off.
   void ItemChanged(int item, bool enabled);
 
  private:
