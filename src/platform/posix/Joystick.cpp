@@ -8,6 +8,7 @@
 #include <cerrno>
 
 #include "platform/posix/Descriptor.h"
+#include "platform/posix/SystemRoot.h"
 
 namespace mortane {
 namespace {
@@ -15,7 +16,7 @@ namespace {
 constexpr const char* kDevice = "/dev/input/js0";
 
 Descriptor OpenJoystick() {
-  return Descriptor(::open(kDevice, O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  return Descriptor(::open(SystemRoot::Path(kDevice).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
 }
 
 // The device file exists only while a joystick is plugged in; any other error is the driver's.

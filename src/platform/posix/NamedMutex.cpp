@@ -11,6 +11,7 @@
 #include "common/Numbers.h"
 #include "platform/Sleep.h"
 #include "platform/posix/Descriptor.h"
+#include "platform/posix/SystemRoot.h"
 
 namespace mortane {
 
@@ -26,12 +27,14 @@ constexpr std::array<const char*, 2> kLockFolders = {"/run/lock", "/tmp"};
 // The first folder in which every user can create files and only owners can remove them. The mode
 // is checked, not this user's access, so that all users choose the same folder.
 std::string LockFolder() {
-  for (const char* folder : kLockFolders) {
+  for (const char* name : kLockFolders) {
+    const std::string folder = SystemRoot::Path(name);
     struct stat status = {};
     constexpr mode_t kShared = S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO;
-    if (::stat(folder, &status) == 0 && (status.st_mode & kShared) == kShared) return folder;
+    if (::stat(folder.c_str(), &status) == 0 && (status.st_mode & kShared) == kShared)
+      return folder;
   }
-  return kLockFolders.back();
+  return SystemRoot::Path(kLockFolders.back());
 }
 
 bool IsPlain(char c) {

@@ -5,6 +5,8 @@
 #include <fstream>
 #include <string_view>
 
+#include "platform/posix/SystemRoot.h"
+
 namespace mortane {
 namespace {
 
@@ -13,7 +15,7 @@ constexpr std::string_view kReleaseName = "PRETTY_NAME=";
 
 // Empty where the file does not tell it.
 std::string NameOfRelease() {
-  std::ifstream file(kReleaseFile);
+  std::ifstream file(SystemRoot::Path(kReleaseFile));
   std::string line;
   while (std::getline(file, line)) {
     if (!line.starts_with(kReleaseName)) continue;
