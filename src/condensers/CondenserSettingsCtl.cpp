@@ -19,13 +19,11 @@ CondenserSettingsCtl::CondenserSettingsCtl(clsCondenser& cassette, clsDbCondense
   const auto hasCondenser = [&cassette] {
     return cassette.parent.IsMounted(accessory::kCondenser) != kNotMounted;
   };
-  SetSections({{u"Condenser"_s,
-
-                CondenserCassetteCtl1,
-                hasCondenser,
-                {},
-                u"No condenser is mounted."_s},
-               {u"Optional"_s, CondenserOptionCtl1}},
+  SetSections({{.caption = u"Condenser"_s,
+                .page = CondenserCassetteCtl1,
+                .isOffered = hasCondenser,
+                .whyNotOffered = u"No condenser is mounted."_s},
+               {.caption = u"Optional"_s, .page = CondenserOptionCtl1}},
               {1, 0});
 }
 

@@ -23,14 +23,12 @@ FilterQubeSettingsCtl::FilterQubeSettingsCtl(clsFilter& turret, clsDbFilter& cub
   const auto hasTurret = [&turret] {
     return turret.parent.IsMounted(accessory::kFilterCube) != kNotMounted;
   };
-  SetSections({{u"Filter Cube"_s,
-
-                FilterQubeCtl1,
-                hasTurret,
-                {},
-                u"No filter cube turret is mounted."_s},
-               {u"Optional Cube"_s, FilterOptionalQubeCtl1},
-               {u"Optional Item"_s, FilterOptionalItemCtl1}},
+  SetSections({{.caption = u"Filter Cube"_s,
+                .page = FilterQubeCtl1,
+                .isOffered = hasTurret,
+                .whyNotOffered = u"No filter cube turret is mounted."_s},
+               {.caption = u"Optional Cube"_s, .page = FilterOptionalQubeCtl1},
+               {.caption = u"Optional Item"_s, .page = FilterOptionalItemCtl1}},
               {2, 0});
 }
 

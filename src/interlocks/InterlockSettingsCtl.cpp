@@ -14,33 +14,58 @@
 namespace mortane {
 
 using namespace Qt::StringLiterals;
+namespace {
+
+constexpr int kObservation = 0;
+constexpr int kOther = 1;
+constexpr int kCompensation = 2;
+
+}  // namespace
 
 InterlockSettingsCtl::InterlockSettingsCtl(const Units& units, const DriveFollowers& drives,
                                            QWidget* parent)
     : ContainerPage(IconName::Interlock, u"Interlocks"_s, parent), other_(units.other) {
   optSettings = sections();
+  PlanSubPages(units, drives);
+  const auto isEnable = [](const auto& unit) { return [&unit] { return unit.IsEnable(); }; };
+  SetSections(
+      {{.caption = u"Observation"_s,
+        .page = InterlockObservationCtl1,
+        .isOffered = isEnable(units.observation),
+        .open = KeepAsLoaded,
+        .whyNotOffered = u"Nothing is mounted that follows the observation method."_s},
+       {.caption = u"Other"_s,
+        .page = InterlockOtherCtl1,
+        .isOffered = isEnable(units.other),
+        .open = KeepAsLoaded,
+        .whyNotOffered = u"Nothing is mounted that follows nosepiece, light path or zoom."_s},
+       {.caption = u"Compensation"_s,
+        .page = InterlockOffsetCtl1,
+        .isOffered = isEnable(units.offset),
+        .open = KeepAsLoaded,
+        .whyNotOffered = u"Nothing is mounted that is compensated."_s}},
+      {kCompensation, kOther, kObservation});
+}
+
+void InterlockSettingsCtl::PlanSubPages(const Units& units, const DriveFollowers& drives) {
   const auto enabled = [this](Page* page, int section) {
     page->setEnabled(IsOffered(section));
     return page;
   };
-  InterlockObservationCtl1.Plan(
-      {.make = [=, &unit =
-                       units.observation] { return enabled(new InterlockObservationCtl(unit), 0); },
-       .load = ChangesNothing});
-  InterlockOtherCtl1.Plan({.make = [=, &unit = units.other] {
-    return enabled(new InterlockOtherCtl(unit, drives), 1);
+  InterlockObservationCtl1.Plan({.make =
+                                     [enabled, &unit = units.observation] {
+                                       return enabled(new InterlockObservationCtl(unit),
+                                                      kObservation);
+                                     },
+                                 .load = ChangesNothing});
+  InterlockOtherCtl1.Plan({.make = [enabled, drives, &unit = units.other] {
+    return enabled(new InterlockOtherCtl(unit, drives), kOther);
   }});
-  InterlockOffsetCtl1.Plan(
-      {.make = [=, &unit = units.offset] { return enabled(new InterlockOffsetCtl(unit), 2); },
-       .load = ChangesNothing});
-  const auto isEnable = [](const auto& unit) { return [&unit] { return unit.IsEnable(); }; };
-  SetSections({{u"Observation"_s, InterlockObservationCtl1, isEnable(units.observation),
-                KeepAsLoaded, u"Nothing is mounted that follows the observation method."_s},
-               {u"Other"_s, InterlockOtherCtl1, isEnable(units.other), KeepAsLoaded,
-                u"Nothing is mounted that follows nosepiece, light path or zoom."_s},
-               {u"Compensation"_s, InterlockOffsetCtl1, isEnable(units.offset), KeepAsLoaded,
-                u"Nothing is mounted that is compensated."_s}},
-              {2, 1, 0});
+  InterlockOffsetCtl1.Plan({.make =
+                                [enabled, &unit = units.offset] {
+                                  return enabled(new InterlockOffsetCtl(unit), kCompensation);
+                                },
+                            .load = ChangesNothing});
 }
 
 void InterlockSettingsCtl::LoadData() {

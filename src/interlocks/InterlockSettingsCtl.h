@@ -41,6 +41,8 @@ class InterlockSettingsCtl : public ContainerPage {
   void showEvent(QShowEvent* event) override;
 
  private:
+  void PlanSubPages(const Units& units, const DriveFollowers& drives);
+
   const clsInterLockOther& other_;
 };
 

@@ -23,19 +23,15 @@ ObjectiveSettingsCtl::ObjectiveSettingsCtl(clsNosepiece& nosepiece, clsDbNosepie
     return limits.parent.IsMounted(accessory::kNosepiece) != kNotMounted;
   };
   const auto isLimited = [&limits] { return limits.IsEnable(); };
-  SetSections({{u"Nosepiece"_s,
-
-                ObjectiveCtl1,
-                hasNosepiece,
-                {},
-                u"No nosepiece is mounted."_s},
-               {u"Optional Obj."_s, ObjectiveOptionCtl1},
-               {u"Limit Control"_s,
-
-                ObjectiveLimitCtl1,
-                isLimited,
-                {},
-                u"No motorised nosepiece with limits is mounted."_s}},
+  SetSections({{.caption = u"Nosepiece"_s,
+                .page = ObjectiveCtl1,
+                .isOffered = hasNosepiece,
+                .whyNotOffered = u"No nosepiece is mounted."_s},
+               {.caption = u"Optional Obj."_s, .page = ObjectiveOptionCtl1},
+               {.caption = u"Limit Control"_s,
+                .page = ObjectiveLimitCtl1,
+                .isOffered = isLimited,
+                .whyNotOffered = u"No motorised nosepiece with limits is mounted."_s}},
               {1, 2, 0});
 }
 
