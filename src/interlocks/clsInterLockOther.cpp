@@ -42,8 +42,10 @@ struct clsInterLockOther::Change {
   bool (OtherAccessory::*isFollowed)() const;
   bool (*hasEntry)(const OtherAccessory&);  // that is taken from a settings file
   std::string_view element;                 // in a settings file
-  std::string_view refused;                 // openings of lines; an empty one is the accessory's
-  std::string_view difference;              // own line
+  // How the lines begin of an element that is refused, of a difference and of a failed write. An
+  // empty difference or failed stands for the line that the follower has of its own.
+  std::string_view refused;
+  std::string_view difference;
   std::string_view failed;
 
   std::string DifferenceLine(const OtherAccessory& row) const {
