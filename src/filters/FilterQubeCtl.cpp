@@ -1,7 +1,6 @@
 #include "filters/FilterQubeCtl.h"
 
 #include <QPointer>
-#include <QVBoxLayout>
 #include <memory>
 #include <vector>
 
@@ -10,10 +9,8 @@
 #include "filters/clsDbFilter.h"
 #include "filters/clsFilter.h"
 #include "model/OptionCodes.h"
-#include "widgets/Card.h"
 #include "widgets/ListBox.h"
 #include "widgets/TabStrip.h"
-#include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
 #include "widgets/ValueLabel.h"
 

@@ -4,7 +4,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "interlocks/Interlock.h"
 #include "interlocks/InterlockCtlTiles.h"
 #include "interlocks/clsInterLockOffset.h"
 #include "widgets/Card.h"

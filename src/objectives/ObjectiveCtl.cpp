@@ -9,11 +9,9 @@
 #include "objectives/FillNames.h"
 #include "objectives/clsDbNosepiece.h"
 #include "objectives/clsNosepiece.h"
-#include "widgets/Card.h"
 #include "widgets/ListBox.h"
 #include "widgets/PairPanel.h"
 #include "widgets/TabStrip.h"
-#include "widgets/Theme.h"
 #include "widgets/ValueBox.h"
 #include "widgets/ValueLabel.h"
 

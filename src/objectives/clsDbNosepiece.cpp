@@ -1,7 +1,5 @@
 #include "objectives/clsDbNosepiece.h"
 
-#include <algorithm>
-
 #include "common/CheckedIndex.h"
 #include "common/ErrorTrap.h"
 #include "common/FailureText.h"
