@@ -239,5 +239,33 @@ TEST(LateLoading, MakesNoSubPageThatItNeedNotMake) {
   }
 }
 
+struct EndRow {
+  const char* page;
+  LatePlan (*plan)(clsK70& k70);
+  const char* message;
+  int style;
+};
+
+// As the page itself, which makes no further call when it has been destroyed.
+TEST(LateLoading, WhatStandsForAPageCallsNothingAfterItsEndBehindABox) {
+  for (const EndRow& row :
+       {EndRow{"ControlFocusDriveCtl1", [](clsK70& k70) { return PlanFocusDrive(k70).plan; },
+               "MoveStart Error!!", box::kCritical},
+        EndRow{"ControlXYStageCtl1", [](clsK70& k70) { return PlanXYStage(k70).plan; },
+               "MoveStart Error!!", box::kCritical},
+        EndRow{"ControlOtherCtl1", PlanOther, "Data_Load Error3", box::kOk}}) {
+    Rig rig("Harbour");
+    rig.ConnectAndReceive();
+    auto late = std::make_unique<LateControl<Page>>(row.page);
+    late->Plan(row.plan(rig.k70));
+    rig.faults.FailCall(1);
+    rig.prompts.ExpectBox(row.message, row.style, Answer::Ok, "", [&late] { late.reset(); });
+    late->LoadData();
+    EXPECT_EQ(late, nullptr) << row.page;
+    EXPECT_EQ(rig.journal.CallCount(), 1U) << row.page;
+    EXPECT_TRUE(rig.prompts.AllAnswersUsed());
+  }
+}
+
 }  // namespace
 }  // namespace mortane::test
