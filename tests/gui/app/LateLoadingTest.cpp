@@ -13,9 +13,13 @@
 #include "app/MakePages.h"
 #include "common/Failure.h"
 #include "condensers/CondenserSettingsCtl.h"
+#include "drawings/MoveCross.h"
+#include "drives/clsControlZDrive.h"
 #include "filters/FilterQubeSettingsCtl.h"
 #include "gui/support/LatePages.h"
 #include "interlocks/InterlockSettingsCtl.h"
+#include "interlocks/clsInterLockOther.h"
+#include "model/DriveCompensation.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 #include "record/ModelItems.h"
 #include "support/RandomModel.h"
@@ -134,6 +138,7 @@ struct Course {
   Sight loaded;
   Sight madeLater;
   Lines shown;
+  Sight stepped;
 };
 
 enum class Make { BeforeLoading, Later };
@@ -177,13 +182,16 @@ class LateLoading : public ::testing::TestWithParam<std::string> {
     } catch (const Failure&) {
       course.shown.push_back("a failure");
     }
-    page.SetNosePostiton();
+    for (int i = 0; i < 2; ++i) page.SetNosePostiton();
     course.loaded = sight();
     MakeAllPages(page);
     course.madeLater = sight();
     for (const LatePage* one : late) {
       for (std::string& line : ShownIn(*one->made())) course.shown.push_back(std::move(line));
     }
+    // A step shows where the drive stands in the row that is selected.
+    for (auto* button : page.findChildren<MoveButton*>()) button->click();
+    course.stepped = sight();
     return course;
   }
 };
@@ -205,6 +213,7 @@ TEST_P(LateLoading, DoesWhatTheMadePagesDoAndShowsTheSameLater) {
       EXPECT_EQ(whole[i].loaded.model, late[i].loaded.model);
       EXPECT_TRUE(late[i].loaded == late[i].madeLater) << "the making changes nothing";
       EXPECT_EQ(whole[i].shown, late[i].shown);
+      EXPECT_EQ(whole[i].stepped.calls, late[i].stepped.calls);
     }
   }
 }
@@ -236,6 +245,56 @@ TEST(LateLoading, MakesNoSubPageThatItNeedNotMake) {
     int made = 0;
     for (const LatePage* late : page->findChildren<LatePage*>()) made += late->made() != nullptr;
     EXPECT_EQ(made, expected[i].made) << expected[i].page;
+  }
+}
+
+// The page of the drives and controls, loaded but not shown; its sub-pages may be made before.
+struct ControlsRig : Rig {
+  explicit ControlsRig(const char* bench) : Rig(bench) {
+    prompts.AcceptAnyBox();
+    ConnectAndReceive();
+  }
+  void Load(Make make) {
+    if (make == Make::BeforeLoading) MakeAllPages(page);
+    page.LoadData();
+    prompts.ClearRecords();
+    journal.Clear();
+  }
+
+  ScriptedJoystick joystick;
+  ControlSettingsCtl page{{k70, library, prompts, joystick, {}},
+                          MakeControlSubPages({k70, library, prompts, joystick, {}})};
+};
+
+// Another page may change the compensation, and the interlock that goes with it, in between.
+TEST(LateLoading, TheMakingStoresNothingAndTheNextLoadingWhatItStoresOnAMadePage) {
+  for (const Make make : {Make::BeforeLoading, Make::Later}) {
+    ControlsRig rig("Harbour");
+    rig.Load(make);
+    clsControlZDrive& drive = rig.k70.CZDrive;
+    ASSERT_EQ(drive.curFocusCompensation, compensation::kRelative);
+    ASSERT_EQ(rig.k70.ILOther.Status(accessory::kZFocusDrive), kInterlockOn);
+    drive.curFocusCompensation = compensation::kNone;
+    MakeAllPages(rig.page);
+    EXPECT_EQ(drive.curFocusCompensation, compensation::kNone);
+    EXPECT_EQ(rig.k70.ILOther.Status(accessory::kZFocusDrive), kInterlockOn);
+    rig.page.ControlFocusDriveCtl1->LoadData();
+    EXPECT_EQ(drive.curFocusCompensation, compensation::kNone);
+    EXPECT_EQ(rig.k70.ILOther.Status(accessory::kZFocusDrive), kInterlockOff);
+  }
+}
+
+TEST(LateLoading, AnAddressWithoutARowSelectsNone) {
+  for (const Make make : {Make::BeforeLoading, Make::Later}) {
+    for (const std::int32_t address : {0, 1, 7, 8, 10}) {
+      ControlsRig rig("Attic");
+      rig.Load(make);
+      rig.instrument().Accessory(accessory::kNosepiece).value = address;
+      rig.page.SetNosePostiton();
+      const bool hasRow = address >= 1 && address <= 7;
+      EXPECT_EQ(rig.prompts.Log(), hasRow ? (Lines{"pointer 11", "pointer 0"}) : Lines{})
+          << address;
+    }
   }
 }
 
