@@ -1,9 +1,7 @@
 // Pages of which no sub-page is made do to the model and to the controller what whole pages do.
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QLabel>
 #include <algorithm>
 #include <memory>
 #include <random>
@@ -14,12 +12,10 @@
 #include "common/Failure.h"
 #include "condensers/CondenserSettingsCtl.h"
 #include "drawings/MoveCross.h"
-#include "drives/clsControlZDrive.h"
 #include "filters/FilterQubeSettingsCtl.h"
 #include "gui/support/LatePages.h"
+#include "gui/support/ShownControls.h"
 #include "interlocks/InterlockSettingsCtl.h"
-#include "interlocks/clsInterLockOther.h"
-#include "model/DriveCompensation.h"
 #include "objectives/ObjectiveSettingsCtl.h"
 #include "record/ModelItems.h"
 #include "support/RandomModel.h"
@@ -85,44 +81,6 @@ std::string ModelText(const clsK70& k70) {
     text += "\nfailure";
   }
   return text;
-}
-
-QString TextOf(const QObject& control) {
-  if (const auto* list = qobject_cast<const ListBox*>(&control)) {
-    QString text = QString::number(list->index());
-    for (int row = 0; row < list->rowCount(); ++row)
-      text += u'\n' + list->text(row) + u'=' + list->data(row).toString();
-    return text;
-  }
-  if (const auto* combo = qobject_cast<const ComboBox*>(&control)) {
-    QString text = QString::number(combo->index());
-    for (int row = 0; row < combo->count(); ++row) text += u'\n' + combo->itemText(row);
-    return text;
-  }
-  if (const auto* tabs = qobject_cast<const TabStrip*>(&control))
-    return QString::number(tabs->index()) + u'/' + QString::number(tabs->count());
-  if (const auto* field = qobject_cast<const QLineEdit*>(&control)) return field->text();
-  if (const auto* label = qobject_cast<const QLabel*>(&control)) return label->text();
-  if (const auto* button = qobject_cast<const QAbstractButton*>(&control))
-    return button->text() + (button->isChecked() ? u'+' : u'-');
-  if (const auto* group = qobject_cast<const OptionGroup*>(&control))
-    return QString::number(group->selected());
-  return {};
-}
-
-// What the named controls of a sub-page show, one line each.
-Lines ShownIn(const Page& page) {
-  Lines lines;
-  for (const QObject* control : page.findChildren<QObject*>()) {
-    if (control->objectName().isEmpty() || control->objectName().startsWith("qt_")) continue;
-    QString line = page.objectName() + u'.' + control->objectName() + u": "_s + TextOf(*control);
-    if (const auto* widget = qobject_cast<const QWidget*>(control)) {
-      line += widget->isEnabledTo(&page) ? u" on"_s : u" off"_s;
-      line += widget->isVisibleTo(&page) ? u" shown"_s : u" hidden"_s;
-    }
-    lines.push_back(line.toStdString());
-  }
-  return lines;
 }
 
 struct Sight {
@@ -245,84 +203,6 @@ TEST(LateLoading, MakesNoSubPageThatItNeedNotMake) {
     int made = 0;
     for (const LatePage* late : page->findChildren<LatePage*>()) made += late->made() != nullptr;
     EXPECT_EQ(made, expected[i].made) << expected[i].page;
-  }
-}
-
-// The page of the drives and controls, loaded but not shown; its sub-pages may be made before.
-struct ControlsRig : Rig {
-  explicit ControlsRig(const char* bench) : Rig(bench) {
-    prompts.AcceptAnyBox();
-    ConnectAndReceive();
-  }
-  void Load(Make make) {
-    if (make == Make::BeforeLoading) MakeAllPages(page);
-    page.LoadData();
-    prompts.ClearRecords();
-    journal.Clear();
-  }
-
-  ScriptedJoystick joystick;
-  ControlSettingsCtl page{{k70, library, prompts, joystick, {}},
-                          MakeControlSubPages({k70, library, prompts, joystick, {}})};
-};
-
-// Another page may change the compensation, and the interlock that goes with it, in between.
-TEST(LateLoading, TheMakingStoresNothingAndTheNextLoadingWhatItStoresOnAMadePage) {
-  for (const Make make : {Make::BeforeLoading, Make::Later}) {
-    ControlsRig rig("Harbour");
-    rig.Load(make);
-    clsControlZDrive& drive = rig.k70.CZDrive;
-    ASSERT_EQ(drive.curFocusCompensation, compensation::kRelative);
-    ASSERT_EQ(rig.k70.ILOther.Status(accessory::kZFocusDrive), kInterlockOn);
-    drive.curFocusCompensation = compensation::kNone;
-    MakeAllPages(rig.page);
-    EXPECT_EQ(drive.curFocusCompensation, compensation::kNone);
-    EXPECT_EQ(rig.k70.ILOther.Status(accessory::kZFocusDrive), kInterlockOn);
-    rig.page.ControlFocusDriveCtl1->LoadData();
-    EXPECT_EQ(drive.curFocusCompensation, compensation::kNone);
-    EXPECT_EQ(rig.k70.ILOther.Status(accessory::kZFocusDrive), kInterlockOff);
-  }
-}
-
-TEST(LateLoading, AnAddressWithoutARowSelectsNone) {
-  for (const Make make : {Make::BeforeLoading, Make::Later}) {
-    for (const std::int32_t address : {0, 1, 7, 8, 10}) {
-      ControlsRig rig("Attic");
-      rig.Load(make);
-      rig.instrument().Accessory(accessory::kNosepiece).value = address;
-      rig.page.SetNosePostiton();
-      const bool hasRow = address >= 1 && address <= 7;
-      EXPECT_EQ(rig.prompts.Log(), hasRow ? (Lines{"pointer 11", "pointer 0"}) : Lines{})
-          << address;
-    }
-  }
-}
-
-struct EndRow {
-  const char* page;
-  LatePlan (*plan)(clsK70& k70);
-  const char* message;
-  int style;
-};
-
-// As the page itself, which makes no further call when it has been destroyed.
-TEST(LateLoading, WhatStandsForAPageCallsNothingAfterItsEndBehindABox) {
-  for (const EndRow& row :
-       {EndRow{"ControlFocusDriveCtl1", [](clsK70& k70) { return PlanFocusDrive(k70).plan; },
-               "MoveStart Error!!", box::kCritical},
-        EndRow{"ControlXYStageCtl1", [](clsK70& k70) { return PlanXYStage(k70).plan; },
-               "MoveStart Error!!", box::kCritical},
-        EndRow{"ControlOtherCtl1", PlanOther, "Data_Load Error3", box::kOk}}) {
-    Rig rig("Harbour");
-    rig.ConnectAndReceive();
-    auto late = std::make_unique<LateControl<Page>>(row.page);
-    late->Plan(row.plan(rig.k70));
-    rig.faults.FailCall(1);
-    rig.prompts.ExpectBox(row.message, row.style, Answer::Ok, "", [&late] { late.reset(); });
-    late->LoadData();
-    EXPECT_EQ(late, nullptr) << row.page;
-    EXPECT_EQ(rig.journal.CallCount(), 1U) << row.page;
-    EXPECT_TRUE(rig.prompts.AllAnswersUsed());
   }
 }
 
