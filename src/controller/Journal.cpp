@@ -35,9 +35,14 @@ Value JournalLibrary::Around(const CallSite& site, const Proceed& proceed) {
 }
 
 Value JournalLibrary::AroundNumber(const std::string& path, const Proceed& proceed) {
-  Value number = proceed();
-  journal_.Add(ReadLine(path, number), false);
-  return number;
+  try {
+    Value number = proceed();
+    journal_.Add(ReadLine(path, number), false);
+    return number;
+  } catch (const Failure& failure) {
+    journal_.Add(FailedReadLine(path, failure), false);
+    throw;
+  }
 }
 
 }  // namespace mortane::controller

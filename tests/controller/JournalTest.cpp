@@ -121,6 +121,35 @@ TEST(Journal, TellsWritesFromTheRest) {
             (Lines{"BuzzerOn(1)", "BuzzerOff(1) ! LIB:80004005", "ZDriveDevice.Position = 20"}));
 }
 
+// A state whose number cannot be read.
+class Unreadable : public ControllerObject {
+ public:
+  Value Get(std::string_view member, Args /*args*/) override {
+    if (member.empty()) throw ControllerError("LIB", 5, "No number.");
+    return std::make_shared<Unreadable>();
+  }
+  void Put(std::string_view /*member*/, const Value& /*value*/, Args /*args*/) override {}
+  Value Call(std::string_view /*member*/, Args /*args*/) override { return {}; }
+};
+
+class UnreadableLibrary : public ControllerLibrary {
+ public:
+  ObjectRef Create(std::string_view /*className*/) override {
+    return std::make_shared<Unreadable>();
+  }
+};
+
+TEST(Journal, ShowsANumberOfAStateThatCannotBeRead) {
+  UnreadableLibrary unreadable;
+  Journal journal;
+  JournalLibrary library(unreadable, journal);
+  const StateValue state(library.Create("Microscope")->Get("State"));
+  EXPECT_THROW(state.Number(), ControllerError);
+  EXPECT_EQ(journal.Lines(), Lines{"State ! LIB:5"});
+  EXPECT_TRUE(journal.Writes().empty());
+  EXPECT_EQ(journal.CallCount(), 2U);
+}
+
 TEST(Journal, CountsEveryCallButTheNumbersOfStates) {
   JournalRig rig("Harbour");
   const Microscope root(rig.library.Create("Microscope"));
