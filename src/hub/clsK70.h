@@ -37,7 +37,7 @@ class clsNosepiece;
 // lines of reports. Only ReadMicVer, the first step of Modify, and readers of a file with data that
 // no conversion can take raise a Failure to the caller.
 class clsK70 : public ConnectedMicroscope {
-  // Before the references to what it holds.
+  // Declared first: the references below are to its members.
   struct Units;
   std::unique_ptr<Units> units_;
 
@@ -100,7 +100,7 @@ class clsK70 : public ConnectedMicroscope {
   // false and lConnectDevice is -1. If the device answers, but detecting its accessories or turrets
   // fails, the result is true and lConnectDevice is -1.
   bool Connect(std::int32_t DeviceNo);
-  void Disconnect();
+  void Disconnect();  // after a failure, which is shown, lConnectDevice keeps its value
 
   // Read all units from the controller, write them to it, and list what a write would change.
   // Failures of units are shown once, at the end; they end no transfer. Receive and Send answer
@@ -123,8 +123,8 @@ class clsK70 : public ConnectedMicroscope {
   bool ReadXMLItems(const std::string& fname, DomDocument& document);
   bool ReadXML(const std::string& fname);
   bool WriteXML(const std::string& fname);
-  // The same on a document in memory; `name` is the file's in a box. Writing raises a Failure for
-  // a text that XML cannot hold.
+  // The same on a document in memory; `name` is the file's in a box. Writing begins with section
+  // `first` and raises a Failure for a text that XML cannot hold.
   void ReadItems(const DomDocument& document, const std::string& name);
   bool ReadSections(const DomDocument& document, const std::string& name);
   void WriteSections(DomDocument& document, std::size_t first = fileitem::kSystem) const;

@@ -209,7 +209,7 @@ TEST(DeviceLock, CanBeOwnedWhicheverCameFirstToTheName) {
   ASSERT_TRUE(first.Create("MortaneConnection-393038"));
   ASSERT_FALSE(second.Create("MortaneConnection-393038"));
   second.LockMutex(-1);
-  EXPECT_GE(TimeToLock(first, 30), milliseconds(30));
+  EXPECT_GE(TimeToLock(first, 60), milliseconds(40)) << "the system's clock has coarse steps";
   second.UnlockMutex();
   EXPECT_LT(TimeToLock(first, 20000), seconds(10));
 }

@@ -5,6 +5,8 @@
 
 namespace mortane::controller {
 
+// At constant speed from one position to another. Positions in steps, times in milliseconds of the
+// library's clock; no time before the start of the move is asked for.
 class AxisMotion {
  public:
   bool IsMoving() const { return moving_; }
