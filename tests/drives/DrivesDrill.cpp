@@ -92,6 +92,7 @@ UnitDrillData XYStage() {
        "Control XYStage[FocusCompensation]",
        {"XYDriveDevice.FocusCompensation = 2"}},
   };
+  data.marksUnknown = true;
   data.readFailure = data.modifyFailure = "Control XY Stage (";
   data.writeFailures = {kRefused};
   data.refused = {
@@ -141,6 +142,7 @@ UnitDrillData OtherControls() {
        "Control Other[Tactor Switch]", behind("DisableSwitch(4, 0)")},
   };
   data.alwaysWritten = on;
+  data.marksUnknown = true;
   data.readFailure = data.modifyFailure = "Control Other (";
   data.writeFailures = {"Control Other FocusDrive Auto", "Control Other XY Stage Auto",
                         "Control Other Buzzer K70",      "Control Other Buzzer QH_R",

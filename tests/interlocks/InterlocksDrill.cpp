@@ -24,6 +24,7 @@ UnitDrillData Observation() {
        "InterLock Observation[Light Path]",
        {"ControllerSettings.SetInterlock(11, 1)"}},
   };
+  data.marksUnknown = true;
   data.readFailure = data.modifyFailure = "InterLock Observation (";
   data.writeFailures = {"InterLock Observation["};
   data.refused = {
@@ -87,6 +88,7 @@ UnitDrillData Other() {
        "InterLock Other[XY Stage]",
        {"ControllerSettings.ClearInterlock(14, 3)"}},
   };
+  data.marksUnknown = true;
   data.readFailure = data.modifyFailure = "InterLock Other (";
   data.writeFailures = {"InterLock Other[",
                         "InterLock Other [Optical Zoom : ", "InterLock Other [Light Path : "};
@@ -129,6 +131,7 @@ UnitDrillData Offset() {
        "InterLock Offset[Dia A.Stop]",
        {"ApertureStopDevice.OffsetCode = 1"}},
   };
+  data.marksUnknown = true;
   data.readFailure = data.modifyFailure = "InterLock Offset (";
   data.writeFailures = {"InterLock Offset[ND]", "InterLock Offset[Dia F.Stop]",
                         "InterLock Offset[Condenser]", "InterLock Offset[Dia A.Stop]"};

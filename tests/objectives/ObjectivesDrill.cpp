@@ -69,6 +69,11 @@ UnitDrillData Database() {
         "AccessoryDatabase.Nosepieces.Item(35).SetProperties(1, 7, 10, 1, 0.25)",
         "SendCommand(\"cONS9170640640FA4\")"}},
   };
+  // The condensers' digits.
+  data.undoKept = [](ObjectiveUnits& units) {
+    units.DbNosepiece.Set_DbNosepiece(2, "", 0, 0, "", "", "", 5);
+    units.DbNosepiece.Set_DbNosepiece(9, "", 0, 0, "", "", "", 0);
+  };
   data.readFailure = "Nosepieces Optional (";
   data.modifyFailure = "Nosepiece Optional (";
   data.writeFailures = {"Nosepiece Optional[", "Nosepiece Optional ("};
@@ -103,6 +108,7 @@ UnitDrillData Limits() {
        "Nosepiece Limit[Immersion Type]",
        {"NosepieceDevice.Limitation = 7"}},
   };
+  data.marksUnknown = true;
   data.alwaysWritten = {"NosepieceDevice.Limitation = 1"};
   data.readFailure = "Nosepiece Limit (";
   data.writeFailures = {"Nosepiece Limit"};

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/Text.h"
+#include "support/Sample.h"
 
 namespace mortane::test {
 namespace {
@@ -169,6 +170,49 @@ TEST_P(UnitDrill, EachCallOfAReadThatFailsIsTheUnitsLine) {
     EXPECT_EQ(rig.faults.Hits(), 1U) << "call " << k;
     EXPECT_EQ(unit.read(*rig.units), "") << "call " << k;
     EXPECT_EQ(unit.fileText(*rig.units), rig.TextAtFirst()) << "call " << k;
+  }
+}
+
+// What was not read is unknown, and not what the unit held before.
+TEST_P(UnitDrill, AReadThatFailsLeavesTheSameWhateverTheUnitHeldBefore) {
+  const UnitOperations& unit = GetParam().unit;
+  RoundRig rig(GetParam());
+  unit.read(*rig.units);
+  const auto textAfterFailure = [&](std::size_t call) {
+    rig.faults.FailCall(call);
+    EXPECT_NE(unit.read(*rig.units), "") << "call " << call;
+    return unit.fileText(*rig.units);
+  };
+  const std::size_t calls = rig.journal.CallCount();
+  ASSERT_GT(calls, 0U);
+  for (const std::size_t k : SampleOf(calls, 5, 5)) {
+    rig.BeginRound();
+    const std::string expected = textAfterFailure(k);
+    rig.BeginRound();
+    MakeAllEdits(*rig.units);
+    if (GetParam().undoKept) (*GetParam().undoKept)(*rig.units);
+    EXPECT_EQ(textAfterFailure(k), expected) << "call " << k;
+  }
+}
+
+TEST_P(UnitDrill, WhatIsMarkedAsUnknownAfterAReadThatFailedIsNeitherListedNorWritten) {
+  const UnitOperations& unit = GetParam().unit;
+  const auto& always = GetParam().alwaysWritten;
+  RoundRig rig(GetParam());
+  unit.read(*rig.units);
+  const std::size_t calls = GetParam().marksUnknown ? rig.journal.CallCount() : 0;
+  for (std::size_t k = 1; k <= calls; ++k) {
+    rig.BeginRound();
+    rig.faults.FailCall(k);
+    EXPECT_NE(unit.read(*rig.units), "") << "call " << k;
+    rig.journal.Clear();
+    std::string list;
+    EXPECT_EQ(unit.modify(*rig.units, list), "") << "call " << k;
+    EXPECT_EQ(list, "") << "call " << k;
+    EXPECT_EQ(unit.write(*rig.units), "") << "call " << k;
+    for (const std::string& line : rig.journal.Writes()) {
+      EXPECT_NE(std::find(always.begin(), always.end(), line), always.end()) << k << ": " << line;
+    }
   }
 }
 

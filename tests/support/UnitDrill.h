@@ -6,6 +6,7 @@
 #include <concepts>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -98,6 +99,11 @@ struct UnitDrillData {
   std::string modifyFailure;
   std::vector<std::string> writeFailures;
   std::vector<RefusedElement> refused;
+  // Takes the edits back that a read leaves as they are until the controller has answered.
+  std::optional<UnitChange> undoKept;
+  // Whether an item that was not read has a value of its own, so that it is neither compared nor
+  // written. Codes and names have none.
+  bool marksUnknown = false;
 };
 
 inline void PrintTo(const UnitDrillData& data, std::ostream* stream) {

@@ -82,6 +82,10 @@ UnitDrillData Tactor() {
        "TactorSwitch Function[14] Nothing",
        {R"(ControllerSettings.SetSwitchFunction(4, "E", "q"))"}},
   };
+  data.undoKept = [](SwitchUnits& units) {
+    units.curTactor.ControlMode = 0;
+    units.curTactor.HandleMode = 0;
+  };
   data.readFailure = data.modifyFailure = "TactorController SW Function (";
   data.writeFailures = {"TactorSwitch Control Mode[1]", "TactorSwitch Handle Mode[1]",
                         "TactorSwitch Function["};
