@@ -31,12 +31,7 @@ ControlSubPages MakeControlSubPages(const FormServices& services) {
                          &prompts = services.prompts] { return MakeTactorSwitches(k70, prompts); },
                 .load = ChangesNothing}},
       {.plan = {.make = [joypad] { return new JoypadSwitchSettingCtl(joypad); },
-                .load = ChangesNothing,
-                .save =
-                    [joypad] {
-                      joypad->Save();
-                      return true;
-                    }}},
+                .load = ChangesNothing}},
   }};
 }
 
