@@ -11,6 +11,7 @@
 #include "app/MakePages.h"
 #include "drives/ControlOtherCtl.h"
 #include "drives/clsControlOther.h"
+#include "drives/clsControlXYDrive.h"
 #include "drives/clsControlZDrive.h"
 #include "gui/support/LatePages.h"
 #include "gui/support/ShownControls.h"
@@ -18,6 +19,7 @@
 #include "model/DriveCompensation.h"
 #include "support/Rig.h"
 #include "support/ScriptedJoystick.h"
+#include "support/UnitText.h"
 
 namespace mortane::test {
 namespace {
@@ -70,6 +72,35 @@ TEST(LateControls, AnAddressWithoutARowSelectsNone) {
       const bool hasRow = address >= 1 && address <= 7;
       EXPECT_EQ(rig.prompts.Log(), hasRow ? (Lines{"pointer 11", "pointer 0"}) : Lines{})
           << address;
+    }
+  }
+}
+
+using PlanOf = LateDrive (*)(clsK70& k70);
+
+// What loading a drive and selecting the nosepiece's row call, ask and store, and what is shown.
+std::vector<Lines> LoadDrive(const std::string& bench, PlanOf planOf, Make make) {
+  Rig rig(bench);
+  rig.prompts.AcceptAnyBox();
+  rig.ConnectAndReceive();
+  rig.prompts.ClearRecords();
+  const LateDrive drive = planOf(rig.k70);
+  LateControl<Page> late("Drive1");
+  late.Plan(drive.plan);
+  if (make == Make::BeforeLoading) late.get();
+  late.LoadData();
+  drive.SetNosePosition();
+  const Lines stored{FileTextOf(rig.k70.CZDrive), FileTextOf(rig.k70.CXYDrive),
+                     FileTextOf(rig.k70.ILOther)};
+  return {rig.journal.Lines(), rig.prompts.Log(), stored, ShownIn(*late)};
+}
+
+TEST(LateControls, TheDrivesAreLoadedAsOnMadePagesOnEveryInstrument) {
+  for (const std::string& bench : benches::Names()) {
+    for (const PlanOf planOf : {PlanFocusDrive, PlanXYStage}) {
+      EXPECT_EQ(LoadDrive(bench, planOf, Make::Later),
+                LoadDrive(bench, planOf, Make::BeforeLoading))
+          << bench << (planOf == PlanFocusDrive ? " focus" : " stage");
     }
   }
 }
@@ -216,7 +247,7 @@ void ExpectAsOnAMadePage(const char* bench, const Change& change, std::size_t fa
 }
 
 TEST(LateControls, TheOtherControlsAreLoadedAsOnAMadePageWhateverTheirValues) {
-  for (const char* bench : {"Harbour", "Lantern", "Pair"}) {
+  for (const char* bench : {"Harbour", "Hollow", "Pair"}) {
     for (std::size_t i = 0; i < OtherValues().size(); ++i) {
       SCOPED_TRACE(std::string(bench) + " values " + std::to_string(i));
       ExpectAsOnAMadePage(bench, OtherValues()[i]);
