@@ -1,4 +1,4 @@
-// What a model holds of the microscope that it was connected to before.
+// What a model holds of the microscope that it was connected to before, and of a call that failed.
 #include <gtest/gtest.h>
 
 #include "drives/clsControlXYDrive.h"
@@ -71,6 +71,38 @@ TEST_P(FormerDevice, LeavesNothingButWhatUnitsKeep) {
 INSTANTIATE_TEST_SUITE_P(Instruments, FormerDevice,
                          testing::Range(std::size_t{0}, InstrumentNames().size()),
                          [](const auto& row) { return InstrumentNames().at(row.param); });
+
+// The calls that the act makes on a connected microscope.
+std::size_t CallsOf(void (*act)(Rig&)) {
+  Rig rig("Harbour");
+  rig.Connect();
+  act(rig);
+  return rig.journal.CallCount();
+}
+
+void Connect(Rig& rig) {
+  rig.k70.Connect(1);
+}
+
+void Receive(Rig& rig) {
+  rig.k70.Receive();
+}
+
+TEST(FailedCall, OfAConnectionOrAReceiveLeavesNothingAfterTheNextOne) {
+  Rig fresh("Harbour");
+  const Lines expected = AfterConnecting(fresh, 1);
+  for (void (*act)(Rig&) : {Connect, Receive}) {
+    for (const std::size_t k : SampleOf(CallsOf(act), 23)) {
+      Rig rig("Harbour");
+      rig.prompts.AcceptAnyBox();
+      rig.Connect();
+      rig.faults.FailCall(k);
+      act(rig);
+      EXPECT_EQ(rig.faults.Hits(), 1U) << k;
+      EXPECT_EQ(AfterConnecting(rig, 1), expected) << k;
+    }
+  }
+}
 
 }  // namespace
 }  // namespace mortane::test
