@@ -1,6 +1,10 @@
 #include "drawings/MoveCross.h"
 
+#include <QPainter>
+
+#include "gui/support/Face.h"
 #include "gui/support/TestWindow.h"
+#include "widgets/Icons.h"
 #include "widgets/Theme.h"
 
 namespace mortane {
@@ -152,6 +156,21 @@ TEST_F(MoveCrossTest, ChevronsAreTheSameDrawingTurned) {
       const QImage turned = right.transformed(QTransform().rotate(degrees));
       EXPECT_LE(Difference(chevron(direction, size), turned), kRoundingOfColours) << degrees;
     }
+  }
+}
+
+TEST(MoveButtonFace, AChevronTakesTwentyOfThirtySixPixels) {
+  for (const auto& [size, icon] :
+       {std::pair{MoveSize::Small, IconName::StepSmall}, {MoveSize::Large, IconName::StepLarge}}) {
+    MoveButton button(MoveDirection::Right, size, nullptr);
+    const QImage picture = test::PictureOf(button, {36, 36}, test::Use::Rest);
+    const QPalette palette = test::TellablePalette();
+    QImage wanted(picture.size(), picture.format());
+    wanted.fill(palette.color(QPalette::Button));
+    QPainter painter(&wanted);
+    DrawIcon(painter, icon, QRectF(8, 8, 20, 20), {palette.color(QPalette::ButtonText), {}});
+    painter.end();
+    EXPECT_LE(Difference(picture.copy(4, 4, 28, 28), wanted.copy(4, 4, 28, 28)), 4);
   }
 }
 

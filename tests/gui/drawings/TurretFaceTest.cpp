@@ -245,6 +245,16 @@ TEST(TurretFace, WhatAPlaceShowsAnewIsPaintedAtOnce) {
   EXPECT_TRUE(paintedBy([&] { place->SetLabelFont(TitleFont()); }));
 }
 
+TEST(TurretFace, NothingOfTheDiscIsDarkerThanItsLines) {
+  TurretDrawing turret(PlaceKind::Objectives);
+  const QImage disc = test::PictureOf(turret, {280, 280}, Use::Rest);
+  const int line = ToneColor(Tone::DrawingLine).lightness();
+  int darkest = 255;
+  for (int x = 0; x < disc.width(); ++x)
+    darkest = qMin(darkest, disc.pixelColor(x, 140).lightness());
+  EXPECT_GE(darkest, line);
+}
+
 TEST(TurretFace, SixtyLinesStandRoundTheRimOfTheDisc) {
   TurretDrawing turret(PlaceKind::Objectives);
   const QImage disc = test::PictureOf(turret, {280, 280}, Use::Rest);

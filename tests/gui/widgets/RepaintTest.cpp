@@ -67,16 +67,19 @@ TEST(Repaint, TheLineOfAListFollowsTheFocus) {
   auto* other = window.Add<QLineEdit>();
   auto* list = window.Add<ListBox>();
   list->addRow("one");
-  list->setIndex(0);
   window.Show();
   other->setFocus();
   QApplication::processEvents();
   test::PaintCount paints(*list);
-  for (QWidget* next : {static_cast<QWidget*>(list), static_cast<QWidget*>(other)}) {
-    paints.count = 0;
-    next->setFocus();
+  for (const int row : {-1, 0}) {
+    list->setIndex(row);
     QApplication::processEvents();
-    EXPECT_GT(paints.count, 0);
+    for (QWidget* next : {static_cast<QWidget*>(list), static_cast<QWidget*>(other)}) {
+      paints.count = 0;
+      next->setFocus();
+      QApplication::processEvents();
+      EXPECT_GT(paints.count, 0) << row;
+    }
   }
 }
 
