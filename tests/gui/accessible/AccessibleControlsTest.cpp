@@ -208,6 +208,8 @@ TEST(AccessibleValue, CanBeReadByCharacters) {
   text->addSelection(0, 2);
   text->setCursorPosition(3);
   EXPECT_EQ(text->selectionCount(), 0);
+  EXPECT_EQ(text->offsetAtPoint({}), -1) << "places of characters are not told";
+  EXPECT_EQ(text->characterRect(0), QRect());
   EXPECT_EQ(text->cursorPosition(), 0);
   start = end = -1;
   text->selection(0, &start, &end);

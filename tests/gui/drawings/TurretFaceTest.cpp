@@ -1,6 +1,4 @@
-// What a place of a turret and the disc behind the places look like.
-#include <QtMath>
-#include <cmath>
+// What a place of a turret looks like, where it stands and where it is hit.
 #include "drawings/TurretButton.h"
 #include "drawings/TurretDrawing.h"
 #include "gui/support/Face.h"
@@ -180,23 +178,6 @@ TEST(TurretFace, APlaceTellsItsState) {
   }
 }
 
-TEST(TurretFace, TheDiscHasARimAndAHub) {
-  TurretDrawing turret(PlaceKind::Objectives);
-  const QImage picture = test::PictureOf(turret, {280, 280}, Use::Rest);
-  EXPECT_EQ(test::RowOf(picture, 140),
-            "Window 1, ~ 31, DrawingFill 94, ~ 2, DrawingShade 7, ~ 2, DrawingFill 6, ~ 2, "
-            "DrawingShade 7, ~ 2, DrawingFill 94, ~ 31, Window 1");
-  EXPECT_EQ(test::ColumnOf(picture, 140),
-            "Window 1, ~ 31, DrawingFill 94, ~ 2, DrawingShade 7, ~ 2, DrawingFill 6, ~ 2, "
-            "DrawingShade 7, ~ 2, DrawingFill 94, ~ 31, Window 1");
-  // About half of each of two pixels is the hub's edge.
-  const int line = ToneColor(Tone::DrawingLine).lightness();
-  const int most = line + (ToneColor(Tone::DrawingShade).lightness() - line) * 11 / 20;
-  for (const int x : {126, 127, 152, 153}) {
-    EXPECT_LT(picture.pixelColor(x, 140).lightness(), most) << x;
-  }
-}
-
 struct RingRow {
   PlaceKind kind;
   int count;
@@ -243,29 +224,6 @@ TEST(TurretFace, WhatAPlaceShowsAnewIsPaintedAtOnce) {
   EXPECT_FALSE(paintedBy([&] { place->SetPending("Two"); }));
   EXPECT_TRUE(paintedBy([&] { place->SetPlaceSize({30, 24}); }));
   EXPECT_TRUE(paintedBy([&] { place->SetLabelFont(TitleFont()); }));
-}
-
-TEST(TurretFace, NothingOfTheDiscIsDarkerThanItsLines) {
-  TurretDrawing turret(PlaceKind::Objectives);
-  const QImage disc = test::PictureOf(turret, {280, 280}, Use::Rest);
-  const int line = ToneColor(Tone::DrawingLine).lightness();
-  int darkest = 255;
-  for (int x = 0; x < disc.width(); ++x)
-    darkest = qMin(darkest, disc.pixelColor(x, 140).lightness());
-  EXPECT_GE(darkest, line);
-}
-
-TEST(TurretFace, SixtyLinesStandRoundTheRimOfTheDisc) {
-  TurretDrawing turret(PlaceKind::Objectives);
-  const QImage disc = test::PictureOf(turret, {280, 280}, Use::Rest);
-  const auto lightnessAt = [&disc](double degrees) {
-    const double angle = qDegreesToRadians(degrees);
-    const QPointF at(140 + 135.5 * std::sin(angle), 140 - 135.5 * std::cos(angle));
-    return disc.pixelColor(qFloor(at.x()), qFloor(at.y())).lightness();
-  };
-  for (int line = 0; line < 60; ++line) {
-    EXPECT_LT(lightnessAt(6 * line), lightnessAt(6 * line + 3)) << line;
-  }
 }
 
 struct GlyphRow {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "gui/support/TestWindow.h"
+#include "widgets/Theme.h"
 
 namespace mortane {
 namespace {
@@ -228,6 +229,17 @@ TEST_F(ListBoxTest, RowsAreNeverLowerThanTheGrid) {
   list->SetIconRows(true);
   list->doItemsLayout();
   EXPECT_GE(list->visualItemRect(list->topLevelItem(0)).height(), 36);
+}
+
+TEST_F(ListBoxTest, RowsAreHighEnoughForALargerFont) {
+  QFont large = list->font();
+  large.setPointSizeF(large.pointSizeF() * 3);
+  list->setFont(large);
+  QApplication::processEvents();
+  const int row = GridHeight(26, *list);
+  ASSERT_GT(row, 26);
+  EXPECT_EQ(list->visualItemRect(list->topLevelItem(1)),
+            QRect(0, row, list->viewport()->width(), row));
 }
 
 class ListBoxSearch : public ListBoxTest {

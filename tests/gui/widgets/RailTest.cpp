@@ -95,6 +95,18 @@ TEST_F(RailTest, UpAndDownOnlyMoveTheFocusAndSpaceSelects) {
   EXPECT_EQ(Indices(changes), (Rows{2}));
 }
 
+TEST_F(RailTest, UpAndDownGoFromPageToPage) {
+  rail->button(0)->setFocus();
+  for (const int page : {1, 2, 3}) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    EXPECT_TRUE(rail->button(page)->hasFocus()) << page;
+  }
+  for (const int page : {2, 1, 0}) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_TRUE(rail->button(page)->hasFocus()) << page;
+  }
+}
+
 TEST_F(RailTest, HomeAndEndMoveTheFocusToTheEndsThatCanBeUsed) {
   rail->select(0);
   rail->SetPageEnabled(3, false);

@@ -354,6 +354,7 @@ TEST_F(SectionBarTest, OptionsStandSideBySideAndGiveWayAlikeBesideTheirTexts) {
   const int wide =
       bar->option(0)->minimumSizeHint().width() + bar->option(1)->minimumSizeHint().width();
   EXPECT_EQ(bar->heightForWidth(wide), 34 + 4 + 34);
+  EXPECT_EQ(bar->heightForWidth(10), 34 + 4 + 34 + 4 + 34) << "too narrow for any of them";
   bar->setFixedSize(wide, 72);
   QApplication::processEvents();
   EXPECT_EQ(bar->option(1)->y(), 0);

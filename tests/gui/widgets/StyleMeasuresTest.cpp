@@ -45,6 +45,14 @@ TEST(StyleMeasures, AHandleShowsTheShareThatIsSeen) {
     level.rect = {20, 10, 100, 12};
     EXPECT_EQ(ScrollBarPart(level, S::SC_ScrollBarSlider), QRect(20 + row.top, 10, row.height, 12));
   }
+  const S& style = *QApplication::style();
+  const QStyleOptionSlider half = Bar(100, 50);
+  for (const S::SubControl part :
+       {S::SC_ScrollBarSlider, S::SC_ScrollBarSubPage, S::SC_ScrollBarAddPage,
+        S::SC_ScrollBarGroove, S::SC_ScrollBarAddLine, S::SC_ScrollBarSubLine}) {
+    EXPECT_EQ(style.subControlRect(S::CC_ScrollBar, &half, part, nullptr),
+              ScrollBarPart(half, part));
+  }
   const QStyleOptionSlider bar = Bar(100, 0);
   EXPECT_EQ(ScrollBarPart(bar, S::SC_ScrollBarGroove), bar.rect);
   EXPECT_EQ(ScrollBarPart(bar, S::SC_ScrollBarAddLine), QRect());
@@ -126,6 +134,7 @@ TEST(StyleMeasures, AComboShowsItsTextBeforeItsArrow) {
   };
   EXPECT_EQ(part(S::SC_ComboBoxEditField), QRect(18, 22, 66, 26));
   EXPECT_EQ(part(S::SC_ComboBoxArrow), QRect(84, 20, 26, 30));
+  EXPECT_EQ(part(S::SC_ComboBoxFrame), combo.rect);
 }
 
 // Of a wider row; the room behind it belongs to nothing.
