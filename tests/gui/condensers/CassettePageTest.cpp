@@ -122,6 +122,19 @@ TEST_F(ShownCassettePage, ACodeWithoutARowShowsNothingAndStays) {
   }
 }
 
+TEST_F(ShownCassettePage, ACodeBelowZeroHidesItsRowUntilALoadingFindsAnother) {
+  for (const std::int32_t code : {-1, 3}) {
+    cassette().code(3, code);
+    page.LoadData();
+    for (std::size_t row = 0; row < page.Combo1.size(); ++row) {
+      const bool shown = row != 2 || code >= 0;
+      EXPECT_EQ(page.Combo1[row]->isVisible(), shown) << row << " with " << code;
+      EXPECT_EQ(page.Label1[row]->isVisible(), shown) << row << " with " << code;
+    }
+    EXPECT_EQ(cassette().code(3), code);
+  }
+}
+
 TEST_F(ShownCassettePage, MakingAndShowingThePageStoresNothing) {
   for (int address = 1; address <= 7; ++address) EXPECT_EQ(cassette().code(address), address);
 }

@@ -77,6 +77,18 @@ TEST_F(CassetteTurret, ANameOfBlanksOrDashesIsAFreePlace) {
   }
 }
 
+TEST_F(CassetteTurret, AnAddressWhoseRowIsHiddenHasNoPlace) {
+  rig.k70().curCondenser.code(3, -1);
+  page.LoadData();
+  EXPECT_EQ(Places(), (Names{"Address 1, Bright", "Address 2, Ph 1", "Address 4, Darkfield",
+                             "Address 5, DIC L", "Address 6, DIC M", "Address 7, DIC H"}));
+  QTest::mouseClick(turret.place(2), Qt::LeftButton);
+  EXPECT_TRUE(combo(4).hasFocus());
+  EXPECT_EQ(turret.index(), 2);
+  combo(7).setFocus();
+  EXPECT_EQ(turret.index(), 5);
+}
+
 TEST_F(CassetteTurret, AChoiceInAListChangesItsPlaceAtOnce) {
   ChooseRow(combo(5), 1);
   EXPECT_EQ(Places()[4], "Address 5, Bright");
