@@ -32,7 +32,7 @@ class CondenserCassetteCtl : public CardPage {
   CondenserCassetteCtl(clsCondenser& cassette, const clsDbCondenser& condensers,
                        QWidget* parent = nullptr);
 
-  // Until the page is made.
+  // What happens in place of the page before it is made.
   static LatePlan Plan(clsCondenser& cassette, const clsDbCondenser& condensers);
 
   void LoadData() override;

@@ -19,8 +19,8 @@ namespace mortane {
 using namespace Qt::StringLiterals;
 namespace {
 
-constexpr int kCharacters = 10;
-// Of the list's four columns.
+constexpr int kValueCharacters = 10;
+// The room, in average characters, from which the list stands beside the turret.
 constexpr int kListCharacters = 62;
 
 // Where the list's columns begin at least, in quarters of a character.
@@ -62,7 +62,8 @@ Listing ListingOf(const clsDbFilter& cubes, std::int32_t fixed, std::int32_t mou
   return listing;
 }
 
-// One address alone is the protected one.
+// Whether loading the page leaves the cube at the first address. The only address of a turret is
+// its last one too, so the page may have to ask.
 bool StaysMounted(const clsFilter& turret, const clsDbFilter& cubes, std::int32_t fixed) {
   const std::int32_t mounted = turret.code(kFirstAddress);
   const Listing listing = ListingOf(cubes, fixed, mounted);
@@ -127,7 +128,7 @@ void FilterQubeCtl::BuildList() {
 void FilterQubeCtl::BuildValues() {
   Frm1 = values();
   for (const Value& value : kValues) {
-    const ValueBox::Value added = values()->AddValue(value.caption, kCharacters, 1);
+    const ValueBox::Value added = values()->AddValue(value.caption, kValueCharacters, 1);
     this->*value.label = added.caption;
     this->*value.value = added.value;
   }

@@ -29,7 +29,7 @@ class FilterQubeCtl : public TurretPage {
  public:
   FilterQubeCtl(clsFilter& turret, const clsDbFilter& cubes, QWidget* parent = nullptr);
 
-  // Until the page is made.
+  // What happens in place of the page before it is made.
   static LatePlan Plan(clsFilter& turret, const clsDbFilter& cubes);
 
   void LoadData() override;
@@ -55,7 +55,7 @@ class FilterQubeCtl : public TurretPage {
 
   void BuildList();
   void BuildValues();
-  // Of `fixed` cubes that the controller has from the start.
+  // `fixed` is the number of cubes that the controller defines.
   void Fill(std::int32_t fixed);
   // The row to select for a mounted code; -1 when there is none.
   int FillList(std::int32_t fixed, std::int32_t mounted);

@@ -117,7 +117,7 @@ ToggleTile* InterlockOtherCtl::BuildTile(const Change<Count>& change, const Othe
   return tile;
 }
 
-// They follow the nosepiece alone.
+// The drives follow the nosepiece alone, so these numbers come from its frame.
 void InterlockOtherCtl::TellDrives(std::int32_t accessory, bool follows) {
   if (accessory == accessory::kZFocusDrive) drives_.zDrive(follows);
   if (accessory == accessory::kXYStage) drives_.xyDrive(follows);

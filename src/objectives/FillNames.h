@@ -9,7 +9,8 @@
 namespace mortane {
 
 // Names 0 to `highest`. Kept: a list that holds as many keeps its rows, so that the names of the
-// first microscope stay as long as the program runs. Those that came later than the page are taken.
+// first microscope stay as long as the program runs. A list that was filled before the unit knew
+// the names holds another number, and is filled anew.
 template <typename NameOf>
 void FillNames(ListBox& list, std::int32_t highest, NameOf nameOf) {
   if (list.rowCount() == highest + 1) return;

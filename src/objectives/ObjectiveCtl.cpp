@@ -22,11 +22,12 @@ namespace {
 
 constexpr std::int32_t kFirstAddress = 1;
 constexpr int kSeriesWidth = 150;
-constexpr int kSeriesList = -1;
+constexpr int kNoColumn = -1;
 constexpr int kNameColumn = 4;
-// Of both lists, up to the end of the names, beside the turret.
+
+// The room, in average characters, from which both lists stand beside the turret, and from which
+// the lists stand beside each other.
 constexpr int kListCharacters = 86;
-// Of the lists beside each other, of usual names.
 constexpr int kSeriesCharacters = 12;
 constexpr int kObjectiveCharacters = 46;
 
@@ -76,14 +77,14 @@ QStringList CellsOf(const Objective& objective) {
 
 struct ObjectiveCtl::Value {
   const char* caption;
-  int part;  // of a row of the objective list
+  int column;  // of the objective list
   int characters;
   Control<QLabel> ObjectiveCtl::*label;
   Control<ValueLabel> ObjectiveCtl::*value;
 };
 
 const ObjectiveCtl::Value ObjectiveCtl::kValues[6]{
-    {"Series", kSeriesList, 20, &ObjectiveCtl::Label1, &ObjectiveCtl::LabelSeries},
+    {"Series", kNoColumn, 20, &ObjectiveCtl::Label1, &ObjectiveCtl::LabelSeries},
     {"Type", 0, 12, &ObjectiveCtl::Label2, &ObjectiveCtl::LabelType},
     {"Mag.", 1, 10, &ObjectiveCtl::Label3, &ObjectiveCtl::LabelMag},
     {"W.D.", 2, 10, &ObjectiveCtl::Label4, &ObjectiveCtl::LabelWD},
@@ -229,7 +230,7 @@ void ObjectiveCtl::SelectOrBlank(int row) {
 
 void ObjectiveCtl::ShowParts(const QStringList& cells) {
   for (const Value& value : kValues) {
-    if (value.part != kSeriesList) (this->*value.value)->setText(cells.value(value.part));
+    if (value.column != kNoColumn) (this->*value.value)->setText(cells.value(value.column));
   }
 }
 

@@ -30,7 +30,7 @@ class ObjectiveCtl : public TurretPage {
   ObjectiveCtl(clsNosepiece& nosepiece, const clsDbNosepiece& objectives,
                QWidget* parent = nullptr);
 
-  // Until the page is made.
+  // What happens in place of the page before it is made.
   static LatePlan Plan(clsNosepiece& nosepiece, const clsDbNosepiece& objectives);
 
   void LoadData() override;

@@ -25,7 +25,7 @@ constexpr std::string_view kNoCondenser = "None";
 
 constexpr std::int32_t kFirstOption = 1;
 
-// The texts of an objective of the user, as the boxes get them.
+// The texts that the fields get for the user's first objective.
 struct Shown {
   std::string name;
   std::array<std::string, 3> numbers;
@@ -42,7 +42,7 @@ Shown ShownOf(const clsDbNosepiece& objectives) {
   return shown;
 }
 
-// No box changes such a text.
+// Whether a field surely shows the text as it is: other characters may be replaced.
 bool IsPlain(const std::string& text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
 }

@@ -32,7 +32,7 @@ class ObjectiveOptionCtl : public CardPage {
  public:
   explicit ObjectiveOptionCtl(clsDbNosepiece& objectives, QWidget* parent = nullptr);
 
-  // Until the page is made.
+  // What happens in place of the page before it is made.
   static LatePlan Plan(clsDbNosepiece& objectives);
 
   void LoadData() override;
