@@ -5,6 +5,7 @@
 
 #include "gui/objectives/AccessibleObjectives.h"
 #include "gui/objectives/ObjectivePages.h"
+#include "gui/support/LatePages.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageDrill.h"
 #include "widgets/ListBox.h"
@@ -144,6 +145,18 @@ TEST(ObjectivePages, LoadingOpensTheNosepieceAgainAndLoadsTheOthersUnseen) {
   EXPECT_EQ(page.CurrentItem(), 0);
   EXPECT_EQ(page.ObjectiveOptionCtl1->TextName->text(), "Renamed");
   EXPECT_EQ(page.ObjectiveLimitCtl1->optPreventImmersion->selected(), 2);
+}
+
+// Which shows what that leaves of the name: the fifteen characters of its field.
+TEST(ObjectivePages, LoadingTheOptionalObjectivesComesBeforeTheNosepiece) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
+  ASSERT_EQ(page.CurrentItem(), 0);
+  MakeAllPages(page);
+  rig.k70().DbNosepiece.Set_DbNosepiece(1, "Sixteen letters.", 4, 6, "5", "1", "0.1", 0);
+  rig.k70().curNosepiece.code(1, 241);
+  page.LoadData();
+  EXPECT_EQ(Shown(rig.Find("LabelName")), "Sixteen letters");
 }
 
 TEST(ObjectivePages, SavingRepairsTheOptionalObjectiveWhateverIsOnShow) {
