@@ -87,6 +87,16 @@ TEST(CondenserNames, BlanksBehindANameDoNotCount) {
   EXPECT_EQ(Modified(rig.units), "Optional Condenser[1] Slit");
 }
 
+TEST(CondenserNames, StandInFullInTheirLineAndAreWrittenAsTheyStand) {
+  Rig rig("Harbour");
+  Record(rig, 142).name = "Twelve chars  ";
+  rig.ConnectAndReceive();
+  Record(rig, 142).name = "Other";
+  EXPECT_EQ(Modified(rig.units), "Optional Condenser[2] Twelve chars  ");
+  EXPECT_EQ(rig.units.dbcon.WriteSdk(), "");
+  EXPECT_EQ(Record(rig, 142).name, "Twelve chars  ");
+}
+
 TEST(CondenserNames, OnlyOptionsAreComparedAndWritten) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();

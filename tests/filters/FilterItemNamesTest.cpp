@@ -154,6 +154,16 @@ TEST_P(FilterItems, DifferByMoreThanTrailingBlanks) {
   EXPECT_EQ(Differences(), GetParam().label + "[3] Name");
 }
 
+TEST_P(FilterItems, StandInFullInTheirLineAndAreWrittenAsTheyStand) {
+  rig_.Connect();
+  OptionRecord(2).name = "Twelve chars  ";
+  EXPECT_EQ(GetParam().unit.read(rig_.units), "");
+  OptionRecord(2).name = "Other";
+  EXPECT_EQ(Differences(), GetParam().label + "[2] Twelve chars  ");
+  EXPECT_EQ(GetParam().unit.write(rig_.units), "");
+  EXPECT_EQ(OptionRecord(2).name, "Twelve chars  ");
+}
+
 TEST_P(FilterItems, FailAsALineOfEachOperation) {
   rig_.ConnectAndReceive();
   SetName(241, "New");

@@ -29,6 +29,18 @@ TEST(ObjectiveRead, AsksTheListsOnceAndOnlyTheUsersObjectivesForTheirCodes) {
   EXPECT_EQ(queries[8], "QueryCommand(\"rONR9\") -> \"ONR9000000000000\"");
 }
 
+TEST(ObjectiveRead, AFixedObjectiveAmongTheNineCodesIsNotAskedForItsCode) {
+  Rig rig("Harbour");
+  Record(rig, 242).option = false;
+  rig.Connect();
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.Name(242), "Loan 63x Oil");
+  EXPECT_EQ(rig.units.DbNosepiece.AdoptiveCondenser(242), 0);
+  for (const std::string& line : rig.journal.Lines()) {
+    EXPECT_EQ(line.find("rONR2"), std::string::npos) << line;
+  }
+}
+
 TEST(ObjectiveRead, WithoutANosepieceLeavesTheTableEmptyButLoadsTheLists) {
   Rig rig("Harbour");
   rig.instrument().Accessory(accessory::kNosepiece).state = 0;

@@ -87,6 +87,12 @@ TEST_F(ShownCassettePage, AsksForTheFixedCondensersOnly) {
   }
 }
 
+TEST_F(ShownCassettePage, ARecordBetweenTheFixedOnesAndTheOptionsIsNotOffered) {
+  rig.k70().dbcon.Name(140, "Between");
+  page.LoadData();
+  for (int address = 1; address <= 7; ++address) EXPECT_EQ(combo(address).rowOf(140), -1);
+}
+
 struct NamedRow {
   const char* name;
   bool offered;

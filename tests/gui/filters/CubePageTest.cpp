@@ -78,6 +78,18 @@ TEST_F(CubePage, OptionalCubesWithoutANameAreNotListed) {
   EXPECT_EQ(page.List1->data(12).toInt(), 245);
 }
 
+TEST_F(CubePage, ARecordBetweenTheFixedCubesAndTheOptionsIsNotListed) {
+  auto& cubes = rig.instrument().database.cubes;
+  cubes.back().code = 240;
+  cubes.back().name = "Between";
+  rig.k70().Receive();
+  ASSERT_EQ(rig.k70().dbFilter.Name(240), "Between");
+  page.LoadData();
+  for (int row = 0; row < page.List1->rowCount(); ++row) {
+    EXPECT_NE(page.List1->data(row).toInt(), 240) << row;
+  }
+}
+
 TEST_F(CubePage, ATabShowsWhatStandsAtItsAddressAndVisitingChangesNothing) {
   const Texts names{"UV Blue", "Violet", "Green", "Yellow", "Orange", "Empty"};
   for (int i = 0; i < 6; ++i) {
@@ -187,6 +199,13 @@ TEST_F(CubePage, ACountOfNoneListsTheCodeForNothingAndTheOptions) {
   page.LoadData();
   EXPECT_EQ(RowsOf(*page.List1), (Texts{"\t\t\t", "Ratio\t387/11\tDM 495\t525/50"}));
   EXPECT_EQ(page.List1->index(), -1);
+  EXPECT_EQ(codeAt(1), 2);
+}
+
+TEST_F(CubePage, ACountThatGivesNoAnswerIsNone) {
+  rig.faults.Add({"AccessoryDatabase.FilterCubeCount"});
+  page.LoadData();
+  EXPECT_EQ(RowsOf(*page.List1), (Texts{"\t\t\t", "Ratio\t387/11\tDM 495\t525/50"}));
   EXPECT_EQ(codeAt(1), 2);
 }
 

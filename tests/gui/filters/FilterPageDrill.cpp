@@ -250,6 +250,9 @@ PageDrillData Settings() {
   data.enabling = {
       {"optFilterSetting_0", "Harbour", {}, true},
       {"optFilterSetting_0", "Harbour", Without<accessory::kFilterCube>, false},
+      {"optFilterSetting_0", "Harbour",
+       [](Bench& bench) { Fit(bench.instruments.back(), accessory::kFilterCube, kSensorOnly); },
+       true},
       {"optFilterSetting_1", "Harbour", Without<accessory::kFilterCube>, true},
       {"optFilterSetting_2", "Harbour", Without<accessory::kFilterCube>, true},
   };

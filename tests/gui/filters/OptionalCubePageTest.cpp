@@ -99,6 +99,21 @@ TEST_F(OptionalCubePage, ANewlyNamedItemAppearsWithTheNextLoadingAndAMarkedOneDo
   EXPECT_EQ(page.ListExciter->data(15).toInt(), 249);
 }
 
+TEST_F(OptionalCubePage, AListWhoseCountGivesNoAnswerHasItsFirstRowAndTheOptions) {
+  rig.faults.Add({"AccessoryDatabase.DichroicCount"});
+  page.LoadData();
+  EXPECT_EQ(RowsOf(*page.ListDichroic), (std::vector<std::string>{"", "DM 409"}));
+  EXPECT_EQ(page.ListExciter->rowCount(), 14);
+  EXPECT_EQ(page.ListBarrier->rowCount(), 13);
+  EXPECT_EQ(cube(1), (Cube{"Ratio", 241, 4, 5}));
+}
+
+TEST_F(OptionalCubePage, AnItemBetweenTheFixedOnesAndTheOptionsIsNotListed) {
+  rig.k70().Exciter.Name(240, "Between");
+  page.LoadData();
+  EXPECT_EQ(page.ListExciter->rowCount(), 14);
+}
+
 TEST_F(OptionalCubePage, AFixedItemOfTenDashesIsSkippedAndItsNeighboursKeepTheirCodes) {
   rig.k70().Dichroic.Name(4, kDashes);
   Put(1, {"Ratio", 241, 5, 5});

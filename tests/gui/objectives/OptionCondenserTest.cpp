@@ -95,6 +95,47 @@ TEST(OptionCondenser, WithoutACondenserTheRowsAndTheStoredCodeStay) {
   EXPECT_EQ(First(rig.k70()), "Clinic 25x|2|3|5|1.98|0.95|3");
 }
 
+TEST(OptionCondenser, OnlyAStateOfOneIsACondenser) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
+  for (const std::int32_t state : {0, 1, 2}) {
+    rig.instrument().Accessory(accessory::kCondenser).state = state;
+    page.LoadData();
+    EXPECT_EQ(page.FrmCondenser->isEnabled(), state == 1) << state;
+  }
+}
+
+TEST(OptionCondenser, ACondenserThatGivesNoAnswerIsNone) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
+  const Texts before = RowsOf(*page.ComboCondenser);
+  rig.faults.Add({"CondenserDevice"});
+  page.LoadData();
+  EXPECT_FALSE(page.FrmCondenser->isEnabled());
+  EXPECT_EQ(RowsOf(*page.ComboCondenser), before);
+}
+
+struct FaultRow {
+  const char* call;
+  Texts rows;
+};
+
+TEST(OptionCondenser, ARecordThatCannotBeReadEndsTheCondensers) {
+  for (const FaultRow& row :
+       {FaultRow{"AccessoryDatabase.Condensers", {"None"}},
+        FaultRow{"AccessoryDatabase.Condensers.Count", {"None"}},
+        FaultRow{"AccessoryDatabase.Condensers.Item(5).Name", {"None", "Ph 1", "Ph 2"}},
+        FaultRow{"AccessoryDatabase.Condensers.Item(6).IsOption",
+                 {"None", "Ph 1", "Ph 2", "DIC L"}}}) {
+    PageRig rig("Harbour");
+    auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
+    rig.faults.Add({row.call});
+    page.LoadData();
+    EXPECT_EQ(RowsOf(*page.ComboCondenser), row.rows) << row.call;
+    EXPECT_TRUE(page.FrmCondenser->isEnabled()) << row.call;
+  }
+}
+
 TEST(OptionCondenser, ATabAsksForTheCondenserButKeepsItsRows) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
