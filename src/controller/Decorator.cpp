@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "common/Numbers.h"
+#include "controller/EnumeratorMembers.h"
 #include "controller/Proxy.h"
 
 namespace mortane::controller {
@@ -39,9 +40,6 @@ class DecoratedObject : public ControllerObject {
 };
 
 namespace {
-
-constexpr std::string_view kEnumeratorMember = "_NewEnum";
-constexpr std::string_view kNextMember = "Next";
 
 bool IsObject(const Value& value) {
   return std::holds_alternative<ObjectRef>(value);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "controller/ControllerError.h"
+#include "controller/EnumeratorMembers.h"
 #include "controller/com/ComError.h"
 #include "controller/com/ComReference.h"
 #include "controller/com/Variant.h"
@@ -16,9 +17,6 @@
 
 namespace mortane::controller {
 namespace {
-
-constexpr std::string_view kEnumeratorMember = "_NewEnum";
-constexpr std::string_view kNextMember = "Next";
 
 // Numbers in texts have a decimal point, whatever the user's system writes.
 constexpr LCID kLocale = 0x0409;  // English of the United States

@@ -2,11 +2,10 @@
 
 #include <utility>
 
+#include "controller/EnumeratorMembers.h"
+
 namespace mortane::controller {
 namespace {
-
-constexpr std::string_view kEnumeratorMember = "_NewEnum";
-constexpr std::string_view kNextMember = "Next";
 
 struct Converter {
   SessionValue operator()(const ObjectRef& object) const {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "controller/EnumeratorMembers.h"
 #include "controller/simulator/AccessoryRows.h"
 
 namespace mortane::controller {
@@ -83,7 +84,7 @@ ObjectRef MakeTurretPosition(const PlaceLink& link) {
 // The object's place is that of the next item.
 ObjectRef MakeTurretEnumerator(const TurretLink& link) {
   static const MemberTable<PlaceLink> members =
-      MemberTable<PlaceLink>().OnCall("Next", 0, [](PlaceLink& next, Args) -> Value {
+      MemberTable<PlaceLink>().OnCall(kNextMember, 0, [](PlaceLink& next, Args) -> Value {
         if (next.index >= next.turret.Places().size()) return {};
         return MakeTurretPosition({next.turret, next.index++});
       });
@@ -97,7 +98,7 @@ ObjectRef MakePositions(const TurretLink& link) {
                  [](const TurretLink& turret, Args) -> Value {
                    return static_cast<std::int32_t>(turret.Places().size());
                  })
-          .OnGet("_NewEnum", 0, [](const TurretLink& turret, Args) -> Value {
+          .OnGet(kEnumeratorMember, 0, [](const TurretLink& turret, Args) -> Value {
             return MakeTurretEnumerator(turret);
           });
   return MakeObject(members, link);
