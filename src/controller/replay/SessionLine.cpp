@@ -41,12 +41,6 @@ std::string_view TakeWord(std::string_view& text) {
   return word;
 }
 
-bool TakePrefix(std::string_view& text, std::string_view prefix) {
-  if (!text.starts_with(prefix)) return false;
-  text.remove_prefix(prefix.size());
-  return true;
-}
-
 void AppendColumn(std::string& text, std::string_view word, std::size_t width) {
   text.append(width - std::min(word.size(), width), ' ').append(word);
 }

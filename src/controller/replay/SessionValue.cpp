@@ -46,12 +46,6 @@ struct Appender {
   void operator()(ObjectNumber object) const { (text += '#') += std::to_string(object.number); }
 };
 
-bool TakePrefix(std::string_view& text, std::string_view prefix) {
-  if (!text.starts_with(prefix)) return false;
-  text.remove_prefix(prefix.size());
-  return true;
-}
-
 template <typename Number>
 std::optional<Number> WholeText(std::string_view text) {
   Number number{};
@@ -107,6 +101,12 @@ std::optional<char> TakeEscaped(std::string_view& text) {
 }
 
 }  // namespace
+
+bool TakePrefix(std::string_view& text, std::string_view prefix) {
+  if (!text.starts_with(prefix)) return false;
+  text.remove_prefix(prefix.size());
+  return true;
+}
 
 void AppendQuoted(std::string& text, std::string_view value) {
   text += '"';

@@ -27,6 +27,9 @@ using SessionValue = std::variant<std::monostate, bool, std::int16_t, std::int32
 void AppendValue(std::string& text, const SessionValue& value);
 void AppendQuoted(std::string& text, std::string_view value);
 
+// Takes the prefix off the beginning of the text; false when it begins with another.
+bool TakePrefix(std::string_view& text, std::string_view prefix);
+
 // Takes a value off the beginning of the text; nothing, and the text as it was or shorter, when it
 // begins with none.
 std::optional<SessionValue> TakeValue(std::string_view& text);
