@@ -5,12 +5,15 @@
 #include <QScrollArea>
 #include <QStatusBar>
 #include <array>
+#include <functional>
 
 #include "WizardRig.h"
 #include "app/GetAppIcon.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
 #include "drives/ControlOtherCtl.h"
+#include "gui/support/EventLoop.h"
+#include "objectives/ObjectiveSettingsCtl.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
 #include "widgets/ListBox.h"
@@ -252,6 +255,38 @@ TEST(WizardName, OfANamelessMicroscopeIsLeftAloneUnlessThePersonGoesThere) {
   EXPECT_EQ(rig.form->focusWidget(), rig.form->ButtonNext);
   QTest::mouseClick(rig.form->ButtonFinish, Qt::LeftButton);
   EXPECT_EQ(GetK70().SystemName, "  ");
+}
+
+TEST(WizardText, ThatIsRefusedKeepsTheStepWhateverThePersonClicks) {
+  WizardRig rig(benches::Named("Harbour"));
+  rig.Start();
+  SadrelMainForm& form = *rig.form;
+  form.activateWindow();
+  form.optMenu[2]->setChecked(true);
+  QTest::mouseClick(form.ObjectiveSettingsCtl1->sections()->option(1), Qt::LeftButton);
+  auto& distance = rig.Find<TextField>("TextWD");
+  const auto refuse = [&](const std::function<void()>& act) {
+    distance.setFocus();
+    distance.selectAll();
+    QTest::keyClicks(&distance, "abc");
+    rig.prompts.ExpectBox("Please Input right value.", 0);
+    act();
+    // A button acts a moment after its letter.
+    EXPECT_TRUE(QTest::qWaitFor([&rig] { return rig.prompts.AllAnswersUsed(); }));
+    DeliverAll();
+    EXPECT_EQ(form.currentStep, 2);
+    EXPECT_TRUE(distance.hasFocus());
+    EXPECT_EQ(distance.text(), "abc");
+  };
+  for (QWidget* clicked :
+       std::initializer_list<QWidget*>{form.ButtonCancel, form.ButtonPrevious, form.ButtonNext,
+                                       form.ButtonFinish, form.ImageMenu[0], form.ImageMenu[3]}) {
+    refuse([clicked] { QTest::mouseClick(clicked, Qt::LeftButton); });
+  }
+  for (const Qt::Key letter : {Qt::Key_C, Qt::Key_P, Qt::Key_N, Qt::Key_F}) {
+    refuse([&] { QTest::keyClick(&form, letter, Qt::AltModifier); });
+  }
+  EXPECT_TRUE(form.isVisible());
 }
 
 TEST(WizardItems, FromAPersonsClickReachTheSequence) {
