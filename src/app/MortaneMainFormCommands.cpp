@@ -183,6 +183,7 @@ void MortaneMainForm::DoSelect() {
     prompts().MsgBox("Device Connect Error.", box::kCritical);
     return;
   }
+  TakeConnected();
   DoReceive();
   NoteKept();
   EnableTransfers(true);
@@ -207,7 +208,9 @@ void MortaneMainForm::NoteConnection() {
                         k70.lConnectDevice == kSimulator);
 }
 
+// Without a connection nothing of a transfer was done.
 void MortaneMainForm::NoteTransfer(SessionNote::Act act, Outcome outcome, const QString& remark) {
+  if (!IsConnected()) outcome = Outcome::NotDone;
   if (outcome == Outcome::Complete) NoteConnection();
   note_->ShowDone(act, outcome, Now().toString(u"HH:mm"_s) + remark);
 }

@@ -221,6 +221,7 @@ void ProgramForm::LetKeptGo() {
 }
 
 void ProgramForm::TakeReceived() {
+  if (!isConnected_) return;
   const bool first = pending_.Held() == nullptr;
   pending_.TakeReceived();
   if (first) {
@@ -231,11 +232,17 @@ void ProgramForm::TakeReceived() {
 }
 
 void ProgramForm::TakeSent(Outcome sent) {
+  if (!isConnected_) return;
   pending_.TakeSent(sent);
   unsent_.Rename(pending_.Device());
 }
 
+void ProgramForm::TakeConnected() {
+  isConnected_ = true;
+}
+
 void ProgramForm::TakeDisconnected() {
+  isConnected_ = false;
   pending_.Forget();
   unsent_.Remove();
   unsent_.FollowNone();

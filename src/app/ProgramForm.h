@@ -80,10 +80,14 @@ class ProgramForm : public QMainWindow {
   void OfferKept(KeptButton& button, std::function<void(const FileResult&)> opened);
   // Once a device is connected.
   void NoteKept();
-  // The model was received, was sent, or has no microscope any more.
+  // The model was received or was sent. Without a connection neither counts: what the model holds
+  // belongs to no microscope then.
   void TakeReceived();
   void TakeSent(Outcome sent);
+  // Another microscope was chosen: the former one is gone, and the new one is there or is not.
   void TakeDisconnected();
+  void TakeConnected();
+  [[nodiscard]] bool IsConnected() const { return isConnected_; }
 
   Prompts& prompts() const { return services_.prompts; }
   // The time of day.
@@ -121,6 +125,7 @@ class ProgramForm : public QMainWindow {
   bool startEnded_ = false;
   bool commandRunning_ = false;
   bool closeRequested_ = false;
+  bool isConnected_ = true;  // the window ends where the start path does not connect
 };
 
 }  // namespace mortane

@@ -5,9 +5,9 @@
 
 #include <deque>
 
+#include "AppRig.h"
 #include "common/Failure.h"
 #include "support/RefusedMutex.h"
-#include "support/Rig.h"
 #include "support/Sample.h"
 
 namespace mortane::test {
@@ -23,15 +23,6 @@ constexpr char kSimulation[] = "This application runs Simulation mode";
 constexpr char kNotAvailable[] = "Not Available Microscope";
 constexpr char kConnectError[] =
     "Device Connect Error.\r\nPlease restart this application or your machine.";
-
-Bench Microscopes(std::initializer_list<const char*> names) {
-  Bench bench = benches::Named("Quay");
-  for (const char* name : names) {
-    bench.instruments.push_back(benches::InstrumentNamed("Harbour"));
-    bench.instruments.back().name = name;
-  }
-  return bench;
-}
 
 // The start path on a bench, with the answers that its dialog is to give.
 struct StartRig : Rig {

@@ -15,6 +15,7 @@
 #include "app/SelScopeDlg.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
+#include "gui/support/EventLoop.h"
 #include "support/Sample.h"
 #include "support/TempFolder.h"
 #include "widgets/CommandKey.h"
@@ -135,6 +136,24 @@ TEST(Select, OfAHeldDeviceStopsAndDisablesExactlyTheTransfers) {
   rig.Select(0);
   EXPECT_EQ(rig.Transfers(), std::vector<bool>(4, true));
   EXPECT_EQ(GetK70().lConnectDevice, 1);
+}
+
+// What the model still holds was not received from any microscope.
+TEST(Select, WithoutAConnectionATransferThatIsTriedLeavesNothingToCompareWith) {
+  for (const int tool : {5, 6}) {
+    SelectRig rig;
+    RigLibrary other(benches::Named("Quay"));
+    clsK70 holder(other.library, other.prompts);
+    ASSERT_TRUE(holder.CreateConnectionName("2"));
+    rig.app.prompts.AcceptAnyBox();
+    rig.Select(1);
+    ASSERT_EQ(GetK70().lConnectDevice, -1);
+    rig.Tool(tool);
+    GetK70().SystemName = "Bay 4";
+    QTest::keyClick(&rig.form(), Qt::Key_Shift);
+    DeliverAll();
+    EXPECT_FALSE(rig.form().ImageButton[0]->isPending()) << tool;
+  }
 }
 
 TEST(Select, WithoutAConnectionOpenAndSaveStillWork) {

@@ -209,6 +209,13 @@ TEST_F(Note, TellsThatAHeldMicroscopeIsNotConnected) {
   prompts().ExpectBox("Other Application has already used this Microscope.", 0);
   Choose(1);
   EXPECT_EQ(Text(), "Not connected");
+  prompts().AcceptAnyBox();
+  for (const auto& [tool, text] : {std::pair{5, "Not connected · Receive failed 09:12"},
+                                   std::pair{6, "Not connected · Send failed 09:12"}}) {
+    QAction* button = form->Toolbar1->actions()[tool - 1];
+    QTest::mouseClick(form->Toolbar1->widgetForAction(button), Qt::LeftButton);
+    EXPECT_EQ(Text(), text);
+  }
 }
 
 TEST_F(Note, StandsAtTheRightEndAndGivesWayToTheButtons) {
