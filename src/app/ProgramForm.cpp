@@ -246,6 +246,7 @@ void ProgramForm::TakeDisconnected() {
   pending_.Forget();
   unsent_.Remove();
   unsent_.FollowNone();
+  NoteKept();
 }
 
 bool ProgramForm::KeepBackup() const {

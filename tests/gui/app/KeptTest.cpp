@@ -22,6 +22,7 @@
 #include "objectives/clsNosepiece.h"
 #include "record/Backups.h"
 #include "support/TempFolder.h"
+#include "widgets/ListBox.h"
 #include "widgets/TextField.h"
 
 namespace mortane::test {
@@ -226,6 +227,29 @@ TEST_F(Kept, EditsOfAProcessThatDiedStayOfferedWhenTheDeviceGetsAnotherName) {
   OpenKept();
   EXPECT_EQ(GetK70().curNosepiece.code(1), edited);
   EXPECT_TRUE(note().ButtonKept->isHidden());
+}
+
+TEST_F(Kept, EditsOfAProcessThatDiedAreNotOfferedOnceTheMicroscopeIsGone) {
+  bench = Microscopes({"Alpha", "Beta"});
+  const auto choose = [](int line) {
+    return [line](SelScopeDlg& dialog) {
+      dialog.List1->setIndex(line);
+      dialog.OkButton->click();
+    };
+  };
+  for (const bool isSecond : {false, true}) {
+    const WhenShown<SelScopeDlg> person(choose(0));
+    if (isSecond) End();
+    Start();
+    Edit(7);
+    Keep("Alpha");
+  }
+  ASSERT_TRUE(note().ButtonKept->isVisible());
+  library->faults.Add({"DeviceList.Item(2).Connect"});
+  library->prompts.ExpectBox("Device Connect Error.", 16);
+  const WhenShown<SelScopeDlg> person(choose(1));
+  form->MenuConnectSelect->trigger();
+  EXPECT_FALSE(note().ButtonKept->isVisible());
 }
 
 TEST_F(Kept, EditsAreThereWhileABoxStands) {
