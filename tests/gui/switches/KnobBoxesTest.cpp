@@ -149,6 +149,43 @@ INSTANTIATE_TEST_SUITE_P(
         // A type whose defaults leave all switches without a function.
         KnobRow{"Outpost", {0, 3}, {0, 0}, "Default", {kFocusAuto, kStageAuto}, {1, 1}}));
 
+struct WrittenRow {
+  SwitchRowsCtl* (*make)(SwitchPageUnits& k70);
+  int pushRow;
+  const char* act;
+  std::int32_t mode;  // of the focus knob, before
+  std::string box;
+  const char* function;  // of the row while the box stands
+};
+
+TEST(KnobsAndRows, TheRowsAreWrittenBeforeTheCheckTellsOfAKnob) {
+  const auto body = [](SwitchPageUnits& k70) -> SwitchRowsCtl* {
+    return MakeSwitchSettingCtl(k70);
+  };
+  const auto hand = [](SwitchPageUnits& k70) -> SwitchRowsCtl* {
+    return MakeTactorSwitchSettingCtl(k70);
+  };
+  for (const WrittenRow& row :
+       {WrittenRow{body, 5, "Z Escape", 0, kFocusAuto, "Z Escape"},
+        WrittenRow{body, 5, "All Clear", 0, kFocusAuto, kDashes},
+        WrittenRow{body, 5, "Default", 1, kFocusManual, "Shutter OPEN/CLOSE"},
+        WrittenRow{hand, 2, "Z Escape", 0, kFocusAuto, "Z Escape"},
+        WrittenRow{hand, 2, "All Clear", 0, kFocusAuto, kDashes},
+        WrittenRow{hand, 2, "Default", 1, kFocusManual, kStageSpeed}}) {
+    PageRig rig("Harbour");
+    SetCodes(rig.k70().curSwitch, 50);
+    SetCodes(rig.k70().curTactor, 50);
+    SwitchRowsCtl& page = rig.Show(row.make(rig.k70()));
+    rig.k70().COther.curAutoZ = row.mode;
+    rig.k70().COther.curAutoXY = -1;
+    std::string during;
+    rig.prompts.ExpectBox(row.box, box::kOk, Answer::Ok, {},
+                          [&] { during = page.ListView1->cell(row.pushRow, 1).toStdString(); });
+    Act(page, row.pushRow, row.act);
+    EXPECT_EQ(during, row.function) << row.act << row.pushRow;
+  }
+}
+
 // A dial's function tells of no knob.
 TEST(KnobsAndDials, HaveNothingToDoWithEachOther) {
   for (SwitchRowsCtl* (*make)(SwitchPageUnits&) :
