@@ -157,6 +157,17 @@ TEST(FocusPage, TheUpperLimitIsThePagesOwn) {
   EXPECT_EQ(rig.page.optUpperLimitation->selected(), 0);
 }
 
+TEST(FocusPage, ALoadingShowsTheFramesOfWhatTheMicroscopeHas) {
+  FocusRig limits("Lantern");
+  limits.page.FrameDownLimitation->hide();
+  limits.page.LoadData();
+  EXPECT_TRUE(limits.page.FrameDownLimitation->isVisible());
+  FocusRig escape;
+  escape.page.frmEscapeSetting->hide();
+  escape.page.LoadData();
+  EXPECT_TRUE(escape.page.frmEscapeSetting->isVisible());
+}
+
 TEST(FocusPage, TheLowerLimitIsEnabledAgainByAMicroscopeThatHasIt) {
   PageRig rig(List({"Quay", "Outpost", "Harbour"}));
   auto& page = rig.Show(MakeControlFocusDriveCtl(rig.k70()));
@@ -319,81 +330,6 @@ TEST(FocusPage, AnEscapeThatWasOnAndBecomesUnknownStaysUnknownInTheUnit) {
   rig.page.LoadData();
   EXPECT_FALSE(rig.page.chkEscape[0]->isUnknown());
   EXPECT_EQ(rig.drive().SetEscape(0), 0);
-}
-
-struct OptionsRow {
-  std::int32_t code;
-  int selected;
-  bool on;
-  bool off;
-};
-
-TEST(FocusPage, TheOptionsOfTheCompensationAreShownUpToTheOneThatIsSelected) {
-  for (const OptionsRow& row :
-       {OptionsRow{3, 1, true, false}, OptionsRow{1, 2, true, true}, OptionsRow{2, 0, false, false},
-        OptionsRow{-1, -1, false, false}, OptionsRow{7, -1, true, true}}) {
-    FocusRig rig("Hub");
-    OptionGroup& options = *rig.page.optFocusCompensation;
-    ASSERT_EQ(rig.drive().curFocusCompensation, -1);
-    rig.drive().curFocusCompensation = row.code;
-    rig.page.LoadData();
-    EXPECT_EQ(options.selected(), row.selected) << row.code;
-    EXPECT_TRUE(options.button(0)->isHidden()) << row.code;
-    EXPECT_EQ(!options.button(1)->isHidden(), row.on) << row.code;
-    EXPECT_EQ(!options.button(2)->isHidden(), row.off) << row.code;
-  }
-}
-
-TEST(FocusPage, LaterOptionsOfTheCompensationKeepTheirVisibility) {
-  FocusRig rig;
-  rig.drive().curFocusCompensation = 1;
-  rig.page.LoadData();
-  rig.drive().curFocusCompensation = 3;
-  rig.page.LoadData();
-  EXPECT_FALSE(rig.page.optFocusCompensation->button(2)->isHidden());
-  rig.drive().curFocusCompensation = -1;
-  rig.page.LoadData();
-  for (int i = 0; i < 3; ++i) EXPECT_TRUE(rig.page.optFocusCompensation->button(i)->isHidden());
-  EXPECT_EQ(rig.drive().curFocusCompensation, -1);
-}
-
-struct InterlockRow {
-  int option;
-  std::int32_t compensation;
-  std::int32_t state;
-};
-
-TEST(FocusPage, TheInterlockOfTheDriveFollowsTheCompensation) {
-  FocusRig rig;
-  auto& interlock = rig.k70().ILOther;
-  for (const InterlockRow& row : {InterlockRow{2, 1, 0}, InterlockRow{1, 3, 1},
-                                  InterlockRow{0, 2, 0}, InterlockRow{1, 3, 1}}) {
-    rig.page.optFocusCompensation->select(row.option);
-    EXPECT_EQ(rig.drive().curFocusCompensation, row.compensation);
-    EXPECT_EQ(interlock.Status(12), row.state) << row.option;
-  }
-}
-
-TEST(FocusPage, AClickOnTheCompensationOnShowSetsTheInterlockAgain) {
-  FocusRig rig;
-  rig.k70().ILOther.Status(12, 0);
-  ClickButton(*rig.page.optFocusCompensation->button(1));
-  EXPECT_EQ(rig.k70().ILOther.Status(12), 1);
-}
-
-TEST(FocusPage, LoadingTheCompensationOnShowLeavesTheInterlock) {
-  FocusRig rig;
-  ASSERT_EQ(rig.page.optFocusCompensation->selected(), 1);
-  rig.k70().ILOther.Status(12, 0);
-  rig.page.LoadData();
-  EXPECT_EQ(rig.k70().ILOther.Status(12), 0);
-}
-
-TEST(FocusPage, AnUnknownInterlockStaysUnknown) {
-  FocusRig rig("Hub");
-  ASSERT_EQ(rig.k70().ILOther.Status(12), -1);
-  rig.page.optFocusCompensation->select(1);
-  EXPECT_EQ(rig.k70().ILOther.Status(12), -1);
 }
 
 }  // namespace

@@ -78,6 +78,16 @@ TEST(OtherPageFrames, TheKnobsControlsComeAndGoEachByItsOwnRule) {
   }
 }
 
+// A row without controls would still be a group to a screen reader.
+TEST(OtherPageFrames, TheRowOfTheStageKnobGoesWithTheStage) {
+  for (const auto& [bench, hasStage] : {std::pair{"Hollow", false}, std::pair{"Outpost", false},
+                                        std::pair{"Pair", true}, std::pair{"Watch", true}}) {
+    OtherRig rig(bench);
+    const auto& page = rig.Show(MakeControlOtherCtl(rig.k70()));
+    EXPECT_EQ(!page.Frame1->isHidden(), hasStage) << bench;
+  }
+}
+
 TEST(OtherPageFrames, AKnobsOptionsSayOfWhichKnobTheyAreAlsoWithoutALabel) {
   for (const char* bench : {"Quay", "Lantern", "Pair", "Hub", "Watch"}) {
     OtherRig rig(bench);
