@@ -306,5 +306,62 @@ TEST_P(RandomModels, AreEqualAfterAFile) {
 INSTANTIATE_TEST_SUITE_P(Benches, RandomModels, ::testing::ValuesIn(benches::Names()),
                          [](const auto& row) { return row.param; });
 
+// The sections of a file, as it has them one after the other.
+std::vector<std::string> SectionsOf(const std::string& text) {
+  std::vector<std::string> sections;
+  std::size_t begin = text.find("<SYSTEM");
+  for (std::size_t i = 1; i <= kFileSections.size(); ++i) {
+    const std::string next =
+        i < kFileSections.size() ? "<" + std::string(kFileSections[i].element) : "</Setup>";
+    const std::size_t end = text.find(next, begin);
+    sections.push_back(text.substr(begin, end - begin));
+    begin = end;
+  }
+  return sections;
+}
+
+std::string Joined(const std::vector<std::string>& sections) {
+  std::string text = "<Setup>";
+  for (const std::string& section : sections) text += section;
+  return text + "</Setup>";
+}
+
+// Two models of one instrument, neither with the LED's words.
+class OrderOfSections : public ::testing::Test {
+ protected:
+  OrderOfSections() {
+    rig.ConnectAndReceive();
+    rig.k70.COther.curR_TLPOLED = -1;
+    first = RandomText();
+    second = RandomText();
+  }
+
+  std::string RandomText() {
+    MakeRandom(rig.k70, random);
+    return TextOf(rig.k70);
+  }
+
+  Rig rig{"Quay"};
+  std::mt19937 random{3};
+  std::string first;
+  std::string second;
+};
+
+TEST_F(OrderOfSections, DoesNotMatter) {
+  std::vector<std::string> sections = SectionsOf(first);
+  ASSERT_EQ(Joined(sections), first);
+  std::reverse(sections.begin(), sections.end());
+  Read(rig.k70, Joined(sections));
+  EXPECT_EQ(Split(TextOf(rig.k70)), Split(first));
+}
+
+TEST_F(OrderOfSections, LetsTheLastOfTwoCount) {
+  std::vector<std::string> sections = SectionsOf(second);
+  const std::vector<std::string> later = SectionsOf(first);
+  sections.insert(sections.end(), later.begin(), later.end());
+  Read(rig.k70, Joined(sections));
+  EXPECT_EQ(Split(TextOf(rig.k70)), Split(first));
+}
+
 }  // namespace
 }  // namespace mortane::test
