@@ -54,6 +54,9 @@ class NumberedObject : public ControllerObject {
 
  private:
   Value Pass(Use use);
+  // The use as a line of a journal names it, and the path behind that name.
+  std::string_view NameOf(const Use& use) const;
+  std::string PathOf(const Use& use, std::string_view name) const;
 
   Place place_;
   std::int32_t turns_ = 0;  // of an enumerator
