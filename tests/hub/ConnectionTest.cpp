@@ -83,6 +83,14 @@ TEST(Connect, ANegativeNumberMeansDeviceOne) {
   EXPECT_EQ(rig.k70.lConnectDevice, 1);
 }
 
+TEST(Connect, ANumberBeyondTheListGivesFalseWithoutABox) {
+  for (const std::int32_t asked : {2, 7, 2147483647}) {
+    Rig rig("Harbour");
+    EXPECT_FALSE(rig.k70.Connect(asked)) << asked;
+    EXPECT_EQ(rig.k70.lConnectDevice, -1) << asked;
+  }
+}
+
 TEST(Connect, ANumberOfTheListMeansThatEntryOfSeveral) {
   for (const std::int32_t asked : {0, 1, 2}) {
     Rig rig(List({"Quay", "Harbour", "Lantern"}));

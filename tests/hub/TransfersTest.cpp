@@ -98,6 +98,18 @@ TEST(Receive, WithoutAConnectionSaysSystemName) {
   rig.k70.Receive();
 }
 
+TEST(Send, WithoutAConnectionSaysSystemNameAndWritesNothing) {
+  Rig rig("Harbour");
+  rig.prompts.ExpectBox("System Name", box::kCritical, Answer::Ok, "Send");
+  rig.k70.Send();
+  EXPECT_TRUE(rig.journal.Writes().empty());
+}
+
+TEST(Modify, WithoutAConnectionGoesToTheCaller) {
+  Rig rig("Harbour");
+  EXPECT_THROW(rig.k70.Modify(), controller::ControllerError);
+}
+
 TEST(Receive, ShowsItsProgressFromZeroToTheEnd) {
   Rig rig("Harbour");
   rig.Connect();
