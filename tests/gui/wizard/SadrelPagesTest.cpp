@@ -11,6 +11,7 @@
 #include "drives/clsControlZDrive.h"
 #include "gui/support/PageActs.h"
 #include "gui/support/PageRig.h"
+#include "interlocks/clsInterLockOffset.h"
 #include "switches/ReportList.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
@@ -248,11 +249,19 @@ TEST(SwitchStep, NamesItsTabsAndTellsTheirClicks) {
   EXPECT_FALSE(page.SwitchSettingCtl1->isVisible());
 }
 
-TEST(SwitchStep, SavesAndAsksNothing) {
-  PageRig rig("Harbour");
-  auto& page = rig.Show(new SadrelControlTactorSwitch(rig.k70(), rig.prompts));
-  page.SaveData();
-  EXPECT_TRUE(rig.prompts.Boxes().empty());
+// A page is there once it was saved; saving it stores nothing.
+TEST(SwitchStep, SavesBothPagesWhereTheOffsetsAreEnabledAndElseNone) {
+  for (const bool enabled : {true, false}) {
+    PageRig rig("Harbour");
+    clsInterLockOffset& offset = rig.k70().ILOffset;
+    if (!enabled) offset.curND = offset.curFStop = offset.curEpiFStop = offset.curAStop = kUnknown;
+    ASSERT_EQ(offset.IsEnable(), enabled);
+    SadrelControlTactorSwitch page(rig.k70(), rig.prompts);
+    page.SaveData();
+    EXPECT_EQ(page.TactorSwitchSettingCtl1.made() != nullptr, enabled);
+    EXPECT_EQ(page.SwitchSettingCtl1.made() != nullptr, enabled);
+    EXPECT_TRUE(rig.prompts.Boxes().empty());
+  }
 }
 
 // A started wizard with every offered step on, as "File" leaves it.
