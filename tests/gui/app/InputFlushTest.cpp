@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
@@ -66,6 +67,22 @@ TEST(FlushInput, DropsMouseAndKeysAndNothingElse) {
   EXPECT_EQ(target.wheels, 1);
   EXPECT_EQ(target.posted, 1);
   EXPECT_EQ(ticks, 1);
+}
+
+TEST(FlushInput, DropsKeysThatAreShortcuts) {
+  InputFlush flush;
+  Target target;
+  target.show();
+  target.activateWindow();
+  QApplication::processEvents();
+  const QShortcut shortcut(QKeySequence(Qt::CTRL | Qt::Key_S), &target);
+  int acts = 0;
+  QObject::connect(&shortcut, &QShortcut::activated, &target, [&] { ++acts; });
+  QTimer::singleShot(0, &target, [&] { QTest::keyClick(&target, Qt::Key_S, Qt::ControlModifier); });
+  flush.Run();
+  EXPECT_EQ(acts, 0);
+  QTest::keyClick(&target, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(acts, 1) << "and no later one";
 }
 
 TEST(FlushInput, LeavesLaterInputAlone) {

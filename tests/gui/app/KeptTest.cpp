@@ -229,25 +229,36 @@ TEST_F(Kept, EditsOfAProcessThatDiedStayOfferedWhenTheDeviceGetsAnotherName) {
   EXPECT_TRUE(note().ButtonKept->isHidden());
 }
 
-TEST_F(Kept, EditsOfAProcessThatDiedAreNotOfferedOnceTheMicroscopeIsGone) {
-  bench = Microscopes({"Alpha", "Beta"});
-  const auto choose = [](int line) {
-    return [line](SelScopeDlg& dialog) {
-      dialog.List1->setIndex(line);
-      dialog.OkButton->click();
-    };
+// Works the dialog that chooses among several microscopes.
+std::function<void(SelScopeDlg&)> Choose(int line) {
+  return [line](SelScopeDlg& dialog) {
+    dialog.List1->setIndex(line);
+    dialog.OkButton->click();
   };
-  for (const bool isSecond : {false, true}) {
-    const WhenShown<SelScopeDlg> person(choose(0));
-    if (isSecond) End();
+}
+
+TEST_F(Kept, EditsOfAProcessThatDiedAreOfferedWhileTheirMicroscopeIsConnected) {
+  bench = Microscopes({"Alpha", "Beta"});
+  {
+    const WhenShown<SelScopeDlg> person(Choose(0));
     Start();
-    Edit(7);
-    Keep("Alpha");
   }
-  ASSERT_TRUE(note().ButtonKept->isVisible());
+  Edit(7);
+  Keep("Alpha");
+  End();
+  {
+    const WhenShown<SelScopeDlg> person(Choose(1));
+    Start();
+  }
+  EXPECT_FALSE(note().ButtonKept->isVisible());
+  {
+    const WhenShown<SelScopeDlg> person(Choose(0));
+    form->MenuConnectSelect->trigger();
+  }
+  EXPECT_TRUE(note().ButtonKept->isVisible());
   library->faults.Add({"DeviceList.Item(2).Connect"});
   library->prompts.ExpectBox("Device Connect Error.", 16);
-  const WhenShown<SelScopeDlg> person(choose(1));
+  const WhenShown<SelScopeDlg> person(Choose(1));
   form->MenuConnectSelect->trigger();
   EXPECT_FALSE(note().ButtonKept->isVisible());
 }

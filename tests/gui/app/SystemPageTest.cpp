@@ -128,6 +128,9 @@ TEST_F(SystemPage, ShowsTheReportWithItsTabsAndBlankLine) {
   EXPECT_EQ(panel().TextAccessories->font().family(), "Courier New");
   EXPECT_EQ(panel().TextAccessories->font().styleHint(), QFont::Monospace);
   EXPECT_TRUE(panel().TextAccessories->isReadOnly());
+  EXPECT_EQ(panel().TextAccessories->lineWrapMode(), QPlainTextEdit::NoWrap);
+  const int character = panel().TextAccessories->fontMetrics().horizontalAdvance(u'0');
+  EXPECT_EQ(panel().TextAccessories->tabStopDistance(), 3 * character);
 }
 
 TEST_F(SystemPage, TheDrawingTellsTheReportsWords) {

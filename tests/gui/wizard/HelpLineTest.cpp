@@ -94,6 +94,20 @@ TEST(Help, IsThatOfTheTabTheLoadingSelects) {
             "Click Address Number Tab and Select Series and Description from the list.");
 }
 
+TEST(Help, StaysAsItIsForATabWithoutAText) {
+  WizardRig rig(benches::Named("Harbour"));
+  rig.Start();
+  rig.form->optMenu[4]->setChecked(true);
+  CondenserSettingsCtl& page = *rig.form->CondenserSettingsCtl1;
+  Q_EMIT page.Change(1);
+  const QString before = rig.form->LabelHelp->text();
+  ASSERT_EQ(before, "Input Name of Optional Condenser Module.");
+  for (const int tab : {2, 3, -1}) {
+    Q_EMIT page.Change(tab);
+    EXPECT_EQ(rig.form->LabelHelp->text(), before) << tab;
+  }
+}
+
 // A line that keeps what it announces.
 class HeardLine : public HelpLine {
  public:
