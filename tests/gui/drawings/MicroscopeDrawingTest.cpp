@@ -126,6 +126,7 @@ struct DotRow {
   int mounted;
   bool enabled;
   const char* column;  // through the dot and its surroundings
+  const char* row;
 };
 
 // Of the part that stands in front of nothing but the window.
@@ -133,19 +134,26 @@ TEST(MicroscopeDrawing, DotsTellTheStateOfTheirPart) {
   for (const DotRow& row : {
            DotRow{0, true,
                   "DrawingShade 3, ~ 1, Base 1, ~ 2, Base 6, ~ 1, disabled Text 1, ~ 2, "
+                  "DrawingShade 3",
+                  "DrawingShade 3, ~ 2, disabled Text 1, ~ 1, Base 6, ~ 1, disabled Text 1, ~ 2, "
                   "DrawingShade 3"},
            DotRow{1, true,
+                  "DrawingShade 3, ~ 1, Base 1, ~ 1, Highlight 1, ~ 1, Base 4, ~ 1, Highlight 1, ~ "
+                  "1, Base 1, ~ 1, DrawingShade 3",
                   "DrawingShade 3, ~ 1, Base 1, ~ 1, Highlight 1, ~ 1, Base 4, ~ 1, Highlight 1, ~ "
                   "1, Base 1, ~ 1, DrawingShade 3"},
            DotRow{
                2, true,
+               "DrawingShade 3, ~ 1, Base 1, ~ 1, Highlight 8, ~ 1, Base 1, ~ 1, DrawingShade 3",
                "DrawingShade 3, ~ 1, Base 1, ~ 1, Highlight 8, ~ 1, Base 1, ~ 1, DrawingShade 3"},
-           DotRow{0, false,
-                  "~ 4, disabled Base 1, ~ 2, disabled Base 6, ~ 1, disabled Text 1, ~ 5"},
+           DotRow{0, false, "~ 4, disabled Base 1, ~ 2, disabled Base 6, ~ 1, disabled Text 1, ~ 5",
+                  "~ 5, disabled Text 1, ~ 1, disabled Base 6, ~ 1, disabled Text 1, ~ 5"},
            DotRow{1, false,
                   "~ 4, disabled Base 1, ~ 1, disabled Text 1, ~ 1, disabled Base 4, ~ 1, disabled "
+                  "Text 1, ~ 1, disabled Base 1, ~ 4",
+                  "~ 4, disabled Base 1, ~ 1, disabled Text 1, ~ 1, disabled Base 4, ~ 1, disabled "
                   "Text 1, ~ 1, disabled Base 1, ~ 4"},
-           DotRow{2, false,
+           DotRow{2, false, "~ 4, disabled Base 1, ~ 1, disabled Text 8, ~ 1, disabled Base 1, ~ 4",
                   "~ 4, disabled Base 1, ~ 1, disabled Text 8, ~ 1, disabled Base 1, ~ 4"},
        }) {
     MicroscopeDrawing drawing;
@@ -155,6 +163,7 @@ TEST(MicroscopeDrawing, DotsTellTheStateOfTheirPart) {
     drawing.SetAccessories({{4, {}, row.mounted}});
     const QImage dot = drawing.grab().toImage().copy(432, 33, 20, 20);
     EXPECT_EQ(test::ColumnOf(dot), row.column) << row.mounted << row.enabled;
+    EXPECT_EQ(test::RowOf(dot), row.row) << row.mounted << row.enabled;
   }
 }
 

@@ -295,6 +295,18 @@ TEST(TurretFace, ARoundPlaceIsHitUpToItsEdge) {
   }
 }
 
+TEST(TurretFace, EachMagnificationHasItsRing) {
+  const std::pair<double, Tone> rings[] = {
+      {0.9, Tone::DrawingLine}, {1, Tone::RingBlack},     {2, Tone::RingGrey},
+      {2.5, Tone::RingBrown},   {4, Tone::RingRed},       {5, Tone::RingRed},
+      {10, Tone::RingYellow},   {20, Tone::RingGreen},    {40, Tone::RingBlue},
+      {50, Tone::RingBlue},     {60, Tone::RingDarkBlue}, {99, Tone::DrawingLine},
+      {100, Tone::RingWhite},   {250, Tone::RingWhite},
+  };
+  for (const auto& [magnification, tone] : rings)
+    EXPECT_EQ(RingTone(magnification), tone) << magnification;
+}
+
 TEST(TurretFace, AnObjectiveWithoutAMagnificationHasARingInTheColourOfItsLine) {
   ASSERT_NE(ToneColor(Tone::DrawingLine), ToneColor(Tone::RingBlack));
   TurretButton place(PlaceKind::Objectives, 1, nullptr);

@@ -110,6 +110,9 @@ TEST(ValueBox, ColumnsShareTheWidthByTheirStretches) {
   EXPECT_EQ(wide.value->y() - wide.caption->geometry().bottom() - 1, 4);
   EXPECT_EQ(wide.value->accessibleName(), "Two");
   EXPECT_EQ(wide.caption->buddy(), wide.value);
+  const ValueBox::Value third = box.AddValue("Three", 12, 1);
+  EXPECT_EQ(third.value->sizeHint().width(),
+            12 * third.value->fontMetrics().horizontalAdvance(u'0'));
 }
 
 }  // namespace

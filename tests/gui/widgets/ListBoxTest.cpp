@@ -1,9 +1,7 @@
 #include "widgets/ListBox.h"
 
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QScrollBar>
-#include <QThread>
 #include <utility>
 
 #include "gui/support/TestWindow.h"
@@ -112,6 +110,26 @@ TEST_F(ListBoxTest, ArrowsRaiseAClickForEachNewRowAndNoneAtTheEnd) {
   for (int i = 0; i < 4; ++i) QTest::keyClick(list, Qt::Key_Down);
   QTest::keyClick(list, Qt::Key_Up);
   EXPECT_EQ(Indices(clicks), (Rows{1, 2, 1}));
+}
+
+TEST_F(ListBoxTest, EachRowThatIsDraggedOverIsSelectedAlsoTheFirst) {
+  const auto at = [this](int row) {
+    return list->visualItemRect(list->topLevelItem(row)).center();
+  };
+  QTest::mousePress(list->viewport(), Qt::LeftButton, Qt::NoModifier, at(2));
+  QSignalSpy clicks(list, &ListBox::selectionChanged);
+  for (const int row : {1, 1, 0}) {
+    QMouseEvent move(QEvent::MouseMove, at(row), list->viewport()->mapToGlobal(at(row)),
+                     Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(list->viewport(), &move);
+  }
+  EXPECT_EQ(Indices(clicks), (Rows{1, 0}));
+  QTest::mouseRelease(list->viewport(), Qt::LeftButton, Qt::NoModifier, at(0));
+  list->setFocus();
+  clicks.clear();
+  QTest::keyClick(list, Qt::Key_End);
+  QTest::keyClick(list, Qt::Key_Home);
+  EXPECT_EQ(Indices(clicks), (Rows{2, 0}));
 }
 
 TEST_F(ListBoxTest, FocusAloneSelectsNothing) {
@@ -242,72 +260,20 @@ TEST_F(ListBoxTest, RowsAreHighEnoughForALargerFont) {
             QRect(0, row, list->viewport()->width(), row));
 }
 
-class ListBoxSearch : public ListBoxTest {
- protected:
-  void SetUp() override {
-    ListBoxTest::SetUp();
-    list->clearRows();
-    list->SetColumns({{"Type"}, {"Name"}});
-    list->SetNameColumn(1);
-    for (const auto& [type, name] : {std::pair{"Phase", "Epi 5x"},
-                                     {"Dry", "Plan 10x"},
-                                     {"Oil", "Plan 40x"},
-                                     {"Phase", "Super"},
-                                     {"Dry", "plaster"}})
-      list->addCells({type, name});
-    list->setFocus();
-  }
-};
-
-TEST_F(ListBoxSearch, TypedLettersLookForTheNameAndNotForTheFirstColumn) {
-  QSignalSpy selections(list, &ListBox::selectionChanged);
-  QTest::keyClicks(list, "plan");
-  EXPECT_EQ(list->index(), 1);
-  EXPECT_EQ(Indices(selections), (Rows{1})) << "the row that fits already stays";
-  QTest::keyClicks(list, " 4");
-  EXPECT_EQ(list->index(), 2);
-}
-
-TEST_F(ListBoxSearch, OneLetterRepeatedGoesFromRowToRowAndRoundAgain) {
-  Rows seen;
-  const QObject listener;
-  QObject::connect(list, &ListBox::selectionChanged, &listener,
-                   [&](int row) { seen.push_back(row); });
-  QTest::keyClicks(list, "pppp");
-  EXPECT_EQ(seen, (Rows{1, 2, 4, 1}));
-}
-
-TEST_F(ListBoxSearch, AfterAPauseANewSearchBeginsBelow) {
-  const int usual = QApplication::keyboardInputInterval();
-  constexpr int kPauseMs = 1;
-  QApplication::setKeyboardInputInterval(kPauseMs);
-  const auto pause = [] {
-    QElapsedTimer clock;
-    clock.start();
-    while (clock.elapsed() <= kPauseMs) QThread::yieldCurrentThread();
-  };
-  QTest::keyClicks(list, "p");
-  pause();
-  QTest::keyClicks(list, "p");
-  EXPECT_EQ(list->index(), 2);
-  pause();
-  QTest::keyClicks(list, "s");
-  EXPECT_EQ(list->index(), 3);
-  QApplication::setKeyboardInputInterval(usual);
-}
-
-TEST_F(ListBoxSearch, WhatNoNameBeginsWithSelectsNothing) {
-  QTest::keyClicks(list, "dry");
-  EXPECT_EQ(list->index(), -1);
-  list->keyboardSearch({});
-  EXPECT_EQ(list->index(), -1);
-}
-
-TEST_F(ListBoxTest, TypedLettersInAnEmptyListDoNothing) {
-  list->clearRows();
-  list->setFocus();
-  QTest::keyClicks(list, "a");
-  EXPECT_EQ(list->index(), -1);
+TEST(ListBoxHeight, FollowsALargerFont) {
+  TestWindow window;
+  auto* list = window.Add<ListBox>();
+  list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  window.widget().resize(300, 900);
+  window.Show();
+  QApplication::processEvents();
+  const int before = list->height();
+  QFont large = list->font();
+  large.setPointSizeF(large.pointSizeF() * 3);
+  list->setFont(large);
+  QApplication::processEvents();
+  EXPECT_GT(list->height(), before);
+  EXPECT_EQ(list->height(), list->sizeHint().height());
 }
 
 // Twenty rows in a list that has room for three and a half.

@@ -155,6 +155,7 @@ TEST_F(RailTest, ThePendingDotChangesTheFaceOfTheButton) {
 }
 
 TEST_F(RailTest, ButtonsBearTheirTextAndSizesOfTheGrid) {
+  EXPECT_EQ(rail->button(1)->font(), RailFont());
   EXPECT_EQ(rail->button(1)->accessibleName(), "Objectives");
   EXPECT_GE(rail->button(1)->sizeHint().width(), 104);
   EXPECT_GE(rail->button(1)->sizeHint().height(), 78);

@@ -53,6 +53,8 @@ TEST_F(RecordFormTest, LabelsLeadToWhatTheyCaption) {
   EXPECT_EQ(name.label->buddy(), name.field);
   EXPECT_EQ(left.caption->buddy(), left.list);
   EXPECT_EQ(left.list->accessibleName(), "Series");
+  EXPECT_EQ(value->accessibleName(), "Series") << "a value is named as its list";
+  EXPECT_EQ(field->accessibleName(), "");
 }
 
 TEST_F(RecordFormTest, TheNameTakesItsNumberOfCharactersAndShowsMore) {

@@ -285,6 +285,21 @@ TEST_F(TextFieldTest, ThePlaceholderShowsInTheColourOfCaptionsAndATextDoesNot) {
   EXPECT_EQ(color(), usual.color(QPalette::PlaceholderText));
 }
 
+TEST(TextFieldWidth, HoldsItsCharactersWithRoomBesideThem) {
+  TextField field;
+  const int most = field.fontMetrics().horizontalAdvance("0000000000") + 12 + 16;
+  const int least = field.fontMetrics().horizontalAdvance("000000") + 12 + 8;
+  field.SetWidthFor(10, 6);
+  EXPECT_EQ(field.maximumWidth(), most);
+  EXPECT_EQ(field.minimumWidth(), least);
+  EXPECT_EQ(field.sizeHint().width(), most);
+  for (const int same : {10, 11}) {
+    field.SetWidthFor(10, same);
+    EXPECT_EQ(field.maximumWidth(), most);
+    EXPECT_EQ(field.minimumWidth(), most) << "it gives way to nothing";
+  }
+}
+
 TEST(TextFieldFace, HasItsDotAtItsEnd) {
   TextField field;
   field.SetPending("was");

@@ -193,6 +193,33 @@ QRectF Drawn(Option option, QStyle::State state, QPalette::ColorRole role, const
   return WrittenIn(picture, picture.rect());
 }
 
+// Beside the indicator, 5 pixels from the edge, with 16 and 8 pixels for it and the gap.
+TEST(TextPlace, OfAnOptionIsInTheMiddleOfItsRowAtEveryHeight) {
+  const QStyle& style = *QApplication::style();
+  for (const QStyle::ControlElement element : {QStyle::CE_CheckBox, QStyle::CE_RadioButton}) {
+    for (int height = 20; height <= 30; ++height) {
+      QImage picture(100, height, QImage::Format_RGB32);
+      picture.fill(Qt::white);
+      QImage wanted = picture;
+      QStyleOptionButton option;
+      option.rect = picture.rect();
+      option.state = QStyle::State_Enabled;
+      option.palette = test::TellablePalette();
+      option.fontMetrics = QFontMetrics(QApplication::font());
+      option.text = kText;
+      QPainter painter(&picture);
+      style.drawControl(element, &option, &painter);
+      painter.end();
+      QPainter drawn(&wanted);
+      style.drawItemText(&drawn, QRect(29, 0, 66, height), Qt::AlignLeft | Qt::AlignVCenter,
+                         option.palette, true, kText, QPalette::WindowText);
+      drawn.end();
+      const QRect label(27, 0, 73, height);
+      EXPECT_EQ(picture.copy(label), wanted.copy(label)) << element << ' ' << height;
+    }
+  }
+}
+
 TEST(TextPlace, OfAHeaderGoesByItsAlignment) {
   for (const auto& [alignment, left] : {std::pair{Qt::AlignLeft, true}, {Qt::AlignRight, false}}) {
     QStyleOptionHeader header;
