@@ -43,7 +43,6 @@ JoypadSwitchSettingCtl::JoypadSwitchSettingCtl(std::shared_ptr<JoypadSettings> s
   ListView1->setAccessibleName(u"Button"_s);
   lstSwFunc->setAccessibleName(u"Function"_s);
   TakeFocusByClicks(*cmdAllClear);
-  ShowFit();
   BuildLayout();
   connect(ListView1, &ListBox::selectionChanged, this, [this](int row) { SelectRow(row); });
   connect(lstSwFunc, &ListBox::selectionChanged, this, [this](int function) { Choose(function); });
