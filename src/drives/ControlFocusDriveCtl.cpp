@@ -18,9 +18,9 @@ namespace {
 
 constexpr int kAbsolute = 0;
 constexpr int kRelative = 1;
-constexpr int kFocusAxis = 0;
-constexpr int kStageAxis = 1;
-constexpr std::int16_t kUnknownEscape = 2;
+constexpr int kFocusAxis = clsControlZDrive::kFocusAxis;
+constexpr int kStageAxis = clsControlZDrive::kStageAxis;
+constexpr std::int16_t kUnknownEscape = clsControlZDrive::kUnknownEscape;
 
 // The position that means that none is set.
 constexpr std::int32_t kNoSettingOfSimulator = 20000;

@@ -30,7 +30,6 @@ constexpr std::int32_t kAutomatic = 1;
 constexpr std::int32_t kEnabled = 1;
 constexpr std::int32_t kCoarse = 1;
 constexpr std::int32_t kFine = 3;
-constexpr std::int32_t kBuzzersDiffer = 2;
 constexpr std::int32_t kBright = 2;
 
 constexpr int kAutoOption = 0;
@@ -114,7 +113,7 @@ bool AreOrdinary(const clsControlOther& other) {
     std::int32_t most;
   };
   std::vector<Range> ranges{{other.curSensitivityXY, kUnknown, kFine},
-                            {other.curBuzzer, kUnknown, kBuzzersDiffer},
+                            {other.curBuzzer, kUnknown, clsControlOther::kBuzzersDiffer},
                             {other.curSwEnable, kUnknown, kEnabled},
                             {other.curTactorSwEnable, kUnknown, kEnabled},
                             {other.curR_TLPOSwEnable, kUnknown, kEnabled}};

@@ -76,8 +76,6 @@ constexpr WrittenBuzzer kRemoteBuzzer{controllerunit::kRemote, buzzer::kHub,
 constexpr std::initializer_list<std::int32_t> kComparedBuzzers{
     controllerunit::kBody, controllerunit::kHub, controllerunit::kUnit5, controllerunit::kRemote};
 
-constexpr std::int32_t kBuzzersDiffer = 2;
-
 // The controller whose buzzer is shown, by microscope type 0 to 6.
 enum class BuzzerSource { Nobody, Body, Hub, BodyAndHub };
 constexpr std::array kBuzzerSources{
@@ -162,7 +160,7 @@ std::int32_t BuzzerOfType(std::int32_t type, const BuzzerStates& states) {
   const BuzzerSource source = kBuzzerSources[CheckedIndex(type, 0, kBuzzerSources.size())];
   if (source == BuzzerSource::Nobody) return kUnknown;
   if (source == BuzzerSource::BodyAndHub && states[kBodySlot] != states[kHubSlot]) {
-    return kBuzzersDiffer;
+    return clsControlOther::kBuzzersDiffer;
   }
   return Inverted(states[source == BuzzerSource::Hub ? kHubSlot : kBodySlot]);
 }

@@ -18,10 +18,7 @@ constexpr std::string_view kCompensationRefused = "Control Focus Drive FocusComp
 constexpr std::string_view kLowerLimitRefused = "Control Focus Drive DownLimitation";
 constexpr std::string_view kEscapeRefused = "Control Focus Drive EscapeMode";
 
-constexpr std::int32_t kFocusAxis = 0;
-constexpr std::int32_t kStageAxis = 1;
 constexpr std::int32_t kUnknownEscapeMode = -1;
-constexpr std::int16_t kUnknownEscape = 2;
 
 // Values that the controller requires before real moves.
 constexpr std::int32_t kMoveProfile = 9;
@@ -63,8 +60,8 @@ constexpr std::array<ZSetting, 4> kSettings{
         "FocusCompensation", kCode, kCompensationWords, kCompensationWords, kCompensationRefused),
     FieldSetting<clsControlZDrive, &clsControlZDrive::curLowerLimit>(
         "DownLimitation", kCode, kLimitWords, kLimitWords, kLowerLimitRefused),
-    EscapeSetting<kFocusAxis>("Escape_ZDrive"),
-    EscapeSetting<kStageAxis>("Escape_XYStage"),
+    EscapeSetting<clsControlZDrive::kFocusAxis>("Escape_ZDrive"),
+    EscapeSetting<clsControlZDrive::kStageAxis>("Escape_XYStage"),
 };
 
 std::string OnOrOff(std::int16_t flag) {

@@ -19,8 +19,6 @@ namespace mortane {
 namespace {
 
 constexpr std::int32_t kUnknown = -1;
-// The escape flags of a mode that the controller does not tell.
-constexpr std::int32_t kUnknownEscape = 2;
 
 // The magnification, distance and aperture of a code text are rounded. The distance and the
 // aperture are compared as texts of 15 digits.
@@ -55,7 +53,7 @@ std::int32_t LimitOf(const clsLimitation& limits, const std::string& rule) {
 }
 
 std::int32_t KnownEscape(std::int16_t flag) {
-  return flag == kUnknownEscape ? kUnknown : flag;
+  return flag == clsControlZDrive::kUnknownEscape ? kUnknown : flag;
 }
 
 // The number of an item that the file calls unknown; kUnknown when the model does not know it.
