@@ -13,7 +13,8 @@ namespace mortane {
 
 inline constexpr std::int32_t kTaughtAddresses = 7;
 
-// In place of the controls of a DrivePageCtl whose teaching section is not on show.
+// Stands for the controls of a DrivePageCtl that is not made yet. Selecting a row asks no question,
+// as on a page whose rows cannot be seen.
 struct DriveLoading {
   bool real = false;               // the tick of the real moves
   int row = -1;                    // the selected one

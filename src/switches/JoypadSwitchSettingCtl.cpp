@@ -116,7 +116,7 @@ void JoypadSwitchSettingCtl::EnableFunctions(bool enabled) {
   lstSwFunc->viewport()->setToolTip(why);  // over the rows
 }
 
-// A choice goes on from the function that the row has.
+// The row's function is the current entry, so that keys choose those beside it.
 void JoypadSwitchSettingCtl::SelectRow(int row) {
   ListView1->SetBoldRow(row);
   EnableFunctions(true);

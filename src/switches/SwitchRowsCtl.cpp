@@ -153,7 +153,7 @@ void SwitchRowsCtl::SelectChosen() {
   ShowSelected(-1);
 }
 
-// A choice goes on from the function that the row has.
+// The row's function is the current entry, so that keys choose those beside it.
 void SwitchRowsCtl::ShowInCombos(int row) {
   for (ComboBox* combo : Combos()) {
     const QSignalBlocker quiet(combo);

@@ -26,7 +26,7 @@ constexpr int kListShare = 5;
 // Margins of cells and frame in a row of the list.
 constexpr int kBesidesTexts = 54;
 
-// For rows of which no function is cut off, the selected one in bold.
+// Of the longest name and dial function in bold, as in the selected row.
 int ListWidth() {
   const QFontMetrics metrics(BoldFont());
   int name = 0;

@@ -53,7 +53,8 @@ TactorSwitchSettingCtl::TactorSwitchSettingCtl(clsControlTactor& tactor, const c
   connect(Command1, &QPushButton::clicked, this, [this] { SaveFile(); });
 }
 
-// The rows before the mode, as the mode's option runs all of this again when it is a new one.
+// The rows come before the mode: selecting a new mode runs the whole loading again, with the rows
+// of that mode.
 void TactorSwitchSettingCtl::LoadData() {
   LoadRows();
   FillFunctions();

@@ -92,7 +92,7 @@ TEST(DriveMotion, AfterAnAsynchronousStartTheDeviceBlocksAgain) {
   EXPECT_EQ(rig.xy().CurPositionX(), 4000);
 }
 
-// Whichever call fails: of the first look-up there is nothing to set back.
+// The first two calls look the device up; only from then on is there a mode to set back.
 TEST(DriveMotion, TheDeviceBlocksAgainAfterEachCallOfAnAsynchronousStartThatFails) {
   const std::vector<std::function<void(DriveUnits&)>> starts{
       [](DriveUnits& units) { units.CZDrive.MoveAsyncStart(900); },
