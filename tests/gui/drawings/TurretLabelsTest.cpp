@@ -170,6 +170,10 @@ TEST(TurretLabels, APlaceBearsItsOwnAddressWhereOneIsGiven) {
   EXPECT_EQ(turret.place(1)->accessibleName(), "Address 4, Four");
   EXPECT_EQ(turret.place(2)->accessibleName(), "Address 7, ----");
   EXPECT_EQ(turret.count(), 3);
+  EXPECT_EQ(turret.placeOf(7), 2);
+  turret.SetItems(Labels({"One", "Two"}));
+  EXPECT_EQ(turret.placeOf(2), 1);
+  for (const int none : {0, 3, 4, 7}) EXPECT_EQ(turret.placeOf(none), -1) << none;
 }
 
 TEST(TurretLabels, NumbersFollowTheAddresses) {

@@ -168,7 +168,8 @@ TEST(Corners, OfAHandleAreRound) {
   bar.pageStep = 1000;
   QApplication::style()->drawComplexControl(QStyle::CC_ScrollBar, &bar, &painter);
   painter.end();
-  EXPECT_EQ(test::RowOf(picture, 2, {{".", Qt::white}}), ". 3, ~ 3, Mid 27, ~ 3, . 4");
+  const std::string shown = test::RowOf(picture, 2, {{".", Qt::white}});
+  EXPECT_TRUE(test::SameButForEdges(shown, ". 3, ~ 3, Mid 27, ~ 3, . 4")) << shown;
 }
 
 }  // namespace
