@@ -2,14 +2,15 @@
 // model and to the controller what the page would do.
 #include <gtest/gtest.h>
 
+#include <QWidget>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "app/ControlSettingsCtl.h"
 #include "app/FormServices.h"
 #include "app/MakePages.h"
-#include "drives/ControlOtherCtl.h"
 #include "drives/clsControlOther.h"
 #include "drives/clsControlXYDrive.h"
 #include "drives/clsControlZDrive.h"
@@ -76,6 +77,17 @@ TEST(LateControls, AnAddressWithoutARowSelectsNone) {
   }
 }
 
+// A sub-page of a host that is never shown.
+struct HostedPage {
+  explicit HostedPage(LatePlan plan) {
+    late.Plan(std::move(plan));
+    late.SetPlace(host, [this](Page& page) { page.setParent(&host); });
+  }
+
+  QWidget host;
+  LateControl<Page> late{"SubPage1"};
+};
+
 using PlanOf = LateDrive (*)(clsK70& k70);
 
 // What loading a drive and selecting the nosepiece's row call, ask and store, and what is shown.
@@ -85,8 +97,8 @@ std::vector<Lines> LoadDrive(const std::string& bench, PlanOf planOf, Make make)
   rig.ConnectAndReceive();
   rig.prompts.ClearRecords();
   const LateDrive drive = planOf(rig.k70);
-  LateControl<Page> late("Drive1");
-  late.Plan(drive.plan);
+  HostedPage hosted(drive.plan);
+  LateControl<Page>& late = hosted.late;
   if (make == Make::BeforeLoading) late.get();
   late.LoadData();
   drive.SetNosePosition();
@@ -224,8 +236,8 @@ std::vector<OtherSight> LoadOther(const char* bench, const Change& change, std::
   rig.prompts.AcceptAnyBox();
   rig.ConnectAndReceive();
   change(rig.k70.COther);
-  LateControl<ControlOtherCtl> late("ControlOtherCtl1");
-  late.Plan(PlanOther(rig.k70));
+  HostedPage hosted(PlanOther(rig.k70));
+  LateControl<Page>& late = hosted.late;
   if (make == Make::BeforeLoading) late.get();
   rig.prompts.ClearRecords();
   if (failing > 0) rig.faults.FailCall(failing);
