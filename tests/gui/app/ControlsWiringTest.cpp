@@ -1,6 +1,7 @@
 // The page of the drives and controls in the main window, with its own sub-pages: what they have to
 // do with other areas, with the joystick and with the fiber illuminator.
 #include <QAbstractButton>
+#include <QFrame>
 #include <filesystem>
 
 #include "AppRig.h"
@@ -11,11 +12,14 @@
 #include "drives/ControlXYStageCtl.h"
 #include "drives/clsControlOther.h"
 #include "interlocks/clsInterLockOther.h"
+#include "support/Rows.h"
 #include "support/Sample.h"
 #include "support/TempFolder.h"
 #include "switches/JoypadSwitchSettingCtl.h"
 #include "switches/SwitchSettingCtl.h"
 #include "switches/TactorSwitchSettingCtl.h"
+#include "switches/clsControlTactor.h"
+#include "switches/clsDbSwitch.h"
 #include "widgets/CommandKey.h"
 #include "widgets/OptionGroup.h"
 #include "widgets/PageButton.h"
@@ -116,6 +120,36 @@ TEST(ControlsWiring, TheFocusDrivesCompensationDecidesWhetherItFollowsTheNosepie
   EXPECT_EQ(k70.ILOther.Status(accessory::kZFocusDrive), 1);
   focus.optFocusCompensation->select(2);
   EXPECT_EQ(k70.ILOther.Status(accessory::kZFocusDrive), 0);
+}
+
+// No switch changes a knob's speed any more: the stage's knob, which was manual, becomes automatic.
+TEST(ControlsWiring, TheSwitchPagesSetTheKnobOfItsOwnDrive) {
+  for (const bool body : {true, false}) {
+    StartedRig rig("Harbour");
+    clsK70& k70 = GetK70();
+    ControlSettingsCtl& page = rig.page();
+    auto& switches = dynamic_cast<SwitchRowsCtl&>(body ? *page.SwitchSettingCtl1
+                                                       : *page.ControlTactorSwitchCtl1);
+    for (std::int16_t i = 1; i <= clsDbSwitch::SwitchCount; ++i) k70.curSwitch.Func(i, 0);
+    for (std::int16_t i = 1; i <= clsControlTactor::SwitchCount; ++i) k70.curTactor.Func(i, 0);
+    k70.COther.curAutoZ = 1;
+    k70.COther.curAutoXY = 0;
+    rig.prompts.ExpectBox("XYstage Knob Setting is changed to Auto mode.", 0);
+    switches.cmdAllClear->click();
+    EXPECT_TRUE(rig.prompts.AllAnswersUsed()) << body;
+    EXPECT_EQ(k70.COther.curAutoZ, 1) << body;
+    EXPECT_EQ(k70.COther.curAutoXY, 1) << body;
+  }
+}
+
+TEST(ControlsWiring, TheHandControllersSideCanBeSetWhereThereIsAStage) {
+  for (const bool stage : {true, false}) {
+    Bench bench = benches::Named("Harbour");
+    if (!stage) Unfit(bench, accessory::kXYStage);
+    StartedRig rig(std::move(bench));
+    auto& tactor = dynamic_cast<TactorSwitchSettingCtl&>(*rig.page().ControlTactorSwitchCtl1);
+    EXPECT_EQ(tactor.frmHandle->isEnabled(), stage);
+  }
 }
 
 TEST(ControlsWiring, AHandControllersFileThatIsRefusedIsToldOnce) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
@@ -142,6 +143,13 @@ TEST(CommandKeys, ActByKeyboard) {
     QTest::keyClick(rig.form().ImageCommand[1], key);
     EXPECT_EQ(rig.app.CountLog("pointer 11"), 1) << key;
   }
+}
+
+TEST(CommandKeys, ActOnceWhileAKeyIsHeld) {
+  CommandRig rig;
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QApplication::sendEvent(rig.form().ImageCommand[1], &held);
+  EXPECT_TRUE(rig.app.prompts.Log().empty());
 }
 
 TEST(Open, AsksForAnExistingFileAndCancelledDoesNothingElse) {

@@ -74,9 +74,17 @@ TEST(MainForm, BearsItsOtherControlsByName) {
     EXPECT_EQ(rig.form->ImageButton[i]->text(), titles[i]);
   }
   const char* commands[] = {"Select", "Receive", "Send", "Exit"};
-  for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(rig.form->ImageCommand[i]->text(), commands[i]);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(rig.form->ImageCommand[i]->text(), commands[i]);
+    EXPECT_EQ(rig.form->ImageCommand[i]->isMain(), i == 2);
+  }
   EXPECT_EQ(rig.form->CommonDialog1.filter, "XML File (*.xml)|*.xml");
   EXPECT_EQ(rig.form->CommonDialog1.defaultExtension, ".xml");
+}
+
+TEST(MainForm, HasNoMenuThatHidesTheToolBar) {
+  AppRig rig(benches::Named("Harbour"));
+  EXPECT_EQ(rig.form->contextMenuPolicy(), Qt::PreventContextMenu);
 }
 
 TEST(MainForm, LoadingShowsTheVersionAndTheSystemPage) {

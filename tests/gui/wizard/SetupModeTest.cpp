@@ -45,6 +45,17 @@ TEST(Mode, EnablesTheCustomListAloneAndForCustomOnly) {
   EXPECT_FALSE(rig.page->ListStandard->isEnabled());
 }
 
+TEST(Mode, HasEnabledItsListBeforeItIsTold) {
+  ItemsRig rig;
+  int told = 0;
+  QObject::connect(rig.page, &SelSetupItemCtl::ModeChanged, rig.page, [&](int mode) {
+    EXPECT_EQ(rig.page->ListCustom->isEnabled(), mode == 1);
+    ++told;
+  });
+  for (const int mode : {1, 0}) QTest::mouseClick(&rig.Option(mode), Qt::LeftButton);
+  EXPECT_EQ(told, 2);
+}
+
 TEST(Mode, FileByTheArrowsIsOnlySelected) {
   ItemsRig rig;
   rig.Option(0).setFocus();

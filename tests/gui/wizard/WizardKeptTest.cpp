@@ -10,6 +10,7 @@
 #include "app/SelFileItemDlg.h"
 #include "gui/support/PageActs.h"
 #include "hub/clsK70.h"
+#include "record/Backups.h"
 #include "support/TempFolder.h"
 #include "widgets/TextField.h"
 
@@ -28,6 +29,7 @@ class WizardKept : public testing::Test {
                                                          .prompts = library->prompts,
                                                          .joystick = joystick,
                                                          .arguments = {"sadrel"},
+                                                         .backupFolder = folder.Path("backups"),
                                                          .unsentFolder = folder.Path("unsent")},
                                             WizardSteps());
     form->Load();
@@ -121,6 +123,19 @@ TEST_F(WizardKept, IsLetGoByKeys) {
   EXPECT_TRUE(button().isHidden());
   EXPECT_EQ(UnsentFiles(), 0);
   EXPECT_EQ(name().text(), "Harbour");
+}
+
+TEST_F(WizardKept, IsTheStateBeforeTheSend) {
+  Start();
+  GetK70().SystemName = "Bay 4";
+  const int interval = QApplication::doubleClickInterval();
+  QApplication::setDoubleClickInterval(0);
+  library->prompts.ExpectBox("Save Settings?\r\nPush OK to Save.", 33, Answer::Cancel, "Sadrel");
+  for (int i = 0; i < 2; ++i) QTest::mouseClick(form->ButtonFinish, Qt::LeftButton);
+  QApplication::setDoubleClickInterval(interval);
+  const std::vector<Backup> kept = Backups(folder.Path("backups"), "Harbour").List();
+  ASSERT_EQ(kept.size(), 1U);
+  EXPECT_NE(TempFolder::Read(kept[0].path).find("Harbour"), std::string::npos);
 }
 
 TEST_F(WizardKept, TakesNoRoomWhileThereIsNothing) {
