@@ -78,7 +78,7 @@ class ProgramForm : public QMainWindow {
   // The window's button for what a session that died has left unsent; `opened` is told when the
   // person has opened it, as any settings file.
   void OfferKept(KeptButton& button, std::function<void(const FileResult&)> opened);
-  // Once a device is connected.
+  // Shows the button where something was left for the device that is connected.
   void NoteKept();
   // The model was received or was sent. Without a connection neither counts: what the model holds
   // belongs to no microscope then.
