@@ -113,6 +113,18 @@ TEST(DriveMotion, TheDeviceBlocksAgainAfterEachCallOfAnAsynchronousStartThatFail
   }
 }
 
+TEST(DriveMotion, TheBlockingModeIsSetOnADeviceThatIsLookedUpAgain) {
+  for (const bool focus : {true, false}) {
+    MotionRig rig;
+    rig.faults.Add({"DeviceList.Item(1)", 2});
+    rig.prompts.ExpectBox("MoveAsyncStart Error!!", 16);
+    if (focus) rig.z().MoveAsyncStart(1000);
+    if (!focus) rig.xy().MoveAsyncStart(1000, 0);
+    EXPECT_EQ(rig.faults.Hits(), 1U) << focus;
+    EXPECT_EQ(rig.journal.Writes().back(), "DeviceList.Item(1).AsyncMode = false") << focus;
+  }
+}
+
 TEST(DriveMotion, ADeviceThatRefusesTheBlockingModeTwiceIsStillOneBox) {
   MotionRig rig;
   rig.faults.Add({"put DeviceList.Item.AsyncMode", 2});
