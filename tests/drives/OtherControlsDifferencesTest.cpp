@@ -67,6 +67,18 @@ TEST(OtherControlsDifferences, ABuzzerThatWasNeverReadIsNotListed) {
   EXPECT_EQ(Differences(rig.units.COther), "");
 }
 
+// A microscope of type 2 has no buzzer to show; the one before it had.
+TEST(OtherControlsDifferences, ABuzzerThatTheLastReadDidNotFindIsNotListed) {
+  Rig rig("Harbour");
+  rig.ConnectAndReceive();
+  ASSERT_EQ(rig.units.COther.curBuzzer, 0);
+  rig.units.curType = 2;
+  EXPECT_EQ(rig.units.COther.ReadSdk(), "");
+  ASSERT_EQ(rig.units.COther.curBuzzer, -1);
+  rig.units.COther.curBuzzer = 1;
+  EXPECT_EQ(Differences(rig.units.COther), "");
+}
+
 TEST(OtherControlsDifferences, TheBuzzerIsComparedWithTheLastReadAndNotAskedFor) {
   Rig rig("Deck");
   rig.ConnectAndReceive();
