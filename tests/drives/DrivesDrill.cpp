@@ -46,7 +46,7 @@ UnitDrillData FocusDrive() {
        "Control Focus Drive EscapeSetting"},
       {Focus(R"(<FocusCompensation CODE="unKnown"/><DownLimitation CODE="Unknown"/>)"), ""},
       {Focus(R"(<Escape_ZDrive CODE="unknown"/><Escape_XYStage CODE="UNKNOWN"/>)"), ""},
-      {Focus(R"(<Nobody CODE="x"/>text<!--Escape_ZDrive-->)"), ""},
+      {Focus(R"(<Nobody CODE="x"/>text<!--Escape_ZDrive--><?FocusCompensation CODE="x"?>)"), ""},
       {Focus(""), ""},
   };
   return data;

@@ -118,11 +118,11 @@ TEST(FocusDriveWrite, AfterAWriteThatFailedTheLimitsAreStillCompared) {
 }
 
 TEST(FocusDriveWrite, LimitsThatCannotBeReadBackAreALineAndNoBox) {
-  LimitRig lower;
+  LimitRig lower(-1);
   lower.faults.Add({"get ZDriveDevice.LowerLimit", 2});
   EXPECT_EQ(lower.units.CZDrive.WriteSdk(), kLimitLine);
   EXPECT_EQ(lower.instrument().zDrive.lowerLimit, 1);
-  EXPECT_EQ(lower.journal.Lines()[4], "ZDriveDevice.UpperLimit -> 0");
+  EXPECT_EQ(lower.journal.Lines()[4], "ZDriveDevice.UpperLimit -> -1");
   LimitRig upper;
   upper.faults.Add({"get ZDriveDevice.UpperLimit"});
   EXPECT_EQ(upper.units.CZDrive.WriteSdk(), kLimitLine);

@@ -283,6 +283,13 @@ TEST(Tactor, ASettingWithoutAttributesMakesBothModesZero) {
   EXPECT_EQ(rig.units.curTactor.HandleMode, 0);
 }
 
+TEST(Tactor, AnInstructionNamedLikeASettingIsNone) {
+  Rig rig("Harbour");
+  rig.units.curTactor.ControlMode = 1;
+  EXPECT_EQ(ReadElement(rig.units.curTactor, "<SWITCH><?SETTING?><?SWITCH?></SWITCH>"), "");
+  EXPECT_EQ(rig.units.curTactor.ControlMode, 1);
+}
+
 TEST(Tactor, ASettingThatIsNoNumberIsZero) {
   Rig rig("Harbour");
   rig.units.curTactor.ControlMode = 1;
