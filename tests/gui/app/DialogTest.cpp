@@ -201,6 +201,7 @@ TEST(SelFileItemDlg, OffersWhatTheFileHolds) {
   EXPECT_EQ(rig.Lines(*rig.Dialog().List1), kLabels);
   EXPECT_EQ(rig.Lines(*rig.Dialog().Datalist), kLabels);
   EXPECT_FALSE(rig.Dialog().Datalist->isVisible());
+  EXPECT_EQ(rig.Dialog().findChild<QLabel*>("WhyEmpty"), nullptr);
   for (int i = 0; i < 8; ++i) EXPECT_TRUE(rig.Dialog().List1->isRowChecked(i));
   EXPECT_EQ(Painted(rig.Dialog().windowIcon()), Painted(GetAppIcon("Mortane")));
 }

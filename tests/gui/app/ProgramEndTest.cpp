@@ -1,17 +1,21 @@
-// The end of a program, in its own process: by the session's end, and in which order things go.
+// The beginning and the end of a program, in its own process: what it sets up, in which order
+// things go, and the session's end.
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QTimer>
 
 #include "app/MainPages.h"
 #include "app/MortaneMainForm.h"
 #include "app/Program.h"
 #include "common/Failure.h"
+#include "common/Numbers.h"
 #include "controller/simulator/BenchFile.h"
 #include "controller/simulator/Benches.h"
 #include "hub/clsK70.h"
 #include "support/TempFolder.h"
+#include "widgets/ProgressLine.h"
 
 namespace mortane::test {
 namespace {
@@ -74,6 +78,30 @@ TEST(ProgramEndDeathTest, DestroysTheWindowBeforeTheModel) {
     std::_Exit(result);
   };
   EXPECT_EXIT(run(), testing::ExitedWithCode(0), "the same model\nno model is left");
+}
+
+// A window that tells what the program has set up for it.
+class Witness : public LastLook {
+ public:
+  explicit Witness(const FormServices& services) : LastLook(services) {
+    SetContent(new QWidget(this));
+  }
+  void Load() override {
+    const QLocale system = QLocale::system();
+    const NumberFormat& format = SystemNumberFormat();
+    const bool isSystems = format.decimalPoint == system.decimalPoint().toStdString() &&
+                           format.groupSeparator == system.groupSeparator().toStdString();
+    prompts().ShowProgress(1, 2);
+    std::fprintf(stderr, "%s, %s, progress %g\n", qUtf8Printable(qApp->applicationName()),
+                 isSystems ? "the system's numbers" : "other numbers", Progress()->fraction());
+    LastLook::Load();
+  }
+};
+
+TEST(ProgramStartDeathTest, GivesTheWindowItsTitleTheSystemsNumbersAndItsProgress) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(std::_Exit(RunInChild<Witness>()), testing::ExitedWithCode(0),
+              "Mortane, the system's numbers, progress 0.5");
 }
 
 // The window of a session that ends as soon as the microscope is connected.
