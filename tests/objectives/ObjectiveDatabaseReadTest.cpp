@@ -134,6 +134,20 @@ TEST(ObjectiveRead, AListWhoseNamesCannotBeAskedForHasItsRowOfDashes) {
   }
 }
 
+TEST(ObjectiveRead, ListsWithoutASeriesAreAskedForAgain) {
+  Rig rig("Harbour");
+  rig.instrument().database.series.clear();
+  rig.Connect();
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.TypesCount(), 7);
+  rig.instrument().database.series.push_back({"Late"});
+  rig.instrument().database.types.pop_back();
+  EXPECT_EQ(rig.units.DbNosepiece.ReadSdk(), "");
+  EXPECT_EQ(rig.units.DbNosepiece.SeriesCount(), 1);
+  EXPECT_EQ(rig.units.DbNosepiece.Series(1), "Late");
+  EXPECT_EQ(rig.units.DbNosepiece.TypesCount(), 6);
+}
+
 TEST(ObjectiveRead, AListWithoutNamesIsNotAskedForThem) {
   Rig rig("Harbour");
   rig.instrument().database.series.clear();

@@ -208,6 +208,18 @@ TEST_P(CassetteSizes, AlwaysShowSevenRows) {
 
 INSTANTIATE_TEST_SUITE_P(Addresses, CassetteSizes, testing::Values(0, 1, 5, 7, 10));
 
+// Before it is made its loading asks which condensers fit, and that is what it offers.
+TEST_F(CassettePage, IsFilledByWhatItsLoadingAsked) {
+  const LatePlan plan = CondenserCassetteCtl::Plan(cassette(), rig.k70().dbcon);
+  rig.journal.Clear();
+  EXPECT_TRUE(plan.load());
+  EXPECT_GT(rig.journal.CallCount(), 0U);
+  rig.journal.Clear();
+  plan.fill(page);
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+  EXPECT_EQ(Offered(3), (Names{"", "Bright", "Ph 1", "Ph 2", "Ph 3", "Slit"}));
+}
+
 TEST_F(CassettePage, OffersCodeZeroAndTheUsersOwnWhereTheControllerCannotBeAsked) {
   for (const char* call : {"AccessoryDatabase.CondenserCount", "AccessoryDatabase.Condensers"}) {
     rig.faults.Clear();

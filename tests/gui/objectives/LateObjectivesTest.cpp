@@ -2,7 +2,11 @@
 // would change nothing.
 #include <gtest/gtest.h>
 
+#include <QFrame>
+#include <memory>
+
 #include "gui/objectives/ObjectivePages.h"
+#include "widgets/ComboBox.h"
 
 namespace mortane::test {
 namespace {
@@ -38,6 +42,19 @@ TEST(LateObjectives, TheUsersFirstObjectiveMustFitItsBoxesAsItIs) {
     EXPECT_EQ(plan.load(), row.loads) << row.what;
     EXPECT_EQ(plan.save(), row.saves) << row.what;
   }
+}
+
+TEST(LateObjectives, ThePageOfTheUsersObjectivesIsFilledByWhatItsLoadingAsked) {
+  PageRig rig("Harbour");
+  const LatePlan plan = ObjectiveOptionCtl::Plan(rig.k70().DbNosepiece);
+  EXPECT_TRUE(plan.load());
+  rig.journal.Clear();
+  const std::unique_ptr<Page> page(plan.make());
+  plan.fill(*page);
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+  const auto& made = static_cast<const ObjectiveOptionCtl&>(*page);
+  EXPECT_TRUE(made.FrmCondenser->isEnabled());
+  EXPECT_EQ(made.ComboCondenser->currentText(), "Ph 2");
 }
 
 TEST(LateObjectives, TheFirstAddressMustBearAnObjectiveOfItsList) {

@@ -69,6 +69,15 @@ TEST(NosepieceTurret, ArrowsOnThePlacesWorkTheTabs) {
   EXPECT_EQ(page.LabelName->text(), "Super C100x Oil");
 }
 
+TEST(NosepieceTurret, OfOneAddressHasItsTabAndItsLists) {
+  PageRig rig("Harbour");
+  rig.k70().curNosepiece.Count = 1;
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
+  EXPECT_EQ(page.TabNosepiece->count(), 1);
+  EXPECT_EQ(TurretOf(rig).count(), 1);
+  EXPECT_EQ(page.LabelName->text(), "Plan A 2x");
+}
+
 TEST(NosepieceTurret, HasRoomForTenAddresses) {
   AtticRig rig;
   auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));

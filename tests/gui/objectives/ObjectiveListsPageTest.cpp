@@ -42,6 +42,29 @@ TEST(SeriesList, IsFilledOnceTheModelHasTheSeries) {
   EXPECT_GE(page.ListSeries->index(), 0);
 }
 
+TEST(SeriesList, OfATabWhoseSeriesItDoesNotHaveShowsNoneOfTheTabBefore) {
+  PageRig rig("Harbour");
+  rig.k70().DbNosepiece.Set_DbNosepiece(1, "Lost", 40, 1, "5", "1", "0.1", 0);
+  rig.k70().curNosepiece.code(2, 241);
+  auto& page = rig.Show(MakeObjectiveCtl(rig.k70()));
+  ASSERT_EQ(page.LabelSeries->text(), "Plan A");
+  ClickTab(*page.TabNosepiece, 1);
+  EXPECT_EQ(page.ListSeries->index(), -1);
+  EXPECT_EQ(page.LabelSeries->text(), "");
+  EXPECT_EQ(rig.k70().curNosepiece.code(2), 241);
+}
+
+TEST(OptionLists, OfATabWhoseCodesTheyDoNotHaveShowNoneOfTheTabBefore) {
+  PageRig rig("Harbour");
+  rig.k70().DbNosepiece.Set_DbNosepiece(2, "Lost", 40, 50, "5", "1", "0.1", 0);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
+  ASSERT_EQ(page.LabelSeries->text(), "Plan F");
+  ASSERT_EQ(page.LabelType->text(), "Water");
+  ClickTab(*page.TabStrip1, 1);
+  EXPECT_EQ(page.LabelSeries->text(), "");
+  EXPECT_EQ(page.LabelType->text(), "");
+}
+
 TEST(OptionLists, AreFilledOnceTheModelHasTheNames) {
   PageRig rig(FirstWithoutSeries(), Link::None);
   ConnectAndReceive(rig, 1);

@@ -177,6 +177,21 @@ TEST(ObjectivePages, SavingRepairsTheOptionalObjectiveWhateverIsOnShow) {
   EXPECT_EQ(distance, "1.98");
 }
 
+TEST(ObjectivePages, WhatSavingHasStoredCanBeShown) {
+  PageRig rig("Harbour");
+  auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));
+  page.ObjectiveOptionCtl1->TextMag->setText("300");
+  page.ObjectiveOptionCtl1->TextWD->setText("abc");
+  page.SaveData();
+  EXPECT_EQ(page.ObjectiveOptionCtl1->TextWD->text(), "abc");
+  rig.journal.Clear();
+  page.ShowStored();
+  EXPECT_EQ(page.ObjectiveOptionCtl1->TextMag->text(), "----");
+  EXPECT_EQ(page.ObjectiveOptionCtl1->TextWD->text(), "0");
+  EXPECT_EQ(page.ObjectiveOptionCtl1->TextNA->text(), "0.95");
+  EXPECT_EQ(rig.journal.CallCount(), 0U);
+}
+
 TEST(ObjectivePages, AnEditIsSentAndNothingElse) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveSettingsCtl(rig.k70()));

@@ -29,6 +29,17 @@ TEST(OptionCondenser, OffersTheFixedCondensersButThreeOfThem) {
   EXPECT_EQ(codes, (std::vector<int>{0, 2, 3, 5, 6, 7, 9}));
 }
 
+TEST(OptionCondenser, ACodeOfZeroIsNone) {
+  PageRig rig("Harbour");
+  rig.k70().DbNosepiece.Set_DbNosepiece(1, "Mine", 1, 1, "5", "1", "0.1", 0);
+  auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
+  EXPECT_EQ(page.ComboCondenser->currentText(), "None");
+  ClickTab(*page.TabStrip1, 1);
+  ASSERT_EQ(page.ComboCondenser->currentText(), "DIC L");
+  ClickTab(*page.TabStrip1, 0);
+  EXPECT_EQ(page.ComboCondenser->currentText(), "None");
+}
+
 TEST(OptionCondenser, StandsBelowTheNumbersInALargeWindowToo) {
   PageRig rig("Harbour");
   auto& page = rig.Show(MakeObjectiveOptionCtl(rig.k70()));
