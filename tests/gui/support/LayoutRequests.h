@@ -12,7 +12,7 @@ class LayoutRequests : public QObject {
  public:
   explicit LayoutRequests(QWidget& widget) { widget.installEventFilter(this); }
 
-  [[nodiscard]] int Take() const { return std::exchange(count_, 0); }
+  [[nodiscard]] int Take() { return std::exchange(count_, 0); }
 
  protected:
   bool eventFilter(QObject*, QEvent* event) override {
@@ -21,7 +21,7 @@ class LayoutRequests : public QObject {
 
  private:
   static constexpr int kMost = 20;
-  mutable int count_ = 0;
+  int count_ = 0;
 };
 
 }  // namespace mortane::test

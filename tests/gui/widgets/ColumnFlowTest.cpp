@@ -39,7 +39,7 @@ class ColumnFlowTest : public ::testing::Test {
 };
 
 TEST_F(ColumnFlowTest, AsksForANewLayoutWhereItBreaksAnewAndNotOtherwise) {
-  const test::LayoutRequests requests(panel);
+  test::LayoutRequests requests(panel);
   ShowIn(420);
   EXPECT_LE(requests.Take(), 2);
   ShowIn(400);

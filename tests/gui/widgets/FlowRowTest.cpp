@@ -32,7 +32,7 @@ class FlowRowTest : public ::testing::Test {
 };
 
 TEST_F(FlowRowTest, AsksForANewLayoutWhereItBreaksAnewAndNotOtherwise) {
-  const test::LayoutRequests requests(panel);
+  test::LayoutRequests requests(panel);
   ShowIn(420);
   EXPECT_LE(requests.Take(), 2);
   ShowIn(400);

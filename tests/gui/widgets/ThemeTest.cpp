@@ -83,7 +83,11 @@ TEST(Theme, IsThatOfTheVariableOrElseOfTheSystemsColours) {
     QApplication::setPalette(system);
     EXPECT_EQ(SystemScheme(), row.scheme) << row.window << ' ' << row.text;
   }
-  wasSet ? qputenv("MORTANE_SCHEME", was) : qunsetenv("MORTANE_SCHEME");
+  if (wasSet) {
+    qputenv("MORTANE_SCHEME", was);
+  } else {
+    qunsetenv("MORTANE_SCHEME");
+  }
   ApplyTheme(Application(), Scheme::Light);
 }
 
