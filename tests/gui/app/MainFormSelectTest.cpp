@@ -172,6 +172,36 @@ TEST(Select, WithoutAConnectionOpenAndSaveStillWork) {
   EXPECT_EQ(rig.app.prompts.Boxes().size(), 1U);
 }
 
+// The window's own pages ask the controller as they are loaded, and do without an answer. The
+// drives and the other controls tell it.
+TEST(Select, WithoutAConnectionAFileIsOpenedOnAllPages) {
+  AppRig rig(Three(), {"Alpha"});
+  rig.Start();
+  const TempFolder folder;
+  rig.prompts.ExpectFileToSave(folder.Path("a.xml"));
+  rig.form->MenuFileSave->trigger();
+  rig.faults.Add({"DeviceList.Item(2).Connect"});
+  rig.prompts.ExpectBox("Device Connect Error.", 16);
+  {
+    const WhenShown<SelScopeDlg> person([](SelScopeDlg& dialog) {
+      dialog.List1->setIndex(1);
+      dialog.OkButton->click();
+    });
+    rig.form->MenuConnectSelect->trigger();
+  }
+  ASSERT_EQ(GetK70().lConnectDevice, -1);
+  rig.prompts.ClearRecords();
+  rig.prompts.AcceptAnyBox();
+  GetK70().SystemName = "Bay 4";
+  rig.prompts.ExpectFileToOpen(folder.Path("a.xml"));
+  const WhenShown<SelFileItemDlg> person([](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+  rig.form->MenuFileOpen->trigger();
+  EXPECT_EQ(GetK70().SystemName, "Alpha");
+  Lines told;
+  for (const auto& box : rig.prompts.Boxes()) told.push_back(box.text);
+  EXPECT_EQ(told, (Lines{"Data_Load Error3", "MoveStart Error!!", "MoveStart Error!!"}));
+}
+
 TEST(Select, ThatCannotConnectStopsAndLeavesTheControlsAsTheyWere) {
   SelectRig rig;
   rig.app.faults.Add({"DeviceList.Item(2).Connect"});
