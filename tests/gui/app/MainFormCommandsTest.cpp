@@ -185,6 +185,24 @@ TEST(Open, AFileThatCannotBeReadIsToldTwiceAndThePagesAreLoaded) {
   }
 }
 
+// A position beyond the switches ends the reading, and what stood before it is in the model.
+TEST(Open, AFailureThatTheModelLetsPassIsToldAndThePagesAreLoaded) {
+  CommandRig rig;
+  const TempFolder folder;
+  rig.app.prompts.ExpectFileToOpen(
+      folder.Write("a.xml",
+                   "<Setup><SYSTEM><QHRMNAME NAME=\"From File\"/></SYSTEM>"
+                   "<SWITCH><SWITCH POSITION=\"17\" FUNCTION=\"1\"/></SWITCH></Setup>"));
+  rig.app.prompts.AcceptAnyBox();
+  const WhenShown<SelFileItemDlg> person([](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+  rig.form().MenuFileOpen->trigger();
+  ASSERT_EQ(rig.app.prompts.Boxes().size(), 1U);
+  EXPECT_EQ(rig.app.prompts.Boxes()[0].style, 16);
+  EXPECT_EQ(GetK70().SystemName, "From File");
+  EXPECT_EQ(rig.fakes.calls, OfAllPages("LoadData"));
+  EXPECT_EQ(Calls(rig.app.prompts).back(), "flush");
+}
+
 TEST(Save, TakesTheVisiblePageBeforeItAsksAndNoOther) {
   CommandRig rig;
   QTest::mousePress(rig.form().ImageButton[4], Qt::LeftButton);

@@ -266,6 +266,21 @@ TEST_F(ItemsFile, ThatIsNoneIsToldAndSwitchesTheStepsOn) {
   EXPECT_EQ(Lines(events.begin() + 1, events.end()), allOn);
 }
 
+// A position beyond the switches ends the reading.
+TEST_F(ItemsFile, ThatFailsInTheModelIsToldAndTheNameStays) {
+  rig.prompts.ExpectFileToOpen(
+      folder.Write("bad.xml",
+                   "<Setup><SYSTEM><QHRMNAME NAME=\"From File\"/></SYSTEM>"
+                   "<SWITCH><SWITCH POSITION=\"17\" FUNCTION=\"1\"/></SWITCH></Setup>"));
+  rig.prompts.AcceptAnyBox();
+  const WhenShown<SelFileItemDlg> person([](SelFileItemDlg& dialog) { dialog.OkButton->click(); });
+  const Lines events = Release();
+  ASSERT_EQ(rig.prompts.Boxes().size(), 1U);
+  EXPECT_EQ(rig.prompts.Boxes()[0].style, 16);
+  EXPECT_EQ(rig.k70().SystemName, "Here");
+  EXPECT_EQ(Lines(events.begin() + 1, events.end()), allOn);
+}
+
 TEST_F(ItemsFile, IsAskedForAtEveryRelease) {
   for (int i = 0; i < 2; ++i) {
     rig.prompts.ExpectFileToOpen("");
