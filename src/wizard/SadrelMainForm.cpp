@@ -59,7 +59,10 @@ void SadrelMainForm::OnConnected(Outcome) {
 
 // The other steps are loaded when they are entered.
 void SadrelMainForm::TakeOpened(const FileResult& file) {
-  if (!file.path.empty()) EnterStep(currentStep);
+  if (!file.path.empty()) {
+    EnterStep(currentStep);
+    FocusPage();
+  }
   prompts().FlushInput();
 }
 

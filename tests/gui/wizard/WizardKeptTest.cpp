@@ -98,6 +98,7 @@ TEST_F(WizardKept, IsOfferedAndOpenedByKeys) {
   EXPECT_EQ(GetK70().SystemName, "Bay 4");
   EXPECT_EQ(name().text(), "Bay 4") << "the step that is shown";
   EXPECT_EQ(form->currentStep, kSystemStep);
+  EXPECT_EQ(form->focusWidget(), &name()) << "where the step begins";
   EXPECT_TRUE(button().isHidden());
   EXPECT_EQ(UnsentFiles(), 1) << "kept anew";
 }
