@@ -165,9 +165,10 @@ bool ProgramForm::eventFilter(QObject* watched, QEvent* event) {
   return QMainWindow::eventFilter(watched, event);
 }
 
-// The end of a command starts the timer anew, and so does the end of a flush.
+// The end of a command starts the timer anew, and so does the end of a flush. A window that has
+// closed keeps nothing any more.
 void ProgramForm::LookForPending() {
-  if (!startEnded_ || commandRunning_) return;
+  if (!startEnded_ || commandRunning_ || !isVisible()) return;
   if (InputFlush::IsRunning()) {
     InputFlush::WhenOver(*this, [this] { pendingTimer_.start(0); });
     return;

@@ -139,6 +139,17 @@ TEST_F(Kept, EditsAreGoneAfterAnOrderlyEnd) {
   EXPECT_FALSE(std::filesystem::exists(Unsent()));
 }
 
+TEST_F(Kept, EditsAreNotWrittenAnyMoreAfterAnOrderlyEnd) {
+  Start();
+  Edit(7);
+  auto& timer = *form->findChild<QTimer*>("UnsentTimer");
+  ASSERT_TRUE(timer.isActive());
+  timer.setInterval(0);
+  form->Unload();
+  DeliverAll();
+  EXPECT_FALSE(std::filesystem::exists(Unsent()));
+}
+
 TEST_F(Kept, EditsOfAProcessThatDiedAreOfferedAndOpened) {
   Start();
   EXPECT_TRUE(note().ButtonKept->isHidden());
