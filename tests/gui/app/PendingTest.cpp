@@ -16,6 +16,7 @@
 #include "app/SessionNote.h"
 #include "app/SystemNameCtl.h"
 #include "app/SystemSettingsCtl.h"
+#include "condensers/clsCondenser.h"
 #include "drives/ControlFocusDriveCtl.h"
 #include "gui/support/EventLoop.h"
 #include "objectives/clsNosepiece.h"
@@ -226,6 +227,23 @@ TEST_F(Pending, ARowOfTheListGoesToItsPage) {
   });
   note().ButtonPending->click();
   EXPECT_TRUE(rig.form->optMenu[1]->isChecked());
+}
+
+// Without a body the page of the condensers is disabled, and a Send writes their data all the same.
+class PendingWithoutABody : public Pending {
+ protected:
+  PendingWithoutABody() : Pending(benches::Named("Hub")) {}
+};
+
+TEST_F(PendingWithoutABody, ARowOfADisabledPageLeadsNowhere) {
+  ASSERT_FALSE(rig.form->ImageButton[3]->isEnabled());
+  clsCondenser& condenser = GetK70().curCondenser;
+  condenser.code(1, condenser.code(1) == 1 ? 2 : 1);
+  EXPECT_EQ(Count(), "1 change not sent");
+  const WhenShown<DifferencesDlg> person(
+      [](DifferencesDlg& dialog) { QTest::keyClick(dialog.List1, Qt::Key_Return); });
+  note().ButtonPending->click();
+  EXPECT_TRUE(rig.form->optMenu[0]->isChecked());
 }
 
 // The text was refused, and another value was sent.

@@ -43,6 +43,18 @@ TEST(Send, PaintsTheWindowBetweenTheBoxOfFailuresAndTheWait) {
   EXPECT_EQ(rig.app.CountLog("wait 3000"), 1);
 }
 
+TEST(Send, PaintsTheDisabledWindowBeforeItsFirstCall) {
+  CommandRig rig;
+  PaintCounter content(*rig.form().centralWidget());
+  int paintedBefore = -1;
+  rig.app.prompts.onCall = [&] {
+    if (paintedBefore < 0 && rig.app.prompts.Log().back().starts_with("progress"))
+      paintedBefore = content.count;
+  };
+  rig.form().MenuConnectSend->trigger();
+  EXPECT_GT(paintedBefore, 0);
+}
+
 // The window with the program's own prompts.
 struct RealPromptsRig {
   RealPromptsRig() {
