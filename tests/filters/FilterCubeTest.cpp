@@ -66,6 +66,16 @@ TEST(FilterCube, IsShownWithTheNamesOfItsItems) {
             (std::vector<std::string>{"Ratio", "387/11", "DM 495", "525/50"}));
 }
 
+TEST(FilterCube, OfCodeZeroIsShownLikeTheOthers) {
+  Rig rig("Harbour");
+  ReadHarbour(rig, [](controller::DatabaseData& database) {
+    database.cubes.push_back({0, false, "Zero", 2, 1, 3});
+  });
+  EXPECT_EQ(rig.units.dbFilter.Name(0), "Zero");
+  EXPECT_EQ(Shown(rig.units.dbFilter, 0),
+            (std::vector<std::string>{"Zero", "365/10", "DM 400", "480/40"}));
+}
+
 TEST(FilterCube, OfACodeBeyondTheListIsShownAsFourEmptyTexts) {
   Rig rig("Harbour");
   rig.ConnectAndReceive();
