@@ -35,15 +35,12 @@ TEST(Stroke, LeavesItsPainterAsItWas) {
   painter.setPen(pen);
   painter.setBrush(Qt::yellow);
   const QRectF area(5, 5, 20, 20);
+  const Outline outline{Qt::blue, 2, 4, true};
   const std::function<void()> strokes[] = {
-      [&] {
-        DrawBox(painter, area, Qt::red, {Qt::blue, 2, 4, true});
-      },
+      [&] { DrawBox(painter, area, Qt::red, outline); },
       [&] { DrawChevronDown(painter, area, Qt::red); },
       [&] { DrawTick(painter, area, Qt::red); },
-      [&] {
-        DrawPendingDot(painter, {10, 10}, Qt::red, Qt::blue);
-      },
+      [&] { DrawPendingDot(painter, area.center(), Qt::red, Qt::blue); },
   };
   for (const auto& draw : strokes) {
     draw();
