@@ -28,7 +28,7 @@ constexpr std::array<const char*, 2> kLockFolders = {"/run/lock", "/tmp"};
 // is checked, not this user's access, so that all users choose the same folder.
 std::string LockFolder() {
   for (const char* name : kLockFolders) {
-    const std::string folder = SystemRoot::Path(name);
+    std::string folder = SystemRoot::Path(name);
     struct stat status = {};
     constexpr mode_t kShared = S_ISVTX | S_IRWXU | S_IRWXG | S_IRWXO;
     if (::stat(folder.c_str(), &status) == 0 && (status.st_mode & kShared) == kShared)
