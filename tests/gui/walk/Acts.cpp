@@ -45,7 +45,7 @@ constexpr std::array kActs{
 // What loads a page, by its name or class. Loading asks the controller.
 constexpr std::array kLoaders{
     "mortane::PageButton", "mortane::SectionOption", "mortane::StepButton", "ButtonNext",
-    "ButtonPrevious",      "ButtonFinish",           "mortane::TabStrip",
+    "ButtonPrevious",      "ButtonFinish",           "mortane::TabStrip",   "ButtonPending",
 };
 
 // The pages of the drives make moves ready when they are loaded.
