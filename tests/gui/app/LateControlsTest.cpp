@@ -243,7 +243,8 @@ std::vector<OtherSight> LoadOther(const char* bench, const Change& change, std::
   if (failing > 0) rig.faults.FailCall(failing);
   std::vector<OtherSight> sights;
   const auto see = [&](Lines shown) {
-    sights.push_back({rig.journal.Lines(), rig.prompts.Log(), ValuesOf(rig.k70.COther), shown});
+    sights.push_back(
+        {rig.journal.Lines(), rig.prompts.Log(), ValuesOf(rig.k70.COther), std::move(shown)});
   };
   late.LoadData();
   see({});
