@@ -47,7 +47,7 @@ inline QImage PictureOf(QWidget& control, const QSize& size, Use use,
   }
   control.show();
   if (act) act();
-  const QImage picture = control.grab().toImage();
+  QImage picture = control.grab().toImage();
   control.setParent(nullptr);
   return picture;
 }
