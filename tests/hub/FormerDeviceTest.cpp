@@ -21,9 +21,10 @@ void AddElement(Lines& lines, const std::string& path, const DomNode& element) {
   if (IsKept(element)) return;
   const std::string name = path + "/" + element.Name();
   std::string line = name;
-  for (DomAttribute attribute : element.Attributes()) {
-    if (name == "/Setup/NOSEPIECE/OPTION" && attribute.name == "CODE") attribute.value.pop_back();
-    line += " " + attribute.name + "=" + attribute.value;
+  for (const DomAttribute& attribute : element.Attributes()) {
+    std::string value = attribute.value;
+    if (name == "/Setup/NOSEPIECE/OPTION" && attribute.name == "CODE") value.pop_back();
+    line += " " + attribute.name + "=" + value;
   }
   lines.push_back(line);
   for (const DomNode& child : element.Children()) AddElement(lines, name, child);

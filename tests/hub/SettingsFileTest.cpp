@@ -153,7 +153,8 @@ TEST_F(SettingsFile, ANameOfFourteenCharactersIsTaken) {
 }
 
 TEST_F(SettingsFile, ALongerNameIsWrittenWholeAndRefusedWithItsLine) {
-  for (const std::string name : {"ABCDEFGHIJKLMNO", "ABCDEFGHIJKLMNOPQRST"}) {
+  for (const char* text : {"ABCDEFGHIJKLMNO", "ABCDEFGHIJKLMNOPQRST"}) {
+    const std::string name = text;
     rig.k70.SystemName = name;
     rig.k70.WriteXML(folder.Path("long.xml"));
     rig.k70.SystemName = "Before";

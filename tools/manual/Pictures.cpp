@@ -106,6 +106,7 @@ std::vector<QRgb> ColoursByFrequency(const QImage& picture) {
     }
   }
   std::vector<QRgb> colours;
+  colours.reserve(counts.size());
   for (const auto& [colour, count] : counts) colours.push_back(colour);
   std::sort(colours.begin(), colours.end(), [&counts](QRgb one, QRgb other) {
     return std::pair(-counts[one], one) < std::pair(-counts[other], other);

@@ -14,9 +14,11 @@ TEST(Card, StandsOnTheGroundOfFieldsWithinALine) {
   for (const test::Use use : {test::Use::Rest, test::Use::Disabled}) {
     Card card;
     const QImage picture = test::PictureOf(card, {40, 30}, use);
-    const std::string line = use == test::Use::Rest ? "Mid 1" : "disabled Mid 1";
-    EXPECT_EQ(test::RowOf(picture), line + ", Base 38, " + line);
-    EXPECT_EQ(test::ColumnOf(picture), line + ", Base 28, " + line);
+    const bool enabled = use == test::Use::Rest;
+    EXPECT_EQ(test::RowOf(picture),
+              enabled ? "Mid 1, Base 38, Mid 1" : "disabled Mid 1, Base 38, disabled Mid 1");
+    EXPECT_EQ(test::ColumnOf(picture),
+              enabled ? "Mid 1, Base 28, Mid 1" : "disabled Mid 1, Base 28, disabled Mid 1");
   }
 }
 

@@ -129,8 +129,9 @@ TEST(NamedMutexFolder, IsChosenByWhoMayWriteThere) {
     make("tmp", row.tmp);
     const std::string used = row.used;
     EXPECT_EQ(NamedMutex().Open("a"), used.empty() ? Opened::Failed : Opened::First) << row.meaning;
-    for (const std::string folder : {"run/lock", "tmp"}) {
-      EXPECT_EQ(std::filesystem::exists(root.Path(folder + "/mortane-a.lock")), folder == used)
+    for (const char* folder : {"run/lock", "tmp"}) {
+      EXPECT_EQ(std::filesystem::exists(root.Path(std::string(folder) + "/mortane-a.lock")),
+                folder == used)
           << row.meaning << ", " << folder;
     }
   }
