@@ -24,8 +24,9 @@ class clsControlOther {
   // 1 coarse, 2 medium, 3 fine; read of a manual knob alone. Kept: never sent.
   std::int32_t curSensitivityZ = kUnknown;
   std::int32_t curSensitivityXY = kUnknown;
+  // Of body and hub.
+  static constexpr std::int32_t kBuzzersDiffer = 2;
   // 0 on, 1 off, kBuzzersDiffer. Kept: sending anything but 0 switches all off.
-  static constexpr std::int32_t kBuzzersDiffer = 2;  // those of body and hub
   std::int32_t curBuzzer = kUnknown;
   // Switches of the body, the hand controller and the remote: 1 enabled, 0 disabled.
   std::int32_t curSwEnable = kUnknown;

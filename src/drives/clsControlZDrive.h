@@ -35,11 +35,11 @@ class clsControlZDrive {
   // Nosepiece addresses; told by the microscope object on connecting and on each read.
   std::int32_t NoseCount = 0;
 
-  // The escape of an axis: 1 on, 0 off, kUnknownEscape when the controller told an unknown mode.
-  // An axis that is neither of the two raises error 9.
   static constexpr std::int32_t kFocusAxis = 0;
   static constexpr std::int32_t kStageAxis = 1;
   static constexpr std::int16_t kUnknownEscape = 2;
+  // The escape of an axis: 1 on, 0 off, kUnknownEscape when the controller told an unknown mode.
+  // An axis that is neither of the two raises error 9.
   std::int16_t SetEscape(std::int32_t axis) const;
   void SetEscape(std::int32_t axis, std::int16_t nVal);
 

@@ -276,23 +276,28 @@ TEST(TurretFace, APlaceThatIsNotThereIsNotFilled) {
   EXPECT_EQ(turret.accessibleDescription(), before);
 }
 
+// A press and release on a pixel within the place clicks it, one on a pixel without does not.
+void ExpectHits(TurretButton& place, const std::vector<QPoint>& within,
+                const std::vector<QPoint>& without) {
+  place.show();
+  QSignalSpy clicks(&place, &QAbstractButton::clicked);
+  const auto expect = [&](const std::vector<QPoint>& pixels, int count) {
+    for (const QPoint& pixel : pixels) {
+      clicks.clear();
+      QTest::mouseClick(&place, Qt::LeftButton, {}, pixel);
+      EXPECT_EQ(clicks.size(), count) << pixel.x() << " " << pixel.y();
+    }
+  };
+  expect(within, 1);
+  expect(without, 0);
+}
+
 TEST(TurretFace, ARoundPlaceIsHitUpToItsEdge) {
   TurretButton place(PlaceKind::Objectives, 1, nullptr);
   place.resize(56, 56);
   place.SetPlaceSize({40, 40});
-  place.show();
-  QSignalSpy clicks(&place, &QAbstractButton::clicked);
-  for (const QPoint& inside :
-       {QPoint(48, 28), QPoint(8, 28), QPoint(28, 8), QPoint(28, 48), QPoint(42, 42)}) {
-    clicks.clear();
-    QTest::mouseClick(&place, Qt::LeftButton, {}, inside);
-    EXPECT_EQ(clicks.size(), 1) << inside.x() << " " << inside.y();
-  }
-  for (const QPoint& outside : {QPoint(49, 28), QPoint(7, 28), QPoint(43, 43), QPoint(13, 13)}) {
-    clicks.clear();
-    QTest::mouseClick(&place, Qt::LeftButton, {}, outside);
-    EXPECT_EQ(clicks.size(), 0) << outside.x() << " " << outside.y();
-  }
+  ExpectHits(place, {{48, 28}, {8, 28}, {28, 8}, {28, 48}, {42, 42}},
+             {{49, 28}, {7, 28}, {43, 43}, {13, 13}});
 }
 
 TEST(TurretFace, EachMagnificationHasItsRing) {
@@ -320,18 +325,7 @@ TEST(TurretFace, ATileIsHitUpToItsEdges) {
   TurretButton tile(PlaceKind::Cubes, 1, nullptr);
   tile.resize(56, 48);
   tile.SetPlaceSize({40, 32});
-  tile.show();
-  QSignalSpy clicks(&tile, &QAbstractButton::clicked);
-  for (const QPoint& inside : {QPoint(28, 40), QPoint(28, 8), QPoint(48, 24), QPoint(8, 24)}) {
-    clicks.clear();
-    QTest::mouseClick(&tile, Qt::LeftButton, {}, inside);
-    EXPECT_EQ(clicks.size(), 1) << inside.x() << " " << inside.y();
-  }
-  for (const QPoint& outside : {QPoint(28, 41), QPoint(28, 7), QPoint(49, 24), QPoint(7, 24)}) {
-    clicks.clear();
-    QTest::mouseClick(&tile, Qt::LeftButton, {}, outside);
-    EXPECT_EQ(clicks.size(), 0) << outside.x() << " " << outside.y();
-  }
+  ExpectHits(tile, {{28, 40}, {28, 8}, {48, 24}, {8, 24}}, {{28, 41}, {28, 7}, {49, 24}, {7, 24}});
 }
 
 }  // namespace

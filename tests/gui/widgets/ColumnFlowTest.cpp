@@ -39,13 +39,7 @@ class ColumnFlowTest : public ::testing::Test {
 };
 
 TEST_F(ColumnFlowTest, AsksForANewLayoutWhereItBreaksAnewAndNotOtherwise) {
-  test::LayoutRequests requests(panel);
-  ShowIn(420);
-  EXPECT_LE(requests.Take(), 2);
-  ShowIn(400);
-  EXPECT_EQ(requests.Take(), 0);
-  ShowIn(259);
-  EXPECT_EQ(requests.Take(), 1);
+  test::ExpectRequestsAtBreaksAlone(panel, [this](int width) { ShowIn(width); });
 }
 
 TEST_F(ColumnFlowTest, SharesTheWidthByTheStretches) {

@@ -32,13 +32,7 @@ class FlowRowTest : public ::testing::Test {
 };
 
 TEST_F(FlowRowTest, AsksForANewLayoutWhereItBreaksAnewAndNotOtherwise) {
-  test::LayoutRequests requests(panel);
-  ShowIn(420);
-  EXPECT_LE(requests.Take(), 2);
-  ShowIn(400);
-  EXPECT_EQ(requests.Take(), 0);
-  ShowIn(259);
-  EXPECT_EQ(requests.Take(), 1);
+  test::ExpectRequestsAtBreaksAlone(panel, [this](int width) { ShowIn(width); });
 }
 
 TEST_F(FlowRowTest, IsOneLineWhereTheWidthHoldsAll) {

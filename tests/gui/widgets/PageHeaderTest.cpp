@@ -62,13 +62,22 @@ TEST(PageHeader, TellsItsTitle) {
   EXPECT_EQ(header.sectionBar(), nullptr);
 }
 
-TEST(PageHeader, TheTitleStandsBesideItsIconAndTheBarBehindTheLongestTitle) {
-  PageHeader header(IconName::Cube, "Cubes");
+struct ShownHeader {
+  ShownHeader() {
+    bar->AddOption("One");
+    header.resize(600, 56);
+    header.show();
+    QApplication::processEvents();
+  }
+
+  PageHeader header{IconName::Cube, "Cubes"};
   SectionBar* bar = header.AddSectionBar();
-  bar->AddOption("One");
-  header.resize(600, 56);
-  header.show();
-  QApplication::processEvents();
+};
+
+TEST(PageHeader, TheTitleStandsBesideItsIconAndTheBarBehindTheLongestTitle) {
+  ShownHeader shown;
+  PageHeader& header = shown.header;
+  SectionBar* bar = shown.bar;
   const auto* title = header.findChild<QLabel*>();
   ASSERT_NE(title, nullptr);
   EXPECT_EQ(title->pos(), QPoint(38, 12));
@@ -84,12 +93,8 @@ TEST(PageHeader, TheTitleStandsBesideItsIconAndTheBarBehindTheLongestTitle) {
 }
 
 TEST(PageHeader, MakesRoomForAnOptionThatIsAddedLater) {
-  PageHeader header(IconName::Cube, "Cubes");
-  SectionBar* bar = header.AddSectionBar();
-  bar->AddOption("One");
-  header.resize(600, 56);
-  header.show();
-  QApplication::processEvents();
+  ShownHeader shown;
+  SectionBar* bar = shown.bar;
   const int before = bar->width();
   bar->AddOption("Two");
   test::DeliverAll();
