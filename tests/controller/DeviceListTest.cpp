@@ -66,6 +66,11 @@ TEST(DeviceEntry, AsyncModeIsForAConnectedDeviceOnly) {
   EXPECT_THROW(NewRoot(library).DeviceList().Item(0).PutAsyncMode(true), ControllerError);
 }
 
+TEST(DeviceEntry, WaitMoveIsForAConnectedDeviceOnly) {
+  SimulatedLibrary library(benches::Named("Quay"));
+  EXPECT_THROW(NewRoot(library).DeviceList().Item(0).WaitMove(), ControllerError);
+}
+
 TEST(SystemName, IsTheNameOfTheDeviceAtOnceAndOnEveryRoot) {
   SimulatedRig rig("Harbour");
   const DeviceEntry other = NewRoot(rig.library).DeviceList().Item(0);

@@ -101,6 +101,7 @@ TEST_F(Kept, IsTheStateBeforeASendOnce) {
   library->journal.Clear();
   form->MenuConnectSend->trigger();
   ASSERT_EQ(List().size(), 1U);
+  EXPECT_EQ(note().text().toStdString(), "Harbour · Sent 14:05");
   DomDocument document;
   ASSERT_TRUE(document.Load(List().front().path));
   GetK70().ReadItems(document, "backup");

@@ -279,6 +279,21 @@ struct WholeRig : WizardRig {
   }
 };
 
+// The pages are made when their steps are first entered, after the buttons below them.
+TEST(StepsOfOnePage, TabLeadsFromThePagesLastControlToTheButtonsBelow) {
+  WholeRig rig;
+  for (const int step : {5, 7}) {
+    rig.form->optMenu[static_cast<std::size_t>(step)]->setChecked(true);
+    QApplication::processEvents();
+    const QWidget* first = QApplication::focusWidget();
+    ASSERT_TRUE(rig.form->FrameControl->isAncestorOf(first)) << step;
+    for (int i = 0; i < 20 && rig.form->FrameControl->isAncestorOf(QApplication::focusWidget());
+         ++i)
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), rig.form->ButtonCancel) << step;
+  }
+}
+
 TEST(StepHelp, OfTheControlsGoesByTheType) {
   WholeRig rig;
   EXPECT_EQ(rig.HelpAt(5), "Set Other Settigs.");
