@@ -1,4 +1,4 @@
-# Makes one ctest test for each source file of a GoogleTest program: its suites, in one process.
+# Makes ctest tests of the suites of a GoogleTest program: those of a source file run in one process.
 # Needs PROGRAM and RESULTS, the folder for the results of single tests. With LIST it writes the
 # tests there, for ctest to include; without, ctest itself is running it.
 get_filename_component(program_name "${PROGRAM}" NAME_WE)
@@ -31,33 +31,56 @@ foreach(item IN LISTS items)
 endforeach()
 list(REMOVE_DUPLICATES files)
 
-# Those that take seconds begin before the many that take a moment, so that all processors are busy to
-# the end.
+# Source files whose tests take seconds have a process each. The others share one, since its start is
+# most of their time. What takes long begins early, so that all processors are busy to the end.
 set(dear_files "^(WalkTest|PendingBenchesTest|PageDrill|LateLoadingTest|SendTest|ComparisonTest|\
 WindowFacesTest|CheckedByProgramsTest|DomParserTests)$")
+set(files_in_a_process 6)
+if(program_name MATCHES "^(app|wizard|drives_page|switches_page|hub)_tests$")
+  set(cost_of_shared "COST 20")
+endif()
 
 set(tests "")
-foreach(file IN LISTS files)
-  set(test "${program_name}/${file}")
-  list(TRANSFORM suites_of_${file} APPEND ".*" OUTPUT_VARIABLE filter)
-  list(JOIN filter ":" filter)
-  unset(suites_of_${file})
+# add_process(properties file ...): a test named after its files, so that ctest -R finds each of them.
+function(add_process properties first_file)
+  set(files ${first_file} ${ARGN})
+  list(JOIN files "+" name)
+  set(suites "")
+  foreach(file IN LISTS files)
+    list(APPEND suites ${suites_of_${file}})
+  endforeach()
+  list(TRANSFORM suites APPEND ".*")
+  list(JOIN suites ":" filter)
   set(command ${EMULATOR} "${PROGRAM}" "--gtest_filter=${filter}" --gtest_brief=1
-    "--gtest_output=xml:${drive}${RESULTS}/${program_name}-${file}.xml")
+    "--gtest_output=xml:${drive}${RESULTS}/${program_name}-${first_file}.xml")
   set(words "")
   foreach(word IN LISTS command)
     string(APPEND words " \"${word}\"")
   endforeach()
-  # Built programs wait for each other's device names: one such test at a time, the first ones early.
-  set(properties "TIMEOUT 600")
+  set(test "${program_name}/${name}")
+  set(tests "${tests}add_test(\"${test}\"${words})\n\
+set_tests_properties(\"${test}\" PROPERTIES TIMEOUT 600 ${properties})\n" PARENT_SCOPE)
+endfunction()
+
+set(shared_files "")
+foreach(file IN LISTS files)
   if(file MATCHES "ProgramTest$")
-    string(APPEND properties " RESOURCE_LOCK device_names COST 100")
+    # Built programs wait for each other's device names: one such test at a time, the first ones early.
+    add_process("RESOURCE_LOCK device_names COST 100" ${file})
   elseif(file MATCHES "${dear_files}")
-    string(APPEND properties " COST 50")
+    add_process("COST 50" ${file})
+  else()
+    list(APPEND shared_files ${file})
+    list(LENGTH shared_files count)
+    if(count EQUAL files_in_a_process)
+      add_process("${cost_of_shared}" ${shared_files})
+      set(shared_files "")
+    endif()
   endif()
-  string(APPEND tests "add_test(\"${test}\"${words})\n"
-    "set_tests_properties(\"${test}\" PROPERTIES ${properties})\n")
 endforeach()
+if(shared_files)
+  add_process("${cost_of_shared}" ${shared_files})
+endif()
 
 if(DEFINED LIST)
   file(WRITE "${LIST}" "${tests}")

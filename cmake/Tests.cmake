@@ -1,9 +1,10 @@
-# Test programs: one a room, precompiled headers shared among them, one ctest test for each source
-# file.
+# Test programs: one a room, precompiled headers shared among them, one ctest test for a few source
+# files or for one that takes long.
 
 # mortane_test(name [QT] SOURCES ... LIBRARIES ...)
 # A program with the shared main function. QT gives it an application that needs no display. The
-# tests of a source file are a process; each ends within a minute, or the process says which did not.
+# tests of a source file run in one process; each ends within a minute, or the process says which did
+# not.
 function(mortane_test name)
   cmake_parse_arguments(ARG "QT" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -52,6 +53,7 @@ function(mortane_discover_suites name)
 set(EMULATOR \"${CMAKE_CROSSCOMPILING_EMULATOR}\")\ninclude(\"${script}\")\n")
     return()
   endif()
+  set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS "${script}")
   add_custom_command(TARGET ${name} POST_BUILD VERBATIM COMMAND ${CMAKE_COMMAND}
     -D "PROGRAM=$<TARGET_FILE:${name}>" -D "RESULTS=${PROJECT_BINARY_DIR}/results"
     -D "LIST=${list}" -P "${script}")

@@ -267,6 +267,7 @@ class EditsOfPages : public PendingOn {
   }
 
   void TryEdits(QWidget& subPage) {
+    const std::set<std::string> before = Marks();
     for (const ItemPlace& place : ItemPlaces()) {
       const QString name = QLatin1String(place.control);
       if (subPage.objectName() != QLatin1String(place.subPage.name)) continue;
@@ -274,13 +275,12 @@ class EditsOfPages : public PendingOn {
       if (control == nullptr) control = subPage.findChild<QObject*>(name + "_0");
       ASSERT_NE(control, nullptr) << place.control;
       if (IsNeverSent(place.control)) continue;
-      if (const std::optional<Edit> edit = EditOf(*control)) Try(*edit, subPage);
+      if (const std::optional<Edit> edit = EditOf(*control)) Try(*edit, subPage, before);
     }
   }
 
-  void Try(const Edit& edit, QWidget& subPage) {
+  void Try(const Edit& edit, QWidget& subPage, const std::set<std::string>& before) {
     const std::string opening = subPage.objectName().toStdString() + " " + edit.name;
-    const std::set<std::string> before = Marks();
     rig.journal.Clear();
     edit.change();
     const std::set<std::string> changed = Marks();

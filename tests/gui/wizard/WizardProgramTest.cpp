@@ -26,12 +26,26 @@ class Wizard : public BuiltProgram {
     AwaitRest();
   }
 
-  // A click that comes soon after the last step's loading is dropped, so it is made again.
+  // A click that comes soon after the last step's loading is dropped.
   void Exit() {
+    PressUntil("alt+e", [this] { return Windows(title_).size() == 2; });
+  }
+
+  // A list of completions that opens late takes the key for itself.
+  void SaveAs(const std::string& path) {
+    const QString title("Save As");
+    Tool({"windowfocus", "--sync", AwaitWindows(1, title).constFirst()});
+    Tool({"type", QString::fromStdString(path)});
+    PressUntil("Return", [&] { return Windows(title).isEmpty(); });
+  }
+
+ private:
+  // Presses the key again where it was lost.
+  void PressUntil(const QString& key, const std::function<bool()>& happened) {
     constexpr int kMomentMs = 300;
-    EXPECT_TRUE(Await([this] {
-      Tool({"key", "alt+e"});
-      return Await([this] { return Windows(title_).size() == 2; }, kMomentMs);
+    EXPECT_TRUE(Await([&] {
+      Tool({"key", key});
+      return Await(happened, kMomentMs);
     }));
   }
 };
@@ -114,9 +128,7 @@ TEST_P(WizardOn, IsGoneThroughByKeyboardAlone) {
   for (int step = 1; step < GetParam().steps; ++step) Next(window);
   Exit();
   Press(AwaitWindows(2).constFirst(), {"Return"});
-  Tool({"windowfocus", "--sync", AwaitWindows(1, "Save As").constFirst()});
-  Tool({"type", QString::fromStdString(saved)});
-  Tool({"key", "Return"});
+  SaveAs(saved);
   ExpectGoodEnd();
   EXPECT_EQ(controller::ReadBenchFile(bench).instruments[1].name, "Bay 4");
   EXPECT_NE(TempFolder::Read(saved).find("Bay 4"), std::string::npos);
