@@ -35,7 +35,7 @@ list(REMOVE_DUPLICATES files)
 # most of their time. What takes long begins early, so that all processors are busy to the end.
 set(dear_files "^(WalkTest|PendingBenchesTest|PageDrill|LateLoadingTest|SendTest|ComparisonTest|\
 WindowFacesTest|CheckedByProgramsTest|DomParserTests)$")
-set(files_in_a_process 6)
+set(files_in_a_process 8)
 if(program_name MATCHES "^(app|wizard|drives_page|switches_page|hub)_tests$")
   set(cost_of_shared "COST 20")
 endif()

@@ -219,14 +219,14 @@ TEST_P(PageDrill, DisablingHidingAndDestroyingStoreNothingAndAskNothing) {
 }
 
 TEST_P(PageDrill, LoadingUnderATextThatIsTypedTakesItBack) {
+  const auto made = MakeRig();
+  PageWindow& rig = *made;
+  Page& page = ShowOn(rig);
+  const std::vector<std::string> before = EditedValues(rig);
   for (const std::string& stop : GetParam().tabOrder) {
-    const auto made = MakeRig();
-    PageWindow& rig = *made;
-    Page& page = ShowOn(rig);
     const auto* field = qobject_cast<TextField*>(&rig.Find(stop));
     if (field == nullptr) continue;
     const QString text = field->text();
-    const std::vector<std::string> before = EditedValues(rig);
     BeginEdit(rig.Find(stop));
     ASSERT_NE(field->text(), text) << stop;
     page.LoadData();

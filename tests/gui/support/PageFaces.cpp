@@ -4,7 +4,9 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <algorithm>
 #include <map>
+#include <span>
 
 #include "app/ApplyTheme.h"
 #include "drawings/MarkButton.h"
@@ -60,28 +62,41 @@ class SchemeScope {
   static void Apply(Scheme scheme) { ApplyTheme(*qobject_cast<QApplication*>(qApp), scheme); }
 };
 
+// In pixels of 32 bits.
 QImage PictureOf(PageWindow& rig, const QWidget& control) {
   QApplication::processEvents();
   const QPoint corner = control.mapTo(&rig.window(), QPoint());
-  return rig.window().grab(QRect(corner, control.size())).toImage();
+  const QImage picture = rig.window().grab(QRect(corner, control.size())).toImage();
+  return picture.convertToFormat(QImage::Format_RGB32);
+}
+
+std::span<const QRgb> LineOf(const QImage& picture, int y) {
+  return {reinterpret_cast<const QRgb*>(picture.constScanLine(y)),
+          static_cast<std::size_t>(picture.width())};
 }
 
 // Pixels that take the colour of the focus.
 int NewlyColoured(const QImage& before, const QImage& after, const QColor& focus) {
+  const QRgb colour = focus.rgb();
   int count = 0;
   for (int y = 0; y < after.height(); ++y) {
-    for (int x = 0; x < after.width(); ++x) {
-      const QColor now = after.pixelColor(x, y);
-      if (now == focus && before.pixelColor(x, y) != now) ++count;
-    }
+    const auto was = LineOf(before, y);
+    const auto is = LineOf(after, y);
+    for (std::size_t x = 0; x < is.size(); ++x)
+      count += is[x] == colour && was[x] != colour ? 1 : 0;
   }
   return count;
 }
 
 QColor MostFrequentColour(const QImage& picture) {
-  std::map<QRgb, int> counts;
+  std::map<QRgb, std::ptrdiff_t> counts;
   for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
+    const auto line = LineOf(picture, y);
+    for (auto from = line.begin(); from != line.end();) {
+      const auto to = std::find_if(from, line.end(), [&](QRgb pixel) { return pixel != *from; });
+      counts[*from] += to - from;
+      from = to;
+    }
   }
   const auto most =
       std::max_element(counts.begin(), counts.end(),

@@ -55,6 +55,8 @@ QRegion Contents(const QWidget& control) {
 
 void CheckChildren(const QWidget& parent, std::vector<std::string>& faults) {
   const std::vector<const QWidget*> children = ShownChildren(parent);
+  std::vector<QRegion> contents;
+  for (const QWidget* child : children) contents.push_back(Contents(*child));
   for (std::size_t i = 0; i < children.size(); ++i) {
     const QWidget& control = *children[i];
     CheckSize(control, faults);
@@ -62,7 +64,7 @@ void CheckChildren(const QWidget& parent, std::vector<std::string>& faults) {
       faults.push_back(Describe(control) + " reaches out of " + Describe(parent));
     }
     for (std::size_t k = i + 1; k < children.size(); ++k) {
-      if (!Contents(control).intersects(Contents(*children[k]))) continue;
+      if (!contents[i].intersects(contents[k])) continue;
       faults.push_back(Describe(control) + " overlaps " + Describe(*children[k]));
     }
   }

@@ -136,10 +136,10 @@ TEST(AtomicFileFaults, AKilledProcessLeavesTheOldContentOrTheNew) {
   const std::string first(300000, 'a');
   const std::string second(400000, 'b');
   int kept = 0;
-  for (int point = 0; point < 60; ++point) {
+  for (int point = 0; point < 30; ++point) {
     WriteFileAtomically(path, first);
     test::ChildProcess child([&](const test::ChildProcess::Side& parent) {
-      DieIn(1 + 60 * point);
+      DieIn(1 + 120 * point);
       WriteFileAtomically(path, second);
       parent.AwaitParent();
       return 0;
@@ -251,9 +251,13 @@ TEST(AtomicFileFaults, TellOfALinkThatCannotBeRead) {
 
 TEST(AtomicFileFaults, AProcessHasAThousandNamesForItsTemporaries) {
   const test::TempFolder folder;
-  for (int number = 0; number < 999; ++number) folder.Write(TemporaryName(::getpid(), number), "");
+  const std::string file = folder.Write("a file", "");
+  const auto take = [&](int number) {
+    fs::create_hard_link(file, folder.Path(TemporaryName(::getpid(), number)));
+  };
+  for (int number = 0; number < 999; ++number) take(number);
   EXPECT_EQ(Try(folder.Path("a.xml"), "new", ""), kTaken);
-  folder.Write(TemporaryName(::getpid(), 999), "");
+  take(999);
   EXPECT_EQ(Try(folder.Path("a.xml"), "newer", "File exists"), kRefused);
   EXPECT_EQ(ReadWholeFile(folder.Path("a.xml")), "new");
 }
