@@ -116,6 +116,8 @@ class FolderUsedLast : public testing::Test {
     for (const char* name : {"a", "b"}) std::filesystem::create_directory(folder.Path(name));
     folder.Write("b/lab.xml", "<Setup/>");
   }
+  // Where the toolkit begins by itself, which depends on the dialogs that the process has shown.
+  static std::string FolderOfToolkit() { return FolderOf(QFileDialog()); }
   // An empty path is a dialog that is cancelled.
   std::string Open(const std::string& path) {
     return Ask(path, [this] { return prompts.AskFileToOpen(kToOpen); });
@@ -128,10 +130,13 @@ class FolderUsedLast : public testing::Test {
   QtPrompts prompts{[](int) {}};
 
  private:
+  static std::string FolderOf(const QFileDialog& dialog) {
+    return QDir::toNativeSeparators(dialog.directory().absolutePath()).toStdString();
+  }
   std::string Ask(const std::string& path, const std::function<std::string()>& ask) {
     std::string begun;
     const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
-      begun = QDir::toNativeSeparators(dialog.directory().absolutePath()).toStdString();
+      begun = FolderOf(dialog);
       if (path.empty()) {
         dialog.reject();
       } else {
@@ -144,8 +149,8 @@ class FolderUsedLast : public testing::Test {
 };
 
 TEST_F(FolderUsedLast, IsWhereTheNextDialogBeginsOfEitherKind) {
-  const std::string first = Save(folder.Path("a/lab.xml"));
-  EXPECT_EQ(first, QDir::toNativeSeparators(QDir::currentPath()).toStdString());
+  const std::string own = FolderOfToolkit();
+  EXPECT_EQ(Save(folder.Path("a/lab.xml")), own);
   EXPECT_EQ(Open(folder.Path("b/lab.xml")), folder.Path("a"));
   EXPECT_EQ(Open(""), folder.Path("b"));
   EXPECT_EQ(Save(""), folder.Path("b")) << "a cancelled dialog has used none";
@@ -154,7 +159,7 @@ TEST_F(FolderUsedLast, IsWhereTheNextDialogBeginsOfEitherKind) {
 TEST_F(FolderUsedLast, ThatIsGoneIsForgotten) {
   Save(folder.Path("a/lab.xml"));
   std::filesystem::remove_all(folder.Path("a"));
-  EXPECT_EQ(Open(""), QDir::toNativeSeparators(QDir::currentPath()).toStdString());
+  EXPECT_EQ(Open(""), FolderOfToolkit());
 }
 
 // Dialogs of sessions that remember their files in one place.
