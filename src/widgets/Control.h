@@ -8,8 +8,6 @@
 
 namespace mortane {
 
-using namespace Qt::StringLiterals;
-
 // A pointer to a control that its page makes and the toolkit owns. The widget that is put in gets
 // the name of the member, by which styles, tests and screen readers' scripts find it.
 template <typename Widget>
@@ -36,6 +34,7 @@ class Control {
 
 // The name of an element of an array of controls: "Label1_0".
 inline QString ElementName(const QString& array, qsizetype index) {
+  using namespace Qt::StringLiterals;
   return u"%1_%2"_s.arg(array).arg(index);
 }
 
