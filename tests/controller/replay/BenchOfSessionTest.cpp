@@ -115,6 +115,34 @@ TEST_F(FewLines, OfADriveThatIsFittedNoAnswerTellsItsSpeed) {
   EXPECT_TRUE(Has(stage, xy));
 }
 
+struct DatabaseCount {
+  const char* member;
+  std::size_t (*size)(const DatabaseData& database);
+};
+
+// Also where no entry tells anything of itself.
+TEST_F(FewLines, ADatabaseHasAsManyEntriesAsItsCountsTell) {
+  const std::vector<DatabaseCount> rows{
+      {"Nosepieces.Count", [](const DatabaseData& database) { return database.objectives.size(); }},
+      {"Condensers.Count", [](const DatabaseData& database) { return database.condensers.size(); }},
+      {"Exciters.Count", [](const DatabaseData& database) { return database.exciters.size(); }},
+      {"Dichroics.Count", [](const DatabaseData& database) { return database.dichroics.size(); }},
+      {"Barriers.Count", [](const DatabaseData& database) { return database.barriers.size(); }},
+      {"FilterCubes.Count", [](const DatabaseData& database) { return database.cubes.size(); }},
+      {"ObjectiveSeriesCount", [](const DatabaseData& database) { return database.series.size(); }},
+      {"ObjectiveTypeCount", [](const DatabaseData& database) { return database.types.size(); }},
+  };
+  std::vector<std::string> calls;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    calls.push_back("#6 get AccessoryDatabase." + std::string(rows[i].member) + " -> " +
+                    std::to_string(i + 2));
+  }
+  const SessionBench made = MadeConnected(calls);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    EXPECT_EQ(rows[i].size(made.bench.instruments[1].database), i + 2) << rows[i].member;
+  }
+}
+
 TEST_F(FewLines, ACountThatIsNoNumberIsNotTold) {
   const SessionBench made = MadeConnected({"#5 get NosepieceDevice.AccessoryState.State -> 1",
                                            "#5 get NosepieceDevice.Positions.Count -> \"three\""});
