@@ -56,6 +56,7 @@ QRegion Contents(const QWidget& control) {
 void CheckChildren(const QWidget& parent, std::vector<std::string>& faults) {
   const std::vector<const QWidget*> children = ShownChildren(parent);
   std::vector<QRegion> contents;
+  contents.reserve(children.size());
   for (const QWidget* child : children) contents.push_back(Contents(*child));
   for (std::size_t i = 0; i < children.size(); ++i) {
     const QWidget& control = *children[i];
