@@ -166,13 +166,11 @@ void ObjectiveCtl::ClickTab() {
   const std::int32_t mounted = nosepiece_.code(address());
   const std::int32_t series = objectives_.SeriesCode(mounted);
   turret()->setIndex(TabNosepiece->index());
-  listing_.reset();
+  builtRow_.reset();
   ListSeries->setIndex(series);
   LabelSeries->setText(QString::fromStdString(objectives_.Series(series)));
-  // The click of the series has just built this very list.
-  const bool built = listing_ && listing_->series == series && listing_->mounted == mounted;
-  const int row = built ? listing_->row : BuildList(series, mounted);
-  SelectOrBlank(row);
+  // The click of another series has just built this very list.
+  SelectOrBlank(builtRow_ ? *builtRow_ : BuildList(series, mounted));
 }
 
 void ObjectiveCtl::ClickSeries(int row) {
@@ -202,7 +200,7 @@ int ObjectiveCtl::BuildList(std::int32_t series, std::int32_t mounted) {
     found = static_cast<int>(rows.size()) - 1;
   }
   ShowRows(std::move(rows));
-  listing_ = {series, mounted, found};
+  builtRow_ = found;
   return found;
 }
 

@@ -63,12 +63,6 @@ class ObjectiveCtl : public TurretPage {
     std::int32_t code;
   };
 
-  struct Listing {
-    std::int32_t series;
-    std::int32_t mounted;
-    int row;
-  };
-
   void BuildLists();
   void BuildValues();
   void ShowParts(const QStringList& cells);
@@ -84,8 +78,8 @@ class ObjectiveCtl : public TurretPage {
 
   clsNosepiece& nosepiece_;
   const clsDbNosepiece& objectives_;
-  std::vector<Row> rows_;  // of the objective list
-  std::optional<Listing> listing_;
+  std::vector<Row> rows_;        // of the objective list
+  std::optional<int> builtRow_;  // what the last building of the objective list answered
 };
 
 }  // namespace mortane
