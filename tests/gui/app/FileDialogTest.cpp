@@ -82,6 +82,19 @@ INSTANTIATE_TEST_SUITE_P(Names, FileToSave,
                          testing::Values(NameCase{"lab", "lab.xml"}, NameCase{"lab.xml", "lab.xml"},
                                          NameCase{"lab 2 \xC3\xA9.xml", "lab 2 \xC3\xA9.xml"}));
 
+TEST(FileThatIsThere, IsWrittenOverUnaskedWhereTheQuestionHasNoFlagForThat) {
+  QtPrompts prompts{[](int) {}};
+  const TempFolder folder;
+  const std::string path = folder.Write("lab.xml", "<Setup/>");
+  const WhenShown<QFileDialog> person([&](QFileDialog& dialog) {
+    const bool unasked = dialog.testOption(QFileDialog::DontConfirmOverwrite);
+    EXPECT_TRUE(unasked);
+    if (!unasked) return dialog.reject();  // rather than wait for an answer
+    Type(dialog, path);
+  });
+  EXPECT_EQ(prompts.AskFileToSave({dialogflag::kPathMustExist, kFilter, ".xml"}), path);
+}
+
 TEST(FolderToSaveIn, ThatIsNotThereIsRefusedAndAskedAgain) {
   QtPrompts prompts{[](int) {}};
   const TempFolder folder;
