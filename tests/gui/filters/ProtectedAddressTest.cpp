@@ -176,6 +176,17 @@ TEST_F(ProtectedAddress, WithOneRowTheSixthTabStaysOnIt) {
   EXPECT_EQ(codeAt(6), 0);
 }
 
+TEST_F(ProtectedAddress, OfTwoRowsTheSixthTabMovesToTheSecond) {
+  rig.instrument().database.cubes.resize(1);
+  rig.k70().dbFilter.Set_DbFilterOption(1, "", 0, 0, 0);
+  rig.k70().curFilter.code(6, 0);
+  page.LoadData();
+  ASSERT_EQ(page.List1->rowCount(), 2);
+  ClickTab(*page.TabPocket, 5);
+  EXPECT_EQ(page.List1->index(), 1);
+  EXPECT_EQ(codeAt(6), 1);
+}
+
 // Whatever the answer, the page is not there to take it.
 class LostBehindTheQuestion : public ProtectedAddress, public testing::WithParamInterface<Answer> {
  protected:
