@@ -59,8 +59,15 @@ class BuiltProgram : public testing::Test {
   // Visible windows of the program once there are that many, the smallest first.
   QStringList AwaitWindows(qsizetype count) { return AwaitWindows(count, title_); }
   QStringList AwaitWindows(qsizetype count, const QString& title) {
+    // A look takes three processes, which a program that is starting does without.
+    constexpr int kBetweenLooksMs = 40;
     QStringList windows;
-    Await([&] { return (windows = Windows(title)).size() == count; });
+    Await([&] {
+      windows = Windows(title);
+      const bool isThere = windows.size() == count;
+      if (!isThere) QTest::qWait(kBetweenLooksMs);
+      return isThere;
+    });
     EXPECT_EQ(windows.size(), count) << program_.readAllStandardError().toStdString();
     windows.resize(count);  // rather a wrong window than none
     std::sort(windows.begin(), windows.end(), [this](const QString& a, const QString& b) {
