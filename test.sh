@@ -8,7 +8,7 @@ tools/setup.sh build tour test
 
 cmake --preset asan </dev/null
 cmake --build --preset asan </dev/null
-# The tests of a source file are one test of ctest; the single tests leave their results here.
+# A test of ctest runs the tests of whole source files; the single tests leave their results here.
 rm -rf build/asan/results
 result=0
 # A report tells the last eight calls of an allocation; to keep thirty of each takes a twentieth of

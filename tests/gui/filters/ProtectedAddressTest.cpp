@@ -27,6 +27,15 @@ class ProtectedAddress : public testing::Test {
     ClickTab(*page.TabPocket, count - 1);
     ASSERT_EQ(rig.k70().curFilter.code(count), code);
   }
+  // On the sixth tab, the first row mounted. The list has a row more than there are cubes.
+  void OpenSixth(std::size_t cubes) {
+    rig.instrument().database.cubes.resize(cubes);
+    rig.k70().dbFilter.Set_DbFilterOption(1, "", 0, 0, 0);
+    rig.k70().curFilter.code(6, 0);
+    page.LoadData();
+    ASSERT_EQ(page.List1->rowCount(), static_cast<int>(cubes) + 1);
+    ClickTab(*page.TabPocket, 5);
+  }
   void Expect(Answer answer) { rig.prompts.ExpectBox(kQuestion, box::kYesNo, answer, "Warning"); }
   int codeAt(int address) { return rig.k70().curFilter.code(address); }
 
@@ -166,23 +175,13 @@ TEST_F(ProtectedAddress, TheSixthTabMovesAlsoFromTheRowThatTheTabBeforeHasLeft) 
 }
 
 TEST_F(ProtectedAddress, WithOneRowTheSixthTabStaysOnIt) {
-  rig.instrument().database.cubes.clear();
-  rig.k70().dbFilter.Set_DbFilterOption(1, "", 0, 0, 0);
-  rig.k70().curFilter.code(6, 0);
-  page.LoadData();
-  ASSERT_EQ(page.List1->rowCount(), 1);
-  ClickTab(*page.TabPocket, 5);
+  OpenSixth(0);
   EXPECT_EQ(page.List1->index(), 0);
   EXPECT_EQ(codeAt(6), 0);
 }
 
 TEST_F(ProtectedAddress, OfTwoRowsTheSixthTabMovesToTheSecond) {
-  rig.instrument().database.cubes.resize(1);
-  rig.k70().dbFilter.Set_DbFilterOption(1, "", 0, 0, 0);
-  rig.k70().curFilter.code(6, 0);
-  page.LoadData();
-  ASSERT_EQ(page.List1->rowCount(), 2);
-  ClickTab(*page.TabPocket, 5);
+  OpenSixth(1);
   EXPECT_EQ(page.List1->index(), 1);
   EXPECT_EQ(codeAt(6), 1);
 }
