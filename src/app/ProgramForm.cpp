@@ -55,6 +55,7 @@ ProgramForm::ProgramForm(const FormServices& services, const QString& title)
   setContextMenuPolicy(Qt::PreventContextMenu);  // which would offer to hide the tool bar
   BuildStatusBar();
   connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &ProgramForm::ShowManual);
+  pendingTimer_.setObjectName("PendingTimer");
   pendingTimer_.setSingleShot(true);
   connect(&pendingTimer_, &QTimer::timeout, this, &ProgramForm::LookForPending);
   unsentTimer_.setObjectName("UnsentTimer");

@@ -116,7 +116,7 @@ class ProgramForm : public QMainWindow {
   ProgressLine* progress_ = nullptr;
   PendingChanges pending_;
   PendingMarks marks_{*this};
-  QTimer pendingTimer_;  // for one comparison after all input of a round of the event loop
+  QTimer pendingTimer_{this};  // for one comparison after all input of a round of the event loop
   UnsentEdits unsent_;
   KeptButton* kept_ = nullptr;
   std::function<void(const FileResult&)> keptOpened_;
