@@ -8,11 +8,10 @@
 #include "common/Failure.h"
 #include "common/Text.h"
 #include "controller/DeviceList.h"
+#include "controller/simulator/CassetteAddresses.h"
 
 namespace mortane::controller::bench_file {
 namespace {
-
-constexpr std::size_t kCassetteAddresses = 10;
 
 [[noreturn]] void RaiseValue(const DomNode& node, const DomAttribute& attribute,
                              const std::string& wanted) {

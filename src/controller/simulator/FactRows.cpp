@@ -10,6 +10,7 @@
 #include "common/DigitCode.h"
 #include "common/Numbers.h"
 #include "controller/simulator/AccessoryRows.h"
+#include "controller/simulator/CassetteAddresses.h"
 #include "controller/simulator/CodeRows.h"
 #include "controller/simulator/DriveRows.h"
 
@@ -202,12 +203,9 @@ bool SetSuits(Instrument& device, const Fact& fact) {
   CondenserData* record = EntryOf(device.database.condensers, fact);
   const auto address = NumberAt(fact, 1);
   std::int32_t suits = 0;
-  constexpr std::int32_t kAddresses = 10;
-  if (record == nullptr || !address || *address < 1 || *address > kAddresses ||
-      !SetField(suits, fact.value)) {
-    return false;
-  }
+  if (record == nullptr || !address || *address < 1 || !SetField(suits, fact.value)) return false;
   const auto place = static_cast<std::size_t>(*address);
+  if (place > kCassetteAddresses) return false;
   if (record->suits.size() < place) record->suits.resize(place, '0');
   record->suits[place - 1] = suits == 0 ? '0' : '1';
   return true;
@@ -225,8 +223,10 @@ void AddDatabase(Rows& rows) {
   objective("TypeCode", &ObjectiveData::type);
   objective("SeriesCode", &ObjectiveData::series);
   AddRecords(rows, "Condensers", &Data::condensers);
-  rows.push_back({"AccessoryDatabase.Condensers.Item.SuitsAddress", SetSuits,
-                  [](const Instrument& device) { return device.database.condensers.size() * 10; }});
+  rows.push_back(
+      {"AccessoryDatabase.Condensers.Item.SuitsAddress", SetSuits, [](const Instrument& device) {
+         return device.database.condensers.size() * kCassetteAddresses;
+       }});
   AddRecords(rows, "Exciters", &Data::exciters);
   AddRecords(rows, "Dichroics", &Data::dichroics);
   AddRecords(rows, "Barriers", &Data::barriers);

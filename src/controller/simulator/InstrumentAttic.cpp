@@ -1,5 +1,6 @@
 #include <array>
 
+#include "controller/simulator/CassetteAddresses.h"
 #include "controller/simulator/DatabaseContent.h"
 #include "controller/simulator/Instruments.h"
 
@@ -8,7 +9,6 @@ namespace {
 
 constexpr std::int32_t kSeriesCount = 12;
 constexpr std::int32_t kTypeCount = 9;
-constexpr std::size_t kCassetteAddresses = 10;
 
 // Every fourth entry is a number.
 std::vector<ListedName> Names(std::string_view opening, std::int32_t count) {

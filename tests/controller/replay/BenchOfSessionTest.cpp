@@ -143,6 +143,19 @@ TEST_F(FewLines, ADatabaseHasAsManyEntriesAsItsCountsTell) {
   }
 }
 
+TEST_F(FewLines, ACondenserFitsSomeOfTenAddresses) {
+  const std::string condensers = "#6 get AccessoryDatabase.Condensers.";
+  const SessionBench made = MadeConnected(
+      {condensers + "Count -> 2", condensers + "Item(1).SuitsAddress(10) -> 1",
+       condensers + "Item(2).SuitsAddress(0) -> 1", condensers + "Item(2).SuitsAddress(11) -> 1"});
+  const std::vector<CondenserData>& records = made.bench.instruments[1].database.condensers;
+  ASSERT_EQ(records.size(), 2U);
+  EXPECT_EQ(records[0].suits, "0000000001");
+  EXPECT_EQ(records[1].suits, "");
+  EXPECT_TRUE(
+      Has(made, "device 1 \"Room 12\": AccessoryDatabase.Condensers.Item.SuitsAddress: 19 of 20"));
+}
+
 TEST_F(FewLines, ACountThatIsNoNumberIsNotTold) {
   const SessionBench made = MadeConnected({"#5 get NosepieceDevice.AccessoryState.State -> 1",
                                            "#5 get NosepieceDevice.Positions.Count -> \"three\""});
