@@ -38,8 +38,11 @@ class Session(unittest.TestCase):
         for name in ("MORTANE_BENCH", "MORTANE_JOURNAL", "MORTANE_REPLAY", "NO_COLOR"):
             self.environment.pop(name, None)
 
-    def start(self, *words, **options):
-        return subprocess.Popen([PROGRAM, *words], cwd=self.folder, env=self.environment, **options)
+    def start(self, *words, journal=None, **options):
+        environment = self.environment
+        if journal is not None:
+            environment = {**environment, "MORTANE_JOURNAL": str(self.folder / journal)}
+        return subprocess.Popen([PROGRAM, *words], cwd=self.folder, env=environment, **options)
 
     def run_program(self, *words, code=0, given=None, wait=True):
         if wait and "--bench" in words:  # the machine's devices may be in use by others
@@ -189,8 +192,9 @@ class Session(unittest.TestCase):
             self.assertIn('"Harbour" is used by another program', self.err)
             self.assertIn("used by another program",
                           self.run_program("devices", "--bench", "Harbour.xml"))
-            waiting = self.start("receive", "--bench", "Harbour.xml", "-o", "a.xml", "--wait", "20")
-            time.sleep(0.3)
+            waiting = self.start("receive", "--bench", "Harbour.xml", "-o", "a.xml", "--wait", "20",
+                                 journal="waiting.txt")
+            self.await_call("waiting.txt", 'Name -> "Harbour"')
             self.assertIsNone(waiting.poll())
             watch.send_signal(signal.SIGINT)
             self.assertEqual(watch.wait(PATIENCE), 0, watch.stderr.read())
@@ -207,12 +211,21 @@ class Session(unittest.TestCase):
             time.sleep(0.05)
         self.fail("the microscope was never in use")
 
+    def await_call(self, journal, call, times=1):
+        path = self.folder / journal
+        deadline = time.monotonic() + PATIENCE
+        while time.monotonic() < deadline:
+            if path.exists() and path.read_text(errors="replace").count(call) >= times:
+                return
+            time.sleep(0.02)
+        self.fail(f"{call} was never called")
+
     def test_watch_tells_each_change_in_a_line(self):
         watch = self.start("watch", "--bench", "Harbour.xml", "--every", "1", "--wait", "20",
-                           stdout=subprocess.PIPE, text=True)
+                           journal="watch.txt", stdout=subprocess.PIPE, text=True)
         try:
-            self.await_use()
-            time.sleep(0.5)
+            # The last call of connecting, and of the first reading.
+            self.await_call("watch.txt", "CondenserDevice.Positions.Count", 2)
             bench = self.folder / "Harbour.xml"
             text = bench.read_text().replace('<Instrument Name="Harbour"',
                                              '<Instrument Name="Bay 7"')
