@@ -12,7 +12,10 @@
 #include "common/Failure.h"
 #include "condensers/CondenserSettingsCtl.h"
 #include "drawings/MoveCross.h"
+#include "filters/FilterQubeCtl.h"
 #include "filters/FilterQubeSettingsCtl.h"
+#include "filters/clsDbFilter.h"
+#include "filters/clsFilter.h"
 #include "gui/support/LatePages.h"
 #include "gui/support/ShownControls.h"
 #include "interlocks/InterlockSettingsCtl.h"
@@ -204,6 +207,23 @@ TEST(LateLoading, MakesNoSubPageThatItNeedNotMake) {
     for (const LatePage* late : page->findChildren<LatePage*>()) made += late->made() != nullptr;
     EXPECT_EQ(made, expected[i].made) << expected[i].page;
   }
+}
+
+// A vacant code has no row, so that the last fixed code counts one row too many.
+TEST(LateLoading, LeavesACubeWithoutARowAndDoesNotMakeItsSubPage) {
+  Bench bench = benches::Named("Harbour");
+  for (auto& cube : bench.instruments.back().database.cubes) {
+    if (cube.code == 2 || cube.option) cube.name = "----------";
+  }
+  Rig rig(bench);
+  rig.ConnectAndReceive();
+  const std::int32_t last = rig.k70.dbFilter.FixedCount();
+  rig.k70.curFilter.code(1, last);
+  const std::unique_ptr<FilterQubeSettingsCtl> page(MakeFilterQubeSettings(rig.k70, nullptr));
+  page->LoadData();
+  EXPECT_EQ(page->FilterQubeCtl1.made(), nullptr);
+  EXPECT_EQ(page->FilterQubeCtl1->List1->index(), -1);
+  EXPECT_EQ(rig.k70.curFilter.code(1), last);
 }
 
 }  // namespace

@@ -103,6 +103,15 @@ TEST(MainForm, LoadingShowsTheVersionAndTheSystemPage) {
   EXPECT_TRUE(rig.journal.Lines().empty());
 }
 
+TEST(MainForm, LoadingShowsTheCommandKeysUp) {
+  AppRig rig(benches::Named("Harbour"));
+  for (CommandKey* key : rig.form->ImageCommand) key->setDown(true);
+  rig.form->Load();
+  for (CommandKey* key : rig.form->ImageCommand) {
+    EXPECT_FALSE(key->isDown()) << key->text().toStdString();
+  }
+}
+
 TEST(MainForm, TellsTheVersionInTheSmallLetterOfCaptions) {
   AppRig rig(benches::Named("Harbour"));
   rig.form->Load();
