@@ -203,22 +203,22 @@ class Session(unittest.TestCase):
             watch.kill()
             watch.communicate()
 
-    def await_use(self):
+    def await_that(self, holds, otherwise):
         deadline = time.monotonic() + PATIENCE
-        while time.monotonic() < deadline:
-            if "used by" in self.run_program("devices", "--bench", "Harbour.xml"):
-                return
+        while not holds():
+            self.assertLess(time.monotonic(), deadline, otherwise)
             time.sleep(0.05)
-        self.fail("the microscope was never in use")
+
+    def await_use(self):
+        self.await_that(
+            lambda: "used by" in self.run_program("devices", "--bench", "Harbour.xml"),
+            "the microscope was never in use")
 
     def await_call(self, journal, call, times=1):
         path = self.folder / journal
-        deadline = time.monotonic() + PATIENCE
-        while time.monotonic() < deadline:
-            if path.exists() and path.read_text(errors="replace").count(call) >= times:
-                return
-            time.sleep(0.02)
-        self.fail(f"{call} was never called")
+        self.await_that(
+            lambda: path.exists() and path.read_text(errors="replace").count(call) >= times,
+            f"{call} was never called")
 
     def test_watch_tells_each_change_in_a_line(self):
         watch = self.start("watch", "--bench", "Harbour.xml", "--every", "1", "--wait", "20",
